@@ -1,0 +1,118 @@
+#include "foundation/filePrinter.h"
+
+#include "foundation/fileUtils.h"
+#include "foundation/outputStream.h"
+
+#include <cerrno>
+#include <cstring>
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+#include <unordered_map>
+
+namespace
+{
+unsigned long theWriteCount = 0;
+
+// Names written by this process and the count at which each was written last.
+std::unordered_map<std::string, unsigned long>& writeCounts()
+{
+    static std::unordered_map<std::string, unsigned long> theWriteCounts;
+    return theWriteCounts;
+}
+
+int openForWriting(const DtString& name, int flags)
+{
+    const int descriptor = ::open(name.c_str(), O_RDWR | O_CREAT | O_CLOEXEC | flags, 0666);
+    if (descriptor >= 0 || errno != ENOENT)
+        return descriptor;
+    DtFilename directory(name);
+    directory.stripFilename();
+    if (!DtMakeDirectory(directory))
+        return -1;
+    return ::open(name.c_str(), O_RDWR | O_CREAT | O_CLOEXEC | flags, 0666);
+}
+
+bool holdsText(int descriptor, const std::string& text)
+{
+    struct stat status = {};
+    if (fstat(descriptor, &status) != 0 || static_cast<std::size_t>(status.st_size) != text.size())
+        return false;
+    std::string present(text.size(), '\0');
+    return pread(descriptor, present.data(), present.size(), 0) == static_cast<ssize_t>(present.size()) &&
+           present == text;
+}
+
+bool writeWhole(int descriptor, const char* text, std::size_t length)
+{
+    while (length > 0)
+    {
+        const ssize_t count = ::write(descriptor, text, length);
+        if (count < 0 && errno != EINTR)
+            return false;
+        text += count > 0 ? count : 0;
+        length -= count > 0 ? static_cast<std::size_t>(count) : 0;
+    }
+    return true;
+}
+} // namespace
+
+DtFilePrinter::DtFilePrinter(const char* name, Mode mode) : myName(name), myMode(mode), mySerial(theWriteCount)
+{
+    myDescriptor = openForWriting(myName, mode == Mode::WriteThrough ? O_TRUNC | O_APPEND : 0);
+    myIsUsable = myDescriptor >= 0;
+    if (!myIsUsable)
+        reportFailure("open");
+    if (myMode == Mode::WriteThrough || !myIsUsable)
+        return;
+    struct stat status = {};
+    myIsFresh = fstat(myDescriptor, &status) == 0 && status.st_size == 0;
+    ::close(myDescriptor); // a generator holds many printers at once
+    myDescriptor = -1;
+}
+
+DtFilePrinter::~DtFilePrinter()
+{
+    if (myMode == Mode::Collect && myIsUsable)
+        writeIfChanged();
+    if (myDescriptor >= 0)
+        ::close(myDescriptor);
+}
+
+void DtFilePrinter::print(const char* text, std::size_t length)
+{
+    if (myMode == Mode::Collect)
+        myText.append(text, length);
+    else if (myIsUsable && !writeWhole(myDescriptor, text, length))
+    {
+        myIsUsable = false; // first: the report may come back through this very printer
+        reportFailure("write");
+    }
+}
+
+void DtFilePrinter::flush() {}
+
+void DtFilePrinter::writeIfChanged()
+{
+    const auto lastWrite = writeCounts().find(myName.stdString());
+    const bool wasWrittenSince = lastWrite != writeCounts().end() && lastWrite->second > mySerial;
+    if (myText.empty() && (wasWrittenSince || myIsFresh))
+        return;
+    const int descriptor = openForWriting(myName, 0);
+    bool isGood = descriptor >= 0;
+    if (isGood && (myIsFresh && !wasWrittenSince ? myText.empty() : holdsText(descriptor, myText)))
+        isGood = true; // nothing to do: the time stamp stays
+    else if (isGood)
+        isGood = (myIsFresh && !wasWrittenSince ? true : ftruncate(descriptor, 0) == 0) &&
+                 writeWhole(descriptor, myText.data(), myText.size());
+    if (descriptor >= 0 && ::close(descriptor) != 0)
+        isGood = false;
+    writeCounts()[myName.stdString()] = ++theWriteCount;
+    if (!isGood)
+        reportFailure("write");
+}
+
+void DtFilePrinter::reportFailure(const char* what)
+{
+    DtWarn << "Cannot " << what << " file " << myName << ": " << std::strerror(errno) << std::endl;
+}

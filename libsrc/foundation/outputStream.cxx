@@ -1,0 +1,108 @@
+#include "foundation/outputStream.h"
+
+#include <algorithm>
+#include <cstdarg>
+#include <cstdio>
+#include <string>
+
+int DtNotifyLevel = 2;
+
+void DtOutputStreamBuffer::attachPrinter(DtPrinter* printer)
+{
+    if (printer != nullptr)
+        myPrinters.push_back(printer);
+}
+
+void DtOutputStreamBuffer::detachPrinter(DtPrinter* printer)
+{
+    myPrinters.erase(std::remove(myPrinters.begin(), myPrinters.end(), printer), myPrinters.end());
+}
+
+void DtOutputStreamBuffer::setLevel(const int* level, int threshold)
+{
+    myLevel = level;
+    myThreshold = threshold;
+}
+
+void DtOutputStreamBuffer::print(const char* text, std::size_t length)
+{
+    if (length == 0 || !isOpen())
+        return;
+    for (DtPrinter* printer : myPrinters)
+        printer->print(text, length);
+}
+
+DtOutputStreamBuffer::int_type DtOutputStreamBuffer::overflow(int_type character)
+{
+    if (!traits_type::eq_int_type(character, traits_type::eof()))
+    {
+        const char byte = traits_type::to_char_type(character);
+        print(&byte, 1);
+    }
+    return traits_type::not_eof(character);
+}
+
+std::streamsize DtOutputStreamBuffer::xsputn(const char* text, std::streamsize length)
+{
+    print(text, static_cast<std::size_t>(length));
+    return length;
+}
+
+int DtOutputStreamBuffer::sync()
+{
+    for (DtPrinter* printer : myPrinters)
+        printer->flush();
+    return 0;
+}
+
+DtOutputStream::DtOutputStream(DtOutputStreamBuffer* buffer, int& level, int threshold, DtPrinter* printer)
+    : std::ostream(buffer), myBuffer(buffer)
+{
+    myBuffer->setLevel(&level, threshold);
+    myBuffer->attachPrinter(printer);
+}
+
+DtOutputStream& DtOutputStream::operator()(const char* format, ...)
+{
+    va_list arguments;
+    va_start(arguments, format);
+    va_list again;
+    va_copy(again, arguments);
+    const int length = std::vsnprintf(nullptr, 0, format, arguments);
+    va_end(arguments);
+    if (length > 0)
+    {
+        std::string text(static_cast<std::size_t>(length), '\0');
+        std::vsnprintf(text.data(), text.size() + 1, format, again);
+        *this << text;
+    }
+    va_end(again);
+    return *this;
+}
+
+namespace
+{
+class DtConsolePrinter : public DtPrinter
+{
+public:
+    explicit DtConsolePrinter(FILE* file) : myFile(file) {}
+    void print(const char* text, std::size_t length) override { std::fwrite(text, 1, length, myFile); }
+    void flush() override { std::fflush(myFile); }
+
+private:
+    FILE* myFile;
+};
+
+// A stream with its buffer and console printer. Made at first use and never destroyed, so that destructors of other
+// static objects can still report.
+DtOutputStream& makeGlobalStream(int threshold, FILE* file)
+{
+    return *new DtOutputStream(new DtOutputStreamBuffer, DtNotifyLevel, threshold, new DtConsolePrinter(file));
+}
+} // namespace
+
+DtOutputStream& DtFatal = makeGlobalStream(0, stderr);
+DtOutputStream& DtWarn = makeGlobalStream(1, stderr);
+DtOutputStream& DtInfo = makeGlobalStream(3, stdout);
+DtOutputStream& DtVerbose = makeGlobalStream(4, stderr);
+DtOutputStream& DtDebug = makeGlobalStream(5, stderr);

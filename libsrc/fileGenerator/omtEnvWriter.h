@@ -1,12 +1,99 @@
 #ifndef FILE_GENERATOR_OMT_ENV_WRITER_H
 #define FILE_GENERATOR_OMT_ENV_WRITER_H
 
+#include "fileGenerator/omtInteraction.h"
+#include "fileGenerator/omtObject.h"
+#include "foundation/fomType.h"
 #include "foundation/string.h"
+#include "omtReader/datatypeFedNode.h"
 
-// Driver of the generation of C++.
+#include <set>
+#include <vector>
+
+class DtCCompatibleNames;
+class DtComplexComponentNode;
+class DtComplexDatatypeNode;
+class DtEnumeratedDatatypeNode;
+class DtEnumerationFileWriter;
+class DtOmtProject;
+class DtOMTTree;
+struct DtArrayShape;
+
+// Driver of the generation of C++: what is generated for a selection of classes, and in which order.
+//
+// One object serves one run. Neither the tree nor the project is owned; the project may be null. The caller sets tree,
+// version, project, flags and the class-wide settings first, then the selection (with HLA 1.3 that adds array datatypes
+// to the tree, so the version has to be known by then), and calls writeFile. The progress meter has to be initialised.
+//
+// The order of the outputs is fixed: the datatypes register their class names with the mapper before the classes read
+// them, and the build products come last, since they list every file written before.
 class DtOMTEnvWriter
 {
 public:
+    DtOMTEnvWriter() = default;
+    DtOMTEnvWriter(const DtOMTEnvWriter&) = delete;
+    DtOMTEnvWriter& operator=(const DtOMTEnvWriter&) = delete;
+    virtual ~DtOMTEnvWriter();
+
+    // Generates everything for the model called fomName. 1 on completion, 0 when the user cancelled; files already
+    // written stay then, and the build products are missing.
+    virtual int writeFile(const DtString& fomName);
+    virtual void writeDataTypesFiles();
+    virtual void writeProjectFiles();
+    // Completes the set of used datatypes: what the selected classes need, directly or through other datatypes.
+    virtual void checkUsedSubDatatypesFiles();
+
+    // One pair of files for each used datatype of a kind that has no target type yet.
+    virtual void writeArrayFiles();
+    virtual void writeFixedRecordFiles();
+    virtual void writeSimpleFiles();
+    virtual void writeBasicFiles();
+    virtual void writeVariantRecordFiles();
+    // Makes up the array datatypes of the components too, so it comes before the arrays.
+    virtual void writeComplexFiles();
+
+    // All files of one class, given by its full name. Nothing for a name in `done` or without a node in the tree.
+    virtual void addObjectToFile(DtString name, std::set<DtString>& done);
+    virtual void addInteractionToFile(DtString name, std::set<DtString>& done);
+
+    virtual void setOmtTree(DtOMTTree* tree);
+    virtual void setObjectsToGenerate(const std::set<DtOmtObject>& objects);
+    virtual void setInteractionsToGenerate(const std::set<DtOmtInteraction>& interactions);
+    virtual void setGenerateExamples(bool generate);
+    virtual void setGenerateErrors(bool generate); // passed on to DtFileWriter
+    virtual void setGenerateDis(bool generate);
+    virtual void setFirstPduKind(int kind);
+    virtual void setOmtProject(DtOmtProject* project);
+    virtual void setHlaVersion(DtHLAProtocolVersion version);
+
+    // The user's name for an item, or its plain name when there is none.
+    virtual DtString replaceObjectName(const DtString& plainName, const DtString& fullName) const;
+    virtual DtString replaceInteractionName(const DtString& plainName, const DtString& fullName) const;
+    virtual DtString replaceAttributeName(const DtString& plainName, const DtString& owner) const;
+    virtual DtString replaceParameterName(const DtString& plainName, const DtString& owner) const;
+
+    virtual void addToFileList(const DtString& name);
+    // Tells the progress meter how much work lies ahead, by a formula and not by a count of files.
+    virtual void setTotalProgress();
+    virtual void generateEnumerationsFile();
+    // Derives the export macro of the generated library from the base name.
+    virtual void compileExportMacroName();
+
+    // Make up the arrays that cardinalities of the selected classes imply, and map the members' names to them.
+    void checkObjectsForArrayTypes();
+    void checkInteractionsForArrayTypes();
+    void checkComplexForArrayType(DtComplexDatatypeNode* node);
+    void createArrayTypeFromComponent(DtComplexComponentNode* component);
+    // The name of the array, or empty when the cardinality type makes none.
+    DtString createArrayTypeFromItemInfo(DtString itemName, DtString cardinality,
+                                         DtDatatypeFedNode::DtCardinalityType type, DtString datatype);
+
+    // The name of the array that is made for the component; empty when none is.
+    static DtString componentArrayName(const DtComplexComponentNode& component);
+
+    const std::set<DtString>& fileList() const { return myFileList; }
+    const std::set<DtString>& usedDatatypes() const { return myUsedDatatypes; }
+
     // Class-wide settings of a run, read by every writer.
     static void setMaximumLineLength(int length); // 300 at start; bytes, the terminating NUL included
     static int maximumLineLength();
@@ -27,6 +114,60 @@ public:
     static DtString includePath();
 
 private:
+    // What this version cannot generate yet is reported and left out.
+    void leaveOutUnavailable();
+    void startRun(const DtString& fomName);
+    void makeDirectories() const;
+    void writeExportHeader();
+    // False when the user cancelled.
+    bool writeSelectedClasses();
+    // The project's base name, or the model's name when there is none.
+    DtString modelBase() const;
+
+    // The selection record of a class, from the project or else from the selection; null when neither has it.
+    const DtOmtObject* selectedObject(const DtString& fullName) const;
+    const DtOmtInteraction* selectedInteraction(const DtString& fullName) const;
+    DtString uniqueName(const DtFedNode& node) const;
+    DtString objectParentName(const DtFedNode& parent) const;
+    DtString interactionParentName(const DtFedNode& parent) const;
+
+    // Enumerations, in omtEnvWriter.cxx.
+    bool isGenerated(const DtEnumeratedDatatypeNode& node) const;
+    void addEnumeration(DtEnumeratedDatatypeNode& node, DtEnumerationFileWriter& writer);
+
+    // The six families of datatype files, in omtEnvWriterDatatypes.cxx.
+    template <typename Family>
+    bool isWanted(const DtString& name) const;
+    template <typename Family>
+    void writeFamily();
+    template <typename Family>
+    void writePair(typename Family::Node* node);
+    template <typename Family>
+    void recordClassNames();
+    void recordAllClassNames();
+
+    // Closure and made-up arrays, in omtEnvWriterArrays.cxx.
+    void insertMemberDatatypes();
+    std::vector<DtString> subDatatypes(const DtString& name) const;
+    void mapToArray(const DtDatatypeFedNode& member);
+    DtString addArray(const DtArrayShape& shape, const DtString& cardinality, const DtString& datatype);
+    static bool hasArray(const DtComplexComponentNode& component);
+
+    // Identifiers of this module: all its files number long names together.
+    static DtCCompatibleNames& names();
+
+    DtOMTTree* myTree = nullptr;
+    std::set<DtString> myFileList;      // names as the writers got them
+    std::set<DtString> myUsedDatatypes; // model names
+    std::set<DtOmtObject> myObjectsToGenerate;
+    std::set<DtOmtInteraction> myInteractionsToGenerate;
+    bool myGenerateExamples = false;
+    bool myGenerateDis = false;
+    int myFirstPduKind = 0;
+    int myNextPduKind = 0;
+    DtOmtProject* myProject = nullptr;
+    DtHLAProtocolVersion myHlaVersion = DtHlaUnknown;
+
     static int theMaximumLineLength;
     static bool myMIMincluded;
     static DtString theNamespaceName;

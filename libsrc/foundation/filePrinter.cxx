@@ -35,9 +35,6 @@ int openForWriting(const DtString& name, int flags)
 
 bool holdsText(int descriptor, const std::string& text)
 {
-    struct stat status = {};
-    if (fstat(descriptor, &status) != 0 || static_cast<std::size_t>(status.st_size) != text.size())
-        return false;
     std::string present(text.size(), '\0');
     return pread(descriptor, present.data(), present.size(), 0) == static_cast<ssize_t>(present.size()) &&
            present == text;
@@ -54,6 +51,17 @@ bool writeWhole(int descriptor, const char* text, std::size_t length)
         length -= count > 0 ? static_cast<std::size_t>(count) : 0;
     }
     return true;
+}
+
+// Leaves a file alone that holds the text already, so that its time stamp stays.
+bool updateFile(int descriptor, const std::string& text)
+{
+    struct stat status = {};
+    if (fstat(descriptor, &status) != 0)
+        return false;
+    if (static_cast<std::size_t>(status.st_size) == text.size() && holdsText(descriptor, text))
+        return true;
+    return (status.st_size == 0 || ftruncate(descriptor, 0) == 0) && writeWhole(descriptor, text.data(), text.size());
 }
 } // namespace
 
@@ -90,7 +98,9 @@ void DtFilePrinter::print(const char* text, std::size_t length)
     }
 }
 
-void DtFilePrinter::flush() {}
+void DtFilePrinter::flush()
+{
+}
 
 void DtFilePrinter::writeIfChanged()
 {
@@ -99,12 +109,7 @@ void DtFilePrinter::writeIfChanged()
     if (myText.empty() && (wasWrittenSince || myIsFresh))
         return;
     const int descriptor = openForWriting(myName, 0);
-    bool isGood = descriptor >= 0;
-    if (isGood && (myIsFresh && !wasWrittenSince ? myText.empty() : holdsText(descriptor, myText)))
-        isGood = true; // nothing to do: the time stamp stays
-    else if (isGood)
-        isGood = (myIsFresh && !wasWrittenSince ? true : ftruncate(descriptor, 0) == 0) &&
-                 writeWhole(descriptor, myText.data(), myText.size());
+    bool isGood = descriptor >= 0 && updateFile(descriptor, myText);
     if (descriptor >= 0 && ::close(descriptor) != 0)
         isGood = false;
     writeCounts()[myName.stdString()] = ++theWriteCount;

@@ -82,11 +82,30 @@ bool writeAll(int descriptor, const std::string& text)
     return true;
 }
 
-// Where the name leads to when it is a link, so that a rename replaces the target and not the link.
+// Where the name leads to when it is a link, so that a rename replaces the target and not the link. The target need
+// not exist. Links in a circle end the walk and fail later.
 std::string linkTarget(const DtString& name)
 {
-    char resolved[PATH_MAX];
-    return realpath(name.c_str(), resolved) != nullptr ? std::string(resolved) : name.stdString();
+    constexpr int theLinkLimit = 40;
+    std::string target = name.stdString();
+    char next[PATH_MAX];
+    for (int step = 0; step < theLinkLimit; ++step)
+    {
+        const ssize_t length = readlink(target.c_str(), next, sizeof next);
+        if (length < 0 || static_cast<std::size_t>(length) == sizeof next)
+            break;
+        const std::size_t nameStart = target.rfind('/') + 1; // 0 without a directory
+        target = (next[0] == '/' ? std::string() : target.substr(0, nameStart)) +
+                 std::string(next, static_cast<std::size_t>(length));
+    }
+    return target;
+}
+
+// A file can be put in the place of a regular file or of nothing; a device or a directory must not be replaced.
+bool isReplaceable(const std::string& name)
+{
+    struct stat status = {};
+    return lstat(name.c_str(), &status) == 0 ? S_ISREG(status.st_mode) : errno == ENOENT;
 }
 
 mode_t modeFor(const std::string& name)
@@ -126,6 +145,8 @@ bool DtMakeDirectory(const DtFilename& directory)
 bool DtReplaceFile(const DtString& name, const std::string& text)
 {
     const std::string target = linkTarget(name);
+    if (target.empty() || !isReplaceable(target))
+        return false;
     std::string sibling = target + ".XXXXXX";
     DtDescriptor file(mkstemp(sibling.data()));
     if (file.get() < 0)
@@ -147,7 +168,8 @@ bool DtPollBlockingInputChar()
 {
     pollfd input = {STDIN_FILENO, POLLIN, 0};
     char character = '\0';
-    return poll(&input, 1, 0) > 0 && ::read(STDIN_FILENO, &character, 1) >= 0;
+    // An ended or closed input counts as a key: nobody could press one.
+    return poll(&input, 1, 0) > 0 && (::read(STDIN_FILENO, &character, 1) >= 0 || errno != EAGAIN);
 }
 
 DtString DtOperatingSystem()

@@ -25,7 +25,7 @@ bool DtReplaceFile(const DtString& name, const std::string& text);
 
 // Blocks the calling thread.
 void DtSleep(double seconds);
-// True once a key has been pressed on the console.
+// True once a key has been pressed on the console, or when its input has ended.
 bool DtPollBlockingInputChar();
 
 DtString DtOperatingSystem(); // "Linux", say

@@ -78,7 +78,8 @@ DtString DtFilename::extension() const
 void DtFilename::setExtension(const DtString& extension)
 {
     stripExtension();
-    *this = DtString(*this) + "." + extension;
+    if (extension.length() > 0)
+        *this = DtString(*this) + "." + extension;
 }
 
 void DtFilename::append(const DtFilename& right)
@@ -122,16 +123,15 @@ void DtFilename::absolutePath(const DtString& path, DtString& result)
 
 DtFilename DtFilename::searchAlternatePath(const char* name)
 {
-    const char* directory = std::getenv("RTI_CONFIG");
-    return searchAlternatePath(name, directory != nullptr ? directory : "");
+    return searchAlternatePath(name, std::getenv("RTI_CONFIG"));
 }
 
 DtFilename DtFilename::searchAlternatePath(const char* name, const char* directory)
 {
     const DtFilename plain(name);
-    if (plain.exists() || *directory == '\0')
+    if (plain.length() == 0 || plain.exists())
         return plain;
-    const DtFilename joined(join(directory, plain));
+    const DtFilename joined(join(directory, plain)); // a null or empty directory leaves the name
     return joined.exists() ? joined : plain;
 }
 

@@ -22,8 +22,8 @@ public:
     void stripExtension(); // removes the last extension and its dot
     static DtFilename stripPath(const DtFilename& name);
 
-    DtString extension() const; // without the dot
-    void setExtension(const DtString& extension);
+    DtString extension() const;                   // without the dot
+    void setExtension(const DtString& extension); // an empty one leaves no dot
 
     // Join with one separator. An empty part adds none; an absolute right part stands alone.
     void append(const DtFilename& right);

@@ -64,6 +64,8 @@ DtOutputStream::DtOutputStream(DtOutputStreamBuffer* buffer, int& level, int thr
 
 DtOutputStream& DtOutputStream::operator()(const char* format, ...)
 {
+    if (!myBuffer->isOpen())
+        return *this;
     va_list arguments;
     va_start(arguments, format);
     va_list again;
@@ -93,8 +95,8 @@ private:
     FILE* myFile;
 };
 
-// A stream with its buffer and console printer. Made at first use and never destroyed, so that destructors of other
-// static objects can still report.
+// A stream with its buffer and console printer. Never destroyed, so that destructors of static objects can still
+// report.
 DtOutputStream& makeGlobalStream(int threshold, FILE* file)
 {
     return *new DtOutputStream(new DtOutputStreamBuffer, DtNotifyLevel, threshold, new DtConsolePrinter(file));

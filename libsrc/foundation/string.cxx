@@ -8,9 +8,13 @@
 #include <limits>
 #include <ostream>
 
-DtString::DtString(int number) : myText(std::to_string(number)) {}
+DtString::DtString(int number) : myText(std::to_string(number))
+{
+}
 
-DtString::DtString(unsigned int number) : myText(std::to_string(number)) {}
+DtString::DtString(unsigned int number) : myText(std::to_string(number))
+{
+}
 
 DtString& DtString::operator=(const char* text)
 {

@@ -1,0 +1,161 @@
+#ifndef CODE_GEN_APP_CODE_GEN_APP_GUI_H
+#define CODE_GEN_APP_CODE_GEN_APP_GUI_H
+
+#include "fileGenerator/omtEnvReader.h"
+#include "foundation/filename.h"
+#include "foundation/fomType.h"
+
+#include <QtWidgets/QMainWindow>
+
+#include <map>
+#include <memory>
+#include <utility>
+#include <vector>
+
+class DtCodeGenInitializer;
+class DtFedNode;
+class DtListViewManager;
+class DtOMTTree;
+class DtOmtProject;
+class DtPreferencesDialog;
+class QAction;
+class QApplication;
+class QTreeWidgetItem;
+class Ui_QtCodeGenApp;
+
+// The main window, and the one who does the work of a run: it loads and merges model files, keeps the project and the
+// selection, and starts generation. A batch run uses the same object and never shows it.
+//
+// Owns the reader, the parse tree, the project, the list manager and the dialogs; the application and the initializer
+// are not owned and must outlive it. Paths are relative to the working directory, a sibling of the data directory.
+// Its destructor writes the user's configuration file.
+//
+// What the user has to know goes to the status bar and stays there until it is replaced. While the window is not
+// visible each text goes to DtWarn as well, in one line.
+class DtCodeGenAppGui : public QMainWindow
+{
+    Q_OBJECT
+
+public:
+    // File name and directory of a model file.
+    using DtModelFile = std::pair<DtString, DtString>;
+    using DtItemMap = std::map<QTreeWidgetItem*, const DtFedNode*>;
+
+    DtCodeGenAppGui(DtCodeGenInitializer& initializer, QApplication* application, QWidget* parent);
+    ~DtCodeGenAppGui() override;
+
+    void setValidProject(bool valid) { myValidProject = valid; }
+    bool isValidProject() const { return myValidProject; }
+    // An unattended window opens no message box and no file dialog: the text goes to DtWarn and the operation goes on
+    // as after a cancel.
+    void setUnattended(bool unattended) { myIsUnattended = unattended; }
+
+    // Gives the two middle buttons their icons.
+    virtual void manageIcons();
+    // Reads one more model file beside those loaded; all files are read again and merged. 1 on success, else 0.
+    virtual int loadFile(const DtString& path, const DtString& directory);
+    // Reads these files as one model, in place of what was loaded. 1 on success, else 0.
+    virtual int loadFiles(const std::vector<DtModelFile>& files);
+    // Saves the project and runs every script that is switched on, in the order of their names.
+    virtual void generateAllFiles();
+    virtual void generateCppFiles();
+    virtual void generateFile(const DtString& script);
+    virtual void setOutputDirectory(const QString& directory); // has to end in a separator
+    virtual void setIncludeDirectory(const QString& directory);
+    virtual void setClassPrefix(const QString& prefix);
+    virtual void addAllObjectInteractions();
+    virtual DtOMTEnvReader* reader() const { return myReader.get(); }
+    virtual DtListViewManager* listViewManager() const { return myListViewManager.get(); }
+    virtual DtOmtProject* omtProject() const { return myProject.get(); } // null when there is none
+    virtual void saveOmtProject();
+    virtual void loadOmtProject(const DtFilename& path);
+    virtual void newOmtProject(DtFilename path);
+    virtual void loadStylesheet(bool dark);
+    virtual void putIntoUi(DtOmtProject* project);
+    // True when the file can be opened. The standard management model is found under its name without a file.
+    virtual bool findFile(const DtFilename& path);
+    // Replaces until nothing is left to replace, so the replacement must not hold the searched text.
+    virtual void replaceAll(QString& text, const QString& from, const QString& to);
+    virtual QString resolveVars(const QString& text);
+
+    DtOMTTree* tree() const { return myTree.get(); }
+    DtPreferencesDialog* preferences() const { return myPreferences.get(); }
+    bool isFileLoaded() const { return myFileLoaded; }
+    const std::vector<DtModelFile>& loadedFiles() const { return myLoadedFiles; }
+    const DtString& outputDirectory() const { return myOutputDir; }
+    const DtFilename& projectFile() const { return myProjectFile; }
+
+public Q_SLOTS:
+    virtual void slot_quitMe();
+    virtual void slot_openFile();
+    virtual void slot_openFiles();
+    virtual void slot_closeOpenFiles();
+    virtual void closeOpenFiles();
+    virtual void slot_generateFiles();
+    virtual bool setOutputDirectory(); // true when a directory was chosen
+    virtual void showPreferencesDialog();
+    virtual void selectAllObjectsInteractions();
+    virtual void addSelectedItems();
+    virtual void removeSelectedItems();
+    virtual void slot_saveOmtProject();
+    virtual void slot_loadOmtProject();
+    virtual void slot_newOmtProject();
+    virtual void setToggleDarkMode(bool dark);
+
+private:
+    void createActions();
+    void createMenus();
+    void createToolBar();
+    void connectLists();
+    QAction* addNamedAction(const char* text, const char* icon, const char* shortcut, const char* toolTip);
+    void showStatus(const DtString& text);
+    void saveConfiguration();
+
+    bool canMergeWithLoaded(const DtString& path, DtFomType type);
+    std::vector<DtFilename> filesToRead(const DtFilename& newFile, DtFomType type, bool addMim) const;
+    void takeTree(DtOMTTree* tree);
+    void fillLists();
+    void addMimIfMissing(std::vector<DtFilename>& files) const;
+
+    bool readProject(DtFilename& path);
+    void forgetProject();
+    bool locateModels(const DtFilename& projectFile, std::vector<DtModelFile>& models);
+    bool locateModel(const DtModelFile& model, const DtFilename& projectFile, DtFilename& found);
+    void enableProjectActions(bool enabled);
+    void dumpParseTree();
+    void setUpWriters();
+    void runCppWriter();
+
+    QApplication* myApplication;
+    DtCodeGenInitializer& myInitializer;
+    bool myIsUnattended = false;
+    std::unique_ptr<Ui_QtCodeGenApp> myForm;
+    const QString myAppDir = QStringLiteral("../data/config"); // stands for $(APP_DIR) in style sheets
+    DtString myOutputDir;
+    DtString myIncludeDir;
+    DtString myClassPrefix;
+    DtString myFileName;
+    bool myFileLoaded = false;
+    bool myValidProject = false;
+    DtFomType myFomType = DtFomUnknown;
+    std::vector<DtModelFile> myLoadedFiles;
+    DtString myBaseName;
+    DtFilename myProjectFile; // empty when no project is open
+    DtItemMap myObjectItems;
+    DtItemMap myInteractionItems;
+    std::unique_ptr<DtOMTEnvReader> myReader;
+    std::unique_ptr<DtOMTTree> myTree;
+    std::unique_ptr<DtOmtProject> myProject;
+    std::unique_ptr<DtListViewManager> myListViewManager;
+    std::unique_ptr<DtPreferencesDialog> myPreferences;
+    QAction* myNewProjectAction = nullptr;
+    QAction* myLoadProjectAction = nullptr;
+    QAction* mySaveProjectAction = nullptr;
+    QAction* myImportAction = nullptr;
+    QAction* mySelectAllAction = nullptr;
+    QAction* myCloseAction = nullptr;
+    QAction* myGenerateAction = nullptr;
+    QAction* myExitAction = nullptr;
+};
+
+#endif

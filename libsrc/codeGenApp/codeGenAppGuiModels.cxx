@@ -1,0 +1,175 @@
+// Loading and merging of model files.
+
+#include "codeGenApp/codeGenAppGui.h"
+#include "codeGenApp/listViewManager.h"
+#include "codeGenApp/preferencesDialog.h"
+#include "fileGenerator/dataTypeMapper.h"
+#include "fileGenerator/omtEnvWriter.h"
+#include "fileGenerator/omtProject.h"
+#include "foundation/stringUtils.h"
+#include "omtReader/fedReader.h"
+#include "omtReader/omtTree.h"
+
+namespace
+{
+const char theTitle[] = "Quorvex Code Generator - ";
+const char theLoadFailure[] = "Error Loading File, please try a different file.";
+
+DtFilename joined(const DtString& name, const DtString& directory)
+{
+    DtFilename path(name);
+    path.prepend(DtFilename(directory));
+    return path;
+}
+
+DtCodeGenAppGui::DtModelFile nameAndDirectory(const DtFilename& path)
+{
+    DtFilename directory(path);
+    directory.stripFilename();
+    return {DtFilename::stripPath(path), directory};
+}
+
+DtString mimName(DtFomType type)
+{
+    return DtFedReader::standardMimFileName(type);
+}
+} // namespace
+
+int DtCodeGenAppGui::loadFile(const DtString& path, const DtString& directory)
+{
+    DtOMTEnvWriter::setMIMincluded(myPreferences->includeStandardMIM());
+    const DtFilename file = joined(path, directory);
+    const DtFomType type = DtFedReader::checkFomType(file.c_str());
+    const bool addMim = myPreferences->includeStandardMIM() && type >= DtFomEvolved && myLoadedFiles.empty();
+    if (!canMergeWithLoaded(path, type))
+        return 0;
+    myReader = std::make_unique<DtOMTEnvReader>();
+    bool ok = false;
+    takeTree(myReader->readMultipleFiles(filesToRead(file, type, addMim), ok, myFomType));
+    if (!ok)
+    {
+        showStatus(theLoadFailure);
+        return 0;
+    }
+    fillLists();
+    myFileName = file;
+    setWindowTitle(QString::fromUtf8((theTitle + file).c_str()));
+    myLoadedFiles.push_back(nameAndDirectory(file));
+    return 1;
+}
+
+// The first file decides the format; every further one has to have it, and only modules merge.
+bool DtCodeGenAppGui::canMergeWithLoaded(const DtString& path, DtFomType type)
+{
+    if (myLoadedFiles.empty())
+    {
+        myFomType = type;
+        return true;
+    }
+    DtString text;
+    if (type != myFomType)
+        text = "Error Loading File, Protocol of " + path + " does not match those currently loaded";
+    else if (type <= DtFom1516)
+        text =
+            "Error Loading File, Cannot merge non HLA1516-2010 FOMs.  " + path + " cannot merge with currently loaded";
+    else
+        return true;
+    for (const DtModelFile& file : myLoadedFiles)
+        text += " " + file.first;
+    showStatus(text);
+    return false;
+}
+
+// The standard management model stands first when it is to be added. A loaded file of its name is left out.
+std::vector<DtFilename> DtCodeGenAppGui::filesToRead(const DtFilename& newFile, DtFomType type, bool addMim) const
+{
+    std::vector<DtFilename> files;
+    if (addMim)
+        files.emplace_back(mimName(type));
+    for (const DtModelFile& loaded : myLoadedFiles)
+    {
+        const DtFilename file = joined(loaded.first, loaded.second);
+        if (!DtContainsSubstring(file, mimName(type)))
+            files.push_back(file);
+    }
+    files.push_back(newFile);
+    return files;
+}
+
+int DtCodeGenAppGui::loadFiles(const std::vector<DtModelFile>& models)
+{
+    DtOMTEnvWriter::setMIMincluded(myPreferences->includeStandardMIM());
+    std::vector<DtFilename> files;
+    for (const DtModelFile& model : models)
+        files.push_back(DtFilename::searchAlternatePath(model.first.c_str(), model.second.c_str()));
+    addMimIfMissing(files);
+    myReader = std::make_unique<DtOMTEnvReader>();
+    bool ok = false;
+    takeTree(myReader->readFiles(files, ok));
+    if (!ok || myTree == nullptr) // the reader's answer is true whatever it read
+    {
+        showStatus(theLoadFailure);
+        return 0;
+    }
+    fillLists();
+    myFileName = files.front();
+    myLoadedFiles.clear();
+    DtString title(theTitle);
+    for (const DtFilename& file : files)
+    {
+        myLoadedFiles.push_back(nameAndDirectory(file));
+        title += "/" + DtFilename::stripPath(file); // ahead of the first name too
+    }
+    setWindowTitle(QString::fromUtf8(title.c_str()));
+    return 1;
+}
+
+// Several files at once have the standard management model behind them; a single one has it ahead.
+void DtCodeGenAppGui::addMimIfMissing(std::vector<DtFilename>& files) const
+{
+    if (!myPreferences->includeStandardMIM())
+        return;
+    DtFomType firstType = DtFomUnknown;
+    for (const DtFilename& file : files)
+    {
+        const DtFomType type = DtFedReader::checkFomType(file.c_str());
+        const bool isMimName = DtContainsSubstring(file, mimName(type)) && !file.exists();
+        if (isMimName || (type != DtFomUnknown && DtContainsSubstring(file, mimName(type))))
+            return;
+        if (firstType == DtFomUnknown)
+            firstType = type;
+    }
+    files.emplace_back(mimName(firstType == DtFomUnknown ? DtFomEvolved : firstType));
+}
+
+// The lists show the old tree's classes, so they and the maps go with it.
+void DtCodeGenAppGui::takeTree(DtOMTTree* tree)
+{
+    myObjectItems.clear();
+    myInteractionItems.clear();
+    myListViewManager->reset();
+    myTree.reset(tree);
+}
+
+void DtCodeGenAppGui::fillLists()
+{
+    DtDataTypeMapper::instance()->populateFromOmtTree(myTree.get());
+    myFileLoaded = true;
+    QTreeWidget* const list = myListViewManager->leftListView();
+    myReader->constructObjectListView(list, myListViewManager->leftObjectList());
+    myReader->constructInteractionListView(list, myListViewManager->leftInteractionList());
+    myObjectItems = myReader->objectWidgetToRootNodeMap();
+    myInteractionItems = myReader->interactionWidgetToRootNodeMap();
+}
+
+void DtCodeGenAppGui::closeOpenFiles()
+{
+    myFileLoaded = false;
+    myObjectItems.clear();
+    myInteractionItems.clear();
+    myListViewManager->reset();
+    myLoadedFiles.clear();
+    setWindowTitle(QStringLiteral("Quorvex Code Generator - No File Loaded"));
+    myProjectFile = DtString();
+    myBaseName = DtString();
+}

@@ -1,0 +1,212 @@
+// New, saved and loaded projects.
+
+#include "codeGenApp/codeGenAppGui.h"
+#include "codeGenApp/listViewManager.h"
+#include "codeGenApp/omtProjectXmlReader.h"
+#include "codeGenApp/omtProjectXmlWriter.h"
+#include "codeGenApp/preferencesDialog.h"
+#include "codeGenApp/projectBackup.h"
+#include "fileGenerator/dataTypeMapper.h"
+#include "fileGenerator/omtEnvWriter.h"
+#include "fileGenerator/omtProject.h"
+#include "foundation/fileUtils.h"
+#include "foundation/outputStream.h"
+#include "omtReader/fedReader.h"
+#include "omtReader/omtTree.h"
+
+#include <QtWidgets/QAction>
+#include <QtWidgets/QFileDialog>
+#include <QtWidgets/QMessageBox>
+
+namespace
+{
+const char theProjectExtension[] = "qxproj";
+const char theProjectFilter[] = "Project Files (*.qxproj)";
+
+DtString stem(const DtFilename& path)
+{
+    DtFilename name = DtFilename::stripPath(path);
+    name.stripExtension();
+    return name;
+}
+
+bool canOpen(const DtFilename& path)
+{
+    FILE* const file = path.isRegularFile() ? DtFileOpen(path.c_str(), "rt") : nullptr;
+    DtFileClose(file);
+    return file != nullptr;
+}
+} // namespace
+
+void DtCodeGenAppGui::slot_newOmtProject()
+{
+    slot_saveOmtProject();
+    const QString choice = QFileDialog::getSaveFileName(this, QStringLiteral("New Project File"), QStringLiteral("."),
+                                                        QString::fromLatin1(theProjectFilter));
+    if (choice.isEmpty())
+        return;
+    DtFilename path(choice.toLatin1().constData());
+    if (path.extension().isEmpty())
+        path.setExtension(theProjectExtension);
+    newOmtProject(path);
+}
+
+void DtCodeGenAppGui::newOmtProject(DtFilename path)
+{
+    if (!DtKeepProjectFile(path))
+        showStatus("Cannot keep a copy of project file " + path);
+    myProjectFile = path;
+    myProject = std::make_unique<DtOmtProject>();
+    myProject->initializePredefinedTypes();
+    myObjectItems.clear();
+    myInteractionItems.clear();
+    myListViewManager->reset();
+    myLoadedFiles.clear();
+    DtDataTypeMapper::instance()->setPredefinedTypes(myProject->predefinedTypes());
+    myBaseName = stem(path);
+    slot_saveOmtProject();
+    enableProjectActions(true);
+    myOutputDir = DtString();
+}
+
+void DtCodeGenAppGui::enableProjectActions(bool enabled)
+{
+    mySaveProjectAction->setEnabled(enabled);
+    myImportAction->setEnabled(enabled);
+}
+
+void DtCodeGenAppGui::slot_saveOmtProject()
+{
+    saveOmtProject();
+}
+
+void DtCodeGenAppGui::saveOmtProject()
+{
+    if (myProjectFile.isEmpty() || myProject == nullptr)
+    {
+        showStatus("No Project loaded... Cannot save OMT Project.");
+        return;
+    }
+    myProject->setFomDefFiles(myLoadedFiles);
+    myProject->setBaseName(myBaseName.isEmpty() ? stem(myProjectFile) : myBaseName);
+    myProject->setIncludeDir(myPreferences->includeName());
+    myProject->setClassPrefix(myPreferences->prefixName());
+    DtOmtProjectXmlWriter(*myProject, myProjectFile).writeXml();
+}
+
+void DtCodeGenAppGui::slot_loadOmtProject()
+{
+    loadOmtProject(DtFilename());
+}
+
+void DtCodeGenAppGui::loadOmtProject(const DtFilename& path)
+{
+    DtFilename file = path.isEmpty() ? myProjectFile : path;
+    if (file.isEmpty() && !myIsUnattended)
+        file = QFileDialog::getOpenFileName(this, QStringLiteral("Open Project File"), QStringLiteral("."),
+                                            QString::fromLatin1(theProjectFilter))
+                   .toLatin1()
+                   .constData();
+    if (file.isEmpty() || !readProject(file))
+        return;
+    std::vector<DtModelFile> models;
+    if (!locateModels(file, models))
+        return;
+    DtDataTypeMapper::instance()->setPredefinedTypes(myProject->predefinedTypes());
+    if (models.empty())
+        return;
+    if (models.size() > 1)
+        loadFiles(models);
+    else
+        loadFile(models.front().first, models.front().second);
+    setValidProject(true);
+    myPreferences->setIncludeDir(myProject->includeDir());
+    myPreferences->setPrefix(myProject->classPrefix());
+    DtOMTEnvWriter::setPrefixName(myPreferences->prefixName());
+    putIntoUi(myProject.get());
+    myBaseName = myProject->baseName();
+    myLoadedFiles = models;
+    myProjectFile = file;
+    enableProjectActions(true);
+    myOutputDir = DtString();
+}
+
+// Replaces the present project by what the file holds. A file that cannot be opened leaves no project at all. Until
+// the load is complete no project file is set, so a save in between cannot write over a project.
+bool DtCodeGenAppGui::readProject(DtFilename& path)
+{
+    forgetProject();
+    if (!path.exists() && path.extension() != theProjectExtension)
+        path.setExtension(theProjectExtension);
+    if (!canOpen(path))
+    {
+        enableProjectActions(false);
+        showStatus("Project file " + path + " could not be opened.");
+        return false;
+    }
+    myProject = std::make_unique<DtOmtProject>();
+    DtOmtProjectXmlReader(path).readXml(*myProject);
+    return true;
+}
+
+void DtCodeGenAppGui::forgetProject()
+{
+    myProject.reset();
+    setValidProject(false);
+    myProjectFile = DtString();
+    myLoadedFiles.clear();
+    myObjectItems.clear();
+    myInteractionItems.clear();
+    myListViewManager->reset();
+}
+
+// Finds every model file of the project. False when one is missing and the user gives no other for it.
+bool DtCodeGenAppGui::locateModels(const DtFilename& projectFile, std::vector<DtModelFile>& models)
+{
+    for (const DtModelFile& model : myProject->fomDefFiles())
+    {
+        DtFilename found;
+        if (!locateModel(model, projectFile, found))
+            return false;
+        DtFilename directory(found);
+        directory.stripFilename();
+        models.emplace_back(DtFilename::stripPath(found), directory);
+    }
+    return true;
+}
+
+bool DtCodeGenAppGui::locateModel(const DtModelFile& model, const DtFilename& projectFile, DtFilename& found)
+{
+    found = model.second;
+    found.append(model.first);
+    DtFilename projectDirectory(projectFile);
+    projectDirectory.stripFilename();
+    if (!found.exists())
+        found = DtFilename::searchAlternatePath(model.first.c_str(), model.second.c_str());
+    if (!found.exists())
+        found = DtFilename::searchAlternatePath(model.first.c_str(), projectDirectory.c_str());
+    if (findFile(found))
+        return true;
+    const DtString text = model.first + " could not be found";
+    if (myIsUnattended)
+    {
+        DtWarn << text << std::endl;
+        return false;
+    }
+    QMessageBox::warning(this, windowTitle(), QString::fromUtf8(text.c_str()));
+    found = QFileDialog::getOpenFileName(this, QStringLiteral("Open File"), QStringLiteral("."),
+                                         QStringLiteral("Object Model Files (*.omt *.xml *.fdd)"))
+                .toLatin1()
+                .constData();
+    return !found.isEmpty();
+}
+
+bool DtCodeGenAppGui::findFile(const DtFilename& path)
+{
+    return canOpen(path) || DtFilename::stripPath(path) == DtFedReader::standardMimFileName(DtFomEvolved);
+}
+
+void DtCodeGenAppGui::putIntoUi(DtOmtProject* project)
+{
+    myListViewManager->processAddition(true, project, myObjectItems, myInteractionItems, true);
+}

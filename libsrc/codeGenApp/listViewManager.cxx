@@ -1,0 +1,335 @@
+#include "codeGenApp/listViewManager.h"
+
+#include "fileGenerator/omtProject.h"
+#include "foundation/stringUtils.h"
+#include "omtReader/interactionClassFedNode.h"
+#include "omtReader/objectClassFedNode.h"
+
+#include <algorithm>
+
+namespace
+{
+const QString theObjectsText = QStringLiteral("Objects");
+const QString theInteractionsText = QStringLiteral("Interactions");
+
+bool isRootText(const QString& text)
+{
+    return text == theObjectsText || text == theInteractionsText;
+}
+
+DtString textOf(const QTreeWidgetItem* item)
+{
+    return DtString(item->text(0).toLatin1().constData());
+}
+
+QTreeWidgetItem* topLevelItem(const QTreeWidget* list, const QString& text)
+{
+    const QList<QTreeWidgetItem*> found = list->findItems(text, Qt::MatchExactly, 0);
+    return found.isEmpty() ? nullptr : found.first();
+}
+
+const DtFedNode* nodeOf(QTreeWidgetItem* item, const DtListViewManager::DtItemMap& items)
+{
+    const auto found = items.find(item);
+    return found == items.end() ? nullptr : found->second;
+}
+
+void setUpList(QTreeWidget* list, const char* header)
+{
+    list->setColumnCount(1);
+    list->setColumnWidth(0, 250);
+    list->setSelectionMode(QAbstractItemView::ExtendedSelection);
+    list->setHeaderLabel(QString::fromLatin1(header));
+}
+
+// How the root of one kind of class is called in the lists and in the two families of models.
+struct DtRootNames
+{
+    const char* label;
+    const char* root;
+    const char* hlaRoot;
+    DtOmtProject::itemType type;
+};
+
+const DtRootNames theRootNames[] = {
+    {"Objects",      "ObjectRoot",      "HLAobjectRoot",      static_cast<DtOmtProject::itemType>(0)},
+    {"Interactions", "InteractionRoot", "HLAinteractionRoot", static_cast<DtOmtProject::itemType>(1)},
+};
+} // namespace
+
+DtListViewManager::DtListViewManager(QTreeWidget* left, QTreeWidget* right)
+    : myLeftListView(left), myRightListView(right)
+{
+    setUpList(left, "Objects/Interactions in Data File");
+    setUpList(right, "Objects/Interactions to Generate");
+    DtListViewManager::reset();
+}
+
+DtListViewManager::~DtListViewManager() = default;
+
+QTreeWidgetItem* DtListViewManager::leftObjectList() const
+{
+    return topLevelItem(myLeftListView, theObjectsText);
+}
+
+QTreeWidgetItem* DtListViewManager::leftInteractionList() const
+{
+    return topLevelItem(myLeftListView, theInteractionsText);
+}
+
+void DtListViewManager::processAddition(bool selectedOnly, DtOmtProject* project, DtItemMap& objectItems,
+                                        DtItemMap& interactionItems, bool fromProject)
+{
+    if (project == nullptr)
+        return;
+    if (fromProject)
+        selectAll();
+    std::vector<QTreeWidgetItem*> found;
+    findObjectsAndInteractions(found, false, selectedOnly, project, objectItems, interactionItems, fromProject);
+    for (QTreeWidgetItem* item : found)
+        addPath(item, project, objectItems, interactionItems);
+}
+
+void DtListViewManager::addPath(QTreeWidgetItem* leaf, DtOmtProject* project, const DtItemMap& objectItems,
+                                const DtItemMap& interactionItems)
+{
+    std::vector<QTreeWidgetItem*> path; // the leaf first
+    QTreeWidgetItem* item = leaf;
+    for (; !isRootText(item->text(0)) && item->parent() != nullptr; item = item->parent())
+        path.push_back(item);
+    const bool isObject = item->text(0) == theObjectsText;
+    QTreeWidgetItem* right = rightTopLevelItem(item->text(0));
+    for (auto each = path.rbegin(); each != path.rend(); ++each)
+    {
+        QTreeWidgetItem* const present = rightChild(right, (*each)->text(0));
+        if (present == nullptr)
+        {
+            right = addRightChild(right, *each);
+            record(*each, isObject ? objectItems : interactionItems, isObject, project);
+        }
+        else
+            right = present;
+    }
+}
+
+QTreeWidgetItem* DtListViewManager::rightTopLevelItem(const QString& text)
+{
+    QTreeWidgetItem* const present = topLevelItem(myRightListView, text);
+    return present != nullptr ? present : new QTreeWidgetItem(myRightListView, QStringList(text));
+}
+
+QTreeWidgetItem* DtListViewManager::rightChild(QTreeWidgetItem* parent, const QString& text) const
+{
+    const auto children = myRightChildren.find(parent);
+    return children == myRightChildren.end() ? nullptr : children->value(text, nullptr);
+}
+
+QTreeWidgetItem* DtListViewManager::addRightChild(QTreeWidgetItem* parent, QTreeWidgetItem* leftItem)
+{
+    const QString text = leftItem->text(0);
+    auto* const item = new QTreeWidgetItem(parent, QStringList(text));
+    if (!parent->isExpanded())
+        parent->setExpanded(true);
+    myRightChildren[parent].insert(text, item);
+    myRightWidgetsByLeftWidgets[item] = leftItem;
+    return item;
+}
+
+void DtListViewManager::record(QTreeWidgetItem* leftItem, const DtItemMap& items, bool isObject,
+                               DtOmtProject* project) const
+{
+    const DtFedNode* const node = nodeOf(leftItem, items);
+    if (node == nullptr)
+        return;
+    auto* const changeable = const_cast<DtFedNode*>(node); // the project only reads it
+    if (isObject && !project->isObjectInProj(changeable->getFullName()))
+        project->addObject(static_cast<DtObjectClassFedNode*>(changeable));
+    else if (!isObject && !project->isInteractionInProj(changeable->getFullName()))
+        project->addInteraction(static_cast<DtInteractionClassFedNode*>(changeable));
+}
+
+void DtListViewManager::processRemoval(DtOmtProject* project)
+{
+    if (project == nullptr)
+        return;
+    std::vector<QTreeWidgetItem*> found; // children first, so none is gone with its parent when its turn comes
+    const DtItemMap noItems;
+    findObjectsAndInteractions(found, true, true, project, noItems, noItems, false);
+    for (QTreeWidgetItem* item : found)
+    {
+        removeFromProject(item, project);
+        forget(item);
+        delete item;
+    }
+}
+
+void DtListViewManager::removeFromProject(QTreeWidgetItem* item, DtOmtProject* project) const
+{
+    QTreeWidgetItem* step = item->parent() != nullptr ? item->parent() : item;
+    DtString path;
+    DtString rootText;
+    for (; step != nullptr; step = step->parent())
+    {
+        rootText = textOf(step);
+        path = rootText + "." + path;
+    }
+    for (const DtRootNames& names : theRootNames)
+    {
+        if (rootText != names.label)
+            continue;
+        const DtString own = textOf(item);
+        const DtString below(path.c_str() + rootText.length()); // begins with the dot behind the label
+        const bool isRoot = below + own == DtString(".") + names.label;
+        // Models call their root by the one or the other name; a pass with the wrong one finds nothing.
+        for (const char* root : {names.root, names.hlaRoot})
+            project->removeAllChildren(isRoot ? DtString(root) : DtString(root) + below + own, names.type);
+    }
+}
+
+void DtListViewManager::forget(QTreeWidgetItem* item)
+{
+    for (int index = 0; index < item->childCount(); ++index)
+        forget(item->child(index));
+    myRightChildren.remove(item);
+    myRightWidgetsByLeftWidgets.erase(item);
+    const auto siblings = myRightChildren.find(item->parent());
+    if (siblings != myRightChildren.end() && siblings->value(item->text(0), nullptr) == item)
+        siblings->remove(item->text(0));
+}
+
+const std::set<DtOmtObject>& DtListViewManager::objectsToGenerate(const DtItemMap& objectItems)
+{
+    objects.clear();
+    QTreeWidgetItem* const root = topLevelItem(myRightListView, theObjectsText);
+    for (int index = 0; root != nullptr && index < root->childCount(); ++index)
+        compileObjectSet(root->child(index), objectItems);
+    return objects;
+}
+
+const std::set<DtOmtInteraction>& DtListViewManager::interactionsToGenerate(const DtItemMap& interactionItems)
+{
+    interactions.clear();
+    QTreeWidgetItem* const root = topLevelItem(myRightListView, theInteractionsText);
+    for (int index = 0; root != nullptr && index < root->childCount(); ++index)
+        compileInteractionSet(root->child(index), interactionItems);
+    return interactions;
+}
+
+const DtFedNode* DtListViewManager::nodeOfRightItem(QTreeWidgetItem* item, const DtItemMap& items) const
+{
+    const auto left = myRightWidgetsByLeftWidgets.find(item);
+    return left == myRightWidgetsByLeftWidgets.end() ? nullptr : nodeOf(left->second, items);
+}
+
+void DtListViewManager::compileObjectSet(QTreeWidgetItem* item, const DtItemMap& objectItems)
+{
+    if (const auto* node = static_cast<const DtObjectClassFedNode*>(nodeOfRightItem(item, objectItems)))
+    {
+        DtOmtObject object;
+        object.setFullName(node->getFullName());
+        object.setName(node->getName());
+        for (const DtAttributeFedNode* attribute : node->getAttributes())
+        {
+            DtOmtAttribute own;
+            own.setFullName(attribute->getName());
+            own.setName(attribute->getName());
+            own.setOwningObject(object.fullName());
+            object.addAttribute(own);
+        }
+        objects.insert(object);
+    }
+    for (int index = 0; index < item->childCount(); ++index)
+        compileObjectSet(item->child(index), objectItems);
+}
+
+void DtListViewManager::compileInteractionSet(QTreeWidgetItem* item, const DtItemMap& interactionItems)
+{
+    if (const auto* node = static_cast<const DtInteractionClassFedNode*>(nodeOfRightItem(item, interactionItems)))
+    {
+        DtOmtInteraction interaction;
+        interaction.setFullName(node->getFullName());
+        interaction.setName(node->getName());
+        for (const DtParameterFedNode* parameter : node->getParameters())
+        {
+            DtOmtParameter own;
+            own.setFullName(parameter->getName());
+            own.setName(parameter->getName());
+            own.setOwningInteraction(interaction.fullName());
+            interaction.addParameter(own);
+        }
+        interactions.insert(interaction);
+    }
+    for (int index = 0; index < item->childCount(); ++index)
+        compileInteractionSet(item->child(index), interactionItems);
+}
+
+void DtListViewManager::selectAll()
+{
+    for (QTreeWidget* list : {myLeftListView, myRightListView})
+    {
+        if (!list->hasFocus())
+            continue;
+        list->selectAll();
+        return;
+    }
+}
+
+void DtListViewManager::reset()
+{
+    for (QTreeWidget* list : {myLeftListView, myRightListView})
+    {
+        list->clear();
+        list->setRootIsDecorated(true);
+    }
+    objects.clear();
+    interactions.clear();
+    myRightWidgetsByLeftWidgets.clear();
+    myRightChildren.clear();
+}
+
+void DtListViewManager::findObjectsAndInteractions(std::vector<QTreeWidgetItem*>& found, bool rightList,
+                                                   bool selectedOnly, DtOmtProject* project,
+                                                   const DtItemMap& objectItems, const DtItemMap& interactionItems,
+                                                   bool fromProject)
+{
+    const QTreeWidget* const list = rightList ? myRightListView : myLeftListView;
+    for (int index = 0; index < list->topLevelItemCount(); ++index)
+        findItems(list->topLevelItem(index), found, selectedOnly, project, objectItems, interactionItems, fromProject);
+}
+
+namespace
+{
+bool isInProject(QTreeWidgetItem* item, const DtOmtProject* project, const DtListViewManager::DtItemMap& objectItems,
+                 const DtListViewManager::DtItemMap& interactionItems)
+{
+    if (const DtFedNode* node = nodeOf(item, objectItems))
+        return project->isObjectInProj(node->getFullName());
+    if (const DtFedNode* node = nodeOf(item, interactionItems))
+        return project->isInteractionInProj(node->getFullName());
+    return false;
+}
+} // namespace
+
+void DtListViewManager::findItems(QTreeWidgetItem* root, std::vector<QTreeWidgetItem*>& found, bool selectedOnly,
+                                  DtOmtProject* project, const DtItemMap& objectItems,
+                                  const DtItemMap& interactionItems, bool fromProject)
+{
+    for (int index = 0; index < root->childCount(); ++index)
+        findItems(root->child(index), found, selectedOnly, project, objectItems, interactionItems, fromProject);
+    const bool isTaken =
+        fromProject ? isInProject(root, project, objectItems, interactionItems) : !selectedOnly || root->isSelected();
+    if (isTaken)
+        found.push_back(root);
+}
+
+bool DtListViewManager::objectExistsInTree(const DtString& fullName) const
+{
+    return std::any_of(objects.begin(), objects.end(),
+                       [&fullName](const DtOmtObject& object) { return object.fullName() == fullName; });
+}
+
+bool DtListViewManager::interactionExistsInTree(const DtString& fullName) const
+{
+    return std::any_of(interactions.begin(), interactions.end(),
+                       [&fullName](const DtOmtInteraction& interaction) { return interaction.fullName() == fullName; });
+}

@@ -1,0 +1,102 @@
+#include "fileGenerator/arrayDataTypeFileWriter.h"
+
+#include "fileGenerator/cCompatibleName.h"
+#include "fileGenerator/dataTypeMapper.h"
+#include "fileGenerator/memberTypes.h"
+#include "fileGenerator/netTypeTraits.h"
+#include "fileGenerator/omtEnvWriter.h"
+#include "foundation/stringUtils.h"
+#include "omtReader/arrayDatatypeNode.h"
+
+static DtCCompatibleNames theNames;
+
+struct DtArrayDataTypeFileWriter::DtTokens
+{
+    using Writer = DtArrayDataTypeFileWriter;
+    static const DtTokenTable<Writer>& encoding()
+    {
+        static const DtTokenRow<Writer> theRows[] = {
+            {"<!MyEncoding!>", [](const Writer& w) { return w.encodingName(); }},
+        };
+        static const DtTokenTable<Writer> theTable(theRows);
+        return theTable;
+    }
+    static const DtTokenTable<Writer>& own()
+    {
+        static const DtTokenRow<Writer> theRows[] = {
+            {"<!ClassPrefix!>", [](const Writer&) { return DtOMTEnvWriter::prefixName(); }},
+        };
+        static const DtTokenTable<Writer> theTable(theRows);
+        return theTable;
+    }
+    static const DtTokenTable<Writer>& ofTokenArray()
+    {
+        static const DtTokenRow<Writer> theRows[] = {
+            {"<!TokenCardinality!>", [](const Writer&) { return DtString("-1"); }},
+        };
+        static const DtTokenTable<Writer> theTable(theRows);
+        return theTable;
+    }
+};
+
+DtArrayDataTypeFileWriter::DtArrayDataTypeFileWriter(const DtString& fileName, const DtString& templateName,
+                                                     const DtString& encoding)
+    : DtCodedDataTypeFileWriter(fileName, templateName, theNames), myEncoding(encoding)
+{
+}
+
+void DtArrayDataTypeFileWriter::compileAttributes(DtArrayDatatypeNode* node, DtOMTTree* tree)
+{
+    if (isCompiled(*node))
+        return;
+    const DtString& name = node->getName();
+    const std::vector<DtAttribute> members = {
+        makeMember(identifier(name), node->getDatatype(), node->getCardinality())};
+    registerNetTypeTraits(name, DtDataTypeMapper::instance()->quorvexType(name), members, tree);
+    addCompiled(node, members);
+}
+
+void DtArrayDataTypeFileWriter::decodeOwnTokens(DtString& line)
+{
+    DtTokenValues<DtArrayDataTypeFileWriter> encoding(DtTokens::encoding(), this);
+    DtTokenValues<DtArrayDataTypeFileWriter> own(DtTokens::own(), this);
+    DtTokenValues<DtArrayDataTypeFileWriter> ofTokenArray(DtTokens::ofTokenArray(), this);
+    const bool hasEncoding = !encodingName().isEmpty();
+    if (!hasEncoding && DtContainsSubstring(line, "<!MyEncoding!>"))
+        DtWarn << "Warning: Cannot find cardinality of " << myClassName << std::endl;
+    const bool isTokenArray = DtContainsSubstring(myOriginalName, "HLAtoken");
+    DtExpandTokens(line, {hasEncoding ? &encoding : nullptr, &own, isTokenArray ? &ofTokenArray : nullptr});
+    DtCodedDataTypeFileWriter::decodeOwnTokens(line);
+}
+
+std::vector<const DtTokenIndex*> DtArrayDataTypeFileWriter::ownTokens() const
+{
+    std::vector<const DtTokenIndex*> tokens = DtCodedDataTypeFileWriter::ownTokens();
+    tokens.insert(tokens.end(),
+                  {&DtTokens::encoding().index(), &DtTokens::own().index(), &DtTokens::ofTokenArray().index()});
+    return tokens;
+}
+
+DtString DtArrayDataTypeFileWriter::encodingName() const
+{
+    if (!myEncoding.isEmpty())
+        return myEncoding;
+    const DtOMTNode* node = myCurrentDatatype;
+    if (node == nullptr && !myCompiledDatatypes.empty())
+        node = myCompiledDatatypes.front().first;
+    if (node == nullptr)
+        return DtString();
+    switch (static_cast<const DtArrayDatatypeNode*>(node)->getCardinalityType())
+    {
+    case 1:
+        return "HLAfixedArray";
+    case 4:
+        return "HLAnullTerminatedArray";
+    case 8:
+        return "HLAlengthlessVarArray";
+    case 10:
+        return "HLAvariableArray";
+    default:
+        return DtString();
+    }
+}

@@ -1,0 +1,71 @@
+#include "fileGenerator/basicDataTypeFileWriter.h"
+
+#include "fileGenerator/cCompatibleName.h"
+#include "fileGenerator/omtEnvWriter.h"
+#include "omtReader/basicDataRepresentationNode.h"
+
+static DtCCompatibleNames theNames;
+
+struct DtBasicDataTypeFileWriter::DtTokens
+{
+    using Writer = DtBasicDataTypeFileWriter;
+    static const DtTokenTable<Writer>& ofAttribute()
+    {
+        static const DtTokenRow<Writer> theRows[] = {
+            {"<!BasicSize!>", [](const Writer& w) { return w.sizeOfAttribute(); }},
+        };
+        static const DtTokenTable<Writer> theTable(theRows);
+        return theTable;
+    }
+    static const DtTokenTable<Writer>& own()
+    {
+        static const DtTokenRow<Writer> theRows[] = {
+            {"<!ClassPrefix!>", [](const Writer&) { return DtOMTEnvWriter::prefixName(); }                           },
+            {"<!size!>",        [](const Writer& w) { return DtString(w.basicInfo().first.toInt() / 8); }            },
+            {"<!EndianMatch!>", [](const Writer& w) -> DtString { return w.basicInfo().second == "Big" ? "0" : "1"; }},
+        };
+        static const DtTokenTable<Writer> theTable(theRows);
+        return theTable;
+    }
+};
+
+DtBasicDataTypeFileWriter::DtBasicDataTypeFileWriter(const DtString& fileName, const DtString& templateName)
+    : DtPrimitiveDataTypeFileWriter(fileName, templateName, theNames)
+{
+}
+
+void DtBasicDataTypeFileWriter::compileAttributes(DtBasicDataRepresentationNode* node)
+{
+    compilePrimitive(node, node->getName());
+}
+
+void DtBasicDataTypeFileWriter::decodeOwnTokens(DtString& line)
+{
+    DtTokenValues<DtBasicDataTypeFileWriter> ofAttribute(DtTokens::ofAttribute(), this);
+    DtTokenValues<DtBasicDataTypeFileWriter> own(DtTokens::own(), this);
+    DtExpandTokens(line, {currentAttribute() != nullptr ? &ofAttribute : nullptr, &own});
+    DtPrimitiveDataTypeFileWriter::decodeOwnTokens(line);
+}
+
+std::vector<const DtTokenIndex*> DtBasicDataTypeFileWriter::ownTokens() const
+{
+    std::vector<const DtTokenIndex*> tokens = DtPrimitiveDataTypeFileWriter::ownTokens();
+    tokens.insert(tokens.end(), {&DtTokens::ofAttribute().index(), &DtTokens::own().index()});
+    return tokens;
+}
+
+DtDataTypeMapper::DtBasicTypeInfo DtBasicDataTypeFileWriter::basicInfo() const
+{
+    const DtOMTNode* node = myCurrentDatatype;
+    if (node == nullptr && !myCompiledDatatypes.empty())
+        node = myCompiledDatatypes.front().first;
+    return node == nullptr ? DtDataTypeMapper::DtBasicTypeInfo()
+                           : DtDataTypeMapper::instance()->infoForBasicType(node->getName());
+}
+
+// The attribute bears the type's name, as an identifier where that differs.
+DtString DtBasicDataTypeFileWriter::sizeOfAttribute() const
+{
+    const DtString& size = DtDataTypeMapper::instance()->infoForBasicType(currentAttribute()->name()).first;
+    return size.isEmpty() ? basicInfo().first : size;
+}

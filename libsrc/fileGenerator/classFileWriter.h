@@ -1,0 +1,104 @@
+#ifndef FILE_GENERATOR_CLASS_FILE_WRITER_H
+#define FILE_GENERATOR_CLASS_FILE_WRITER_H
+
+#include "fileGenerator/attribute.h"
+#include "fileGenerator/fileWriter.h"
+#include "fileGenerator/omtProject.h"
+
+#include <cstdint>
+#include <list>
+#include <vector>
+
+// Expands the templates of everything that is generated once for each class or datatype of the model.
+//
+// Adds to DtFileWriter the names, the attributes and the project of one class, the tokens made from them and the loops
+// over attributes, includes and modules. Subclasses derive their names in setClassName, setParentClassName and
+// setFullClassName and replace tokens of their own before they hand a line to this pass; a plain object serves
+// templates that need neither. A writer is made for one file, filled through its setters and run once.
+class DtClassFileWriter : public DtFileWriter
+{
+public:
+    DtClassFileWriter(const DtString& fileName, const DtString& templateName);
+    ~DtClassFileWriter() override;
+
+    // Replaces the tokens in the order of the tables; a value that holds a token of a later row is expanded too.
+    // Attribute tokens stay in the line while no attribute is current.
+    void decodeFileLine(DtString& line) override;
+    // Knows "IncludeFiles", "Attributes" (which must not stand inside itself) and "FomModules".
+    void writeMultipleTimes(const DtString& loopName, std::istream& stream) override;
+
+    // Stores the class's short name and hands it to setClassName, from where every subclass derives its names.
+    virtual void setRootName(const DtString& name);
+    virtual const DtString& rootName() const;
+    virtual void setPduKind(int kind);
+    virtual int pduKind() const;
+    virtual void setClassName(const DtString& name);
+    virtual const DtString& className() const;
+    // Short name of the parent; "ObjectRoot" for the parent of a top class.
+    virtual void setParentClassName(const DtString& name);
+    virtual const DtString& parentClassName() const;
+    // Appends a copy. Not while the "Attributes" loop runs.
+    virtual void addAttribute(const DtAttribute& attribute);
+    virtual const std::vector<DtAttribute>& attributeList() const;
+    virtual void setOmtProject(const DtOmtProject& project);
+    virtual const DtOmtProject& omtProject() const;
+    // The name without a leading "ObjectRoot." or else "HLAobjectRoot."; unchanged when it begins with neither.
+    virtual DtString replaceFirstObjRootOccurance(const DtString& name) const;
+    // The same with "InteractionRoot." and "HLAinteractionRoot.".
+    virtual DtString replaceFirstIntRootOccurance(const DtString& name) const;
+    virtual void setFullClassName(const DtString& name);
+    // Model name whose octet boundary the templates can ask for; "0" until it is set.
+    virtual void setOriginalName(const DtString& name);
+    virtual const DtString& originalName() const;
+    // Appends the headers of the generated types that the attributes use. Only neighbours that are alike are dropped,
+    // so a type that comes again behind another one is included twice.
+    virtual void compileIncludeList();
+    // Every token that the writer replaces, in the order of replacement; those of DtFileWriter come last.
+    virtual std::vector<DtString> knownTokens() const;
+
+protected:
+    // The attribute whose tokens are replaced, one of myAttributes; null outside the "Attributes" loop.
+    const DtAttribute* currentAttribute() const { return myCurrentAttribute; }
+    void setCurrentAttribute(const DtAttribute* attribute);
+    // To be called behind every change of the names below that is not made by a setter of this class: their tokens are
+    // worked out once.
+    void namesChanged();
+    // "Dt" taken off, first letter lowered: what the header of a generated type is called.
+    static DtString includeNameOf(const DtString& type);
+
+    DtString myClassName;
+    DtString myBaseClassName;
+    DtString myBaseClassHeader;
+    DtString myRootName;
+    DtString myParentClassName;
+    DtString myFullClassName;
+    DtString myOriginalName;
+    std::int32_t myPduKind = 0;
+    std::vector<DtAttribute> myAttributes;
+    DtOmtProject myOmtProject;
+    std::list<DtString> myIncludeFiles;
+    DtString myCurrentInclude;
+    DtString myCurrentFomModule;
+    std::int32_t myAttributeCounter = 0;
+
+private:
+    struct DtTokens; // the tables
+
+    void writeIncludeFiles(std::istream& stream);
+    void writeAttributes(std::istream& stream);
+    void writeFomModules(std::istream& stream);
+    void setCurrentInclude(const DtString& include);
+    void setAttributeCounter(int counter);
+    bool hasLongNames() const;
+    void numberLongNames();
+
+    const DtAttribute* myCurrentAttribute = nullptr;
+    DtTokenValues<DtClassFileWriter> myBoundaryToken;
+    DtTokenValues<DtClassFileWriter> myAttributeTokens; // only while an attribute is current
+    DtTokenValues<DtClassFileWriter> myClassTokens;
+    DtTokenValues<DtClassFileWriter> myModuleTokens;  // only with a project that names modules
+    DtTokenValues<DtClassFileWriter> myEncodingToken; // only while an attribute is current
+    bool myLongNamesAreNumbered = false;
+};
+
+#endif

@@ -1,0 +1,112 @@
+#include "fileGenerator/codedDataTypeFileWriter.h"
+
+#include "fileGenerator/dataTypeMapper.h"
+#include "foundation/environment.h"
+#include "foundation/outputStream.h"
+
+std::map<DtString, int> DtCodedDataTypeFileWriter::myPlusAttributeCounts;
+
+struct DtCodedDataTypeFileWriter::DtTokens
+{
+    static const DtTokenTable<DtCodedDataTypeFileWriter>& own()
+    {
+        static const DtTokenRow<DtCodedDataTypeFileWriter> theRows[] = {
+            {"<!LocalTypeIsNotEncodeable!>",
+             [](const DtCodedDataTypeFileWriter& w) -> DtString
+             { return DtDataTypeMapper::instance()->isNonEncodeableDataType(w.myClassName) ? "1" : ""; }},
+        };
+        static const DtTokenTable<DtCodedDataTypeFileWriter> theTable(theRows);
+        return theTable;
+    }
+};
+
+void DtCodedDataTypeFileWriter::determineDecodeability()
+{
+    const DtString className = myClassName;
+    const std::vector<DtAttribute> attributes = myAttributes;
+    for (const DtCompiledDatatype& compiled : myCompiledDatatypes)
+    {
+        enterDatatype(compiled);
+        determineDecodeabilityOfClass();
+    }
+    setCurrentClass(className, attributes);
+}
+
+int DtCodedDataTypeFileWriter::addTypeFromSimpleTypeList(const DtEnvObject* entry, DtString& type,
+                                                         DtString& cardinality)
+{
+    DtDataTypeMapper& mapper = *DtDataTypeMapper::instance();
+    type = entry->value();
+    const DtString representation = mapper.repOfSimpleType(type);
+    if (representation.isEmpty())
+        return addTypeFromArrayTypeList(entry, type, cardinality);
+    type = mapper.quorvexType(representation);
+    mapper.addMapping(entry->value(), type);
+    return 1;
+}
+
+int DtCodedDataTypeFileWriter::addTypeFromArrayTypeList(const DtEnvObject* entry, DtString& type, DtString& cardinality)
+{
+    const DtDataTypeMapper& mapper = *DtDataTypeMapper::instance();
+    const DtString array = entry->value();
+    const DtString& element = mapper.repOfArrayType(array);
+    if (element.isEmpty())
+        return 0;
+    const DtString& mapped = mapper.quorvexType(element);
+    type = mapped.isEmpty() ? mapper.quorvexType(mapper.repOfSimpleType(element)) : mapped;
+    cardinality = mapper.cardinalityOfArrayType(array);
+    if (cardinality == "Dynamic")
+        cardinality = "0+";
+    return 1;
+}
+
+void DtCodedDataTypeFileWriter::resetPlusAttributeCounts()
+{
+    myPlusAttributeCounts.clear();
+}
+
+void DtCodedDataTypeFileWriter::decodeOwnTokens(DtString& line)
+{
+    DtTokenValues<DtCodedDataTypeFileWriter> own(DtTokens::own(), this);
+    DtExpandTokens(line, {&own});
+}
+
+std::vector<const DtTokenIndex*> DtCodedDataTypeFileWriter::ownTokens() const
+{
+    return {&DtTokens::own().index()};
+}
+
+// One value has room for a single length on the wire. A type can be marked and warned about for both causes; those that
+// use it learn of it through the mapper.
+void DtCodedDataTypeFileWriter::determineDecodeabilityOfClass()
+{
+    DtDataTypeMapper& mapper = *DtDataTypeMapper::instance();
+    int count = 0;
+    bool isBad = false;
+    for (const DtAttribute& attribute : myAttributes)
+    {
+        isBad = isBad || mapper.isNonEncodeableDataType(attribute.nonVectorType());
+        if (attribute.hasPlusCardinality())
+        {
+            ++count;
+            if (plusCount(attribute.nonVectorType()) > 0)
+            {
+                DtWarn << "Warning: Cannot encode/decode attributes of type: " << myClassName
+                       << ": contains a + attribute of a type that contains a + attribute.\n";
+                mapper.addNonEncodeableDataType(myClassName);
+            }
+        }
+        count += plusCount(attribute.type());
+    }
+    myPlusAttributeCounts[myClassName] = count;
+    if (count < 2 && !isBad)
+        return;
+    DtWarn << "Warning: Cannot encode/decode data type " << myClassName << ".\n";
+    mapper.addNonEncodeableDataType(myClassName);
+}
+
+int DtCodedDataTypeFileWriter::plusCount(const DtString& type)
+{
+    const auto entry = myPlusAttributeCounts.find(type);
+    return entry == myPlusAttributeCounts.end() ? 0 : entry->second;
+}

@@ -1,0 +1,127 @@
+#include "fileGenerator/dataTypeFileWriter.h"
+
+#include "fileGenerator/cCompatibleName.h"
+#include "fileGenerator/dataTypeMapper.h"
+#include "fileGenerator/datatypeClassNames.h"
+#include "fileGenerator/omtEnvWriter.h"
+#include "foundation/stringUtils.h"
+#include "omtReader/omtNode.h"
+
+#include <algorithm>
+
+DtDataTypeFileWriter::DtDataTypeFileWriter(const DtString& fileName, const DtString& templateName,
+                                           DtCCompatibleNames& names)
+    : DtClassFileWriter(fileName, templateName),
+      myIsXmlModel(DtFilename(DtOMTEnvWriter::fomDefinitionFileName()).extension() == "xml"),
+      myNames(names)
+{
+}
+
+void DtDataTypeFileWriter::decodeFileLine(DtString& line)
+{
+    if (DtHasToken(line))
+    {
+        line = DtReplaceAllSubstrings(line, "<!MyHeaderInclude!>", myFileStem + ".h");
+        decodeOwnTokens(line);
+    }
+    DtClassFileWriter::decodeFileLine(line);
+}
+
+void DtDataTypeFileWriter::writeMultipleTimes(const DtString& loopName, std::istream& stream)
+{
+    if (loopName == "ClassDatatypes")
+        writeClassDatatypes(stream);
+    else
+        DtClassFileWriter::writeMultipleTimes(loopName, stream);
+}
+
+void DtDataTypeFileWriter::compileIncludeList()
+{
+    const DtDataTypeMapper& mapper = *DtDataTypeMapper::instance();
+    const DtDatatypeClassNames& names = DtDatatypeClassNames::instance();
+    for (const DtCompiledDatatype& compiled : myCompiledDatatypes)
+    {
+        for (const DtAttribute& member : compiled.second)
+        {
+            const DtString& type = member.nonVectorType();
+            if (member.isEnumeration() || mapper.isKnownType(type) || isOwnClass(type))
+                continue;
+            const DtString stem = names.fileStemOf(member.datatype());
+            myIncludeFiles.push_back(stem.isEmpty() ? includeNameOf(type) : stem);
+        }
+    }
+    myIncludeFiles.unique();
+}
+
+std::vector<DtString> DtDataTypeFileWriter::knownTokens() const
+{
+    std::vector<DtString> tokens = {"<!MyHeaderInclude!>"};
+    for (const DtTokenIndex* index : ownTokens())
+    {
+        for (int row = 0; row < index->size(); ++row)
+            tokens.emplace_back(std::string(index->token(row)));
+    }
+    const std::vector<DtString> ofClass = DtClassFileWriter::knownTokens();
+    tokens.insert(tokens.end(), ofClass.begin(), ofClass.end());
+    return tokens;
+}
+
+void DtDataTypeFileWriter::determineDecodeability()
+{
+}
+
+void DtDataTypeFileWriter::decodeOwnTokens(DtString& /*line*/)
+{
+}
+
+std::vector<const DtTokenIndex*> DtDataTypeFileWriter::ownTokens() const
+{
+    return {};
+}
+
+bool DtDataTypeFileWriter::isCompiled(const DtOMTNode& node) const
+{
+    return myCompiledTypes.count(DtDataTypeMapper::instance()->quorvexType(node.getName())) != 0;
+}
+
+void DtDataTypeFileWriter::addCompiled(DtOMTNode* node, std::vector<DtAttribute> attributes)
+{
+    myCompiledDatatypes.emplace_back(node, std::move(attributes));
+    myCompiledTypes.insert(DtDataTypeMapper::instance()->quorvexType(node->getName()));
+}
+
+void DtDataTypeFileWriter::enterDatatype(const DtCompiledDatatype& compiled)
+{
+    const DtString& target = DtDataTypeMapper::instance()->quorvexType(compiled.first->getName());
+    setCurrentClass(identifier(target), compiled.second);
+}
+
+void DtDataTypeFileWriter::setCurrentClass(const DtString& className, const std::vector<DtAttribute>& attributes)
+{
+    setCurrentAttribute(nullptr); // it points into the list that goes
+    myClassName = className;
+    myAttributes = attributes;
+    namesChanged();
+}
+
+DtString DtDataTypeFileWriter::identifier(const DtString& text)
+{
+    return myNames.MakeCCompatibleString(text);
+}
+
+void DtDataTypeFileWriter::writeClassDatatypes(std::istream& stream)
+{
+    const std::streampos start = stream.tellg();
+    for (const DtCompiledDatatype& compiled : myCompiledDatatypes)
+    {
+        myCurrentDatatype = compiled.first;
+        enterDatatype(compiled);
+        writeBodyFrom(stream, start);
+    }
+    myCurrentDatatype = nullptr;
+}
+
+bool DtDataTypeFileWriter::isOwnClass(const DtString& type) const
+{
+    return myCompiledTypes.count(type) != 0;
+}

@@ -1,0 +1,60 @@
+#ifndef FILE_GENERATOR_DATA_TYPE_FILE_WRITER_H
+#define FILE_GENERATOR_DATA_TYPE_FILE_WRITER_H
+
+#include "fileGenerator/classFileWriter.h"
+
+#include <set>
+#include <utility>
+#include <vector>
+
+class DtCCompatibleNames;
+class DtOMTNode;
+
+// What the writers of the six datatype families share: the datatypes compiled so far, each with its members, and the
+// "ClassDatatypes" loop over them.
+//
+// A family adds compileAttributes(), which hands its result to addCompiled(). The driver makes a writer, compiles, asks
+// determineDecodeability() once for each datatype and writes the file. The nodes are not owned and have to outlive the
+// writer.
+class DtDataTypeFileWriter : public DtClassFileWriter
+{
+public:
+    // names: the identifier names of the family's own source file.
+    DtDataTypeFileWriter(const DtString& fileName, const DtString& templateName, DtCCompatibleNames& names);
+
+    void decodeFileLine(DtString& line) override;
+    void writeMultipleTimes(const DtString& loopName, std::istream& stream) override;
+    // The headers of the members of all compiled datatypes, without those of the datatypes themselves.
+    void compileIncludeList() override;
+    std::vector<DtString> knownTokens() const override;
+    // Finds the compiled datatypes that no encoder can be written for and marks them in the mapper. Here: none.
+    virtual void determineDecodeability();
+
+protected:
+    using DtCompiledDatatype = std::pair<DtOMTNode*, std::vector<DtAttribute>>;
+
+    // Own tokens of a family, ahead of the class pass; called for lines that hold "<!" only.
+    virtual void decodeOwnTokens(DtString& line);
+    virtual std::vector<const DtTokenIndex*> ownTokens() const;
+    // Is the target name among those already compiled?
+    bool isCompiled(const DtOMTNode& node) const;
+    void addCompiled(DtOMTNode* node, std::vector<DtAttribute> attributes);
+    // Makes class name and attributes those of the compiled datatype. No attribute is current then.
+    void enterDatatype(const DtCompiledDatatype& compiled);
+    void setCurrentClass(const DtString& className, const std::vector<DtAttribute>& attributes);
+    // The model's name as an identifier.
+    DtString identifier(const DtString& text);
+
+    std::set<DtString> myCompiledTypes; // target names
+    std::vector<DtCompiledDatatype> myCompiledDatatypes;
+    DtOMTNode* myCurrentDatatype = nullptr; // null outside the "ClassDatatypes" loop
+    bool myIsXmlModel;
+
+private:
+    void writeClassDatatypes(std::istream& stream);
+    bool isOwnClass(const DtString& type) const;
+
+    DtCCompatibleNames& myNames;
+};
+
+#endif

@@ -1,0 +1,44 @@
+#ifndef FILE_GENERATOR_DATATYPE_CLASS_NAMES_H
+#define FILE_GENERATOR_DATATYPE_CLASS_NAMES_H
+
+#include "foundation/string.h"
+
+#include <map>
+
+class DtCCompatibleNames;
+
+// What the present run generates for the model's datatypes, known before the first datatype file is written.
+//
+// A datatype's members can have types whose own turn comes later; their class names are needed at once, while the
+// mapper learns each name only in its turn. The driver clears this at the start of a run and fills it ahead of the
+// datatype files: one add() for each datatype that passes its family's filter, one addEnumeration() for each
+// enumeration that is generated.
+class DtDatatypeClassNames
+{
+public:
+    static DtDatatypeClassNames& instance();
+
+    // File name without directory and extension: the prefix and the name, first letter lowered, as an identifier.
+    static DtString fileStem(const DtString& datatype, DtCCompatibleNames& names);
+    // "Dt" and the stem with a capital.
+    static DtString classNameOfStem(const DtString& stem);
+
+    void clear();
+    void add(const DtString& datatype, const DtString& className);
+    bool contains(const DtString& datatype) const;
+    // Empty when the datatype gets no class in this run.
+    const DtString& className(const DtString& datatype) const;
+    // File name without directory and extension of that class; empty likewise.
+    DtString fileStemOf(const DtString& datatype) const;
+
+    // Records the model's representation of an enumeration.
+    void addEnumeration(const DtString& enumeration, const DtString& representation);
+    // Empty when it was not recorded.
+    const DtString& enumerationRepresentation(const DtString& enumeration) const;
+
+private:
+    std::map<DtString, DtString> myClassNames;
+    std::map<DtString, DtString> myEnumerationRepresentations;
+};
+
+#endif

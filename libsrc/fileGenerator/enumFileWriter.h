@@ -1,0 +1,71 @@
+#ifndef FILE_GENERATOR_ENUM_FILE_WRITER_H
+#define FILE_GENERATOR_ENUM_FILE_WRITER_H
+
+#include "fileGenerator/fileWriter.h"
+
+#include <vector>
+
+// One enumerator: its name and its number as text.
+class DtEnumerationValue
+{
+public:
+    DtEnumerationValue(const DtString& name, const DtString& val) : myName(name), myVal(val) {}
+    const DtString& name() const { return myName; }
+    const DtString& val() const { return myVal; }
+
+private:
+    DtString myName;
+    DtString myVal;
+};
+
+// One enumeration on its way into the enumerations header.
+class DtEnumeration
+{
+public:
+    DtEnumeration(const DtString& name, const std::vector<DtEnumerationValue>& vals) : myName(name), myVals(vals) {}
+    const DtString& name() const { return myName; }
+    const std::vector<DtEnumerationValue>& vals() const { return myVals; }
+    // Bits, as text; empty when the model gives none.
+    const DtString& size() const { return mySize; }
+    void setSize(const DtString& size) { mySize = size; }
+
+private:
+    DtString myName;
+    std::vector<DtEnumerationValue> myVals;
+    DtString mySize;
+};
+
+// Writes the one header that holds all enumerations, and tells the mapper the name, size and representation of each.
+class DtEnumerationFileWriter : public DtFileWriter
+{
+public:
+    explicit DtEnumerationFileWriter(const DtString& fileName);
+
+    void decodeFileLine(DtString& line) override;
+    // Knows "Enumeration" and, inside it, "EnumerationField".
+    void writeMultipleTimes(const DtString& loopName, std::istream& stream) override;
+
+    // An enumeration without a size is asked for it by its name: the number behind the last "Enum". When that gives
+    // none either, the mapper learns no size and no representation.
+    virtual void addEnumeration(const DtEnumeration& enumeration);
+    virtual DtString createEnumerationName(const DtEnumeration& enumeration) const;
+    // The enumeration's name makes no difference.
+    virtual DtString createEnumerationValueName(const DtString& enumerationName, const DtEnumerationValue& value) const;
+    virtual DtString getEnumerationRepFromSize(const DtString& size) const;
+
+    // The enumerator's name without / # - < > and &.
+    static DtString cleanedValueName(const DtString& name);
+    // The tokens that this class adds to those of its base.
+    static std::vector<DtString> knownTokens();
+
+private:
+    void decodeEnumerationTokens(DtString& line) const;
+    void writeEnumerations(std::istream& stream);
+    void writeFields(std::istream& stream);
+
+    std::vector<DtEnumeration> myEnumerations;
+    const DtEnumeration* myCurrentEnumeration = nullptr;           // null outside "Enumeration"
+    const DtEnumerationValue* myCurrentEnumerationValue = nullptr; // null outside "EnumerationField"
+};
+
+#endif

@@ -1,0 +1,62 @@
+#ifndef FILE_GENERATOR_FILE_GENERATOR_H
+#define FILE_GENERATOR_FILE_GENERATOR_H
+
+#include "fileGenerator/omtProject.h"
+#include "fileGenerator/outputTable.h"
+
+#include <functional>
+#include <list>
+#include <memory>
+#include <set>
+
+// All files of one selected class: creates a writer for each, feeds them its members and runs them in order.
+//
+// Owns the writers. Their files exist, at least empty, as soon as the generator stands. The driver constructs one
+// generator a class, sets parent, PDU kind and full name, adds every member and calls generateFiles.
+class DtFileGenerator
+{
+public:
+    DtFileGenerator() = default;
+    DtFileGenerator(const DtFileGenerator&) = delete;
+    DtFileGenerator& operator=(const DtFileGenerator&) = delete;
+    virtual ~DtFileGenerator();
+
+    virtual void setParentClassName(const DtString& name);
+    virtual void setPduKind(int kind);
+    // Runs the writers in order and stops behind the file during which the user cancelled.
+    virtual void generateFiles();
+    // Resolves the model's datatype to a target type and hands the member to every writer.
+    virtual void addAttribute(const DtString& name, const DtString& datatype, const DtString& cardinality);
+    virtual void setFullClassName(const DtString& name);
+    // Walks array and simple datatypes to a target type. The cardinality changes when the way leads over an array. A
+    // datatype that leads back to itself stands as its own type.
+    virtual void determineValueType(const DtString& datatype, DtString& cardinality, DtString& type) = 0;
+
+    // Runs the body of a generator's constructor. Whatever leaves it comes out as a DtException that names the
+    // generator and the place of the guard: another DtException as its predecessor, a std::exception with its text,
+    // anything else as a DtTemplatedException<-2>.
+    static void guardConstruction(const char* signature, const char* file, unsigned int line,
+                                  const std::function<void()>& body);
+
+protected:
+    // Makes the writers of all wanted rows of a table, in order. Each file name enters the list ahead of its writer.
+    template <typename Table, typename Generator, typename Record>
+    void createWriters(const Table& table, const Generator& generator, const DtString& name, const Record& record,
+                       bool generateDis, std::set<DtString>& fileList)
+    {
+        for (const auto& row : table)
+        {
+            if (row.wanted == DtWanted::WithDis && !generateDis)
+                continue;
+            const DtString fileName = (generator.*row.stem)(name) + row.ending;
+            fileList.insert(fileName);
+            myWriters.push_back(row.make(fileName, DtString("../data/templates/") + row.templateName, record));
+        }
+    }
+    // Gives every writer its names and the project, the last step of construction.
+    void initializeWriters(const DtString& name, const DtOmtProject& project);
+
+    std::list<std::unique_ptr<DtClassFileWriter>> myWriters;
+};
+
+#endif

@@ -1,0 +1,132 @@
+#ifndef FILE_GENERATOR_FILE_WRITER_H
+#define FILE_GENERATOR_FILE_WRITER_H
+
+#include "fileGenerator/templateStream.h"
+#include "fileGenerator/tokenPass.h"
+#include "foundation/filePrinter.h"
+#include "foundation/filename.h"
+#include "foundation/fomType.h"
+#include "foundation/outputStream.h"
+
+#include <cstdio>
+#include <initializer_list>
+#include <istream>
+#include <memory>
+#include <string>
+#include <vector>
+
+// Expands one template into one generated file; base of every writer.
+//
+// A template is text in lines. Six constructs exist: the token <!Name!>; the loop <#Header>body<#> and the loop over a
+// file <#Header#path#>; the conditional <?Condition>body<?> and the conditional file <?Condition?path?>; and a bar as
+// first character of a line, which joins the line to the one above. docs/templates.md tells the language by example.
+//
+// The scan is line-oriented: blocks are found by text search in pieces of at most maximumLineLength() - 1 bytes, bodies
+// are taken out raw and scanned again by writeFileStream() for each expansion. A derived writer changes three things
+// only: the tokens (decodeFileLine), the loops (writeMultipleTimes) and the conditions (writeConditional).
+//
+// One object, one output file: construct, writeFile() once, destroy, which closes the output. The class-wide settings
+// are set before the writers of a run are made.
+class DtFileWriter
+{
+public:
+    // The output goes to outputDirectory() + the include path if the name holds ".h" + fileName, joined as they are.
+    // An empty fileName opens nothing, an empty templateName no template. A name that leads out of the output directory
+    // is reported and its text dropped.
+    DtFileWriter(const DtString& fileName, const DtString& templateName);
+    DtFileWriter(const DtFileWriter&) = delete;
+    DtFileWriter& operator=(const DtFileWriter&) = delete;
+
+    virtual ~DtFileWriter();
+    virtual void setFileName(const DtString& name);
+    virtual const DtString& fileName() const;
+    // Expands the whole template; one step of the progress meter, which has to be set up. Nothing happens without a
+    // template, or when it has been read before.
+    virtual void writeFile();
+    // Scans the stream to its end and writes the expansion to myStream. Called again for every body.
+    virtual void writeFileStream(std::istream& in);
+    // Replaces the tokens of the line. A derived writer replaces its own and then calls this one, or expandTokens().
+    virtual void decodeFileLine(DtString& line);
+    // The stream stands on the opening; the whole block is taken and expanded.
+    virtual void handleForLoop(std::istream& in);
+    virtual void handleIfStatement(std::istream& in);
+    // Expands the body of a loop; here, as many times as the number at the start of the header says.
+    virtual void writeMultipleTimes(const DtString& header, std::istream& body);
+    // Expands the body if the condition holds: exists, notexists, greaterthan, lessthan, equals, notequals.
+    virtual void writeConditional(const DtString& header, std::istream& body);
+
+    // Takes the body of an inline block, from index start of the line on, and leaves the stream behind its terminator.
+    // linePosition is where the line starts in the stream; line and position follow the reading. delimiter: '#' or '?'.
+    void helperStringHandler(std::string& line, unsigned int start, std::istream& in, std::streampos& linePosition,
+                             char delimiter, DtTemplateStream& body);
+    // Takes the path of a file block and opens the file; `file` stays closed when that cannot be done.
+    void helperFileHandler(std::string& line, unsigned int start, std::istream& in, std::streampos& linePosition,
+                           char delimiter, DtTemplateStream& file);
+
+    // Class-wide settings.
+    static void setOutputDirectory(const DtString& directory); // "source/" at start; ends in a separator
+    static const DtString& outputDirectory();
+    static void setExportMacroName(const DtString& name);
+    static const DtString& exportMacroName();
+    static void setGenerate64Bit(bool generate); // true at start
+    static bool generate64Bit();
+    static void setGenerateErrors(bool generate); // false at start
+    static bool generateErrors();
+    static void setUseDecodeIncludes(bool use); // false at start
+    static bool useDecodeIncludes();
+    static void setHlaVersion(DtHLAProtocolVersion version);
+    static DtHLAProtocolVersion hlaVersion();
+
+    // The tokens that every writer knows.
+    static const DtTokenIndex& baseTokenIndex();
+
+protected:
+    // For a derived decodeFileLine: the given sources, then the tokens of this class, in one go. Null ones are left
+    // out.
+    void expandTokens(DtString& line, std::initializer_list<DtTokenSource*> sources);
+    // Back to the position, with a clean state, and once through writeFileStream().
+    void writeBodyFrom(std::istream& body, std::streampos position);
+
+    struct DtFileCloser
+    {
+        void operator()(FILE* file) const;
+    };
+
+    std::unique_ptr<FILE, DtFileCloser> myTemplateFile;
+    DtString myFileName;
+    DtString myFileStem; // the file name up to its first dot
+    std::unique_ptr<DtFilePrinter> myPrinter;
+    DtOutputStreamBuffer myStreamBuffer;
+    DtOutputStream myStream; // all generated text goes here
+    DtFilename myFomFileName;
+    DtFilename myFomFileNameNoDash;
+
+private:
+    static const DtTokenTable<DtFileWriter>& baseTable();
+
+    void openOutput();
+    void fillFomFileNames();
+    void writeText(std::string_view text);
+    void writePiece(std::string_view piece); // with its tokens replaced
+    void writeLineFeeds(DtTemplateCursor& cursor);
+    void handleBlock(std::istream& in, char delimiter);
+    void expandBlock(const DtString& header, DtTemplateStream& body, char delimiter);
+    bool mayOpen(const std::string& path);
+    void warnOnce(bool& hasWarned, const DtString& text);
+
+    DtString myLine;                      // the piece on its way out
+    std::vector<std::string> myOpenFiles; // of the file blocks around the current position, outermost first
+    int myBlockDepth = 0;
+    bool myHasWarnedOfFiles = false;
+    bool myHasWarnedOfBlocks = false;
+    DtTokenValues<DtFileWriter> myBaseTokens;
+
+    static DtString theOutputDirectory;
+    static DtString theExportMacroName;
+    static bool theGenerate64Bit;
+    static bool theGenerateErrors;
+    static bool theUseDecodeIncludes;
+    static DtHLAProtocolVersion myHlaVersion;
+};
+
+#endif

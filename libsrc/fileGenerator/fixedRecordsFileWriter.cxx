@@ -1,0 +1,94 @@
+#include "fileGenerator/fixedRecordsFileWriter.h"
+
+#include "fileGenerator/cCompatibleName.h"
+#include "fileGenerator/dataTypeMapper.h"
+#include "fileGenerator/memberTypes.h"
+#include "fileGenerator/netTypeTraits.h"
+#include "foundation/stringUtils.h"
+#include "omtReader/fixedDatatypeNode.h"
+
+static DtCCompatibleNames theNames;
+
+namespace
+{
+
+// A text is encoded like the array that its datatype is built on, when the datatype itself names no encoding.
+DtString encodingOfText(const DtString& datatype)
+{
+    const DtDataTypeMapper& mapper = *DtDataTypeMapper::instance();
+    std::set<DtString> visited;
+    DtString name = datatype;
+    while (!name.isEmpty() && mapper.encOfDatatype(name).isEmpty() && visited.insert(name).second)
+        name = mapper.repOfSimpleType(name);
+    return mapper.encOfDatatype(name);
+}
+
+DtAttribute fieldMember(const DtFieldComponentNode& field)
+{
+    DtAttribute member = makeMember(field.getName(), field.getDatatype(), "1");
+    if (member.type() == "DtString")
+        member.setEncoding(encodingOfText(field.getDatatype()));
+    return member;
+}
+
+} // namespace
+
+struct DtFixedRecordFileWriter::DtTokens
+{
+    using Writer = DtFixedRecordFileWriter;
+    static const DtTokenTable<Writer>& own()
+    {
+        static const DtTokenRow<Writer> theRows[] = {
+            {"<!ClassNetName!>", [](const Writer& w) { return DtReplaceSubstring(w.myClassName, "Dt", "DtNet"); }},
+        };
+        static const DtTokenTable<Writer> theTable(theRows);
+        return theTable;
+    }
+    static const DtTokenTable<Writer>& ofAttribute()
+    {
+        static const DtTokenRow<Writer> theRows[] = {
+            {"<!NetTypeIsVariableSize!>",
+             [](const Writer& w) -> DtString
+             {
+                 const DtString& netType = w.currentAttribute()->netType();
+                 return DtDataTypeMapper::instance()->isVariableSizeNetType(netType) ? "1" : "";
+             }                                                                                               },
+            {"<!NetTypeIsVariantRecord!>",
+             [](const Writer& w) -> DtString { return holdsVariantRecord(*w.currentAttribute()) ? "1" : ""; }},
+        };
+        static const DtTokenTable<Writer> theTable(theRows);
+        return theTable;
+    }
+};
+
+DtFixedRecordFileWriter::DtFixedRecordFileWriter(const DtString& fileName, const DtString& templateName)
+    : DtCodedDataTypeFileWriter(fileName, templateName, theNames)
+{
+}
+
+void DtFixedRecordFileWriter::compileAttributes(DtFixedDatatypeNode* node, DtOMTTree* tree)
+{
+    if (isCompiled(*node))
+        return;
+    std::vector<DtAttribute> members;
+    for (auto field = node->getComponentNodeList(); field != node->getComponentNodeEnd(); ++field)
+        members.push_back(fieldMember(**field));
+    const DtString& name = node->getName();
+    registerNetTypeTraits(name, DtDataTypeMapper::instance()->quorvexType(name), members, tree);
+    addCompiled(node, members);
+}
+
+void DtFixedRecordFileWriter::decodeOwnTokens(DtString& line)
+{
+    DtTokenValues<DtFixedRecordFileWriter> own(DtTokens::own(), this);
+    DtTokenValues<DtFixedRecordFileWriter> ofAttribute(DtTokens::ofAttribute(), this);
+    DtExpandTokens(line, {&own, currentAttribute() != nullptr ? &ofAttribute : nullptr});
+    DtCodedDataTypeFileWriter::decodeOwnTokens(line);
+}
+
+std::vector<const DtTokenIndex*> DtFixedRecordFileWriter::ownTokens() const
+{
+    std::vector<const DtTokenIndex*> tokens = DtCodedDataTypeFileWriter::ownTokens();
+    tokens.insert(tokens.end(), {&DtTokens::own().index(), &DtTokens::ofAttribute().index()});
+    return tokens;
+}

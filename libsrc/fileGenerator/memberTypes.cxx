@@ -1,0 +1,79 @@
+#include "fileGenerator/memberTypes.h"
+
+#include "fileGenerator/dataTypeMapper.h"
+#include "fileGenerator/datatypeClassNames.h"
+
+#include <set>
+
+namespace
+{
+
+// Empty when the representations below a simple type lead to no mapped one.
+DtString mappedRepresentation(const DtString& datatype)
+{
+    const DtDataTypeMapper& mapper = *DtDataTypeMapper::instance();
+    std::set<DtString> visited = {datatype};
+    DtString name = mapper.repOfSimpleType(datatype);
+    while (!name.isEmpty() && visited.insert(name).second)
+    {
+        if (!mapper.quorvexType(name).isEmpty())
+            return mapper.quorvexType(name);
+        name = mapper.repOfSimpleType(name);
+    }
+    return DtString();
+}
+
+// What the tables know to stand below a datatype. Of an enumeration the model's representation goes ahead of the
+// mapper's, which is a target type and no longer tells the byte order.
+DtString representationOf(const DtString& datatype)
+{
+    const DtDataTypeMapper& mapper = *DtDataTypeMapper::instance();
+    if (!mapper.repOfSimpleType(datatype).isEmpty())
+        return mapper.repOfSimpleType(datatype);
+    const DtString& ofEnumeration = DtDatatypeClassNames::instance().enumerationRepresentation(datatype);
+    if (!ofEnumeration.isEmpty())
+        return ofEnumeration;
+    if (!mapper.repForEnumName(datatype).isEmpty())
+        return mapper.repForEnumName(datatype);
+    return mapper.repOfArrayType(datatype);
+}
+
+} // namespace
+
+DtString memberType(const DtString& datatype)
+{
+    DtDataTypeMapper& mapper = *DtDataTypeMapper::instance();
+    if (!mapper.quorvexType(datatype).isEmpty())
+        return mapper.quorvexType(datatype);
+    const DtString type = mappedRepresentation(datatype);
+    if (!type.isEmpty())
+    {
+        mapper.addMapping(datatype, type);
+        return type;
+    }
+    const DtString& className = DtDatatypeClassNames::instance().className(datatype);
+    return className.isEmpty() ? datatype : className;
+}
+
+DtString lastRepresentation(const DtString& datatype)
+{
+    std::set<DtString> visited = {datatype};
+    DtString last;
+    for (DtString next = representationOf(datatype); !next.isEmpty(); next = representationOf(last))
+    {
+        if (!visited.insert(next).second)
+            return datatype;
+        last = next;
+    }
+    return last;
+}
+
+DtAttribute makeMember(const DtString& name, const DtString& datatype, const DtString& cardinality)
+{
+    DtAttribute member(name, memberType(datatype));
+    member.setCardinality(cardinality);
+    member.setDatatype(datatype);
+    member.setEncoding(DtDataTypeMapper::instance()->encOfDatatype(datatype));
+    member.setDatatypeDatatype(lastRepresentation(datatype));
+    return member;
+}

@@ -1,0 +1,130 @@
+#include "fileGenerator/netTypeTraits.h"
+
+#include "fileGenerator/attribute.h"
+#include "fileGenerator/dataTypeMapper.h"
+#include "fileGenerator/datatypeClassNames.h"
+#include "foundation/stringUtils.h"
+#include "omtReader/omtTree.h"
+
+#include <set>
+
+namespace
+{
+
+// Walks everything that a datatype is made of, each datatype once. A work list, so that neither cycles nor long chains
+// of types do harm.
+class DtTraitSearch
+{
+public:
+    explicit DtTraitSearch(const DtOMTTree& tree) : myTree(tree) {}
+
+    void run(const DtString& datatype)
+    {
+        add(datatype);
+        visitStructure(datatype);
+        while (!myPending.empty() && !(myIsVariable && myHasVariant))
+        {
+            const DtString next = myPending.back();
+            myPending.pop_back();
+            visit(next);
+        }
+    }
+    bool isVariable() const { return myIsVariable; }
+    bool hasVariant() const { return myHasVariant; }
+
+private:
+    void add(const DtString& datatype)
+    {
+        if (mySeen.insert(datatype).second)
+            myPending.push_back(datatype);
+    }
+
+    // A type that the toolkit stands in for is not looked into.
+    void visit(const DtString& datatype)
+    {
+        const DtDataTypeMapper& mapper = *DtDataTypeMapper::instance();
+        const DtString& type = mapper.quorvexType(datatype);
+        if (type.isEmpty() || DtDatatypeClassNames::instance().contains(datatype))
+            visitStructure(datatype);
+        else if (mapper.isVariableSizeNetType(type))
+            myIsVariable = true;
+    }
+
+    void visitStructure(const DtString& datatype)
+    {
+        if (const DtSimpleDatatypeNode* simple = myTree.getSimpleDatatypeNode(datatype))
+            add(simple->getRepresentation());
+        if (const DtArrayDatatypeNode* array = myTree.getArrayDatatypeNode(datatype))
+            visitArray(*array);
+        if (const DtFixedDatatypeNode* record = myTree.getFixedDatatypeNode(datatype))
+            addComponents(*record);
+        if (const DtComplexDatatypeNode* record = myTree.getComplexDatatypeNode(datatype))
+            addComponents(*record);
+        if (const DtVariantDatatypeNode* record = myTree.getVariantDatatypeNode(datatype))
+        {
+            myHasVariant = true;
+            add(record->getDatatype());
+            addComponents(*record);
+        }
+    }
+
+    void visitArray(const DtArrayDatatypeNode& array)
+    {
+        switch (array.getCardinalityType())
+        {
+        case 4:
+        case 5:
+        case 8:
+        case 10:
+            myIsVariable = true;
+            break;
+        default:
+            break;
+        }
+        add(array.getDatatype());
+    }
+
+    template <typename Record>
+    void addComponents(const Record& record)
+    {
+        for (auto component = record.getComponentNodeList(); component != record.getComponentNodeEnd(); ++component)
+            add((*component)->getDatatype());
+    }
+
+    const DtOMTTree& myTree;
+    std::set<DtString> mySeen;
+    std::vector<DtString> myPending;
+    bool myIsVariable = false;
+    bool myHasVariant = false;
+};
+
+} // namespace
+
+void registerNetTypeTraits(const DtString& datatype, const DtString& netType, const DtOMTTree* tree)
+{
+    if (tree == nullptr)
+        return;
+    DtTraitSearch search(*tree);
+    search.run(datatype);
+    if (search.isVariable())
+        DtDataTypeMapper::instance()->addVariableSizeNetType(netType);
+    if (search.hasVariant())
+        DtDataTypeMapper::instance()->addNetTypeWithVariantRecord(netType);
+}
+
+void registerNetTypeTraits(const DtString& datatype, const DtString& className, const std::vector<DtAttribute>& members,
+                           const DtOMTTree* tree)
+{
+    registerNetTypeTraits(datatype, DtReplaceSubstring(className, "Dt", "DtNet"), tree);
+    for (const DtAttribute& member : members)
+    {
+        if (DtDatatypeClassNames::instance().contains(member.datatype()))
+            registerNetTypeTraits(member.datatype(), member.netType(), tree);
+    }
+}
+
+bool holdsVariantRecord(const DtAttribute& member)
+{
+    const DtDataTypeMapper& mapper = *DtDataTypeMapper::instance();
+    return mapper.isVariantRecord(member.datatype()) || mapper.hasVariantRecord(member.netType());
+}

@@ -1,0 +1,427 @@
+#include "fileGenerator/omtEnvWriter.h"
+
+#include "fileGenerator/cCompatibleName.h"
+#include "fileGenerator/codedDataTypeFileWriter.h"
+#include "fileGenerator/dataTypeMapper.h"
+#include "fileGenerator/datatypeClassNames.h"
+#include "fileGenerator/enumFileWriter.h"
+#include "fileGenerator/intFileGenerator.h"
+#include "fileGenerator/makeFileWriter.h"
+#include "fileGenerator/objFileGenerator.h"
+#include "fileGenerator/omtProject.h"
+#include "fileGenerator/projectFileWriter.h"
+#include "fileGenerator/qtProgressMeter.h"
+#include "fileGenerator/solutionsFileWriter.h"
+#include "foundation/exception.h"
+#include "foundation/fileUtils.h"
+#include "foundation/stringUtils.h"
+#include "omtReader/enumeratedDatatypeNode.h"
+#include "omtReader/interactionClassFedNode.h"
+#include "omtReader/objectClassFedNode.h"
+#include "omtReader/omtTree.h"
+
+namespace
+{
+DtDataTypeMapper& mapper()
+{
+    return *DtDataTypeMapper::instance();
+}
+
+bool isCancelled()
+{
+    return DtQtProgressMeter::instance()->isCancelled();
+}
+
+DtString withoutPathAndExtension(const DtString& name)
+{
+    DtFilename file(name);
+    file.stripExtension();
+    file.stripPath();
+    return file;
+}
+
+DtString withoutDashesAndDots(const DtString& name)
+{
+    return DtReplaceAllSubstrings(DtReplaceAllSubstrings(name, "-", ""), ".", "");
+}
+
+DtString orPlainName(const DtString& rename, const DtString& plainName)
+{
+    return rename.isEmpty() ? plainName : rename;
+}
+
+// The record of that full name in a selection; null when it has none.
+template <typename Record>
+const Record* findRecord(const std::set<Record>& selection, const DtString& fullName)
+{
+    Record key;
+    key.setFullName(fullName);
+    const auto found = selection.find(key);
+    return found != selection.end() ? &*found : nullptr;
+}
+
+// Makes both identifiers of every record while it is the only one: its copies carry them on, so that all products that
+// name a class's projects agree.
+template <typename Record>
+void makeIdentifiers(const std::set<Record>& records)
+{
+    for (const Record& record : records)
+        record.uuid(2);
+}
+
+// Hands the members of a class to its generator. A member's cardinality is always "1": arrays are named types by now.
+// A mapping of the member's own name goes before its datatype.
+template <typename Members>
+void addMembers(DtFileGenerator& generator, const Members& members)
+{
+    for (const auto* member : members)
+    {
+        if (member == nullptr)
+            continue;
+        const DtString name = member->getName();
+        generator.addAttribute(name, mapper().hasMapping(name) ? mapper().quorvexType(name) : member->getDatatype(),
+                               "1");
+    }
+}
+} // namespace
+
+DtOMTEnvWriter::~DtOMTEnvWriter() = default;
+
+DtCCompatibleNames& DtOMTEnvWriter::names()
+{
+    static DtCCompatibleNames theNames;
+    return theNames;
+}
+
+int DtOMTEnvWriter::writeFile(const DtString& fomName)
+{
+    if (myTree == nullptr)
+        DT_THROW("setOmtTree() must be called before writeFile()");
+    leaveOutUnavailable();
+    startRun(fomName);
+    makeDirectories();
+    compileExportMacroName();
+    checkUsedSubDatatypesFiles();
+    setTotalProgress();
+    myNextPduKind = myFirstPduKind;
+    writeExportHeader();
+    generateEnumerationsFile();
+    writeDataTypesFiles(); // before the classes, which ask the mapper for the classes of datatypes
+    if (!writeSelectedClasses())
+        return 0;
+    writeProjectFiles(); // last: they list all other files
+    return 1;
+}
+
+void DtOMTEnvWriter::leaveOutUnavailable()
+{
+    if (myGenerateExamples)
+        DtWarn << "Examples cannot be generated yet. They are left out.\n";
+    if (myGenerateDis)
+        DtWarn << "DIS files cannot be generated yet. They are left out.\n";
+    myGenerateExamples = false;
+    myGenerateDis = false;
+}
+
+void DtOMTEnvWriter::startRun(const DtString& fomName)
+{
+    theFomDefinitionFileName = fomName;
+    myUsedDatatypes.clear();
+    if (myHlaVersion == DtHla13)
+    {
+        for (auto node = myTree->getArrayDatatypeNodeList(); node != myTree->getArrayDatatypeEndNode(); ++node)
+            myUsedDatatypes.insert((*node)->getName());
+    }
+    theBaseName = modelBase();
+    DtDatatypeClassNames::instance().clear();
+    DtCodedDataTypeFileWriter::resetPlusAttributeCounts();
+}
+
+void DtOMTEnvWriter::makeDirectories() const
+{
+    DtMakeDirectory(DtFileWriter::outputDirectory() + includePath());
+    DtMakeDirectory(DtFileWriter::outputDirectory() + "DataTypes");
+}
+
+void DtOMTEnvWriter::writeExportHeader()
+{
+    DtFileWriter writer("dllExport.h", "../data/templates/dllExport.tlt");
+    writer.writeFile();
+    addToFileList(writer.fileName());
+}
+
+bool DtOMTEnvWriter::writeSelectedClasses()
+{
+    std::set<DtString> doneObjects;
+    for (const DtOmtObject& object : myObjectsToGenerate)
+    {
+        if (isCancelled())
+            return false;
+        addObjectToFile(object.fullName(), doneObjects);
+    }
+    std::set<DtString> doneInteractions;
+    for (const DtOmtInteraction& interaction : myInteractionsToGenerate)
+    {
+        if (isCancelled())
+            return false;
+        addInteractionToFile(interaction.fullName(), doneInteractions);
+    }
+    return true;
+}
+
+DtString DtOMTEnvWriter::modelBase() const
+{
+    const DtString projectBase = myProject != nullptr ? myProject->baseName() : DtString();
+    return projectBase.isEmpty() ? theFomDefinitionFileName : projectBase;
+}
+
+void DtOMTEnvWriter::compileExportMacroName()
+{
+    DtString macro = DtString("DT_DLL_") + withoutDashesAndDots(withoutPathAndExtension(theBaseName));
+    macro.toUpper();
+    DtFileWriter::setExportMacroName(macro);
+}
+
+void DtOMTEnvWriter::setTotalProgress()
+{
+    const int filesPerObject = myGenerateDis ? 28 : 12;
+    const int filesPerInteraction = myGenerateDis ? 10 : 6;
+    const int filesPerExample = myGenerateExamples ? 12 : 0;
+    const int fixedFiles = 16;
+    int datatypes = 0;
+    for (const DtString& name : myUsedDatatypes)
+    {
+        if (!mapper().hasMapping(name) && myTree->getEnumeratedDatatypeNode(name) == nullptr &&
+            !mapper().isToBeReplaced(name))
+            ++datatypes;
+    }
+    const int objects = static_cast<int>(myObjectsToGenerate.size());
+    const int interactions = static_cast<int>(myInteractionsToGenerate.size());
+    DtQtProgressMeter::instance()->setTotalMeasure(fixedFiles + 2 * datatypes +
+                                                   (filesPerObject + filesPerExample) * objects +
+                                                   (filesPerInteraction + filesPerExample) * interactions);
+}
+
+void DtOMTEnvWriter::generateEnumerationsFile()
+{
+    const DtString base = withoutDashesAndDots(withoutPathAndExtension(modelBase()));
+    DtEnumerationFileWriter writer(DtString("DataTypes") + DtFilename::separator() + base + "Enums.h");
+    for (auto node = myTree->getEnumeratedDatatypeNodeList(); node != myTree->getEnumeratedDatatypeEndNode(); ++node)
+    {
+        if (isGenerated(**node))
+            addEnumeration(**node, writer);
+    }
+    addToFileList(writer.fileName());
+    writer.writeFile();
+}
+
+bool DtOMTEnvWriter::isGenerated(const DtEnumeratedDatatypeNode& node) const
+{
+    return myUsedDatatypes.count(node.getName()) != 0 && !mapper().hasMapping(node.getName());
+}
+
+void DtOMTEnvWriter::addEnumeration(DtEnumeratedDatatypeNode& node, DtEnumerationFileWriter& writer)
+{
+    std::vector<DtEnumerationValue> values;
+    for (auto value = node.getEnumerationNodeList(); value != node.getEnumerationNodeEnd(); ++value)
+        values.emplace_back((*value)->getEnum(), DtString((*value)->getNumber()));
+    const DtString name = node.getName();
+    DtEnumeration enumeration(name, values);
+
+    DtString representation = mapper().quorvexType(node.getRepresentation());
+    if (representation.isEmpty())
+        representation = mapper().quorvexType(mapper().repOfSimpleType(node.getRepresentation()));
+    if (representation.isEmpty())
+        representation = "Dt" + DtFirstCharToUpper(prefixName() + name);
+    mapper().addEnumeration(name);
+    mapper().addEnumNameToRepMapping(name, representation);
+    DtDatatypeClassNames::instance().addEnumeration(name, node.getRepresentation());
+
+    // "DtInt32" leaves 32, the name of a class leaves no number.
+    const int size = DtReplaceSubstring(DtReplaceSubstring(representation, "DtU", ""), "DtInt", "").toInt();
+    if (size != 0)
+        enumeration.setSize(DtString(size));
+    writer.addEnumeration(enumeration);
+}
+
+const DtOmtObject* DtOMTEnvWriter::selectedObject(const DtString& fullName) const
+{
+    const DtOmtObject* record = myProject != nullptr ? myProject->getObjectFromName(fullName) : nullptr;
+    return record != nullptr ? record : findRecord(myObjectsToGenerate, fullName);
+}
+
+const DtOmtInteraction* DtOMTEnvWriter::selectedInteraction(const DtString& fullName) const
+{
+    const DtOmtInteraction* record = myProject != nullptr ? myProject->getInteractionFromName(fullName) : nullptr;
+    return record != nullptr ? record : findRecord(myInteractionsToGenerate, fullName);
+}
+
+DtString DtOMTEnvWriter::uniqueName(const DtFedNode& node) const
+{
+    return myProject != nullptr ? myProject->getUniqueName(node.getFullName()) : node.getName();
+}
+
+DtString DtOMTEnvWriter::objectParentName(const DtFedNode& parent) const
+{
+    if (&parent == myTree->objectClassRoot())
+        return "ObjectRoot";
+    return replaceObjectName(uniqueName(parent), parent.getFullName());
+}
+
+DtString DtOMTEnvWriter::interactionParentName(const DtFedNode& parent) const
+{
+    if (&parent == myTree->interactionClassRoot())
+        return "InteractionRoot";
+    return replaceInteractionName(uniqueName(parent), parent.getFullName()) + "Inter";
+}
+
+void DtOMTEnvWriter::addObjectToFile(DtString name, std::set<DtString>& done)
+{
+    if (isCancelled())
+        return;
+    const DtObjectClassFedNode* node = myTree->getObjectClassNode(name);
+    const DtOmtObject* record = selectedObject(name);
+    if (node == nullptr || record == nullptr)
+        return;
+    const DtString plainName = names().MakeCCompatibleString(record->name());
+    if (done.count(name) != 0 || isCancelled())
+        return;
+    DtObjectFileGenerator generator(replaceObjectName(plainName, name), myFileList, myGenerateExamples, myGenerateDis,
+                                    *record, myProject != nullptr ? *myProject : DtOmtProject());
+    generator.setPduKind(myNextPduKind++);
+    generator.setFullClassName(name);
+    if (node->getParentObject() != nullptr)
+        generator.setParentClassName(objectParentName(*node->getParentObject()));
+    done.insert(name);
+    addMembers(generator, node->getAttributes());
+    generator.generateFiles();
+}
+
+void DtOMTEnvWriter::addInteractionToFile(DtString name, std::set<DtString>& done)
+{
+    if (isCancelled())
+        return;
+    const DtInteractionClassFedNode* node = myTree->getInteractionClassNode(name);
+    const DtOmtInteraction* record = selectedInteraction(name);
+    if (node == nullptr || record == nullptr)
+        return;
+    const DtString plainName = names().MakeCCompatibleString(record->name());
+    if (done.count(name) != 0 || isCancelled())
+        return;
+    DtInteractionFileGenerator generator(replaceInteractionName(plainName, name) + "Inter", myFileList,
+                                         myGenerateExamples, myGenerateDis, *record,
+                                         myProject != nullptr ? *myProject : DtOmtProject());
+    generator.setPduKind(myNextPduKind++);
+    generator.setFullClassName(name);
+    if (node->getParentObject() != nullptr)
+        generator.setParentClassName(interactionParentName(*node->getParentObject()));
+    done.insert(name);
+    addMembers(generator, node->getParameters());
+    generator.generateFiles();
+}
+
+void DtOMTEnvWriter::writeProjectFiles()
+{
+    const DtString base = withoutPathAndExtension(modelBase());
+    if (isCancelled())
+        return;
+    const int compiler = 9; // VC14, 64 bit
+    DtProjectFileWriter project(base + "VC14_64" + ".vcxproj", myFileList, compiler);
+    project.setProjectName(base);
+    project.setGenerateDis(myGenerateDis);
+    project.writeFile();
+    if (isCancelled())
+        return;
+    DtMakefileWriter makefile("Makefile", myFileList);
+    makefile.setLibraryName(base);
+    makefile.setGenerateDis(myGenerateDis);
+    makefile.writeFile();
+    if (isCancelled())
+        return;
+    DtSolutionsFileWriter solution(base + "VC14_64.sln", "solutionVC14_64.tlt");
+    if (myGenerateExamples)
+    {
+        solution.setObjects(myObjectsToGenerate);
+        solution.setInteractions(myInteractionsToGenerate);
+    }
+    solution.setProjectName(base);
+    solution.writeFile();
+}
+
+void DtOMTEnvWriter::setOmtTree(DtOMTTree* tree)
+{
+    myTree = tree;
+}
+
+void DtOMTEnvWriter::setObjectsToGenerate(const std::set<DtOmtObject>& objects)
+{
+    makeIdentifiers(objects);
+    myObjectsToGenerate = objects;
+    if (myHlaVersion == DtHla13)
+        checkObjectsForArrayTypes();
+}
+
+void DtOMTEnvWriter::setInteractionsToGenerate(const std::set<DtOmtInteraction>& interactions)
+{
+    makeIdentifiers(interactions);
+    myInteractionsToGenerate = interactions;
+    if (myHlaVersion == DtHla13)
+        checkInteractionsForArrayTypes();
+}
+
+void DtOMTEnvWriter::setGenerateExamples(bool generate)
+{
+    myGenerateExamples = generate;
+}
+
+void DtOMTEnvWriter::setGenerateErrors(bool generate)
+{
+    DtFileWriter::setGenerateErrors(generate);
+}
+
+void DtOMTEnvWriter::setGenerateDis(bool generate)
+{
+    myGenerateDis = generate;
+}
+
+void DtOMTEnvWriter::setFirstPduKind(int kind)
+{
+    myFirstPduKind = kind;
+}
+
+void DtOMTEnvWriter::setOmtProject(DtOmtProject* project)
+{
+    myProject = project;
+}
+
+void DtOMTEnvWriter::setHlaVersion(DtHLAProtocolVersion version)
+{
+    myHlaVersion = version;
+}
+
+DtString DtOMTEnvWriter::replaceObjectName(const DtString& plainName, const DtString& fullName) const
+{
+    return myProject != nullptr ? orPlainName(myProject->getRenameForObject(fullName), plainName) : plainName;
+}
+
+DtString DtOMTEnvWriter::replaceInteractionName(const DtString& plainName, const DtString& fullName) const
+{
+    return myProject != nullptr ? orPlainName(myProject->getRenameForInteraction(fullName), plainName) : plainName;
+}
+
+DtString DtOMTEnvWriter::replaceAttributeName(const DtString& plainName, const DtString& owner) const
+{
+    return myProject != nullptr ? orPlainName(myProject->getRenameForAttribute(owner, plainName), plainName)
+                                : plainName;
+}
+
+DtString DtOMTEnvWriter::replaceParameterName(const DtString& plainName, const DtString& owner) const
+{
+    return myProject != nullptr ? orPlainName(myProject->getRenameForParameter(owner, plainName), plainName)
+                                : plainName;
+}
+
+void DtOMTEnvWriter::addToFileList(const DtString& name)
+{
+    myFileList.insert(name);
+}

@@ -1,0 +1,271 @@
+#include "fileGenerator/arrayDataTypeFileWriter.h"
+#include "fileGenerator/basicDataTypeFileWriter.h"
+#include "fileGenerator/cCompatibleName.h"
+#include "fileGenerator/complexDataTypeFileWriter.h"
+#include "fileGenerator/datatypeClassNames.h"
+#include "fileGenerator/fixedRecordsFileWriter.h"
+#include "fileGenerator/omtEnvWriter.h"
+#include "fileGenerator/qtProgressMeter.h"
+#include "fileGenerator/simpleDataTypeFileWriter.h"
+#include "fileGenerator/variantRecordFileWriter.h"
+#include "omtReader/arrayDatatypeNode.h"
+#include "omtReader/basicDataRepresentationNode.h"
+#include "omtReader/complexDatatypeNode.h"
+#include "omtReader/fixedDatatypeNode.h"
+#include "omtReader/omtTree.h"
+#include "omtReader/simpleDatatypeNode.h"
+#include "omtReader/variantDatatypeNode.h"
+
+#include <type_traits>
+
+namespace
+{
+// One datatype on its way into its files.
+struct DtDatatypeItem
+{
+    DtString name;      // in the model
+    DtString className; // in generated code
+    DtString encoding;
+};
+
+// What the six families have in common; each of them restates what it does in its own way.
+template <typename DatatypeNode, typename FileWriter>
+struct DtDatatypeFamily
+{
+    using Node = DatatypeNode;
+    using Writer = FileWriter;
+
+    static constexpr bool stopsOnCancel = true;
+
+    static bool isReplaced(const DtString& name) { return DtDataTypeMapper::instance()->hasMapping(name); }
+    static Writer make(const DtString& fileName, const char* templateName, const DtDatatypeItem&)
+    {
+        return Writer(fileName, templateName);
+    }
+    static void prepare(Writer& writer, const DtDatatypeItem& item, DtCCompatibleNames&)
+    {
+        writer.setOriginalName(item.name);
+    }
+    static void compile(Writer& writer, Node* node, DtOMTTree* tree, const DtDatatypeItem&)
+    {
+        if constexpr (std::is_invocable_v<decltype(&Writer::compileAttributes), Writer&, Node*, DtOMTTree*>)
+            writer.compileAttributes(node, tree);
+        else
+            writer.compileAttributes(node);
+    }
+    // Other names that the family's turn for this datatype makes, in order.
+    static void nameFurther(const Node&, DtCCompatibleNames&) {}
+    // What follows when both files are written and listed.
+    static void finish(Node*, DtOMTEnvWriter&) {}
+};
+
+struct DtComplexFamily : DtDatatypeFamily<DtComplexDatatypeNode, DtComplexDataTypeFileWriter>
+{
+    static constexpr const char* header = "../data/templates/subTemplates/complexTypesHeader.tlt";
+    static constexpr const char* source = "../data/templates/subTemplates/complexTypesSource.tlt";
+    static constexpr bool stopsOnCancel = false;
+
+    static auto begin(const DtOMTTree& tree) { return tree.getComplexDatatypeNodeList(); }
+    static auto end(const DtOMTTree& tree) { return tree.getComplexDatatypeEndNode(); }
+    static void nameFurther(const Node& node, DtCCompatibleNames&)
+    {
+        for (auto component = node.getComponentNodeList(); component != node.getComponentNodeEnd(); ++component)
+            DtOMTEnvWriter::componentArrayName(**component);
+    }
+    static void finish(Node* node, DtOMTEnvWriter& driver) { driver.checkComplexForArrayType(node); }
+};
+
+struct DtBasicFamily : DtDatatypeFamily<DtBasicDataRepresentationNode, DtBasicDataTypeFileWriter>
+{
+    static constexpr const char* header = "../data/templates/subTemplates/basicTypesHeader.tlt";
+    static constexpr const char* source = "../data/templates/subTemplates/basicTypesSource.tlt";
+
+    static auto begin(const DtOMTTree& tree) { return tree.getBasicDataRepresentationNodeList(); }
+    static auto end(const DtOMTTree& tree) { return tree.getBasicDataRepresentationEndNode(); }
+};
+
+struct DtSimpleFamily : DtDatatypeFamily<DtSimpleDatatypeNode, DtSimpleDataTypeFileWriter>
+{
+    static constexpr const char* header = "../data/templates/subTemplates/simpleTypesHeader.tlt";
+    static constexpr const char* source = "../data/templates/subTemplates/simpleTypesSource.tlt";
+
+    static auto begin(const DtOMTTree& tree) { return tree.getSimpleDatatypeNodeList(); }
+    static auto end(const DtOMTTree& tree) { return tree.getSimpleDatatypeEndNode(); }
+    // A mapping of its own does not matter here.
+    static bool isReplaced(const DtString& name) { return DtDataTypeMapper::instance()->isToBeReplaced(name); }
+    static void prepare(Writer& writer, const DtDatatypeItem& item, DtCCompatibleNames&)
+    {
+        writer.setOriginalName(item.name);
+        writer.setClassName(item.className);
+    }
+};
+
+struct DtArrayFamily : DtDatatypeFamily<DtArrayDatatypeNode, DtArrayDataTypeFileWriter>
+{
+    static constexpr const char* header = "../data/templates/arrayHeaderByEncoding.tlt";
+    static constexpr const char* source = "../data/templates/arraySourceByEncoding.tlt";
+
+    static auto begin(const DtOMTTree& tree) { return tree.getArrayDatatypeNodeList(); }
+    static auto end(const DtOMTTree& tree) { return tree.getArrayDatatypeEndNode(); }
+    static Writer make(const DtString& fileName, const char* templateName, const DtDatatypeItem& item)
+    {
+        return Writer(fileName, templateName, item.encoding);
+    }
+    static void prepare(Writer& writer, const DtDatatypeItem& item, DtCCompatibleNames& names)
+    {
+        writer.setOriginalName(names.MakeCCompatibleString(item.name));
+    }
+    static void nameFurther(const Node& node, DtCCompatibleNames& names)
+    {
+        names.MakeCCompatibleString(node.getName());
+    }
+};
+
+struct DtFixedRecordFamily : DtDatatypeFamily<DtFixedDatatypeNode, DtFixedRecordFileWriter>
+{
+    static constexpr const char* header = "../data/templates/subTemplates/fixedRecordsHeader.tlt";
+    static constexpr const char* source = "../data/templates/subTemplates/fixedRecordsSource.tlt";
+
+    static auto begin(const DtOMTTree& tree) { return tree.getFixedDatatypeNodeList(); }
+    static auto end(const DtOMTTree& tree) { return tree.getFixedDatatypeEndNode(); }
+};
+
+struct DtVariantRecordFamily : DtDatatypeFamily<DtVariantDatatypeNode, DtVariantRecordFileWriter>
+{
+    static constexpr const char* header = "../data/templates/subTemplates/variantRecordsHeader.tlt";
+    static constexpr const char* source = "../data/templates/subTemplates/variantRecordsSource.tlt";
+
+    static auto begin(const DtOMTTree& tree) { return tree.getVariantDatatypeNodeList(); }
+    static auto end(const DtOMTTree& tree) { return tree.getVariantDatatypeEndNode(); }
+    static void prepare(Writer& writer, const DtDatatypeItem& item, DtCCompatibleNames&)
+    {
+        writer.setOriginalName(item.name);
+        writer.setClassName(item.className);
+    }
+    static void compile(Writer& writer, Node* node, DtOMTTree* tree, const DtDatatypeItem& item)
+    {
+        writer.compileAttributes(node, tree);
+        DtDataTypeMapper::DtVariantRecordStruct record;
+        if (!DtDataTypeMapper::instance()->variantData(item.name, record))
+            return;
+        writer.setDiscriminantName(record.discriminant);
+        writer.setDiscriminantType(record.discriminantType);
+        writer.addEnumerators(record);
+    }
+};
+
+bool isCancelled()
+{
+    return DtQtProgressMeter::instance()->isCancelled();
+}
+} // namespace
+
+template <typename Family>
+bool DtOMTEnvWriter::isWanted(const DtString& name) const
+{
+    return !Family::isReplaced(name) && myUsedDatatypes.count(name) != 0;
+}
+
+template <typename Family>
+void DtOMTEnvWriter::writeFamily()
+{
+    for (auto node = Family::begin(*myTree); node != Family::end(*myTree); ++node)
+    {
+        if (Family::stopsOnCancel && isCancelled())
+            return;
+        if (!isWanted<Family>((*node)->getName()))
+            continue;
+        writePair<Family>(*node);
+        Family::finish(*node, *this);
+    }
+}
+
+template <typename Family>
+void DtOMTEnvWriter::writePair(typename Family::Node* node)
+{
+    const DtString name = node->getName();
+    const DtString stem = DtDatatypeClassNames::fileStem(name, names());
+    const DtDatatypeItem item{name, DtDatatypeClassNames::classNameOfStem(stem),
+                              DtDataTypeMapper::instance()->encOfDatatype(name)};
+    DtDataTypeMapper::instance()->addMapping(name, item.className);
+
+    const DtString file = DtString("DataTypes") + DtFilename::separator() + stem;
+    auto header = Family::make(file + ".h", Family::header, item);
+    auto source = Family::make(file + ".cxx", Family::source, item);
+    Family::prepare(header, item, names());
+    Family::prepare(source, item, names());
+    Family::compile(header, node, myTree, item);
+    header.determineDecodeability(); // once a datatype; the answer serves the source too
+    header.writeFile();
+    Family::compile(source, node, myTree, item);
+    source.writeFile();
+    addToFileList(header.fileName());
+    addToFileList(source.fileName());
+}
+
+// Asks for names in the order in which writing asks for them, so that long names get the same numbers.
+template <typename Family>
+void DtOMTEnvWriter::recordClassNames()
+{
+    DtDatatypeClassNames& classNames = DtDatatypeClassNames::instance();
+    for (auto node = Family::begin(*myTree); node != Family::end(*myTree); ++node)
+    {
+        const DtString name = (*node)->getName();
+        if (!isWanted<Family>(name) || classNames.contains(name))
+            continue;
+        const DtString stem = DtDatatypeClassNames::fileStem(name, names());
+        classNames.add(name, DtDatatypeClassNames::classNameOfStem(stem));
+        Family::nameFurther(**node, names());
+    }
+}
+
+void DtOMTEnvWriter::recordAllClassNames()
+{
+    recordClassNames<DtComplexFamily>();
+    recordClassNames<DtBasicFamily>();
+    recordClassNames<DtSimpleFamily>();
+    recordClassNames<DtArrayFamily>();
+    recordClassNames<DtFixedRecordFamily>();
+    recordClassNames<DtVariantRecordFamily>();
+}
+
+void DtOMTEnvWriter::writeDataTypesFiles()
+{
+    recordAllClassNames(); // members name datatypes whose own turn comes later
+    writeComplexFiles();
+    writeBasicFiles();
+    writeSimpleFiles();
+    writeArrayFiles();
+    writeFixedRecordFiles();
+    writeVariantRecordFiles();
+}
+
+void DtOMTEnvWriter::writeComplexFiles()
+{
+    writeFamily<DtComplexFamily>();
+}
+
+void DtOMTEnvWriter::writeBasicFiles()
+{
+    writeFamily<DtBasicFamily>();
+}
+
+void DtOMTEnvWriter::writeSimpleFiles()
+{
+    writeFamily<DtSimpleFamily>();
+}
+
+void DtOMTEnvWriter::writeArrayFiles()
+{
+    writeFamily<DtArrayFamily>();
+}
+
+void DtOMTEnvWriter::writeFixedRecordFiles()
+{
+    writeFamily<DtFixedRecordFamily>();
+}
+
+void DtOMTEnvWriter::writeVariantRecordFiles()
+{
+    writeFamily<DtVariantRecordFamily>();
+}

@@ -1,0 +1,41 @@
+#ifndef FILE_GENERATOR_OMT_NODE_H
+#define FILE_GENERATOR_OMT_NODE_H
+
+#include "foundation/string.h"
+
+#include <vector>
+
+// Base of the records of a selection: the names of one chosen class, attribute or parameter and its identifiers.
+//
+// A plain value that holds names only, never a pointer into a parse tree. Records stand in sets, so what can be asked
+// of them is const, the making of identifiers included.
+class DtOmtNode
+{
+public:
+    virtual ~DtOmtNode();
+
+    // For a class the dotted path from the root, which orders the sets; for an attribute or parameter its plain name.
+    virtual void setFullName(DtString fullName);
+    virtual DtString fullName() const;
+    // For a class the short name that no other class of the project has; for an attribute or parameter its plain name.
+    virtual void setName(DtString name);
+    virtual DtString name() const;
+    virtual void setShouldRename(bool shouldRename); // false at first
+    virtual bool shouldRename() const;
+    // The user's replacement for the name; empty when there is none.
+    virtual void setRename(DtString rename);
+    virtual DtString rename() const;
+    // A random UUID as text, always the same for the same index of one record. Copies made later carry it along.
+    virtual DtString uuid(unsigned int index) const;
+
+    bool operator<(const DtOmtNode& other) const { return myFullName < other.myFullName; }
+
+protected:
+    DtString myFullName;
+    DtString myName;
+    bool myShouldRename = false;
+    DtString myRename;
+    mutable std::vector<DtString> myUuids; // as many as were asked for
+};
+
+#endif

@@ -1,0 +1,40 @@
+#ifndef FILE_GENERATOR_OUTPUT_TABLE_H
+#define FILE_GENERATOR_OUTPUT_TABLE_H
+
+#include "fileGenerator/classFileWriter.h"
+
+#include <memory>
+#include <type_traits>
+
+// When a row of a table of output files counts.
+enum class DtWanted
+{
+    Always,
+    WithDis
+};
+
+// One file that a generator writes for a class: the generator's operation that makes the first part of its name, what
+// stands behind that, the template, and what makes the writer.
+template <typename Generator, typename Record>
+struct DtOutputRow
+{
+    DtString (Generator::*stem)(const DtString& name) const;
+    const char* ending;
+    const char* templateName; // under the directory of the templates
+    std::unique_ptr<DtClassFileWriter> (*make)(const DtString& fileName, const DtString& templateName,
+                                               const Record& record);
+    DtWanted wanted;
+};
+
+// Makes a writer, which gets the selection record when its constructor takes one.
+template <typename Writer, typename Record>
+std::unique_ptr<DtClassFileWriter> makeWriter(const DtString& fileName, const DtString& templateName,
+                                              const Record& record)
+{
+    if constexpr (std::is_constructible_v<Writer, const DtString&, const DtString&, const Record&>)
+        return std::make_unique<Writer>(fileName, templateName, record);
+    else
+        return std::make_unique<Writer>(fileName, templateName);
+}
+
+#endif

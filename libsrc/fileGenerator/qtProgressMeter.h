@@ -1,0 +1,66 @@
+#ifndef FILE_GENERATOR_QT_PROGRESS_METER_H
+#define FILE_GENERATOR_QT_PROGRESS_METER_H
+
+#include "foundation/string.h"
+
+#include <QtCore/QElapsedTimer>
+#include <QtCore/QPointer>
+#include <QtWidgets/QApplication>
+#include <QtWidgets/QLabel>
+#include <QtWidgets/QProgressDialog>
+
+// Progress of a generation run in a modal dialog; one object for the whole process.
+//
+// Generation runs on the event loop's thread, so every update also processes pending events. The window calls init()
+// ahead of a run and reset() after it; the driver calls setTotalMeasure() and then the update operations, and polls
+// isCancelled(). A dialog that goes down with its parent counts as none. Label and value are set at every update, but
+// the dialog is painted every 20 ms at most.
+class DtQtProgressMeter
+{
+public:
+    static DtQtProgressMeter* instance();
+
+    // Makes and shows a new dialog, with the current measure at 0. Throws DtException before init().
+    virtual void setTotalMeasure(int total);
+    virtual int totalMeasure();
+    // The next four throw DtException when there is no dialog.
+    virtual void setCurrentMeasure(int measure);
+    virtual int currentMeasure();
+    virtual void incrementCurrentMeasure(int step);
+    virtual void setLabel(const DtString& text);
+    virtual void setFileGenerated(const DtString& name);
+    // A pressed Cancel button shows here from the next update on, until init() or setIsCancelled(false).
+    virtual void setIsCancelled(bool isCancelled);
+    virtual bool isCancelled();
+    // Stores application and parent (may be null) and clears the cancelled state.
+    virtual void init(QApplication* application, QWidget* parent);
+    // Deletes the dialog, if there is one.
+    virtual void reset();
+    virtual ~DtQtProgressMeter();
+    virtual void checkInitialized();
+
+private:
+    DtQtProgressMeter() = default;
+    DtQtProgressMeter(const DtQtProgressMeter&) = delete;
+    DtQtProgressMeter& operator=(const DtQtProgressMeter&) = delete;
+
+    void makeDialog();
+    void showMeasure();
+    void noteCancel();
+    void showLabel(const DtString& text);
+    void processEvents();
+    void suspendPainting();
+
+    QPointer<QProgressDialog> myDialog;
+    QPointer<QApplication> myApplication;
+    QPointer<QWidget> myParent;
+    QPointer<QLabel> myLabel;
+    DtString myLabelText;
+    int myTotalMeasure = 0;
+    int myCurrentMeasure = 0;
+    bool myIsCancelled = false;
+    bool myIsInitialized = false;
+    QElapsedTimer mySincePainted;
+};
+
+#endif

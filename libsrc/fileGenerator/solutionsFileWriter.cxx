@@ -1,0 +1,131 @@
+#include "fileGenerator/solutionsFileWriter.h"
+
+#include "fileGenerator/cCompatibleName.h"
+#include "fileGenerator/omtEnvWriter.h"
+#include "foundation/filename.h"
+
+namespace
+{
+DtCCompatibleNames theNames;
+
+DtString projectBase()
+{
+    DtFilename base(DtOMTEnvWriter::baseName());
+    base.stripPath();
+    base.stripExtension();
+    return base;
+}
+
+DtString identifier(const DtOmtNode& record)
+{
+    return theNames.MakeCCompatibleString(record.name());
+}
+
+void appendTokens(const DtTokenIndex& index, std::vector<DtString>& tokens)
+{
+    for (int row = 0; row < index.size(); ++row)
+        tokens.emplace_back(std::string(index.token(row)));
+}
+
+// A source is part of the chain while it has a record.
+template <typename Record>
+DtTokenSource* active(DtTokenValues<Record>& values)
+{
+    return values.context() != nullptr ? &values : nullptr;
+}
+} // namespace
+
+DtSolutionsFileWriter::DtSolutionsFileWriter(const DtString& fileName, const DtString& templateName)
+    : DtFileWriter(fileName, DtString("../data/templates/") + templateName),
+      myProjectName(projectBase()),
+      myCurrentObject(objectTable()),
+      myCurrentInteraction(interactionTable()),
+      myProjectTokens(projectTable(), this)
+{
+}
+
+const DtTokenTable<DtOmtObject>& DtSolutionsFileWriter::objectTable()
+{
+    static const DtTokenRow<DtOmtObject> theRows[] = {
+        {"<!Object!>", [](const DtOmtObject& object) { return identifier(object); }},
+        {"<!UUID1!>",  [](const DtOmtObject& object) { return object.uuid(1); }    },
+        {"<!UUID2!>",  [](const DtOmtObject& object) { return object.uuid(2); }    },
+    };
+    static const DtTokenTable<DtOmtObject> theTable(theRows);
+    return theTable;
+}
+
+const DtTokenTable<DtOmtInteraction>& DtSolutionsFileWriter::interactionTable()
+{
+    static const DtTokenRow<DtOmtInteraction> theRows[] = {
+        {"<!Interaction!>", [](const DtOmtInteraction& interaction) { return identifier(interaction); }},
+        {"<!UUID1!>",       [](const DtOmtInteraction& interaction) { return interaction.uuid(1); }    },
+        {"<!UUID2!>",       [](const DtOmtInteraction& interaction) { return interaction.uuid(2); }    },
+    };
+    static const DtTokenTable<DtOmtInteraction> theTable(theRows);
+    return theTable;
+}
+
+const DtTokenTable<DtSolutionsFileWriter>& DtSolutionsFileWriter::projectTable()
+{
+    static const DtTokenRow<DtSolutionsFileWriter> theRows[] = {
+        {"<!ProjectName!>", [](const DtSolutionsFileWriter& writer) { return writer.myProjectName; }},
+    };
+    static const DtTokenTable<DtSolutionsFileWriter> theTable(theRows);
+    return theTable;
+}
+
+std::vector<DtString> DtSolutionsFileWriter::knownTokens()
+{
+    std::vector<DtString> tokens;
+    appendTokens(objectTable().index(), tokens);
+    appendTokens(interactionTable().index(), tokens);
+    appendTokens(projectTable().index(), tokens);
+    return tokens;
+}
+
+void DtSolutionsFileWriter::decodeFileLine(DtString& line)
+{
+    expandTokens(line, {active(myCurrentObject), active(myCurrentInteraction), &myProjectTokens});
+}
+
+void DtSolutionsFileWriter::writeMultipleTimes(const DtString& header, std::istream& body)
+{
+    if (header == "Objects")
+        writeRecords(myObjects, myCurrentObject, body);
+    else if (header == "Interactions")
+        writeRecords(myInteractions, myCurrentInteraction, body);
+    else
+        DtFileWriter::writeMultipleTimes(header, body);
+}
+
+template <typename Record>
+void DtSolutionsFileWriter::writeRecords(const std::set<Record>& records, DtTokenValues<Record>& current,
+                                         std::istream& body)
+{
+    const std::streampos start = body.tellg();
+    for (const Record& record : records)
+    {
+        if (record.fullName() == record.name())
+            continue;
+        current.setContext(&record);
+        writeBodyFrom(body, start);
+    }
+    current.setContext(nullptr);
+}
+
+void DtSolutionsFileWriter::setObjects(const std::set<DtOmtObject>& objects)
+{
+    myObjects = objects;
+}
+
+void DtSolutionsFileWriter::setInteractions(const std::set<DtOmtInteraction>& interactions)
+{
+    myInteractions = interactions;
+}
+
+void DtSolutionsFileWriter::setProjectName(const DtString& name)
+{
+    myProjectName = name;
+    myProjectTokens.clear();
+}

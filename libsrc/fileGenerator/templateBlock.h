@@ -1,0 +1,56 @@
+#ifndef FILE_GENERATOR_TEMPLATE_BLOCK_H
+#define FILE_GENERATOR_TEMPLATE_BLOCK_H
+
+#include "fileGenerator/templateStream.h"
+#include "foundation/string.h"
+
+#include <cstddef>
+#include <string>
+#include <string_view>
+
+// Position of the first block opening, "<#" or "<?", in a piece of a template; npos when there is none.
+std::size_t DtFindBlock(std::string_view piece);
+
+// The opening of a block up to the end of its header, and the working memory of the block.
+//
+// Blocks are used again for others at the same depth, through DtBlockLease.
+struct DtTemplateBlock
+{
+    // Reads the line at the cursor, which should stand on "<" and the delimiter, and the header, which may run over
+    // several lines. False when there is no block to expand: after a warning.
+    bool readHeader(DtTemplateCursor& cursor, char blockDelimiter);
+    bool isInline() const { return line[headerEnd] == '>'; }
+
+    char delimiter = '#';
+    std::string line;            // the one in which the header ends
+    std::streampos linePosition; // of that line in the stream
+    std::size_t headerEnd = 0;   // where in that line
+    DtString header;             // raw, without the opening
+    DtTemplateStream body;
+
+private:
+    bool acceptOpening() const;
+    bool findHeaderEnd(std::size_t from, int& depth);
+    bool readOn(DtTemplateCursor& cursor);
+
+    std::string headerText; // on its way into header
+};
+
+// Lends the block of the next depth for as long as it lives.
+class DtBlockLease
+{
+public:
+    DtBlockLease();
+    ~DtBlockLease();
+    DtBlockLease(const DtBlockLease&) = delete;
+    DtBlockLease& operator=(const DtBlockLease&) = delete;
+    DtTemplateBlock& operator*() const { return *myBlock; }
+
+private:
+    DtTemplateBlock* myBlock;
+};
+
+// "Problem Handling For Loop in line: " and the line, with no line end, on DtWarn. It stands for both kinds of block.
+void DtWarnOfBlock(std::string_view line);
+
+#endif

@@ -1,0 +1,96 @@
+#ifndef FILE_GENERATOR_TEMPLATE_STREAM_H
+#define FILE_GENERATOR_TEMPLATE_STREAM_H
+
+#include "foundation/string.h"
+
+#include <istream>
+#include <memory>
+#include <streambuf>
+#include <string>
+#include <string_view>
+
+// Template text in memory as a standard input stream, and quick reading from it.
+
+// Input buffer over text that somebody else holds. Closed, it behaves like a file that could not be opened: nothing to
+// read, and every seek fails.
+class DtTemplateBuffer final : public std::streambuf
+{
+public:
+    DtTemplateBuffer() = default;
+    void open(std::string_view text);
+    void close();
+
+    const char* current() const { return gptr(); }
+    const char* end() const { return egptr(); }
+    std::streamoff position() const { return myIsOpen ? gptr() - eback() : -1; }
+    // False, with nothing changed, when there is no such position.
+    bool moveTo(std::streamoff position);
+    // At most up to the end of the text.
+    void skip(std::ptrdiff_t count) { setg(eback(), gptr() + count, egptr()); }
+
+protected:
+    pos_type seekoff(off_type offset, std::ios_base::seekdir from, std::ios_base::openmode which) override;
+    pos_type seekpos(pos_type position, std::ios_base::openmode which) override;
+
+private:
+    bool myIsOpen = false;
+};
+
+// A stream with such a buffer, used again for one body after the other. Starts closed.
+class DtTemplateStream : public std::istream
+{
+public:
+    DtTemplateStream();
+    DtTemplateStream(const DtTemplateStream&) = delete;
+    DtTemplateStream& operator=(const DtTemplateStream&) = delete;
+
+    // These start at the front of the text, with no state flag set.
+    void open(std::string text);
+    // On text shared with others; a null pointer leaves the stream closed.
+    void open(std::shared_ptr<const std::string> text);
+    // Every read and seek fails from here on.
+    void close();
+    // An empty text with the memory of the one that the stream had for its own; closes the stream.
+    std::string releaseText();
+
+    // Name of the file whose text this is, empty for other text and after close().
+    const std::string& fileName() const { return myFileName; }
+    void setFileName(std::string name) { myFileName = std::move(name); }
+
+private:
+    DtTemplateBuffer myBuffer;
+    std::string myOwnText;
+    std::shared_ptr<const std::string> mySharedText;
+    std::string myFileName;
+};
+
+// The reading steps of the template scanner on any standard stream: state flags change as the stream's own operations
+// would change them, and text in a DtTemplateBuffer is read in place.
+class DtTemplateCursor
+{
+public:
+    // limit: bytes that one piece holds at most.
+    DtTemplateCursor(std::istream& in, std::size_t limit);
+
+    bool isGood() const { return myStream.good(); }
+    void clearState();
+    bool peekIs(char character);
+    void skip(); // one character, which has been peeked at
+    // Passes every line feed at the current position; their number.
+    std::size_t skipLineFeeds();
+    // Characters up to a line feed, which stays, or up to the limit. Valid until the next reading operation.
+    std::string_view readPiece();
+    void skipCharacters(std::size_t count);
+    std::streampos position();
+    void moveTo(std::streampos position);
+
+private:
+    std::string_view readPieceFromStream();
+
+    std::istream& myStream;
+    DtTemplateBuffer* myBuffer; // the stream's own, null for a stream of another kind
+    std::size_t myLimit;
+    std::string myPiece; // of a stream of another kind
+};
+
+#endif

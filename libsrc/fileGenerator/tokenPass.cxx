@@ -1,0 +1,192 @@
+#include "fileGenerator/tokenPass.h"
+
+#include <algorithm>
+#include <cstring>
+#include <string>
+
+namespace
+{
+constexpr std::size_t theNowhere = std::string_view::npos;
+constexpr std::string_view theOpening = "<!";
+constexpr std::string_view theClosing = "!>";
+
+// The tables of one replacement, in order; links may be null.
+struct DtChain
+{
+    DtTokenSource* const* links;
+    std::size_t count;
+
+    // Null for an unknown token.
+    const DtString* valueOf(std::string_view token) const
+    {
+        const std::uint32_t hash = DtTokenIndex::hashOf(token);
+        for (std::size_t link = 0; link < count; ++link)
+        {
+            const int row = links[link] != nullptr ? links[link]->index().find(token, hash) : -1;
+            if (row >= 0)
+                return &links[link]->value(row);
+        }
+        return nullptr;
+    }
+};
+
+std::size_t countOpenings(std::string_view text)
+{
+    std::size_t count = 0;
+    for (std::size_t at = text.find(theOpening); at != theNowhere; at = text.find(theOpening, at + 2))
+        ++count;
+    return count;
+}
+
+// Replaces each token where it stands. False when the ordered passes might give another result: when an opening comes
+// out that is not the one of an unknown token of the line. Every opening that a pass could meet on its way, in a value
+// or where two pieces join, is still there in the outcome of the scan, so none of them is missed.
+bool expandInOneScan(std::string_view line, const DtChain& chain, std::string& result)
+{
+    std::size_t copied = 0;
+    std::size_t unknown = 0;
+    for (std::size_t at = line.find(theOpening), next = 0; at != theNowhere; at = next)
+    {
+        const std::size_t end = line.find(theClosing, at + 2);
+        next = line.find(theOpening, at + 2);
+        if (end == theNowhere || next < end)
+            return false;
+        const DtString* value = chain.valueOf(line.substr(at, end + 2 - at));
+        if (value == nullptr)
+        {
+            ++unknown;
+            continue;
+        }
+        result.append(line, copied, at - copied).append(value->stdString());
+        copied = end + 2;
+    }
+    result.append(line, copied);
+    return countOpenings(result) == unknown;
+}
+
+// One pass of one row over the text.
+void replaceToken(std::string& text, std::string_view token, DtTokenSource& source, int row)
+{
+    std::size_t at = text.find(token);
+    if (at == std::string::npos)
+        return;
+    const std::string& value = source.value(row).stdString();
+    std::string result;
+    std::size_t copied = 0;
+    for (; at != std::string::npos; at = text.find(token, copied))
+    {
+        result.append(text, copied, at - copied).append(value);
+        copied = at + token.size();
+    }
+    text = result.append(text, copied);
+}
+
+std::string expandInOrder(std::string text, const DtChain& chain)
+{
+    for (std::size_t link = 0; link < chain.count; ++link)
+        for (int row = 0; chain.links[link] != nullptr && row < chain.links[link]->index().size(); ++row)
+            replaceToken(text, chain.links[link]->index().token(row), *chain.links[link], row);
+    return text;
+}
+} // namespace
+
+DtTokenIndex::DtTokenIndex(std::vector<std::string_view> tokens) : myTokens(std::move(tokens))
+{
+    std::size_t slots = 8;
+    while (slots < 2 * myTokens.size())
+        slots *= 2;
+    mySlots.assign(slots, -1);
+    for (int row = 0; row < size(); ++row)
+    {
+        if (find(token(row)) >= 0)
+            continue;
+        std::size_t slot = hashOf(token(row)) & (slots - 1);
+        while (mySlots[slot] >= 0)
+            slot = (slot + 1) & (slots - 1);
+        mySlots[slot] = row;
+    }
+}
+
+int DtTokenIndex::find(std::string_view text, std::uint32_t hash) const
+{
+    for (std::size_t slot = hash & (mySlots.size() - 1); mySlots[slot] >= 0; slot = (slot + 1) & (mySlots.size() - 1))
+        if (token(mySlots[slot]) == text)
+            return mySlots[slot];
+    return -1;
+}
+
+std::uint32_t DtTokenIndex::hashOf(std::string_view text)
+{
+    constexpr std::uint64_t factor = 0x9E3779B97F4A7C15u;
+    std::uint64_t hash = text.size();
+    for (std::size_t at = 0; at < text.size(); at += sizeof(std::uint64_t))
+    {
+        std::uint64_t word = 0;
+        std::memcpy(&word, text.data() + at, std::min(sizeof word, text.size() - at));
+        hash = (hash ^ word) * factor;
+        hash ^= hash >> 32;
+    }
+    return static_cast<std::uint32_t>(hash);
+}
+
+const DtString& DtTokenSource::value(int row)
+{
+    if (myEntries.empty())
+        myEntries.resize(static_cast<std::size_t>(myIndex->size()));
+    Entry& entry = myEntries[static_cast<std::size_t>(row)];
+    if (entry.generation != myGeneration)
+    {
+        entry.text = workOut(row);
+        entry.generation = myGeneration;
+    }
+    return entry.text;
+}
+
+void DtTokenSource::workOutAll()
+{
+    for (int row = 0; row < myIndex->size(); ++row)
+        value(row);
+}
+
+bool DtHasToken(const DtString& text)
+{
+    return text.stdString().find(theOpening) != std::string::npos;
+}
+
+void DtExpandTokens(DtString& line, DtTokenSource* const* chain, std::size_t count)
+{
+    if (!DtHasToken(line))
+        return;
+    // Taken out while in use: the function of a row may expand a text of its own.
+    static std::string theScratch;
+    std::string result = std::move(theScratch);
+    result.clear();
+    if (expandInOneScan(line.stdString(), {chain, count}, result))
+        DtAssignText(line, result);
+    else
+        DtExpandTokensInOrder(line, chain, count);
+    theScratch = std::move(result);
+}
+
+void DtExpandTokens(DtString& line, std::initializer_list<DtTokenSource*> chain)
+{
+    DtExpandTokens(line, chain.begin(), chain.size());
+}
+
+void DtExpandTokensInOrder(DtString& line, DtTokenSource* const* chain, std::size_t count)
+{
+    line = DtString(expandInOrder(line.stdString(), {chain, count}));
+}
+
+void DtAssignText(DtString& target, std::string_view text)
+{
+    char buffer[512];
+    if (text.size() >= sizeof buffer || text.find('\0') != theNowhere)
+    {
+        target = DtString(std::string(text));
+        return;
+    }
+    text.copy(buffer, text.size());
+    buffer[text.size()] = '\0';
+    target = buffer;
+}

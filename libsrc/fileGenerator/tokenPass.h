@@ -1,0 +1,159 @@
+#ifndef FILE_GENERATOR_TOKEN_PASS_H
+#define FILE_GENERATOR_TOKEN_PASS_H
+
+#include "foundation/string.h"
+
+#include <cstddef>
+#include <cstdint>
+#include <initializer_list>
+#include <string_view>
+#include <vector>
+
+// Ordered tables of template tokens, and the replacement of tokens in a line.
+//
+// A table is an array of rows: the text of a token and a function that works its value out from a context (a writer, an
+// attribute, ...). A DtTokenTable is built once over the array, with an index by text; a DtTokenValues binds the table
+// to one context and remembers the values. DtExpandTokens() takes a chain of those.
+//
+//     const DtTokenRow<DtAttribute> theAttributeRows[] = {
+//         {"<!AttributeType!>", [](const DtAttribute& a) { return a.type(); }},
+//     };
+//     const DtTokenTable<DtAttribute>& attributeTable()
+//     {
+//         static const DtTokenTable<DtAttribute> theTable(theAttributeRows);
+//         return theTable;
+//     }
+//     DtTokenValues<DtAttribute> values(attributeTable(), &attribute);
+//     DtExpandTokens(line, {&values, &classValues});
+
+// One row. The token is written with its brackets, "<!Name!>", and holds neither "<!" nor "!>" inside.
+template <class Context>
+struct DtTokenRow
+{
+    const char* token;
+    DtString (*value)(const Context& context);
+};
+
+// The texts of one table's tokens, in row order, and a look-up by text.
+class DtTokenIndex
+{
+public:
+    explicit DtTokenIndex(std::vector<std::string_view> tokens);
+
+    int size() const { return static_cast<int>(myTokens.size()); }
+    std::string_view token(int row) const { return myTokens[static_cast<std::size_t>(row)]; }
+    // First row with this text, -1 if there is none. The hash is hashOf(text).
+    int find(std::string_view text, std::uint32_t hash) const;
+    int find(std::string_view text) const { return find(text, hashOf(text)); }
+    static std::uint32_t hashOf(std::string_view text);
+
+private:
+    std::vector<std::string_view> myTokens;
+    std::vector<int> mySlots; // open addressing, a power of two; -1 is free
+};
+
+// One link of a chain: a table's index with the values of one context.
+//
+// A value is worked out when it is first asked for and kept until clear(), which costs next to nothing.
+class DtTokenSource
+{
+public:
+    explicit DtTokenSource(const DtTokenIndex& index) : myIndex(&index) {}
+    virtual ~DtTokenSource() = default;
+    DtTokenSource(const DtTokenSource&) = delete;
+    DtTokenSource& operator=(const DtTokenSource&) = delete;
+
+    const DtTokenIndex& index() const { return *myIndex; }
+    // Valid until clear().
+    const DtString& value(int row);
+    // Forgets all values: the context, or something that values are made of, is another one now.
+    void clear() { ++myGeneration; }
+    // Works out every value that is not known yet, in row order, for values whose working out has an effect.
+    void workOutAll();
+
+protected:
+    virtual DtString workOut(int row) const = 0;
+
+private:
+    struct Entry
+    {
+        DtString text;
+        std::uint64_t generation = 0;
+    };
+
+    const DtTokenIndex* myIndex;
+    std::vector<Entry> myEntries; // made at first use
+    std::uint64_t myGeneration = 1;
+};
+
+// Rows with their index. The array has to outlive it.
+template <class Context>
+class DtTokenTable
+{
+public:
+    template <std::size_t N>
+    explicit DtTokenTable(const DtTokenRow<Context> (&rows)[N]) : myRows(rows), myIndex(tokensOf(rows, N))
+    {
+    }
+
+    const DtTokenIndex& index() const { return myIndex; }
+    DtString value(int row, const Context& context) const { return myRows[row].value(context); }
+
+private:
+    static std::vector<std::string_view> tokensOf(const DtTokenRow<Context>* rows, std::size_t count)
+    {
+        std::vector<std::string_view> tokens;
+        for (std::size_t row = 0; row < count; ++row)
+            tokens.emplace_back(rows[row].token);
+        return tokens;
+    }
+
+    const DtTokenRow<Context>* myRows;
+    DtTokenIndex myIndex;
+};
+
+// A table bound to one context. Neither is owned; a source without a context must not be part of a chain.
+template <class Context>
+class DtTokenValues : public DtTokenSource
+{
+public:
+    explicit DtTokenValues(const DtTokenTable<Context>& table, const Context* context = nullptr)
+        : DtTokenSource(table.index()), myTable(&table), myContext(context)
+    {
+    }
+
+    // Binds to another context, or to the same one after it has changed, and forgets all values.
+    void setContext(const Context* context)
+    {
+        myContext = context;
+        clear();
+    }
+    const Context* context() const { return myContext; }
+
+protected:
+    DtString workOut(int row) const override { return myTable->value(row, *myContext); }
+
+private:
+    const DtTokenTable<Context>* myTable;
+    const Context* myContext;
+};
+
+// True when the text holds "<!", without which there is nothing to replace.
+bool DtHasToken(const DtString& text);
+
+// Replaces the tokens of the chain in the line.
+//
+// The outcome is that of one pass after the other: links in chain order, the rows of each from top to bottom, every row
+// replacing all occurrences of its token and going on behind the inserted text. A value that holds the token of a later
+// row is thus replaced in turn, one that holds the token of an earlier row stays, and so does an unknown token. Lines
+// get there in one scan unless what comes out could still hold something to replace. Null links are left out.
+void DtExpandTokens(DtString& line, DtTokenSource* const* chain, std::size_t count);
+void DtExpandTokens(DtString& line, std::initializer_list<DtTokenSource*> chain);
+
+// The passes one after the other, always.
+void DtExpandTokensInOrder(DtString& line, DtTokenSource* const* chain, std::size_t count);
+
+// Makes the text the content of the target, whose memory is used again where it suffices.
+void DtAssignText(DtString& target, std::string_view text);
+
+#endif

@@ -1,0 +1,10 @@
+#ifndef FOUNDATION_XML_TEXT_H
+#define FOUNDATION_XML_TEXT_H
+
+#include "foundation/string.h"
+
+// Any text as one that an XML file can hold: what is not valid UTF-8 is taken as Latin-1 and converted, and characters
+// that XML cannot carry (most control characters, U+FFFE and U+FFFF) are left out with one warning on DtWarn.
+DtString DtXmlText(const DtString& text);
+
+#endif

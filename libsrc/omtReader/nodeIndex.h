@@ -1,0 +1,96 @@
+#ifndef OMT_READER_NODE_INDEX_H
+#define OMT_READER_NODE_INDEX_H
+
+#include "foundation/string.h"
+
+#include <cstddef>
+#include <cstdint>
+#include <functional>
+#include <type_traits>
+#include <utility>
+#include <vector>
+
+// Finds the first node of each key in a list that only grows. Owns nothing.
+//
+// KeyOf gives the key of a node. The index keeps no copy of the keys: it asks the nodes, which therefore outlive it and
+// keep the key they were added with.
+template <typename Node, typename KeyOf>
+class DtNodeIndex
+{
+public:
+    using Key = std::decay_t<decltype(KeyOf()(std::declval<const Node&>()))>;
+
+    struct Entry
+    {
+        Node* node = nullptr;
+        std::size_t order = 0;
+    };
+
+    // order: the node's position in the list. A key that is known already stays with its node.
+    void add(Node* node, std::size_t order)
+    {
+        if (mySlots.size() * 2 <= myCount * 3 + 2)
+            grow();
+        insert({node, order});
+    }
+
+    // Null when no node has the key.
+    const Entry* findEntry(const Key& key) const
+    {
+        if (mySlots.empty())
+            return nullptr;
+        const Entry& entry = mySlots[slotOf(key)];
+        return entry.node != nullptr ? &entry : nullptr;
+    }
+
+    Node* find(const Key& key) const
+    {
+        const Entry* entry = findEntry(key);
+        return entry != nullptr ? entry->node : nullptr;
+    }
+
+private:
+    // The slot of the node with the key, or the free one where it belongs. There is always a free one.
+    std::size_t slotOf(const Key& key) const
+    {
+        const std::uint64_t mixed = std::hash<Key>()(key) * std::uint64_t(0x9E3779B97F4A7C15);
+        std::size_t slot = static_cast<std::size_t>(mixed >> 32) & (mySlots.size() - 1);
+        while (mySlots[slot].node != nullptr && !(KeyOf()(*mySlots[slot].node) == key))
+            slot = (slot + 1) & (mySlots.size() - 1);
+        return slot;
+    }
+
+    void insert(const Entry& entry)
+    {
+        Entry& slot = mySlots[slotOf(KeyOf()(*entry.node))];
+        if (slot.node != nullptr)
+            return;
+        slot = entry;
+        ++myCount;
+    }
+
+    void grow()
+    {
+        std::vector<Entry> old(mySlots.empty() ? 4 : mySlots.size() * 2);
+        old.swap(mySlots);
+        myCount = 0;
+        for (const Entry& entry : old)
+            if (entry.node != nullptr)
+                insert(entry);
+    }
+
+    std::vector<Entry> mySlots; // a power of two, a third of them free at least
+    std::size_t myCount = 0;
+};
+
+// Key of most lists.
+struct DtNameOfNode
+{
+    template <typename Node>
+    const DtString& operator()(const Node& node) const
+    {
+        return node.getName();
+    }
+};
+
+#endif

@@ -1,0 +1,93 @@
+#include "omtReader/xmlDocument.h"
+
+#include "foundation/filename.h"
+#include "foundation/outputStream.h"
+
+#include <libxml/parser.h>
+
+#include <cstring>
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+const int theXmlParseOptions = XML_PARSE_NONET | XML_PARSE_COMPACT;
+
+DtXmlErrors::DtXmlErrors() : myOldContext(xmlStructuredErrorContext), myOldFunction(xmlStructuredError)
+{
+    xmlSetStructuredErrorFunc(this, note);
+}
+
+DtXmlErrors::~DtXmlErrors()
+{
+    xmlSetStructuredErrorFunc(myOldContext, myOldFunction);
+}
+
+void DtXmlErrors::note(void* errors, xmlErrorPtr error)
+{
+    auto& self = *static_cast<DtXmlErrors*>(errors);
+    if (self.myCause.length() > 0 || error->level != XML_ERR_FATAL)
+        return;
+    self.myCause = error->message != nullptr ? error->message : "unreadable";
+    self.myCause.snipBack('\n');
+    self.myLine = error->line;
+}
+
+void DtXmlErrors::report(const char* file)
+{
+    if (myCause.length() > 0)
+        DtWarn("%s:%d: %s\n", file, myLine, myCause.c_str());
+    myCause = DtString();
+}
+
+int DtOpenPlainFile(const char* name)
+{
+    if (!DtFilename(name).isRegularFile()) // asked first: opening a device can have effects
+        return -1;
+    const int descriptor = open(name, O_RDONLY | O_CLOEXEC | O_NONBLOCK);
+    struct stat status = {};
+    if (descriptor >= 0 && (fstat(descriptor, &status) != 0 || !S_ISREG(status.st_mode)))
+    {
+        close(descriptor);
+        return -1;
+    }
+    return descriptor;
+}
+
+DtXmlDocument DtParseXmlDescriptor(int descriptor, const char* name)
+{
+    return DtXmlDocument(xmlReadFd(descriptor, name, nullptr, theXmlParseOptions));
+}
+
+DtXmlDocument DtParseXmlFile(const char* name)
+{
+    const int descriptor = DtOpenPlainFile(name);
+    if (descriptor < 0)
+        return nullptr;
+    DtXmlDocument document = DtParseXmlDescriptor(descriptor, name);
+    close(descriptor);
+    return document;
+}
+
+DtXmlDocument DtParseXmlBuffer(const char* buffer, int size)
+{
+    return DtXmlDocument(xmlReadMemory(buffer, size, nullptr, nullptr, theXmlParseOptions));
+}
+
+xmlNode* DtElementFrom(xmlNode* node)
+{
+    while (node != nullptr && node->type != XML_ELEMENT_NODE)
+        node = node->next;
+    return node;
+}
+
+bool DtHasXmlName(const xmlNode* node, const char* name)
+{
+    return std::strcmp(reinterpret_cast<const char*>(node->name), name) == 0;
+}
+
+const xmlChar* DtXmlText(const xmlNode* first)
+{
+    while (first != nullptr && (first->type == XML_COMMENT_NODE || first->type == XML_PI_NODE))
+        first = first->next;
+    return first != nullptr && first->type != XML_ELEMENT_NODE ? first->content : nullptr;
+}

@@ -1,0 +1,86 @@
+#ifndef OMT_READER_XML_DOCUMENT_H
+#define OMT_READER_XML_DOCUMENT_H
+
+#include "foundation/string.h"
+
+#include <libxml/tree.h>
+#include <libxml/xmlerror.h>
+
+#include <memory>
+
+struct DtFreeXmlDocument
+{
+    void operator()(xmlDoc* document) const { xmlFreeDoc(document); }
+};
+using DtXmlDocument = std::unique_ptr<xmlDoc, DtFreeXmlDocument>;
+
+// Keeps the XML parser from writing to the console for as long as it lives, and remembers what first made a document
+// unusable. One may live inside another; the inner one listens.
+class DtXmlErrors
+{
+public:
+    DtXmlErrors();
+    ~DtXmlErrors();
+    DtXmlErrors(const DtXmlErrors&) = delete;
+    DtXmlErrors& operator=(const DtXmlErrors&) = delete;
+
+    // Writes "file:line: cause" to DtWarn, once; nothing when no document was malformed.
+    void report(const char* file);
+
+private:
+    static void note(void* errors, xmlErrorPtr error);
+
+    void* myOldContext;
+    xmlStructuredErrorFunc myOldFunction;
+    DtString myCause; // empty when all is well
+    int myLine = 0;
+};
+
+// What every parse of a model or of a part of one asks of the parser: no network, no entity replaced and so none
+// loaded, the usual limits on depth and size, short texts kept small.
+extern const int theXmlParseOptions;
+
+// The document of a plain file, null when there is no such file or it is malformed. Nothing else is opened: no URL,
+// device, FIFO or directory, and compressed content is not unpacked.
+DtXmlDocument DtParseXmlFile(const char* name);
+DtXmlDocument DtParseXmlDescriptor(int descriptor, const char* name);
+DtXmlDocument DtParseXmlBuffer(const char* buffer, int size);
+
+// A descriptor of the plain file for reading, -1 when there is none. The caller closes it.
+int DtOpenPlainFile(const char* name);
+
+// The element behind an iterator step: `node` itself when it is an element, else the next sibling that is one.
+xmlNode* DtElementFrom(xmlNode* node);
+bool DtHasXmlName(const xmlNode* node, const char* name);
+// Text of the first child that is no comment or processing instruction; null when there is none or it has no text.
+const xmlChar* DtXmlText(const xmlNode* first);
+
+// The child elements of an element: for (xmlNode* child : DtXmlElements(parent)).
+class DtXmlElements
+{
+public:
+    class Iterator
+    {
+    public:
+        explicit Iterator(xmlNode* node) : myNode(DtElementFrom(node)) {}
+        xmlNode*& operator*() { return myNode; }
+        Iterator& operator++()
+        {
+            myNode = DtElementFrom(myNode->next);
+            return *this;
+        }
+        bool operator!=(const Iterator& other) const { return myNode != other.myNode; }
+
+    private:
+        xmlNode* myNode;
+    };
+
+    explicit DtXmlElements(const xmlNode* parent) : myFirst(parent->children) {}
+    Iterator begin() const { return Iterator(myFirst); }
+    Iterator end() const { return Iterator(nullptr); }
+
+private:
+    xmlNode* myFirst;
+};
+
+#endif

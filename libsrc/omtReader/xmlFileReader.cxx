@@ -1,0 +1,230 @@
+#include "omtReader/xmlFileReader.h"
+
+#include "foundation/assertion.h"
+#include "foundation/outputStream.h"
+#include "foundation/stringUtils.h"
+#include "omtReader/fedReader.h"
+#include "omtReader/standardMim.h"
+#include "omtReader/unreadFormats.h"
+#include "omtReader/xmlDocument.h"
+#include "omtReader/xmlFedReader.h"
+#include "omtReader/xmlHla4FileReader.h"
+
+#include <cstdlib>
+
+namespace
+{
+const char theUnexpectedProblem[] = "Unexpected problem reading fed file\n";
+
+DtFedReadStatus acceptDocument(DtXmlDocument document, const char* noRootText, xmlDoc** result, DtString& error)
+{
+    if (xmlDocGetRootElement(document.get()) == nullptr)
+    {
+        error = noRootText;
+        return DtFedReadBadContent;
+    }
+    *result = document.release();
+    return DtFedReadSuccess;
+}
+} // namespace
+
+DtFedReadStatus DtXMLFileReader::parseFile(const char* name, xmlDoc** doc, DtString& error)
+{
+    DT_ASSERT_AS(*doc == nullptr, "NULL == *newXmlDocTree", __FILE__, __LINE__, __PRETTY_FUNCTION__);
+    DT_ASSERT_AS(name != nullptr, "NULL != fedFileName", __FILE__, __LINE__, __PRETTY_FUNCTION__);
+    DtXmlErrors errors;
+    DtString path(name);
+    DtXmlDocument document = DtParseXmlFile(path);
+    errors.report(path);
+    if (document == nullptr)
+    {
+        path = DtFedReader::pathBelowRtiConfig(name);
+        document = DtParseXmlFile(path);
+        errors.report(path);
+    }
+    if (document == nullptr)
+    {
+        error = std::getenv("RTI_CONFIG") == nullptr ? "RTI_CONFIG environment variable unbound\n" : "";
+        error += DtString("No such FED file: ") + name;
+        return DtFedReadNotFound;
+    }
+    DtVerbose("Reading FED file: %s\n", path.c_str());
+    return acceptDocument(std::move(document),
+                          "DtXmlFedReader:: Bad FED File.\n\tCould not find Document Root in FED File.\n", doc, error);
+}
+
+DtFedReadStatus DtXMLFileReader::parseBuffer(const char* buffer, int size, xmlDoc** doc, DtString& error)
+{
+    DT_ASSERT_AS(*doc == nullptr, "NULL == *newXmlDocTree", __FILE__, __LINE__, __PRETTY_FUNCTION__);
+    DT_ASSERT_AS(buffer != nullptr, "NULL != buffer", __FILE__, __LINE__, __PRETTY_FUNCTION__);
+    DtXmlErrors errors;
+    DtXmlDocument document = DtParseXmlBuffer(buffer, size);
+    errors.report("buffer");
+    if (document == nullptr)
+    {
+        error = "DtXMLFileReader::parseBuffer: Failed to parse buffer";
+        return DtFedReadBadContent;
+    }
+    return acceptDocument(std::move(document),
+                          "DtXmlFedReader:: Bad FED File buffer.\n\tCould not find Document Root in FED File.\n", doc,
+                          error);
+}
+
+DtOMTTree* DtXMLFileReader::readFile(const DtFilename& file, DtExerciseConn* connection)
+{
+    myConnection = connection;
+    xmlDoc* parsed = nullptr;
+    if (!file.isUsable() || parseFile(file, &parsed, myLastError) != DtFedReadSuccess)
+        return nullptr;
+    DtXmlDocument document(parsed);
+    try
+    {
+        xmlNode* root = xmlDocGetRootElement(parsed);
+        const DtFomType type = DtXmlFedReader::fomType(root);
+        const DtString standardName = DtFedReader::standardMimFileName(type);
+        if (type == DtFom1516)
+            DtWarnOfUnreadFormat(type, file);
+        else if (MIMincluded() && !DtContainsSubstring(DtFilename::stripPath(file), standardName))
+        {
+            document.reset(); // the file is parsed again among its modules
+            return readFiles({file, standardName}, type, connection);
+        }
+        return readModule(root, type).release();
+    }
+    catch (...)
+    {
+        myLastError = theUnexpectedProblem;
+        return nullptr;
+    }
+}
+
+// Null for a type that cannot be merged.
+std::unique_ptr<DtOMTTree> DtXMLFileReader::readModule(xmlNode* root, DtFomType type)
+{
+    if (type == DtFomEvolved)
+        return std::unique_ptr<DtOMTTree>(DtXMLEvolvedFileReader(myConnection).processObjectModel(root));
+    if (type == DtFomHla4)
+        return std::unique_ptr<DtOMTTree>(DtXMLHla4FileReader(myConnection).processObjectModel(root));
+    return nullptr;
+}
+
+DtOMTTree* DtXMLFileReader::readFiles(const std::vector<DtFilename>& files, DtFomType type, DtExerciseConn* connection)
+{
+    myConnection = connection;
+    if (files.empty())
+        return nullptr;
+    auto tree = std::make_unique<DtOMTTree>();
+    if (type == DtFomEvolved || type == DtFomHla4)
+        tree->setHlaVersion(static_cast<DtHLAProtocolVersion>(type));
+    else
+        type = DtFedReader::checkFomType(files.front());
+    if (type == DtFomUnknown)
+        return nullptr;
+    myIsFirstModule = true;
+    for (const DtFilename& file : files)
+        if (!mergeModule(*tree, file, type))
+            return nullptr;
+    return tree.release();
+}
+
+// False with the last error set when the module cannot be merged.
+bool DtXMLFileReader::mergeModule(DtOMTTree& tree, const DtFilename& file, DtFomType type)
+{
+    const bool isStandard = file == DtFedReader::standardMimFileName(type);
+    if (isStandard && type == DtFomHla4)
+    {
+        DtWarnOfUnreadFormat(type, file);
+        return true;
+    }
+    xmlDoc* parsed = nullptr;
+    const DtFedReadStatus status = isStandard
+                                       ? parseBuffer(reinterpret_cast<const char*>(theHLAeStandardMIM_xml),
+                                                     static_cast<int>(theHLAeStandardMIM_xml_len), &parsed, myLastError)
+                                       : parseFile(file, &parsed, myLastError);
+    return status == DtFedReadSuccess && mergeDocument(tree, DtXmlDocument(parsed), type);
+}
+
+bool DtXMLFileReader::mergeDocument(DtOMTTree& tree, DtXmlDocument document, DtFomType type)
+{
+    try
+    {
+        xmlNode* root = xmlDocGetRootElement(document.get());
+        if (DtXmlFedReader::fomType(root) != type)
+        {
+            myLastError = "FOM file does not match expected type\n";
+            return false;
+        }
+        std::unique_ptr<DtOMTTree> module = readModule(root, type);
+        if (module == nullptr)
+        {
+            myLastError = "Failed to process object model";
+            return false;
+        }
+        document.reset(); // the largest thing in memory
+        if (myIsFirstModule)
+            tree.takeIdentification(*module);
+        myIsFirstModule = false;
+        tree.merge(module.get());
+        myModules.push_back(std::move(module));
+        return true;
+    }
+    catch (...)
+    {
+        myLastError = theUnexpectedProblem;
+        return false;
+    }
+}
+
+xmlNode* DtXMLFileReader::getNodeByName(xmlNode* parent, const xmlChar* name)
+{
+    if (parent == nullptr)
+        return nullptr;
+    for (xmlNode* child : DtXmlElements(parent))
+        if (xmlStrEqual(child->name, name))
+            return child;
+    return nullptr;
+}
+
+const xmlChar* DtXMLFileReader::childContentByName(xmlNode* parent, const xmlChar* name)
+{
+    const xmlNode* child = getNodeByName(parent, name);
+    return child != nullptr ? DtXmlText(child->children) : nullptr;
+}
+
+namespace
+{
+template <typename Condition>
+bool anyChild(xmlNode* parent, const char* name, Condition condition)
+{
+    for (xmlNode* child : DtXmlElements(parent))
+        if (DtHasXmlName(child, name) && condition(child))
+            return true;
+    return false;
+}
+
+bool hasClassNamed(xmlNode* classes, const char* element, const char* name)
+{
+    return anyChild(classes, element,
+                    [name](xmlNode* node)
+                    {
+                        const xmlChar* text = DtXMLFileReader::childContentByName(node, BAD_CAST "name");
+                        return text != nullptr && xmlStrEqual(text, BAD_CAST name);
+                    });
+}
+} // namespace
+
+bool DtXMLFileReader::isEvolvedFormat(xmlNode*& root)
+{
+    if (root->ns != nullptr && xmlStrEqual(root->ns->href, BAD_CAST xmlns_HLA1516_2010))
+        return true;
+    const auto isEvolved = [](xmlNode* transportation)
+    { return getNodeByName(transportation, BAD_CAST "reliable") != nullptr || DtXmlText(transportation->children); };
+    if (anyChild(root, "transportations", [&](xmlNode* node) { return anyChild(node, "transportation", isEvolved); }))
+        return true;
+    if (getNodeByName(root, BAD_CAST "updateRates") != nullptr)
+        return true;
+    if (xmlNode* objects = getNodeByName(root, BAD_CAST "objects"))
+        return hasClassNamed(objects, "objectClass", "HLAobjectRoot");
+    xmlNode* interactions = getNodeByName(root, BAD_CAST "interactions");
+    return interactions != nullptr && hasClassNamed(interactions, "interactionClass", "HLAinteractionRoot");
+}

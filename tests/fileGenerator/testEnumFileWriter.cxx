@@ -1,0 +1,268 @@
+#include "fileGenerator/enumFileWriter.h"
+#include "registerTest.h"
+#include "writerProbe.h"
+
+#include <QtTest/QtTest>
+
+namespace
+{
+
+using Probe = WriterProbe<DtEnumerationFileWriter>;
+
+DtEnumeration enumeration(const char* name, const char* size = "",
+                          const std::vector<DtEnumerationValue>& values = {
+                              {"One", "1"},
+                              {"Two", "2"}
+})
+{
+    DtEnumeration result(name, values);
+    result.setSize(size);
+    return result;
+}
+
+DtDataTypeMapper& mapper()
+{
+    return *DtDataTypeMapper::instance();
+}
+
+} // namespace
+
+class TestEnumFileWriter : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void enumerationIsMappedToItsClass();
+    void givenSizeIsEntered();
+    void missingSizeIsTold();
+    void sizeComesFromTheName_data();
+    void sizeComesFromTheName();
+    void nameWithoutNumberGivesNoSize_data();
+    void nameWithoutNumberGivesNoSize();
+    void representationOfASize_data();
+    void representationOfASize();
+    void valueNamesLoseSpecialCharacters_data();
+    void valueNamesLoseSpecialCharacters();
+    void loopsRunInOrder();
+    void fieldLoopNeedsAnEnumeration();
+    void tokensStayOutsideTheirLoops();
+    void otherLoopsCount();
+    void baseTokensAreReplacedLast();
+    void templateIsTheSharedOne();
+};
+
+void TestEnumFileWriter::enumerationIsMappedToItsClass()
+{
+    const RunSettings settings;
+    Probe writer("");
+    writer.addEnumeration(enumeration("enumMappedEnum8", "8"));
+    QCOMPARE(text(mapper().quorvexType("enumMappedEnum8")), QString("DtEnumMappedEnum8"));
+    QCOMPARE(text(writer.createEnumerationName(enumeration("aB"))), QString("DtAB"));
+}
+
+void TestEnumFileWriter::givenSizeIsEntered()
+{
+    const RunSettings settings;
+    DtSaved<int> level(DtNotifyLevel, 3);
+    DtCapture info(DtInfo);
+    Probe writer("");
+    writer.addEnumeration(enumeration("EnumGivenEnum32", "8"));
+    QCOMPARE(text(mapper().enumerationSize("EnumGivenEnum32")), QString("8"));
+    QCOMPARE(text(mapper().repForEnumName("EnumGivenEnum32")), QString("DtU8"));
+    QCOMPARE(info.text(), QString());
+}
+
+void TestEnumFileWriter::missingSizeIsTold()
+{
+    const RunSettings settings;
+    DtSaved<int> level(DtNotifyLevel, 3);
+    DtCapture info(DtInfo);
+    Probe writer("");
+    writer.addEnumeration(enumeration("EnumToldEnum16"));
+    QCOMPARE(info.text(),
+             QString("Size of enumeration EnumToldEnum16 not specified.  Will try to parse enumeration name.\n"));
+}
+
+void TestEnumFileWriter::sizeComesFromTheName_data()
+{
+    QTest::addColumn<QString>("name");
+    QTest::addColumn<QString>("size");
+    QTest::addColumn<QString>("representation");
+    QTest::newRow("32") << "EnumAEnum32"
+                        << "32"
+                        << "DtU32";
+    QTest::newRow("last Enum counts") << "EnumBEnum8Enum64"
+                                      << "64"
+                                      << "DtU64";
+    QTest::newRow("odd size") << "EnumCEnum12"
+                              << "12"
+                              << "DtU16";
+    QTest::newRow("no Enum, all digits") << "16"
+                                         << "16"
+                                         << "DtU16";
+    QTest::newRow("hexadecimal is a number") << "EnumDEnum0x20"
+                                             << "0x20"
+                                             << "DtU16";
+    QTest::newRow("text behind the number") << "EnumEEnum8bit"
+                                            << "8bit"
+                                            << "DtU8";
+}
+
+void TestEnumFileWriter::sizeComesFromTheName()
+{
+    const RunSettings settings;
+    QFETCH(QString, name);
+    Probe writer("");
+    writer.addEnumeration(enumeration(name.toUtf8().constData()));
+    QTEST(text(mapper().enumerationSize(name.toUtf8().constData())), "size");
+    QTEST(text(mapper().repForEnumName(name.toUtf8().constData())), "representation");
+}
+
+void TestEnumFileWriter::nameWithoutNumberGivesNoSize_data()
+{
+    QTest::addColumn<QString>("name");
+    QTest::newRow("word") << "EnumFKind";
+    QTest::newRow("ends in Enum") << "EnumGEnum";
+    QTest::newRow("number ahead of Enum") << "EnumH8Enum";
+    QTest::newRow("zero") << "EnumIEnum0";
+    QTest::newRow("number without Enum") << "KindJ8";
+}
+
+void TestEnumFileWriter::nameWithoutNumberGivesNoSize()
+{
+    const RunSettings settings;
+    QFETCH(QString, name);
+    Probe writer("");
+    writer.addEnumeration(enumeration(name.toUtf8().constData()));
+    QCOMPARE(text(mapper().enumerationSize(name.toUtf8().constData())), QString("32")); // of any unknown name
+    QCOMPARE(text(mapper().repForEnumName(name.toUtf8().constData())), QString());
+}
+
+void TestEnumFileWriter::representationOfASize_data()
+{
+    QTest::addColumn<QString>("size");
+    QTest::addColumn<QString>("expected");
+    QTest::newRow("8") << "8"
+                       << "DtU8";
+    QTest::newRow("16") << "16"
+                        << "DtU16";
+    QTest::newRow("32") << "32"
+                        << "DtU32";
+    QTest::newRow("64") << "64"
+                        << "DtU64";
+    QTest::newRow("24") << "24"
+                        << "DtU16";
+    QTest::newRow("abc") << "abc"
+                         << "DtU16";
+    QTest::newRow("empty") << ""
+                           << "DtU16";
+}
+
+void TestEnumFileWriter::representationOfASize()
+{
+    const RunSettings settings;
+    QFETCH(QString, size);
+    QTEST(text(Probe("").getEnumerationRepFromSize(size.toUtf8().constData())), "expected");
+}
+
+void TestEnumFileWriter::valueNamesLoseSpecialCharacters_data()
+{
+    QTest::addColumn<QString>("name");
+    QTest::addColumn<QString>("expected");
+    QTest::newRow("plain") << "Sea_1"
+                           << "Sea_1";
+    QTest::newRow("hyphen") << "F-16"
+                            << "F16";
+    QTest::newRow("all") << "a/b#c-d<e>f&g"
+                         << "abcdefg";
+    QTest::newRow("others stay") << "[A .. B], C"
+                                 << "[A .. B], C";
+    QTest::newRow("nothing left") << "--"
+                                  << "";
+}
+
+void TestEnumFileWriter::valueNamesLoseSpecialCharacters()
+{
+    const RunSettings settings;
+    QFETCH(QString, name);
+    const DtEnumerationValue value(name.toUtf8().constData(), "1");
+    QTEST(text(Probe("").createEnumerationValueName("DtAny", value)), "expected");
+    QTEST(text(Probe("").createEnumerationValueName("", value)), "expected");
+}
+
+void TestEnumFileWriter::loopsRunInOrder()
+{
+    const RunSettings settings;
+    Probe writer("");
+    writer.addEnumeration(enumeration("zuluEnum8", "8",
+                                      {
+                                          {"b-1", "7" },
+                                          {"a",   "-3"}
+    }));
+    writer.addEnumeration(enumeration("AlphaEnum8", "8", {}));
+    QCOMPARE(writer.expand("<#Enumeration><!EnumerationName!>{<#EnumerationField><!EnumerationFieldName!>="
+                           "<!EnumerationFieldValue!> of <!EnumerationName!>,<#>} <#>"),
+             QString("DtZuluEnum8{b1=7 of DtZuluEnum8,a=-3 of DtZuluEnum8,} DtAlphaEnum8{} "));
+}
+
+void TestEnumFileWriter::fieldLoopNeedsAnEnumeration()
+{
+    const RunSettings settings;
+    Probe writer("");
+    writer.addEnumeration(enumeration("EnumKEnum8", "8"));
+    QCOMPARE(writer.expand("<#EnumerationField>x<#>|<#Enumeration><#EnumerationField>x<#><#>|"
+                           "<#EnumerationField>x<#>"),
+             QString("|xx|"));
+}
+
+void TestEnumFileWriter::tokensStayOutsideTheirLoops()
+{
+    const RunSettings settings;
+    Probe writer("");
+    writer.addEnumeration(enumeration("EnumLEnum8", "8", {}));
+    const char* line = "<!EnumerationName!><!EnumerationFieldName!><!EnumerationFieldValue!>";
+    QCOMPARE(writer.decode(line), QString(line));
+    QCOMPARE(writer.expand("<#Enumeration><!EnumerationName!><!EnumerationFieldName!><#>"),
+             QString("DtEnumLEnum8<!EnumerationFieldName!>"));
+    QCOMPARE(writer.decode(line), QString(line));
+}
+
+void TestEnumFileWriter::otherLoopsCount()
+{
+    const RunSettings settings;
+    Probe writer("");
+    QCOMPARE(writer.expand("<#3>x<#><#Enumerations>y<#>"), QString("xxx"));
+}
+
+void TestEnumFileWriter::baseTokensAreReplacedLast()
+{
+    const RunSettings settings;
+    Probe writer("");
+    writer.addEnumeration(enumeration("EnumMEnum8", "8",
+                                      {
+                                          {"<!FomFileName!>", "<!FomFileName!>"}
+    }));
+    DtOMTEnvWriter::setBaseName("my-model.xml");
+    QCOMPARE(writer.expand("<#Enumeration><#EnumerationField><!EnumerationFieldName!> <!EnumerationFieldValue!><#><#>"),
+             QString("!FomFileName! mymodel"));
+}
+
+void TestEnumFileWriter::templateIsTheSharedOne()
+{
+    const RunSettings settings;
+    const QTemporaryDir directory;
+    writeTextFile(directory.filePath("data/templates/enums.tlt"), "unique");
+    QDir(directory.path()).mkpath("work");
+    const DtInDirectory inWork(directory.filePath("work"));
+    struct Opened : Probe
+    {
+        using Probe::Probe;
+        bool hasTemplate() const { return myTemplateFile != nullptr; }
+    };
+    QVERIFY(Opened("DataTypes/mEnums.h").hasTemplate());
+    QDir::setCurrent(directory.path());
+    QVERIFY(!Opened("DataTypes/mEnums.h").hasTemplate());
+}
+
+QX_REGISTER_TEST(TestEnumFileWriter)
+#include "testEnumFileWriter.moc"

@@ -1,0 +1,878 @@
+#include "registerTest.h"
+
+#include "generatorFixture.h"
+
+#include "fileGenerator/hobjDecoderSourceWriter.h"
+#include "fileGenerator/hobjEncoderHeaderWriter.h"
+#include "fileGenerator/hobjEncoderSourceWriter.h"
+#include "fileGenerator/objFileGenerator.h"
+#include "foundation/exception.h"
+
+#include <QtTest/QtTest>
+
+#include <sstream>
+#include <stdexcept>
+
+// The files of one object class: which are made, what their writers know, how datatypes are resolved.
+class TestObjFileGenerator : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init();
+    void cleanup();
+    void classHasTwelveFiles();
+    void classHasTwentyEightFilesWithDis();
+    void everyFileComesFromItsTemplate_data();
+    void everyFileComesFromItsTemplate();
+    void writersStandInTheOrderOfTheTable();
+    void filesExistFromConstruction();
+    void nameIsListedBeforeItsWriterIsMade();
+    void writerNames_data();
+    void writerNames();
+    void writerBases_data();
+    void writerBases();
+    void ownTokens_data();
+    void ownTokens();
+    void fullNameLosesRootInSomeFilesOnly();
+    void prefixAndIncludePathEnterTheNames();
+    void pduKindReachesEveryFile();
+    void pduFileIsLoweredButItsIncludeIsNot();
+    void dLetterHeadersAreWrittenByNoRow();
+    void projectReachesTheWriters();
+    void cancelStopsBehindTheFileAtHand();
+    void everyWriterCompilesIncludesBeforeItWrites();
+    void attributeOfMappedTypeKeepsItsCardinality();
+    void openArrayCardinalityReachesTheAttribute();
+    void byteOrderOfDatatypeReachesTheWireType();
+    void lastRepresentationReachesTheAttribute();
+    void valueTypes_data();
+    void valueTypes();
+    void walkOverSimpleTypesAddsMapping();
+    void oldModelResolvesNothing();
+    void innermostCardinalityOfNestedArraysWins();
+    void cycleOfDatatypesEndsSilently_data();
+    void cycleOfDatatypesEndsSilently();
+    void longChainOfSimpleTypesIsWalked();
+    void customCodeReplacesGeneratedCode();
+    void attributeWithoutCustomCodeKeepsOutputToken();
+    void customCodeStaysOutsideTheLoop();
+    void customCodeIsNotScannedAgain();
+    void customGenerationReturnsTheFileOfTheRecord();
+    void objectOfAWriterCanBeReplaced();
+    void guardPropagatesDtException();
+    void guardTurnsStdExceptionIntoDtException();
+    void guardTurnsUnknownExceptionIntoItsOwnType();
+    void nameHelpersGiveTheFileNames();
+    void knownTokensHoldCustomGeneration();
+
+private:
+    std::unique_ptr<DtGeneratorFixture> myFixture;
+};
+
+namespace
+{
+const QStringList theHlaFiles = {"tankEncoderHLA.h",         "tankEncoderHLA.cxx",   "tankStateRepository.cxx",
+                                 "tankStateRepository.h",    "tankPublisherHLA.h",   "tankPublisherHLA.cxx",
+                                 "reflectedTankHLA.h",       "reflectedTankHLA.cxx", "reflectedTankListHLA.h",
+                                 "reflectedTankListHLA.cxx", "tankDecoderHLA.h",     "tankDecoderHLA.cxx"};
+const QStringList theDisFiles = {
+    "reflectedTankList.h",      "tankPublisher.h",    "reflectedTank.h",      "tankPublisherDIS.h",
+    "tankPublisherDIS.cxx",     "tankEncoderDIS.h",   "tankEncoderDIS.cxx",   "tankDecoderDIS.h",
+    "tankDecoderDIS.cxx",       "reflectedTankDIS.h", "reflectedTankDIS.cxx", "reflectedTankListDIS.h",
+    "reflectedTankListDIS.cxx", "tankPdu.h",          "tankPdu.cxx",          "netTankPdu.h"};
+const QStringList theHlaTemplates = {"hobjEncHeader.tlt",  "hobjEncSource.tlt", "stateRepSource.tlt",
+                                     "stateRepHeader.tlt", "hpubHeader.tlt",    "hpubSource.tlt",
+                                     "hrefObjHeader.tlt",  "hrefObjSource.tlt", "hrefListHeader.tlt",
+                                     "hrefListSource.tlt", "hobjDecHeader.tlt", "hobjDecSource.tlt"};
+const QStringList theDisTemplates = {
+    "refListHeader.tlt",  "pubHeader.tlt",     "refObjHeader.tlt",  "dpubHeader.tlt",
+    "dpubSource.tlt",     "dobjEncHeader.tlt", "dobjEncSource.tlt", "dobjDecHeader.tlt",
+    "dobjDecSource.tlt",  "drefObjHeader.tlt", "drefObjSource.tlt", "drefListHeader.tlt",
+    "drefListSource.tlt", "objPduHeader.tlt",  "objPduSource.tlt",  "netObjPduHeader.tlt"};
+
+QStringList sorted(QStringList names)
+{
+    names.sort();
+    return names;
+}
+
+QStringList listed(const std::set<DtString>& names)
+{
+    QStringList list;
+    for (const DtString& name : names)
+        list += name.c_str();
+    return list;
+}
+
+// A generator whose writers can be looked at and exchanged.
+class OpenGenerator : public DtObjectFileGenerator
+{
+public:
+    using DtObjectFileGenerator::DtObjectFileGenerator;
+    std::list<std::unique_ptr<DtClassFileWriter>>& writers() { return myWriters; }
+};
+
+// Notes its calls in a text; may press Cancel while it writes.
+class NotingWriter : public DtClassFileWriter
+{
+public:
+    NotingWriter(QString& notes, bool cancels) : DtClassFileWriter("", ""), myNotes(notes), myCancels(cancels) {}
+    void compileIncludeList() override { myNotes += "i"; }
+    void writeFile() override
+    {
+        myNotes += "w";
+        if (myCancels)
+            DtQtProgressMeter::instance()->setIsCancelled(true);
+    }
+
+private:
+    QString& myNotes;
+    bool myCancels;
+};
+
+DtOmtObject tank()
+{
+    DtOmtObject object;
+    object.setFullName("HLAobjectRoot.Vehicle.Tank");
+    object.setName("Tank");
+    return object;
+}
+
+DtOmtProject noProject()
+{
+    return DtOmtProject();
+}
+} // namespace
+
+void TestObjFileGenerator::init()
+{
+    myFixture = std::make_unique<DtGeneratorFixture>();
+}
+
+void TestObjFileGenerator::cleanup()
+{
+    myFixture.reset();
+}
+
+void TestObjFileGenerator::classHasTwelveFiles()
+{
+    std::set<DtString> files;
+    DtObjectFileGenerator("Tank", files, false, false, tank(), noProject()).generateFiles();
+    QCOMPARE(listed(files), sorted(theHlaFiles));
+    QCOMPARE(myFixture->outputs(), sorted(theHlaFiles));
+}
+
+void TestObjFileGenerator::classHasTwentyEightFilesWithDis()
+{
+    std::set<DtString> files;
+    DtObjectFileGenerator("Tank", files, false, true, tank(), noProject()).generateFiles();
+    QCOMPARE(files.size(), std::size_t(28));
+    QCOMPARE(myFixture->outputs(), sorted(theHlaFiles + theDisFiles));
+}
+
+void TestObjFileGenerator::everyFileComesFromItsTemplate_data()
+{
+    QTest::addColumn<QString>("file");
+    QTest::addColumn<QString>("templateName");
+    const QStringList files = theHlaFiles + theDisFiles;
+    const QStringList templates = theHlaTemplates + theDisTemplates;
+    QCOMPARE(files.size(), templates.size());
+    for (int i = 0; i < files.size(); ++i)
+        QTest::newRow(qPrintable(files[i])) << files[i] << templates[i];
+}
+
+void TestObjFileGenerator::everyFileComesFromItsTemplate()
+{
+    QFETCH(QString, file);
+    QFETCH(QString, templateName);
+    myFixture->writeTemplate(templateName, "from " + templateName.toUtf8());
+    std::set<DtString> files;
+    DtObjectFileGenerator("Tank", files, false, true, tank(), noProject()).generateFiles();
+    QCOMPARE(myFixture->output(file), "from " + templateName);
+}
+
+void TestObjFileGenerator::writersStandInTheOrderOfTheTable()
+{
+    std::set<DtString> files;
+    OpenGenerator generator("Tank", files, false, true, tank(), noProject());
+    QStringList names;
+    for (const auto& writer : generator.writers())
+        names += writer->fileName().c_str();
+    QCOMPARE(names, theHlaFiles + theDisFiles);
+}
+
+void TestObjFileGenerator::filesExistFromConstruction()
+{
+    std::set<DtString> files;
+    const DtObjectFileGenerator generator("Tank", files, false, false, tank(), noProject());
+    QCOMPARE(myFixture->outputs(), sorted(theHlaFiles));
+    QCOMPARE(myFixture->output("tankEncoderHLA.h"), QString());
+}
+
+void TestObjFileGenerator::nameIsListedBeforeItsWriterIsMade()
+{
+    // A name with ".." leads out of the output directory: it gets no file, but it is listed.
+    const DtCapture capture(DtWarn);
+    std::set<DtString> files;
+    const DtObjectFileGenerator generator("../../Tank", files, false, false, tank(), noProject());
+    QVERIFY(files.count("../../TankEncoderHLA.h") + files.count("../../tankEncoderHLA.h") == 1);
+    QVERIFY(!QFile::exists(myFixture->scratch("../TankEncoderHLA.h")));
+}
+
+void TestObjFileGenerator::writerNames_data()
+{
+    QTest::addColumn<QString>("templateName");
+    QTest::addColumn<QString>("file");
+    QTest::addColumn<QString>("className");
+    QTest::newRow("encoder header") << "hobjEncHeader.tlt"
+                                    << "tankEncoderHLA.h"
+                                    << "DtTankEncoder";
+    QTest::newRow("encoder source") << "hobjEncSource.tlt"
+                                    << "tankEncoderHLA.cxx"
+                                    << "DtTankEncoder";
+    QTest::newRow("state source") << "stateRepSource.tlt"
+                                  << "tankStateRepository.cxx"
+                                  << "DtTankStateRepository";
+    QTest::newRow("state header") << "stateRepHeader.tlt"
+                                  << "tankStateRepository.h"
+                                  << "DtTankStateRepository";
+    QTest::newRow("publisher header") << "hpubHeader.tlt"
+                                      << "tankPublisherHLA.h"
+                                      << "DtTankPublisher";
+    QTest::newRow("publisher source") << "hpubSource.tlt"
+                                      << "tankPublisherHLA.cxx"
+                                      << "DtTankPublisher";
+    QTest::newRow("object header") << "hrefObjHeader.tlt"
+                                   << "reflectedTankHLA.h"
+                                   << "DtReflectedTank";
+    QTest::newRow("object source") << "hrefObjSource.tlt"
+                                   << "reflectedTankHLA.cxx"
+                                   << "DtReflectedTank";
+    QTest::newRow("list header") << "hrefListHeader.tlt"
+                                 << "reflectedTankListHLA.h"
+                                 << "DtReflectedTankList";
+    QTest::newRow("list source") << "hrefListSource.tlt"
+                                 << "reflectedTankListHLA.cxx"
+                                 << "DtReflectedTankList";
+    QTest::newRow("decoder header") << "hobjDecHeader.tlt"
+                                    << "tankDecoderHLA.h"
+                                    << "DtTankDecoder";
+    QTest::newRow("decoder source") << "hobjDecSource.tlt"
+                                    << "tankDecoderHLA.cxx"
+                                    << "DtTankDecoder";
+    // The front header of the list is named like the publisher.
+    QTest::newRow("list front") << "refListHeader.tlt"
+                                << "reflectedTankList.h"
+                                << "DtTankPublisher";
+    QTest::newRow("publisher front") << "pubHeader.tlt"
+                                     << "tankPublisher.h"
+                                     << "Tank";
+    QTest::newRow("object front") << "refObjHeader.tlt"
+                                  << "reflectedTank.h"
+                                  << "DtTankReflectedObject";
+    QTest::newRow("DIS publisher") << "dpubHeader.tlt"
+                                   << "tankPublisherDIS.h"
+                                   << "DtTankPublisher";
+    QTest::newRow("DIS publisher source") << "dpubSource.tlt"
+                                          << "tankPublisherDIS.cxx"
+                                          << "DtTankPublisher";
+    QTest::newRow("DIS encoder") << "dobjEncHeader.tlt"
+                                 << "tankEncoderDIS.h"
+                                 << "Tank";
+}
+
+void TestObjFileGenerator::writerNames()
+{
+    QFETCH(QString, templateName);
+    QFETCH(QString, file);
+    QFETCH(QString, className);
+    myFixture->writeTemplate(templateName, "<!ClassName!>");
+    std::set<DtString> files;
+    DtObjectFileGenerator("Tank", files, false, true, tank(), noProject()).generateFiles();
+    QCOMPARE(myFixture->output(file), className);
+}
+
+void TestObjFileGenerator::writerBases_data()
+{
+    QTest::addColumn<QString>("templateName");
+    QTest::addColumn<QString>("file");
+    QTest::addColumn<QString>("top");
+    QTest::addColumn<QString>("below");
+    QTest::newRow("encoder header") << "hobjEncHeader.tlt"
+                                    << "tankEncoderHLA.h"
+                                    << "DtHlaStateEncoder <qx/hlaStateEncoder.h>"
+                                    << "DtVehicleEncoder \"vehicleEncoderHLA.h\"";
+    QTest::newRow("encoder source") << "hobjEncSource.tlt"
+                                    << "tankEncoderHLA.cxx"
+                                    << "DtHlaStateEncoder "
+                                    << "DtVehicleEncoder ";
+    QTest::newRow("decoder header") << "hobjDecHeader.tlt"
+                                    << "tankDecoderHLA.h"
+                                    << "DtHlaStateDecoder <qx/hlaStateDecoder.h>"
+                                    << "DtVehicleDecoder \"vehicleDecoderHLA.h\"";
+    QTest::newRow("decoder source") << "hobjDecSource.tlt"
+                                    << "tankDecoderHLA.cxx"
+                                    << "DtHlaStateDecoder "
+                                    << "DtVehicleDecoder ";
+    QTest::newRow("state header") << "stateRepHeader.tlt"
+                                  << "tankStateRepository.h"
+                                  << "DtStateRepository <qx/stateRepository.h>"
+                                  << "DtVehicleStateRepository \"vehicleStateRepository.h\"";
+    QTest::newRow("state source") << "stateRepSource.tlt"
+                                  << "tankStateRepository.cxx"
+                                  << "DtStateRepository <qx/stateRepository.h>"
+                                  << "DtVehicleStateRepository \"vehicleStateRepository.h\"";
+    for (const QString name : {"hpubHeader.tlt tankPublisherHLA.h", "hrefObjHeader.tlt reflectedTankHLA.h",
+                               "hrefListSource.tlt reflectedTankListHLA.cxx", "dpubHeader.tlt tankPublisherDIS.h",
+                               "refListHeader.tlt reflectedTankList.h", "refObjHeader.tlt reflectedTank.h"})
+        QTest::newRow(qPrintable(name)) << name.section(' ', 0, 0) << name.section(' ', 1) << " "
+                                        << " ";
+}
+
+void TestObjFileGenerator::writerBases()
+{
+    QFETCH(QString, templateName);
+    QFETCH(QString, file);
+    QFETCH(QString, top);
+    QFETCH(QString, below);
+    myFixture->writeTemplate(templateName, "<!BaseClassName!> <!BaseClassHeader!>");
+    for (const bool isTop : {true, false})
+    {
+        {
+            std::set<DtString> files;
+            DtObjectFileGenerator generator("Tank", files, false, true, tank(), noProject());
+            generator.setParentClassName(isTop ? "ObjectRoot" : "Vehicle");
+            generator.generateFiles();
+        }
+        QCOMPARE(myFixture->output(file), isTop ? top : below);
+    }
+}
+
+void TestObjFileGenerator::ownTokens_data()
+{
+    QTest::addColumn<QString>("templateName");
+    QTest::addColumn<QString>("file");
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<QString>("expected");
+    QTest::newRow("object header") << "hrefObjHeader.tlt"
+                                   << "reflectedTankHLA.h"
+                                   << "<!ObjName!> <!CbName!>"
+                                   << "Tank DtXTankCallbackFunction";
+    QTest::newRow("object source") << "hrefObjSource.tlt"
+                                   << "reflectedTankHLA.cxx"
+                                   << "<!ObjName!> <!CbName!>"
+                                   << "Tank DtXTankCallbackFunction";
+    QTest::newRow("list header") << "hrefListHeader.tlt"
+                                 << "reflectedTankListHLA.h"
+                                 << "<!CbName!> <!ObjName!> <!RefObjName!> <!RefObjHeader!>"
+                                 << "DtXTankCallbackFunction Tank DtReflectedXTank kit/reflectedTankHLA.h";
+    QTest::newRow("list source") << "hrefListSource.tlt"
+                                 << "reflectedTankListHLA.cxx"
+                                 << "<!CbName!> <!ObjName!> <!RefObjName!> <!RefObjHeader!>"
+                                 << "DtXTankCallbackFunction Tank DtReflectedXTank <!RefObjHeader!>";
+    QTest::newRow("list front") << "refListHeader.tlt"
+                                << "reflectedTankList.h"
+                                << "<!HlaRefList!> <!DisRefList!>"
+                                << "reflectedTankListHLA reflectedTankListDIS";
+    QTest::newRow("object front") << "refObjHeader.tlt"
+                                  << "reflectedTank.h"
+                                  << "<!HlaRefObj!> <!DisRefObj!>"
+                                  << "reflectedTankHLA reflectedTankDIS";
+    QTest::newRow("publisher knows none") << "hpubHeader.tlt"
+                                          << "tankPublisherHLA.h"
+                                          << "<!ObjName!>"
+                                          << "<!ObjName!>";
+}
+
+void TestObjFileGenerator::ownTokens()
+{
+    QFETCH(QString, templateName);
+    QFETCH(QString, file);
+    QFETCH(QString, text);
+    QFETCH(QString, expected);
+    DtOMTEnvWriter::setPrefixName("X");
+    DtOMTEnvWriter::setIncludeName("kit");
+    myFixture->writeTemplate(templateName, text.toUtf8());
+    std::set<DtString> files;
+    DtObjectFileGenerator("Tank", files, false, true, tank(), noProject()).generateFiles();
+    QCOMPARE(myFixture->output(file.endsWith(".h") ? "kit/" + file : file), expected);
+}
+
+void TestObjFileGenerator::fullNameLosesRootInSomeFilesOnly()
+{
+    for (const QString& name : theHlaTemplates + theDisTemplates)
+        myFixture->writeTemplate(name, "<!FullClassName!>");
+    {
+        std::set<DtString> files;
+        DtObjectFileGenerator generator("Tank", files, false, true, tank(), noProject());
+        generator.setFullClassName("HLAobjectRoot.Vehicle.Tank");
+        generator.generateFiles();
+    }
+    QStringList withoutRoot;
+    for (const QString& file : theHlaFiles + theDisFiles)
+    {
+        if (myFixture->output(file) == "Vehicle.Tank")
+            withoutRoot += file;
+        else
+            QCOMPARE(myFixture->output(file), QString("HLAobjectRoot.Vehicle.Tank"));
+    }
+    QCOMPARE(withoutRoot, QStringList({"tankStateRepository.cxx", "tankStateRepository.h", "tankPublisherHLA.h",
+                                       "tankPublisherHLA.cxx", "reflectedTankListHLA.cxx", "reflectedTankList.h",
+                                       "reflectedTank.h", "tankPublisherDIS.h", "tankPublisherDIS.cxx"}));
+}
+
+void TestObjFileGenerator::prefixAndIncludePathEnterTheNames()
+{
+    DtOMTEnvWriter::setPrefixName("X");
+    DtOMTEnvWriter::setIncludeName("kit");
+    myFixture->writeTemplate("hobjEncHeader.tlt", "<!ClassName!> <!BaseClassName!> <!BaseClassHeader!>");
+    {
+        std::set<DtString> files;
+        DtObjectFileGenerator generator("Tank", files, false, false, tank(), noProject());
+        generator.setParentClassName("Vehicle");
+        generator.generateFiles();
+    }
+    QCOMPARE(myFixture->output("kit/tankEncoderHLA.h"),
+             QString("DtXTankEncoder DtXVehicleEncoder \"kit/vehicleEncoderHLA.h\""));
+}
+
+void TestObjFileGenerator::pduKindReachesEveryFile()
+{
+    for (const QString& name : theHlaTemplates)
+        myFixture->writeTemplate(name, "<!PduKind!>");
+    {
+        std::set<DtString> files;
+        DtObjectFileGenerator generator("Tank", files, false, false, tank(), noProject());
+        generator.setPduKind(42);
+        generator.generateFiles();
+    }
+    for (const QString& file : theHlaFiles)
+        QCOMPARE(myFixture->output(file), QString("42"));
+}
+
+void TestObjFileGenerator::pduFileIsLoweredButItsIncludeIsNot()
+{
+    myFixture->writeTemplate("objPduSource.tlt", "<!PduHeader!>.h");
+    std::set<DtString> files;
+    DtObjectFileGenerator("Tank", files, false, true, tank(), noProject()).generateFiles();
+    QCOMPARE(myFixture->output("tankPdu.cxx"), QString("TankPdu.h"));
+    QVERIFY(!myFixture->hasOutput("TankPdu.h"));
+}
+
+void TestObjFileGenerator::dLetterHeadersAreWrittenByNoRow()
+{
+    myFixture->writeTemplate("dobjEncHeader.tlt", "<!BaseEncoderClassHeader!>");
+    {
+        std::set<DtString> files;
+        DtObjectFileGenerator generator("Tank", files, false, true, tank(), noProject());
+        generator.setParentClassName("Tank");
+        generator.generateFiles();
+    }
+    QCOMPARE(myFixture->output("tankEncoderDIS.h"), QString("\"dtankEncoder.h\""));
+    QVERIFY(!myFixture->hasOutput("dtankEncoder.h"));
+}
+
+void TestObjFileGenerator::projectReachesTheWriters()
+{
+    DtOmtProject project;
+    project.addFomDefFile("first.xml", "dir");
+    project.addFomDefFile("second.xml", "dir");
+    myFixture->writeTemplate("hpubHeader.tlt", "<!FedFileName!><#FomModules>,<!FomModule!><#>");
+    std::set<DtString> files;
+    DtObjectFileGenerator("Tank", files, false, false, tank(), project).generateFiles();
+    QCOMPARE(myFixture->output("tankPublisherHLA.h"), QString("first.xml,second.xml"));
+}
+
+void TestObjFileGenerator::cancelStopsBehindTheFileAtHand()
+{
+    std::set<DtString> files;
+    OpenGenerator generator("Tank", files, false, false, tank(), noProject());
+    generator.writers().clear();
+    QString notes;
+    for (int i = 1; i <= 12; ++i)
+        generator.writers().push_back(std::make_unique<NotingWriter>(notes, i == 5));
+    generator.generateFiles();
+    QCOMPARE(notes, QString("iw").repeated(5));
+}
+
+void TestObjFileGenerator::everyWriterCompilesIncludesBeforeItWrites()
+{
+    std::set<DtString> files;
+    OpenGenerator generator("Tank", files, false, false, tank(), noProject());
+    generator.writers().clear();
+    QString notes;
+    for (int i = 0; i < 3; ++i)
+        generator.writers().push_back(std::make_unique<NotingWriter>(notes, false));
+    generator.generateFiles();
+    QCOMPARE(notes, QString("iwiwiw"));
+}
+
+void TestObjFileGenerator::attributeOfMappedTypeKeepsItsCardinality()
+{
+    DtDataTypeMapper::instance()->addMapping("OgMapped", "DtU32");
+    myFixture->writeTemplate("stateRepHeader.tlt", "<#Attributes><!AttributeName!> <!AttributeDatatype!> "
+                                                   "<!AttributeFomDatatype!> <!AttributeNumCardinality!>;<#>");
+    {
+        std::set<DtString> files;
+        DtObjectFileGenerator generator("Tank", files, false, false, tank(), noProject());
+        generator.addAttribute("speed", "OgMapped", "3");
+        generator.addAttribute("fuel", "OgMapped", "1");
+        generator.generateFiles();
+    }
+    QCOMPARE(myFixture->output("tankStateRepository.h"), QString("Speed DtU32 OgMapped 3;Fuel DtU32 OgMapped 1;"));
+}
+
+void TestObjFileGenerator::openArrayCardinalityReachesTheAttribute()
+{
+    DtDataTypeMapper& mapper = *DtDataTypeMapper::instance();
+    mapper.addMapping("OgElement", "DtU16");
+    mapper.addArrayTypeToRepresentationMapping("OgOpen", "OgElement");
+    mapper.addArrayTypeToCardinalityMapping("OgOpen", "Dynamic");
+    std::set<DtString> files;
+    OpenGenerator generator("Tank", files, false, false, tank(), noProject());
+    generator.addAttribute("speeds", "OgOpen", "1");
+    for (const auto& writer : generator.writers())
+    {
+        QCOMPARE(writer->attributeList().size(), std::size_t(1));
+        QCOMPARE(writer->attributeList().front().cardinality(), DtString("0+"));
+        QVERIFY(writer->attributeList().front().hasPlusCardinality());
+        QCOMPARE(writer->attributeList().front().type(), DtString("DtU16"));
+    }
+}
+
+void TestObjFileGenerator::byteOrderOfDatatypeReachesTheWireType()
+{
+    DtDataTypeMapper::instance()->addMapping("HLAinteger32LE", "DtInt32");
+    std::set<DtString> files;
+    OpenGenerator generator("Tank", files, false, false, tank(), noProject());
+    generator.addAttribute("speed", "HLAinteger32LE", "1");
+    QCOMPARE(generator.writers().front()->attributeList().front().netType(), DtString("DtLEInt32"));
+}
+
+void TestObjFileGenerator::lastRepresentationReachesTheAttribute()
+{
+    DtDataTypeMapper& mapper = *DtDataTypeMapper::instance();
+    mapper.addSimpleTypeToRepresentationMapping("OgSpeed", "OgUnit");
+    mapper.addSimpleTypeToRepresentationMapping("OgUnit", "HLAinteger16LE");
+    std::set<DtString> files;
+    OpenGenerator generator("Tank", files, false, false, tank(), noProject());
+    generator.addAttribute("speed", "OgSpeed", "1");
+    QCOMPARE(generator.writers().front()->attributeList().front().datatypeDatatype(), DtString("HLAinteger16LE"));
+}
+
+void TestObjFileGenerator::valueTypes_data()
+{
+    QTest::addColumn<QString>("datatype");
+    QTest::addColumn<QString>("type");
+    QTest::addColumn<QString>("cardinality");
+    QTest::newRow("unknown, in silence") << "OgUnknown"
+                                         << "OgUnknown"
+                                         << "1";
+    QTest::newRow("simple over mapped") << "OgSimple"
+                                        << "DtU32"
+                                        << "1";
+    QTest::newRow("simple over simple") << "OgSimpleOfSimple"
+                                        << "DtU32"
+                                        << "1";
+    QTest::newRow("simple over unknown") << "OgLoneSimple"
+                                         << "OgUnknown"
+                                         << "1";
+    QTest::newRow("array of mapped") << "OgArray"
+                                     << "DtU32"
+                                     << "7";
+    QTest::newRow("open array of mapped") << "OgOpenArray"
+                                          << "DtU32"
+                                          << "0+";
+    QTest::newRow("array of simple over mapped") << "OgArrayOfSimple"
+                                                 << "DtU32"
+                                                 << "5";
+    QTest::newRow("array of simple without target") << "OgArrayOfLoneSimple"
+                                                    << "OgArrayOfLoneSimple"
+                                                    << "4";
+    QTest::newRow("array of unknown") << "OgArrayOfUnknown"
+                                      << "OgArrayOfUnknown"
+                                      << "3";
+    QTest::newRow("simple over array of unknown") << "OgSimpleOfArray"
+                                                  << "OgArrayOfUnknown"
+                                                  << "3";
+}
+
+void TestObjFileGenerator::valueTypes()
+{
+    QFETCH(QString, datatype);
+    QFETCH(QString, type);
+    QFETCH(QString, cardinality);
+    DtDataTypeMapper& mapper = *DtDataTypeMapper::instance();
+    mapper.addMapping("OgBase", "DtU32");
+    for (const auto& [name, representation] :
+         {std::pair("OgSimple", "OgBase"), std::pair("OgSimpleOfSimple", "OgSimple"),
+          std::pair("OgLoneSimple", "OgUnknown"), std::pair("OgSimpleOfArray", "OgArrayOfUnknown")})
+        mapper.addSimpleTypeToRepresentationMapping(name, representation);
+    struct Array
+    {
+        const char *name, *element, *cardinality;
+    };
+    for (const Array& array : {
+             Array{"OgArray",             "OgBase",       "7"      },
+             Array{"OgOpenArray",         "OgBase",       "Dynamic"},
+             Array{"OgArrayOfSimple",     "OgSimple",     "5"      },
+             Array{"OgArrayOfLoneSimple", "OgLoneSimple", "4"      },
+             Array{"OgArrayOfUnknown",    "OgUnknown",    "3"      }
+    })
+    {
+        mapper.addArrayTypeToRepresentationMapping(array.name, array.element);
+        mapper.addArrayTypeToCardinalityMapping(array.name, array.cardinality);
+    }
+    const DtCapture capture(DtWarn);
+    std::set<DtString> files;
+    DtObjectFileGenerator generator("Tank", files, false, false, tank(), noProject());
+    DtString foundCardinality = "1";
+    DtString foundType;
+    generator.determineValueType(qPrintable(datatype), foundCardinality, foundType);
+    QCOMPARE(QString(foundType.c_str()), type);
+    QCOMPARE(QString(foundCardinality.c_str()), cardinality);
+    QCOMPARE(capture.text(), QString());
+}
+
+void TestObjFileGenerator::walkOverSimpleTypesAddsMapping()
+{
+    DtDataTypeMapper& mapper = *DtDataTypeMapper::instance();
+    mapper.addMapping("OgBase", "DtU32");
+    mapper.addSimpleTypeToRepresentationMapping("OgSimple", "OgBase");
+    mapper.addSimpleTypeToRepresentationMapping("OgSimpleOfSimple", "OgSimple");
+    std::set<DtString> files;
+    DtObjectFileGenerator generator("Tank", files, false, false, tank(), noProject());
+    generator.addAttribute("speed", "OgSimpleOfSimple", "1");
+    // The last simple type of the walk is mapped, the one it started from is not.
+    QCOMPARE(mapper.quorvexType("OgSimple"), DtString("DtU32"));
+    QVERIFY(!mapper.hasMapping("OgSimpleOfSimple"));
+}
+
+void TestObjFileGenerator::oldModelResolvesNothing()
+{
+    DtOMTEnvWriter::setFomDefinitionFileName("model.omt");
+    DtDataTypeMapper& mapper = *DtDataTypeMapper::instance();
+    mapper.addMapping("OgBase", "DtU32");
+    mapper.addSimpleTypeToRepresentationMapping("OgSimple", "OgBase");
+    const DtCapture capture(DtWarn);
+    std::set<DtString> files;
+    OpenGenerator generator("Tank", files, false, false, tank(), noProject());
+    generator.addAttribute("speed", "OgSimple", "1");
+    generator.addAttribute("fuel", "OgBase", "1");
+    const std::vector<DtAttribute>& attributes = generator.writers().front()->attributeList();
+    QCOMPARE(attributes.front().type(), DtString("OgSimple"));
+    QCOMPARE(attributes.back().type(), DtString("DtU32"));
+    QCOMPARE(capture.text(), QString("Warning: Cannot determine type: OgSimple.\n"));
+}
+
+void TestObjFileGenerator::innermostCardinalityOfNestedArraysWins()
+{
+    DtDataTypeMapper& mapper = *DtDataTypeMapper::instance();
+    mapper.addArrayTypeToRepresentationMapping("OgOuter", "OgInner");
+    mapper.addArrayTypeToCardinalityMapping("OgOuter", "2");
+    mapper.addArrayTypeToRepresentationMapping("OgInner", "OgNothing");
+    mapper.addArrayTypeToCardinalityMapping("OgInner", "9");
+    std::set<DtString> files;
+    DtObjectFileGenerator generator("Tank", files, false, false, tank(), noProject());
+    DtString cardinality = "1";
+    DtString type;
+    generator.determineValueType("OgOuter", cardinality, type);
+    QCOMPARE(type, DtString("OgOuter"));
+    QCOMPARE(cardinality, DtString("9"));
+}
+
+void TestObjFileGenerator::cycleOfDatatypesEndsSilently_data()
+{
+    QTest::addColumn<QString>("datatype");
+    QTest::addColumn<QString>("type");
+    QTest::newRow("simple over itself") << "OgSelf"
+                                        << "OgSelf";
+    QTest::newRow("two simple types") << "OgPing"
+                                      << "OgPing";
+    QTest::newRow("array of itself") << "OgSelfArray"
+                                     << "OgSelfArray";
+    QTest::newRow("array of a simple type over the array") << "OgRing"
+                                                           << "OgRing";
+}
+
+void TestObjFileGenerator::cycleOfDatatypesEndsSilently()
+{
+    QFETCH(QString, datatype);
+    QFETCH(QString, type);
+    DtDataTypeMapper& mapper = *DtDataTypeMapper::instance();
+    mapper.addSimpleTypeToRepresentationMapping("OgSelf", "OgSelf");
+    mapper.addSimpleTypeToRepresentationMapping("OgPing", "OgPong");
+    mapper.addSimpleTypeToRepresentationMapping("OgPong", "OgPing");
+    mapper.addArrayTypeToRepresentationMapping("OgSelfArray", "OgSelfArray");
+    mapper.addArrayTypeToRepresentationMapping("OgRing", "OgRingPart");
+    mapper.addSimpleTypeToRepresentationMapping("OgRingPart", "OgRing");
+    const DtCapture capture(DtWarn);
+    std::set<DtString> files;
+    OpenGenerator generator("Tank", files, false, false, tank(), noProject());
+    generator.addAttribute("part", qPrintable(datatype), "1");
+    QCOMPARE(QString(generator.writers().front()->attributeList().front().type().c_str()), type);
+    QCOMPARE(capture.text(), QString());
+}
+
+void TestObjFileGenerator::longChainOfSimpleTypesIsWalked()
+{
+    DtDataTypeMapper& mapper = *DtDataTypeMapper::instance();
+    const int length = 20000;
+    for (int i = 0; i < length; ++i)
+        mapper.addSimpleTypeToRepresentationMapping("OgChain" + DtString(i), "OgChain" + DtString(i + 1));
+    mapper.addMapping("OgChain" + DtString(length), "DtU8");
+    std::set<DtString> files;
+    DtObjectFileGenerator generator("Tank", files, false, false, tank(), noProject());
+    DtString cardinality = "1";
+    DtString type;
+    generator.determineValueType("OgChain0", cardinality, type);
+    QCOMPARE(type, DtString("DtU8"));
+}
+
+namespace
+{
+const QByteArray theCustomTemplate =
+    "<#Attributes>[<!AttributeName!>:<!CUSTOMGENERATION!>:<!CUSTOMGENERATIONOUTPUT!>]<#>";
+
+void generateTank(const DtOmtProject& project)
+{
+    std::set<DtString> files;
+    DtObjectFileGenerator generator("Tank", files, false, false, tank(), project);
+    generator.addAttribute("speed", "OgUnknown", "1");
+    generator.addAttribute("fuel", "OgUnknown", "1");
+    generator.generateFiles();
+}
+} // namespace
+
+void TestObjFileGenerator::customCodeReplacesGeneratedCode()
+{
+    DtOmtProject project;
+    project.addCustomCoding("HLAobjectRoot.Vehicle.Tank.speed", {"encode();", "decode();"});
+    myFixture->writeTemplate("hobjEncSource.tlt", theCustomTemplate);
+    myFixture->writeTemplate("hobjDecSource.tlt", theCustomTemplate);
+    myFixture->writeTemplate("hobjEncHeader.tlt", "<#Attributes><!CUSTOMGENERATION!><#>");
+    generateTank(project);
+    QVERIFY(myFixture->output("tankEncoderHLA.cxx").startsWith("[Speed:1:encode();]"));
+    QVERIFY(myFixture->output("tankDecoderHLA.cxx").startsWith("[Speed:1:decode();]"));
+    QCOMPARE(myFixture->output("tankEncoderHLA.h"), QString("<!CUSTOMGENERATION!>").repeated(2));
+}
+
+void TestObjFileGenerator::attributeWithoutCustomCodeKeepsOutputToken()
+{
+    DtOmtProject project;
+    project.addCustomCoding("HLAobjectRoot.Vehicle.Tank.speed", {"", ""});
+    myFixture->writeTemplate("hobjEncSource.tlt", theCustomTemplate);
+    generateTank(project);
+    QCOMPARE(myFixture->output("tankEncoderHLA.cxx"), QString("[Speed:1:][Fuel::<!CUSTOMGENERATIONOUTPUT!>]"));
+}
+
+void TestObjFileGenerator::customCodeStaysOutsideTheLoop()
+{
+    DtOmtProject project;
+    project.addCustomCoding("HLAobjectRoot.Vehicle.Tank.speed", {"encode();", "decode();"});
+    myFixture->writeTemplate("hobjEncSource.tlt", "<!CUSTOMGENERATION!><!CUSTOMGENERATIONOUTPUT!>");
+    generateTank(project);
+    QCOMPARE(myFixture->output("tankEncoderHLA.cxx"), QString("<!CUSTOMGENERATION!><!CUSTOMGENERATIONOUTPUT!>"));
+}
+
+void TestObjFileGenerator::customCodeIsNotScannedAgain()
+{
+    DtOmtProject project;
+    project.addCustomCoding("HLAobjectRoot.Vehicle.Tank.speed", {"<!ClassName!> <!CUSTOMGENERATION!>", ""});
+    myFixture->writeTemplate("hobjEncSource.tlt", theCustomTemplate);
+    generateTank(project);
+    QVERIFY(myFixture->output("tankEncoderHLA.cxx").startsWith("[Speed:1:<!ClassName!> <!CUSTOMGENERATION!>]"));
+}
+
+void TestObjFileGenerator::customGenerationReturnsTheFileOfTheRecord()
+{
+    writeTextFile(myFixture->scratch("custom.txt"), "one\ntwo");
+    DtOmtObject object = tank();
+    DtOmtAttribute attribute;
+    attribute.setName("speed");
+    attribute.setFullName("speed");
+    attribute.setOwningObject(object.fullName());
+    attribute.setCustomGenerationRef(qPrintable(myFixture->scratch("custom.txt")));
+    object.addAttribute(attribute);
+    const DtHlaObjectEncoderSourceWriter writer("", "", object);
+    QCOMPARE(writer.customGeneration(DtAttribute("speed", "DtU8")), DtString("one\ntwo\n"));
+    QCOMPARE(writer.customGeneration(DtAttribute("fuel", "DtU8")), DtString());
+}
+
+void TestObjFileGenerator::objectOfAWriterCanBeReplaced()
+{
+    DtHlaObjectDecoderSourceWriter writer("", "", tank());
+    QCOMPARE(writer.object().fullName(), DtString("HLAobjectRoot.Vehicle.Tank"));
+    writer.setObject(DtOmtObject());
+    QCOMPARE(writer.object().fullName(), DtString());
+    const DtHlaObjectEncoderHeaderWriter header("", "", tank());
+    QCOMPARE(header.object().name(), DtString("Tank"));
+}
+
+void TestObjFileGenerator::guardPropagatesDtException()
+{
+    try
+    {
+        DtFileGenerator::guardConstruction("Foo::Foo(int)", "dir/foo.cxx", 12, [] { throw DtException("cause"); });
+        QFAIL("nothing thrown");
+    }
+    catch (const DtException& exception)
+    {
+        QCOMPARE(QString(exception.what()), QString("DtException: Propagating DtException."));
+        QVERIFY(QString(exception.where().c_str()).contains("Foo::Foo(int)"));
+        QVERIFY(QString(exception.where().c_str()).contains("foo.cxx:12"));
+        QVERIFY(exception.previous() != nullptr);
+        QCOMPARE(QString(exception.previous()->what()), QString("DtException: cause"));
+    }
+}
+
+void TestObjFileGenerator::guardTurnsStdExceptionIntoDtException()
+{
+    try
+    {
+        DtFileGenerator::guardConstruction("Foo::Foo(int)", "foo.cxx", 12, [] { throw std::runtime_error("no disk"); });
+        QFAIL("nothing thrown");
+    }
+    catch (const DtException& exception)
+    {
+        QCOMPARE(QString(exception.what()), QString("DtException: std::exception no disk"));
+        QVERIFY(exception.previous() == nullptr);
+    }
+}
+
+void TestObjFileGenerator::guardTurnsUnknownExceptionIntoItsOwnType()
+{
+    try
+    {
+        DtFileGenerator::guardConstruction("Foo::Foo(int)", "foo.cxx", 12, [] { throw 5; });
+        QFAIL("nothing thrown");
+    }
+    catch (const DtTemplatedException<-2>& exception)
+    {
+        QCOMPARE(QString(exception.what()), QString("DtException: Caught Unknown Exception."));
+        QVERIFY(exception.previous() == nullptr);
+    }
+}
+
+void TestObjFileGenerator::nameHelpersGiveTheFileNames()
+{
+    std::set<DtString> files;
+    const DtObjectFileGenerator generator("Tank", files, false, false, tank(), noProject());
+    QCOMPARE(generator.stateRepositoryFileBaseName("Tank"), DtString("tankStateRepository"));
+    QCOMPARE(generator.publisherFileBaseName("Tank"), DtString("tankPublisher"));
+    QCOMPARE(generator.refObjFileBaseName("Tank"), DtString("reflectedTank"));
+    QCOMPARE(generator.refListFileBaseName("Tank"), DtString("reflectedTankList"));
+    QCOMPARE(generator.encoderFileBaseName("HLAtank"), DtString("HLAtankEncoder"));
+    QCOMPARE(generator.decoderFileBaseName("Tank"), DtString("tankDecoder"));
+}
+
+void TestObjFileGenerator::knownTokensHoldCustomGeneration()
+{
+    const std::vector<DtString> tokens = DtHlaObjectEncoderSourceWriter("", "", tank()).knownTokens();
+    QVERIFY(std::find(tokens.begin(), tokens.end(), DtString("<!CUSTOMGENERATIONOUTPUT!>")) != tokens.end());
+    QVERIFY(std::find(tokens.begin(), tokens.end(), DtString("<!ClassName!>")) != tokens.end());
+}
+
+QX_REGISTER_TEST(TestObjFileGenerator)
+#include "testObjFileGenerator.moc"

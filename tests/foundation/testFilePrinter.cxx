@@ -1,0 +1,258 @@
+#include "foundation/filePrinter.h"
+#include "foundationTest.h"
+#include "registerTest.h"
+#include "testSupport.h"
+
+#include <QtTest/QtTest>
+
+#include <utime.h>
+
+class TestFilePrinter : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init();
+    void cleanup();
+    void fileExistsFromConstruction();
+    void textIsWrittenWhenDestroyed();
+    void textCanBeBuiltInPlace();
+    void logIsWrittenThroughAtOnce();
+    void logStartsEmpty();
+    void missingParentDirectoriesAreMade();
+    void unchangedFileKeepsItsTimeStamp();
+    void changedFileOfTheSameLengthIsWritten();
+    void shorterTextReplacesALongerOne();
+    void oldContentStaysUntilDestruction();
+    void printerWithoutTextEmptiesTheFile();
+    void printerWithoutTextLeavesWhatAnotherWroteSince();
+    void printerWithoutTextEmptiesWhatWasWrittenBefore();
+    void twoPrintersUnderTwoNamesOfOneFileDoNotMix();
+    void failedOpenIsNamedOnce();
+    void failedWriteOfALogIsNamedOnce();
+    void failedWriteIsNamedOnce();
+    void backslashIsAnOrdinaryCharacterOfAName();
+    void nulBytesAreKept();
+
+private:
+    void age(const char* name); // gives the file a time stamp of long ago
+    qint64 timeOf(const char* name);
+
+    std::unique_ptr<QTemporaryDir> myDirectory;
+    std::unique_ptr<DtInDirectory> myHere;
+};
+
+void TestFilePrinter::init()
+{
+    myDirectory = std::make_unique<QTemporaryDir>();
+    myHere = std::make_unique<DtInDirectory>(myDirectory->path());
+}
+
+void TestFilePrinter::cleanup()
+{
+    myHere.reset();
+    myDirectory.reset();
+}
+
+void TestFilePrinter::age(const char* name)
+{
+    const utimbuf longAgo = {1000000, 1000000};
+    QCOMPARE(utime(name, &longAgo), 0);
+}
+
+qint64 TestFilePrinter::timeOf(const char* name)
+{
+    return QFileInfo(name).lastModified().toSecsSinceEpoch();
+}
+
+namespace
+{
+void printText(DtPrinter& printer, const QByteArray& text)
+{
+    printer.print(text.constData(), static_cast<std::size_t>(text.size()));
+}
+
+void writeWithPrinter(const char* name, const QByteArray& text)
+{
+    DtFilePrinter printer(name);
+    printText(printer, text);
+}
+} // namespace
+
+void TestFilePrinter::fileExistsFromConstruction()
+{
+    const DtFilePrinter printer("a");
+    QVERIFY(printer.isOpen());
+    QVERIFY(QFileInfo("a").isFile());
+    QCOMPARE(QFileInfo("a").size(), qint64(0));
+}
+
+void TestFilePrinter::textIsWrittenWhenDestroyed()
+{
+    {
+        DtFilePrinter printer("a");
+        printText(printer, "one ");
+        printer.flush();
+        printText(printer, "two\n");
+        QCOMPARE(readTextFile("a"), QByteArray());
+    }
+    QCOMPARE(readTextFile("a"), QByteArray("one two\n"));
+}
+
+void TestFilePrinter::textCanBeBuiltInPlace()
+{
+    {
+        DtFilePrinter printer("a");
+        printer.text() += "in place";
+    }
+    QCOMPARE(readTextFile("a"), QByteArray("in place"));
+}
+
+void TestFilePrinter::logIsWrittenThroughAtOnce()
+{
+    DtFilePrinter log("log", DtFilePrinter::Mode::WriteThrough);
+    printText(log, "one\n");
+    QCOMPARE(readTextFile("log"), QByteArray("one\n"));
+    printText(log, "two\n");
+    QCOMPARE(readTextFile("log"), QByteArray("one\ntwo\n"));
+}
+
+void TestFilePrinter::logStartsEmpty()
+{
+    writeTextFile("log", "of the last run");
+    const DtFilePrinter log("log", DtFilePrinter::Mode::WriteThrough);
+    QCOMPARE(readTextFile("log"), QByteArray());
+}
+
+void TestFilePrinter::missingParentDirectoriesAreMade()
+{
+    writeWithPrinter("x/y/a", "text");
+    QCOMPARE(readTextFile("x/y/a"), QByteArray("text"));
+    const DtFilePrinter log("l/o/g", DtFilePrinter::Mode::WriteThrough);
+    QVERIFY(log.isOpen());
+}
+
+void TestFilePrinter::unchangedFileKeepsItsTimeStamp()
+{
+    writeTextFile("a", "same");
+    age("a");
+    writeWithPrinter("a", "same");
+    QCOMPARE(timeOf("a"), qint64(1000000));
+    writeTextFile("empty", "");
+    age("empty");
+    writeWithPrinter("empty", "");
+    QCOMPARE(timeOf("empty"), qint64(1000000));
+}
+
+void TestFilePrinter::changedFileOfTheSameLengthIsWritten()
+{
+    writeTextFile("a", "same");
+    age("a");
+    writeWithPrinter("a", "Same");
+    QCOMPARE(readTextFile("a"), QByteArray("Same"));
+    QVERIFY(timeOf("a") > 1000000);
+}
+
+void TestFilePrinter::shorterTextReplacesALongerOne()
+{
+    writeTextFile("a", "a long old text");
+    writeWithPrinter("a", "new");
+    QCOMPARE(readTextFile("a"), QByteArray("new"));
+}
+
+void TestFilePrinter::oldContentStaysUntilDestruction()
+{
+    writeTextFile("a", "old");
+    DtFilePrinter printer("a");
+    printText(printer, "new");
+    QCOMPARE(readTextFile("a"), QByteArray("old"));
+}
+
+void TestFilePrinter::printerWithoutTextEmptiesTheFile()
+{
+    writeTextFile("a", "old");
+    writeWithPrinter("a", "");
+    QVERIFY(QFileInfo::exists("a"));
+    QCOMPARE(readTextFile("a"), QByteArray());
+}
+
+void TestFilePrinter::printerWithoutTextLeavesWhatAnotherWroteSince()
+{
+    writeTextFile("a", "old");
+    {
+        const DtFilePrinter silent("a");
+        writeWithPrinter("a", "new");
+    }
+    QCOMPARE(readTextFile("a"), QByteArray("new"));
+}
+
+void TestFilePrinter::printerWithoutTextEmptiesWhatWasWrittenBefore()
+{
+    writeWithPrinter("a", "before");
+    writeWithPrinter("a", "");
+    QCOMPARE(readTextFile("a"), QByteArray());
+}
+
+void TestFilePrinter::twoPrintersUnderTwoNamesOfOneFileDoNotMix()
+{
+    {
+        DtFilePrinter first("a");
+        printText(first, "short");
+        DtFilePrinter second("./a"); // destroyed first
+        printText(second, "a longer text");
+    }
+    QCOMPARE(readTextFile("a"), QByteArray("short"));
+}
+
+void TestFilePrinter::failedOpenIsNamedOnce()
+{
+    QVERIFY(QDir().mkdir("directory"));
+    const DtCapture capture(DtWarn);
+    {
+        DtFilePrinter printer("directory");
+        QVERIFY(!printer.isOpen());
+        printText(printer, "text");
+        printText(printer, "more");
+    }
+    QCOMPARE(capture.text(), QString("Cannot open file directory: Is a directory\n"));
+}
+
+void TestFilePrinter::failedWriteOfALogIsNamedOnce()
+{
+    if (!QFileInfo::exists("/dev/full"))
+        return qInfo("no /dev/full here");
+    const DtCapture capture(DtWarn);
+    DtFilePrinter log("/dev/full", DtFilePrinter::Mode::WriteThrough);
+    DtWarn.attachPrinter(&log); // the report of the failure goes through the failed printer too
+    printText(log, "text");
+    printText(log, "more");
+    DtWarn.detachPrinter(&log);
+    QCOMPARE(capture.text(), QString("Cannot write file /dev/full: No space left on device\n"));
+}
+
+void TestFilePrinter::failedWriteIsNamedOnce()
+{
+    const DtCapture capture(DtWarn);
+    {
+        DtFilePrinter printer("sub/a");
+        printText(printer, "text");
+        QVERIFY(QDir("sub").removeRecursively());
+        writeTextFile("sub", "a file in the way");
+    }
+    QCOMPARE(capture.text(), QString("Cannot write file sub/a: Not a directory\n"));
+}
+
+void TestFilePrinter::backslashIsAnOrdinaryCharacterOfAName()
+{
+    writeWithPrinter("cpp\\Makefile", "text");
+    QCOMPARE(QDir(".").entryList(QDir::Files), QStringList{"cpp\\Makefile"});
+}
+
+void TestFilePrinter::nulBytesAreKept()
+{
+    writeWithPrinter("a", QByteArray("x\0y", 3));
+    QCOMPARE(readTextFile("a"), QByteArray("x\0y", 3));
+}
+
+QX_REGISTER_TEST(TestFilePrinter)
+#include "testFilePrinter.moc"

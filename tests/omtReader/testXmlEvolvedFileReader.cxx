@@ -1,0 +1,396 @@
+#include "modelText.h"
+#include "registerTest.h"
+#include "testSupport.h"
+
+#include <QtTest/QtTest>
+
+namespace
+{
+QByteArray objects(const QByteArray& inRoot)
+{
+    return "<objects><objectClass><name>HLAobjectRoot</name>" + inRoot + "</objectClass></objects>";
+}
+
+QByteArray interactions(const QByteArray& inRoot)
+{
+    return "<interactions><interactionClass><name>HLAinteractionRoot</name>" + inRoot +
+           "</interactionClass></interactions>";
+}
+
+QString referencesOf(const QByteArray& reference)
+{
+    const auto tree = readSections("<modelIdentification>" + reference + "</modelIdentification>");
+    QStringList texts;
+    for (const DtOMTTreeReference& entry : tree->getReferences())
+        texts += toQt(entry.type) + "|" + toQt(entry.identification);
+    return texts.join(';');
+}
+} // namespace
+
+class TestXmlEvolvedFileReader : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void versionIsThatOfTheReader()
+    {
+        QCOMPARE(int(readSections("")->hlaVersion()), 3);
+        QCOMPARE(int(readSections<DtXMLHla4FileReader>("")->hlaVersion()), 4);
+    }
+
+    void lastErrorIsEmpty()
+    {
+        DtXMLEvolvedFileReader reader(nullptr);
+        QCOMPARE(toQt(reader.getLastError()), QString());
+        reader.clearLastError();
+    }
+
+    void identificationIsRead()
+    {
+        const auto tree = readSections(
+            "<modelIdentification><name>n</name><type>FOM</type><version>v</version>"
+            "<modificationDate>d</modificationDate><securityClassification>s</securityClassification>"
+            "<releaseRestriction>r</releaseRestriction><purpose>p</purpose><applicationDomain>a</applicationDomain>"
+            "<description>e</description><useLimitation>l</useLimitation><useHistory>h</useHistory>"
+            "<other>o</other><glyph>g</glyph></modelIdentification>");
+        const QStringList values{toQt(tree->getName()),
+                                 toQt(tree->getType()),
+                                 toQt(tree->getVersionNo()),
+                                 toQt(tree->getModificationDate()),
+                                 toQt(tree->getSecurityClassification()),
+                                 toQt(tree->getReleaseRestriction()),
+                                 toQt(tree->getPurpose()),
+                                 toQt(tree->getApplicationDomain()),
+                                 toQt(tree->getDescription()),
+                                 toQt(tree->getUseLimitation()),
+                                 toQt(tree->getUseHistory()),
+                                 toQt(tree->getOther())};
+        QCOMPARE(values.join(' '), QString("n FOM v d s r p a e l h o"));
+    }
+
+    void everyPointOfContactIsRead()
+    {
+        const auto tree = readSections(
+            "<modelIdentification><poc><pocType>t</pocType><pocName>n</pocName><pocOrg>o</pocOrg>"
+            "<pocTelephone>p</pocTelephone><pocEmail>e</pocEmail></poc><poc/></modelIdentification>");
+        QCOMPARE(tree->getPOCList().size(), std::size_t(2));
+        const DtOMTTreePOC& poc = tree->getPOCList()[0];
+        QCOMPARE(toQt(poc.type + poc.firstName + "," + poc.lastName + "," + poc.organization + poc.telephone +
+                      poc.email + poc.other),
+                 QString("tn,,ope"));
+    }
+
+    void referenceTakesTheTextAheadOfItsFirstElement()
+    {
+        QCOMPARE(referencesOf("<reference>\n<type>a</type><identification>b</identification></reference>"),
+                 QString("\n|\n"));
+        QCOMPARE(referencesOf("<reference>x<identification>b</identification><type>a</type></reference>"),
+                 QString("x|x"));
+        QCOMPARE(referencesOf("<reference><type>a</type><identification>b</identification></reference>"),
+                 QString("|"));
+    }
+
+    void referenceNeedsBothElementsWithText()
+    {
+        QCOMPARE(referencesOf("<reference>\n<type>a</type></reference>"), QString());
+        QCOMPARE(referencesOf("<reference>\n<identification>a</identification></reference>"), QString());
+        QCOMPARE(referencesOf("<reference>\n<type/><identification>a</identification></reference>"), QString());
+    }
+
+    void objectClassesAreReadSubclassesFirstInTheFlatList()
+    {
+        const auto tree = readSections(objects("<objectClass><attribute><name>a</name></attribute>"
+                                               "<objectClass><name>C</name></objectClass>"
+                                               "<semantics>s</semantics><sharing>Publish</sharing><name>B</name>"
+                                               "</objectClass>"));
+        QCOMPARE(printClass(tree->objectClassRoot()), QString("HLAobjectRoot\n  B [a]\n    C\n"));
+        QCOMPARE(namesOf(tree->getObjectClassNodeBegin(), tree->getObjectClassNodeEnd()), QString("C B HLAobjectRoot"));
+        const DtObjectClassFedNode* node = tree->getObjectClassNode("HLAobjectRoot.B");
+        QCOMPARE(toQt(node->getDescriptor() + node->getSharing()), QString("sPublish"));
+    }
+
+    void attributeIsRead()
+    {
+        const auto tree = readSections(objects(
+            "<attribute><name>a</name><dataType>t</dataType><updateType>u</updateType>"
+            "<updateCondition>c</updateCondition><cardinality>0-4</cardinality><ownership>o</ownership>"
+            "<accuracy>y</accuracy><sharing>s</sharing><transportation>r</transportation><order>d</order>"
+            "<semantics>m</semantics><dimensions><dimension>x</dimension><dimension/><other>z</other>"
+            "<dimension>y</dimension></dimensions></attribute>"));
+        const DtAttributeFedNode& node = *tree->objectClassRoot()->findAttribute("a");
+        QCOMPARE(toQt(node.getDatatype() + node.getUpdateType() + node.getUpdateCondition() + node.getTransferAccept() +
+                      node.getAccuracy() + node.getSharing() + node.getTransportation() + node.getOrder() +
+                      node.getDescription()),
+                 QString("tucoysrdm"));
+        QCOMPARE(node.getCardinalityMaximum(), 4);
+        QCOMPARE(node.getDimensions(), (std::list<DtString>{"x", "y"}));
+    }
+
+    void interactionClassAndParameterAreRead()
+    {
+        const auto tree = readSections(interactions(
+            "<interactionClass><name>I</name><sharing>s</sharing><transportation>t</transportation><order>o</order>"
+            "<semantics>m</semantics><dimensions><dimension>d</dimension></dimensions>"
+            "<parameter><name>p</name><dataType>a</dataType><sharing>b</sharing><transportation>c</transportation>"
+            "<order>e</order><semantics>f</semantics></parameter></interactionClass>"));
+        QCOMPARE(printClass(tree->interactionClassRoot()), QString("HLAinteractionRoot\n  I [p]\n"));
+        DtInteractionClassFedNode* node = tree->getInteractionClassNode("HLAinteractionRoot.I");
+        QCOMPARE(toQt(node->getSharing() + node->getTransportation() + node->getOrder() + node->getDescriptor()),
+                 QString("stom"));
+        QCOMPARE(node->getDimensions(), std::list<DtString>{"d"});
+        const DtParameterFedNode& parameter = *node->findParameter("p");
+        QCOMPARE(toQt(parameter.getDatatype() + parameter.getSharing() + parameter.getTransportation() +
+                      parameter.getOrder() + parameter.getDescription()),
+                 QString("abcef"));
+    }
+
+    void warnings_data()
+    {
+        QTest::addColumn<QByteArray>("sections");
+        QTest::addColumn<QString>("expected");
+        const auto data = [](const char* group, const char* item)
+        { return QByteArray("<dataTypes><") + group + ">" + item + "</" + group + "></dataTypes>"; };
+        const auto missing = [](const char* element, const char* what = "name")
+        { return QString("Warning: %1 definition was missing a %2\n").arg(element, what); };
+        const QString noRoot("Warning: HLAobjectRoot is missing from 1516 Evolved XML file\n");
+        const QString noInteractionRoot("Warning: HLAinteractionRoot is missing from 1516 Evolved XML file\n");
+        const QString wrongRoot("Warning: Interaction root is not \"HLAinteractionRoot\" in 1516 Evolved XML file\n");
+        const QByteArray nameless = "<name/>";
+
+        QTest::newRow("no classes") << QByteArray("<objects/><interactions/>") << noRoot + noInteractionRoot;
+        QTest::newRow("other top class") << QByteArray("<objects><objectClass><name>X</name></objectClass></objects>")
+                                         << noRoot;
+        QTest::newRow("wrong object root")
+            << QByteArray("<objects><objectClass><objectClass><name>HLAobjectRoot</name></objectClass></objectClass>"
+                          "</objects>")
+            << wrongRoot; // in the words of the interactions
+        QTest::newRow("wrong interaction root")
+            << QByteArray("<interactions><interactionClass><interactionClass><name>HLAinteractionRoot</name>"
+                          "</interactionClass></interactionClass></interactions>")
+            << wrongRoot;
+        QTest::newRow("second object root")
+            << QByteArray("<objects><objectClass><name>HLAobjectRoot</name></objectClass><objectClass/></objects>")
+            << QString("Warning: Additional object node found at the root level when parsing 1516 Evolved XML file "
+                       "has been ignored.\n");
+        QTest::newRow("second interaction root")
+            << QByteArray("<interactions><interactionClass><name>HLAinteractionRoot</name></interactionClass>"
+                          "<interactionClass/></interactions>")
+            << QString("Warning: Additional interaction node found at the root level when parsing 1516 Evolved XML "
+                       "file has been ignored.\n");
+        QTest::newRow("object class") << objects("<objectClass><name/><objectClass><name/></objectClass></objectClass>")
+                                      << missing("objectClass");
+        QTest::newRow("attribute") << objects("<attribute>" + nameless + "</attribute>") << missing("attribute");
+        QTest::newRow("interaction class") << interactions("<interactionClass>" + nameless + "</interactionClass>")
+                                           << missing("interactionClass");
+        QTest::newRow("parameter") << interactions("<parameter>" + nameless + "</parameter>") << missing("parameter");
+        QTest::newRow("class without a name element") << objects("<objectClass/><attribute/>") << QString();
+        QTest::newRow("simpleData") << data("simpleDataTypes", "<simpleData/>") << missing("simpleData");
+        QTest::newRow("arrayData") << data("arrayDataTypes", "<arrayData><name/></arrayData>") << missing("arrayData");
+        QTest::newRow("fixedRecordData") << data("fixedRecordDataTypes", "<fixedRecordData/>")
+                                         << missing("fixedRecordData");
+        QTest::newRow("field") << data("fixedRecordDataTypes", "<fixedRecordData><name>a</name><field/>"
+                                                               "</fixedRecordData>")
+                               << missing("fixedRecordData field");
+        QTest::newRow("basicData") << data("basicDataRepresentations", "<basicData/>") << missing("basicData");
+        QTest::newRow("variantRecordData") << data("variantRecordDataTypes", "<variantRecordData/>")
+                                           << missing("variantRecordData");
+        QTest::newRow("alternative") << data("variantRecordDataTypes", "<variantRecordData><name>a</name><alternative/>"
+                                                                       "</variantRecordData>")
+                                     << QString();
+        QTest::newRow("enumeratedData")
+            << data("enumeratedDataTypes", "<enumeratedData><enumerator/></enumeratedData>")
+            << missing("enumeratedData");
+        QTest::newRow("enumerator") << data("enumeratedDataTypes", "<enumeratedData><name>a</name><enumerator/>"
+                                                                   "</enumeratedData>")
+                                    << missing("enumerator");
+        QTest::newRow("dimension") << QByteArray("<dimensions><dimension/></dimensions>") << missing("dimension");
+        QTest::newRow("synchronization") << QByteArray("<synchronizations><synchronization/></synchronizations>")
+                                         << missing("synchronization", "label");
+        QTest::newRow("updateRate") << QByteArray("<updateRates><updateRate/></updateRates>") << missing("updateRate");
+        QTest::newRow("note, transportation and tag")
+            << QByteArray("<notes><note/></notes><transportations><transportation/></transportations>"
+                          "<tags><updateReflectTag/></tags>")
+            << QString();
+    }
+
+    void warnings()
+    {
+        QFETCH(QByteArray, sections);
+        DtCapture capture(DtWarn);
+        readSections(sections);
+        QTEST(capture.text(), "expected");
+    }
+
+    void classTreeWithoutItsRootStaysInTheFlatList()
+    {
+        const auto tree = readSections("<objects><objectClass><name>X</name><objectClass><name>Y</name></objectClass>"
+                                       "</objectClass></objects>");
+        QVERIFY(tree->objectClassRoot() == nullptr);
+        QCOMPARE(namesOf(tree->getObjectClassNodeBegin(), tree->getObjectClassNodeEnd()), QString("Y X"));
+    }
+
+    void furtherTopClassIsNotRead()
+    {
+        const auto tree = readSections("<objects><objectClass><name/></objectClass><objectClass>"
+                                       "<name>HLAobjectRoot</name></objectClass></objects>");
+        QCOMPARE(namesOf(tree->getObjectClassNodeBegin(), tree->getObjectClassNodeEnd()), QString());
+    }
+
+    void memberWithAnEmptyNameIsDroppedAndItsClassKept()
+    {
+        const auto tree = readSections(objects("<attribute><name></name></attribute><attribute><name>a</name>"
+                                               "<name/></attribute><attribute/>") +
+                                       interactions("<parameter><name> </name></parameter><parameter/>"));
+        QCOMPARE(printClass(tree->objectClassRoot()), QString("HLAobjectRoot [a ]\n"));
+        QCOMPARE(tree->objectClassRoot()->getAttributes().size(), std::size_t(2));
+        QCOMPARE(tree->interactionClassRoot()->getParameters().size(), std::size_t(2)); // a blank is a name
+    }
+
+    void datatypesAreRead()
+    {
+        const auto tree = readSections(
+            "<dataTypes><simpleDataTypes><simpleData><name>s</name><representation>r</representation><units>u</units>"
+            "<resolution>e</resolution><accuracy>a</accuracy><semantics>m</semantics></simpleData></simpleDataTypes>"
+            "<arrayDataTypes><arrayData><name>a</name><dataType>t</dataType><cardinality>[1..3]</cardinality>"
+            "<encoding>HLAfixedArray</encoding><semantics>m</semantics></arrayData></arrayDataTypes>"
+            "<basicDataRepresentations><basicData><name>b</name><size>8</size><interpretation>i</interpretation>"
+            "<endian>Big</endian><encoding>c</encoding></basicData></basicDataRepresentations></dataTypes>");
+        const DtSimpleDatatypeNode& simple = *tree->getSimpleDatatypeNode("s");
+        QCOMPARE(toQt(simple.getRepresentation() + simple.getUnits() + simple.getResolution() + simple.getAccuracy() +
+                      simple.getDescription()),
+                 QString("rueam"));
+        const DtArrayDatatypeNode& array = *tree->getArrayDatatypeNode("a");
+        QCOMPARE(toQt(array.getDatatype() + array.getDescription()), QString("tm"));
+        QCOMPARE(array.getCardinalityType() * 10 + array.getCardinalityMaximum(), 23);
+        const DtBasicDataRepresentationNode& basic = *tree->getBasicDataRepresentationNode("b");
+        QCOMPARE(toQt(basic.getSize() + basic.getInterpretation() + basic.getEndian() + basic.getEncoding()),
+                 QString("8iBigc"));
+    }
+
+    void recordsAreRead()
+    {
+        const auto tree = readSections(
+            "<dataTypes><fixedRecordDataTypes><fixedRecordData><field><name>x</name><dataType>t</dataType>"
+            "<semantics>m</semantics></field><encoding>e</encoding><semantics>s</semantics><name>f</name>"
+            "</fixedRecordData></fixedRecordDataTypes><variantRecordDataTypes><variantRecordData><name>v</name>"
+            "<discriminant>d</discriminant><dataType>t</dataType><alternative><enumerator>A, B</enumerator>"
+            "<name>y</name><dataType>u</dataType><semantics>n</semantics></alternative><encoding>e</encoding>"
+            "<semantics>s</semantics></variantRecordData></variantRecordDataTypes></dataTypes>");
+        const DtFixedDatatypeNode& fixed = *tree->getFixedDatatypeNode("f");
+        QCOMPARE(toQt(fixed.getEncoding() + fixed.getDescription()), QString("es"));
+        QCOMPARE(toQt(fixed.getComponentNode("x")->getDatatype() + fixed.getComponentNode("x")->getDescription()),
+                 QString("tm"));
+        const DtVariantDatatypeNode& variant = *tree->getVariantDatatypeNode("v");
+        QCOMPARE(toQt(variant.getDiscriminant() + variant.getDatatype() + variant.getEncoding() +
+                      variant.getDescription()),
+                 QString("dtes"));
+        const DtAlternativeComponentNode& alternative = *variant.getComponentNode("y");
+        QCOMPARE(toQt(alternative.getEnumerator() + alternative.getDatatype() + alternative.getDescription()),
+                 QString("A, Bun"));
+    }
+
+    void enumeratorsAreRead()
+    {
+        DtCapture capture(DtWarn);
+        const auto tree = readSections(
+            "<dataTypes><enumeratedDataTypes><enumeratedData><name>e</name><representation>r</representation>"
+            "<semantics>s</semantics><enumerator><value> 7x</value><name>a</name></enumerator>"
+            "<enumerator><name>b</name><values>9</values></enumerator>"
+            "<enumerator><name>c</name><value>4294967295</value></enumerator>"
+            "<enumerator><name>a</name><value>8</value></enumerator></enumeratedData></enumeratedDataTypes></dataTypes>");
+        const DtEnumeratedDatatypeNode& node = *tree->getEnumeratedDatatypeNode("e");
+        QCOMPARE(toQt(node.getRepresentation() + node.getDescription()), QString("rs"));
+        QCOMPARE(node.getEnumerationNode("a")->getNumber(), 7);
+        QCOMPARE(node.getEnumerationNode("b")->getNumber(), 0); // only "value" counts
+        QCOMPARE(node.getEnumerationNode("c")->getNumber(), -1);
+        QCOMPARE(capture.text(), QString("Duplicated enum name a"));
+    }
+
+    void smallTablesAreRead()
+    {
+        const auto tree = readSections(
+            "<notes><note><label>alpha</label><semantics>t</semantics></note></notes>"
+            "<dimensions><dimension><name>d</name><dataType>t</dataType><normalization>n</normalization>"
+            "<value>v</value><upperBound>u</upperBound></dimension></dimensions>"
+            "<synchronizations><synchronization><label>l</label><dataType>t</dataType><capability>c</capability>"
+            "<semantics>s</semantics></synchronization><synchronizationPoint><label>x</label></synchronizationPoint>"
+            "</synchronizations><transportations><transportation><name>n</name><reliable>Yes</reliable>"
+            "<semantics>s</semantics></transportation></transportations>"
+            "<updateRates><updateRate><name>n</name><rate> +2.5e1</rate><semantics>s</semantics></updateRate>"
+            "</updateRates><time><timeStamp><dataType>a</dataType><semantics>b</semantics></timeStamp>"
+            "<lookahead><dataType>c</dataType><semantics>d</semantics></lookahead></time>");
+        QCOMPARE(toQt(tree->getNoteNode("alpha")->getText()), QString("t"));
+        QCOMPARE(tree->getNoteNode("alpha")->getNumber(), 0);
+        const DtDimensionNode& dimension = *tree->getDimensionNode("d");
+        QCOMPARE(toQt(dimension.getDatatype() + dimension.getNormalization() + dimension.getValue() +
+                      dimension.getUpperBound()),
+                 QString("tnvu"));
+        const DtSynchroNode& point = *tree->getSynchroNode("l");
+        QCOMPARE(toQt(point.getDatatype() + point.getCapability() + point.getDescription()), QString("tcs"));
+        QVERIFY(tree->getSynchroNode("x") == nullptr);
+        QCOMPARE(toQt(tree->getTransportationNode("n")->getReliable() + tree->getTransportationNode("n")->getDescription()),
+                 QString("Yess"));
+        QCOMPARE(tree->getUpdateRateNode("n")->rate(), 25.0);
+        QCOMPARE(toQt(tree->getUpdateRateNode("n")->semantics()), QString("s"));
+        DtTimeRepNode& time = *tree->getTimeRepNode();
+        QCOMPARE(toQt(time.getFederationTimeDatatype() + time.getFederationTimeSemantics() +
+                      time.getLookaheadDatatype() + time.getLookaheadSemantics()),
+                 QString("abcd"));
+    }
+
+    void switchesAreRead()
+    {
+        const auto tree = readSections("<switches><autoProvide isEnabled=\"true\"/><other isEnabled=\"Enabled\"/>"
+                                       "<off isEnabled=\"false\" resignAction=\"NoAction\"/>"
+                                       "<automaticResignAction isEnabled=\"true\" resignAction=\"NoAction\"/></switches>");
+        QCOMPARE(namesOf(tree->getSwitchNodeList(), tree->getSwitchEndNode()),
+                 QString("autoProvide other off automaticResignAction"));
+        QVERIFY(tree->getSwitchNode("autoProvide")->getEnabled());
+        QVERIFY(!tree->getSwitchNode("other")->getEnabled());
+        QVERIFY(!tree->getSwitchNode("off")->getEnabled());
+        QCOMPARE(toQt(tree->getSwitchNode("off")->getNote()), QString());
+        QCOMPARE(toQt(tree->getSwitchNode("automaticResignAction")->getNote()), QString("NoAction"));
+    }
+
+    void whiteSpaceBetweenTagsCountsAsTags()
+    {
+        const auto tree = readSections("<tags>\n<updateReflectTag><dataType>t</dataType><semantics>s</semantics>"
+                                       "</updateReflectTag>\n<!-- none --><lockTag/></tags>");
+        QCOMPARE(namesOf(tree->getTagNodeList(), tree->getTagEndNode()), QString("text updateReflectTag text lockTag"));
+        const DtTagNode& tag = *tree->getTagNode("updateReflectTag");
+        QCOMPARE(toQt(tag.getDatatype() + tag.getDescription()), QString("ts"));
+    }
+
+    void embeddedNoteIsTaken()
+    {
+        const QByteArray text = "<a><note/><note>n</note></a>";
+        const DtXmlDocument document = DtParseXmlBuffer(text.constData(), text.size());
+        xmlNode* root = xmlDocGetRootElement(document.get());
+        DtOMTNode target;
+        DtXMLEvolvedFileReader(nullptr).processEmbeddedNote(root, &target);
+        QCOMPARE(toQt(target.getNote()), QString("n"));
+    }
+
+    void textsMayStandInCdataAndBehindComments()
+    {
+        const auto tree = readSections("<modelIdentification><name><![CDATA[a<b]]></name>"
+                                       "<type><!-- c -->FOM</type><purpose>&lt;&amp;&#10;x</purpose>"
+                                       "</modelIdentification>");
+        QCOMPARE(toQt(tree->getName()), QString("a<b"));
+        QCOMPARE(toQt(tree->getType()), QString("FOM"));
+        QCOMPARE(toQt(tree->getPurpose()), QString("<&\nx"));
+    }
+
+    void unknownElementsAreIgnored()
+    {
+        DtCapture capture(DtWarn);
+        const auto tree = readSections<DtXMLHla4FileReader>(
+            "<serviceUtilization/><dataTypes><referenceDataTypes><referenceDataType><name>x</name></referenceDataType>"
+            "</referenceDataTypes></dataTypes>");
+        QCOMPARE(capture.text(), QString());
+        QVERIFY(tree->getSimpleDatatypeNode("x") == nullptr);
+    }
+};
+
+QX_REGISTER_TEST(TestXmlEvolvedFileReader)
+#include "testXmlEvolvedFileReader.moc"

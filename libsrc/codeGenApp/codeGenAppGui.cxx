@@ -21,9 +21,11 @@ namespace
 const char theCustomConfigFile[] = "../data/config/customCodeGenConfig.xml";
 const char theModelFilter[] = "Object Model Files (*.omt *.xml *.fdd)";
 
-QString imageFile(const char* name)
+// An empty icon when the file is not there.
+QIcon imageIcon(const char* name)
 {
-    return QStringLiteral("../data/images/") + QString::fromLatin1(name);
+    const QString file = QStringLiteral("../data/images/") + QString::fromLatin1(name);
+    return QFile::exists(file) ? QIcon(file) : QIcon();
 }
 
 // The directory of a model file that the user has chosen.
@@ -71,7 +73,7 @@ QAction* DtCodeGenAppGui::addNamedAction(const char* text, const char* icon, con
 {
     auto* const action = new QAction(QString::fromLatin1(text), this);
     if (*icon != '\0')
-        action->setIcon(QIcon(imageFile(icon)));
+        action->setIcon(imageIcon(icon));
     if (*shortcut != '\0')
         action->setShortcut(QKeySequence(QString::fromLatin1(shortcut)));
     if (*toolTip != '\0')
@@ -155,8 +157,8 @@ void DtCodeGenAppGui::connectLists()
 
 void DtCodeGenAppGui::manageIcons()
 {
-    myForm->myAddButton->setIcon(QIcon(imageFile("DarkMode/SettingsAddWindow.svg")));
-    myForm->myRemoveButton->setIcon(QIcon(imageFile("DarkMode/SettingsRemoveWindow.svg")));
+    myForm->myAddButton->setIcon(imageIcon("DarkMode/SettingsAddWindow.svg"));
+    myForm->myRemoveButton->setIcon(imageIcon("DarkMode/SettingsRemoveWindow.svg"));
 }
 
 void DtCodeGenAppGui::showStatus(const DtString& text)

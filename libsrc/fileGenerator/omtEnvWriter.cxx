@@ -45,6 +45,12 @@ DtString withoutDashesAndDots(const DtString& name)
     return DtReplaceAllSubstrings(DtReplaceAllSubstrings(name, "-", ""), ".", "");
 }
 
+// False for an include path that leads away from the output directory: no file is written there.
+bool staysBelow(const DtString& path)
+{
+    return !DtFilename(path).isAbsolute() && !DtFilename::normalized(path).startsWith("..");
+}
+
 DtString orPlainName(const DtString& rename, const DtString& plainName)
 {
     return rename.isEmpty() ? plainName : rename;
@@ -139,7 +145,8 @@ void DtOMTEnvWriter::startRun(const DtString& fomName)
 
 void DtOMTEnvWriter::makeDirectories() const
 {
-    DtMakeDirectory(DtFileWriter::outputDirectory() + includePath());
+    if (staysBelow(includePath()))
+        DtMakeDirectory(DtFileWriter::outputDirectory() + includePath());
     DtMakeDirectory(DtFileWriter::outputDirectory() + "DataTypes");
 }
 

@@ -188,5 +188,6 @@ void DtAssignText(DtString& target, std::string_view text)
     }
     text.copy(buffer, text.size());
     buffer[text.size()] = '\0';
-    target = buffer;
+    target = DtString::nullString(); // emptied and filled again, the target keeps its memory
+    target += buffer;
 }

@@ -28,7 +28,7 @@ void DtXmlErrors::note(void* errors, xmlErrorPtr error)
     if (self.myCause.length() > 0 || error->level != XML_ERR_FATAL)
         return;
     self.myCause = error->message != nullptr ? error->message : "unreadable";
-    self.myCause.snipBack('\n');
+    self.myCause.snipBackToFirst('\n');
     self.myLine = error->line;
 }
 

@@ -339,7 +339,8 @@ void DtXMLEvolvedFileReader::processReference(xmlNode*& node, DtOMTTree* tree)
 void DtXMLEvolvedFileReader::processObjects(xmlNode*& node, DtOMTTree* tree)
 {
     // A wrong object root is reported as one of the interactions, as users of the format know it.
-    static const Hierarchy theWords = {"objectClass", "object", "HLAobjectRoot", "Interaction", theFormatWords};
+    static const Hierarchy theWords = {"objectClass",        "object",      "HLAobjectRoot", "Interaction",
+                                       "HLAinteractionRoot", theFormatWords};
     processHierarchy(
         node, theWords, [&](xmlNode*& element) { return processObjectClass(element, tree); },
         [&](const DtString& name) { return tree->getObjectClassNode(name); },
@@ -373,8 +374,8 @@ DtAttributeFedNode* DtXMLEvolvedFileReader::processAttribute(xmlNode*& node, DtO
 
 void DtXMLEvolvedFileReader::processInteractions(xmlNode*& node, DtOMTTree* tree)
 {
-    static const Hierarchy theWords = {"interactionClass", "interaction", "HLAinteractionRoot", "Interaction",
-                                       theFormatWords};
+    static const Hierarchy theWords = {"interactionClass", "interaction",        "HLAinteractionRoot",
+                                       "Interaction",      "HLAinteractionRoot", theFormatWords};
     processHierarchy(
         node, theWords, [&](xmlNode*& element) { return processInteractionClass(element, tree); },
         [&](const DtString& name) { return tree->getInteractionClassNode(name); },

@@ -23,7 +23,7 @@ void DtXMLModelReader::warnOfMissingRoot(const Hierarchy& words)
 
 void DtXMLModelReader::warnOfWrongRoot(const Hierarchy& words)
 {
-    DtWarn("Warning: %s root is not \"%s\" in %s file\n", words.wrongRoot, words.root, words.formatWords);
+    DtWarn("Warning: %s root is not \"%s\" in %s file\n", words.wrongKind, words.wrongRoot, words.formatWords);
 }
 
 int DtXMLModelReader::toNumber(const DtString& text)

@@ -54,7 +54,8 @@ protected:
         const char* element;     // of a class
         const char* kind;        // "object" or "interaction"
         const char* root;        // name that the top class has to have
-        const char* wrongRoot;   // the warning's word for another top class
+        const char* wrongKind;   // what the warning about another top class calls the hierarchy ...
+        const char* wrongRoot;   // ... and the root
         const char* formatWords; // "1516 Evolved XML"
     };
 

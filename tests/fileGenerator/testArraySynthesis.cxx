@@ -239,8 +239,6 @@ void TestArraySynthesis::cyclesOfDatatypesAreClosed()
 
 void TestArraySynthesis::closureKeepsWhatIsThere()
 {
-    myModel->addArray("Made", "Element");
-    myModel->addSimple("Made", "Below");
     DtOMTEnvWriter writer;
     selectObjects(writer, {});
     writer.createArrayTypeFromItemInfo("item", "3", 0, "Foo");

@@ -11,7 +11,7 @@
 namespace
 {
 
-using Probe = WriterProbe<DtClassFileWriter>;
+using Probe = AttributeProbe<DtClassFileWriter>;
 using TokenValues = std::vector<std::pair<DtString, DtString>>;
 
 // A writer for the class "SeaShip" under "Platform" with one attribute.

@@ -133,7 +133,7 @@ void TestIntFileGenerator::interactionHasTenFilesWithDis()
     std::set<DtString> files;
     DtInteractionFileGenerator("FireInter", files, false, true, fire(), DtOmtProject()).generateFiles();
     QCOMPARE(files.size(), std::size_t(10));
-    QCOMPARE(myFixture->outputs(), sorted(theFiles + hlaFiles().filter("DIS")));
+    QCOMPARE(myFixture->outputs(), sorted(theFiles));
 }
 
 void TestIntFileGenerator::everyFileComesFromItsTemplate_data()

@@ -16,7 +16,6 @@ template <class Writer>
 class WriterProbe : public Writer
 {
 public:
-    using Writer::setCurrentAttribute;
     using Writer::Writer;
 
     // The text as the body of a template would come out.
@@ -34,6 +33,15 @@ public:
         this->decodeFileLine(line);
         return QString::fromUtf8(line.c_str());
     }
+};
+
+// The same for a writer that has attributes.
+template <class Writer>
+class AttributeProbe : public WriterProbe<Writer>
+{
+public:
+    using WriterProbe<Writer>::WriterProbe;
+    using Writer::setCurrentAttribute;
 };
 
 // Class-wide settings of a run with values of the test; what was there comes back at the end. Output goes to a

@@ -131,7 +131,9 @@ private Q_SLOTS:
         QCOMPARE(toQt(poc.type + "," + poc.firstName + "," + poc.lastName + "," + poc.organization + "," +
                       poc.telephone + "," + poc.email + "," + poc.other),
                  QString("type,first,last,org,phone,mail,"));
-        tree.setReferences({{"a", "b"}});
+        tree.setReferences({
+            {"a", "b"}
+        });
         tree.addReference("c", "d");
         QCOMPARE(toQt(tree.getReferences().at(1).type + tree.getReferences().at(1).identification), QString("cd"));
         tree.setName("n");

@@ -70,9 +70,9 @@ private Q_SLOTS:
 
     void everyPointOfContactIsRead()
     {
-        const auto tree = readSections(
-            "<modelIdentification><poc><pocType>t</pocType><pocName>n</pocName><pocOrg>o</pocOrg>"
-            "<pocTelephone>p</pocTelephone><pocEmail>e</pocEmail></poc><poc/></modelIdentification>");
+        const auto tree =
+            readSections("<modelIdentification><poc><pocType>t</pocType><pocName>n</pocName><pocOrg>o</pocOrg>"
+                         "<pocTelephone>p</pocTelephone><pocEmail>e</pocEmail></poc><poc/></modelIdentification>");
         QCOMPARE(tree->getPOCList().size(), std::size_t(2));
         const DtOMTTreePOC& poc = tree->getPOCList()[0];
         QCOMPARE(toQt(poc.type + poc.firstName + "," + poc.lastName + "," + poc.organization + poc.telephone +
@@ -86,8 +86,7 @@ private Q_SLOTS:
                  QString("\n|\n"));
         QCOMPARE(referencesOf("<reference>x<identification>b</identification><type>a</type></reference>"),
                  QString("x|x"));
-        QCOMPARE(referencesOf("<reference><type>a</type><identification>b</identification></reference>"),
-                 QString("|"));
+        QCOMPARE(referencesOf("<reference><type>a</type><identification>b</identification></reference>"), QString("|"));
     }
 
     void referenceNeedsBothElementsWithText()
@@ -111,12 +110,12 @@ private Q_SLOTS:
 
     void attributeIsRead()
     {
-        const auto tree = readSections(objects(
-            "<attribute><name>a</name><dataType>t</dataType><updateType>u</updateType>"
-            "<updateCondition>c</updateCondition><cardinality>0-4</cardinality><ownership>o</ownership>"
-            "<accuracy>y</accuracy><sharing>s</sharing><transportation>r</transportation><order>d</order>"
-            "<semantics>m</semantics><dimensions><dimension>x</dimension><dimension/><other>z</other>"
-            "<dimension>y</dimension></dimensions></attribute>"));
+        const auto tree = readSections(
+            objects("<attribute><name>a</name><dataType>t</dataType><updateType>u</updateType>"
+                    "<updateCondition>c</updateCondition><cardinality>0-4</cardinality><ownership>o</ownership>"
+                    "<accuracy>y</accuracy><sharing>s</sharing><transportation>r</transportation><order>d</order>"
+                    "<semantics>m</semantics><dimensions><dimension>x</dimension><dimension/><other>z</other>"
+                    "<dimension>y</dimension></dimensions></attribute>"));
         const DtAttributeFedNode& node = *tree->objectClassRoot()->findAttribute("a");
         QCOMPARE(toQt(node.getDatatype() + node.getUpdateType() + node.getUpdateCondition() + node.getTransferAccept() +
                       node.getAccuracy() + node.getSharing() + node.getTransportation() + node.getOrder() +
@@ -180,8 +179,8 @@ private Q_SLOTS:
         QTest::newRow("object class") << objects("<objectClass><name/><objectClass><name/></objectClass></objectClass>")
                                       << missing("objectClass");
         QTest::newRow("attribute") << objects("<attribute>" + nameless + "</attribute>") << missing("attribute");
-        QTest::newRow("interaction class") << interactions("<interactionClass>" + nameless + "</interactionClass>")
-                                           << missing("interactionClass");
+        QTest::newRow("interaction class")
+            << interactions("<interactionClass>" + nameless + "</interactionClass>") << missing("interactionClass");
         QTest::newRow("parameter") << interactions("<parameter>" + nameless + "</parameter>") << missing("parameter");
         QTest::newRow("class without a name element") << objects("<objectClass/><attribute/>") << QString();
         QTest::newRow("simpleData") << data("simpleDataTypes", "<simpleData/>") << missing("simpleData");
@@ -192,14 +191,13 @@ private Q_SLOTS:
                                                                "</fixedRecordData>")
                                << missing("fixedRecordData field");
         QTest::newRow("basicData") << data("basicDataRepresentations", "<basicData/>") << missing("basicData");
-        QTest::newRow("variantRecordData") << data("variantRecordDataTypes", "<variantRecordData/>")
-                                           << missing("variantRecordData");
+        QTest::newRow("variantRecordData")
+            << data("variantRecordDataTypes", "<variantRecordData/>") << missing("variantRecordData");
         QTest::newRow("alternative") << data("variantRecordDataTypes", "<variantRecordData><name>a</name><alternative/>"
                                                                        "</variantRecordData>")
                                      << QString();
-        QTest::newRow("enumeratedData")
-            << data("enumeratedDataTypes", "<enumeratedData><enumerator/></enumeratedData>")
-            << missing("enumeratedData");
+        QTest::newRow("enumeratedData") << data("enumeratedDataTypes", "<enumeratedData><enumerator/></enumeratedData>")
+                                        << missing("enumeratedData");
         QTest::newRow("enumerator") << data("enumeratedDataTypes", "<enumeratedData><name>a</name><enumerator/>"
                                                                    "</enumeratedData>")
                                     << missing("enumerator");
@@ -281,9 +279,9 @@ private Q_SLOTS:
         QCOMPARE(toQt(fixed.getComponentNode("x")->getDatatype() + fixed.getComponentNode("x")->getDescription()),
                  QString("tm"));
         const DtVariantDatatypeNode& variant = *tree->getVariantDatatypeNode("v");
-        QCOMPARE(toQt(variant.getDiscriminant() + variant.getDatatype() + variant.getEncoding() +
-                      variant.getDescription()),
-                 QString("dtes"));
+        QCOMPARE(
+            toQt(variant.getDiscriminant() + variant.getDatatype() + variant.getEncoding() + variant.getDescription()),
+            QString("dtes"));
         const DtAlternativeComponentNode& alternative = *variant.getComponentNode("y");
         QCOMPARE(toQt(alternative.getEnumerator() + alternative.getDatatype() + alternative.getDescription()),
                  QString("A, Bun"));
@@ -297,7 +295,8 @@ private Q_SLOTS:
             "<semantics>s</semantics><enumerator><value> 7x</value><name>a</name></enumerator>"
             "<enumerator><name>b</name><values>9</values></enumerator>"
             "<enumerator><name>c</name><value>4294967295</value></enumerator>"
-            "<enumerator><name>a</name><value>8</value></enumerator></enumeratedData></enumeratedDataTypes></dataTypes>");
+            "<enumerator><name>a</name><value>8</value></enumerator></enumeratedData></enumeratedDataTypes></"
+            "dataTypes>");
         const DtEnumeratedDatatypeNode& node = *tree->getEnumeratedDatatypeNode("e");
         QCOMPARE(toQt(node.getRepresentation() + node.getDescription()), QString("rs"));
         QCOMPARE(node.getEnumerationNode("a")->getNumber(), 7);
@@ -328,8 +327,9 @@ private Q_SLOTS:
         const DtSynchroNode& point = *tree->getSynchroNode("l");
         QCOMPARE(toQt(point.getDatatype() + point.getCapability() + point.getDescription()), QString("tcs"));
         QVERIFY(tree->getSynchroNode("x") == nullptr);
-        QCOMPARE(toQt(tree->getTransportationNode("n")->getReliable() + tree->getTransportationNode("n")->getDescription()),
-                 QString("Yess"));
+        QCOMPARE(
+            toQt(tree->getTransportationNode("n")->getReliable() + tree->getTransportationNode("n")->getDescription()),
+            QString("Yess"));
         QCOMPARE(tree->getUpdateRateNode("n")->rate(), 25.0);
         QCOMPARE(toQt(tree->getUpdateRateNode("n")->semantics()), QString("s"));
         DtTimeRepNode& time = *tree->getTimeRepNode();
@@ -340,9 +340,10 @@ private Q_SLOTS:
 
     void switchesAreRead()
     {
-        const auto tree = readSections("<switches><autoProvide isEnabled=\"true\"/><other isEnabled=\"Enabled\"/>"
-                                       "<off isEnabled=\"false\" resignAction=\"NoAction\"/>"
-                                       "<automaticResignAction isEnabled=\"true\" resignAction=\"NoAction\"/></switches>");
+        const auto tree =
+            readSections("<switches><autoProvide isEnabled=\"true\"/><other isEnabled=\"Enabled\"/>"
+                         "<off isEnabled=\"false\" resignAction=\"NoAction\"/>"
+                         "<automaticResignAction isEnabled=\"true\" resignAction=\"NoAction\"/></switches>");
         QCOMPARE(namesOf(tree->getSwitchNodeList(), tree->getSwitchEndNode()),
                  QString("autoProvide other off automaticResignAction"));
         QVERIFY(tree->getSwitchNode("autoProvide")->getEnabled());

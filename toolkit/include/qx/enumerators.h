@@ -171,7 +171,7 @@ public:
         {
             if (mySelectors[i].takes(value))
                 return static_cast<int>(i);
-            if (mySelectors[i].isOther())
+            if (mySelectors[i].isOther() && other < 0)
                 other = static_cast<int>(i);
         }
         return other;

@@ -10,8 +10,8 @@
 #include <qx/exercise.h>
 #include <qx/interactionWithEncDec.h>
 
-// Hears of the objects of one class and its subclasses, from DtExerciseConn::drainInput(). A call for an object that
-// was added before, or is not known yet, may come; it is to be passed over.
+// Hears of the objects of one class and its subclasses, from DtExerciseConn::drainInput(). An object that stood already
+// when the observer was added may be gone by the time it is told of; its removal follows.
 class DtExerciseObserver
 {
 public:
@@ -130,10 +130,12 @@ private:
     typedef void (*AnyFunction)();
     typedef unsigned long Key; // of a registration; never used twice, so an event cannot reach a successor
 
+    // For the registrations from `first` to `last`: an event does not reach one that was made after it.
     struct Event
     {
         DtExerciseEvent what;
-        Key only; // the one observer that it is for; 0 is all
+        Key first;
+        Key last;
     };
     struct Observer
     {
@@ -152,24 +154,25 @@ private:
 
     void receive(const DtExerciseEvent& what) override
     {
-        const Event event = {what, 0};
+        const Event event = {what, 0, myLastKey};
         myEvents.push_back(event);
     }
 
     void queueObject(DtExerciseObjectId id, const DtExercise::Object& object, Key only)
     {
-        Event event = {DtExercise::eventOf(DtExerciseEvent::ObjectAdded, id, object), only};
+        Event event = {DtExercise::eventOf(DtExerciseEvent::ObjectAdded, id, object), only, only};
         myEvents.push_back(event);
         event.what.kind = DtExerciseEvent::ObjectUpdated;
         event.what.values = object.values;
         myEvents.push_back(event);
     }
 
+    // Callbacks may add and remove registrations, so each is looked up again by its key before it is called.
     void deliver(const Event& event)
     {
         if (event.what.kind == DtExerciseEvent::InteractionSent)
         {
-            deliverInteraction(event.what);
+            deliverInteraction(event);
         }
         else
         {
@@ -177,28 +180,27 @@ private:
         }
     }
 
-    // Callbacks may add and remove registrations, so each is looked up again by its key before it is called.
-    void deliverInteraction(const DtExerciseEvent& what)
+    void deliverInteraction(const Event& event)
     {
-        const std::vector<Key> keys = keysOf(myReceivers, what.fullClassName);
+        const std::vector<Key> keys = keysFor(event, myReceivers);
         for (std::size_t index = 0; index < keys.size(); ++index)
         {
             const Receiver* const receiver = find(myReceivers, keys[index]);
             if (receiver != nullptr)
             {
                 const std::function<void(const DtAttributeValues&)> handOver = receiver->deliver;
-                handOver(what.values);
+                handOver(event.what.values);
             }
         }
     }
 
     void deliverObject(const Event& event)
     {
-        const std::vector<Key> keys = keysOf(myObservers, event.what.fullClassName);
+        const std::vector<Key> keys = keysFor(event, myObservers);
         for (std::size_t index = 0; index < keys.size(); ++index)
         {
             const Observer* const entry = find(myObservers, keys[index]);
-            if (entry != nullptr && (event.only == 0 || event.only == entry->key))
+            if (entry != nullptr)
             {
                 tell(*entry->observer, event.what);
             }
@@ -224,14 +226,16 @@ private:
     }
 
     template <class Entry>
-    static std::vector<Key> keysOf(const std::vector<Entry>& entries, const std::string& fullClassName)
+    static std::vector<Key> keysFor(const Event& event, const std::vector<Entry>& entries)
     {
         std::vector<Key> keys;
         for (std::size_t index = 0; index < entries.size(); ++index)
         {
-            if (DtExercise::isKindOf(fullClassName, entries[index].fullClassName))
+            const Key key = entries[index].key;
+            if (event.first <= key && key <= event.last &&
+                DtExercise::isKindOf(event.what.fullClassName, entries[index].fullClassName))
             {
-                keys.push_back(entries[index].key);
+                keys.push_back(key);
             }
         }
         return keys;

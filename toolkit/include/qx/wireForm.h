@@ -127,9 +127,11 @@ inline unsigned int DtOctetsByName(const char* name)
     return bits % 8 == 0 && bits <= 128 ? bits / 8 : 0;
 }
 
+// Names of model representations and of local types alike.
 inline bool DtIsUnsignedByName(const char* name)
 {
-    return std::strstr(name, "nteger") == nullptr || std::strstr(name, "nsigned") != nullptr;
+    return std::strncmp(name, "DtInt", 5) != 0 &&
+           (std::strstr(name, "nteger") == nullptr || std::strstr(name, "nsigned") != nullptr);
 }
 
 // The layout that the encoding of an array stands for; an unknown one counts as fixed where the number of elements is

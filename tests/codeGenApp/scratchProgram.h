@@ -1,0 +1,136 @@
+#ifndef TESTS_SCRATCH_PROGRAM_H
+#define TESTS_SCRATCH_PROGRAM_H
+
+#include "codeGenApp/codeGenAppGui.h"
+#include "codeGenApp/codeGenInitializer.h"
+#include "codeGenApp/preferencesDialog.h"
+#include "fileGenerator/dataTypeMapper.h"
+#include "fileGenerator/fileWriter.h"
+#include "fileGenerator/omtEnvWriter.h"
+#include "testSupport.h"
+
+#include <QtCore/QDirIterator>
+#include <QtCore/QTemporaryDir>
+#include <QtTest/QtTest>
+#include <QtWidgets/QtWidgets>
+
+#include <memory>
+
+inline void copyTree(const QString& from, const QString& to)
+{
+    QDir().mkpath(to);
+    for (QDirIterator each(from, QDir::Files | QDir::Dirs | QDir::NoDotAndDotDot | QDir::Hidden,
+                           QDirIterator::Subdirectories);
+         each.hasNext();)
+    {
+        each.next();
+        const QString target = to + "/" + QDir(from).relativeFilePath(each.filePath());
+        if (each.fileInfo().isDir())
+            QDir().mkpath(target);
+        else
+            QFile::copy(each.filePath(), target);
+    }
+}
+
+// A scratch copy of the program's data with a sibling "bin", which is the working directory while this lives.
+//
+// Models and output go beside them: model() copies a model there, so that its project is written there too. The
+// class-wide settings of the writers and the mapper's tables are put back.
+class DtScratchProgram
+{
+public:
+    DtScratchProgram()
+    {
+        copyTree(QStringLiteral(QX_SOURCE_DIR "/data"), path("data"));
+        QFile::remove(path("data/config/customCodeGenConfig.xml"));
+        QDir().mkpath(path("bin"));
+        myWorkingDirectory = std::make_unique<DtInDirectory>(path("bin"));
+    }
+    ~DtScratchProgram()
+    {
+        myWorkingDirectory.reset();
+        DtOMTEnvWriter::setIncludeName(DtString());
+        DtOMTEnvWriter::setPrefixName(DtString());
+        DtOMTEnvWriter::setNamespaceName(DtString());
+        DtOMTEnvWriter::setMIMincluded(true);
+        DtFileWriter::setOutputDirectory("source/");
+        DtDataTypeMapper::instance()->clearMappings();
+    }
+
+    QString path(const char* name) const { return myDirectory.path() + "/" + QString::fromLatin1(name); }
+    DtString bytes(const QString& name) const { return name.toUtf8().constData(); }
+
+    // Writes a model of this text, or copies one, into "models/".
+    DtString model(const char* name, const QByteArray& text) const
+    {
+        const QString file = path("models/") + QString::fromLatin1(name);
+        writeTextFile(file, text);
+        return bytes(file);
+    }
+    DtString copiedModel(const QString& file) const
+    {
+        return model(QFileInfo(file).fileName().toLatin1().constData(), readTextFile(file));
+    }
+    DtString sampleModel() const { return copiedModel(QStringLiteral(QX_SOURCE_DIR "/data/samples/sample.xml")); }
+
+    // A window on the configuration of the scratch copy, unattended.
+    std::unique_ptr<DtCodeGenAppGui> makeWindow()
+    {
+        myInitializer = std::make_unique<DtCodeGenInitializer>();
+        myInitializer->parseConfigFile("../data/config/codeGenConfig.xml");
+        auto window = std::make_unique<DtCodeGenAppGui>(*myInitializer, qApp, nullptr);
+        window->setUnattended(true);
+        return window;
+    }
+    DtCodeGenInitializer& initializer() { return *myInitializer; }
+
+private:
+    QTemporaryDir myDirectory;
+    std::unique_ptr<DtInDirectory> myWorkingDirectory;
+    std::unique_ptr<DtCodeGenInitializer> myInitializer;
+};
+
+// Does what a batch run with --all does, into "out/".
+inline std::unique_ptr<DtCodeGenAppGui> runBatch(DtScratchProgram& program, const std::vector<DtString>& models)
+{
+    std::unique_ptr<DtCodeGenAppGui> window = program.makeWindow();
+    DtFilename project(models.front());
+    project.setExtension("qxproj");
+    window->newOmtProject(project);
+    std::vector<DtCodeGenAppGui::DtModelFile> files;
+    for (const DtString& model : models)
+        files.emplace_back(model, "");
+    const int isLoaded = files.size() == 1 ? window->loadFile(models.front(), "") : window->loadFiles(files);
+    if (isLoaded == 0)
+        return window;
+    window->addAllObjectInteractions();
+    window->setOutputDirectory(program.path("out/"));
+    window->generateAllFiles();
+    return window;
+}
+
+inline QStringList filesBelow(const QString& directory)
+{
+    QStringList names;
+    for (QDirIterator each(directory, QDir::Files | QDir::Hidden, QDirIterator::Subdirectories); each.hasNext();)
+        names += QDir(directory).relativeFilePath(each.next());
+    names.sort();
+    return names;
+}
+
+// The six modules of the large model, in merge order; empty when they are not there.
+inline QStringList largeModel()
+{
+    QStringList files;
+    for (const char* module : {"Foundation", "Enumerations", "Base", "Physical", "Warfare", "Switches"})
+    {
+        const QString file =
+            QStringLiteral(QX_SHARED_DIR "/models/1516-2010/rpr2/RPR-%1_v2.0.xml").arg(QString::fromLatin1(module));
+        if (!QFile::exists(file))
+            return {};
+        files += file;
+    }
+    return files;
+}
+
+#endif

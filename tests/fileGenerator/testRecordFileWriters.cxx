@@ -1,0 +1,651 @@
+#include "fileGenerator/complexDataTypeFileWriter.h"
+#include "fileGenerator/fixedRecordsFileWriter.h"
+#include "fileGenerator/variantRecordFileWriter.h"
+#include "omtReader/omtTree.h"
+#include "registerTest.h"
+#include "writerProbe.h"
+
+#include <QtTest/QtTest>
+
+namespace
+{
+
+using FixedProbe = AttributeProbe<DtFixedRecordFileWriter>;
+using VariantProbe = AttributeProbe<DtVariantRecordFileWriter>;
+using ComplexProbe = AttributeProbe<DtComplexDataTypeFileWriter>;
+
+DtDataTypeMapper& mapper()
+{
+    return *DtDataTypeMapper::instance();
+}
+
+DtDatatypeClassNames& classNames()
+{
+    return DtDatatypeClassNames::instance();
+}
+
+struct Part
+{
+    const char* name;
+    const char* datatype;
+    const char* extra = ""; // enumerator of an alternative, cardinality of a component
+};
+
+DtFixedDatatypeNode* addFixed(DtOMTTree& tree, const DtString& name, const std::vector<Part>& parts)
+{
+    auto* node = new DtFixedDatatypeNode;
+    node->setName(name);
+    for (const Part& part : parts)
+    {
+        auto* field = new DtFieldComponentNode;
+        field->setName(part.name);
+        field->setDatatype(part.datatype);
+        node->addComponentNode(field);
+    }
+    tree.addFixedDatatypeNode(node);
+    mapper().addMapping(name, "Dt" + name);
+    return node;
+}
+
+DtVariantDatatypeNode* addVariant(DtOMTTree& tree, const DtString& name, const std::vector<Part>& parts)
+{
+    auto* node = new DtVariantDatatypeNode;
+    node->setName(name);
+    for (const Part& part : parts)
+    {
+        auto* alternative = new DtAlternativeComponentNode;
+        alternative->setName(part.name);
+        alternative->setDatatype(part.datatype);
+        alternative->setEnumerator(part.extra);
+        node->addComponentNode(alternative);
+    }
+    tree.addVariantDatatypeNode(node);
+    mapper().addMapping(name, "Dt" + name);
+    return node;
+}
+
+DtComplexDatatypeNode* addComplex(DtOMTTree& tree, const DtString& name, const std::vector<Part>& parts)
+{
+    auto* node = new DtComplexDatatypeNode;
+    node->setName(name);
+    for (const Part& part : parts)
+    {
+        auto* component = new DtComplexComponentNode;
+        component->setName(part.name);
+        component->setDatatype(part.datatype);
+        component->setCardinality(part.extra);
+        node->addComponentNode(component);
+    }
+    tree.addComplexDatatypeNode(node);
+    mapper().addMapping(name, "Dt" + name);
+    return node;
+}
+
+DtAttribute component(const char* datatype, const char* cardinality)
+{
+    DtAttribute attribute("c", "DtAny");
+    attribute.setCardinality(cardinality);
+    attribute.setDatatype(datatype);
+    return attribute;
+}
+
+} // namespace
+
+class TestRecordFileWriters : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void fieldsAreMembersInOrder();
+    void fixedRecordWithoutFields();
+    void fixedRecordTokens();
+    void laterMembersAreKnownAhead();
+    void recordIncludesItsMembersButNotItself();
+    void textFieldTakesTheEncodingBelow();
+    void otherFieldsTakeTheirOwnEncoding();
+    void recordWithOneOpenFieldIsEncodeable();
+    void recordWithTwoOpenFieldsIsNot();
+    void recordOfABadTypeIsBad();
+    void alternativesAreMembersInOrder();
+    void alternativesWithoutValueHaveNoMember();
+    void variantRecordTokens();
+    void enumeratorIsCleanedLikeInTheHeader_data();
+    void enumeratorIsCleanedLikeInTheHeader();
+    void enumeratorsAreCopiedFromTheRecord();
+    void enumeratorsOfEqualNamesKeepTheirOrder();
+    void variantNetTypesAreMarked();
+    void componentsAreMembersInOrder();
+    void arrayNames_data();
+    void arrayNames();
+    void rangeHasAnArrayOnlyWhereOneIsMade();
+    void arrayNameCarriesThePrefix();
+    void arrayIncludesDropNeighbours();
+    void complexTokens();
+    void generatedClassIsNoBasicType();
+    void boundaryOfTheTypeGoesFirst();
+    void complexTypesAreAlwaysEncodeable();
+    void knownTokensOfTheRecords();
+};
+
+void TestRecordFileWriters::fieldsAreMembersInOrder()
+{
+    const RunSettings settings;
+    DtOMTTree tree;
+    mapper().addMapping("RwByte", "DtU8");
+    classNames().add("RwPart", "DtRwPart");
+    FixedProbe writer("", "");
+    DtFixedDatatypeNode* node = addFixed(tree, "RwFixed",
+                                         {
+                                             {"Zulu",  "RwByte"},
+                                             {"class", "RwPart"},
+                                             {"a-b",   "Raw"   }
+    });
+    writer.compileAttributes(node, &tree);
+    writer.compileAttributes(node, &tree);
+    QCOMPARE(
+        writer.expand("<#ClassDatatypes><!ClassName!>: <#Attributes><!attributeName!> <!AttributeDatatype!> "
+                      "<!AttributeFomDatatype!> <!AttributeNumCardinality!><!AttributeHasPlusCardinality!>;<#><#>"),
+        QString("DtRwFixed: zulu DtU8 RwByte 1;theClass DtRwPart RwPart 1;a__b Raw Raw 1;"));
+}
+
+void TestRecordFileWriters::fixedRecordWithoutFields()
+{
+    const RunSettings settings;
+    DtOMTTree tree;
+    FixedProbe writer("", "");
+    writer.compileAttributes(addFixed(tree, "RwEmpty", {}), &tree);
+    writer.determineDecodeability();
+    QCOMPARE(writer.expand("<#ClassDatatypes><!ClassName!><#Attributes>x<#><#>"), QString("DtRwEmpty"));
+}
+
+void TestRecordFileWriters::fixedRecordTokens()
+{
+    const RunSettings settings;
+    DtOMTTree tree;
+    mapper().addVariableSizeNetType("DtNetRwOpen");
+    mapper().addMapping("RwOpen", "DtRwOpen");
+    mapper().addDatatypeToVariantDataMapping("RwChoice", {});
+    mapper().addNetTypeWithVariantRecord("DtNetRwHolder");
+    mapper().addMapping("RwHolder", "DtRwHolder");
+    FixedProbe writer("", "");
+    writer.compileAttributes(addFixed(tree, "RwDtTokens",
+                                      {
+                                          {"a", "RwOpen"  },
+                                          {"b", "RwChoice"},
+                                          {"c", "RwHolder"}
+    }),
+                             &tree);
+    QCOMPARE(writer.expand("<#ClassDatatypes><!ClassNetName!> <!NetTypeIsVariableSize!> <!NetTypeIsVariantRecord!>"
+                           "<#Attributes> (<!NetTypeIsVariableSize!>,<!NetTypeIsVariantRecord!>)<#><#>"),
+             QString("DtNetRwDtTokens <!NetTypeIsVariableSize!> <!NetTypeIsVariantRecord!> (1,) (,1) (,1)"));
+}
+
+void TestRecordFileWriters::laterMembersAreKnownAhead()
+{
+    const RunSettings settings;
+    DtOMTTree tree;
+    classNames().add("RwLater", "DtRwLater");
+    FixedProbe writer("", "");
+    DtFixedDatatypeNode* first = addFixed(tree, "RwFirst",
+                                          {
+                                              {"a", "RwLater"}
+    });
+    addFixed(tree, "RwLater",
+             {
+                 {"t", "RwText"}
+    });
+    mapper().addMapping("RwText", "DtString");
+    writer.compileAttributes(first, &tree);
+    QCOMPARE(writer.expand("<#ClassDatatypes><#Attributes><!NetTypeIsVariableSize!><#><#>"), QString("1"));
+    QVERIFY(mapper().isVariableSizeNetType("DtNetRwFirst"));
+}
+
+void TestRecordFileWriters::recordIncludesItsMembersButNotItself()
+{
+    const RunSettings settings;
+    DtOMTTree tree;
+    mapper().addMapping("RwByte", "DtU8");
+    mapper().addMapping("RwKindEnum", "DtRwKindEnum");
+    mapper().addEnumeration("RwKindEnum");
+    for (const char* name : {"RwOne", "rTwo"})
+        classNames().add(name, name == DtString("rTwo") ? "DtRTwo" : "DtRwOne");
+    FixedProbe writer("", "");
+    writer.compileAttributes(addFixed(tree, "RwUser",
+                                      {
+                                          {"a", "RwOne"     },
+                                          {"b", "RwByte"    },
+                                          {"c", "RwOne"     },
+                                          {"d", "RwKindEnum"},
+                                          {"e", "rTwo"      },
+                                          {"f", "RwUser"    },
+                                          {"g", "RwOne"     }
+    }),
+                             &tree);
+    QCOMPARE(writer.expand("<#IncludeFiles><!FileToInclude!> <#>"), QString("rwOne.h rTwo.h rwOne.h "));
+}
+
+void TestRecordFileWriters::textFieldTakesTheEncodingBelow()
+{
+    const RunSettings settings;
+    DtOMTTree tree;
+    mapper().addMapping("RwLabel", "DtString");
+    mapper().addSimpleTypeToRepresentationMapping("RwLabel", "RwChars");
+    mapper().addDatatypeToEncodingMapping("RwChars", "RwCharEncoding");
+    mapper().addMapping("RwLoop", "DtString");
+    mapper().addSimpleTypeToRepresentationMapping("RwLoop", "RwLoop");
+    FixedProbe writer("", "");
+    writer.compileAttributes(addFixed(tree, "RwTexts",
+                                      {
+                                          {"a", "RwLabel"},
+                                          {"b", "RwLoop" },
+                                          {"c", "RwChars"}
+    }),
+                             &tree);
+    QCOMPARE(writer.expand("<#ClassDatatypes><#Attributes><!AttributeEncoding!> <#><#>"),
+             QString("RwCharEncoding HLAvariableArray RwCharEncoding "));
+}
+
+void TestRecordFileWriters::otherFieldsTakeTheirOwnEncoding()
+{
+    const RunSettings settings;
+    DtOMTTree tree;
+    mapper().addMapping("RwNumber", "DtU8");
+    mapper().addSimpleTypeToRepresentationMapping("RwNumber", "RwChars");
+    mapper().addDatatypeToEncodingMapping("RwChars", "RwCharEncoding");
+    FixedProbe writer("", "");
+    writer.compileAttributes(addFixed(tree, "RwNumbers",
+                                      {
+                                          {"a", "RwNumber"}
+    }),
+                             &tree);
+    QCOMPARE(writer.expand("<#ClassDatatypes><#Attributes><!AttributeEncoding!><#><#>"), QString("HLAvariableArray"));
+}
+
+// An array class of one open attribute, as the array writer leaves it: its count comes from a complex-like member.
+void TestRecordFileWriters::recordWithOneOpenFieldIsEncodeable()
+{
+    const RunSettings settings;
+    DtOMTTree tree;
+    struct Open : FixedProbe
+    {
+        using FixedProbe::FixedProbe;
+        void compileOpen(DtOMTNode* node)
+        {
+            DtAttribute open("o", "DtU8");
+            open.setCardinality("0+");
+            addCompiled(node, {open});
+        }
+    };
+    Open writer("", "");
+    writer.compileOpen(addFixed(tree, "RwOpenPart", {}));
+    writer.compileAttributes(addFixed(tree, "RwOneOpen",
+                                      {
+                                          {"a", "RwOpenPart"}
+    }),
+                             &tree);
+    DtCapture warnings(DtWarn);
+    writer.determineDecodeability();
+    QCOMPARE(warnings.text(), QString());
+    writer.compileAttributes(addFixed(tree, "RwNestedTwo",
+                                      {
+                                          {"a", "RwOneOpen" },
+                                          {"b", "RwOpenPart"}
+    }),
+                             &tree);
+    writer.determineDecodeability();
+    QCOMPARE(warnings.text(), QString("Warning: Cannot encode/decode data type DtRwNestedTwo.\n"));
+}
+
+void TestRecordFileWriters::recordWithTwoOpenFieldsIsNot()
+{
+    const RunSettings settings;
+    DtOMTTree tree;
+    struct TwoOpen : FixedProbe
+    {
+        using FixedProbe::FixedProbe;
+        void compileTwo(DtOMTNode* node)
+        {
+            DtAttribute open("o", "DtU8");
+            open.setCardinality("0+");
+            addCompiled(node, {open, open});
+        }
+    };
+    TwoOpen writer("", "");
+    writer.compileTwo(addFixed(tree, "RwTwoOpen", {}));
+    DtCapture warnings(DtWarn);
+    writer.determineDecodeability();
+    QCOMPARE(warnings.text(), QString("Warning: Cannot encode/decode data type DtRwTwoOpen.\n"));
+    QCOMPARE(writer.expand("<#ClassDatatypes><!LocalTypeIsNotEncodeable!><#>"), QString("1"));
+}
+
+void TestRecordFileWriters::recordOfABadTypeIsBad()
+{
+    const RunSettings settings;
+    DtOMTTree tree;
+    mapper().addMapping("RwBad", "DtRwBad");
+    mapper().addNonEncodeableDataType("DtRwBad");
+    VariantProbe writer("", "");
+    writer.compileAttributes(addVariant(tree, "RwBadUser",
+                                        {
+                                            {"a", "RwBad", "A"}
+    }),
+                             &tree);
+    writer.determineDecodeability();
+    QVERIFY(mapper().isNonEncodeableDataType("DtRwBadUser"));
+    QCOMPARE(
+        writer.expand("<#ClassDatatypes><!LocalTypeIsNotEncodeable!><#Attributes><!AttributeIsNotEncodeable!><#><#>"),
+        QString("11"));
+}
+
+void TestRecordFileWriters::alternativesAreMembersInOrder()
+{
+    const RunSettings settings;
+    DtOMTTree tree;
+    mapper().addMapping("RwByte", "DtU8");
+    mapper().addDatatypeToEncodingMapping("RwText", "RwTextEncoding");
+    VariantProbe writer("", "");
+    writer.compileAttributes(addVariant(tree, "RwChoose",
+                                        {
+                                            {"Zulu",  "RwByte", "B"},
+                                            {"Alpha", "RwText", "A"}
+    }),
+                             &tree);
+    QCOMPARE(writer.expand("<#ClassDatatypes><!ClassName!>: <#Attributes><!AttributeName!> <!AttributeDatatype!> "
+                           "<!AttributeIsVariant!> <!CurrentDiscriminantEnumerator!> <!AttributeEncoding!>;<#><#>"),
+             QString("DtRwChoose: Zulu DtU8 1 B HLAvariableArray;Alpha RwText 1 A RwTextEncoding;"));
+}
+
+void TestRecordFileWriters::alternativesWithoutValueHaveNoMember()
+{
+    const RunSettings settings;
+    DtOMTTree tree;
+    VariantProbe writer("", "");
+    writer.compileAttributes(
+        addVariant(tree, "RwNone",
+                   {
+                       {"a", "",     "A"},
+                       {"b", "NA",   "B"},
+                       {"c", "N/A",  "C"},
+                       {"d", "na",   "D"},
+                       {"e", "NAME", "E"}
+    }),
+        &tree);
+    QCOMPARE(writer.expand("<#ClassDatatypes><#Attributes><!attributeName!><#><#>"), QString("de"));
+}
+
+void TestRecordFileWriters::variantRecordTokens()
+{
+    const RunSettings settings;
+    DtOMTTree tree;
+    VariantProbe writer("", "");
+    writer.setDiscriminantName("Kind");
+    writer.setDiscriminantType("RwKindEnum");
+    writer.compileAttributes(addVariant(tree, "RwVarTokens",
+                                        {
+                                            {"a", "RwX", "A"}
+    }),
+                             &tree);
+    QCOMPARE(writer.expand("<#ClassDatatypes><!ClassNetName!> <!ClassDiscriminantName!> <!ClassDiscriminantType!> "
+                           "<!CurrentDiscriminantEnumerator!> <!NetTypeIsVariantRecord!><#>"),
+             QString("DtNetRwVarTokens Kind RwKindEnum <!CurrentDiscriminantEnumerator!> <!NetTypeIsVariantRecord!>"));
+    QCOMPARE(text(writer.discriminantName() + writer.discriminantType()), QString("KindRwKindEnum"));
+}
+
+void TestRecordFileWriters::enumeratorIsCleanedLikeInTheHeader_data()
+{
+    QTest::addColumn<QString>("enumerator");
+    QTest::addColumn<QString>("expected");
+    QTest::newRow("plain") << "Sea"
+                           << "Sea";
+    QTest::newRow("special characters") << "F-16 <a/b#c&d>"
+                                        << "F16 abcd";
+    QTest::newRow("digit") << "3D"
+                           << "3D";
+    QTest::newRow("keyword") << "class"
+                             << "class";
+    QTest::newRow("list and range") << "A-1, [B .. C-2]"
+                                    << "A1, [B .. C2]";
+}
+
+void TestRecordFileWriters::enumeratorIsCleanedLikeInTheHeader()
+{
+    const RunSettings settings;
+    QFETCH(QString, enumerator);
+    DtOMTTree tree;
+    VariantProbe writer("", "");
+    const QByteArray bytes = enumerator.toUtf8();
+    writer.compileAttributes(addVariant(tree, "RwCleaned",
+                                        {
+                                            {"a", "RwX", bytes.constData()}
+    }),
+                             &tree);
+    QTEST(writer.expand("<#ClassDatatypes><#Attributes><!CurrentDiscriminantEnumerator!><#><#>"), "expected");
+}
+
+void TestRecordFileWriters::enumeratorsAreCopiedFromTheRecord()
+{
+    const RunSettings settings;
+    DtOMTTree tree;
+    VariantProbe writer("", "");
+    writer.compileAttributes(addVariant(tree, "RwCopied",
+                                        {
+                                            {"a", "RwX", "A"},
+                                            {"n", "NA",  "N"},
+                                            {"b", "RwX", "B"}
+    }),
+                             &tree);
+    writer.addEnumerators({
+        "Kind", "KindEnum", {{"A1", "a", "RwX"}, {"N1", "n", "NA"}, {"B1", "b", "RwX"}}
+    });
+    const char* enumerators = "<#ClassDatatypes><#Attributes><!CurrentDiscriminantEnumerator!> <#><#>";
+    QCOMPARE(writer.expand(enumerators), QString("A1 B1 "));
+    writer.addEnumerators({"Kind", "KindEnum", {{"Z", "unknown", "RwX"}}});
+    QCOMPARE(writer.expand(enumerators), QString("A1 B1 "));
+    writer.addEnumerators({
+        "Kind", "KindEnum", {{"A2", "a", "RwX"}, {"B2", "b", "RwX"}, {"C", "c", "RwX"}}
+    });
+    QCOMPARE(writer.expand(enumerators), QString("A2 B2 "));
+}
+
+void TestRecordFileWriters::enumeratorsOfEqualNamesKeepTheirOrder()
+{
+    const RunSettings settings;
+    DtOMTTree tree;
+    VariantProbe writer("", "");
+    writer.compileAttributes(addVariant(tree, "RwEqual",
+                                        {
+                                            {"a", "RwX", "1"},
+                                            {"a", "RwX", "2"}
+    }),
+                             &tree);
+    writer.addEnumerators({
+        "Kind", "KindEnum", {{"One", "a", "RwX"}, {"Two", "a", "RwX"}}
+    });
+    QCOMPARE(writer.expand("<#ClassDatatypes><#Attributes><!CurrentDiscriminantEnumerator!> <#><#>"),
+             QString("One Two "));
+}
+
+void TestRecordFileWriters::variantNetTypesAreMarked()
+{
+    const RunSettings settings;
+    DtOMTTree tree;
+    VariantProbe writer("", "");
+    writer.compileAttributes(addVariant(tree, "RwMarked",
+                                        {
+                                            {"a", "RwX", "A"}
+    }),
+                             &tree);
+    QVERIFY(mapper().hasVariantRecord("DtNetRwMarked"));
+    QVERIFY(!mapper().isVariableSizeNetType("DtNetRwMarked"));
+}
+
+void TestRecordFileWriters::componentsAreMembersInOrder()
+{
+    const RunSettings settings;
+    DtOMTTree tree;
+    mapper().addMapping("RwByte", "DtU8");
+    ComplexProbe writer("", "");
+    DtComplexDatatypeNode* node =
+        addComplex(tree, "RwComplex",
+                   {
+                       {"Zulu",  "RwByte", "4"       },
+                       {"Alpha", "Raw",    "1+"      },
+                       {"Opt",   "Raw",    "0-1(k=2)"}
+    });
+    writer.compileAttributes(node);
+    writer.compileAttributes(node);
+    QCOMPARE(
+        writer.expand("<#ClassDatatypes><!ClassName!>: <#Attributes><!AttributeName!> <!AttributeDatatype!> "
+                      "<!AttributeNumCardinality!> (<!AttributeHasPlusCardinality!>) (<!AttributeIsVariant!>);<#><#>"),
+        QString("DtRwComplex: Zulu DtU8 4 () ();Alpha Raw 1 (1) ();Opt Raw 1 () (1);"));
+}
+
+void TestRecordFileWriters::arrayNames_data()
+{
+    QTest::addColumn<QString>("cardinality");
+    QTest::addColumn<QString>("expected");
+    QTest::newRow("one") << "1"
+                         << "";
+    QTest::newRow("one with a type") << "1 (Type)"
+                                     << "";
+    QTest::newRow("fixed") << "10"
+                           << "DtRwFooFixedArray10";
+    QTest::newRow("no number") << "Dynamic"
+                               << "DtRwFooFixedArrayDynamic";
+    QTest::newRow("terminated") << "1+"
+                                << "DtRwFooNullTerminatedArray";
+    QTest::newRow("padded") << "%8"
+                            << "DtRwFooPaddingTo32Array";
+    QTest::newRow("range") << "1-4"
+                           << "";
+    QTest::newRow("conditional") << "(k=1)"
+                                 << "";
+    QTest::newRow("optional") << "(k)"
+                              << "";
+}
+
+void TestRecordFileWriters::arrayNames()
+{
+    const RunSettings settings;
+    QFETCH(QString, cardinality);
+    const DtAttribute attribute = component("RwFoo", cardinality.toUtf8().constData());
+    QTEST(text(ComplexProbe("", "").getDatatypeArrayName(attribute)), "expected");
+}
+
+void TestRecordFileWriters::rangeHasAnArrayOnlyWhereOneIsMade()
+{
+    const RunSettings settings;
+    classNames().add("RwFooVariableArray", "DtRwFooVariableArray");
+    QCOMPARE(text(ComplexProbe("", "").getDatatypeArrayName(component("RwFoo", "1-4"))),
+             QString("DtRwFooVariableArray"));
+}
+
+void TestRecordFileWriters::arrayNameCarriesThePrefix()
+{
+    const RunSettings settings;
+    DtOMTEnvWriter::setPrefixName("pre");
+    QCOMPARE(text(ComplexProbe("", "").getDatatypeArrayName(component("Rw-Foo", "2"))),
+             QString("DtPreRw__FooFixedArray2"));
+}
+
+void TestRecordFileWriters::arrayIncludesDropNeighbours()
+{
+    const RunSettings settings;
+    DtOMTTree tree;
+    ComplexProbe writer("", "");
+    writer.compileAttributes(addComplex(
+        tree, "RwArrays",
+        {
+            {"a", "RwFoo", "2" },
+            {"b", "RwFoo", "2" },
+            {"c", "RwBar", "1" },
+            {"d", "RwBar", "1+"},
+            {"e", "RwFoo", "2" }
+    }));
+    QCOMPARE(writer.expand("<#ArrayIncludeFiles><!ArrayFileToInclude!> <#>|<#ArrayIncludeFiles>x<#>"),
+             QString("rwFooFixedArray2.h rwBarNullTerminatedArray.h rwFooFixedArray2.h |xxx"));
+    QCOMPARE(writer.decode("<!ArrayFileToInclude!>"), QString(".h"));
+}
+
+void TestRecordFileWriters::complexTokens()
+{
+    const RunSettings settings;
+    DtOMTTree tree;
+    mapper().addMapping("RwByte", "DtU16");
+    mapper().addDataTypeNameToBoundary("RwFoo", 8);
+    ComplexProbe writer("DataTypes/rwTokens.h", "");
+    writer.setOriginalName("RwFoo");
+    writer.compileAttributes(addComplex(tree, "RwTokens",
+                                        {
+                                            {"a", "RwByte", "2"},
+                                            {"b", "RwFoo",  "1"}
+    }));
+    QCOMPARE(writer.expand("<!OctetBoundary!> <!MyHeaderInclude!> <!LocalTypeIsNotEncodeable!><#ClassDatatypes>"
+                           "<#Attributes> (<!DatatypeArrayName!> <!NonDtDatatypeArrayName!> <!IsBasicType!> "
+                           "<!OctetBoundary!>)<#><#>"),
+             QString("8 DataTypes/rwTokens.h <!LocalTypeIsNotEncodeable!> (DtRwByteFixedArray2 RwByteFixedArray2 1 2)"
+                     " (   8)"));
+    QCOMPARE(writer.decode("<!DatatypeArrayName!><!IsBasicType!>"), QString("<!DatatypeArrayName!><!IsBasicType!>"));
+}
+
+void TestRecordFileWriters::generatedClassIsNoBasicType()
+{
+    const RunSettings settings;
+    mapper().addMapping("RwDone", "DtRwDone");
+    classNames().add("RwDone", "DtRwDone");
+    ComplexProbe writer("", "");
+    const DtAttribute attribute = component("RwDone", "1");
+    writer.setCurrentAttribute(&attribute);
+    QCOMPARE(writer.decode("<!IsBasicType!>|"), QString("|"));
+}
+
+void TestRecordFileWriters::boundaryOfTheTypeGoesFirst()
+{
+    const RunSettings settings;
+    mapper().addDataTypeNameToBoundary("RwWide", 8);
+    ComplexProbe writer("", "");
+    DtAttribute attribute("c", "DtU16");
+    attribute.setDatatype("RwWide");
+    writer.setCurrentAttribute(&attribute);
+    QCOMPARE(writer.decode("<!OctetBoundary!>"), QString("2"));
+}
+
+void TestRecordFileWriters::complexTypesAreAlwaysEncodeable()
+{
+    const RunSettings settings;
+    DtOMTTree tree;
+    ComplexProbe writer("", "");
+    writer.compileAttributes(addComplex(tree, "RwFree",
+                                        {
+                                            {"a", "RwX", "1+"},
+                                            {"b", "RwX", "1+"}
+    }));
+    DtCapture warnings(DtWarn);
+    writer.determineDecodeability();
+    QCOMPARE(warnings.text(), QString());
+    QVERIFY(!mapper().isNonEncodeableDataType("DtRwFree"));
+}
+
+void TestRecordFileWriters::knownTokensOfTheRecords()
+{
+    const RunSettings settings;
+    const auto own = [](const DtClassFileWriter& writer, int count)
+    {
+        QStringList tokens;
+        for (int i = 0; i < count; ++i)
+            tokens << text(writer.knownTokens()[static_cast<std::size_t>(i)]);
+        return tokens.join(' ');
+    };
+    QCOMPARE(own(FixedProbe("", ""), 5),
+             QString("<!MyHeaderInclude!> <!LocalTypeIsNotEncodeable!> <!ClassNetName!> <!NetTypeIsVariableSize!> "
+                     "<!NetTypeIsVariantRecord!>"));
+    QCOMPARE(own(VariantProbe("", ""), 7),
+             QString("<!MyHeaderInclude!> <!LocalTypeIsNotEncodeable!> <!ClassNetName!> <!ClassDiscriminantName!> "
+                     "<!ClassDiscriminantType!> <!CurrentDiscriminantEnumerator!> <!NetTypeIsVariantRecord!>"));
+    QCOMPARE(own(ComplexProbe("", ""), 6),
+             QString("<!MyHeaderInclude!> <!ArrayFileToInclude!> <!DatatypeArrayName!> <!NonDtDatatypeArrayName!> "
+                     "<!IsBasicType!> <!OctetBoundary!>"));
+}
+
+QX_REGISTER_TEST(TestRecordFileWriters)
+#include "testRecordFileWriters.moc"

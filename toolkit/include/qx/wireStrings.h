@@ -1,0 +1,142 @@
+#ifndef QX_WIRE_STRINGS_H
+#define QX_WIRE_STRINGS_H
+
+#include <qx/wireArrays.h>
+
+// Strings. What they hold is told by the datatype, how they are laid out by the encoding.
+
+inline bool DtIsWideString(const DtWireForm& form)
+{
+    return std::strstr(form.datatype, "nicode") || std::strstr(form.representation, "nicode") ||
+           std::strstr(form.representation, "octetPair");
+}
+
+// UTF-8 to UTF-16 and back; what is no valid text becomes the replacement character.
+inline std::vector<DtU16> DtWideUnits(const std::string& text)
+{
+    std::vector<DtU16> units;
+    for (std::size_t i = 0; i < text.size();)
+    {
+        const DtU8 lead = static_cast<DtU8>(text[i++]);
+        const int more = lead < 0x80 ? 0 : lead < 0xc2 ? -1 : lead < 0xe0 ? 1 : lead < 0xf0 ? 2 : lead < 0xf5 ? 3 : -1;
+        DtU32 code = more == 0 ? lead : lead & (0x3f >> (more < 0 ? 0 : more));
+        int taken = 0;
+        for (; taken < more && i < text.size() && (static_cast<DtU8>(text[i]) & 0xc0) == 0x80; ++taken)
+            code = code << 6 | (static_cast<DtU8>(text[i++]) & 0x3f);
+        const bool overlong = (more == 2 && code < 0x800) || (more == 3 && code < 0x10000);
+        if (more < 0 || taken != more || overlong || code > 0x10ffff || (code >= 0xd800 && code <= 0xdfff))
+            code = 0xfffd;
+        if (code < 0x10000)
+        {
+            units.push_back(static_cast<DtU16>(code));
+            continue;
+        }
+        units.push_back(static_cast<DtU16>(0xd800 + ((code - 0x10000) >> 10)));
+        units.push_back(static_cast<DtU16>(0xdc00 + ((code - 0x10000) & 0x3ff)));
+    }
+    return units;
+}
+
+inline void DtAppendUtf8(std::string& text, DtU32 code)
+{
+    const int more = code < 0x80 ? 0 : code < 0x800 ? 1 : code < 0x10000 ? 2 : 3;
+    static const DtU8 theLeads[] = {0x00, 0xc0, 0xe0, 0xf0};
+    text += static_cast<char>(theLeads[more] | (code >> (6 * more)));
+    for (int i = more - 1; i >= 0; --i)
+        text += static_cast<char>(0x80 | (code >> (6 * i) & 0x3f));
+}
+
+inline std::string DtNarrowText(const std::vector<DtU16>& units)
+{
+    std::string text;
+    for (std::size_t i = 0; i < units.size(); ++i)
+    {
+        DtU32 code = units[i];
+        const bool high = code >= 0xd800 && code < 0xdc00;
+        if (high && i + 1 < units.size() && units[i + 1] >= 0xdc00 && units[i + 1] < 0xe000)
+            code = 0x10000 + ((code - 0xd800) << 10) + (units[++i] - 0xdc00u);
+        else if (code >= 0xd800 && code < 0xe000)
+            code = 0xfffd;
+        DtAppendUtf8(text, code);
+    }
+    return text;
+}
+
+template <>
+struct DtWireTraits<DtString, void>
+{
+    static void encode(DtWireWriter& writer, const DtString& value, const DtWireForm& form)
+    {
+        if (DtIsWideString(form))
+            return encodeUnits(writer, DtWideUnits(value.text()), form);
+        encodeUnits(writer, std::vector<DtU8>(value.text().begin(), value.text().end()), form);
+    }
+    static bool decode(DtWireReader& reader, DtString& value, const DtWireForm& form)
+    {
+        std::vector<DtU16> wide;
+        std::vector<DtU8> narrow;
+        if (DtIsWideString(form))
+        {
+            if (!DtDecodeArray(reader, wide, layout(form), unitForm(form)))
+                return false;
+            value = DtNarrowText(wide);
+            return true;
+        }
+        if (!DtDecodeArray(reader, narrow, layout(form), unitForm(form)))
+            return false;
+        if (layout(form).kind == DtFixedArray)
+            while (!narrow.empty() && narrow.back() == 0)
+                narrow.pop_back(); // what a shorter text was filled with
+        value = std::string(narrow.begin(), narrow.end());
+        return true;
+    }
+    static unsigned int boundary(const DtWireForm& form, const DtWireTrail*)
+    {
+        return DtIsWideString(form) ? DtArrayBoundary<DtU16>(layout(form), unitForm(form), nullptr)
+                                    : DtArrayBoundary<DtU8>(layout(form), unitForm(form), nullptr);
+    }
+
+private:
+    static DtWireForm unitForm(const DtWireForm& form) { return DtWireForm(form.representation); }
+    // A fixed string has the length of the form, or the one that its datatype's name ends with; without either it
+    // reaches to the end of the value.
+    static DtArrayLayout layout(const DtWireForm& form)
+    {
+        DtArrayLayout layout =
+            DtTextIs(form.datatype, "string") ? DtArrayLayout(DtNullTerminatedArray) : DtLayoutOf(form);
+        if (layout.kind == DtFixedArray && layout.count <= 1)
+            layout.count = DtTrailingNumber(form.datatype);
+        if (layout.kind == DtFixedArray && layout.count == 0)
+            layout.kind = DtLengthlessArray;
+        return layout;
+    }
+    template <class Unit>
+    static void encodeUnits(DtWireWriter& writer, std::vector<Unit> units, const DtWireForm& form)
+    {
+        const DtArrayLayout kind = layout(form);
+        if (kind.kind == DtFixedArray)
+            units.resize(kind.count); // cut, or filled with zeros
+        DtEncodeArray(writer, units, kind, unitForm(form));
+    }
+};
+
+template <>
+struct DtWireTraits<DtGlobalObjectDesignator, void>
+{
+    static DtWireForm form() { return DtWireForm("", "", "RPRnullTerminatedArray"); }
+    static void encode(DtWireWriter& writer, const DtGlobalObjectDesignator& value, const DtWireForm&)
+    {
+        DtWireTraits<DtString>::encode(writer, value.name(), form());
+    }
+    static bool decode(DtWireReader& reader, DtGlobalObjectDesignator& value, const DtWireForm&)
+    {
+        DtString name;
+        if (!DtWireTraits<DtString>::decode(reader, name, form()))
+            return false;
+        value = DtGlobalObjectDesignator(name);
+        return true;
+    }
+    static unsigned int boundary(const DtWireForm&, const DtWireTrail*) { return 1; }
+};
+
+#endif

@@ -1,0 +1,119 @@
+#ifndef QX_WIRE_TRAITS_H
+#define QX_WIRE_TRAITS_H
+
+// How a value of any type reaches the wire: the operations, and the traits that each type answers them with.
+
+#include <qx/wireBuffer.h>
+#include <qx/wireForm.h>
+
+// Classes on the way down while a boundary is worked out, so that types that hold themselves come to an end.
+struct DtWireTrail
+{
+    const void* id; // one address per class
+    const DtWireTrail* outer;
+
+    static bool holds(const DtWireTrail* trail, const void* id)
+    {
+        for (; trail; trail = trail->outer)
+            if (trail->id == id)
+                return true;
+        return false;
+    }
+};
+
+inline unsigned int DtLargerBoundary(unsigned int a, unsigned int b)
+{
+    return a < b ? b : a;
+}
+
+// How one type goes to the wire; the primary template is for generated classes.
+template <class Type, class Enable = void>
+struct DtWireTraits
+{
+    static void encode(DtWireWriter& writer, const Type& value, const DtWireForm& form) { put(writer, value, form, 0); }
+    static bool decode(DtWireReader& reader, Type& value, const DtWireForm& form)
+    {
+        return get(reader, value, form, 0);
+    }
+    static unsigned int boundary(const DtWireForm&, const DtWireTrail* trail) { return own<Type>(trail, 0); }
+
+private:
+    // Classes of simple datatypes take the form too, since the byte order of their representation is known to the user.
+    template <class Class>
+    static auto put(DtWireWriter& writer, const Class& value, const DtWireForm& form, int)
+        -> decltype(value.encode(writer, form))
+    {
+        return value.encode(writer, form);
+    }
+    template <class Class>
+    static void put(DtWireWriter& writer, const Class& value, const DtWireForm&, long)
+    {
+        value.encode(writer);
+    }
+    template <class Class>
+    static auto get(DtWireReader& reader, Class& value, const DtWireForm& form, int)
+        -> decltype(value.decode(reader, form))
+    {
+        return value.decode(reader, form);
+    }
+    template <class Class>
+    static bool get(DtWireReader& reader, Class& value, const DtWireForm&, long)
+    {
+        return value.decode(reader);
+    }
+    template <class Class>
+    static auto own(const DtWireTrail* trail, int) -> decltype(Class::octetBoundary(trail))
+    {
+        return Class::octetBoundary(trail);
+    }
+    template <class Class>
+    static unsigned int own(const DtWireTrail*, long)
+    {
+        return Class::octetBoundary();
+    }
+};
+
+template <class Type>
+unsigned int DtBoundaryOfType(const DtWireForm& form, const DtWireTrail* trail = nullptr)
+{
+    return DtLargerBoundary(1, DtWireTraits<Type>::boundary(form, trail));
+}
+
+template <class Type>
+unsigned int DtBoundaryOf(const Type&, const DtWireForm& form)
+{
+    return DtBoundaryOfType<Type>(form);
+}
+
+template <class Type>
+void DtEncodeValue(DtWireWriter& writer, const Type& value, const DtWireForm& form)
+{
+    writer.pad(DtBoundaryOfType<Type>(form));
+    DtWireTraits<Type>::encode(writer, value, form);
+}
+
+template <class Type>
+bool DtDecodeValue(DtWireReader& reader, Type& value, const DtWireForm& form)
+{
+    return reader.pad(DtBoundaryOfType<Type>(form)) && DtWireTraits<Type>::decode(reader, value, form);
+}
+
+// Octets of a value that starts at an offset of 0; 0 when it cannot be encoded.
+template <class Class>
+unsigned int DtNetSizeOf(const Class& value)
+{
+    DtWireWriter writer;
+    value.encode(writer);
+    return writer.ok() ? static_cast<unsigned int>(writer.size()) : 0;
+}
+
+// Boundary of a number: the smallest power of two that is not below its length.
+inline unsigned int DtNumberBoundary(unsigned int octets)
+{
+    unsigned int boundary = 1;
+    while (boundary < octets && boundary < 128)
+        boundary *= 2;
+    return boundary;
+}
+
+#endif

@@ -4,16 +4,25 @@
 #   ./run.sh window       opens the window
 #   ./run.sh OPTIONS      hands the options to the program and ends with its exit code
 # Paths after -O, -P and -F count from where the user stands, although the program runs in bin/.
+# QX_RUN_PROGRAM names, by an absolute path, a program to start in place of the one that is built here; nothing is
+# installed and built then.
 set -eu
 
 here=$PWD
 top=$(cd "$(dirname "${BASH_SOURCE[0]}")" && pwd)
-"$top/.ci/setup"
-(cd "$top" && cmake --preset release && cmake --build --preset release) >"${TMPDIR:-/tmp}/quorvex-build.$$.log" 2>&1 || {
-    cat "${TMPDIR:-/tmp}/quorvex-build.$$.log" >&2
-    exit 2
+
+build() {
+    local log="${TMPDIR:-/tmp}/quorvex-build.$$.log"
+    "$top/.ci/setup"
+    (cd "$top" && cmake --preset release && cmake --build --preset release) >"$log" 2>&1 || {
+        cat "$log" >&2
+        exit 2
+    }
+    rm -f "$log"
 }
-rm -f "${TMPDIR:-/tmp}/quorvex-build.$$.log"
+
+program=${QX_RUN_PROGRAM:-./codeGen}
+[ -n "${QX_RUN_PROGRAM-}" ] || build
 
 # A model that is not there stays as it is, so that the program can search for it.
 absolute() { # option value
@@ -37,9 +46,9 @@ translate() {
     while [ $# -gt 0 ]; do
         case $1 in
             --) arguments+=("$@"); return ;;
-            --outputDir=* | --project=* | --fomDefFile=*)
-                name=${1%%=*}
-                arguments+=("$name=$(absolute "$(letter "$name")" "${1#*=}")")
+            "-O "* | "-P "* | "-F "* | "--outputDir "* | "--project "* | "--fomDefFile "*) # both in one argument
+                name=${1%% *}
+                arguments+=("$name $(absolute "$(letter "$name")" "${1#* }")")
                 ;;
             *)
                 arguments+=("$1")
@@ -67,5 +76,6 @@ elif [ "$1" = window ]; then
 else
     translate "$@"
 fi
+mkdir -p "$top/bin"
 cd "$top/bin"
-exec ./codeGen ${arguments[@]+"${arguments[@]}"}
+exec "$program" ${arguments[@]+"${arguments[@]}"}

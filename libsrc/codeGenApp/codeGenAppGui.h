@@ -72,7 +72,8 @@ public:
     virtual void newOmtProject(DtFilename path);
     virtual void loadStylesheet(bool dark);
     virtual void putIntoUi(DtOmtProject* project);
-    // True when the file can be opened. The standard management model is found under its name without a file.
+    // True when the model file can be opened, from here or below RTI_CONFIG, where the readers look too. The standard
+    // management model is found under its name without a file.
     virtual bool findFile(const DtFilename& path);
     // Replaces until nothing is left to replace, so the replacement must not hold the searched text.
     virtual void replaceAll(QString& text, const QString& from, const QString& to);
@@ -121,6 +122,8 @@ private:
     void forgetProject();
     bool locateModels(const DtFilename& projectFile, std::vector<DtModelFile>& models);
     bool locateModel(const DtModelFile& model, const DtFilename& projectFile, DtFilename& found);
+    DtFilename askForFile(const char* title, const char* filter);
+    void showMessageBox(const DtString& text);
     void enableProjectActions(bool enabled);
     void dumpParseTree();
     void setUpWriters();

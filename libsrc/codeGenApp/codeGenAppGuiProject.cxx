@@ -102,11 +102,8 @@ void DtCodeGenAppGui::slot_loadOmtProject()
 void DtCodeGenAppGui::loadOmtProject(const DtFilename& path)
 {
     DtFilename file = path.isEmpty() ? myProjectFile : path;
-    if (file.isEmpty() && !myIsUnattended)
-        file = QFileDialog::getOpenFileName(this, QStringLiteral("Open Project File"), QStringLiteral("."),
-                                            QString::fromLatin1(theProjectFilter))
-                   .toLatin1()
-                   .constData();
+    if (file.isEmpty())
+        file = askForFile("Open Project File", theProjectFilter);
     if (file.isEmpty() || !readProject(file))
         return;
     std::vector<DtModelFile> models;
@@ -129,6 +126,19 @@ void DtCodeGenAppGui::loadOmtProject(const DtFilename& path)
     myProjectFile = file;
     enableProjectActions(true);
     myOutputDir = DtString();
+}
+
+// What the user chooses; empty after a cancel, and without a user.
+DtFilename DtCodeGenAppGui::askForFile(const char* title, const char* filter)
+{
+    if (myIsUnattended)
+    {
+        DtWarn << title << std::endl;
+        return DtFilename();
+    }
+    const QString choice = QFileDialog::getOpenFileName(this, QString::fromLatin1(title), QStringLiteral("."),
+                                                        QString::fromLatin1(filter));
+    return choice.toLatin1().constData();
 }
 
 // Replaces the present project by what the file holds. A file that cannot be opened leaves no project at all. Until
@@ -187,23 +197,26 @@ bool DtCodeGenAppGui::locateModel(const DtModelFile& model, const DtFilename& pr
         found = DtFilename::searchAlternatePath(model.first.c_str(), projectDirectory.c_str());
     if (findFile(found))
         return true;
-    const DtString text = model.first + " could not be found";
-    if (myIsUnattended)
-    {
-        DtWarn << text << std::endl;
-        return false;
-    }
-    QMessageBox::warning(this, windowTitle(), QString::fromUtf8(text.c_str()));
-    found = QFileDialog::getOpenFileName(this, QStringLiteral("Open File"), QStringLiteral("."),
-                                         QStringLiteral("Object Model Files (*.omt *.xml *.fdd)"))
-                .toLatin1()
-                .constData();
+    showMessageBox(model.first + " could not be found");
+    found = askForFile("Open File", "Object Model Files (*.omt *.xml *.fdd)");
     return !found.isEmpty();
+}
+
+void DtCodeGenAppGui::showMessageBox(const DtString& text)
+{
+    if (myIsUnattended)
+        DtWarn << text << std::endl;
+    else
+        QMessageBox::warning(this, windowTitle(), QString::fromUtf8(text.c_str()));
 }
 
 bool DtCodeGenAppGui::findFile(const DtFilename& path)
 {
-    return canOpen(path) || DtFilename::stripPath(path) == DtFedReader::standardMimFileName(DtFomEvolved);
+    if (DtFilename::stripPath(path) == DtFedReader::standardMimFileName(DtFomEvolved))
+        return true;
+    FILE* const file = static_cast<FILE*>(DtFedReader::openFedFile(path, false));
+    DtFileClose(file);
+    return file != nullptr;
 }
 
 void DtCodeGenAppGui::putIntoUi(DtOmtProject* project)

@@ -39,11 +39,12 @@ char** copyArguments(int argc, char** argv)
     return copy;
 }
 
-// True when the platform was chosen here because the machine shows no display.
+// True when the platform was chosen here because the machine shows no display. A variable that is set to nothing names
+// no display either.
 bool chooseOffscreenWithoutDisplay()
 {
     for (const char* name : {"DISPLAY", "WAYLAND_DISPLAY", "QT_QPA_PLATFORM"})
-        if (std::getenv(name) != nullptr)
+        if (!qEnvironmentVariableIsEmpty(name))
             return false;
     setenv("QT_QPA_PLATFORM", "offscreen", 1);
     return true;
@@ -119,7 +120,8 @@ DtCodeGenerationApp::~DtCodeGenerationApp()
 
 void DtCodeGenerationApp::readConfiguration()
 {
-    const bool isCustomized = boost::filesystem::exists(theCustomConfigFile);
+    boost::system::error_code ignored; // a directory that cannot be looked into holds no configuration
+    const bool isCustomized = boost::filesystem::exists(theCustomConfigFile, ignored);
     myInitializer.parseConfigFile(isCustomized ? theCustomConfigFile : theDefaultConfigFile);
 }
 
@@ -226,6 +228,7 @@ int DtCodeGenerationApp::run()
 
 int DtCodeGenerationApp::runWindow()
 {
+    myGui->setUnattended(myHasNoDisplay); // from here on somebody can answer
     myGui->manageIcons();
     myGui->show();
     QCoreApplication::processEvents();

@@ -19,7 +19,7 @@ bool isRootText(const QString& text)
 
 DtString textOf(const QTreeWidgetItem* item)
 {
-    return DtString(item->text(0).toLatin1().constData());
+    return DtString(item->text(0).toUtf8().constData());
 }
 
 QTreeWidgetItem* topLevelItem(const QTreeWidget* list, const QString& text)
@@ -141,11 +141,10 @@ void DtListViewManager::record(QTreeWidgetItem* leftItem, const DtItemMap& items
     const DtFedNode* const node = nodeOf(leftItem, items);
     if (node == nullptr)
         return;
-    auto* const changeable = const_cast<DtFedNode*>(node); // the project only reads it
-    if (isObject && !project->isObjectInProj(changeable->getFullName()))
-        project->addObject(static_cast<DtObjectClassFedNode*>(changeable));
-    else if (!isObject && !project->isInteractionInProj(changeable->getFullName()))
-        project->addInteraction(static_cast<DtInteractionClassFedNode*>(changeable));
+    if (isObject && !project->isObjectInProj(node->getFullName()))
+        project->addObject(static_cast<const DtObjectClassFedNode*>(node));
+    else if (!isObject && !project->isInteractionInProj(node->getFullName()))
+        project->addInteraction(static_cast<const DtInteractionClassFedNode*>(node));
 }
 
 void DtListViewManager::processRemoval(DtOmtProject* project)
@@ -230,6 +229,8 @@ void DtListViewManager::compileObjectSet(QTreeWidgetItem* item, const DtItemMap&
         object.setName(node->getName());
         for (const DtAttributeFedNode* attribute : node->getAttributes())
         {
+            if (attribute == nullptr) // stands where an attribute was removed from the model
+                continue;
             DtOmtAttribute own;
             own.setFullName(attribute->getName());
             own.setName(attribute->getName());
@@ -251,6 +252,8 @@ void DtListViewManager::compileInteractionSet(QTreeWidgetItem* item, const DtIte
         interaction.setName(node->getName());
         for (const DtParameterFedNode* parameter : node->getParameters())
         {
+            if (parameter == nullptr)
+                continue;
             DtOmtParameter own;
             own.setFullName(parameter->getName());
             own.setName(parameter->getName());

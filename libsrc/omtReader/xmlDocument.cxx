@@ -89,5 +89,6 @@ const xmlChar* DtXmlText(const xmlNode* first)
 {
     while (first != nullptr && (first->type == XML_COMMENT_NODE || first->type == XML_PI_NODE))
         first = first->next;
-    return first != nullptr && first->type != XML_ELEMENT_NODE ? first->content : nullptr;
+    const bool isText = first != nullptr && (first->type == XML_TEXT_NODE || first->type == XML_CDATA_SECTION_NODE);
+    return isText ? first->content : nullptr;
 }

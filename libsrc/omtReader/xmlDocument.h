@@ -52,7 +52,8 @@ int DtOpenPlainFile(const char* name);
 // The element behind an iterator step: `node` itself when it is an element, else the next sibling that is one.
 xmlNode* DtElementFrom(xmlNode* node);
 bool DtHasXmlName(const xmlNode* node, const char* name);
-// Text of the first child that is no comment or processing instruction; null when there is none or it has no text.
+// Text of the first of these siblings that is no comment or processing instruction; null when there is none or it is no
+// text. A reference to an entity counts as none: a few bytes could stand for any amount of text.
 const xmlChar* DtXmlText(const xmlNode* first);
 
 // The child elements of an element: for (xmlNode* child : DtXmlElements(parent)).

@@ -1,168 +1,9 @@
 #include "omtReader/xmlEvolvedFileReader.h"
 
+#include "omtReader/xmlEvolvedFields.h"
+
 namespace
 {
-// Where the child elements of each construct go.
-
-const DtXmlField<DtOMTTree> theIdentificationFields[] = {
-    {"name",                   &DtOMTTree::setName                  },
-    {"type",                   &DtOMTTree::setType                  },
-    {"version",                &DtOMTTree::setVersionNo             },
-    {"modificationDate",       &DtOMTTree::setModificationDate      },
-    {"securityClassification", &DtOMTTree::setSecurityClassification},
-    {"releaseRestriction",     &DtOMTTree::setReleaseRestriction    },
-    {"purpose",                &DtOMTTree::setPurpose               },
-    {"applicationDomain",      &DtOMTTree::setApplicationDomain     },
-    {"description",            &DtOMTTree::setDescription           },
-    {"useLimitation",          &DtOMTTree::setUseLimitation         },
-    {"useHistory",             &DtOMTTree::setUseHistory            },
-    {"other",                  &DtOMTTree::setOther                 },
-};
-
-const DtXmlField<DtOMTTreePOC> thePocFields[] = {
-    {"pocName",      nullptr, [](DtOMTTreePOC& poc, const DtString& text) { poc.firstName = text; }   },
-    {"pocOrg",       nullptr, [](DtOMTTreePOC& poc, const DtString& text) { poc.organization = text; }},
-    {"pocTelephone", nullptr, [](DtOMTTreePOC& poc, const DtString& text) { poc.telephone = text; }   },
-    {"pocEmail",     nullptr, [](DtOMTTreePOC& poc, const DtString& text) { poc.email = text; }       },
-    {"pocType",      nullptr, [](DtOMTTreePOC& poc, const DtString& text) { poc.type = text; }        },
-};
-
-const DtXmlField<DtNoteNode> theNoteFields[] = {
-    {"semantics", &DtNoteNode::setText },
-    {"label",     &DtNoteNode::setLabel},
-};
-
-const DtXmlField<DtObjectClassFedNode> theObjectClassFields[] = {
-    {"name",      &DtObjectClassFedNode::setName      },
-    {"sharing",   &DtObjectClassFedNode::setSharing   },
-    {"semantics", &DtObjectClassFedNode::setDescriptor},
-};
-
-const DtXmlField<DtAttributeFedNode> theAttributeFields[] = {
-    {"name",            &DtAttributeFedNode::setName           },
-    {"dataType",        &DtAttributeFedNode::setDatatype       },
-    {"updateType",      &DtAttributeFedNode::setUpdateType     },
-    {"updateCondition", &DtAttributeFedNode::setUpdateCondition},
-    {"cardinality",     &DtAttributeFedNode::setCardinality    },
-    {"ownership",       &DtAttributeFedNode::setTransferAccept },
-    {"accuracy",        &DtAttributeFedNode::setAccuracy       },
-    {"sharing",         &DtAttributeFedNode::setSharing        },
-    {"transportation",  &DtAttributeFedNode::setTransportation },
-    {"order",           &DtAttributeFedNode::setOrder          },
-    {"semantics",       &DtAttributeFedNode::setDescription    },
-};
-
-const DtXmlField<DtInteractionClassFedNode> theInteractionClassFields[] = {
-    {"name",           &DtInteractionClassFedNode::setName          },
-    {"sharing",        &DtInteractionClassFedNode::setSharing       },
-    {"transportation", &DtInteractionClassFedNode::setTransportation},
-    {"order",          &DtInteractionClassFedNode::setOrder         },
-    {"semantics",      &DtInteractionClassFedNode::setDescriptor    },
-};
-
-const DtXmlField<DtParameterFedNode> theParameterFields[] = {
-    {"name",           &DtParameterFedNode::setName          },
-    {"dataType",       &DtParameterFedNode::setDatatype      },
-    {"sharing",        &DtParameterFedNode::setSharing       },
-    {"transportation", &DtParameterFedNode::setTransportation},
-    {"order",          &DtParameterFedNode::setOrder         },
-    {"semantics",      &DtParameterFedNode::setDescription   },
-};
-
-const DtXmlField<DtSimpleDatatypeNode> theSimpleFields[] = {
-    {"name",           &DtSimpleDatatypeNode::setName          },
-    {"representation", &DtSimpleDatatypeNode::setRepresentation},
-    {"units",          &DtSimpleDatatypeNode::setUnits         },
-    {"resolution",     &DtSimpleDatatypeNode::setResolution    },
-    {"accuracy",       &DtSimpleDatatypeNode::setAccuracy      },
-    {"semantics",      &DtSimpleDatatypeNode::setDescription   },
-};
-
-const DtXmlField<DtEnumeratedDatatypeNode> theEnumeratedFields[] = {
-    {"name",           &DtEnumeratedDatatypeNode::setName          },
-    {"representation", &DtEnumeratedDatatypeNode::setRepresentation},
-    {"semantics",      &DtEnumeratedDatatypeNode::setDescription   },
-};
-
-const DtXmlField<DtArrayDatatypeNode> theArrayFields[] = {
-    {"name",        &DtArrayDatatypeNode::setName       },
-    {"dataType",    &DtArrayDatatypeNode::setDatatype   },
-    {"cardinality", &DtArrayDatatypeNode::setCardinality},
-    {"encoding",    &DtArrayDatatypeNode::setEncoding   },
-    {"semantics",   &DtArrayDatatypeNode::setDescription},
-};
-
-const DtXmlField<DtFixedDatatypeNode> theFixedFields[] = {
-    {"name",      &DtFixedDatatypeNode::setName       },
-    {"encoding",  &DtFixedDatatypeNode::setEncoding   },
-    {"semantics", &DtFixedDatatypeNode::setDescription},
-};
-
-const DtXmlField<DtFieldComponentNode> theFieldFields[] = {
-    {"name",      &DtFieldComponentNode::setName       },
-    {"dataType",  &DtFieldComponentNode::setDatatype   },
-    {"semantics", &DtFieldComponentNode::setDescription},
-};
-
-const DtXmlField<DtVariantDatatypeNode> theVariantFields[] = {
-    {"name",         &DtVariantDatatypeNode::setName        },
-    {"discriminant", &DtVariantDatatypeNode::setDiscriminant},
-    {"dataType",     &DtVariantDatatypeNode::setDatatype    },
-    {"encoding",     &DtVariantDatatypeNode::setEncoding    },
-    {"semantics",    &DtVariantDatatypeNode::setDescription },
-};
-
-const DtXmlField<DtAlternativeComponentNode> theAlternativeFields[] = {
-    {"name",       &DtAlternativeComponentNode::setName       },
-    {"dataType",   &DtAlternativeComponentNode::setDatatype   },
-    {"enumerator", &DtAlternativeComponentNode::setEnumerator },
-    {"semantics",  &DtAlternativeComponentNode::setDescription},
-};
-
-const DtXmlField<DtBasicDataRepresentationNode> theBasicFields[] = {
-    {"name",           &DtBasicDataRepresentationNode::setName          },
-    {"size",           &DtBasicDataRepresentationNode::setSize          },
-    {"endian",         &DtBasicDataRepresentationNode::setEndian        },
-    {"encoding",       &DtBasicDataRepresentationNode::setEncoding      },
-    {"interpretation", &DtBasicDataRepresentationNode::setInterpretation},
-};
-
-const DtXmlField<DtDimensionNode> theDimensionFields[] = {
-    {"name",          &DtDimensionNode::setName         },
-    {"dataType",      &DtDimensionNode::setDatatype     },
-    {"normalization", &DtDimensionNode::setNormalization},
-    {"value",         &DtDimensionNode::setValue        },
-    {"upperBound",    &DtDimensionNode::setUpperBound   },
-};
-
-const DtXmlField<DtTimeRepNode> theTimeStampFields[] = {
-    {"dataType",  &DtTimeRepNode::setFederationTimeDatatype },
-    {"semantics", &DtTimeRepNode::setFederationTimeSemantics},
-};
-
-const DtXmlField<DtTimeRepNode> theLookaheadFields[] = {
-    {"dataType",  &DtTimeRepNode::setLookaheadDatatype },
-    {"semantics", &DtTimeRepNode::setLookaheadSemantics},
-};
-
-const DtXmlField<DtTagNode> theTagFields[] = {
-    {"dataType",  &DtTagNode::setDatatype   },
-    {"semantics", &DtTagNode::setDescription},
-};
-
-const DtXmlField<DtDescriptionNode> theTransportationFields[] = {
-    {"name",      &DtDescriptionNode::setName       },
-    {"reliable",  &DtDescriptionNode::setReliable   },
-    {"semantics", &DtDescriptionNode::setDescription},
-};
-
-const DtXmlField<DtSynchroNode> theSynchronizationFields[] = {
-    {"label",      &DtSynchroNode::setName       },
-    {"dataType",   &DtSynchroNode::setDatatype   },
-    {"capability", &DtSynchroNode::setCapability },
-    {"semantics",  &DtSynchroNode::setDescription},
-};
-
 const DtString& nameOf(const DtOMTNode& node)
 {
     return node.getName();
@@ -448,12 +289,7 @@ void DtXMLEvolvedFileReader::processEnumeratedData(xmlNode*& node, DtOMTTree* tr
 
 void DtXMLEvolvedFileReader::processEnumerator(xmlNode*& node, DtEnumeratedDatatypeNode* datatype)
 {
-    static const DtXmlField<DtEnumerationNode> theFields[] = {
-        {"name",                           &DtEnumerationNode::setEnum                                    },
-        { "value", nullptr,
-         [](DtEnumerationNode& enumerator, const DtString& text) { enumerator.setNumber(toNumber(text)); }},
-    };
-    auto enumerator = readNamedItem(node, theFields, "enumerator");
+    auto enumerator = readNamedItem(node, theEnumeratorFields, "enumerator");
     if (enumerator != nullptr && datatype->addEnumerationNode(enumerator.get()))
         enumerator.release();
 }
@@ -613,12 +449,7 @@ void DtXMLEvolvedFileReader::processUpdateRates(xmlNode*& node, DtOMTTree* tree)
 
 void DtXMLEvolvedFileReader::processUpdateRate(xmlNode*& node, DtOMTTree* tree)
 {
-    static const DtXmlField<DtUpdateRateNode> theFields[] = {
-        {"name",                                                 &DtUpdateRateNode::setName},
-        {"rate",                                                 nullptr,                    [](DtUpdateRateNode& rate, const DtString& text) { rate.setRate(toRate(text)); }},
-        {"semantics", &DtUpdateRateNode::setSemantics                          },
-    };
-    tree->addUpdateRateNode(readNamedItem(node, theFields, "updateRate").release());
+    tree->addUpdateRateNode(readNamedItem(node, theUpdateRateFields, "updateRate").release());
 }
 
 void DtXMLEvolvedFileReader::processEmbeddedNote(xmlNode*& node, DtOMTNode* target)

@@ -26,12 +26,12 @@ void DtXMLModelReader::warnOfWrongRoot(const Hierarchy& words)
     DtWarn("Warning: %s root is not \"%s\" in %s file\n", words.wrongKind, words.wrongRoot, words.formatWords);
 }
 
-int DtXMLModelReader::toNumber(const DtString& text)
+int DtXmlToNumber(const DtString& text)
 {
     return static_cast<int>(std::strtol(text.c_str(), nullptr, 10)); // the low bits count: 4294967295 is -1
 }
 
-double DtXMLModelReader::toRate(const DtString& text)
+double DtXmlToRate(const DtString& text)
 {
     DtString number(text);
     number.chompFront();

@@ -32,8 +32,11 @@ void DtSetXmlField(Node& node, const DtXmlField<Node> (&rows)[theCount], const x
     }
 }
 
-// What the readers of the XML formats share: the state, the rules about class roots and missing names, and texts to
-// numbers. Turns the root element of a document into a tree; problems are warnings and never end the reading.
+int DtXmlToNumber(const DtString& text);  // decimal, as atoi reads it
+double DtXmlToRate(const DtString& text); // as atof reads it in the C locale; no hexadecimal
+
+// What the readers of the XML formats share: the state and the rules about class roots and missing names. Turns the
+// root element of a document into a tree; problems are warnings and never end the reading.
 class DtXMLModelReader
 {
 public:
@@ -66,9 +69,6 @@ protected:
     static void processHierarchy(xmlNode* parent, const Hierarchy& words, Process process, Find find, SetRoot setRoot);
 
     static void warnOfMissing(const char* element, const char* what = "name");
-
-    static int toNumber(const DtString& text); // decimal, as atoi reads it
-    static double toRate(const DtString& text);
 
 private:
     static void warnOfFurtherClass(const Hierarchy& words);

@@ -5,6 +5,7 @@
 #include "fileGenerator/omtProject.h"
 #include "foundation/exception.h"
 
+#include <QtCore/QRegularExpression>
 #include <QtTest/QtTest>
 
 // The driver: what a run writes, in which order, and under which names.
@@ -63,6 +64,7 @@ private Q_SLOTS:
     void arrayEncodingIsThatOfTheMapper();
     void memberNamesClassOfLaterDatatype();
     void componentArrayIsWrittenInTheSameRun();
+    void longNamesAreNumberedInTheOrderOfWriting();
     void complexFilesIgnoreCancel();
     void otherFamiliesStopOnCancel();
     void decodeabilityIsFoundOncePerDatatype();
@@ -800,6 +802,31 @@ void TestOmtEnvWriter::componentArrayIsWrittenInTheSameRun()
     QVERIFY(myFixture->hasOutput("DataTypes/dyComplex.h"));
     QVERIFY(myFixture->hasOutput("DataTypes/dyElementFixedArray5.h"));
     QVERIFY(isListed("DataTypes/dyElementFixedArray5.cxx"));
+}
+
+void TestOmtEnvWriter::longNamesAreNumberedInTheOrderOfWriting()
+{
+    // The complex datatype first, then the array of its component, then the basic datatype that both lead to.
+    const DtString complex(std::string(101, 'c'));
+    const DtString basic(std::string(101, 'b'));
+    myModel->addObject("HLAobjectRoot.Tank");
+    myModel->addAttribute("HLAobjectRoot.Tank", "m", complex);
+    DtTestModel::addComponent(myModel->addComplex(complex), "c", basic, "5");
+    myModel->addBasic(basic, "32");
+    myWriter->setHlaVersion(DtHla13);
+    select({"HLAobjectRoot.Tank"});
+    run("model.omt");
+    QString names;
+    for (const QString& name : myFixture->outputs().filter("DataTypes/").filter(".cxx"))
+        names += name.section('/', 1).section('.', 0, 0) + ' ';
+    const QRegularExpressionMatch match = QRegularExpression("^b{50}(\\d+) b{50}(\\d+) c{50}(\\d+) $").match(names);
+    QVERIFY2(match.hasMatch(), qPrintable(names));
+    std::vector<int> numbers = {match.captured(1).toInt(), match.captured(2).toInt()};
+    std::sort(numbers.begin(), numbers.end());
+    const int first = match.captured(3).toInt();
+    QCOMPARE(numbers, (std::vector<int>{first + 1, first + 2}));
+    const DtOMTTree& tree = *myModel->tree();
+    QCOMPARE((*tree.getArrayDatatypeNodeList())->getName(), DtString(std::string(50, 'b')) + DtString(first + 1));
 }
 
 void TestOmtEnvWriter::complexFilesIgnoreCancel()

@@ -237,7 +237,7 @@ private Q_SLOTS:
         const QByteArray doctype = "<!DOCTYPE objectModel [<!ENTITY s SYSTEM 'secret.txt'>"
                                    "<!ENTITY % d SYSTEM 'secret.dtd'> %d;]>";
         const auto names = write({doctype + "<objectModel xmlns='http://standards.ieee.org/IEEE1516-2010'>"
-                                            "<modelIdentification>&s;&p;<type>&s;</type></modelIdentification>"
+                                            "<modelIdentification>&s;<type>&s;</type></modelIdentification>"
                                             "</objectModel>"});
         DtXMLFileReader reader;
         reader.includeMIM(false);
@@ -245,6 +245,29 @@ private Q_SLOTS:
         QVERIFY(tree != nullptr);
         QCOMPARE(toQt(tree->getName()), QString());
         QCOMPARE(toQt(tree->getType()), QString());
+    }
+
+    void externalDeclarationsAreNotLoaded()
+    {
+        writeTextFile("secret.dtd", "<!ENTITY p 'secret'>");
+        write({"<!DOCTYPE objectModel [<!ENTITY % d SYSTEM 'secret.dtd'> %d;]><objectModel>&p;</objectModel>",
+               "<!DOCTYPE objectModel SYSTEM 'secret.dtd'><objectModel>&p;</objectModel>"});
+        QVERIFY(readWithError("a.xml").endsWith("No such FED file: a.xml"));
+        DtCapture capture(DtWarn);
+        readWithError("b.xml");
+        QVERIFY2(!capture.text().contains("secret"), qPrintable(capture.text()));
+    }
+
+    void entityReferenceIsNoText()
+    {
+        const auto names = write({"<!DOCTYPE objectModel [<!ENTITY e 'expanded'>]>\n<objectModel "
+                                  "xmlns='http://standards.ieee.org/IEEE1516-2010'><modelIdentification>"
+                                  "<name>&e;</name><type>F&e;</type><purpose>&#65;&amp;B</purpose>"
+                                  "</modelIdentification></objectModel>"});
+        DtXMLFileReader reader;
+        const std::unique_ptr<DtOMTTree> tree(reader.readFiles(names, DtFomEvolved, nullptr));
+        QVERIFY(tree != nullptr);
+        QCOMPARE(toQt(tree->getName() + "|" + tree->getType() + "|" + tree->getPurpose()), QString("|F|A&B"));
     }
 
     void encodings_data()

@@ -1,0 +1,57 @@
+#ifndef TESTS_DIALOG_WATCH_H
+#define TESTS_DIALOG_WATCH_H
+
+#include <QtCore/QEvent>
+#include <QtCore/QStringList>
+#include <QtCore/QTimer>
+#include <QtWidgets/QApplication>
+#include <QtWidgets/QFileDialog>
+#include <QtWidgets/QMessageBox>
+
+// Answers every message box and file dialog while it lives, so that no test waits for a user.
+//
+// Message boxes are closed. A file dialog gets the next answer: a path to choose, or a cancel once they have run out.
+class DtDialogWatch : public QObject
+{
+public:
+    explicit DtDialogWatch(const QStringList& answers = QStringList()) : myAnswers(answers)
+    {
+        qApp->setAttribute(Qt::AA_DontUseNativeDialogs);
+        qApp->installEventFilter(this);
+    }
+    ~DtDialogWatch() override { qApp->removeEventFilter(this); }
+
+    // The text of each message box and the title of each file dialog that appeared.
+    const QStringList& seen() const { return mySeen; }
+
+    bool eventFilter(QObject* object, QEvent* event) override
+    {
+        if (event->type() != QEvent::Show)
+            return false;
+        if (auto* box = qobject_cast<QMessageBox*>(object))
+        {
+            mySeen += box->text();
+            QTimer::singleShot(0, box, &QDialog::reject);
+        }
+        else if (auto* dialog = qobject_cast<QFileDialog*>(object))
+        {
+            mySeen += dialog->windowTitle();
+            QTimer::singleShot(0, dialog, [this, dialog] { answer(*dialog); });
+        }
+        return false;
+    }
+
+private:
+    void answer(QFileDialog& dialog)
+    {
+        if (myAnswers.isEmpty())
+            return dialog.reject();
+        dialog.selectFile(myAnswers.takeFirst());
+        dialog.metaObject()->invokeMethod(&dialog, "accept");
+    }
+
+    QStringList myAnswers;
+    QStringList mySeen;
+};
+
+#endif

@@ -1,0 +1,127 @@
+// The list of scripts: its map follows the check boxes.
+
+#include "registerTest.h"
+
+#include "codeGenApp/generateListView.h"
+
+#include <QtTest/QtTest>
+#include <QtWidgets/QHeaderView>
+
+namespace
+{
+using Scripts = std::map<DtString, bool>;
+
+QStringList names(const QTreeWidget& list)
+{
+    QStringList texts;
+    for (int row = 0; row < list.topLevelItemCount(); ++row)
+        texts += list.topLevelItem(row)->text(1);
+    return texts;
+}
+} // namespace
+
+class TestGenerateListView : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void columnsAreSetUp()
+    {
+        const DtGenerateListView list;
+        QCOMPARE(list.columnCount(), 2);
+        QCOMPARE(list.headerItem()->text(0), QString("Generate?"));
+        QCOMPARE(list.headerItem()->text(1), QString("Script file name"));
+        QCOMPARE(list.selectionMode(), QAbstractItemView::ExtendedSelection);
+        QVERIFY(list.allColumnsShowFocus() && !list.rootIsDecorated() && list.isSortingEnabled());
+        QCOMPARE(list.header()->sortIndicatorSection(), 1);
+        QCOMPARE(list.header()->sortIndicatorOrder(), Qt::AscendingOrder);
+    }
+
+    void addedItemsEnterTheMapWithTheirState()
+    {
+        DtGenerateListView list;
+        list.addItem("genCpp.txt", true);
+        list.addItem("other.txt", false);
+        QCOMPARE(list.generateScripts(), (Scripts{{"genCpp.txt", true}, {"other.txt", false}}));
+    }
+
+    void itemsStandInTheOrderOfTheirNames()
+    {
+        DtGenerateListView list;
+        for (const char* name : {"c.txt", "a.txt", "b.txt"})
+            list.addItem(name, true);
+        QCOMPARE(names(list).join(' '), QString("a.txt b.txt c.txt"));
+        list.sortByColumn(1, Qt::DescendingOrder);
+        QCOMPARE(names(list).join(' '), QString("c.txt b.txt a.txt"));
+    }
+
+    void sortingByTheBoxesPutsUncheckedItemsFirst()
+    {
+        DtGenerateListView list;
+        list.addItem("a.txt", true);
+        list.addItem("b.txt", false);
+        list.sortByColumn(0, Qt::AscendingOrder);
+        QCOMPARE(names(list).join(' '), QString("b.txt a.txt"));
+    }
+
+    void mapFollowsTheBox()
+    {
+        DtGenerateListView list;
+        list.addItem("genCpp.txt", true);
+        list.topLevelItem(0)->setCheckState(0, Qt::Unchecked);
+        QCOMPARE(list.generateScripts(), (Scripts{{"genCpp.txt", false}}));
+        list.setItemGenerated(list.topLevelItem(0), true);
+        QCOMPARE(list.generateScripts(), (Scripts{{"genCpp.txt", true}}));
+    }
+
+    void partlyCheckedCountsAsOff()
+    {
+        DtGenerateListView list;
+        list.addItem("genCpp.txt", true);
+        list.topLevelItem(0)->setCheckState(0, Qt::PartiallyChecked);
+        QCOMPARE(list.generateScripts(), (Scripts{{"genCpp.txt", false}}));
+    }
+
+    void itemWithoutNameIsLeftOut()
+    {
+        DtGenerateListView list;
+        list.addItem("", true);
+        QVERIFY(list.generateScripts().empty());
+    }
+
+    void changesOfTheNameColumnLeaveTheMapAlone()
+    {
+        DtGenerateListView list;
+        list.addItem("genCpp.txt", true);
+        list.topLevelItem(0)->setText(1, "renamed.txt");
+        QCOMPARE(list.generateScripts(), (Scripts{{"genCpp.txt", true}}));
+    }
+
+    void selectedItemsAreSetTogether()
+    {
+        DtGenerateListView list;
+        for (const char* name : {"a.txt", "b.txt", "c.txt"})
+            list.addItem(name, false);
+        list.topLevelItem(0)->setSelected(true);
+        list.topLevelItem(2)->setSelected(true);
+        list.selectAllItems(true);
+        QCOMPARE(list.generateScripts(), (Scripts{{"a.txt", true}, {"b.txt", false}, {"c.txt", true}}));
+        list.selectAllItems(false);
+        QCOMPARE(list.generateScripts(), (Scripts{{"a.txt", false}, {"b.txt", false}, {"c.txt", false}}));
+    }
+
+    void selectedItemsAreInverted()
+    {
+        DtGenerateListView list;
+        list.addItem("a.txt", true);
+        list.addItem("b.txt", false);
+        list.addItem("c.txt", false);
+        list.topLevelItem(0)->setSelected(true);
+        list.topLevelItem(1)->setSelected(true);
+        list.toggleAllSelectedItems();
+        QCOMPARE(list.generateScripts(), (Scripts{{"a.txt", false}, {"b.txt", true}, {"c.txt", false}}));
+    }
+};
+
+QX_REGISTER_TEST(TestGenerateListView)
+#include "testGenerateListView.moc"

@@ -1,0 +1,252 @@
+// The preferences: what the dialog reads from the configuration and what OK and Cancel do to it.
+
+#include "registerTest.h"
+
+#include "codeGenApp/codeGenInitializer.h"
+#include "codeGenApp/generateListView.h"
+#include "codeGenApp/preferencesDialog.h"
+#include "testSupport.h"
+
+#include <QtCore/QTemporaryDir>
+#include <QtTest/QtTest>
+#include <QtWidgets/QCheckBox>
+#include <QtWidgets/QLineEdit>
+#include <QtWidgets/QPushButton>
+#include <QtWidgets/QSpinBox>
+
+namespace
+{
+// A dialog over a configuration of these texts.
+struct DtPreferences
+{
+    explicit DtPreferences(const DtString& includeName = DtString())
+    {
+        initializer.parseConfigFile(QX_SOURCE_DIR "/data/config/codeGenConfig.xml");
+        initializer.setIncludeName(includeName);
+        dialog = std::make_unique<DtPreferencesDialog>(initializer);
+    }
+    template <typename Control>
+    Control& control(const char* name) const
+    {
+        auto* const found = dialog->findChild<Control*>(name);
+        if (found == nullptr)
+            qFatal("no control %s", name);
+        return *found;
+    }
+    // The check box with this text.
+    QCheckBox& box(const char* text) const
+    {
+        for (QCheckBox* each : dialog->findChildren<QCheckBox*>())
+            if (each->text() == text)
+                return *each;
+        qFatal("no check box %s", text);
+    }
+    DtGenerateListView& scripts() const { return *dialog->findChild<DtGenerateListView*>(); }
+    QByteArray stored() const
+    {
+        const QTemporaryDir directory;
+        DtCodeGenInitializer copy(initializer);
+        copy.saveConfigFile((directory.path() + "/config.xml").toUtf8().constData());
+        return readTextFile(directory.path() + "/config.xml");
+    }
+
+    DtCodeGenInitializer initializer;
+    std::unique_ptr<DtPreferencesDialog> dialog;
+};
+
+struct DtFlagRow
+{
+    const char* text;
+    bool (DtPreferencesDialog::*setting)() const;
+    bool (DtCodeGenInitializer::*stored)() const;
+};
+using DtDialog = DtPreferencesDialog;
+using DtInit = DtCodeGenInitializer;
+const DtFlagRow theFlags[] = {
+    {"64-bit Linux Makefile",                         &DtDialog::generate64Bit,            &DtInit::generate64Bit        },
+    {"Generate Examples",                             &DtDialog::generateExamples,         &DtInit::generateExamples     },
+    {"Map RTIObjectID to DtGlobalObjectDesignator",   &DtDialog::mapRtiObjectIdToGlobalId, &DtInit::mapRtiObjIdToGlobalId},
+    {"Generate #error for undecodable attributes",    &DtDialog::generateErrors,           &DtInit::generateErrors       },
+    {"Include HLA Standard MIM",                      &DtDialog::includeStandardMIM,       &DtInit::includeStandardMIM   },
+    {"Generate DIS PDUs",                             &DtDialog::generateDis,              &DtInit::generateDis          },
+    {"Save Parse Tree",                               &DtDialog::dumpParseTree,            &DtInit::dumpParseTree        },
+};
+
+struct DtTextRow
+{
+    const char *box, *edit;
+    const DtString& (DtPreferencesDialog::*setting)() const;
+    const DtString& (DtCodeGenInitializer::*stored)() const;
+};
+const DtTextRow theTexts[] = {
+    {"Use Namespace",            "myNamespaceName", &DtDialog::namespaceName, &DtInit::namespaceName},
+    {"Create Include Directory", "myIncludeName",   &DtDialog::includeName,   &DtInit::includeName  },
+    {"Prefix Classnames",        "myPrefixName",    &DtDialog::prefixName,    &DtInit::prefixName   },
+};
+} // namespace
+
+class TestPreferencesDialog : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init() { myLevel = DtNotifyLevel; }
+    void cleanup() { DtNotifyLevel = myLevel; }
+
+    void bitsHaveTheirTexts()
+    {
+        QCOMPARE(int(DtPreferencesDialog::getCodeGenBitsEnum("8")), 0);
+        QCOMPARE(int(DtPreferencesDialog::getCodeGenBitsEnum("16")), 1);
+        QCOMPARE(int(DtPreferencesDialog::getCodeGenBitsEnum("32")), 2);
+        QCOMPARE(int(DtPreferencesDialog::getCodeGenBitsEnum("64")), 3);
+        QCOMPARE(int(DtPreferencesDialog::getCodeGenBitsEnum("12")), 2);
+        for (const char* text : {"8", "16", "32", "64"})
+            QCOMPARE(DtDialog::getDtString(DtDialog::getCodeGenBitsEnum(text)).c_str(), text);
+        QCOMPARE(DtDialog::getDtString(static_cast<DtDialog::DtCodeGenBits>(2)).c_str(), "32");
+        QCOMPARE(DtDialog::getDtString(static_cast<DtDialog::DtCodeGenBits>(0)).c_str(), "8");
+    }
+
+    void settingsComeFromTheConfiguration()
+    {
+        DtPreferences preferences("inc");
+        QCOMPARE(preferences.dialog->windowTitle(), QString("Preferences"));
+        QCOMPARE(preferences.dialog->objectName(), QString("QtPreferencesDialog"));
+        QCOMPARE(preferences.dialog->includeName().c_str(), "inc");
+        for (const DtFlagRow& row : theFlags)
+            QCOMPARE((*preferences.dialog.*row.setting)(), (preferences.initializer.*row.stored)());
+        QCOMPARE(preferences.dialog->generateScripts(), preferences.initializer.scriptMap());
+        QCOMPARE(preferences.dialog->generateScripts().at("genCpp.txt"), true);
+    }
+
+    void textIsEnabledByItsBox()
+    {
+        DtPreferences preferences("inc");
+        QVERIFY(preferences.box("Create Include Directory").isChecked());
+        QVERIFY(preferences.control<QLineEdit>("myIncludeName").isEnabled());
+        for (const char* empty : {"Use Namespace", "Prefix Classnames"})
+            QVERIFY(!preferences.box(empty).isChecked());
+        QVERIFY(!preferences.control<QLineEdit>("myPrefixName").isEnabled());
+        preferences.box("Prefix Classnames").setChecked(true);
+        QVERIFY(preferences.control<QLineEdit>("myPrefixName").isEnabled());
+    }
+
+    void okStoresEachText()
+    {
+        for (const DtTextRow& row : theTexts)
+        {
+            DtPreferences preferences;
+            preferences.dialog->show();
+            preferences.box(row.box).setChecked(true);
+            preferences.control<QLineEdit>(row.edit).setText("harbour");
+            preferences.dialog->okButtonPressed();
+            QVERIFY(!preferences.dialog->isVisible());
+            QCOMPARE((*preferences.dialog.*row.setting)().c_str(), "harbour");
+            QCOMPARE((preferences.initializer.*row.stored)().c_str(), "harbour");
+            preferences.box(row.box).setChecked(false); // the text in the edit does not count now
+            preferences.dialog->okButtonPressed();
+            QCOMPARE((*preferences.dialog.*row.setting)().c_str(), "");
+            QCOMPARE((preferences.initializer.*row.stored)().c_str(), "");
+        }
+    }
+
+    void okStoresEachFlag()
+    {
+        for (const DtFlagRow& row : theFlags)
+        {
+            DtPreferences preferences;
+            const bool before = (*preferences.dialog.*row.setting)();
+            preferences.box(row.text).setChecked(!before);
+            preferences.dialog->okButtonPressed();
+            QVERIFY2((*preferences.dialog.*row.setting)() == !before, row.text);
+            QVERIFY2((preferences.initializer.*row.stored)() == !before, row.text);
+        }
+    }
+
+    void okStoresPduKindAndScripts()
+    {
+        DtPreferences preferences;
+        preferences.control<QSpinBox>("myFirstPduKind").setValue(40000);
+        preferences.scripts().setItemGenerated(preferences.scripts().topLevelItem(0), false);
+        preferences.dialog->okButtonPressed();
+        QCOMPARE(preferences.dialog->firstPduKind(), 40000);
+        QCOMPARE(preferences.initializer.firstPduKind(), 40000);
+        QCOMPARE(preferences.initializer.scriptMap().at("genCpp.txt"), false);
+    }
+
+    void okWithoutAChangeLeavesTheStoreAlone()
+    {
+        DtPreferences preferences("inc");
+        const QByteArray before = preferences.stored();
+        preferences.dialog->show();
+        preferences.dialog->okButtonPressed();
+        QVERIFY(!before.isEmpty());
+        QCOMPARE(preferences.stored(), before);
+    }
+
+    void okButtonActsWhenPressed()
+    {
+        DtPreferences preferences;
+        preferences.dialog->show();
+        preferences.box("Generate DIS PDUs").setChecked(true);
+        for (QPushButton* button : preferences.dialog->findChildren<QPushButton*>())
+            if (button->text() == "OK")
+                Q_EMIT button->pressed();
+        QVERIFY(preferences.initializer.generateDis());
+    }
+
+    void cancelKeepsTheSettings()
+    {
+        DtPreferences preferences("inc");
+        preferences.dialog->show();
+        preferences.box("Save Parse Tree").setChecked(true);
+        preferences.control<QLineEdit>("myIncludeName").setText("other");
+        preferences.scripts().setItemGenerated(preferences.scripts().topLevelItem(0), false);
+        preferences.dialog->cancelButtonPressed();
+        QVERIFY(!preferences.dialog->isVisible());
+        QVERIFY(!preferences.dialog->dumpParseTree() && !preferences.initializer.dumpParseTree());
+        QCOMPARE(preferences.dialog->includeName().c_str(), "inc");
+        QCOMPARE(preferences.dialog->generateScripts().at("genCpp.txt"), true);
+        preferences.dialog->show();
+        QVERIFY(!preferences.box("Save Parse Tree").isChecked());
+        QCOMPARE(preferences.control<QLineEdit>("myIncludeName").text(), QString("inc"));
+        preferences.dialog->cancelButtonPressed();
+    }
+
+    void cancelKeepsTheNewMimSetting()
+    {
+        DtPreferences preferences;
+        preferences.dialog->show();
+        QCheckBox& box = preferences.box("Include HLA Standard MIM");
+        QVERIFY(box.isChecked());
+        box.click(); // pressed() comes ahead of the toggle
+        QVERIFY(!box.isChecked());
+        QVERIFY(!preferences.dialog->includeStandardMIM() && !preferences.initializer.includeStandardMIM());
+        preferences.dialog->cancelButtonPressed();
+        QVERIFY(!preferences.dialog->includeStandardMIM() && !preferences.initializer.includeStandardMIM());
+        preferences.dialog->show();
+        QVERIFY(!box.isChecked());
+        preferences.dialog->cancelButtonPressed();
+    }
+
+    void valuesFromElsewhereShowAndAreNotStored()
+    {
+        DtPreferences preferences;
+        const QByteArray before = preferences.stored();
+        preferences.dialog->setIncludeDir("generated");
+        preferences.dialog->setPrefix("Port");
+        QCOMPARE(preferences.dialog->includeName().c_str(), "generated");
+        QCOMPARE(preferences.dialog->prefixName().c_str(), "Port");
+        QVERIFY(preferences.box("Prefix Classnames").isChecked());
+        QCOMPARE(preferences.control<QLineEdit>("myPrefixName").text(), QString("Port"));
+        QCOMPARE(preferences.stored(), before);
+        preferences.dialog->setPrefix("");
+        QVERIFY(!preferences.box("Prefix Classnames").isChecked());
+        QVERIFY(!preferences.control<QLineEdit>("myPrefixName").isEnabled());
+    }
+
+private:
+    int myLevel = 0;
+};
+
+QX_REGISTER_TEST(TestPreferencesDialog)
+#include "testPreferencesDialog.moc"

@@ -1,0 +1,545 @@
+// The real program, started in scratch folders: options, streams, exit codes and what is left on disk.
+
+#include "registerTest.h"
+
+#include "scratchProgram.h"
+
+#include <QtCore/QProcess>
+#include <QtCore/QRegularExpression>
+
+#include <csignal>
+#include <functional>
+#include <map>
+#include <sys/resource.h>
+
+namespace
+{
+constexpr int thePatience = 240000; // milliseconds
+
+// A model with one object class of the given name and one interaction class beside it.
+QByteArray modelOf(const QByteArray& name)
+{
+    return "<?xml version=\"1.0\"?>\n<objectModel xmlns=\"http://standards.ieee.org/IEEE1516-2010\">"
+           "<objects><objectClass><name>HLAobjectRoot</name><objectClass><name>" +
+           name +
+           "</name><attribute><name>Length</name><dataType>HLAfloat64BE</dataType></attribute></objectClass>"
+           "</objectClass></objects><interactions><interactionClass><name>HLAinteractionRoot</name><interactionClass>"
+           "<name>" +
+           name +
+           "Call</name><parameter><name>Channel</name><dataType>HLAinteger32BE</dataType></parameter>"
+           "</interactionClass></interactionClass></interactions></objectModel>\n";
+}
+
+QByteArray projectOf(const QByteArray& model, const QByteArray& selection)
+{
+    return "<?xml version=\"1.0\"?>\n<project><foms><fom name=\"" + model +
+           "\" location=\"\"/></foms><configurationRoot>" + selection + "</configurationRoot></project>\n";
+}
+
+// What the program is to find in its environment: nothing of the test's own but the search paths and what steers the
+// sanitizers.
+QProcessEnvironment bareEnvironment(const QString& home)
+{
+    const QProcessEnvironment own = QProcessEnvironment::systemEnvironment();
+    QProcessEnvironment environment;
+    for (const char* name : {"PATH", "LD_LIBRARY_PATH", "TMPDIR", "ASAN_OPTIONS", "LSAN_OPTIONS", "UBSAN_OPTIONS"})
+        if (own.contains(name))
+            environment.insert(name, own.value(name));
+    environment.insert("HOME", home);
+    environment.insert("XDG_RUNTIME_DIR", home);
+    environment.insert("LC_ALL", "C");
+    return environment;
+}
+
+class DtCorelessProcess : public QProcess
+{
+protected:
+    void setupChildProcess() override
+    {
+        const rlimit noCore = {0, 0};
+        setrlimit(RLIMIT_CORE, &noCore);
+    }
+};
+
+// One start of a program in a folder of its own, which is removed with it.
+class DtStart
+{
+public:
+    DtStart() : myEnvironment(bareEnvironment(myDirectory.path())) {}
+    ~DtStart()
+    {
+        if (myProcess.state() == QProcess::NotRunning)
+            return;
+        myProcess.kill();
+        myProcess.waitForFinished(thePatience);
+    }
+    DtStart(const DtStart&) = delete;
+    DtStart& operator=(const DtStart&) = delete;
+
+    QString path(const QString& name) const { return myDirectory.path() + "/" + name; }
+    bool exists(const QString& name) const { return QFile::exists(path(name)); }
+    QByteArray file(const QString& name) const { return readTextFile(path(name)); }
+    void write(const QString& name, const QByteArray& text) const { writeTextFile(path(name), text); }
+    void setVariable(const char* name, const QString& value) { myEnvironment.insert(name, value); }
+
+    // A copy of the program's data, an empty bin/ and two models.
+    void prepare() const
+    {
+        copyTree(QStringLiteral(QX_SOURCE_DIR "/data"), path("data"));
+        QFile::remove(path("data/config/customCodeGenConfig.xml"));
+        write("models/boat.xml", modelOf("Boat"));
+        write("shelf/raft.xml", modelOf("Raft"));
+        QDir().mkpath(path("bin"));
+    }
+    void start(const char* program, const QStringList& options)
+    {
+        QDir().mkpath(path("bin"));
+        myProcess.setWorkingDirectory(path("bin"));
+        myProcess.setProcessEnvironment(myEnvironment);
+        myProcess.setStandardInputFile(QProcess::nullDevice());
+        myProcess.setStandardOutputFile(path("stdout"));
+        myProcess.setStandardErrorFile(path("stderr"));
+        myProcess.start(QString::fromLatin1(program), options);
+    }
+    // False when the program did not come to its end by itself.
+    bool finish()
+    {
+        return (myProcess.state() == QProcess::NotRunning || myProcess.waitForFinished(thePatience)) &&
+               myProcess.exitStatus() == QProcess::NormalExit;
+    }
+    int exitCode() const { return myProcess.exitCode(); } // the signal, after a crash
+    QByteArray output() const { return file("stdout"); }
+    QByteArray errors() const { return file("stderr"); }
+    QProcess& process() { return myProcess; }
+
+private:
+    QTemporaryDir myDirectory;
+    QProcessEnvironment myEnvironment;
+    DtCorelessProcess myProcess;
+};
+
+const char theOffscreen[] = "offscreen";
+
+void chooseOffscreen(DtStart& start)
+{
+    start.setVariable("QT_QPA_PLATFORM", theOffscreen);
+}
+
+// The configuration of the user, with a log file, all messages shown and two enumerations of unknown size to tell of.
+void logEverything(DtStart& start)
+{
+    QByteArray text = start.file("data/config/codeGenConfig.xml");
+    text.replace("\"logFileName\" value=\"\"", "\"logFileName\" value=\"../logs/run.log\"");
+    text.replace("\"notifyLevel\" value=\"2\"", "\"notifyLevel\" value=\"5\"");
+    start.write("data/config/customCodeGenConfig.xml", text);
+}
+
+struct DtStartRow
+{
+    const char* name;
+    QStringList options;
+    std::function<void(DtStart&)> prepare;
+};
+
+// All starts of the real program. Each holds its splash for three seconds, so they run at the same time.
+const std::vector<DtStartRow>& startRows()
+{
+    static const QByteArray theBoatSelection = "<objectClass name=\"HLAobjectRoot.Boat\" rename=\"\"/>";
+    static const std::vector<DtStartRow> theRows = {
+        {"long",
+         {"--generate", "--all", "--outputDir", "../out", "--fomDefFile", "../models/boat.xml", "--includeDir", "quay",
+          "--classPrefix", "Qx"},
+         [](DtStart&) {}                                                                                                                                                                             },
+        {"short",                  {"-GA", "-O", "../out/", "-F", "../models/boat.xml", "-I", "quay", "-p", "Qx"}, chooseOffscreen                                                                   },
+        {"bad model",
+         {"-G", "-A", "-O", "../out", "-F", "../models/bad.xml"},
+         [](DtStart& start) { start.write("models/bad.xml", "<objectModel"); }                                                                                                                       },
+        {"no output directory",    {"-G", "-A", "-F", "../models/boat.xml"},                                       [](DtStart&) {}                                                                   },
+        {"empty output directory", {"-G", "-O", "", "-F", "../models/boat.xml"},                                   [](DtStart&) {}                                                                   },
+        {"no model",               {"-G", "-A", "-O", "../out"},                                                   [](DtStart& start) { start.setVariable("DISPLAY", QString()); }                   },
+        {"no options",             {},                                                                             [](DtStart& start) { QFile::remove(start.path("data/config/codeGenConfig.xml")); }},
+        {"unreadable project",
+         {"-G", "-A", "-O", "../out", "-P", "../models/new.qxproj", "-F", "../models/boat.xml"},
+         chooseOffscreen                                                                                                                                                                             },
+        {"valid project",
+         {"-G", "-O", "../out", "-P", "../models/kept.qxproj", "-F", "../shelf/raft.xml"},
+         [](DtStart& start) { start.write("models/kept.qxproj", projectOf("boat.xml", theBoatSelection)); }                                                                                          },
+        {"two models",
+         {"-G", "-A", "-O", "../out", "-F", "../models/boat.xml", "-F", "raft.xml"},
+         [](DtStart& start) { start.setVariable("RTI_CONFIG", start.path("shelf")); }                                                                                                                },
+        {"searched model",
+         {"-G", "-A", "-O", "../out\\", "-F", "raft.xml"},
+         [](DtStart& start) { start.setVariable("RTI_CONFIG", start.path("shelf")); }                                                                                                                },
+        {"lost model",
+         {"-G", "-A", "-O", "../out", "-P", "../models/lost.qxproj", "-F", "../models/boat.xml"},
+         [](DtStart& start)
+         {
+             chooseOffscreen(start); // where a dialog would wait for ever
+             logEverything(start);
+             start.write("models/lost.qxproj", projectOf("gone.xml", theBoatSelection));
+         }                                                                                                                                                                                           },
+        {"help",                   {"--help"},                                                                     [](DtStart&) {}                                                                   },
+        {"version",                {"--version"},                                                                  logEverything                                                                     },
+        {"unknown option",         {"-style", "fusion"},                                                           [](DtStart&) {}                                                                   },
+        {"window",                 {},                                                                             chooseOffscreen                                                                   },
+    };
+    return theRows;
+}
+
+int countOf(const QByteArray& text, const char* piece)
+{
+    return text.count(piece);
+}
+
+QList<QByteArray> sortedLines(const QByteArray& text)
+{
+    QList<QByteArray> lines = text.split('\n');
+    std::sort(lines.begin(), lines.end());
+    return lines;
+}
+
+// The names of the model files that a project file lists.
+QStringList modelsOf(const QByteArray& project)
+{
+    QStringList names;
+    const QRegularExpression pattern(QStringLiteral("<fom name=\"([^\"]*)\""));
+    for (auto each = pattern.globalMatch(QString::fromUtf8(project)); each.hasNext();)
+        names += each.next().captured(1);
+    return names;
+}
+
+QByteArray withoutIdentifiers(const QByteArray& text)
+{
+    static const QRegularExpression thePattern(QStringLiteral("[0-9A-Fa-f]{8}(-[0-9A-Fa-f]{4}){3}-[0-9A-Fa-f]{12}"));
+    return QString::fromLatin1(text).replace(thePattern, QStringLiteral("ID")).toLatin1();
+}
+
+QStringList generatedBy(const DtStart& start)
+{
+    return filesBelow(start.path("out"));
+}
+} // namespace
+
+class TestProgram : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase();
+    void cleanupTestCase() { myStarts.clear(); }
+
+    void batchRunGeneratesAndSavesTheConfiguration();
+    void longAndShortOptionsDoTheSame();
+    void modelThatCannotBeReadEndsWithZero();
+    void withoutDisplayAMissingConditionEndsTheRun_data();
+    void withoutDisplayAMissingConditionEndsTheRun();
+    void withoutOptionsAndConfigurationTheProgramStarts();
+    void projectThatCannotBeReadIsMadeAnew();
+    void validProjectTakesNoFurtherModels();
+    void firstOfTwoModelsNamesTheProject();
+    void modelIsSearchedBelowRtiConfig();
+    void outputDirectoryMayEndInABackslash();
+    void lostModelOfAProjectAsksNobody();
+    void logFileHoldsAllStreams();
+    void helpListsTheOptionsInOrder();
+    void versionGoesToTheLogFileToo();
+    void optionOfTheWindowSystemIsUnknown();
+    void windowWaitsUntilASignalEndsIt();
+
+    void exceptionsAreReportedAndEndWithZero_data();
+    void exceptionsAreReportedAndEndWithZero();
+    void resultOfTheRunIsDropped();
+    void fatalSignalsAreReported_data();
+    void fatalSignalsAreReported();
+
+private:
+    DtStart& at(const char* name) { return *myStarts.at(name); }
+
+    std::map<QByteArray, std::unique_ptr<DtStart>> myStarts;
+};
+
+void TestProgram::initTestCase()
+{
+    for (const DtStartRow& row : startRows())
+    {
+        auto start = std::make_unique<DtStart>();
+        start->prepare();
+        row.prepare(*start);
+        start->start(QX_PROGRAM, row.options);
+        myStarts.emplace(row.name, std::move(start));
+    }
+}
+
+void TestProgram::batchRunGeneratesAndSavesTheConfiguration()
+{
+    DtStart& start = at("long");
+    QVERIFY(start.finish());
+    QVERIFY2(start.exitCode() == 0, start.errors().constData());
+    QVERIFY(start.exists("out/cpp\\quay/boatStateRepository.h"));
+    QVERIFY(start.file("out/cpp\\quay/boatStateRepository.h").contains("DtQxBoatStateRepository"));
+    QVERIFY(start.exists("data/config/customCodeGenConfig.xml"));
+    QCOMPARE(start.file("data/config/codeGenConfig.xml"),
+             readTextFile(QStringLiteral(QX_SOURCE_DIR "/data/config/codeGenConfig.xml")));
+}
+
+void TestProgram::longAndShortOptionsDoTheSame()
+{
+    DtStart& first = at("long");
+    DtStart& second = at("short");
+    QVERIFY(first.finish() && second.finish());
+    QCOMPARE(second.exitCode(), 0);
+    QCOMPARE(second.errors(), first.errors());
+    QCOMPARE(second.output(), first.output());
+    QCOMPARE(second.file("models/boat.qxproj"), first.file("models/boat.qxproj"));
+    QCOMPARE(generatedBy(second), generatedBy(first));
+    QVERIFY(generatedBy(first).size() > 20);
+    for (const QString& name : generatedBy(first))
+        QVERIFY2(withoutIdentifiers(first.file("out/" + name)) == withoutIdentifiers(second.file("out/" + name)),
+                 qPrintable(name));
+}
+
+void TestProgram::modelThatCannotBeReadEndsWithZero()
+{
+    DtStart& start = at("bad model");
+    QVERIFY(start.finish());
+    QCOMPARE(start.exitCode(), 0);
+    const QByteArray errors = "\n" + start.errors();
+    const int loading = errors.indexOf("\nError loading input file(s)\n");
+    const int generating = errors.indexOf("\nNo file loaded... Cannot generate files.\n");
+    QVERIFY2(loading >= 0 && generating > loading, errors.constData());
+    QVERIFY(!start.exists("out"));
+    QVERIFY(start.exists("models/bad.qxproj")); // written ahead of the load
+}
+
+void TestProgram::withoutDisplayAMissingConditionEndsTheRun_data()
+{
+    QTest::addColumn<QByteArray>("start");
+    QTest::addColumn<QByteArray>("condition");
+    QTest::newRow("no output directory") << QByteArray("no output directory")
+                                         << QByteArray("no output directory was given");
+    QTest::newRow("empty output directory")
+        << QByteArray("empty output directory") << QByteArray("no output directory was given");
+    QTest::newRow("no model") << QByteArray("no model")
+                              << QByteArray("no model file was given and no project is valid");
+}
+
+void TestProgram::withoutDisplayAMissingConditionEndsTheRun()
+{
+    QFETCH(QByteArray, start);
+    QFETCH(QByteArray, condition);
+    DtStart& run = at(start.constData());
+    QVERIFY(run.finish());
+    QCOMPARE(run.exitCode(), 0);
+    QCOMPARE(run.errors(), "No display to show the window on, and no batch run: " + condition + ".\n");
+    QCOMPARE(run.output(), QByteArray());
+    QVERIFY(!run.exists("out"));
+    QCOMPARE(run.exists("models/boat.qxproj"), start != "no model"); // a model is loaded all the same
+}
+
+void TestProgram::withoutOptionsAndConfigurationTheProgramStarts()
+{
+    DtStart& start = at("no options");
+    QVERIFY(start.finish());
+    QCOMPARE(start.exitCode(), 0);
+    QCOMPARE(start.errors(),
+             QByteArray("No display to show the window on, and no batch run: --generate was not given.\n"));
+    QVERIFY(start.exists("data/config/customCodeGenConfig.xml"));
+    QVERIFY(!start.exists("data/config/codeGenConfig.xml"));
+}
+
+void TestProgram::projectThatCannotBeReadIsMadeAnew()
+{
+    DtStart& start = at("unreadable project");
+    QVERIFY(start.finish());
+    QCOMPARE(start.exitCode(), 0);
+    QVERIFY2(("\n" + start.errors()).contains("\nError loading project file, creating a new project instead\n"),
+             start.errors().constData());
+    QCOMPARE(modelsOf(start.file("models/new.qxproj")), QStringList("boat.xml"));
+    QVERIFY(!start.exists("models/boat.qxproj"));
+    QVERIFY(start.exists("out/cpp\\boatStateRepository.h"));
+}
+
+void TestProgram::validProjectTakesNoFurtherModels()
+{
+    DtStart& start = at("valid project");
+    QVERIFY(start.finish());
+    QCOMPARE(start.exitCode(), 0);
+    QVERIFY(start.exists("out/cpp\\boatStateRepository.h"));
+    QVERIFY2(generatedBy(start).filter("boatCall").isEmpty(), "the project does not select it, and --all is not given");
+    QVERIFY(generatedBy(start).filter("aft").isEmpty());
+    QCOMPARE(modelsOf(start.file("models/kept.qxproj")), QStringList("boat.xml"));
+    QVERIFY(!start.exists("shelf/raft.qxproj"));
+}
+
+void TestProgram::firstOfTwoModelsNamesTheProject()
+{
+    DtStart& start = at("two models");
+    QVERIFY(start.finish());
+    QCOMPARE(start.exitCode(), 0);
+    QCOMPARE(modelsOf(start.file("models/boat.qxproj")), QStringList({"boat.xml", "raft.xml", "HLAstandardMIM.xml"}));
+    QVERIFY(!start.exists("bin/raft.qxproj") && !start.exists("shelf/raft.qxproj"));
+    for (const char* name : {"boatStateRepository.h", "raftStateRepository.h"})
+        QVERIFY2(start.exists("out/cpp\\" + QString::fromLatin1(name)), start.errors().constData());
+}
+
+void TestProgram::modelIsSearchedBelowRtiConfig()
+{
+    DtStart& start = at("searched model");
+    QVERIFY(start.finish());
+    QCOMPARE(start.exitCode(), 0);
+    QVERIFY2(!start.errors().contains("Error"), start.errors().constData());
+    QCOMPARE(modelsOf(start.file("bin/raft.qxproj")), QStringList("raft.xml"));
+}
+
+void TestProgram::outputDirectoryMayEndInABackslash()
+{
+    DtStart& start = at("searched model");
+    QVERIFY(start.finish());
+    QVERIFY(!start.exists("out"));
+    QVERIFY(start.exists("out\\cpp\\raftStateRepository.h")); // beside models/, the backslash being part of the name
+}
+
+void TestProgram::lostModelOfAProjectAsksNobody()
+{
+    DtStart& start = at("lost model");
+    QVERIFY(start.finish());
+    QCOMPARE(start.exitCode(), 0);
+    QVERIFY2(("\n" + start.errors()).contains("\ngone.xml could not be found\n"), start.errors().constData());
+    QVERIFY(start.exists("out/cpp\\boatStateRepository.h")); // the models of the command line are loaded then
+    QCOMPARE(modelsOf(start.file("models/lost.qxproj")), QStringList("gone.xml"));
+}
+
+void TestProgram::logFileHoldsAllStreams()
+{
+    DtStart& start = at("lost model");
+    QVERIFY(start.finish());
+    QVERIFY(start.errors().contains("Reading FED file: ../models/boat.xml\n")); // told at level 4
+    QCOMPARE(sortedLines(start.file("logs/run.log")), sortedLines(start.errors() + start.output()));
+}
+
+void TestProgram::helpListsTheOptionsInOrder()
+{
+    DtStart& start = at("help");
+    QVERIFY(start.finish());
+    QCOMPARE(start.exitCode(), 0);
+    QCOMPARE(start.errors(), QByteArray());
+    const QByteArray output = start.output();
+    QVERIFY2(output.startsWith("\nUSAGE: \n\n   codeGen "), output.constData());
+    int last = output.indexOf("\nWhere: \n");
+    QVERIFY(last > 0);
+    for (const char* option : {"-G,  --generate", "-A,  --all", "-O <string>,  --outputDir <string>",
+                               "-F <string>,  --fomDefFile <string>", "-P <string>,  --project <string>",
+                               "-I <string>,  --includeDir <string>", "-p <string>,  --classPrefix <string>"})
+    {
+        const int found = output.indexOf(option, last);
+        QVERIFY2(found > last, qPrintable(QString::fromLatin1(option) + "\n" + output));
+        last = found;
+    }
+}
+
+void TestProgram::versionGoesToTheLogFileToo()
+{
+    DtStart& start = at("version");
+    QVERIFY(start.finish());
+    QCOMPARE(start.exitCode(), 0);
+    QCOMPARE(start.output(), QByteArray("codeGen version: 5.10\n"));
+    QVERIFY2(start.file("logs/run.log").endsWith(start.output()), start.file("logs/run.log").constData());
+    QCOMPARE(start.errors() + start.output(), start.file("logs/run.log"));
+}
+
+void TestProgram::optionOfTheWindowSystemIsUnknown()
+{
+    DtStart& start = at("unknown option");
+    QVERIFY(start.finish());
+    QCOMPARE(start.exitCode(), 1);
+    const QByteArray errors = start.errors();
+    QVERIFY2(errors.startsWith("PARSE ERROR: Argument: -style\n"
+                               "             Couldn't find match for argument\n\nBrief USAGE: \n   codeGen "),
+             errors.constData());
+    QVERIFY2(errors.endsWith("\nFor complete USAGE and HELP type: \n   codeGen --help\n"), errors.constData());
+    QCOMPARE(start.output(), QByteArray());
+}
+
+void TestProgram::windowWaitsUntilASignalEndsIt()
+{
+    for (const auto& each : myStarts)
+        if (each.first != "window")
+            QVERIFY(each.second->finish());
+    DtStart& start = at("window");
+    QVERIFY(!start.process().waitForFinished(1000));
+    QVERIFY(start.process().state() == QProcess::Running);
+    if (qgetenv("ASAN_OPTIONS").contains("handle_abort=2"))
+    {
+        qInfo("The sanitizer keeps the signal to itself.");
+        return;
+    }
+    kill(static_cast<pid_t>(start.process().processId()), SIGABRT);
+    QVERIFY(!start.finish());
+    QVERIFY(start.process().state() == QProcess::NotRunning);
+    QCOMPARE(start.exitCode(), SIGABRT);
+    const QByteArray errors = start.errors();
+    QVERIFY2(errors.startsWith("CodeGen: caught signal 6 (SIGABRT, aborted)\nCall stack:\n"), errors.constData());
+    QVERIFY2(countOf(errors, "[0x") > 3, errors.constData());
+}
+
+void TestProgram::exceptionsAreReportedAndEndWithZero_data()
+{
+    QTest::addColumn<QByteArray>("text");
+    QTest::newRow("DtException") << QByteArray("Caught DtException with stack: \nwrong order");
+    QTest::newRow("std::exception") << QByteArray("Caught std::exception: out of paper\n");
+    QTest::newRow("unknown") << QByteArray("Caught Unknown Exception in. int main(int, char**)[codeGen:45]\n");
+}
+
+void TestProgram::exceptionsAreReportedAndEndWithZero()
+{
+    QFETCH(QByteArray, text);
+    const QString failure = QString::fromLatin1(QTest::currentDataTag());
+    DtStart late, early;
+    late.start(QX_MAIN_PROBE, {failure});
+    early.start(QX_MAIN_PROBE, {failure, "early"});
+    QVERIFY(late.finish() && early.finish());
+    QCOMPARE(late.exitCode(), 0);
+    QCOMPARE(early.exitCode(), 0);
+    QVERIFY2(late.errors().startsWith("destroyed\n" + text), late.errors().constData());
+    QVERIFY2(early.errors().startsWith(text), early.errors().constData()); // the object was never whole
+    QVERIFY(late.errors().endsWith("\n"));
+}
+
+void TestProgram::resultOfTheRunIsDropped()
+{
+    DtStart start;
+    start.start(QX_MAIN_PROBE, {"result"});
+    QVERIFY(start.finish());
+    QCOMPARE(start.exitCode(), 0);
+    QCOMPARE(start.errors(), QByteArray("destroyed\n"));
+}
+
+void TestProgram::fatalSignalsAreReported_data()
+{
+    QTest::addColumn<int>("signal");
+    QTest::addColumn<QByteArray>("text");
+    QTest::newRow("overflow") << SIGSEGV << QByteArray("CodeGen: caught signal 11 (SIGSEGV, segmentation fault)\n");
+    QTest::newRow("SIGABRT") << SIGABRT << QByteArray("CodeGen: caught signal 6 (SIGABRT, aborted)\n");
+    QTest::newRow("SIGFPE") << SIGFPE << QByteArray("CodeGen: caught signal 8 (SIGFPE, arithmetic exception)\n");
+}
+
+void TestProgram::fatalSignalsAreReported()
+{
+    QFETCH(int, signal);
+    QFETCH(QByteArray, text);
+    if (qgetenv("ASAN_OPTIONS").contains("=2"))
+    {
+        qInfo("The sanitizer may keep the signals to itself.");
+        return;
+    }
+    DtStart start;
+    start.start(QX_MAIN_PROBE, {QString::fromLatin1(QTest::currentDataTag())});
+    QVERIFY(!start.finish());
+    QVERIFY(start.process().state() == QProcess::NotRunning);
+    QCOMPARE(start.exitCode(), signal);
+    QVERIFY2(start.errors().startsWith(text + "Call stack:\n"), start.errors().constData());
+    QVERIFY(countOf(start.errors(), "[0x") > 1);
+}
+
+QX_REGISTER_TEST(TestProgram)
+#include "testProgram.moc"

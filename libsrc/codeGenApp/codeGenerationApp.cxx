@@ -230,7 +230,8 @@ int DtCodeGenerationApp::runWindow()
 {
     myGui->setUnattended(myHasNoDisplay); // from here on somebody can answer
     myGui->manageIcons();
-    myGui->show();
+    if (!myHasNoDisplay)
+        myGui->show();
     QCoreApplication::processEvents();
     if (myHasNoDisplay)
     {

@@ -10,12 +10,6 @@ void DtReplaceCustomGeneration(DtString& line, const DtString* text)
         line = DtReplaceAllSubstrings(line, "<!CUSTOMGENERATIONOUTPUT!>", *text);
 }
 
-const DtOmtProject::DtCodingPair* DtFindCustomCoding(const DtOmtProject& project, const DtString& key)
-{
-    const auto found = project.customCodings().find(key);
-    return found != project.customCodings().end() ? &found->second : nullptr;
-}
-
 DtString DtCustomGenerationText(const DtString& fileName)
 {
     std::string text;

@@ -6,8 +6,6 @@
 // Puts the hand-written text for a member into a line, or empties the condition when there is none (a null text): then
 // the output token stays, for the template's conditional to leave out.
 void DtReplaceCustomGeneration(DtString& line, const DtString* text);
-// Null when the project has no hand-written text under this key.
-const DtOmtProject::DtCodingPair* DtFindCustomCoding(const DtOmtProject& project, const DtString& key);
 // The lines of a file, each with a line end; empty when it cannot be read.
 DtString DtCustomGenerationText(const DtString& fileName);
 
@@ -28,8 +26,9 @@ public:
         if (attribute == nullptr || line.findString("<!CUSTOMGENERATION") >= line.length())
             return;
         const DtString key = this->record().fullName() + "." + this->member(attribute->name()).name();
-        const DtOmtProject::DtCodingPair* coding = DtFindCustomCoding(this->omtProject(), key);
-        DtReplaceCustomGeneration(line, coding != nullptr ? &(coding->*theText) : nullptr);
+        DtOmtProject::DtCodingPair coding;
+        const bool isCustom = this->omtProject().customCodingsFromName(key, coding);
+        DtReplaceCustomGeneration(line, isCustom ? &(coding.*theText) : nullptr);
     }
 
     std::vector<DtString> knownTokens() const override

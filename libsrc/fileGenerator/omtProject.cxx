@@ -251,11 +251,13 @@ void DtOmtProject::addCustomCoding(const DtString& key, const DtCodingPair& codi
     change().customCodings[key] = coding;
 }
 
-void DtOmtProject::customCodingsFromName(const DtString& key, DtCodingPair& coding) const
+bool DtOmtProject::customCodingsFromName(const DtString& key, DtCodingPair& coding) const
 {
     const auto found = myContent->customCodings.find(key);
-    if (found != myContent->customCodings.end())
-        coding = found->second;
+    if (found == myContent->customCodings.end())
+        return false;
+    coding = found->second;
+    return true;
 }
 
 const std::map<DtString, DtOmtProject::DtCodingPair>& DtOmtProject::customCodings() const

@@ -53,8 +53,8 @@ public:
     virtual void addInteraction(const DtString& fullName, bool shouldRename, const DtString& rename);
 
     virtual void addCustomCoding(const DtString& key, const DtCodingPair& coding);
-    // Leaves the argument alone when there is no such key.
-    virtual void customCodingsFromName(const DtString& key, DtCodingPair& coding) const;
+    // True when there is such a key; the argument is left alone otherwise.
+    virtual bool customCodingsFromName(const DtString& key, DtCodingPair& coding) const;
     virtual const std::map<DtString, DtCodingPair>& customCodings() const;
 
     virtual void removeInteraction(const DtOmtInteraction& interaction);

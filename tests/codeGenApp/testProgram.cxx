@@ -16,18 +16,21 @@ namespace
 {
 constexpr int thePatience = 240000; // milliseconds
 
-// A model with one object class of the given name and one interaction class beside it.
+// A model with an object class of the given name, an interaction class and an enumeration of unknown size.
 QByteArray modelOf(const QByteArray& name)
 {
     return "<?xml version=\"1.0\"?>\n<objectModel xmlns=\"http://standards.ieee.org/IEEE1516-2010\">"
            "<objects><objectClass><name>HLAobjectRoot</name><objectClass><name>" +
            name +
-           "</name><attribute><name>Length</name><dataType>HLAfloat64BE</dataType></attribute></objectClass>"
-           "</objectClass></objects><interactions><interactionClass><name>HLAinteractionRoot</name><interactionClass>"
+           "</name><attribute><name>Length</name><dataType>HLAfloat64BE</dataType></attribute>"
+           "<attribute><name>Hue</name><dataType>Colour</dataType></attribute></objectClass></objectClass></"
+           "objects><interactions><interactionClass><name>HLAinteractionRoot</name><interactionClass>"
            "<name>" +
            name +
            "Call</name><parameter><name>Channel</name><dataType>HLAinteger32BE</dataType></parameter>"
-           "</interactionClass></interactionClass></interactions></objectModel>\n";
+           "</interactionClass></interactionClass></interactions><dataTypes><enumeratedDataTypes><enumeratedData>"
+           "<name>Colour</name><enumerator><name>Red</name><value>1</value></enumerator></enumeratedData>"
+           "</enumeratedDataTypes></dataTypes></objectModel>\n";
 }
 
 QByteArray projectOf(const QByteArray& model, const QByteArray& selection)
@@ -125,7 +128,7 @@ void chooseOffscreen(DtStart& start)
     start.setVariable("QT_QPA_PLATFORM", theOffscreen);
 }
 
-// The configuration of the user, with a log file, all messages shown and two enumerations of unknown size to tell of.
+// The configuration of the user, with a log file and all messages shown.
 void logEverything(DtStart& start)
 {
     QByteArray text = start.file("data/config/codeGenConfig.xml");
@@ -414,6 +417,7 @@ void TestProgram::logFileHoldsAllStreams()
     DtStart& start = at("lost model");
     QVERIFY(start.finish());
     QVERIFY(start.errors().contains("Reading FED file: ../models/boat.xml\n")); // told at level 4
+    QVERIFY2(start.output().contains("Size of enumeration Colour not specified."), start.output().constData());
     QCOMPARE(sortedLines(start.file("logs/run.log")), sortedLines(start.errors() + start.output()));
 }
 
@@ -485,7 +489,7 @@ void TestProgram::windowWaitsUntilASignalEndsIt()
 void TestProgram::exceptionsAreReportedAndEndWithZero_data()
 {
     QTest::addColumn<QByteArray>("text");
-    QTest::newRow("DtException") << QByteArray("Caught DtException with stack: \nwrong order");
+    QTest::newRow("DtException") << QByteArray("Caught DtException with stack: \nDtException: wrong order ");
     QTest::newRow("std::exception") << QByteArray("Caught std::exception: out of paper\n");
     QTest::newRow("unknown") << QByteArray("Caught Unknown Exception in. int main(int, char**)[codeGen:45]\n");
 }

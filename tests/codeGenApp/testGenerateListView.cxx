@@ -9,7 +9,14 @@
 
 namespace
 {
-using Scripts = std::map<DtString, bool>;
+// The map as text: "+" ahead of a script that is to run, "-" ahead of the others.
+QString scripts(const DtGenerateListView& list)
+{
+    QStringList texts;
+    for (const auto& [name, isWanted] : list.generateScripts())
+        texts += (isWanted ? "+" : "-") + QString(name.c_str());
+    return texts.join(' ');
+}
 
 QStringList names(const QTreeWidget& list)
 {
@@ -42,7 +49,7 @@ private Q_SLOTS:
         DtGenerateListView list;
         list.addItem("genCpp.txt", true);
         list.addItem("other.txt", false);
-        QCOMPARE(list.generateScripts(), (Scripts{{"genCpp.txt", true}, {"other.txt", false}}));
+        QCOMPARE(scripts(list), QString("+genCpp.txt -other.txt"));
     }
 
     void itemsStandInTheOrderOfTheirNames()
@@ -69,9 +76,9 @@ private Q_SLOTS:
         DtGenerateListView list;
         list.addItem("genCpp.txt", true);
         list.topLevelItem(0)->setCheckState(0, Qt::Unchecked);
-        QCOMPARE(list.generateScripts(), (Scripts{{"genCpp.txt", false}}));
+        QCOMPARE(scripts(list), QString("-genCpp.txt"));
         list.setItemGenerated(list.topLevelItem(0), true);
-        QCOMPARE(list.generateScripts(), (Scripts{{"genCpp.txt", true}}));
+        QCOMPARE(scripts(list), QString("+genCpp.txt"));
     }
 
     void partlyCheckedCountsAsOff()
@@ -79,7 +86,7 @@ private Q_SLOTS:
         DtGenerateListView list;
         list.addItem("genCpp.txt", true);
         list.topLevelItem(0)->setCheckState(0, Qt::PartiallyChecked);
-        QCOMPARE(list.generateScripts(), (Scripts{{"genCpp.txt", false}}));
+        QCOMPARE(scripts(list), QString("-genCpp.txt"));
     }
 
     void itemWithoutNameIsLeftOut()
@@ -94,7 +101,7 @@ private Q_SLOTS:
         DtGenerateListView list;
         list.addItem("genCpp.txt", true);
         list.topLevelItem(0)->setText(1, "renamed.txt");
-        QCOMPARE(list.generateScripts(), (Scripts{{"genCpp.txt", true}}));
+        QCOMPARE(scripts(list), QString("+genCpp.txt"));
     }
 
     void selectedItemsAreSetTogether()
@@ -105,9 +112,9 @@ private Q_SLOTS:
         list.topLevelItem(0)->setSelected(true);
         list.topLevelItem(2)->setSelected(true);
         list.selectAllItems(true);
-        QCOMPARE(list.generateScripts(), (Scripts{{"a.txt", true}, {"b.txt", false}, {"c.txt", true}}));
+        QCOMPARE(scripts(list), QString("+a.txt -b.txt +c.txt"));
         list.selectAllItems(false);
-        QCOMPARE(list.generateScripts(), (Scripts{{"a.txt", false}, {"b.txt", false}, {"c.txt", false}}));
+        QCOMPARE(scripts(list), QString("-a.txt -b.txt -c.txt"));
     }
 
     void selectedItemsAreInverted()
@@ -119,7 +126,7 @@ private Q_SLOTS:
         list.topLevelItem(0)->setSelected(true);
         list.topLevelItem(1)->setSelected(true);
         list.toggleAllSelectedItems();
-        QCOMPARE(list.generateScripts(), (Scripts{{"a.txt", false}, {"b.txt", true}, {"c.txt", false}}));
+        QCOMPARE(scripts(list), QString("-a.txt +b.txt -c.txt"));
     }
 };
 

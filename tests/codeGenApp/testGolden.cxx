@@ -119,22 +119,23 @@ void setPreferences(DtCodeGenAppGui& window, const Options& options)
     window.preferences()->okButtonPressed();
 }
 
-// All models of the case, in the order of their names, as one.
-bool loadModels(DtScratchProgram& program, DtCodeGenAppGui& window, const QString& caseDirectory)
+// All models of the case, in the order of their names; they lie where the project is written.
+std::vector<DtCodeGenAppGui::DtModelFile> copyModels(const DtScratchProgram& program, const QString& caseDirectory)
 {
     std::vector<DtCodeGenAppGui::DtModelFile> models;
     for (const QString& name : QDir(caseDirectory).entryList({"*.xml"}, QDir::Files, QDir::Name))
         models.emplace_back(program.copiedModel(caseDirectory + "/" + name), "");
-    return !models.empty() && window.loadFiles(models) == 1;
+    return models;
 }
 
 // False when the models could not be read.
 bool generate(DtScratchProgram& program, const QString& caseDirectory, const Options& options)
 {
+    const auto models = copyModels(program, caseDirectory);
     const auto window = program.makeWindow();
     setPreferences(*window, options);
     window->newOmtProject(DtFilename(program.bytes(program.path("models/case.qxproj"))));
-    if (!loadModels(program, *window, caseDirectory))
+    if (models.empty() || window->loadFiles(models) != 1)
         return false;
     window->addAllObjectInteractions();
     window->setOutputDirectory(program.path("out/"));

@@ -97,12 +97,11 @@ struct DtLists
 
 QByteArray fleetModel()
 {
-    return moduleText(objectText("Ship", attributeText("Speed") + objectText("Ferry", objectText("Fast") +
-                                                                                          attributeText("Deck")) +
-                                             objectText("Tug")) +
-                          objectText("Shipyard"),
-                      interactionText("Signal", parameterText("Text") + interactionText("Flare")) +
-                          interactionText("Ship"));
+    return moduleText(
+        objectText("Ship", attributeText("Speed") + objectText("Ferry", objectText("Fast") + attributeText("Deck")) +
+                               objectText("Tug")) +
+            objectText("Shipyard"),
+        interactionText("Signal", parameterText("Text") + interactionText("Flare")) + interactionText("Ship"));
 }
 
 const char theFleetOnTheRight[] = "Objects\n Ship\n  Ferry\n   Fast\n  Tug\n Shipyard\n"
@@ -332,8 +331,9 @@ private Q_SLOTS:
         lists.add(false);
         lists.removeOnly("Ferry");
         lists.addOnly("Fast");
-        QCOMPARE(printList(lists.right),
-                 QString("Objects\n Ship\n  Tug\n  Ferry\n   Fast\n Shipyard\nInteractions\n Signal\n  Flare\n Ship\n"));
+        QCOMPARE(
+            printList(lists.right),
+            QString("Objects\n Ship\n  Tug\n  Ferry\n   Fast\n Shipyard\nInteractions\n Signal\n  Flare\n Ship\n"));
         QVERIFY(lists.project.isObjectInProj("HLAobjectRoot.Ship.Ferry.Fast"));
     }
 

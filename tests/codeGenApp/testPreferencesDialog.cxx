@@ -63,13 +63,14 @@ struct DtFlagRow
 using DtDialog = DtPreferencesDialog;
 using DtInit = DtCodeGenInitializer;
 const DtFlagRow theFlags[] = {
-    {"64-bit Linux Makefile",                         &DtDialog::generate64Bit,            &DtInit::generate64Bit        },
-    {"Generate Examples",                             &DtDialog::generateExamples,         &DtInit::generateExamples     },
-    {"Map RTIObjectID to DtGlobalObjectDesignator",   &DtDialog::mapRtiObjectIdToGlobalId, &DtInit::mapRtiObjIdToGlobalId},
-    {"Generate #error for undecodable attributes",    &DtDialog::generateErrors,           &DtInit::generateErrors       },
-    {"Include HLA Standard MIM",                      &DtDialog::includeStandardMIM,       &DtInit::includeStandardMIM   },
-    {"Generate DIS PDUs",                             &DtDialog::generateDis,              &DtInit::generateDis          },
-    {"Save Parse Tree",                               &DtDialog::dumpParseTree,            &DtInit::dumpParseTree        },
+    {"64-bit Linux Makefile",                       &DtDialog::generate64Bit,            &DtInit::generate64Bit     },
+    {"Generate Examples",                           &DtDialog::generateExamples,         &DtInit::generateExamples  },
+    {"Map RTIObjectID to DtGlobalObjectDesignator", &DtDialog::mapRtiObjectIdToGlobalId,
+     &DtInit::mapRtiObjIdToGlobalId                                                                                 },
+    {"Generate #error for undecodable attributes",  &DtDialog::generateErrors,           &DtInit::generateErrors    },
+    {"Include HLA Standard MIM",                    &DtDialog::includeStandardMIM,       &DtInit::includeStandardMIM},
+    {"Generate DIS PDUs",                           &DtDialog::generateDis,              &DtInit::generateDis       },
+    {"Save Parse Tree",                             &DtDialog::dumpParseTree,            &DtInit::dumpParseTree     },
 };
 
 struct DtTextRow

@@ -1,0 +1,401 @@
+// Generation by the unseen window: what starts it, what it hands to the writers and what it leaves behind.
+
+#include "registerTest.h"
+
+#include "dialogWatch.h"
+#include "fileGenerator/omtProject.h"
+#include "omtReader/omtTree.h"
+#include "scratchProgram.h"
+#include "smallModels.h"
+
+namespace
+{
+// Presses Cancel in the progress dialog as soon as its label names a file with this text.
+class DtCancelAt : public QObject
+{
+public:
+    explicit DtCancelAt(const QString& text) : myText(text) { qApp->installEventFilter(this); }
+    bool eventFilter(QObject* object, QEvent*) override
+    {
+        auto* const dialog = qobject_cast<QProgressDialog*>(object);
+        if (dialog == nullptr || myIsDone || !dialog->labelText().contains(myText))
+            return false;
+        myIsDone = true;
+        for (QPushButton* button : dialog->findChildren<QPushButton*>())
+            button->click();
+        return false;
+    }
+    bool isDone() const { return myIsDone; }
+
+private:
+    QString myText;
+    bool myIsDone = false;
+};
+} // namespace
+
+class TestWindowGeneration : public QObject
+{
+    Q_OBJECT
+
+private:
+    DtString shipModel() const
+    {
+        return myProgram->model("a.xml", moduleText(objectText("Ship", attributeText("Speed", "HLAinteger32BE")),
+                                                    interactionText("Signal", parameterText("Code"))));
+    }
+    // A loaded model with everything selected, and an output directory.
+    void prepare()
+    {
+        myWindow->newOmtProject(DtFilename(myProgram->bytes(myProgram->path("models/a.qxproj"))));
+        QCOMPARE(myWindow->loadFile(shipModel(), ""), 1);
+        myWindow->addAllObjectInteractions();
+        myWindow->setOutputDirectory(myProgram->path("out/"));
+    }
+    // A window over settings that are changed first.
+    template <typename Change>
+    void restartWith(Change change)
+    {
+        myWindow = myProgram->makeWindow();
+        change(myProgram->initializer());
+        myWindow = std::make_unique<DtCodeGenAppGui>(myProgram->initializer(), qApp, nullptr);
+        myWindow->setUnattended(true);
+        prepare();
+    }
+    void onlyScripts(const std::map<DtString, bool>& scripts)
+    {
+        restartWith([&](DtCodeGenInitializer& initializer) { initializer.setScriptMap(scripts); });
+    }
+    QString status() const { return myWindow->statusBar()->currentMessage(); }
+    QStringList written() const { return filesBelow(myProgram->path("out")); }
+    QByteArray output(const char* name) const { return readTextFile(myProgram->path("out/") + name); }
+
+    std::unique_ptr<DtScratchProgram> myProgram;
+    std::unique_ptr<DtCodeGenAppGui> myWindow;
+    std::unique_ptr<DtDialogWatch> myDialogs;
+
+private Q_SLOTS:
+    void init()
+    {
+        myProgram = std::make_unique<DtScratchProgram>();
+        myWindow = myProgram->makeWindow();
+        myDialogs = std::make_unique<DtDialogWatch>();
+    }
+    void cleanup()
+    {
+        QCOMPARE(myDialogs->seen(), QStringList());
+        myDialogs.reset();
+        myWindow.reset();
+        myProgram.reset();
+    }
+
+    void withoutALoadedFileNothingIsGenerated()
+    {
+        myWindow->newOmtProject(DtFilename(myProgram->bytes(myProgram->path("models/a.qxproj"))));
+        myWindow->setOutputDirectory(myProgram->path("out/"));
+        myWindow->slot_generateFiles();
+        QCOMPARE(status(), QString("No file loaded... Cannot generate files."));
+        QVERIFY(!QFile::exists(myProgram->path("out")));
+    }
+
+    void closedFileCannotBeGenerated()
+    {
+        prepare();
+        myWindow->closeOpenFiles();
+        myWindow->generateAllFiles();
+        QCOMPARE(status(), QString("No file loaded... Cannot generate files."));
+        QVERIFY(!QFile::exists(myProgram->path("out")));
+    }
+
+    void withoutAnOutputDirectoryAnUnattendedRunEnds()
+    {
+        prepare();
+        myWindow->setOutputDirectory(QString());
+        QFile::remove(myProgram->path("models/a.qxproj"));
+        const DtCapture warnings(DtWarn);
+        myWindow->generateAllFiles();
+        QCOMPARE(warnings.text(), QString("Choose an Output Directory\n"));
+        QVERIFY(!QFile::exists(myProgram->path("models/a.qxproj"))); // ended ahead of the saving
+        QVERIFY(!QFile::exists("cpp\\Makefile"));
+    }
+
+    void userIsAskedForTheOutputDirectory()
+    {
+        prepare();
+        QDir().mkpath(myProgram->path("chosen"));
+        myWindow->setOutputDirectory(QString());
+        myWindow->setUnattended(false);
+        {
+            const DtDialogWatch cancelling;
+            myWindow->generateAllFiles();
+            QCOMPARE(cancelling.seen(), QStringList("Choose an Output Directory"));
+        }
+        QCOMPARE(myWindow->outputDirectory().c_str(), "");
+        {
+            const DtDialogWatch user({myProgram->path("chosen")});
+            QVERIFY(myWindow->setOutputDirectory());
+        }
+        myDialogs = std::make_unique<DtDialogWatch>();
+        QCOMPARE(myWindow->outputDirectory().c_str(), (myProgram->path("chosen") + "/").toUtf8().constData());
+        QCOMPARE(DtFileWriter::outputDirectory().c_str(), myWindow->outputDirectory().c_str());
+    }
+
+    void withoutAScriptTheProjectIsSavedAndNothingWritten()
+    {
+        onlyScripts({
+            {"genCpp.txt", false}
+        });
+        QFile::remove(myProgram->path("models/a.qxproj"));
+        const DtCapture warnings(DtWarn);
+        myWindow->generateAllFiles();
+        QVERIFY(readTextFile(myProgram->path("models/a.qxproj")).contains("HLAobjectRoot.Ship"));
+        QVERIFY(!QFile::exists(myProgram->path("out")));
+        QCOMPARE(warnings.text(), QString());
+    }
+
+    void otherScriptIsIgnoredInOneLine()
+    {
+        onlyScripts({
+            {"genCpp.txt",     false},
+            {"genOther%s.txt", true }
+        });
+        const DtCapture warnings(DtWarn);
+        myWindow->generateAllFiles();
+        QCOMPARE(warnings.text(), QString("Script genOther%s.txt is ignored: only genCpp.txt can be run.\n"));
+        QVERIFY(!QFile::exists(myProgram->path("out")));
+    }
+
+    void scriptsRunInTheOrderOfTheirNames()
+    {
+        onlyScripts({
+            {"b.txt",      true},
+            {"genCpp.txt", true},
+            {"a.txt",      true},
+            {"z.txt",      true}
+        });
+        const DtCapture warnings(DtWarn);
+        myWindow->generateAllFiles();
+        const QString text = warnings.text();
+        QVERIFY(text.indexOf("Script a.txt") < text.indexOf("Script b.txt"));
+        QVERIFY(text.indexOf("Script b.txt") < text.indexOf("Script z.txt"));
+        QVERIFY(QFile::exists(myProgram->path("out/cpp\\Makefile")));
+    }
+
+    void examplesAndDisAreLeftOutInOneLineEach()
+    {
+        restartWith(
+            [](DtCodeGenInitializer& initializer)
+            {
+                initializer.setGenerateExamples(true);
+                initializer.setGenerateDis(true);
+            });
+        QString text;
+        {
+            const DtCapture warnings(DtWarn);
+            myWindow->generateAllFiles();
+            text = warnings.text();
+        }
+        QCOMPARE(text.count("Examples cannot be generated yet. They are left out.\n"), 1);
+        QCOMPARE(text.count("DIS files cannot be generated yet. They are left out.\n"), 1);
+        QCOMPARE(text.count('\n'), 2);
+        const QStringList files = written();
+        restartWith([](DtCodeGenInitializer&) {});
+        QDir(myProgram->path("out")).removeRecursively();
+        myWindow->generateAllFiles();
+        QCOMPARE(written(), files);
+        QVERIFY(files.contains("cpp\\shipPublisherHLA.h") || files.filter("hipPublisher").size() > 0);
+    }
+
+    void outputDirectoryIsPutBack()
+    {
+        prepare();
+        myWindow->generateAllFiles();
+        QCOMPARE(DtFileWriter::outputDirectory().c_str(), (myProgram->path("out/")).toUtf8().constData());
+        QVERIFY(QApplication::activeModalWidget() == nullptr);
+        for (const QWidget* widget : QApplication::topLevelWidgets())
+            QVERIFY(qobject_cast<const QProgressDialog*>(widget) == nullptr);
+    }
+
+    void everyFileHasThePrefixWithItsBackslash()
+    {
+        prepare();
+        myWindow->generateAllFiles();
+        QVERIFY(written().size() > 20);
+        for (const QString& name : written())
+            QVERIFY2(name.startsWith("cpp\\"), qPrintable(name));
+    }
+
+    void projectIsSavedAheadOfTheScripts()
+    {
+        prepare();
+        myWindow->generateAllFiles();
+        QVERIFY(readTextFile(myProgram->path("models/a.qxproj")).contains("<fom name=\"a.xml\""));
+    }
+
+    void withoutAProjectGenerationGoesOn()
+    {
+        QCOMPARE(myWindow->loadFile(shipModel(), ""), 1);
+        myWindow->setOutputDirectory(myProgram->path("out/"));
+        const DtCapture warnings(DtWarn);
+        myWindow->generateAllFiles();
+        QCOMPARE(warnings.text(), QString("No Project loaded... Cannot save OMT Project.\n"));
+        QVERIFY(QFile::exists(myProgram->path("out/cpp\\dllExport.h")));
+        QCOMPARE(written().filter("Ship").size(), 0);
+    }
+
+    void parseTreeIsDumpedWhenAskedFor()
+    {
+        prepare();
+        myWindow->generateAllFiles();
+        QVERIFY(!QFile::exists(myProgram->path("out/parsedFom.txt")));
+        restartWith([](DtCodeGenInitializer& initializer) { initializer.setDumpParseTree(true); });
+        myWindow->generateAllFiles();
+        const QByteArray dump = output("parsedFom.txt"); // without the prefix of the other files
+        const char* const expected = "  Ship (object name) = HLAobjectRoot.Ship\n"
+                                     "    Speed (ShipAttribute) = HLAinteger32BE\n"
+                                     "      SpeedAttrCardinality (cardinality) = ";
+        QVERIFY2(dump.contains(expected), dump.constData());
+        QVERIFY(dump.contains("\nbasic datatypes (branch) ="));
+        QVERIFY(dump.contains("  Signal (interaction name) = HLAinteractionRoot.Signal\n"));
+        QVERIFY(dump.endsWith('\n'));
+    }
+
+    void preferencesReachTheWriters()
+    {
+        restartWith([](DtCodeGenInitializer& initializer) { initializer.setNamespaceName("harbour"); });
+        myWindow->setIncludeDirectory("inc");
+        myWindow->setClassPrefix("Port");
+        myWindow->generateAllFiles();
+        QCOMPARE(DtOMTEnvWriter::namespaceName().c_str(), "harbour");
+        QCOMPARE(DtOMTEnvWriter::includeName().c_str(), "inc");
+        QCOMPARE(DtOMTEnvWriter::prefixName().c_str(), "Port");
+        const QStringList headers = written().filter("inc/").filter(".h");
+        QVERIFY(headers.size() > 10);
+        QByteArray text;
+        for (const QString& name : headers)
+            text += readTextFile(myProgram->path("out/") + name);
+        QVERIFY(text.contains("namespace harbour"));
+        QVERIFY(text.contains("DtPortShip"));
+        QVERIFY(text.contains("\"inc/"));
+        QVERIFY(!text.contains("DtShip"));
+        // The preferences of the next run replace them.
+        restartWith([](DtCodeGenInitializer& initializer) { initializer.setNamespaceName(""); });
+        QDir(myProgram->path("out")).removeRecursively();
+        myWindow->generateAllFiles();
+        QCOMPARE(written().filter("inc/").size(), 0);
+        QCOMPARE(DtOMTEnvWriter::namespaceName().c_str(), "");
+        QCOMPARE(DtOMTEnvWriter::prefixName().c_str(), "");
+    }
+
+    void settingsReachTheWriters()
+    {
+        restartWith(
+            [](DtCodeGenInitializer& initializer)
+            {
+                initializer.setGenerate64Bit(false);
+                initializer.setGenerateErrors(true);
+                initializer.setMapRtiObjIdToGlobalId(false);
+            });
+        myWindow->generateAllFiles();
+        QVERIFY(!DtFileWriter::generate64Bit() && DtFileWriter::generateErrors());
+        QVERIFY(!DtDataTypeMapper::instance()->mapRtiObjectIdToGlobalId());
+        QCOMPARE(int(DtFileWriter::hlaVersion()), 3);
+        restartWith(
+            [](DtCodeGenInitializer& initializer)
+            {
+                initializer.setGenerate64Bit(true);
+                initializer.setGenerateErrors(false);
+                initializer.setMapRtiObjIdToGlobalId(true);
+            });
+        myWindow->generateAllFiles();
+        QVERIFY(DtFileWriter::generate64Bit() && !DtFileWriter::generateErrors());
+        QVERIFY(DtDataTypeMapper::instance()->mapRtiObjectIdToGlobalId());
+    }
+
+    void predefinedTypesAreSetAgainAtGeneration()
+    {
+        prepare();
+        myWindow->omtProject()->setPredefinedType({
+            {"HLAinteger32BE", "DtU16"}
+        });
+        DtDataTypeMapper::instance()->clearMappings();
+        myWindow->generateAllFiles();
+        QCOMPARE(DtDataTypeMapper::instance()->quorvexType("HLAinteger32BE").c_str(), "DtU16");
+    }
+
+    void cancelStopsTheRunAheadOfTheBuildProducts_data()
+    {
+        QTest::addColumn<QString>("at");
+        QTest::newRow("first file") << "dllExport";
+        QTest::newRow("datatypes") << "DataTypes";
+        QTest::newRow("classes") << "Ship";
+        QTest::newRow("last class") << "SignalInter";
+    }
+    void cancelStopsTheRunAheadOfTheBuildProducts()
+    {
+        QFETCH(QString, at);
+        prepare();
+        {
+            const DtCancelAt user(at);
+            myWindow->generateAllFiles();
+            QVERIFY(user.isDone());
+        }
+        QVERIFY(written().contains("cpp\\dllExport.h")); // what was written stays
+        for (const char* product : {"Makefile", "Files-", "vcxproj", ".sln"})
+            QCOMPARE(written().filter(product), QStringList());
+        QCOMPARE(DtFileWriter::outputDirectory().c_str(), (myProgram->path("out/")).toUtf8().constData());
+        myWindow->generateAllFiles(); // the next run starts without the cancel
+        QVERIFY(written().contains("cpp\\Makefile"));
+    }
+
+    void cancelBetweenFilesLeavesClassesOut()
+    {
+        prepare();
+        const DtCancelAt user("dllExport");
+        myWindow->generateAllFiles();
+        QCOMPARE(written().filter("Ship"), QStringList());
+    }
+
+    void runsInOneProcessAgree()
+    {
+        prepare();
+        myWindow->generateAllFiles();
+        const QStringList files = written();
+        QDir().rename(myProgram->path("out"), myProgram->path("kept"));
+        for (int round = 0; round < 2; ++round)
+        {
+            myWindow->closeOpenFiles();
+            const DtString other = myProgram->model("b.xml", moduleText(objectText("Tug", attributeText("Power"))));
+            myWindow->newOmtProject(DtFilename(myProgram->bytes(myProgram->path("models/b.qxproj"))));
+            QCOMPARE(myWindow->loadFile(other, ""), 1);
+            myWindow->addAllObjectInteractions();
+            myWindow->setOutputDirectory(myProgram->path("other/"));
+            myWindow->generateAllFiles();
+            QCOMPARE(filesBelow(myProgram->path("other")).filter("Ship"), QStringList());
+            QVERIFY(filesBelow(myProgram->path("other")).filter("Tug").size() >= 12);
+            myWindow->closeOpenFiles();
+        }
+        myWindow->loadOmtProject(DtFilename(myProgram->bytes(myProgram->path("models/a.qxproj"))));
+        QVERIFY(myWindow->isValidProject());
+        myWindow->setOutputDirectory(myProgram->path("out/"));
+        myWindow->generateAllFiles();
+        QCOMPARE(written(), files);
+        for (const QString& name : files.filter(QRegularExpression("\\.(h|cxx|txt)$")))
+            QVERIFY2(readTextFile(myProgram->path("kept/") + name) == readTextFile(myProgram->path("out/") + name),
+                     qPrintable(name));
+    }
+
+    void configurationIsWrittenByTheDestructor()
+    {
+        const QString file = myProgram->path("data/config/customCodeGenConfig.xml");
+        QVERIFY(!QFile::exists(file));
+        prepare();
+        myProgram->initializer().setNamespaceName("harbour");
+        myWindow->generateAllFiles();
+        QVERIFY(!QFile::exists(file));
+        myWindow.reset();
+        QVERIFY(readTextFile(file).contains("<var name=\"namespaceName\" value=\"harbour\"/>"));
+    }
+};
+
+QX_REGISTER_TEST(TestWindowGeneration)
+#include "testWindowGeneration.moc"

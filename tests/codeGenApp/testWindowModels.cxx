@@ -1,0 +1,484 @@
+// Loading and merging of model files by the unseen window.
+
+#include "registerTest.h"
+
+#include "codeGenApp/listViewManager.h"
+#include "dialogWatch.h"
+#include "omtReader/omtTree.h"
+#include "scratchProgram.h"
+#include "smallModels.h"
+
+namespace
+{
+using DtModels = std::vector<DtCodeGenAppGui::DtModelFile>;
+
+const char theFailure[] = "Error Loading File, please try a different file.";
+
+// Names of the classes right below a label of the left list.
+QString classesBelow(QTreeWidgetItem* label)
+{
+    if (label == nullptr)
+        return "no list";
+    QStringList names;
+    for (int index = 0; index < label->childCount(); ++index)
+        names += label->child(index)->text(0);
+    return names.join(' ');
+}
+QString leftObjects(const DtCodeGenAppGui& window)
+{
+    return classesBelow(window.listViewManager()->leftObjectList());
+}
+QString leftInteractions(const DtCodeGenAppGui& window)
+{
+    return classesBelow(window.listViewManager()->leftInteractionList());
+}
+
+// Names and directories, one pair a line.
+QString loaded(const DtCodeGenAppGui& window)
+{
+    QString text;
+    for (const auto& [name, directory] : window.loadedFiles())
+        text += QString("%1|%2\n").arg(QString(name.c_str()), QString(directory.c_str()));
+    return text;
+}
+
+// The left list's classes come and go with the tree.
+bool isEmpty(const DtCodeGenAppGui& window)
+{
+    return window.tree() == nullptr && window.listViewManager()->leftListView()->topLevelItemCount() == 0;
+}
+} // namespace
+
+class TestWindowModels : public QObject
+{
+    Q_OBJECT
+
+private:
+    DtString module(const char* file, const char* name) const
+    {
+        return myProgram->model(file, moduleText(objectText(name), interactionText(name)));
+    }
+    QString status() const { return myWindow->statusBar()->currentMessage(); }
+    QString models(const QString& text) const { return QString(text).replace("%", myProgram->path("models/")); }
+    void withoutMim() const { myWindow->preferences()->setIncludeStandardMIM(false); }
+
+    std::unique_ptr<DtScratchProgram> myProgram;
+    std::unique_ptr<DtCodeGenAppGui> myWindow;
+    std::unique_ptr<DtDialogWatch> myDialogs;
+
+private Q_SLOTS:
+    void init()
+    {
+        myProgram = std::make_unique<DtScratchProgram>();
+        myWindow = myProgram->makeWindow();
+        myDialogs = std::make_unique<DtDialogWatch>();
+    }
+    void cleanup()
+    {
+        QCOMPARE(myDialogs->seen(), QStringList());
+        myDialogs.reset();
+        myWindow.reset();
+        myProgram.reset();
+    }
+
+    void singleLoadReadsTheManagementModelAhead()
+    {
+        QCOMPARE(myWindow->loadFile(module("a.xml", "Ship"), ""), 1);
+        QCOMPARE(leftObjects(*myWindow), QString("HLAmanager Ship"));
+        QCOMPARE(leftInteractions(*myWindow), QString("HLAmanager Ship"));
+        QVERIFY(myWindow->isFileLoaded());
+        QVERIFY(DtOMTEnvWriter::MIMincluded());
+        QCOMPARE(loaded(*myWindow), models("a.xml|%\n"));
+        QCOMPARE(myWindow->windowTitle(), models("Quorvex Code Generator - %a.xml"));
+        QCOMPARE(int(myWindow->tree()->hlaVersion()), 3);
+        QCOMPARE(status(), QString());
+    }
+
+    void severalFilesHaveTheManagementModelBehind()
+    {
+        QCOMPARE(myWindow->loadFiles({
+                     {module("a.xml", "Ship"), ""},
+                     {module("b.xml", "Tug"),  ""}
+        }),
+                 1);
+        QCOMPARE(leftObjects(*myWindow), QString("Ship Tug HLAmanager"));
+        QCOMPARE(leftInteractions(*myWindow), QString("Ship Tug HLAmanager"));
+        QCOMPARE(loaded(*myWindow), models("a.xml|%\nb.xml|%\nHLAstandardMIM.xml|\n"));
+        QCOMPARE(myWindow->windowTitle(), QString("Quorvex Code Generator - /a.xml/b.xml/HLAstandardMIM.xml"));
+        QVERIFY(myWindow->isFileLoaded());
+    }
+
+    void optionLeavesTheManagementModelOut()
+    {
+        withoutMim();
+        QCOMPARE(myWindow->loadFile(module("a.xml", "Ship"), ""), 1);
+        QCOMPARE(leftObjects(*myWindow), QString("Ship"));
+        QVERIFY(!DtOMTEnvWriter::MIMincluded());
+        QCOMPARE(myWindow->loadFiles({
+                     {module("a.xml", "Ship"), ""},
+                     {module("b.xml", "Tug"),  ""}
+        }),
+                 1);
+        QCOMPARE(leftObjects(*myWindow), QString("Ship Tug"));
+        QCOMPARE(loaded(*myWindow), models("a.xml|%\nb.xml|%\n"));
+    }
+
+    void listedManagementModelStaysInItsPlace()
+    {
+        QCOMPARE(myWindow->loadFiles({
+                     {"HLAstandardMIM.xml", ""},
+                     { module("a.xml",             "Ship"), ""}
+        }),
+                 1);
+        QCOMPARE(leftObjects(*myWindow), QString("HLAmanager Ship"));
+        QCOMPARE(loaded(*myWindow), models("HLAstandardMIM.xml|\na.xml|%\n"));
+    }
+
+    void fileWithTheManagementModelInItsNameCountsAsIt()
+    {
+        QCOMPARE(myWindow->loadFiles({
+                     {module("myHLAstandardMIM.xml", "Ship"), ""},
+                     {module("b.xml",                "Tug"),  ""}
+        }),
+                 1);
+        QCOMPARE(leftObjects(*myWindow), QString("Ship Tug"));
+    }
+
+    void joinedPathIsOpened()
+    {
+        module("a.xml", "Ship");
+        module("b.xml", "Tug");
+        const DtString directory = myProgram->bytes(myProgram->path("models"));
+        QCOMPARE(myWindow->loadFile("a.xml", directory), 1);
+        QCOMPARE(loaded(*myWindow), models("a.xml|%\n"));
+        QCOMPARE(myWindow->windowTitle(), models("Quorvex Code Generator - %a.xml"));
+        QCOMPARE(myWindow->loadFiles({
+                     {"a.xml", directory},
+                     {"b.xml", directory}
+        }),
+                 1);
+        QCOMPARE(leftObjects(*myWindow), QString("Ship Tug HLAmanager"));
+    }
+
+    void searchDirectoryOfTheEnvironmentIsUsed()
+    {
+        module("a.xml", "Ship");
+        const DtWithEnvironment search("RTI_CONFIG", myProgram->path("models").toUtf8().constData());
+        QCOMPARE(myWindow->loadFile("a.xml", ""), 1);
+        QCOMPARE(leftObjects(*myWindow), QString("HLAmanager Ship"));
+        QCOMPARE(loaded(*myWindow), QString("a.xml|\n"));
+        QVERIFY(myWindow->findFile(DtFilename("a.xml")));
+        QVERIFY(!myWindow->findFile(DtFilename("b.xml")));
+    }
+
+    void secondModuleIsMergedByReadingAllAgain()
+    {
+        const DtString first = module("a.xml", "Ship");
+        myWindow->loadFile(first, "");
+        DtOMTEnvReader* const reader = myWindow->reader();
+        writeTextFile(first.c_str(), moduleText(objectText("Barge"))); // seen by the second reading
+        QCOMPARE(myWindow->loadFile(module("b.xml", "Tug"), ""), 1);
+        QVERIFY(reader != nullptr && myWindow->reader() != nullptr);
+        // The management model is added to the first module only, and is not among the loaded files.
+        QCOMPARE(leftObjects(*myWindow), QString("Barge Tug"));
+        QCOMPARE(loaded(*myWindow), models("a.xml|%\nb.xml|%\n"));
+        QCOMPARE(myWindow->windowTitle(), models("Quorvex Code Generator - %b.xml"));
+    }
+
+    void loadedManagementModelIsLeftOutOfAMerge()
+    {
+        QCOMPARE(myWindow->loadFile(module("a.xml", "Ship"), ""), 1); // sets the format
+        QCOMPARE(myWindow->loadFiles({
+                     {module("a.xml", "Ship"), ""},
+                     {module("b.xml", "Tug"),  ""}
+        }),
+                 1);
+        QCOMPARE(myWindow->loadFile(module("c.xml", "Buoy"), ""), 1);
+        QCOMPARE(leftObjects(*myWindow), QString("Ship Tug Buoy"));
+        QCOMPARE(loaded(*myWindow), models("a.xml|%\nb.xml|%\nHLAstandardMIM.xml|\nc.xml|%\n"));
+    }
+
+    void severalFilesDoNotSetTheFormat()
+    {
+        QCOMPARE(myWindow->loadFiles({
+                     {module("a.xml", "Ship"), ""},
+                     {module("b.xml", "Tug"),  ""}
+        }),
+                 1);
+        const DtString third = module("c.xml", "Buoy");
+        QCOMPARE(myWindow->loadFile(third, ""), 0);
+        QCOMPARE(status(), models("Error Loading File, Protocol of %c.xml does not match those currently loaded "
+                                  "a.xml b.xml HLAstandardMIM.xml"));
+    }
+
+    void otherFormatIsRefusedAndNothingChanges_data()
+    {
+        QTest::addColumn<QByteArray>("text");
+        QTest::newRow("OMT") << QByteArray(theOmtText);
+        QTest::newRow("1516") << QByteArray(the1516Text);
+        QTest::newRow("2025") << moduleText(objectText("Tug"), QByteArray(), "2025");
+        QTest::newRow("none") << QByteArray("no model");
+        QTest::newRow("malformed") << QByteArray("<objectModel");
+    }
+    void otherFormatIsRefusedAndNothingChanges()
+    {
+        QFETCH(QByteArray, text);
+        myWindow->loadFile(module("a.xml", "Ship"), "");
+        const DtOMTTree* const tree = myWindow->tree();
+        QCOMPARE(myWindow->loadFile(myProgram->model("b.xml", text), ""), 0);
+        QCOMPARE(status(),
+                 models("Error Loading File, Protocol of %b.xml does not match those currently loaded a.xml"));
+        QVERIFY(myWindow->tree() == tree && myWindow->isFileLoaded());
+        QCOMPARE(leftObjects(*myWindow), QString("HLAmanager Ship"));
+        QCOMPARE(loaded(*myWindow), models("a.xml|%\n"));
+        QCOMPARE(myWindow->windowTitle(), models("Quorvex Code Generator - %a.xml"));
+    }
+
+    void oldFormatsDoNotMerge()
+    {
+        // A model of that format sets the format although it is not read; several files leave it as it is.
+        const DtString old = myProgram->model("old.xml", the1516Text);
+        QCOMPARE(myWindow->loadFile(old, ""), 0);
+        QCOMPARE(myWindow->loadFiles({
+                     {module("a.xml", "Ship"), ""},
+                     {module("b.xml", "Tug"),  ""}
+        }),
+                 1);
+        QCOMPARE(myWindow->loadFile(old, ""), 0);
+        QCOMPARE(status(), models("Error Loading File, Cannot merge non HLA1516-2010 FOMs.  %old.xml cannot merge with "
+                                  "currently loaded a.xml b.xml HLAstandardMIM.xml"));
+        QCOMPARE(leftObjects(*myWindow), QString("Ship Tug HLAmanager"));
+    }
+
+    void unreadFormatsFail_data()
+    {
+        QTest::addColumn<QString>("name");
+        QTest::addColumn<QByteArray>("text");
+        QTest::addColumn<QString>("warning");
+        QTest::newRow("OMT") << "a.omt" << QByteArray(theOmtText)
+                             << "models in the OMT text format are recognised but not read.\n";
+        QTest::newRow("1516") << "a.xml" << QByteArray(the1516Text)
+                              << "models in the IEEE 1516 XML format are recognised but not read.\n";
+    }
+    void unreadFormatsFail()
+    {
+        QFETCH(QString, name);
+        QFETCH(QByteArray, text);
+        QFETCH(QString, warning);
+        const DtCapture warnings(DtWarn);
+        const DtString file = myProgram->model(name.toLatin1().constData(), text);
+        QCOMPARE(myWindow->loadFile(file, ""), 0);
+        QCOMPARE(status(), QString(theFailure));
+        QCOMPARE(warnings.text(), QString(file.c_str()) + ": " + warning + theFailure + "\n");
+        QVERIFY(isEmpty(*myWindow));
+    }
+
+    void laterModelComesWithoutItsManagementModel()
+    {
+        const DtCapture warnings(DtWarn);
+        const DtString file = myProgram->model("a.xml", moduleText(objectText("Ship"), QByteArray(), "2025"));
+        QCOMPARE(myWindow->loadFile(file, ""), 1);
+        QCOMPARE(leftObjects(*myWindow), QString("Ship"));
+        QCOMPARE(int(myWindow->tree()->hlaVersion()), 4);
+        QCOMPARE(warnings.text().count("the standard management model of IEEE 1516-2025 is not merged.\n"), 1);
+        QCOMPARE(myWindow->loadFile(myProgram->model("b.xml", moduleText(objectText("Tug"), QByteArray(), "2025")), ""),
+                 1);
+        QCOMPARE(leftObjects(*myWindow), QString("Ship Tug"));
+    }
+
+    void failedLoadEmptiesTheLists_data()
+    {
+        QTest::addColumn<QByteArray>("text");
+        QTest::newRow("no model") << QByteArray("no model");
+        QTest::newRow("empty") << QByteArray();
+        QTest::newRow("cut short") << moduleText(objectText("Ship")).left(150);
+        QTest::newRow("malformed") << QByteArray("<objectModel");
+    }
+    void failedLoadEmptiesTheLists()
+    {
+        QFETCH(QByteArray, text);
+        const DtString bad = myProgram->model("bad.xml", text);
+        QCOMPARE(myWindow->loadFile(bad, ""), 0);
+        QCOMPARE(status(), QString(theFailure));
+        QVERIFY(isEmpty(*myWindow) && !myWindow->isFileLoaded() && myWindow->loadedFiles().empty());
+        // After a good load too.
+        QCOMPARE(myWindow->loadFiles({
+                     {module("a.xml", "Ship"), ""}
+        }),
+                 1);
+        QCOMPARE(myWindow->loadFiles({
+                     {bad,     ""},
+                     { module("b.xml", "Tug"), ""}
+        }),
+                 0);
+        QCOMPARE(status(), QString(theFailure));
+        QVERIFY(isEmpty(*myWindow));
+        myWindow->addAllObjectInteractions();
+        myWindow->generateAllFiles();
+        QCOMPARE(status(), QString("No file loaded... Cannot generate files."));
+    }
+
+    void causeOfAMalformedFileIsToldOnce_data()
+    {
+        QTest::addColumn<bool>("asOneOfSeveral");
+        QTest::addColumn<QByteArray>("text");
+        for (const bool several : {false, true})
+        {
+            QTest::newRow(several ? "behind the root, several" : "behind the root")
+                << several << moduleText(objectText("Ship")).left(150);
+            QTest::newRow(several ? "at the root, several" : "at the root")
+                << several << QByteArray("<objectModel>\n<");
+        }
+    }
+    void causeOfAMalformedFileIsToldOnce()
+    {
+        QFETCH(bool, asOneOfSeveral);
+        QFETCH(QByteArray, text);
+        const DtCapture warnings(DtWarn);
+        const DtString bad = myProgram->model("bad.xml", text);
+        if (asOneOfSeveral)
+            myWindow->loadFiles({
+                {bad,     ""},
+                { module("b.xml", "Tug"), ""}
+            });
+        else
+            myWindow->loadFile(bad, "");
+        QCOMPARE(warnings.text().count(QString(bad.c_str()) + ":"), 1);
+    }
+
+    void missingFileFails()
+    {
+        const DtString missing = myProgram->bytes(myProgram->path("models/none.xml"));
+        QCOMPARE(myWindow->loadFile(missing, ""), 0);
+        QCOMPARE(status(), QString(theFailure));
+        const DtCapture warnings(DtWarn);
+        QCOMPARE(myWindow->loadFiles({
+                     {module("a.xml", "Ship"), ""},
+                     {missing,              ""              }
+        }),
+                 0);
+        QCOMPARE(status(), QString(theFailure));
+        QVERIFY(warnings.text().contains("No such FED file: " + QString(missing.c_str())));
+        QVERIFY(isEmpty(*myWindow));
+    }
+
+    void severalFilesAreTakenByTheExtensionOfTheFirst()
+    {
+        const DtString foreign = module("a.fdd", "Ship");
+        QCOMPARE(myWindow->loadFiles({
+                     {foreign, ""},
+                     { module("b.xml", "Tug"), ""}
+        }),
+                 0); // no tree, though "ok"
+        QCOMPARE(status(), QString(theFailure));
+        QCOMPARE(myWindow->loadFiles({
+                     {module("b.xml", "Tug"), ""},
+                     {foreign,              ""             }
+        }),
+                 1);
+        QCOMPARE(leftObjects(*myWindow), QString("Tug Ship HLAmanager"));
+        myWindow->closeOpenFiles();
+        QCOMPARE(myWindow->loadFile(foreign, ""), 1); // a single file by its content
+    }
+
+    void noFilesAtAllLoadTheManagementModel()
+    {
+        QCOMPARE(myWindow->loadFiles({}), 1);
+        QCOMPARE(leftObjects(*myWindow), QString("HLAmanager"));
+        withoutMim();
+        QCOMPARE(myWindow->loadFiles({}), 0);
+        QCOMPARE(status(), QString(theFailure));
+    }
+
+    void modelWithoutClassesLoads()
+    {
+        QCOMPARE(myWindow->loadFiles({
+                     {myProgram->model("a.xml", moduleText(QByteArray())), ""},
+                     {module("b.xml",           "Tug"),                    ""}
+        }),
+                 1);
+        QCOMPARE(leftObjects(*myWindow), QString("Tug HLAmanager"));
+    }
+
+    void closeForgetsTheFilesAndKeepsTree()
+    {
+        myWindow->newOmtProject(DtFilename(myProgram->bytes(myProgram->path("models/p.qxproj"))));
+        myWindow->loadFile(module("a.xml", "Ship"), "");
+        myWindow->addAllObjectInteractions();
+        myWindow->closeOpenFiles();
+        QVERIFY(!myWindow->isFileLoaded() && myWindow->loadedFiles().empty() && myWindow->projectFile().isEmpty());
+        QCOMPARE(myWindow->windowTitle(), QString("Quorvex Code Generator - No File Loaded"));
+        QVERIFY(myWindow->tree() != nullptr && myWindow->reader() != nullptr && myWindow->omtProject() != nullptr);
+        QCOMPARE(myWindow->listViewManager()->leftListView()->topLevelItemCount(), 0);
+        QCOMPARE(myWindow->listViewManager()->rightListView()->topLevelItemCount(), 0);
+        myWindow->addAllObjectInteractions(); // of empty lists
+        QCOMPARE(myWindow->loadFile(module("b.xml", "Tug"), ""), 1);
+        QCOMPARE(leftObjects(*myWindow), QString("HLAmanager Tug"));
+        QCOMPARE(loaded(*myWindow), models("b.xml|%\n"));
+    }
+
+    void withoutAProjectNothingIsAdded()
+    {
+        myWindow->loadFile(module("a.xml", "Ship"), "");
+        QVERIFY(myWindow->omtProject() == nullptr);
+        myWindow->addAllObjectInteractions();
+        myWindow->addSelectedItems();
+        myWindow->removeSelectedItems();
+        myWindow->putIntoUi(nullptr);
+        QCOMPARE(myWindow->listViewManager()->rightListView()->topLevelItemCount(), 0);
+    }
+
+    void statusGoesToTheWarningsWhileTheWindowIsUnseen()
+    {
+        const DtCapture warnings(DtWarn);
+        myWindow->generateAllFiles();
+        QCOMPARE(warnings.text(), QString("No file loaded... Cannot generate files.\n"));
+        QCOMPARE(status(), QString("No file loaded... Cannot generate files."));
+    }
+
+    void statusOfAVisibleWindowStaysThere()
+    {
+        myWindow->show();
+        const DtCapture warnings(DtWarn);
+        myWindow->generateAllFiles();
+        QCOMPARE(warnings.text(), QString());
+        QCOMPARE(status(), QString("No file loaded... Cannot generate files."));
+        QTest::qWait(50);
+        QCOMPARE(status(), QString("No file loaded... Cannot generate files.")); // until it is replaced
+        myWindow->saveOmtProject();
+        QCOMPARE(status(), QString("No Project loaded... Cannot save OMT Project."));
+    }
+
+    void chosenFileIsLoaded()
+    {
+        module("a.xml", "Ship");
+        const DtDialogWatch user({myProgram->path("models/a.xml")});
+        myWindow->slot_openFile();
+        QCOMPARE(user.seen(), QStringList("Open File"));
+        QCOMPARE(leftObjects(*myWindow), QString("HLAmanager Ship"));
+        QCOMPARE(loaded(*myWindow), models("a.xml|%\n"));
+        myDialogs = std::make_unique<DtDialogWatch>();
+    }
+
+    void withoutAChoiceNothingIsLoaded()
+    {
+        const DtDialogWatch user;
+        myWindow->slot_openFile();
+        myWindow->slot_openFiles();
+        QCOMPARE(user.seen(), (QStringList{"Open File", "Open File"}));
+        QVERIFY(myWindow->tree() == nullptr && status().isEmpty());
+        myDialogs = std::make_unique<DtDialogWatch>();
+    }
+
+    void replacementIsRepeatedUntilNoneIsLeft()
+    {
+        QString text("aab");
+        myWindow->replaceAll(text, "ab", "b"); // "aab", "ab", "b"
+        QCOMPARE(text, QString("b"));
+        QCOMPARE(myWindow->resolveVars("url($(APP_DIR)/x) $(APP_DIR)"),
+                 QString("url(../data/config/x) ../data/config"));
+    }
+};
+
+QX_REGISTER_TEST(TestWindowModels)
+#include "testWindowModels.moc"

@@ -1,0 +1,523 @@
+// Projects of the unseen window: new, saved and loaded ones.
+
+#include "registerTest.h"
+
+#include "codeGenApp/listViewManager.h"
+#include "codeGenApp/projectBackup.h"
+#include "dialogWatch.h"
+#include "fileGenerator/omtProject.h"
+#include "omtReader/omtTree.h"
+#include "scratchProgram.h"
+#include "smallModels.h"
+
+namespace
+{
+// A project file over these entries of name and location, with this configuration.
+QByteArray projectText(const QByteArray& files, const QByteArray& classes = QByteArray())
+{
+    return "<?xml version=\"1.0\" encoding=\"utf-8\"?>\n<project><baseName name=\"harbour\"/><includeDir name=\"inc\"/>"
+           "<classPrefix name=\"Port\"/><foms>" +
+           files + "</foms><configurationRoot>" + classes +
+           "<predefinedTypes><type name=\"Old\" representation=\"DtU8\"/></predefinedTypes></configurationRoot>"
+           "</project>\n";
+}
+
+QByteArray fomText(const QByteArray& name, const QByteArray& location)
+{
+    return "<fom name=\"" + name + "\" location=\"" + location + "\"/>";
+}
+} // namespace
+
+class TestWindowProject : public QObject
+{
+    Q_OBJECT
+
+private:
+    DtFilename file(const char* name) const { return myProgram->bytes(myProgram->path("work/") + name); }
+    QByteArray text(const char* name) const { return readTextFile(myProgram->path("work/") + name); }
+    DtFilename write(const char* name, const QByteArray& content) const
+    {
+        writeTextFile(myProgram->path("work/") + name, content);
+        return file(name);
+    }
+    QByteArray location(const char* directory) const { return myProgram->path(directory).toUtf8(); }
+    DtString module(const char* name, const char* className) const
+    {
+        return myProgram->model(name, moduleText(objectText(className), interactionText(className)));
+    }
+    QString status() const { return myWindow->statusBar()->currentMessage(); }
+    bool isEnabled(const char* action) const
+    {
+        for (const QAction* each : myWindow->findChildren<QAction*>())
+            if (each->text() == action)
+                return each->isEnabled();
+        qFatal("no action %s", action);
+    }
+    QString actions() const // those that need a project
+    {
+        return QString(isEnabled("Save Project") ? "save " : "") + (isEnabled("Import FOM") ? "import" : "");
+    }
+    int topItems(bool right) const
+    {
+        const DtListViewManager& manager = *myWindow->listViewManager();
+        return (right ? manager.rightListView() : manager.leftListView())->topLevelItemCount();
+    }
+    void restartDialogs() { myDialogs = std::make_unique<DtDialogWatch>(); }
+
+    std::unique_ptr<DtScratchProgram> myProgram;
+    std::unique_ptr<DtCodeGenAppGui> myWindow;
+    std::unique_ptr<DtDialogWatch> myDialogs;
+
+private Q_SLOTS:
+    void init()
+    {
+        myProgram = std::make_unique<DtScratchProgram>();
+        QDir().mkpath(myProgram->path("work"));
+        myWindow = myProgram->makeWindow();
+        myDialogs = std::make_unique<DtDialogWatch>();
+    }
+    void cleanup()
+    {
+        QCOMPARE(myDialogs->seen(), QStringList());
+        myDialogs.reset();
+        myWindow.reset();
+        myProgram.reset();
+    }
+
+    // New projects
+
+    void projectActionsWaitForAProject()
+    {
+        QVERIFY(myWindow->omtProject() == nullptr && !myWindow->isValidProject());
+        QCOMPARE(actions(), QString());
+    }
+
+    void newProjectIsWrittenAtOnce()
+    {
+        myWindow->setOutputDirectory(myProgram->path("out/"));
+        myWindow->newOmtProject(file("port.v2.qxproj"));
+        QVERIFY(text("port.v2.qxproj").contains("<baseName name=\"port.v2\"/>"));
+        QVERIFY(text("port.v2.qxproj").contains("<type name=\"HLAinteger32BE\" representation=\"DtInt32\"/>"));
+        QVERIFY(myWindow->omtProject() != nullptr);
+        QCOMPARE(myWindow->projectFile().c_str(), file("port.v2.qxproj").c_str());
+        QCOMPARE(actions(), QString("save import"));
+        QCOMPARE(myWindow->outputDirectory().c_str(), "");
+        QCOMPARE(DtDataTypeMapper::instance()->quorvexType("HLAinteger32BE").c_str(), "DtInt32");
+        QVERIFY(!myWindow->isValidProject()); // only a load makes one valid
+    }
+
+    void newProjectStartsWithoutFilesAndSelection()
+    {
+        runBatch(*myProgram, {module("a.xml", "Ship")});
+        myWindow->loadFile(module("a.xml", "Ship"), "");
+        myWindow->newOmtProject(file("p.qxproj"));
+        QVERIFY(myWindow->loadedFiles().empty());
+        QCOMPARE(topItems(false) + topItems(true), 0);
+        QVERIFY(myWindow->omtProject()->getObjects().empty());
+        QVERIFY(text("p.qxproj").contains("<foms/>"));
+    }
+
+    void replacedProjectFilesAreKeptUnderNumbers()
+    {
+        for (const char* old : {"first", "second", "second", "third"})
+        {
+            write("p.qxproj", old);
+            myWindow->newOmtProject(file("p.qxproj"));
+        }
+        QCOMPARE(text("p.qxproj~"), QByteArray("first"));
+        QCOMPARE(text("p.qxproj~2~"), QByteArray("second")); // once, for the newest copy was equal
+        QCOMPARE(text("p.qxproj~3~"), QByteArray("third"));
+        QCOMPARE(filesBelow(myProgram->path("work")).size(), 4);
+        QVERIFY(text("p.qxproj").startsWith("<?xml"));
+    }
+
+    void olderCopyDoesNotCountAsKept()
+    {
+        for (const char* old : {"first", "second", "first"})
+        {
+            write("p.qxproj", old);
+            QVERIFY(DtKeepProjectFile(file("p.qxproj")));
+        }
+        QCOMPARE(text("p.qxproj~3~"), QByteArray("first"));
+    }
+
+    void nothingToKeepIsNoFailure()
+    {
+        QVERIFY(DtKeepProjectFile(file("p.qxproj")));
+        QCOMPARE(filesBelow(myProgram->path("work")), QStringList());
+    }
+
+    void copyThatCannotBeKeptIsTold()
+    {
+        QDir().mkpath(myProgram->path("work/p.qxproj"));
+        const DtCapture warnings(DtWarn);
+        myWindow->newOmtProject(file("p.qxproj"));
+        QVERIFY(warnings.text().contains(QString("Cannot keep a copy of project file ") + file("p.qxproj").c_str()));
+        QVERIFY(QFileInfo(myProgram->path("work/p.qxproj")).isDir());
+    }
+
+    // Saving
+
+    void savingNeedsAProject()
+    {
+        const DtCapture warnings(DtWarn);
+        myWindow->saveOmtProject();
+        QCOMPARE(status(), QString("No Project loaded... Cannot save OMT Project."));
+        QCOMPARE(warnings.text(), QString("No Project loaded... Cannot save OMT Project.\n"));
+    }
+
+    void savedProjectHoldsFilesSelectionAndPreferences()
+    {
+        myWindow->newOmtProject(file("p.qxproj"));
+        myWindow->loadFile(module("a.xml", "Ship"), "");
+        myWindow->addAllObjectInteractions();
+        myWindow->setIncludeDirectory("inc");
+        myWindow->setClassPrefix("Port");
+        myWindow->slot_saveOmtProject();
+        const QByteArray saved = text("p.qxproj");
+        QVERIFY(saved.contains("<fom name=\"a.xml\" location=\"" + location("models/") + "\"/>"));
+        QVERIFY(saved.contains("<objectClass name=\"HLAobjectRoot.Ship\" rename=\"\""));
+        QVERIFY(saved.contains("<interactionClass name=\"HLAinteractionRoot.HLAmanager\""));
+        QVERIFY(saved.contains("<includeDir name=\"inc\"/>"));
+        QVERIFY(saved.contains("<classPrefix name=\"Port\"/>"));
+        QCOMPARE(status(), QString());
+    }
+
+    void closedProjectIsNotWrittenAgain()
+    {
+        myWindow->newOmtProject(file("p.qxproj"));
+        write("p.qxproj", "as it was");
+        myWindow->closeOpenFiles();
+        myWindow->saveOmtProject();
+        QCOMPARE(status(), QString("No Project loaded... Cannot save OMT Project."));
+        QCOMPARE(text("p.qxproj"), QByteArray("as it was"));
+    }
+
+    // Loading
+
+    void savedProjectLoadsAgain()
+    {
+        myWindow->newOmtProject(file("p.qxproj"));
+        myWindow->loadFile(module("a.xml", "Ship"), "");
+        myWindow->addAllObjectInteractions();
+        myWindow->saveOmtProject();
+        const QByteArray saved = text("p.qxproj");
+
+        myWindow = myProgram->makeWindow();
+        myWindow->setOutputDirectory(myProgram->path("out/"));
+        myWindow->loadOmtProject(file("p.qxproj"));
+        QVERIFY(myWindow->isValidProject() && myWindow->isFileLoaded());
+        QCOMPARE(myWindow->projectFile().c_str(), file("p.qxproj").c_str());
+        QCOMPARE(myWindow->loadedFiles().size(), std::size_t(1));
+        QCOMPARE(topItems(true), 2);
+        QCOMPARE(actions(), QString("save import"));
+        QCOMPARE(myWindow->outputDirectory().c_str(), "");
+        myWindow->saveOmtProject();
+        QCOMPARE(text("p.qxproj"), saved);
+    }
+
+    void projectWithSeveralFilesLoadsAgain()
+    {
+        myWindow->newOmtProject(file("p.qxproj"));
+        myWindow->loadFiles({
+            {module("a.xml", "Ship"), ""},
+            {module("b.xml", "Tug"),  ""}
+        });
+        myWindow->addAllObjectInteractions();
+        myWindow->saveOmtProject();
+        const QByteArray saved = text("p.qxproj");
+        QVERIFY(saved.contains("<fom name=\"HLAstandardMIM.xml\" location=\"\"/>")); // found without a file
+
+        myWindow = myProgram->makeWindow();
+        myWindow->loadOmtProject(file("p.qxproj"));
+        QVERIFY(myWindow->isValidProject());
+        QCOMPARE(myWindow->windowTitle(), QString("Quorvex Code Generator - /a.xml/b.xml/HLAstandardMIM.xml"));
+        myWindow->saveOmtProject();
+        QCOMPARE(text("p.qxproj"), saved);
+    }
+
+    void loadTakesOverWhatTheProjectSays()
+    {
+        module("a.xml", "Ship");
+        write("p.qxproj", projectText(fomText("a.xml", location("models")),
+                                      "<objectClass name=\"HLAobjectRoot.Ship\" rename=\"Vessel\"/>"
+                                      "<objectClass name=\"HLAobjectRoot.Gone\" rename=\"\"/>"));
+        myWindow->loadOmtProject(file("p.qxproj"));
+        QCOMPARE(myWindow->preferences()->includeName().c_str(), "inc");
+        QCOMPARE(myWindow->preferences()->prefixName().c_str(), "Port");
+        QCOMPARE(DtOMTEnvWriter::prefixName().c_str(), "Port");
+        QCOMPARE(myWindow->omtProject()->baseName().c_str(), "harbour");
+        QCOMPARE(myWindow->omtProject()->getRenameForObject("HLAobjectRoot.Ship").c_str(), "Vessel");
+        QCOMPARE(topItems(true), 1);
+        QCOMPARE(DtDataTypeMapper::instance()->quorvexType("Old").c_str(), "DtU8");
+        QCOMPARE(DtDataTypeMapper::instance()->quorvexType("HLAinteger32BE").c_str(), ""); // the whole table
+        myWindow->saveOmtProject();
+        QVERIFY(text("p.qxproj").contains("<baseName name=\"harbour\"/>"));
+        QVERIFY(text("p.qxproj").contains("HLAobjectRoot.Gone")); // no class of the model, but the user's choice
+    }
+
+    void extensionIsAddedWhenTheFileIsMissing()
+    {
+        module("a.xml", "Ship");
+        write("p.qxproj", projectText(fomText("a.xml", location("models"))));
+        myWindow->loadOmtProject(file("p"));
+        QCOMPARE(myWindow->projectFile().c_str(), file("p.qxproj").c_str());
+        myWindow->loadOmtProject(file("p.xml")); // in place of another one
+        QCOMPARE(myWindow->projectFile().c_str(), file("p.qxproj").c_str());
+        write("p", projectText(fomText("a.xml", location("models"))));
+        myWindow->loadOmtProject(file("p")); // a file that exists keeps its name
+        QCOMPARE(myWindow->projectFile().c_str(), file("p").c_str());
+    }
+
+    void emptyPathLoadsThePresentProjectAgain()
+    {
+        module("a.xml", "Ship");
+        write("p.qxproj", projectText(fomText("a.xml", location("models"))));
+        myWindow->loadOmtProject(file("p.qxproj"));
+        myWindow->omtProject()->setBaseName("changed");
+        myWindow->slot_loadOmtProject();
+        QCOMPARE(myWindow->omtProject()->baseName().c_str(), "harbour");
+        QCOMPARE(myWindow->projectFile().c_str(), file("p.qxproj").c_str());
+    }
+
+    void emptyPathWithoutAProjectEndsUnattended()
+    {
+        const DtCapture warnings(DtWarn);
+        myWindow->loadOmtProject(DtFilename());
+        QVERIFY(myWindow->omtProject() == nullptr);
+        QCOMPARE(warnings.text(), QString("Open Project File\n"));
+    }
+
+    void fileThatCannotBeOpenedLeavesNoProject_data()
+    {
+        QTest::addColumn<bool>("isDirectory");
+        QTest::newRow("missing") << false;
+        QTest::newRow("directory") << true;
+    }
+    void fileThatCannotBeOpenedLeavesNoProject()
+    {
+        QFETCH(bool, isDirectory);
+        if (isDirectory)
+            QDir().mkpath(myProgram->path("work/none.qxproj"));
+        myWindow->newOmtProject(file("p.qxproj"));
+        myWindow->loadFile(module("a.xml", "Ship"), "");
+        myWindow->addAllObjectInteractions();
+        myWindow->setValidProject(true);
+        write("p.qxproj", "as it was");
+        const DtCapture warnings(DtWarn);
+        myWindow->loadOmtProject(file("none.qxproj"));
+        const QString expected = QString("Project file %1 could not be opened.").arg(file("none.qxproj").c_str());
+        QCOMPARE(status(), expected);
+        QCOMPARE(warnings.text(), expected + "\n");
+        QVERIFY(myWindow->omtProject() == nullptr && !myWindow->isValidProject());
+        QCOMPARE(actions(), QString());
+        QCOMPARE(topItems(false) + topItems(true), 0);
+        myWindow->saveOmtProject();
+        QCOMPARE(text("p.qxproj"), QByteArray("as it was"));
+        myWindow->addAllObjectInteractions();
+        myWindow->newOmtProject(file("new.qxproj"));
+        QCOMPARE(actions(), QString("save import"));
+    }
+
+    void badContentGivesASilentEmptyProject_data()
+    {
+        QTest::addColumn<QByteArray>("content");
+        QTest::newRow("no XML") << QByteArray("no project");
+        QTest::newRow("empty") << QByteArray();
+        QTest::newRow("foreign root") << QByteArray("<other/>");
+    }
+    void badContentGivesASilentEmptyProject()
+    {
+        QFETCH(QByteArray, content);
+        write("bad.qxproj", content);
+        const DtCapture warnings(DtWarn);
+        myWindow->loadOmtProject(file("bad.qxproj"));
+        QCOMPARE(warnings.text(), QString());
+        QCOMPARE(status(), QString());
+        QVERIFY(myWindow->omtProject() != nullptr && !myWindow->isValidProject());
+        QVERIFY(myWindow->omtProject()->getObjects().empty() && myWindow->omtProject()->predefinedTypes().empty());
+        QVERIFY(!myWindow->isFileLoaded());
+        myWindow->saveOmtProject();
+        QCOMPARE(text("bad.qxproj"), content);
+    }
+
+    void projectWithoutFilesEndsTheLoad()
+    {
+        myWindow->newOmtProject(file("old.qxproj"));
+        const QByteArray old = text("old.qxproj");
+        write("p.qxproj", projectText(QByteArray()));
+        const QByteArray before = text("p.qxproj");
+        myWindow->loadOmtProject(file("p.qxproj"));
+        QCOMPARE(myWindow->omtProject()->baseName().c_str(), "harbour");
+        QVERIFY(!myWindow->isValidProject());
+        QCOMPARE(DtDataTypeMapper::instance()->quorvexType("Old").c_str(), "DtU8");
+        myWindow->saveOmtProject(); // of no file: neither the old project nor this one is written
+        QCOMPARE(text("old.qxproj"), old);
+        QCOMPARE(text("p.qxproj"), before);
+    }
+
+    void earlierFilesAreForgottenByALoad()
+    {
+        myWindow->loadFile(module("other.xml", "Tug"), "");
+        module("a.xml", "Ship");
+        write("p.qxproj", projectText(fomText("a.xml", location("models"))));
+        myWindow->loadOmtProject(file("p.qxproj"));
+        QCOMPARE(myWindow->loadedFiles().size(), std::size_t(1));
+        QVERIFY(myWindow->tree()->getObjectClassNode("HLAobjectRoot.Tug") == nullptr);
+        QVERIFY(myWindow->tree()->getObjectClassNode("HLAobjectRoot.HLAmanager") != nullptr); // a first load again
+    }
+
+    // Where the model files are
+
+    void missingModelEndsTheLoadUnattended()
+    {
+        myWindow->newOmtProject(file("old.qxproj"));
+        const QByteArray old = text("old.qxproj");
+        write("p.qxproj", projectText(fomText("none.xml", "nowhere/")));
+        const QByteArray before = text("p.qxproj");
+        const DtCapture warnings(DtWarn);
+        myWindow->loadOmtProject(file("p.qxproj"));
+        QCOMPARE(warnings.text(), QString("none.xml could not be found\nOpen File\n"));
+        QCOMPARE(myWindow->omtProject()->baseName().c_str(), "harbour"); // the new project is in place
+        QVERIFY(!myWindow->isValidProject() && !myWindow->isFileLoaded());
+        myWindow->saveOmtProject();
+        QCOMPARE(text("old.qxproj"), old);
+        QCOMPARE(text("p.qxproj"), before);
+    }
+
+    void userGivesAnotherFileForAMissingModel()
+    {
+        module("b.xml", "Tug");
+        write("p.qxproj", projectText(fomText("none.xml", "nowhere/")));
+        myWindow->setUnattended(false);
+        {
+            const DtDialogWatch user({myProgram->path("models/b.xml")});
+            myWindow->loadOmtProject(file("p.qxproj"));
+            QCOMPARE(user.seen(), (QStringList{"none.xml could not be found", "Open File"}));
+        }
+        restartDialogs();
+        QVERIFY(myWindow->isValidProject());
+        QCOMPARE(myWindow->loadedFiles().front().first.c_str(), "b.xml");
+        QCOMPARE(myWindow->loadedFiles().front().second.c_str(), location("models/").constData());
+    }
+
+    void userCancelsTheSearchForAMissingModel()
+    {
+        write("p.qxproj", projectText(fomText("none.xml", "nowhere/") + fomText("more.xml", "nowhere/")));
+        myWindow->setUnattended(false);
+        {
+            const DtDialogWatch user;
+            myWindow->loadOmtProject(file("p.qxproj"));
+            QCOMPARE(user.seen(), (QStringList{"none.xml could not be found", "Open File"}));
+        }
+        restartDialogs();
+        QVERIFY(myWindow->omtProject() != nullptr && !myWindow->isValidProject());
+    }
+
+    void modelIsFoundByEachRoad_data()
+    {
+        QTest::addColumn<QString>("present"); // files in the scratch directory, each with a class of its own
+        QTest::addColumn<QString>("location");
+        QTest::addColumn<QString>("expected"); // directory of the file that is read
+        QTest::newRow("location") << "bin/sub/a.xml"
+                                  << "sub/"
+                                  << "sub/";
+        QTest::newRow("location wins over the working directory") << "bin/sub/a.xml bin/a.xml"
+                                                                  << "sub"
+                                                                  << "sub/";
+        QTest::newRow("location wins over the project") << "bin/sub/a.xml work/a.xml"
+                                                        << "sub"
+                                                        << "sub/";
+        QTest::newRow("working directory") << "bin/a.xml work/a.xml"
+                                           << "gone/"
+                                           << "";
+        QTest::newRow("beside the project") << "work/a.xml"
+                                            << "gone/"
+                                            << "%work/";
+        QTest::newRow("below RTI_CONFIG") << "search/a.xml"
+                                          << "gone/"
+                                          << "";
+        QTest::newRow("empty location") << "bin/a.xml"
+                                        << ""
+                                        << "";
+    }
+    void modelIsFoundByEachRoad()
+    {
+        QFETCH(QString, present);
+        QFETCH(QString, location);
+        QFETCH(QString, expected);
+        for (const QString& name : present.split(' '))
+            writeTextFile(myProgram->path("") + name, moduleText(objectText("Ship")));
+        const DtWithEnvironment search("RTI_CONFIG", myProgram->path("search").toUtf8().constData());
+        write("p.qxproj", projectText(fomText("a.xml", location.toUtf8())));
+        myWindow->loadOmtProject(file("p.qxproj"));
+        QVERIFY(myWindow->isValidProject() && myWindow->isFileLoaded());
+        QCOMPARE(QString(myWindow->loadedFiles().front().second.c_str()), expected.replace("%", myProgram->path("")));
+    }
+
+    void directoryIsNoModelFile()
+    {
+        QDir().mkpath(myProgram->path("bin/a.xml"));
+        QVERIFY(!myWindow->findFile(DtFilename("a.xml")));
+        QVERIFY(!myWindow->findFile(DtFilename()));
+        QVERIFY(myWindow->findFile(DtFilename("HLAstandardMIM.xml")));
+        QVERIFY(!QFile::exists("HLAstandardMIM.xml"));
+    }
+
+    void modelThatFailsToLoadLeavesTheProjectUsable()
+    {
+        myProgram->model("a.xml", "no model");
+        write("p.qxproj", projectText(fomText("a.xml", location("models")),
+                                      "<objectClass name=\"HLAobjectRoot.Ship\" rename=\"Vessel\"/>"));
+        myWindow->loadOmtProject(file("p.qxproj"));
+        QCOMPARE(status(), QString("Error Loading File, please try a different file."));
+        QVERIFY(myWindow->isValidProject() && !myWindow->isFileLoaded());
+        myWindow->saveOmtProject(); // keeps files and selection
+        QVERIFY(text("p.qxproj").contains("<fom name=\"a.xml\" location=\"" + location("models/") + "\"/>"));
+        QVERIFY(text("p.qxproj").contains("rename=\"Vessel\""));
+    }
+
+    // What the user starts
+
+    void newProjectGetsTheExtension()
+    {
+        {
+            const DtDialogWatch user({myProgram->path("work/chosen")});
+            myWindow->slot_newOmtProject();
+            QCOMPARE(user.seen(), QStringList("New Project File"));
+        }
+        restartDialogs();
+        QCOMPARE(myWindow->projectFile().c_str(), file("chosen.qxproj").c_str());
+        QVERIFY(QFile::exists(myProgram->path("work/chosen.qxproj")));
+    }
+
+    void presentProjectIsSavedAheadOfANewOne()
+    {
+        myWindow->newOmtProject(file("p.qxproj"));
+        myWindow->loadFile(module("a.xml", "Ship"), "");
+        {
+            const DtDialogWatch user;
+            myWindow->slot_newOmtProject();
+        }
+        restartDialogs();
+        QVERIFY(text("p.qxproj").contains("<fom name=\"a.xml\"")); // saved although the user cancelled
+        QCOMPARE(myWindow->projectFile().c_str(), file("p.qxproj").c_str());
+    }
+
+    void chosenProjectIsLoaded()
+    {
+        module("a.xml", "Ship");
+        write("p.qxproj", projectText(fomText("a.xml", location("models"))));
+        myWindow->setUnattended(false);
+        {
+            const DtDialogWatch user({myProgram->path("work/p.qxproj")});
+            myWindow->slot_loadOmtProject();
+            QCOMPARE(user.seen(), QStringList("Open Project File"));
+        }
+        restartDialogs();
+        QVERIFY(myWindow->isValidProject());
+    }
+};
+
+QX_REGISTER_TEST(TestWindowProject)
+#include "testWindowProject.moc"

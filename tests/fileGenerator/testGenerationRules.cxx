@@ -1,0 +1,398 @@
+// What holds for a whole run, whatever the kind of file: where files may lie, what is known when a file is written, and
+// what a run does with names and types that lead nowhere.
+
+#include "registerTest.h"
+
+#include "generatorFixture.h"
+
+#include "fileGenerator/omtProject.h"
+
+#include <QtTest/QtTest>
+
+class TestGenerationRules : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init();
+    void cleanup();
+    void renameThatLeavesTheOutputDirectoryWritesNothing_data();
+    void renameThatLeavesTheOutputDirectoryWritesNothing();
+    void includeDirectoryThatLeavesTheOutputDirectoryWritesNothing_data();
+    void includeDirectoryThatLeavesTheOutputDirectoryWritesNothing();
+    void includeDirectoryOfTwoDotsAndMoreIsWritten();
+    void renameTooLongForAFileEndsNothing();
+    void templateThatReachesItselfEndsTheRun();
+    void headerKnowsWhetherItsTypeIsEncodeable();
+    void openPartsAreCountedAcrossFamilies();
+    void openPartsAreForgottenBetweenRuns();
+    void fileOfADatatypeHoldsThatDatatypeOnly();
+    void typesInARingOfPredefinedTypesStand();
+    void ringThroughAPredefinedTypeEnds_data();
+    void ringThroughAPredefinedTypeEnds();
+    void longNamesOfEveryKindGiveFiles();
+    void predefinedTypesOfTheRunForgetComponents();
+    void parentOutsideTheSelectionGivesItsUniqueName();
+
+private:
+    int run();
+    void select(const DtString& object, const DtString& rename = "");
+    void addTank(const std::vector<std::pair<DtString, DtString>>& attributes);
+    QStringList scratchEntries() const;
+
+    std::unique_ptr<DtGeneratorFixture> myFixture;
+    std::unique_ptr<DtTestModel> myModel;
+    std::unique_ptr<DtOmtProject> myProject;
+};
+
+namespace
+{
+const char theTank[] = "HLAobjectRoot.Tank";
+}
+
+void TestGenerationRules::init()
+{
+    myFixture = std::make_unique<DtGeneratorFixture>();
+    myModel = std::make_unique<DtTestModel>();
+    myProject = std::make_unique<DtOmtProject>();
+}
+
+void TestGenerationRules::cleanup()
+{
+    myProject.reset();
+    myModel.reset();
+    myFixture.reset();
+}
+
+// Load and generation, in the order of the program.
+int TestGenerationRules::run()
+{
+    DtDataTypeMapper& mapper = *DtDataTypeMapper::instance();
+    mapper.setPredefinedTypes(myProject->predefinedTypes());
+    mapper.populateFromOmtTree(myModel->tree());
+    mapper.setPredefinedTypes(myProject->predefinedTypes());
+    DtOMTEnvWriter writer;
+    writer.setOmtTree(myModel->tree());
+    writer.setHlaVersion(DtHla1516e);
+    writer.setOmtProject(myProject.get());
+    writer.setObjectsToGenerate(myProject->getObjects());
+    writer.setInteractionsToGenerate(myProject->getInteractions());
+    return writer.writeFile("model.xml");
+}
+
+void TestGenerationRules::select(const DtString& object, const DtString& rename)
+{
+    myProject->addObject(object, !rename.isEmpty(), rename);
+}
+
+// A selected class with attributes of these names and datatypes.
+void TestGenerationRules::addTank(const std::vector<std::pair<DtString, DtString>>& attributes)
+{
+    myModel->addObject(theTank);
+    for (const auto& [name, datatype] : attributes)
+        myModel->addAttribute(theTank, name, datatype);
+    select(theTank);
+}
+
+QStringList TestGenerationRules::scratchEntries() const
+{
+    return QDir(myFixture->scratch(".")).entryList(QDir::AllEntries | QDir::NoDotAndDotDot);
+}
+
+void TestGenerationRules::renameThatLeavesTheOutputDirectoryWritesNothing_data()
+{
+    QTest::addColumn<QString>("rename");
+    QTest::addColumn<int>("left"); // how many of the twelve files lead away
+    QTest::newRow("above") << "../escaped" << 8;
+    QTest::newRow("far above") << "../../../../../../../../../../../../escaped" << 12;
+    QTest::newRow("absolute") << "/escaped" << 8;
+    QTest::newRow("below") << "sub/kept" << 0;
+    QTest::newRow("down and up") << "sub/../kept" << 0;
+}
+
+void TestGenerationRules::renameThatLeavesTheOutputDirectoryWritesNothing()
+{
+    QFETCH(QString, rename);
+    QFETCH(int, left);
+    myModel->addObject(theTank);
+    select(theTank, qPrintable(rename));
+    const DtCapture capture(DtWarn);
+    QCOMPARE(run(), 1);
+    QCOMPARE(scratchEntries(), QStringList({"bin", "data", "out"}));
+    QCOMPARE(capture.text().count("is not written"), left);
+    QCOMPARE(myFixture->outputs().filter(QRegularExpression("escaped|kept")).size(), 12 - left);
+    QVERIFY(myFixture->hasOutput("modelVC14_64.sln"));
+}
+
+void TestGenerationRules::includeDirectoryThatLeavesTheOutputDirectoryWritesNothing_data()
+{
+    QTest::addColumn<QString>("directory");
+    QTest::newRow("above") << "..";
+    QTest::newRow("sibling") << "../include";
+    QTest::newRow("down and up") << "a/../../include";
+    QTest::newRow("absolute") << "/include";
+}
+
+void TestGenerationRules::includeDirectoryThatLeavesTheOutputDirectoryWritesNothing()
+{
+    QFETCH(QString, directory);
+    addTank({});
+    DtOMTEnvWriter::setIncludeName(qPrintable(directory));
+    const DtCapture capture(DtWarn);
+    QCOMPARE(run(), 1);
+    QCOMPARE(scratchEntries(), QStringList({"bin", "data", "out"}));
+    QCOMPARE(capture.text().count("is not written"), 2 + 6); // dllExport.h, modelEnums.h and those of the class
+    // The list of the headers is written without the directory.
+    QCOMPARE(myFixture->outputs().filter(".h"), QStringList());
+    QCOMPARE(myFixture->outputs().filter(".cxx").size(), 6);
+}
+
+void TestGenerationRules::includeDirectoryOfTwoDotsAndMoreIsWritten()
+{
+    addTank({});
+    DtOMTEnvWriter::setIncludeName("..kit");
+    const DtCapture capture(DtWarn);
+    QCOMPARE(run(), 1);
+    QCOMPARE(capture.text().count("is not written"), 0);
+    QVERIFY(myFixture->hasOutput("..kit/tankEncoderHLA.h"));
+}
+
+void TestGenerationRules::renameTooLongForAFileEndsNothing()
+{
+    myModel->addObject(theTank);
+    select(theTank, DtString(std::string(300, 'x')));
+    const DtCapture capture(DtWarn);
+    QCOMPARE(run(), 1);
+    QCOMPARE(capture.text().count(QString(300, 'x')), 12);
+    QVERIFY(myFixture->hasOutput("modelVC14_64.sln"));
+}
+
+void TestGenerationRules::templateThatReachesItselfEndsTheRun()
+{
+    addTank({});
+    myFixture->writeTemplate("hobjEncHeader.tlt", "x<#1#../data/templates/hobjEncHeader.tlt#>");
+    const DtCapture capture(DtWarn);
+    QCOMPARE(run(), 1);
+    QCOMPARE(capture.text().count("hobjEncHeader.tlt"), 1);
+    // The template itself, and the 64 files of its file blocks.
+    QCOMPARE(myFixture->output("tankEncoderHLA.h"), QString(65, 'x'));
+    QVERIFY(myFixture->hasOutput("modelVC14_64.sln"));
+}
+
+void TestGenerationRules::headerKnowsWhetherItsTypeIsEncodeable()
+{
+    for (const char* name : {"subTemplates/fixedRecordsHeader.tlt", "subTemplates/fixedRecordsSource.tlt"})
+        myFixture->writeTemplate(name, "<#ClassDatatypes>[<!LocalTypeIsNotEncodeable!>]<#>");
+    addTank({
+        {"a", "GkTwice"},
+        {"b", "GkOnce" }
+    });
+    myModel->addFixed("GkTwice", {
+                                     {"f", "GkOpen"},
+                                     {"g", "GkOpen"}
+    });
+    myModel->addFixed("GkOnce", {
+                                    {"f", "GkOpen"}
+    });
+    myModel->addArray("GkOpen", "GkByte");
+    QCOMPARE(run(), 1);
+    QCOMPARE(myFixture->output("DataTypes/gkTwice.h"), QString("[1]"));
+    QCOMPARE(myFixture->output("DataTypes/gkTwice.cxx"), QString("[1]"));
+    QCOMPARE(myFixture->output("DataTypes/gkOnce.h"), QString("[]"));
+}
+
+void TestGenerationRules::openPartsAreCountedAcrossFamilies()
+{
+    addTank({
+        {"a", "GcVariant"}
+    });
+    myModel->addArray("GcOpen", "GcByte");
+    myModel->addFixed("GcRecord", {
+                                      {"f", "GcOpen"}
+    });
+    myModel->addVariant("GcVariant", "kind", "GcKind",
+                        {
+                            {"one", "GcRecord"},
+                            {"two", "GcOpen"  }
+    });
+    const DtCapture capture(DtWarn);
+    QCOMPARE(run(), 1);
+    QCOMPARE(capture.text().count("Warning: Cannot encode/decode data type DtGcVariant."), 1);
+    QVERIFY(!DtDataTypeMapper::instance()->isNonEncodeableDataType("DtGcRecord"));
+}
+
+// A type that was an array in one model and holds nothing in the next.
+void TestGenerationRules::openPartsAreForgottenBetweenRuns()
+{
+    addTank({
+        {"a", "GfPart"},
+        {"b", "GfUser"}
+    });
+    myModel->addArray("GfPart", "GfByte");
+    myModel->addFixed("GfUser", {
+                                    {"f", "GfPart"}
+    });
+    QCOMPARE(run(), 1);
+    myModel = std::make_unique<DtTestModel>();
+    addTank({
+        {"b", "GfUser"}
+    });
+    myModel->addFixed("GfUser", {
+                                    {"f", "GfPart"},
+                                    {"g", "GfPart"}
+    });
+    DtDataTypeMapper::instance()->addArrayTypeToCardinalityMapping("GfPart", "1");
+    const DtCapture capture(DtWarn);
+    QCOMPARE(run(), 1);
+    QCOMPARE(capture.text().count("Cannot encode/decode"), 0);
+}
+
+void TestGenerationRules::fileOfADatatypeHoldsThatDatatypeOnly()
+{
+    for (const char* name : {"subTemplates/fixedRecordsHeader.tlt", "subTemplates/fixedRecordsSource.tlt"})
+        myFixture->writeTemplate(name, "<#ClassDatatypes>[<!ClassName!>]<#>");
+    addTank({
+        {"a", "GoFirst" },
+        {"b", "GoSecond"}
+    });
+    myModel->addFixed("GoFirst", {});
+    myModel->addFixed("GoSecond", {});
+    QCOMPARE(run(), 1);
+    for (const char* extension : {".h", ".cxx"})
+    {
+        QCOMPARE(myFixture->output(QString("DataTypes/goFirst") + extension), QString("[DtGoFirst]"));
+        QCOMPARE(myFixture->output(QString("DataTypes/goSecond") + extension), QString("[DtGoSecond]"));
+    }
+}
+
+// A predefined type is a type of the toolkit: nobody looks below it.
+void TestGenerationRules::typesInARingOfPredefinedTypesStand()
+{
+    myFixture->writeTemplate("hobjEncHeader.tlt", "<#Attributes><!AttributeName!>=<!AttributeType!>;<#>");
+    addTank({
+        {"a", "GrA"},
+        {"b", "GrB"}
+    });
+    myModel->addSimple("GrA", "GrB");
+    myModel->addSimple("GrB", "GrA");
+    myProject->addPredefinedType("GrA", "GrB");
+    myProject->addPredefinedType("GrB", "GrA");
+    const DtCapture capture(DtWarn);
+    QCOMPARE(run(), 1);
+    QCOMPARE(myFixture->output("tankEncoderHLA.h"), QString("A=GrB;B=GrA;"));
+    QCOMPARE(capture.text().count("Gr"), 0);
+}
+
+void TestGenerationRules::ringThroughAPredefinedTypeEnds_data()
+{
+    QTest::addColumn<QString>("predefined");
+    QTest::newRow("none") << "";
+    QTest::newRow("simple type") << "GqSimple";
+    QTest::newRow("array") << "GqArray";
+    QTest::newRow("record") << "GqRecord";
+    QTest::newRow("variant") << "GqVariant";
+}
+
+void TestGenerationRules::ringThroughAPredefinedTypeEnds()
+{
+    QFETCH(QString, predefined);
+    const QStringList names = {"GqArray", "GqRecord", "GqSimple", "GqVariant"};
+    addTank({});
+    for (const QString& name : names)
+        myModel->addAttribute(theTank, qPrintable("a" + name), qPrintable(name));
+    myModel->addSimple("GqSimple", "GqArray");
+    myModel->addArray("GqArray", "GqRecord");
+    myModel->addFixed("GqRecord", {
+                                      {"f", "GqVariant"},
+                                      {"g", "GqRecord" }
+    });
+    myModel->addVariant("GqVariant", "kind", "GqSimple",
+                        {
+                            {"one", "GqSimple" },
+                            {"two", "GqVariant"}
+    });
+    if (!predefined.isEmpty())
+        myProject->addPredefinedType(qPrintable(predefined), "GqArray");
+    QCOMPARE(run(), 1);
+    for (const QString& name : names)
+    {
+        // A simple type keeps its files: only a replacement leaves them out.
+        qInfo() << myFixture->outputs().filter("DataTypes/");
+        const bool isWritten = name != predefined || name == "GqSimple";
+        QCOMPARE(myFixture->hasOutput("DataTypes/gq" + name.mid(2) + ".h"), isWritten);
+    }
+}
+
+void TestGenerationRules::longNamesOfEveryKindGiveFiles()
+{
+    const auto longName = [](char c) { return DtString(std::string(400, c)); };
+    const DtString tank = "HLAobjectRoot." + longName('O');
+    const DtString fire = "HLAinteractionRoot." + longName('I');
+    myModel->addObject(tank);
+    myModel->addInteraction(fire);
+    for (const char c : {'E', 'B', 'S', 'A', 'R', 'V', 'C'})
+    {
+        myModel->addAttribute(tank, longName('n') + DtString(std::string(1, c)), longName(c));
+        myModel->addParameter(fire, longName('p') + DtString(std::string(1, c)), longName(c));
+    }
+    myModel->addEnumeration(longName('E'), longName('B'),
+                            {
+                                {longName('e'), 1}
+    });
+    myModel->addBasic(longName('B'), "32");
+    myModel->addSimple(longName('S'), longName('B'));
+    myModel->addArray(longName('A'), longName('S'));
+    myModel->addFixed(longName('R'), {
+                                         {longName('f'), longName('A')}
+    });
+    myModel->addVariant(longName('V'), longName('d'), longName('E'),
+                        {
+                            {longName('a'), longName('R')}
+    });
+    DtTestModel::addComponent(myModel->addComplex(longName('C')), longName('c'), longName('V'), "3");
+    select(tank);
+    myProject->addInteraction(fire, false, "");
+    const DtCapture capture(DtWarn);
+    QCOMPARE(run(), 1);
+    QCOMPARE(capture.text().count("annot open"), 0);
+    // The first letter is lowered as every datatype's is, unless the second is a capital too.
+    qInfo() << myFixture->outputs().filter("DataTypes/");
+    QCOMPARE(myFixture->outputs().filter(QRegularExpression("^DataTypes/[BSARVC]{50}\\d+\\.(h|cxx)$")).size(), 12);
+    QCOMPARE(myFixture->outputs().filter(QRegularExpression("O{50}\\d+")).size(), 12);
+    QCOMPARE(myFixture->outputs().filter(QRegularExpression("I{50}\\d+Inter")).size(), 6);
+}
+
+// The components of records are mapped by their names at load; generation starts from the project's types alone.
+void TestGenerationRules::predefinedTypesOfTheRunForgetComponents()
+{
+    myFixture->writeTemplate("hobjEncHeader.tlt", "<#Attributes><!AttributeType!><#>");
+    addTank({
+        {"GpField", "GpOwn"}
+    });
+    myModel->addFixed("GpRecord", {
+                                      {"GpField", "GpFieldType"}
+    });
+    myProject->addPredefinedType("GpFieldType", "DtGpField");
+    myProject->addPredefinedType("GpOwn", "DtGpOwn");
+    DtDataTypeMapper& mapper = *DtDataTypeMapper::instance();
+    mapper.setPredefinedTypes(myProject->predefinedTypes());
+    mapper.populateFromOmtTree(myModel->tree());
+    QVERIFY(mapper.hasMapping("GpField"));
+    QCOMPARE(run(), 1);
+    QVERIFY(!mapper.hasMapping("GpField"));
+    QCOMPARE(myFixture->output("tankEncoderHLA.h"), QString("DtGpOwn"));
+}
+
+void TestGenerationRules::parentOutsideTheSelectionGivesItsUniqueName()
+{
+    myFixture->writeTemplate("hobjEncHeader.tlt", "<!BaseClassName!>");
+    myModel->addObject("HLAobjectRoot.Vehicle");
+    myModel->addObject("HLAobjectRoot.Vehicle.Tank");
+    select("HLAobjectRoot.Vehicle.Tank");
+    QCOMPARE(run(), 1);
+    QVERIFY(myFixture->output("tankEncoderHLA.h").contains("Vehicle"));
+    QVERIFY(!myFixture->hasOutput("vehicleEncoderHLA.h"));
+}
+
+QX_REGISTER_TEST(TestGenerationRules)
+#include "testGenerationRules.moc"

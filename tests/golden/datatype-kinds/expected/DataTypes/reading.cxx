@@ -1,0 +1,68 @@
+// Generated from case; the next generation writes it anew.
+ 
+#include "DataTypes/reading.h"
+
+DtReading::DtReading()
+    : myAt()
+    , myState()
+{
+}
+ 
+bool DtReading::operator==(const DtReading& other) const
+{
+    static_cast<void>(other); // a record may have no fields
+    if (!(myAt == other.myAt))
+        return false;
+    if (!(myState == other.myState))
+        return false;
+    return true;
+}
+ 
+bool DtReading::operator!=(const DtReading& other) const
+{
+    return !(*this == other);
+}
+ 
+void DtReading::encode(DtWireWriter& writer) const
+{
+    static_cast<void>(writer);
+    DtEncodeValue(writer, myAt, formOf(0));
+    DtEncodeValue(writer, myState, formOf(1));
+}
+ 
+bool DtReading::decode(DtWireReader& reader)
+{
+    DtReading taken(*this);
+    if (!DtDecodeValue(reader, taken.myAt, formOf(0)))
+        return false;
+    if (!DtDecodeValue(reader, taken.myState, formOf(1)))
+        return false;
+    *this = taken;
+    return reader.ok();
+}
+ 
+unsigned int DtReading::octetBoundary(const DtWireTrail* outer)
+{
+    static const char theId = 0;
+    unsigned int boundary = 1;
+    if (DtWireTrail::holds(outer, &theId))
+        return boundary;
+    const DtWireTrail trail = {&theId, outer};
+    static_cast<void>(trail);
+    boundary = DtLargerBoundary(boundary, DtBoundaryOfType<DtHours>(formOf(0), &trail));
+    boundary = DtLargerBoundary(boundary, DtBoundaryOfType<DtState8>(formOf(1), &trail));
+    return boundary;
+}
+ 
+DtWireForm DtReading::formOf(unsigned int field)
+{
+    static const DtWireForm theForms[] = {
+        DtWireForm("Hours", "Unsigned16LE", R"qx(HLAvariableArray)qx",
+            1),
+        DtWireForm("State8", "HLAoctet", R"qx(HLAvariableArray)qx",
+            1),
+        DtWireForm()};
+    return theForms[field];
+}
+ 
+

@@ -1,0 +1,49 @@
+#ifndef DT_DLL_CASE_DtReading_H
+#define DT_DLL_CASE_DtReading_H
+ 
+// Generated from case; the next generation writes it anew.
+ 
+#include <qx/wireFormat.h>
+ 
+#include "dllExport.h"
+#include "DataTypes/caseEnums.h"
+#include "DataTypes/hours.h"
+
+// A fixed record. Its own operations take an argument or are templates, so that a field may bear any name.
+class DT_DLL_CASE DtReading
+{
+public:
+    DtReading();
+    bool operator==(const DtReading& other) const;
+    bool operator!=(const DtReading& other) const;
+ 
+    const DtHours& at() const { return myAt; }
+    void setAt(const DtHours& value) { myAt = value; }
+    const DtState8& state() const { return myState; }
+    void setState(const DtState8& value) { myState = value; }
+
+    void encode(DtWireWriter& writer) const;
+    // False: the octets are no such record, and this one is as it was.
+    bool decode(DtWireReader& reader);
+    // Octets on the wire, from an offset of 0.
+    template <class Size = unsigned int>
+    Size netSize() const
+    {
+        return DtNetSizeOf(*this);
+    }
+    template <class Size = unsigned int>
+    static Size octetBoundary()
+    {
+        return octetBoundary(static_cast<const DtWireTrail*>(nullptr));
+    }
+    static unsigned int octetBoundary(const DtWireTrail* outer);
+ 
+private:
+    static DtWireForm formOf(unsigned int field);
+ 
+    DtHours myAt;
+    DtState8 myState;
+};
+ 
+#endif
+

@@ -1,0 +1,37 @@
+// Generated from case; the next generation writes it anew.
+ 
+#include "DataTypes/unsigned16LE.h"
+
+void DtUnsigned16LE::encode(DtWireWriter& writer) const
+{
+    DtPutNumber(writer, myNumber, octets(), isLittleEndian());
+}
+ 
+bool DtUnsigned16LE::decode(DtWireReader& reader)
+{
+    return DtGetNumber(reader, myNumber, octets(), isLittleEndian());
+}
+ 
+unsigned int DtUnsigned16LE::netSize() const
+{
+    return octets();
+}
+ 
+unsigned int DtUnsigned16LE::octetBoundary()
+{
+    return DtNumberBoundary(octets());
+}
+ 
+// The model's size, or that of the C++ type when the model gives none.
+unsigned int DtUnsigned16LE::octets()
+{
+    const unsigned int size = 2;
+    return size != 0 ? size : sizeof(Number);
+}
+ 
+bool DtUnsigned16LE::isLittleEndian()
+{
+    return 1 != 0;
+}
+ 
+

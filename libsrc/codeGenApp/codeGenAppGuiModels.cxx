@@ -132,7 +132,7 @@ void DtCodeGenAppGui::addMimIfMissing(std::vector<DtFilename>& files) const
     DtFomType firstType = DtFomUnknown;
     for (const DtFilename& file : files)
     {
-        const DtFomType type = DtFedReader::checkFomType(file.c_str());
+        const DtFomType type = DtFedReader::checkFomType(file, DtFedReader::openFedFile(file, false), false);
         const bool isMimName = DtContainsSubstring(file, mimName(type)) && !file.exists();
         if (isMimName || (type != DtFomUnknown && DtContainsSubstring(file, mimName(type))))
             return;

@@ -48,7 +48,8 @@ DtString withoutDashesAndDots(const DtString& name)
 // False for an include path that leads away from the output directory: no file is written there.
 bool staysBelow(const DtString& path)
 {
-    return !DtFilename(path).isAbsolute() && !DtFilename::normalized(path).startsWith("..");
+    const DtString normal = DtFilename::normalized(path);
+    return !DtFilename(path).isAbsolute() && normal != ".." && !normal.startsWith("../");
 }
 
 DtString orPlainName(const DtString& rename, const DtString& plainName)

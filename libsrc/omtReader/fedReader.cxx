@@ -44,7 +44,7 @@ DtRootElement rootElement(int descriptor, const char* file)
     return {};
 }
 
-DtFomType typeOfXml(int descriptor, const char* file)
+DtFomType typeOfXml(int descriptor, const char* file, bool reportFailure)
 {
     DtXmlErrors errors;
     const DtRootElement root = rootElement(descriptor, file);
@@ -59,7 +59,8 @@ DtFomType typeOfXml(int descriptor, const char* file)
         if (const DtXmlDocument document = DtParseXmlDescriptor(descriptor, file))
             type = DtXmlFedReader::fomType(xmlDocGetRootElement(document.get()));
     }
-    errors.report(file);
+    if (reportFailure)
+        errors.report(file);
     return type;
 }
 } // namespace
@@ -69,7 +70,7 @@ DtFomType DtFedReader::checkFomType(const char* file)
     return checkFomType(file, openFedFile(file, false));
 }
 
-DtFomType DtFedReader::checkFomType(const char* file, void* handle)
+DtFomType DtFedReader::checkFomType(const char* file, void* handle, bool reportFailure)
 {
     if (handle == nullptr)
         return DtFomUnknown;
@@ -78,7 +79,7 @@ DtFomType DtFedReader::checkFomType(const char* file, void* handle)
     if (firstNonBlank(opened.get()) == '(')
         return DtFomOmt13;
     lseek(descriptor, 0, SEEK_SET);
-    return typeOfXml(descriptor, file);
+    return typeOfXml(descriptor, file, reportFailure);
 }
 
 void* DtFedReader::openFedFile(const char* file, bool /*reportFailure*/)

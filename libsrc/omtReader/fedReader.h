@@ -15,8 +15,9 @@ public:
     // Format of the file, 0 when it is missing or in no known format. A file with an XML root element of a known
     // namespace is not looked at beyond it; what is wrong with an XML file that had to be read on goes to DtWarn.
     static DtFomType checkFomType(const char* file);
-    // The same for a file opened by openFedFile, which is closed. A null handle is a missing file.
-    static DtFomType checkFomType(const char* file, void* handle);
+    // The same for a file opened by openFedFile, which is closed. A null handle is a missing file. Without a report
+    // nothing goes to DtWarn: for a look ahead of the reading, which tells what is wrong.
+    static DtFomType checkFomType(const char* file, void* handle, bool reportFailure = true);
 
     // Opens the file of that name or else the one below the directory in RTI_CONFIG. The handle is a FILE* at the start
     // of the file, null when there is none. The second argument has no effect.

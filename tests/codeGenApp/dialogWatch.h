@@ -8,21 +8,24 @@
 #include <QtWidgets/QFileDialog>
 #include <QtWidgets/QMessageBox>
 
+#include <utility>
+
 // Answers every message box and file dialog while it lives, so that no test waits for a user.
 //
 // Message boxes are closed. A file dialog gets the next answer: a path to choose, or a cancel once they have run out.
 class DtDialogWatch : public QObject
 {
 public:
-    explicit DtDialogWatch(const QStringList& answers = QStringList()) : myAnswers(answers)
+    DtDialogWatch()
     {
         qApp->setAttribute(Qt::AA_DontUseNativeDialogs);
         qApp->installEventFilter(this);
     }
     ~DtDialogWatch() override { qApp->removeEventFilter(this); }
 
-    // The text of each message box and the title of each file dialog that appeared.
-    const QStringList& seen() const { return mySeen; }
+    void setAnswers(const QStringList& answers) { myAnswers = answers; }
+    // The text of each message box and the title of each file dialog that appeared since the last call.
+    QStringList takeSeen() { return std::exchange(mySeen, QStringList()); }
 
     bool eventFilter(QObject* object, QEvent* event) override
     {

@@ -82,7 +82,7 @@ private Q_SLOTS:
     }
     void cleanup()
     {
-        QCOMPARE(myDialogs->seen(), QStringList());
+        QCOMPARE(myDialogs->takeSeen(), QStringList());
         myDialogs.reset();
         myWindow.reset();
         myProgram.reset();
@@ -124,17 +124,12 @@ private Q_SLOTS:
         QDir().mkpath(myProgram->path("chosen"));
         myWindow->setOutputDirectory(QString());
         myWindow->setUnattended(false);
-        {
-            const DtDialogWatch cancelling;
-            myWindow->generateAllFiles();
-            QCOMPARE(cancelling.seen(), QStringList("Choose an Output Directory"));
-        }
+        myWindow->generateAllFiles(); // cancelled
+        QCOMPARE(myDialogs->takeSeen(), QStringList("Choose an Output Directory"));
         QCOMPARE(myWindow->outputDirectory().c_str(), "");
-        {
-            const DtDialogWatch user({myProgram->path("chosen")});
-            QVERIFY(myWindow->setOutputDirectory());
-        }
-        myDialogs = std::make_unique<DtDialogWatch>();
+        myDialogs->setAnswers({myProgram->path("chosen")});
+        QVERIFY(myWindow->setOutputDirectory());
+        QCOMPARE(myDialogs->takeSeen(), QStringList("Choose an Output Directory"));
         QCOMPARE(myWindow->outputDirectory().c_str(), (myProgram->path("chosen") + "/").toUtf8().constData());
         QCOMPARE(DtFileWriter::outputDirectory().c_str(), myWindow->outputDirectory().c_str());
     }

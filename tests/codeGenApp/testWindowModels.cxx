@@ -70,12 +70,13 @@ private Q_SLOTS:
     void init()
     {
         myProgram = std::make_unique<DtScratchProgram>();
+        QDir().mkpath(myProgram->path("models"));
         myWindow = myProgram->makeWindow();
         myDialogs = std::make_unique<DtDialogWatch>();
     }
     void cleanup()
     {
-        QCOMPARE(myDialogs->seen(), QStringList());
+        QCOMPARE(myDialogs->takeSeen(), QStringList());
         myDialogs.reset();
         myWindow.reset();
         myProgram.reset();
@@ -125,13 +126,24 @@ private Q_SLOTS:
 
     void listedManagementModelStaysInItsPlace()
     {
+        const DtModels files = {
+            {module("a.xml",       "Ship"), ""},
+            {"HLAstandardMIM.xml", ""     },
+            {module("b.xml",              "Tug"),      ""  }
+        };
+        QCOMPARE(myWindow->loadFiles(files), 1);
+        QCOMPARE(leftObjects(*myWindow), QString("Ship HLAmanager Tug"));
+        QCOMPARE(loaded(*myWindow), models("a.xml|%\nHLAstandardMIM.xml|\nb.xml|%\n"));
+    }
+
+    void managementModelInsideTheProgramCannotStandFirst()
+    {
         QCOMPARE(myWindow->loadFiles({
                      {"HLAstandardMIM.xml", ""},
                      { module("a.xml",             "Ship"), ""}
         }),
-                 1);
-        QCOMPARE(leftObjects(*myWindow), QString("HLAmanager Ship"));
-        QCOMPARE(loaded(*myWindow), models("HLAstandardMIM.xml|\na.xml|%\n"));
+                 0);
+        QCOMPARE(status(), QString(theFailure)); // the first file decides the format, and this one is none
     }
 
     void fileWithTheManagementModelInItsNameCountsAsIt()
@@ -381,13 +393,12 @@ private Q_SLOTS:
         QCOMPARE(myWindow->loadFile(foreign, ""), 1); // a single file by its content
     }
 
-    void noFilesAtAllLoadTheManagementModel()
+    void noFilesAtAllFail()
     {
-        QCOMPARE(myWindow->loadFiles({}), 1);
-        QCOMPARE(leftObjects(*myWindow), QString("HLAmanager"));
-        withoutMim();
         QCOMPARE(myWindow->loadFiles({}), 0);
         QCOMPARE(status(), QString(theFailure));
+        withoutMim();
+        QCOMPARE(myWindow->loadFiles({}), 0);
     }
 
     void modelWithoutClassesLoads()
@@ -452,22 +463,19 @@ private Q_SLOTS:
     void chosenFileIsLoaded()
     {
         module("a.xml", "Ship");
-        const DtDialogWatch user({myProgram->path("models/a.xml")});
+        myDialogs->setAnswers({myProgram->path("models/a.xml")});
         myWindow->slot_openFile();
-        QCOMPARE(user.seen(), QStringList("Open File"));
+        QCOMPARE(myDialogs->takeSeen(), QStringList("Open File"));
         QCOMPARE(leftObjects(*myWindow), QString("HLAmanager Ship"));
         QCOMPARE(loaded(*myWindow), models("a.xml|%\n"));
-        myDialogs = std::make_unique<DtDialogWatch>();
     }
 
     void withoutAChoiceNothingIsLoaded()
     {
-        const DtDialogWatch user;
         myWindow->slot_openFile();
         myWindow->slot_openFiles();
-        QCOMPARE(user.seen(), (QStringList{"Open File", "Open File"}));
+        QCOMPARE(myDialogs->takeSeen(), (QStringList{"Open File", "Open File"}));
         QVERIFY(myWindow->tree() == nullptr && status().isEmpty());
-        myDialogs = std::make_unique<DtDialogWatch>();
     }
 
     void replacementIsRepeatedUntilNoneIsLeft()

@@ -62,7 +62,6 @@ private:
         const DtListViewManager& manager = *myWindow->listViewManager();
         return (right ? manager.rightListView() : manager.leftListView())->topLevelItemCount();
     }
-    void restartDialogs() { myDialogs = std::make_unique<DtDialogWatch>(); }
 
     std::unique_ptr<DtScratchProgram> myProgram;
     std::unique_ptr<DtCodeGenAppGui> myWindow;
@@ -78,7 +77,7 @@ private Q_SLOTS:
     }
     void cleanup()
     {
-        QCOMPARE(myDialogs->seen(), QStringList());
+        QCOMPARE(myDialogs->takeSeen(), QStringList());
         myDialogs.reset();
         myWindow.reset();
         myProgram.reset();
@@ -390,12 +389,9 @@ private Q_SLOTS:
         module("b.xml", "Tug");
         write("p.qxproj", projectText(fomText("none.xml", "nowhere/")));
         myWindow->setUnattended(false);
-        {
-            const DtDialogWatch user({myProgram->path("models/b.xml")});
-            myWindow->loadOmtProject(file("p.qxproj"));
-            QCOMPARE(user.seen(), (QStringList{"none.xml could not be found", "Open File"}));
-        }
-        restartDialogs();
+        myDialogs->setAnswers({myProgram->path("models/b.xml")});
+        myWindow->loadOmtProject(file("p.qxproj"));
+        QCOMPARE(myDialogs->takeSeen(), (QStringList{"none.xml could not be found", "Open File"}));
         QVERIFY(myWindow->isValidProject());
         QCOMPARE(myWindow->loadedFiles().front().first.c_str(), "b.xml");
         QCOMPARE(myWindow->loadedFiles().front().second.c_str(), location("models/").constData());
@@ -405,12 +401,8 @@ private Q_SLOTS:
     {
         write("p.qxproj", projectText(fomText("none.xml", "nowhere/") + fomText("more.xml", "nowhere/")));
         myWindow->setUnattended(false);
-        {
-            const DtDialogWatch user;
-            myWindow->loadOmtProject(file("p.qxproj"));
-            QCOMPARE(user.seen(), (QStringList{"none.xml could not be found", "Open File"}));
-        }
-        restartDialogs();
+        myWindow->loadOmtProject(file("p.qxproj"));
+        QCOMPARE(myDialogs->takeSeen(), (QStringList{"none.xml could not be found", "Open File"}));
         QVERIFY(myWindow->omtProject() != nullptr && !myWindow->isValidProject());
     }
 
@@ -481,12 +473,9 @@ private Q_SLOTS:
 
     void newProjectGetsTheExtension()
     {
-        {
-            const DtDialogWatch user({myProgram->path("work/chosen")});
-            myWindow->slot_newOmtProject();
-            QCOMPARE(user.seen(), QStringList("New Project File"));
-        }
-        restartDialogs();
+        myDialogs->setAnswers({myProgram->path("work/chosen")});
+        myWindow->slot_newOmtProject();
+        QCOMPARE(myDialogs->takeSeen(), QStringList("New Project File"));
         QCOMPARE(myWindow->projectFile().c_str(), file("chosen.qxproj").c_str());
         QVERIFY(QFile::exists(myProgram->path("work/chosen.qxproj")));
     }
@@ -495,11 +484,8 @@ private Q_SLOTS:
     {
         myWindow->newOmtProject(file("p.qxproj"));
         myWindow->loadFile(module("a.xml", "Ship"), "");
-        {
-            const DtDialogWatch user;
-            myWindow->slot_newOmtProject();
-        }
-        restartDialogs();
+        myWindow->slot_newOmtProject();
+        QCOMPARE(myDialogs->takeSeen(), QStringList("New Project File"));
         QVERIFY(text("p.qxproj").contains("<fom name=\"a.xml\"")); // saved although the user cancelled
         QCOMPARE(myWindow->projectFile().c_str(), file("p.qxproj").c_str());
     }
@@ -509,12 +495,9 @@ private Q_SLOTS:
         module("a.xml", "Ship");
         write("p.qxproj", projectText(fomText("a.xml", location("models"))));
         myWindow->setUnattended(false);
-        {
-            const DtDialogWatch user({myProgram->path("work/p.qxproj")});
-            myWindow->slot_loadOmtProject();
-            QCOMPARE(user.seen(), QStringList("Open Project File"));
-        }
-        restartDialogs();
+        myDialogs->setAnswers({myProgram->path("work/p.qxproj")});
+        myWindow->slot_loadOmtProject();
+        QCOMPARE(myDialogs->takeSeen(), QStringList("Open Project File"));
         QVERIFY(myWindow->isValidProject());
     }
 };

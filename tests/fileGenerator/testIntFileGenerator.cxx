@@ -37,6 +37,7 @@ private Q_SLOTS:
     void oldModelResolvesNothing();
     void nestedArrayIsNotWalked();
     void cycleOfDatatypesEndsSilently();
+    void lastRepresentationReachesTheParameter();
     void noGenIsOneInTheEncoderHeader();
     void noGenStaysEverywhereElse();
     void noGenStaysOutsideTheLoop();
@@ -416,6 +417,17 @@ void TestIntFileGenerator::cycleOfDatatypesEndsSilently()
     generator.determineValueType("IgPing", cardinality, type);
     QCOMPARE(type, DtString("IgPing"));
     QCOMPARE(capture.text(), QString());
+}
+
+void TestIntFileGenerator::lastRepresentationReachesTheParameter()
+{
+    DtDataTypeMapper& mapper = *DtDataTypeMapper::instance();
+    mapper.addSimpleTypeToRepresentationMapping("IgSpeed", "IgUnit");
+    mapper.addSimpleTypeToRepresentationMapping("IgUnit", "HLAinteger16LE");
+    std::set<DtString> files;
+    OpenGenerator generator("FireInter", files, false, false, fire(), DtOmtProject());
+    generator.addAttribute("speed", "IgSpeed", "1");
+    QCOMPARE(generator.writers().front()->attributeList().front().datatypeDatatype(), DtString("HLAinteger16LE"));
 }
 
 void TestIntFileGenerator::noGenIsOneInTheEncoderHeader()

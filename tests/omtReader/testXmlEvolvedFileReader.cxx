@@ -353,6 +353,28 @@ private Q_SLOTS:
         QCOMPARE(toQt(tree->getSwitchNode("automaticResignAction")->getNote()), QString("NoAction"));
     }
 
+    void childrenMayStandInAnyOrder()
+    {
+        const auto tree = readSections(
+            "<objects><objectClass><objectClass><attribute><dataType>t</dataType><name>a</name></attribute>"
+            "<name>O</name></objectClass><name>HLAobjectRoot</name></objectClass></objects>"
+            "<interactions><interactionClass><interactionClass><parameter><name>p</name></parameter><name>I</name>"
+            "</interactionClass><name>HLAinteractionRoot</name></interactionClass></interactions>"
+            "<dataTypes><fixedRecordDataTypes><fixedRecordData><field><dataType>t</dataType><name>f</name></field>"
+            "<name>R</name></fixedRecordData></fixedRecordDataTypes><enumeratedDataTypes><enumeratedData><enumerator>"
+            "<value>7</value><name>v</name></enumerator><name>E</name></enumeratedData></enumeratedDataTypes>"
+            "<variantRecordDataTypes><variantRecordData><alternative><name>l</name><enumerator>v</enumerator>"
+            "</alternative><discriminant>d</discriminant><name>V</name></variantRecordData>"
+            "</variantRecordDataTypes></dataTypes>");
+        QCOMPARE(printClass(tree->objectClassRoot()), QString("HLAobjectRoot\n  O [a]\n"));
+        QCOMPARE(printClass(tree->interactionClassRoot()), QString("HLAinteractionRoot\n  I [p]\n"));
+        QCOMPARE(toQt(tree->getObjectClassNode("HLAobjectRoot.O")->findAttribute("a")->getFullName()),
+                 QString("HLAobjectRoot.O.a"));
+        QCOMPARE(toQt((*tree->getFixedDatatypeNode("R")->getComponentNodeList())->getName()), QString("f"));
+        QCOMPARE((*tree->getEnumeratedDatatypeNode("E")->getEnumerationNodeList())->getNumber(), 7);
+        QCOMPARE(toQt((*tree->getVariantDatatypeNode("V")->getComponentNodeList())->getEnumerator()), QString("v"));
+    }
+
     void whiteSpaceBetweenTagsCountsAsTags()
     {
         const auto tree = readSections("<tags>\n<updateReflectTag><dataType>t</dataType><semantics>s</semantics>"

@@ -189,6 +189,7 @@ private Q_SLOTS:
         for (int i = 0; i < 100000; ++i)
             deep += "<a>";
         QTest::newRow("too deep") << deep << 2;
+        QTest::newRow("text too long") << "<objectModel>\n" + QByteArray(10000001, 'x') + "</objectModel>" << 2;
         QByteArray bomb = "<!DOCTYPE objectModel [<!ENTITY a0 'aaaaaaaaaaaaaaaaaaaa'>\n";
         for (int i = 1; i < 30; ++i)
             bomb += "<!ENTITY a" + QByteArray::number(i) + " '" +

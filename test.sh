@@ -12,7 +12,7 @@ cd "$top"
 lint() {
     cmake --preset dev >/dev/null
     cmake --build --preset dev
-    git ls-files 'libsrc/*.h' 'libsrc/*.cxx' 'appsrc/*.cxx' 'bench/*.cxx' 'tests/*.cxx' 'tests/*.h' |
+    git ls-files 'libsrc/*.h' 'libsrc/*.cxx' 'appsrc/*.cxx' 'bench/*.cxx' 'toolkit/*.h' 'tests/*.cxx' 'tests/*.h' ':!tests/golden' |
         xargs clang-format --dry-run --Werror
     git ls-files 'libsrc/*.cxx' 'appsrc/*.cxx' | xargs -P "$(nproc)" -n 4 clang-tidy -quiet -p build/dev
 }

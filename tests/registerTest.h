@@ -14,8 +14,8 @@
 using DtTestMaker = std::function<std::unique_ptr<QObject>()>;
 std::map<QString, DtTestMaker>& testMakers();
 
-#define QX_REGISTER_TEST(Class)                                                                                       \
-    static const bool theRegistration##Class =                                                                        \
+#define QX_REGISTER_TEST(Class)                                                                                        \
+    static const bool theRegistration##Class =                                                                         \
         testMakers().emplace(#Class, [] { return std::unique_ptr<QObject>(std::make_unique<Class>()); }).second;
 
 #endif

@@ -15,6 +15,7 @@
 #include <QtWidgets/QtWidgets>
 
 #include <memory>
+#include <vector>
 
 inline void copyTree(const QString& from, const QString& to)
 {
@@ -76,18 +77,18 @@ public:
     // A window on the configuration of the scratch copy, unattended.
     std::unique_ptr<DtCodeGenAppGui> makeWindow()
     {
-        myInitializer = std::make_unique<DtCodeGenInitializer>();
-        myInitializer->parseConfigFile("../data/config/codeGenConfig.xml");
-        auto window = std::make_unique<DtCodeGenAppGui>(*myInitializer, qApp, nullptr);
+        myInitializers.push_back(std::make_unique<DtCodeGenInitializer>());
+        initializer().parseConfigFile("../data/config/codeGenConfig.xml");
+        auto window = std::make_unique<DtCodeGenAppGui>(initializer(), qApp, nullptr);
         window->setUnattended(true);
         return window;
     }
-    DtCodeGenInitializer& initializer() { return *myInitializer; }
+    DtCodeGenInitializer& initializer() { return *myInitializers.back(); } // of the newest window
 
 private:
     QTemporaryDir myDirectory;
     std::unique_ptr<DtInDirectory> myWorkingDirectory;
-    std::unique_ptr<DtCodeGenInitializer> myInitializer;
+    std::vector<std::unique_ptr<DtCodeGenInitializer>> myInitializers; // each as long as its window may live
 };
 
 // Does what a batch run with --all does, into "out/".

@@ -107,8 +107,10 @@ private Q_SLOTS:
 
     void newProjectStartsWithoutFilesAndSelection()
     {
-        runBatch(*myProgram, {module("a.xml", "Ship")});
+        myWindow->newOmtProject(file("old.qxproj"));
         myWindow->loadFile(module("a.xml", "Ship"), "");
+        myWindow->addAllObjectInteractions();
+        QVERIFY(topItems(true) > 0);
         myWindow->newOmtProject(file("p.qxproj"));
         QVERIFY(myWindow->loadedFiles().empty());
         QCOMPARE(topItems(false) + topItems(true), 0);

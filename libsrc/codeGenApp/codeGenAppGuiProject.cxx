@@ -5,7 +5,7 @@
 #include "codeGenApp/omtProjectXmlReader.h"
 #include "codeGenApp/omtProjectXmlWriter.h"
 #include "codeGenApp/preferencesDialog.h"
-#include "codeGenApp/projectBackup.h"
+#include "codeGenApp/keepFile.h"
 #include "fileGenerator/dataTypeMapper.h"
 #include "fileGenerator/omtEnvWriter.h"
 #include "fileGenerator/omtProject.h"
@@ -53,7 +53,7 @@ void DtCodeGenAppGui::slot_newOmtProject()
 
 void DtCodeGenAppGui::newOmtProject(DtFilename path)
 {
-    if (!DtKeepProjectFile(path))
+    if (!DtKeepFile(path))
         showStatus("Cannot keep a copy of project file " + path);
     myProjectFile = path;
     myProject = std::make_unique<DtOmtProject>();

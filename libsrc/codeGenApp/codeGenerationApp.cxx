@@ -1,6 +1,7 @@
 #include "codeGenApp/codeGenerationApp.h"
 
 #include "codeGenApp/codeGenAppGui.h"
+#include "codeGenApp/keepFile.h"
 #include "foundation/exception.h"
 #include "foundation/filePrinter.h"
 #include "foundation/fileUtils.h"
@@ -122,7 +123,12 @@ void DtCodeGenerationApp::readConfiguration()
 {
     boost::system::error_code ignored; // a directory that cannot be looked into holds no configuration
     const bool isCustomized = boost::filesystem::exists(theCustomConfigFile, ignored);
-    myInitializer.parseConfigFile(isCustomized ? theCustomConfigFile : theDefaultConfigFile);
+    const bool isRead = myInitializer.parseConfigFile(isCustomized ? theCustomConfigFile : theDefaultConfigFile);
+    if (isRead || !isCustomized)
+        return;
+    // The end of the run writes this file anew.
+    DtWarn << "Cannot read " << theCustomConfigFile << "; a copy of it is kept beside it." << std::endl;
+    DtKeepFile(theCustomConfigFile);
 }
 
 void DtCodeGenerationApp::openLogFile() const

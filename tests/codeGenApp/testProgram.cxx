@@ -186,6 +186,9 @@ const std::vector<DtStartRow>& startRows()
         {"version",                {"--version"},                                                                  logEverything                                                                     },
         {"unknown option",         {"-style", "fusion"},                                                           [](DtStart&) {}                                                                   },
         {"window",                 {},                                                                             chooseOffscreen                                                                   },
+        {"broken configuration",
+         {"-G", "-A", "-O", "../out", "-F", "../models/boat.xml"},
+         [](DtStart& start) { start.write("data/config/customCodeGenConfig.xml", "<codeGenConfig"); }                                                                                                },
     };
     return theRows;
 }
@@ -228,6 +231,7 @@ private Q_SLOTS:
     void cleanupTestCase() { myStarts.clear(); }
 
     void batchRunGeneratesAndSavesTheConfiguration();
+    void brokenConfigurationIsKeptBesideTheNewOne();
     void longAndShortOptionsDoTheSame();
     void modelThatCannotBeReadEndsWithZero();
     void withoutDisplayAMissingConditionEndsTheRun_data();
@@ -279,6 +283,16 @@ void TestProgram::batchRunGeneratesAndSavesTheConfiguration()
     QVERIFY(start.exists("data/config/customCodeGenConfig.xml"));
     QCOMPARE(start.file("data/config/codeGenConfig.xml"),
              readTextFile(QStringLiteral(QX_SOURCE_DIR "/data/config/codeGenConfig.xml")));
+}
+
+void TestProgram::brokenConfigurationIsKeptBesideTheNewOne()
+{
+    DtStart& start = at("broken configuration");
+    QVERIFY(start.finish());
+    QCOMPARE(start.exitCode(), 0);
+    QVERIFY(start.errors().contains("Cannot read ../data/config/customCodeGenConfig.xml; a copy of it is kept"));
+    QCOMPARE(start.file("data/config/customCodeGenConfig.xml~"), QByteArray("<codeGenConfig"));
+    QVERIFY(start.file("data/config/customCodeGenConfig.xml") != QByteArray("<codeGenConfig"));
 }
 
 void TestProgram::longAndShortOptionsDoTheSame()

@@ -3,7 +3,7 @@
 #include "registerTest.h"
 
 #include "codeGenApp/listViewManager.h"
-#include "codeGenApp/projectBackup.h"
+#include "codeGenApp/keepFile.h"
 #include "dialogWatch.h"
 #include "fileGenerator/omtProject.h"
 #include "omtReader/omtTree.h"
@@ -137,14 +137,14 @@ private Q_SLOTS:
         for (const char* old : {"first", "second", "first"})
         {
             write("p.qxproj", old);
-            QVERIFY(DtKeepProjectFile(file("p.qxproj")));
+            QVERIFY(DtKeepFile(file("p.qxproj")));
         }
         QCOMPARE(text("p.qxproj~3~"), QByteArray("first"));
     }
 
     void nothingToKeepIsNoFailure()
     {
-        QVERIFY(DtKeepProjectFile(file("p.qxproj")));
+        QVERIFY(DtKeepFile(file("p.qxproj")));
         QCOMPARE(filesBelow(myProgram->path("work")), QStringList());
     }
 

@@ -217,6 +217,8 @@ void addSingleModels()
     row("keywords", model(everyConstruct("class") + everyConstruct("int"), {"class", "int"}));
     row("names that differ in case", model(everyConstruct("Ab") + everyConstruct("aB"), {"Ab", "aB"}));
     row("simple types in a ring", model(simple("A", "B") + simple("B", "A"), {"A", "B"}));
+    row("record over a ring of simple types",
+        model(record("R", {"A", "B"}) + simple("A", "B") + simple("B", "A") + variant("V", "A", {"B"}), {"R", "V"}));
     row("array of a simple type over it", model(array("A", "B") + simple("B", "A"), {"A", "B"}));
     row("arrays in a ring", model(array("A", "B") + array("B", "A", "3", "HLAfixedArray"), {"A", "B"}));
     row("record in its array", model(record("R", {"A"}) + array("A", "R"), {"R", "A"}));

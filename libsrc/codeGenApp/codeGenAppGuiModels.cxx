@@ -100,6 +100,7 @@ int DtCodeGenAppGui::loadFiles(const std::vector<DtModelFile>& models)
 {
     DtOMTEnvWriter::setMIMincluded(myPreferences->includeStandardMIM());
     std::vector<DtFilename> files;
+    files.reserve(models.size() + 1);
     for (const DtModelFile& model : models)
         files.push_back(DtFilename::searchAlternatePath(model.first.c_str(), model.second.c_str()));
     addMimIfMissing(files);

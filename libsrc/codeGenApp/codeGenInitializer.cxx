@@ -6,6 +6,7 @@
 #include "foundation/outputStream.h"
 
 #include <cstdlib>
+#include <utility>
 
 namespace
 {
@@ -76,9 +77,9 @@ bool DtCodeGenInitializer::saveConfigFile(const DtString& file)
 
 void DtCodeGenInitializer::setText(const char* key, DtString& field, const DtString& value)
 {
-    const DtString copy(value); // it may be the field
+    DtString copy(value); // it may be the field
     setVariableValue(key, copy);
-    field = copy;
+    field = std::move(copy);
 }
 
 void DtCodeGenInitializer::setFlag(const char* key, bool& field, bool value)

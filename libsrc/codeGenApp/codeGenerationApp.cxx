@@ -182,6 +182,7 @@ void DtCodeGenerationApp::loadModels()
         myGui->newOmtProject(project);
     }
     std::vector<DtCodeGenAppGui::DtModelFile> models;
+    models.reserve(files.size());
     for (const DtString& file : files)
         models.emplace_back(file, "");
     const int isLoaded = models.size() == 1 ? myGui->loadFile(files.front(), "") : myGui->loadFiles(models);

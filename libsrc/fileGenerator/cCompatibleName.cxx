@@ -130,7 +130,7 @@ DtString DtCCompatibleNames::shortened(const DtString& name)
         if (bare != longNamesToShortNames.end())
             return "Dt" + DtFirstCharToUpper(bare->second);
     }
-    const DtString shortName = name.stdString().substr(0, theKeptPart) + std::to_string(myCurrentLargeFileNum++);
+    DtString shortName = name.stdString().substr(0, theKeptPart) + std::to_string(myCurrentLargeFileNum++);
     longNamesToShortNames.emplace(key, shortName);
     return shortName;
 }

@@ -47,6 +47,7 @@ const DtTokenTable<DtMakefileWriter>& DtMakefileWriter::table()
 std::vector<DtString> DtMakefileWriter::knownTokens()
 {
     std::vector<DtString> tokens;
+    tokens.reserve(static_cast<std::size_t>(table().index().size()));
     for (int row = 0; row < table().index().size(); ++row)
         tokens.emplace_back(std::string(table().index().token(row)));
     return tokens;

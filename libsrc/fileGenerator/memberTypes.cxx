@@ -45,7 +45,7 @@ DtString memberType(const DtString& datatype)
     DtDataTypeMapper& mapper = *DtDataTypeMapper::instance();
     if (!mapper.quorvexType(datatype).isEmpty())
         return mapper.quorvexType(datatype);
-    const DtString type = mappedRepresentation(datatype);
+    DtString type = mappedRepresentation(datatype);
     if (!type.isEmpty())
     {
         mapper.addMapping(datatype, type);

@@ -172,7 +172,7 @@ void DtOMTEnvironment::addVariantTypes(DtOMTTree* tree)
 DtOMTEnvironment::DtBranch DtOMTEnvironment::addEntry(const DtString& name, const DtString& type, const DtString& value,
                                                       const DtBranch& parent)
 {
-    const DtBranch entry = addObject(name, type, parent);
+    DtBranch entry = addObject(name, type, parent);
     entry->setValue(value);
     return entry;
 }

@@ -100,6 +100,30 @@ private Q_SLOTS:
         QVERIFY(!QFile::exists(myProgram->path("out")));
     }
 
+    // A record's field becomes a key of the mapper when a model is loaded. At generation the table is set from the
+    // project alone, and the model is not walked again.
+    void generationSetsThePredefinedTypesAgainAndNothingElse()
+    {
+        QByteArray text = moduleText(objectText("Barge", attributeText("Place", "Spot")));
+        text.replace("</objectModel>",
+                     "<dataTypes><fixedRecordDataTypes><fixedRecordData><name>Spot</name><field><name>Depth</name>"
+                     "<dataType>HLAinteger32BE</dataType></field></fixedRecordData></fixedRecordDataTypes></dataTypes>"
+                     "</objectModel>");
+        myWindow->preferences()->setIncludeStandardMIM(false);
+        myWindow->newOmtProject(DtFilename(myProgram->bytes(myProgram->path("models/a.qxproj"))));
+        QCOMPARE(myWindow->loadFile(myProgram->model("spot.xml", text), ""), 1);
+        myWindow->addAllObjectInteractions();
+        myWindow->setOutputDirectory(myProgram->path("out/"));
+        DtDataTypeMapper& mapper = *DtDataTypeMapper::instance();
+        mapper.addMapping("LeftFromBefore", "DtU8");
+        QVERIFY(mapper.hasMapping("Depth"));
+        myWindow->generateAllFiles();
+        QVERIFY(!mapper.hasMapping("LeftFromBefore"));
+        QVERIFY(!mapper.hasMapping("Depth"));
+        QVERIFY(mapper.hasMapping("HLAboolean"));
+        QCOMPARE(QString(mapper.quorvexType("Spot").c_str()), QString("DtSpot"));
+    }
+
     void closedFileCannotBeGenerated()
     {
         prepare();

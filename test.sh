@@ -2,14 +2,14 @@
 # Builds and runs all tests, under AddressSanitizer and UndefinedBehaviorSanitizer.
 #   ./test.sh             what continuous integration runs; ends with the summary of ctest
 #   ./test.sh --lint      clang-format and clang-tidy over the sources
-#   ./test.sh --full      all tests, then compiles what is generated from the large models with g++ and clang++
+#   ./test.sh --full      all tests and what takes minutes: clang++ and make on what was generated
 set -eu
 
 top=$(cd "$(dirname "${BASH_SOURCE[0]}")" && pwd)
 cd "$top"
-"$top/.ci/setup"
 
 lint() {
+    "$top/.ci/setup" git clang-format clang-tidy
     cmake --preset dev >/dev/null
     cmake --build --preset dev
     git ls-files 'libsrc/*.h' 'libsrc/*.cxx' 'appsrc/*.cxx' 'bench/*.cxx' 'toolkit/*.h' 'tests/*.cxx' 'tests/*.h' ':!tests/golden' |
@@ -18,6 +18,7 @@ lint() {
 }
 
 run_tests() {
+    "$top/.ci/setup"
     cmake --preset dev-asan
     cmake --build --preset dev-asan
     ctest --test-dir build/dev-asan --output-on-failure -j "$(nproc)" "$@"
@@ -25,6 +26,10 @@ run_tests() {
 
 case ${1-} in
     --lint) lint ;;
-    --full) QX_FULL=1 run_tests ;;
+    --full)
+        "$top/.ci/setup" clang
+        export QX_FULL=1
+        run_tests
+        ;;
     *) run_tests "$@" ;;
 esac

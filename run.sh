@@ -14,7 +14,7 @@ top=$(cd "$(dirname "${BASH_SOURCE[0]}")" && pwd)
 build() {
     local log="${TMPDIR:-/tmp}/quorvex-build.$$.log"
     "$top/.ci/setup"
-    (cd "$top" && cmake --preset release && cmake --build --preset release) >"$log" 2>&1 || {
+    (cd "$top" && cmake --preset release && cmake --build --preset release --target codeGen) >"$log" 2>&1 || {
         cat "$log" >&2
         exit 2
     }

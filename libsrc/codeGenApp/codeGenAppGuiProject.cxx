@@ -1,11 +1,11 @@
 // New, saved and loaded projects.
 
 #include "codeGenApp/codeGenAppGui.h"
+#include "codeGenApp/keepFile.h"
 #include "codeGenApp/listViewManager.h"
 #include "codeGenApp/omtProjectXmlReader.h"
 #include "codeGenApp/omtProjectXmlWriter.h"
 #include "codeGenApp/preferencesDialog.h"
-#include "codeGenApp/keepFile.h"
 #include "fileGenerator/dataTypeMapper.h"
 #include "fileGenerator/omtEnvWriter.h"
 #include "fileGenerator/omtProject.h"

@@ -2,8 +2,8 @@
 
 #include "registerTest.h"
 
-#include "codeGenApp/listViewManager.h"
 #include "codeGenApp/keepFile.h"
+#include "codeGenApp/listViewManager.h"
 #include "dialogWatch.h"
 #include "fileGenerator/omtProject.h"
 #include "omtReader/omtTree.h"

@@ -17,7 +17,7 @@ namespace
 // Says why there is no tree; texts of the reader may lack their line end.
 DtOMTTree* reported(DtOMTTree* tree, DtXMLFileReader& reader)
 {
-    const DtString error = reader.getLastError();
+    const DtString& error = reader.getLastError();
     if (tree != nullptr || error.isEmpty())
         return tree;
     const bool hasLineEnd = error[error.length() - 1] == '\n';

@@ -233,7 +233,7 @@ void DtOMTEnvWriter::addEnumeration(DtEnumeratedDatatypeNode& node, DtEnumeratio
     std::vector<DtEnumerationValue> values;
     for (auto value = node.getEnumerationNodeList(); value != node.getEnumerationNodeEnd(); ++value)
         values.emplace_back((*value)->getEnum(), DtString((*value)->getNumber()));
-    const DtString name = node.getName();
+    const DtString& name = node.getName();
     DtEnumeration enumeration(name, values);
 
     DtString representation = mapper().quorvexType(node.getRepresentation());

@@ -163,8 +163,8 @@ void DtOMTEnvWriter::checkInteractionsForArrayTypes()
 // The mapping is by the member's own name, whatever its class: the first member of a name decides for all of them.
 void DtOMTEnvWriter::mapToArray(const DtDatatypeFedNode& member)
 {
-    const DtString name = member.getName();
-    const DtString cardinality = member.getCardinality();
+    const DtString& name = member.getName();
+    const DtString& cardinality = member.getCardinality();
     DtDataTypeMapper& mapper = *DtDataTypeMapper::instance();
     if (cardinality == "1" || mapper.hasMapping(name))
         return;

@@ -143,11 +143,10 @@ DtString DtFilename::normalized(const DtString& path)
     {
         if (piece == ".")
             continue;
-        if (piece != "..")
-            kept.push_back(piece);
-        else if (!kept.empty() && kept.back() != "..")
+        const bool leadsBack = piece == ".." && !kept.empty() && kept.back() != "..";
+        if (leadsBack)
             kept.pop_back();
-        else if (!absolute)
+        else if (piece != ".." || !absolute)
             kept.push_back(piece);
     }
     DtString result(absolute ? "/" : "");

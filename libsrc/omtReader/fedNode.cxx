@@ -6,6 +6,8 @@
 
 DtFedNode& DtFedNode::operator=(const DtFedNode& other)
 {
+    if (this == &other)
+        return *this;
     DtOMTNode::operator=(other);
     myParent = other.myParent;
     myFullName.reset();

@@ -291,7 +291,7 @@ void DtXMLEvolvedFileReader::processEnumerator(xmlNode*& node, DtEnumeratedDatat
 {
     auto enumerator = readNamedItem(node, theEnumeratorFields, "enumerator");
     if (enumerator != nullptr && datatype->addEnumerationNode(enumerator.get()))
-        enumerator.release();
+        static_cast<void>(enumerator.release()); // the datatype owns it now
 }
 
 void DtXMLEvolvedFileReader::processArrayDatatypes(xmlNode*& node, DtOMTTree* tree)

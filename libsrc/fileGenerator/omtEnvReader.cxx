@@ -5,8 +5,9 @@
 #include "foundation/outputStream.h"
 #include "omtReader/interactionClassFedNode.h"
 #include "omtReader/objectClassFedNode.h"
+#include "omtReader/omtFileReader.h"
+#include "omtReader/omtReadException.h"
 #include "omtReader/omtTree.h"
-#include "omtReader/unreadFormats.h"
 #include "omtReader/xmlFileReader.h"
 
 #include <QtWidgets/QTreeWidget>
@@ -15,9 +16,8 @@ namespace
 {
 
 // Says why there is no tree; texts of the reader may lack their line end.
-DtOMTTree* reported(DtOMTTree* tree, DtXMLFileReader& reader)
+DtOMTTree* reported(DtOMTTree* tree, const DtString& error)
 {
-    const DtString& error = reader.getLastError();
     if (tree != nullptr || error.isEmpty())
         return tree;
     const bool hasLineEnd = error[error.length() - 1] == '\n';
@@ -27,19 +27,26 @@ DtOMTTree* reported(DtOMTTree* tree, DtXMLFileReader& reader)
 
 DtOMTTree* readXmlFile(DtXMLFileReader& reader, const DtFilename& file)
 {
-    return reported(reader.readFile(file, nullptr), reader);
+    return reported(reader.readFile(file, nullptr), reader.getLastError());
 }
 
 DtOMTTree* readXmlModules(const std::vector<DtFilename>& files, DtFomType type)
 {
     DtXMLFileReader reader;
-    return reported(reader.readFiles(files, type, nullptr), reader);
+    return reported(reader.readFiles(files, type, nullptr), reader.getLastError());
 }
 
 DtOMTTree* readOmtFile(const DtFilename& file)
 {
-    DtWarnOfUnreadFormat(DtFomOmt13, file);
-    return nullptr;
+    DtOMTFileReader reader;
+    try
+    {
+        return reported(reader.readFile(file, nullptr), reader.getLastError());
+    }
+    catch (const DtOMTReadException&)
+    {
+        return reported(nullptr, reader.getLastError());
+    }
 }
 
 QTreeWidgetItem* addItem(QTreeWidgetItem* parent, const DtString& name)

@@ -5,7 +5,7 @@
 #include "foundation/stringUtils.h"
 #include "omtReader/fedReader.h"
 #include "omtReader/standardMim.h"
-#include "omtReader/unreadFormats.h"
+#include "omtReader/xml1516FileReader.h"
 #include "omtReader/xmlDocument.h"
 #include "omtReader/xmlFedReader.h"
 #include "omtReader/xmlHla4FileReader.h"
@@ -25,6 +25,14 @@ DtFedReadStatus acceptDocument(DtXmlDocument document, const char* noRootText, x
     }
     *result = document.release();
     return DtFedReadSuccess;
+}
+
+DtFedReadStatus parseStandardModel(DtFomType type, xmlDoc** document, DtString& error)
+{
+    const bool isHla4 = type == DtFomHla4;
+    const unsigned char* text = isHla4 ? theHLA4StandardMIM_xml : theHLAeStandardMIM_xml;
+    const unsigned int length = isHla4 ? theHLA4StandardMIM_xml_len : theHLAeStandardMIM_xml_len;
+    return DtXMLFileReader::parseBuffer(reinterpret_cast<const char*>(text), static_cast<int>(length), document, error);
 }
 } // namespace
 
@@ -81,10 +89,10 @@ DtOMTTree* DtXMLFileReader::readFile(const DtFilename& file, DtExerciseConn* con
     {
         xmlNode* root = xmlDocGetRootElement(parsed);
         const DtFomType type = DtXmlFedReader::fomType(root);
+        if (type == DtFom1516) // never with the management model
+            return DtXML1516FileReader(connection).processObjectModel(root);
         const DtString standardName = DtFedReader::standardMimFileName(type);
-        if (type == DtFom1516)
-            DtWarnOfUnreadFormat(type, file);
-        else if (MIMincluded() && !DtContainsSubstring(DtFilename::stripPath(file), standardName))
+        if (MIMincluded() && !DtContainsSubstring(DtFilename::stripPath(file), standardName))
         {
             document.reset(); // the file is parsed again among its modules
             return readFiles({file, standardName}, type, connection);
@@ -130,16 +138,9 @@ DtOMTTree* DtXMLFileReader::readFiles(const std::vector<DtFilename>& files, DtFo
 // False with the last error set when the module cannot be merged.
 bool DtXMLFileReader::mergeModule(DtOMTTree& tree, const DtFilename& file, DtFomType type)
 {
-    const bool isStandard = file == DtFedReader::standardMimFileName(type);
-    if (isStandard && type == DtFomHla4)
-    {
-        DtWarnOfUnreadFormat(type, file);
-        return true;
-    }
     xmlDoc* parsed = nullptr;
-    const DtFedReadStatus status = isStandard
-                                       ? parseBuffer(reinterpret_cast<const char*>(theHLAeStandardMIM_xml),
-                                                     static_cast<int>(theHLAeStandardMIM_xml_len), &parsed, myLastError)
+    const DtFedReadStatus status = file == DtFedReader::standardMimFileName(type)
+                                       ? parseStandardModel(type, &parsed, myLastError)
                                        : parseFile(file, &parsed, myLastError);
     return status == DtFedReadSuccess && mergeDocument(tree, DtXmlDocument(parsed), type);
 }

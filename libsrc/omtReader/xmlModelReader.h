@@ -2,45 +2,50 @@
 #define OMT_READER_XML_MODEL_READER_H
 
 #include "foundation/string.h"
-#include "omtReader/enumerationNode.h"
 #include "omtReader/omtTree.h"
 #include "omtReader/xmlDocument.h"
+#include "omtReader/xmlModelNames.h"
+
+#include <cstring>
+#include <memory>
+#include <vector>
 
 class DtExerciseConn;
 
-// A value of a node in a file: the element or attribute that holds it, and where it goes.
+// The forms of the XML formats. In the 1516 form the values of a construct are XML attributes, in the evolved one, that
+// of the later standards, they are child elements.
+enum DtXmlForm
+{
+    DtXml1516Form = 1,
+    DtXmlEvolvedForm = 2,
+    DtXmlBothForms = DtXml1516Form | DtXmlEvolvedForm
+};
+
+// A value of a construct: its name in the file, where it goes, and the forms that have it.
 template <typename Node>
 struct DtXmlField
 {
     const char* name;
     void (Node::*setText)(const DtString&);
+    DtXmlForm forms = DtXmlBothForms;
     void (*set)(Node&, const DtString&) = nullptr; // for values that are no texts
 };
-
-// Puts the text in its place if one of the rows knows the name.
-template <typename Node, std::size_t theCount>
-void DtSetXmlField(Node& node, const DtXmlField<Node> (&rows)[theCount], const xmlNode* element, const DtString& text)
-{
-    for (const DtXmlField<Node>& row : rows)
-    {
-        if (!DtHasXmlName(element, row.name))
-            continue;
-        if (row.setText != nullptr)
-            (node.*row.setText)(text);
-        else
-            row.set(node, text);
-    }
-}
 
 int DtXmlToNumber(const DtString& text);  // decimal, as atoi reads it
 double DtXmlToRate(const DtString& text); // as atof reads it in the C locale; no hexadecimal
 
-// What the readers of the XML formats share: the state and the rules about class roots and missing names. Turns the
-// root element of a document into a tree; problems are warnings and never end the reading.
-class DtXMLModelReader
+// Turns the root element of a model in an XML format into a tree. Problems are warnings and never end the reading.
+//
+// Here is what the forms have in common; a reader derived from this names its form and adds what only that form has.
+// There is one operation for each construct, which takes the element it reads. Values and members of a construct may
+// stand in any order. An object class, an attribute, an interaction class or a parameter whose name is there but empty
+// is dropped with a warning, and one without a name is kept; most other constructs are dropped with a warning when the
+// name is empty either way. What has another name is ignored.
+//
+// The classes of a document may not be nested without a limit; the parser's own (256 elements) is one.
+class DtXMLModelReader : public DtXmlModelNames
 {
 public:
-    explicit DtXMLModelReader(DtExerciseConn* connection) : myConnection(connection) {}
     virtual ~DtXMLModelReader() = default;
     DtXMLModelReader(const DtXMLModelReader&) = delete;
     DtXMLModelReader& operator=(const DtXMLModelReader&) = delete;
@@ -50,58 +55,197 @@ public:
     // A new tree, which belongs to the caller.
     virtual DtOMTTree* processObjectModel(xmlNode*& root) = 0;
 
+    virtual void processNotes(xmlNode*& node, DtOMTTree* tree);
+    virtual void processNote(xmlNode*& node, DtOMTTree* tree);
+    virtual void processObjects(xmlNode*& node, DtOMTTree* tree);
+    // A class comes into the flat list behind its subclasses.
+    virtual DtObjectClassFedNode* processObjectClass(xmlNode*& node, DtOMTTree* tree);
+    // The caller adds the attribute to the class.
+    virtual DtAttributeFedNode* processAttribute(xmlNode*& node, DtObjectClassFedNode* objectClass);
+    virtual void processInteractions(xmlNode*& node, DtOMTTree* tree);
+    virtual DtInteractionClassFedNode* processInteractionClass(xmlNode*& node, DtOMTTree* tree);
+    // Adds the parameter to the interaction itself.
+    virtual DtParameterFedNode* processParameter(xmlNode*& node, DtInteractionClassFedNode* interaction);
+    virtual void processDatatypes(xmlNode*& node, DtOMTTree* tree);
+    virtual void processSimpleDatatypes(xmlNode*& node, DtOMTTree* tree);
+    virtual void processSimpleData(xmlNode*& node, DtOMTTree* tree);
+    virtual void processEnumeratedDatatypes(xmlNode*& node, DtOMTTree* tree);
+    virtual void processEnumeratedData(xmlNode*& node, DtOMTTree* tree);
+    virtual void processEnumerator(xmlNode*& node, DtEnumeratedDatatypeNode* datatype);
+    virtual void processArrayDatatypes(xmlNode*& node, DtOMTTree* tree);
+    virtual void processArrayData(xmlNode*& node, DtOMTTree* tree);
+    virtual void processFixedRecordDatatypes(xmlNode*& node, DtOMTTree* tree);
+    // A record without a name stays, with an empty one, in the 1516 form.
+    virtual void processFixedRecordData(xmlNode*& node, DtOMTTree* tree);
+    virtual void processField(xmlNode*& node, DtFixedDatatypeNode* datatype);
+    virtual void processVariantRecordDatatypes(xmlNode*& node, DtOMTTree* tree);
+    virtual void processVariantRecordData(xmlNode*& node, DtOMTTree* tree);
+    virtual void processAlternative(xmlNode*& node, DtVariantDatatypeNode* datatype);
+    virtual void processBasicDataRepresentations(xmlNode*& node, DtOMTTree* tree);
+    virtual void processBasicData(xmlNode*& node, DtOMTTree* tree);
+    virtual void processSwitches(xmlNode*& node, DtOMTTree* tree) = 0;
+    virtual void processDimensions(xmlNode*& node, DtOMTTree* tree);
+    virtual void processDimension(xmlNode*& node, DtOMTTree* tree);
+    virtual void processTimeRepresentation(xmlNode*& node, DtOMTTree* tree);
+    virtual void processTags(xmlNode*& node, DtOMTTree* tree) = 0;
+    // Names the tag after the node, whatever its kind.
+    virtual void processTag(xmlNode*& node, DtOMTTree* tree);
+    virtual void processTransportations(xmlNode*& node, DtOMTTree* tree);
+    virtual void processTransportation(xmlNode*& node, DtOMTTree* tree);
+    virtual void processSynchronizations(xmlNode*& node, DtOMTTree* tree);
+    virtual void processSynchronization(xmlNode*& node, DtOMTTree* tree);
+    // Text of the first child, empty when there is none: a value ends at the first reference to an entity.
+    virtual DtString childNodeString(xmlAttr*& attribute);
+
 protected:
+    struct Format
+    {
+        DtXmlForm form;
+        const char* words;           // in warnings, such as "1516 XML"
+        const char* wrongKind;       // what the warning about another object class at the top calls the hierarchy ...
+        const char* wrongRoot;       // ... and its root
+        bool isEmptyTextSet = false; // or a value without text counts as none
+    };
+    struct Value
+    {
+        const char* name;
+        DtString text;
+    };
+    using Values = std::vector<Value>;
+    // The operation that reads each child element of a name.
+    template <typename Reader>
+    struct Construct
+    {
+        const char* element;
+        void (Reader::*operation)(xmlNode*&, DtOMTTree*);
+    };
+
+    DtXMLModelReader(DtExerciseConn* connection, const Format& format) : myFormat(format), myConnection(connection) {}
+
+    // What may be values of the construct that the element holds, in their order; empty ones too.
+    virtual Values valuesOf(xmlNode* node) = 0;
+
+    template <typename Reader, std::size_t theCount>
+    void dispatch(xmlNode* node, const Construct<Reader> (&constructs)[theCount], DtOMTTree* tree);
+    template <typename Reader, typename Target>
+    void processEach(xmlNode* node, const char* element, void (Reader::*operation)(xmlNode*&, Target*), Target* target);
+
+    // Adds the point of contact that the element holds.
+    void readPoc(xmlNode* node, DtOMTTree* tree);
+    template <typename Node, std::size_t theCount>
+    void readFields(xmlNode* node, const DtXmlField<Node> (&fields)[theCount], Node& target);
+    template <typename Node, std::size_t theCount>
+    std::unique_ptr<Node> readItem(xmlNode* node, const DtXmlField<Node> (&fields)[theCount]);
+    // Null, with a warning, when the item has no name.
+    template <typename Node, std::size_t theCount>
+    std::unique_ptr<Node> readNamedItem(xmlNode* node, const DtXmlField<Node> (&fields)[theCount], const char* element,
+                                        const char* what = attrName);
+    // Null, with a warning, when the name is there and empty.
+    template <typename Node, std::size_t theCount>
+    std::unique_ptr<Node> readMember(xmlNode* node, const DtXmlField<Node> (&fields)[theCount], const char* element);
+
+private:
     // The words of one hierarchy in warnings, and its names.
     struct Hierarchy
     {
-        const char* element;     // of a class
-        const char* kind;        // "object" or "interaction"
-        const char* root;        // name that the top class has to have
-        const char* wrongKind;   // what the warning about another top class calls the hierarchy ...
-        const char* wrongRoot;   // ... and the root
-        const char* formatWords; // "1516 Evolved XML"
+        const char* element;   // of a class
+        const char* kind;      // "object" or "interaction"
+        const char* root;      // name that the top class has to have
+        const char* wrongKind; // as in Format
+        const char* wrongRoot;
     };
 
     // Reads the first class element of the parent with all below it and makes it the root of its hierarchy when it has
     // the root's name; warns otherwise, and about every further class element.
     //   process(element) gives the class, null when it was dropped; find(name) asks the tree; setRoot(class) tells it.
     template <typename Process, typename Find, typename SetRoot>
-    static void processHierarchy(xmlNode* parent, const Hierarchy& words, Process process, Find find, SetRoot setRoot);
+    void processHierarchy(xmlNode* parent, const Hierarchy& words, Process process, Find find, SetRoot setRoot);
 
-    static void warnOfMissing(const char* element, const char* what = "name");
+    template <typename Node, std::size_t theCount>
+    void setFields(const Values& values, const DtXmlField<Node> (&fields)[theCount], Node& target) const;
 
-private:
-    static void warnOfFurtherClass(const Hierarchy& words);
-    static void warnOfMissingRoot(const Hierarchy& words);
-    static void warnOfWrongRoot(const Hierarchy& words);
+    static const DtString& nameOf(const DtOMTNode& node) { return node.getName(); }
+    static const DtString& nameOf(const DtEnumerationNode& node) { return node.getEnum(); }
+    static bool hasName(const Values& values);
+    static void warnOfMissing(const char* element, const char* what);
 
+    Format myFormat;
     DtString myLastError;
-    DtExerciseConn* myConnection; // kept for its owner
+    [[maybe_unused]] DtExerciseConn* myConnection; // kept for its owner
 };
 
-template <typename Process, typename Find, typename SetRoot>
-void DtXMLModelReader::processHierarchy(xmlNode* parent, const Hierarchy& words, Process process, Find find,
-                                        SetRoot setRoot)
+template <typename Reader, std::size_t theCount>
+void DtXMLModelReader::dispatch(xmlNode* node, const Construct<Reader> (&constructs)[theCount], DtOMTTree* tree)
 {
-    bool hasTop = false;
-    decltype(find(DtString())) top = nullptr;
-    for (xmlNode*& element : DtXmlElements(parent))
-    {
-        if (!DtHasXmlName(element, words.element))
-            continue;
-        if (hasTop)
-            warnOfFurtherClass(words);
-        else
-            top = process(element);
-        hasTop = true;
-    }
-    const auto root = find(words.root);
-    if (root == nullptr)
-        warnOfMissingRoot(words);
-    else if (root == top)
-        setRoot(root);
-    else
-        warnOfWrongRoot(words);
+    auto& reader = static_cast<Reader&>(*this);
+    for (xmlNode*& child : DtXmlElements(node))
+        for (const Construct<Reader>& construct : constructs)
+            if (DtHasXmlName(child, construct.element))
+                (reader.*construct.operation)(child, tree);
+}
+
+template <typename Reader, typename Target>
+void DtXMLModelReader::processEach(xmlNode* node, const char* element, void (Reader::*operation)(xmlNode*&, Target*),
+                                   Target* target)
+{
+    auto& reader = static_cast<Reader&>(*this);
+    for (xmlNode*& child : DtXmlElements(node))
+        if (DtHasXmlName(child, element))
+            (reader.*operation)(child, target);
+}
+
+template <typename Node, std::size_t theCount>
+void DtXMLModelReader::setFields(const Values& values, const DtXmlField<Node> (&fields)[theCount], Node& target) const
+{
+    for (const Value& value : values)
+        for (const DtXmlField<Node>& field : fields)
+        {
+            if ((field.forms & myFormat.form) == 0 || std::strcmp(field.name, value.name) != 0 ||
+                (value.text.isEmpty() && !myFormat.isEmptyTextSet))
+                continue;
+            if (field.setText != nullptr)
+                (target.*field.setText)(value.text);
+            else
+                field.set(target, value.text);
+        }
+}
+
+template <typename Node, std::size_t theCount>
+void DtXMLModelReader::readFields(xmlNode* node, const DtXmlField<Node> (&fields)[theCount], Node& target)
+{
+    setFields(valuesOf(node), fields, target);
+}
+
+template <typename Node, std::size_t theCount>
+std::unique_ptr<Node> DtXMLModelReader::readItem(xmlNode* node, const DtXmlField<Node> (&fields)[theCount])
+{
+    auto item = std::make_unique<Node>();
+    readFields(node, fields, *item);
+    return item;
+}
+
+template <typename Node, std::size_t theCount>
+std::unique_ptr<Node> DtXMLModelReader::readNamedItem(xmlNode* node, const DtXmlField<Node> (&fields)[theCount],
+                                                      const char* element, const char* what)
+{
+    auto item = readItem(node, fields);
+    if (!nameOf(*item).isEmpty())
+        return item;
+    warnOfMissing(element, what);
+    return nullptr;
+}
+
+template <typename Node, std::size_t theCount>
+std::unique_ptr<Node> DtXMLModelReader::readMember(xmlNode* node, const DtXmlField<Node> (&fields)[theCount],
+                                                   const char* element)
+{
+    const Values values = valuesOf(node);
+    auto member = std::make_unique<Node>();
+    setFields(values, fields, *member);
+    if (!member->getName().isEmpty() || !hasName(values))
+        return member;
+    warnOfMissing(element, attrName);
+    return nullptr;
 }
 
 #endif

@@ -46,8 +46,15 @@ inline QByteArray moduleText(const QByteArray& objects, const QByteArray& intera
            element("interactions", interactionText("HLAinteractionRoot", interactions)) + "</objectModel>\n";
 }
 
-// Models whose format is recognised and not read: type 1 and type 2.
-const char theOmtText[] = "(FED (Federation Old))\n";
-const char the1516Text[] = "<?xml version=\"1.0\"?>\n<objectModel><objects/></objectModel>\n";
+// One object class, Barge, and one interaction class, Horn, in the older formats.
+const char theOmtText[] = "(DIF HLA-OMT v1.3 (TYPE Single))\n"
+                          "(ObjectModel (Name \"Old\")\n"
+                          "  (Class (ID 1) (Name \"Barge\"))\n"
+                          "  (Interaction (ID 2) (Name \"Horn\")))\n";
+const char the1516Text[] =
+    "<?xml version=\"1.0\"?>\n<objectModel DTDversion=\"1516.2\" name=\"Old\">"
+    "<objects><objectClass name=\"HLAobjectRoot\"><objectClass name=\"Barge\"/></objectClass></objects>"
+    "<interactions><interactionClass name=\"HLAinteractionRoot\"><interactionClass name=\"Horn\"/>"
+    "</interactionClass></interactions></objectModel>\n";
 
 #endif

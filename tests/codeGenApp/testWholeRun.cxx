@@ -2,12 +2,11 @@
 
 #include "registerTest.h"
 
+#include "compiledOutput.h"
 #include "scratchProgram.h"
 
 #include "fileGenerator/omtProject.h"
 #include "omtReader/omtTree.h"
-
-#include <QtCore/QProcess>
 
 #include <functional>
 #include <set>
@@ -99,67 +98,6 @@ void checkCounts(DtCodeGenAppGui& window, const QString& directory)
         name.replace(QRegularExpression("[/#&. -]"), "__").replace(QRegularExpression("[()<>]"), "_");
         const QString reflected = "cpp\\reflected" + name;
         QVERIFY2(files.contains(reflected + "HLA.h") && files.contains(reflected + "ListHLA.cxx"), qPrintable(name));
-    }
-}
-
-// What takes minutes is left to the runs that ask for it.
-bool isFullRun()
-{
-    return qEnvironmentVariableIsSet("QX_FULL");
-}
-
-// Runs the generated makefile and gives what it printed.
-QString make(const QString& directory)
-{
-    QProcess process;
-    process.setWorkingDirectory(directory);
-    process.setProcessChannelMode(QProcess::MergedChannels);
-    process.start("make", {"-j2", "-f", "cpp\\Makefile", "QX_DIR=" QX_SOURCE_DIR "/toolkit", "CXXFLAGS=-O0"});
-    if (!process.waitForFinished(900000) || process.exitCode() != 0)
-        return "make failed: " + QString::fromUtf8(process.readAll().right(2000));
-    return QString::fromUtf8(process.readAll());
-}
-
-// Lays the generated files out without the prefix of their names and compiles them all as one translation unit.
-QString compileAll(const QString& output, const QString& standard, const QString& includeDirectory, int& count,
-                   const QString& program = QStringLiteral("g++"))
-{
-    QTemporaryDir stage;
-    QByteArray unit;
-    for (const QString& file : filesBelow(output))
-    {
-        const QString name = QString(file).remove(QStringLiteral("cpp\\"));
-        QDir().mkpath(QFileInfo(stage.path() + "/" + name).path());
-        QFile::link(output + "/" + file, stage.path() + "/" + name);
-        if (!name.endsWith(".h") && !name.endsWith(".cxx"))
-            continue;
-        unit += "#include \"" + name.toUtf8() + "\"\n";
-        ++count;
-    }
-    writeTextFile(stage.path() + "/all.cpp", unit);
-    QProcess compiler;
-    compiler.setWorkingDirectory(stage.path());
-    compiler.setProcessChannelMode(QProcess::MergedChannels);
-    compiler.start(program, {"-fsyntax-only", "-Wall", "-Wextra", "-Werror", "-std=" + standard, "-I.",
-                             "-I" + includeDirectory, "-I" QX_SOURCE_DIR "/toolkit/include", "all.cpp"});
-    if (!compiler.waitForFinished(300000) || compiler.exitStatus() != QProcess::NormalExit)
-        return program + " did not end";
-    return compiler.exitCode() == 0 ? QString() : QString::fromUtf8(compiler.readAll().left(4000));
-}
-
-void checkCompiles(const QString& output, const QString& includeDirectory = QStringLiteral("."))
-{
-    for (const char* standard : {"c++17", "c++11"})
-    {
-        int count = 0;
-        const QString errors = compileAll(output, QString::fromLatin1(standard), includeDirectory, count);
-        QVERIFY2(errors.isEmpty(), qPrintable(errors));
-        qInfo("%d files compile as %s", count, standard);
-        QVERIFY(count > 100);
-        if (!isFullRun())
-            continue;
-        const QString others = compileAll(output, QString::fromLatin1(standard), includeDirectory, count, "clang++");
-        QVERIFY2(others.isEmpty(), qPrintable(others));
     }
 }
 } // namespace

@@ -246,11 +246,42 @@ private Q_SLOTS:
         QCOMPARE(myWindow->windowTitle(), models("Quorvex Code Generator - %a.xml"));
     }
 
+    void oldFormatsLoadAlone_data()
+    {
+        QTest::addColumn<QString>("name");
+        QTest::addColumn<QByteArray>("text");
+        QTest::addColumn<int>("version");
+        QTest::newRow("OMT") << "a.omt" << QByteArray(theOmtText) << 1;
+        QTest::newRow("1516") << "a.xml" << QByteArray(the1516Text) << 2;
+        QTest::newRow("OMT by its content") << "a.xml" << QByteArray(theOmtText) << 1;
+        QTest::newRow("1516 by its content") << "a.fdd" << QByteArray(the1516Text) << 2;
+    }
+    // The option adds no management model to them, and a further file of their format does not merge.
+    void oldFormatsLoadAlone()
+    {
+        QFETCH(QString, name);
+        QFETCH(QByteArray, text);
+        QFETCH(int, version);
+        const DtCapture warnings(DtWarn);
+        const DtString file = myProgram->model(name.toLatin1().constData(), text);
+        QCOMPARE(myWindow->loadFile(file, ""), 1);
+        QCOMPARE(warnings.text(), QString());
+        QCOMPARE(leftObjects(*myWindow), QString("Barge"));
+        QCOMPARE(leftInteractions(*myWindow), QString("Horn"));
+        QCOMPARE(int(myWindow->tree()->hlaVersion()), version);
+        QCOMPARE(loaded(*myWindow), models(name + "|%\n"));
+        const DtString second = myProgram->model(("b" + name).toLatin1().constData(), text);
+        QCOMPARE(myWindow->loadFile(second, ""), 0);
+        QCOMPARE(status(), models("Error Loading File, Cannot merge non HLA1516-2010 FOMs.  %b" + name +
+                                  " cannot merge with currently loaded " + name));
+        QCOMPARE(leftObjects(*myWindow), QString("Barge"));
+        QCOMPARE(loaded(*myWindow), models(name + "|%\n"));
+    }
+
     void oldFormatsDoNotMerge()
     {
-        // A model of that format sets the format although it is not read; several files leave it as it is.
         const DtString old = myProgram->model("old.xml", the1516Text);
-        QCOMPARE(myWindow->loadFile(old, ""), 0);
+        QCOMPARE(myWindow->loadFile(old, ""), 1); // sets the format, which several files leave as it is
         QCOMPARE(myWindow->loadFiles({
                      {module("a.xml", "Ship"), ""},
                      {module("b.xml", "Tug"),  ""}
@@ -260,42 +291,40 @@ private Q_SLOTS:
         QCOMPARE(status(), models("Error Loading File, Cannot merge non HLA1516-2010 FOMs.  %old.xml cannot merge with "
                                   "currently loaded a.xml b.xml HLAstandardMIM.xml"));
         QCOMPARE(leftObjects(*myWindow), QString("Ship Tug HLAmanager"));
+        QCOMPARE(myWindow->loadFiles({
+                     {old,                           ""},
+                     {myProgram->model("c.xml", the1516Text), ""}
+        }),
+                 0);
+        QCOMPARE(status(), QString(theFailure));
     }
 
-    void unreadFormatsFail_data()
+    void malformedTextModelFailsWithItsCause()
     {
-        QTest::addColumn<QString>("name");
-        QTest::addColumn<QByteArray>("text");
-        QTest::addColumn<QString>("warning");
-        QTest::newRow("OMT") << "a.omt" << QByteArray(theOmtText)
-                             << "models in the OMT text format are recognised but not read.\n";
-        QTest::newRow("1516") << "a.xml" << QByteArray(the1516Text)
-                              << "models in the IEEE 1516 XML format are recognised but not read.\n";
-    }
-    void unreadFormatsFail()
-    {
-        QFETCH(QString, name);
-        QFETCH(QByteArray, text);
-        QFETCH(QString, warning);
         const DtCapture warnings(DtWarn);
-        const DtString file = myProgram->model(name.toLatin1().constData(), text);
-        QCOMPARE(myWindow->loadFile(file, ""), 0);
+        QCOMPARE(myWindow->loadFile(myProgram->model("a.omt", "(ObjectModel (Class (Name . 5) (Attribute (Name . 3))))"), ""), 0);
         QCOMPARE(status(), QString(theFailure));
-        QCOMPARE(warnings.text(), QString(file.c_str()) + ": " + warning + theFailure + "\n");
+        QVERIFY2(warnings.text().contains("Badly formatted"), qPrintable(warnings.text()));
         QVERIFY(isEmpty(*myWindow));
     }
 
-    void laterModelComesWithoutItsManagementModel()
+    void laterModelsMergeWithTheirManagementModel()
     {
+        const auto later = [this](const char* file, const char* name)
+        { return myProgram->model(file, moduleText(objectText(name), QByteArray(), "2025")); };
         const DtCapture warnings(DtWarn);
-        const DtString file = myProgram->model("a.xml", moduleText(objectText("Ship"), QByteArray(), "2025"));
-        QCOMPARE(myWindow->loadFile(file, ""), 1);
-        QCOMPARE(leftObjects(*myWindow), QString("Ship"));
+        QCOMPARE(myWindow->loadFile(later("a.xml", "Ship"), ""), 1);
+        QCOMPARE(leftObjects(*myWindow), QString("HLAmanager Ship"));
         QCOMPARE(int(myWindow->tree()->hlaVersion()), 4);
-        QCOMPARE(warnings.text().count("the standard management model of IEEE 1516-2025 is not merged.\n"), 1);
-        QCOMPARE(myWindow->loadFile(myProgram->model("b.xml", moduleText(objectText("Tug"), QByteArray(), "2025")), ""),
+        QVERIFY(myWindow->tree()->getEnumeratedDatatypeNode("HLAargumentType") != nullptr); // not in the model of 2010
+        QCOMPARE(myWindow->loadFiles({
+                     {later("a.xml", "Ship"), ""},
+                     {later("b.xml", "Tug"),  ""}
+        }),
                  1);
-        QCOMPARE(leftObjects(*myWindow), QString("Ship Tug"));
+        QCOMPARE(leftObjects(*myWindow), QString("Ship Tug HLAmanager"));
+        QVERIFY(myWindow->tree()->getEnumeratedDatatypeNode("HLAargumentType") != nullptr);
+        QCOMPARE(warnings.text(), QString());
     }
 
     void failedLoadEmptiesTheLists_data()

@@ -5,6 +5,7 @@
 #include "generatorFixture.h"
 
 #include "fileGenerator/omtProject.h"
+#include "omtReader/xml1516FileReader.h"
 #include "omtReader/xmlDocument.h"
 #include "omtReader/xmlEvolvedFileReader.h"
 
@@ -12,231 +13,360 @@
 
 namespace
 {
-// A value of a datatype and the element that holds it: the datatype's own or, if a part is named, one of its part.
-struct DtValue
+// An element with its values, which each form of the format writes in its own way, and the elements in it.
+struct DtElement
 {
-    const char* element;
-    const char* text; // of a datatype without fault
-    bool isInPart = false;
+    QByteArray name;
+    QList<QPair<QByteArray, QByteArray>> values; // by name
+    QList<DtElement> members;
+
+    DtElement with(const QByteArray& value, const QByteArray& text) const
+    {
+        DtElement copy(*this);
+        copy.values.push_back({value, text});
+        return copy;
+    }
+};
+using DtElements = QList<DtElement>;
+
+// The form of 2010: values are child elements.
+QByteArray evolvedText(const DtElement& element)
+{
+    QByteArray text = "<" + element.name + ">";
+    for (const auto& [name, value] : element.values)
+        text += "<" + name + ">" + value + "</" + name + ">";
+    for (const DtElement& member : element.members)
+        text += evolvedText(member);
+    return text + "</" + element.name + ">";
+}
+
+// The form of 2000: values are attributes.
+QByteArray text1516(const DtElement& element)
+{
+    QByteArray text = "<" + element.name;
+    for (const auto& [name, value] : element.values)
+        text += " " + name + "=\"" + value + "\"";
+    text += ">";
+    for (const DtElement& member : element.members)
+        text += text1516(member);
+    return text + "</" + element.name + ">";
+}
+
+template <typename Reader>
+DtOMTTree* readModel(xmlNode* root)
+{
+    return Reader(nullptr).processObjectModel(root);
+}
+
+struct DtForm
+{
+    const char* name;
+    const char* words; // in warnings
+    DtHLAProtocolVersion version;
+    bool needsRecordNames;
+    QByteArray (*text)(const DtElement&);
+    DtOMTTree* (*read)(xmlNode*);
+};
+
+const DtForm theForms[] = {
+    {"2010", "1516 Evolved XML", DtHla1516e, true,  evolvedText, readModel<DtXMLEvolvedFileReader>},
+    {"2000", "1516 XML",         DtHla1516,  false, text1516,    readModel<DtXML1516FileReader>   },
 };
 
 struct DtConstruct
 {
     const char* table;
     const char* element;
-    const char* part; // element of the members; null when there are none
-    std::vector<DtValue> values;
+    const char* part;        // element of the members; null when there are none
+    const char* partWarning; // what the warning about a part without a name calls it; null when there is no warning
 };
 
 const DtConstruct theConstructs[] = {
-    {"basicDataRepresentations",
-     "basicData",                              nullptr,
-     {{"name", "%T"}, {"size", "32"}, {"interpretation", "whole"}, {"endian", "Big"}, {"encoding", "octets"}}       },
-    {"simpleDataTypes",          "simpleData", nullptr,       {{"name", "%T"}, {"representation", "HLAinteger32BE"}}},
-    {"enumeratedDataTypes",
-     "enumeratedData",                         "enumerator",
-     {{"name", "%T"}, {"representation", "HLAinteger32BE"}, {"name", "One", true}, {"value", "1", true}}            },
-    {"arrayDataTypes",
-     "arrayData",                              nullptr,
-     {{"name", "%T"}, {"dataType", "HLAoctet"}, {"cardinality", "4"}, {"encoding", "HLAfixedArray"}}                },
-    {"fixedRecordDataTypes",
-     "fixedRecordData",                        "field",
-     {{"name", "%T"}, {"encoding", "HLAfixedRecord"}, {"name", "first", true}, {"dataType", "HLAoctet", true}}      },
-    {"variantRecordDataTypes",
-     "variantRecordData",                      "alternative",
-     {{"name", "%T"},
-      {"discriminant", "kind"},
-      {"dataType", "Kind"},
-      {"encoding", "HLAvariantRecord"},
-      {"enumerator", "One", true},
-      {"name", "one", true},
-      {"dataType", "HLAoctet", true}}                                                                               },
+    {"basicDataRepresentations", "basicData",         nullptr,       nullptr                },
+    {"simpleDataTypes",          "simpleData",        nullptr,       nullptr                },
+    {"enumeratedDataTypes",      "enumeratedData",    "enumerator",  "enumerator"           },
+    {"arrayDataTypes",           "arrayData",         nullptr,       nullptr                },
+    {"fixedRecordDataTypes",     "fixedRecordData",   "field",       "fixedRecordData field"},
+    {"variantRecordDataTypes",   "variantRecordData", "alternative", nullptr                },
 };
 
-// "-" leaves the element out.
+// A value of a construct or of its part, with its text in a datatype without fault.
+struct DtValue
+{
+    const char* element;
+    const char* name;
+    const char* text;
+};
+
+const DtValue theValues[] = {
+    {"basicData",         "name",           "%T"              },
+    {"basicData",         "size",           "32"              },
+    {"basicData",         "interpretation", "whole"           },
+    {"basicData",         "endian",         "Big"             },
+    {"basicData",         "encoding",       "octets"          },
+    {"simpleData",        "name",           "%T"              },
+    {"simpleData",        "representation", "HLAinteger32BE"  },
+    {"enumeratedData",    "name",           "%T"              },
+    {"enumeratedData",    "representation", "HLAinteger32BE"  },
+    {"enumerator",        "name",           "One"             },
+    {"enumerator",        "value",          "1"               },
+    {"arrayData",         "name",           "%T"              },
+    {"arrayData",         "dataType",       "HLAoctet"        },
+    {"arrayData",         "cardinality",    "4"               },
+    {"arrayData",         "encoding",       "HLAfixedArray"   },
+    {"fixedRecordData",   "name",           "%T"              },
+    {"fixedRecordData",   "encoding",       "HLAfixedRecord"  },
+    {"field",             "name",           "first"           },
+    {"field",             "dataType",       "HLAoctet"        },
+    {"variantRecordData", "name",           "%T"              },
+    {"variantRecordData", "discriminant",   "kind"            },
+    {"variantRecordData", "dataType",       "Kind"            },
+    {"variantRecordData", "encoding",       "HLAvariantRecord"},
+    {"alternative",       "enumerator",     "One"             },
+    {"alternative",       "name",           "one"             },
+    {"alternative",       "dataType",       "HLAoctet"        },
+};
+
+// "-" leaves the value out; "%T" is the name of the datatype.
 const char* const theFaults[] = {
     "-", "", "-1", "0", "99999999999999999999", "Missing", "%T", "[1 .. ", "[5..1]", "/..&lt;# ()", "1e9", "%s%n"};
 
-QByteArray element(const QByteArray& name, const QByteArray& text)
+bool isNone(const char* fault)
 {
-    return "<" + name + ">" + text + "</" + name + ">";
+    return qstrcmp(fault, "-") == 0 || *fault == '\0';
 }
 
-// One datatype whose value of that index is replaced; none when the index is negative.
-QByteArray datatype(const DtConstruct& construct, int index, const char* fault)
+DtElement element(const QByteArray& kind, const DtElements& members = DtElements())
 {
-    QByteArray own;
-    QByteArray part;
-    for (int i = 0; i < static_cast<int>(construct.values.size()); ++i)
+    return DtElement{kind, {}, members};
+}
+
+DtElement named(const QByteArray& kind, const QByteArray& name, const DtElements& members = DtElements())
+{
+    return element(kind, members).with("name", name);
+}
+
+// The element with its values, of which the faulty one, if it is among them, has another text.
+DtElement filledElement(const char* kind, const QByteArray& typeName, const DtValue* faulty, const char* fault)
+{
+    DtElement filled = element(kind);
+    for (const DtValue& value : theValues)
     {
-        const DtValue& value = construct.values[i];
-        const char* text = i == index ? fault : value.text;
-        if (qstrcmp(text, "-") != 0)
-            (value.isInPart ? part : own) += element(value.element, text);
+        const char* text = &value == faulty ? fault : value.text;
+        if (qstrcmp(value.element, kind) == 0 && qstrcmp(text, "-") != 0)
+            filled = filled.with(value.name, QByteArray(text).replace("%T", typeName));
     }
+    return filled;
+}
+
+// One datatype of that name with a faulty value, without fault by default. Behind the part comes a second one without
+// any value.
+DtElement datatype(const DtConstruct& construct, const QByteArray& name, const DtValue* faulty = nullptr,
+                   const char* fault = nullptr)
+{
+    DtElement type = filledElement(construct.element, name, faulty, fault);
     if (construct.part != nullptr)
-        own += element(construct.part, part) + element(construct.part, "");
-    return element(construct.element, own);
+        type.members = {filledElement(construct.part, name, faulty, fault), element(construct.part)};
+    return type;
 }
 
-QByteArray attribute(const QByteArray& name, const QByteArray& type)
+QString missing(const char* what)
 {
-    return element("attribute", element("name", name) + element("dataType", type));
+    return QString("Warning: %1 definition was missing a name\n").arg(what);
 }
 
-QByteArray parameter(const QByteArray& name, const QByteArray& type)
+// What the reader says about a datatype with that fault.
+QString warningsOf(const DtForm& form, const DtConstruct& construct, const DtValue& faulty, const char* fault)
 {
-    return element("parameter", element("name", name) + element("dataType", type));
+    const bool isNameless = qstrcmp(faulty.name, "name") == 0 && isNone(fault);
+    const bool isOwn = qstrcmp(faulty.element, construct.element) == 0;
+    const bool isRecord = qstrcmp(construct.element, "fixedRecordData") == 0;
+    if (isNameless && isOwn && (form.needsRecordNames || !isRecord))
+        return missing(construct.element); // and nothing of its parts
+    if (construct.partWarning == nullptr)
+        return QString();
+    return missing(construct.partWarning).repeated(isNameless && !isOwn ? 2 : 1);
 }
 
-QByteArray objects(const QByteArray& members)
+DtElement member(const QByteArray& kind, const QByteArray& name, const QByteArray& type)
 {
-    return element("objects", element("objectClass", "<name>HLAobjectRoot</name>" +
-                                                         element("objectClass", "<name>Tank</name>" + members)));
+    return named(kind, name).with("dataType", type);
 }
 
-QByteArray interactions(const QByteArray& members)
+// The class below the root of its hierarchy.
+DtElement classes(const QByteArray& section, const QByteArray& kind, const QByteArray& root, const QByteArray& name,
+                  const DtElements& members)
 {
-    return element("interactions",
-                   element("interactionClass", "<name>HLAinteractionRoot</name>" +
-                                                   element("interactionClass", "<name>Fire</name>" + members)));
+    return element(section, {named(kind, root, {named(kind, name, members)})});
 }
 
-const char theSoundTypes[] =
-    "<basicDataRepresentations><basicData><name>HLAoctet</name><size>8</size><endian>Big</endian></basicData>"
-    "<basicData><name>HLAinteger32BE</name><size>32</size><endian>Big</endian></basicData></basicDataRepresentations>"
-    "<enumeratedDataTypes><enumeratedData><name>Kind</name><representation>HLAoctet</representation>"
-    "<enumerator><name>One</name><value>1</value></enumerator></enumeratedData></enumeratedDataTypes>";
+DtElement objects(const DtElements& members)
+{
+    return classes("objects", "objectClass", "HLAobjectRoot", "Tank", members);
+}
+
+DtElement interactions(const DtElements& members)
+{
+    return classes("interactions", "interactionClass", "HLAinteractionRoot", "Fire", members);
+}
+
+DtElement basicData(const QByteArray& name, const QByteArray& size)
+{
+    return named("basicData", name).with("size", size).with("endian", "Big");
+}
+
+DtElement enumeration(const QByteArray& name, const QByteArray& representation, const QList<QByteArray>& values)
+{
+    DtElement type = named("enumeratedData", name).with("representation", representation);
+    for (const QByteArray& value : values)
+        type.members += named("enumerator", value).with("value", "1");
+    return element("enumeratedDataTypes", {type});
+}
+
+DtElements soundTypes()
+{
+    return {element("basicDataRepresentations", {basicData("HLAoctet", "8"), basicData("HLAinteger32BE", "32")}),
+            enumeration("Kind", "HLAoctet", {"One"})};
+}
 
 // A model whose two classes have a member of each of the types.
-QByteArray model(const QByteArray& types, const QList<QByteArray>& names)
+DtElements model(const DtElements& tables, const QList<QByteArray>& names)
 {
-    QByteArray attributes;
-    QByteArray parameters;
+    DtElements attributes;
+    DtElements parameters;
     for (int i = 0; i < names.size(); ++i)
     {
-        attributes += attribute("a" + QByteArray::number(i), names[i]);
-        parameters += parameter("p" + QByteArray::number(i), names[i]);
+        attributes += member("attribute", "a" + QByteArray::number(i), names[i]);
+        parameters += member("parameter", "p" + QByteArray::number(i), names[i]);
     }
-    return objects(attributes) + interactions(parameters) + element("dataTypes", theSoundTypes + types);
+    return {objects(attributes), interactions(parameters), element("dataTypes", soundTypes() + tables)};
 }
 
 // All faults of one value, each in a datatype of its own.
-QByteArray modelOfFaults(const DtConstruct& construct, int index)
+DtElements modelOfFaults(const DtConstruct& construct, const DtValue& value)
 {
-    QByteArray types;
+    DtElements types;
     QList<QByteArray> names;
-    int count = 0;
     for (const char* fault : theFaults)
     {
-        const QByteArray name = "T" + QByteArray::number(count++) + "x";
-        types += datatype(construct, index, fault).replace("%T", name);
+        const QByteArray name = "T" + QByteArray::number(types.size()) + "x";
+        types += datatype(construct, name, &value, fault);
         names += name;
         names += QByteArray(fault).replace("%T", name);
     }
-    return model(element(construct.table, types), names);
+    return model({element(construct.table, types)}, names);
 }
 
-QByteArray simple(const QByteArray& name, const QByteArray& representation)
+DtElement simple(const QByteArray& name, const QByteArray& representation)
 {
-    return element("simpleDataTypes",
-                   element("simpleData", element("name", name) + element("representation", representation)));
+    return element("simpleDataTypes", {named("simpleData", name).with("representation", representation)});
 }
 
-QByteArray array(const QByteArray& name, const QByteArray& type, const QByteArray& cardinality = "Dynamic",
-                 const QByteArray& encoding = "HLAvariableArray")
+DtElement array(const QByteArray& name, const QByteArray& type, const QByteArray& cardinality = "Dynamic",
+                const QByteArray& encoding = "HLAvariableArray")
 {
-    return element("arrayDataTypes",
-                   element("arrayData", element("name", name) + element("dataType", type) +
-                                            element("cardinality", cardinality) + element("encoding", encoding)));
+    const DtElement array = member("arrayData", name, type).with("cardinality", cardinality).with("encoding", encoding);
+    return element("arrayDataTypes", {array});
 }
 
-QByteArray record(const QByteArray& name, const QList<QByteArray>& types)
+DtElement record(const QByteArray& name, const QList<QByteArray>& types)
 {
-    QByteArray fields;
+    DtElement record = named("fixedRecordData", name);
     for (const QByteArray& type : types)
-        fields += element("field", element("name", "same") + element("dataType", type));
-    return element("fixedRecordDataTypes", element("fixedRecordData", element("name", name) + fields));
+        record.members += member("field", "same", type);
+    return element("fixedRecordDataTypes", {record});
 }
 
-QByteArray variant(const QByteArray& name, const QByteArray& type, const QList<QByteArray>& types)
+DtElement variant(const QByteArray& name, const QByteArray& type, const QList<QByteArray>& types)
 {
-    QByteArray alternatives;
+    DtElement variant = member("variantRecordData", name, type).with("discriminant", "kind");
     for (const QByteArray& each : types)
-        alternatives += element("alternative", element("enumerator", "[One .. ], ,HLAother") + element("name", "same") +
-                                                   element("dataType", each));
-    return element("variantRecordDataTypes",
-                   element("variantRecordData", element("name", name) + element("discriminant", "kind") +
-                                                    element("dataType", type) + alternatives));
-}
-
-QByteArray enumeration(const QByteArray& name, const QByteArray& representation, const QList<QByteArray>& values)
-{
-    QByteArray enumerators;
-    for (const QByteArray& value : values)
-        enumerators += element("enumerator", element("name", value) + element("value", "1"));
-    return element(
-        "enumeratedDataTypes",
-        element("enumeratedData", element("name", name) + element("representation", representation) + enumerators));
+        variant.members += member("alternative", "same", each).with("enumerator", "[One .. ], ,HLAother");
+    return element("variantRecordDataTypes", {variant});
 }
 
 // Every construct under that name.
-QByteArray everyConstruct(const QByteArray& name)
+DtElements everyConstruct(const QByteArray& name)
 {
-    QByteArray types;
+    DtElements types;
     for (const DtConstruct& construct : theConstructs)
-        types += element(construct.table, datatype(construct, -1, nullptr).replace("%T", name));
+        types += element(construct.table, {datatype(construct, name)});
     return types;
 }
 
 // A chain of types, each over the next, that ends nowhere.
-QByteArray chain(const std::function<QByteArray(const QByteArray&, const QByteArray&)>& link)
+DtElements chain(const std::function<DtElement(const QByteArray&, const QByteArray&)>& link)
 {
-    QByteArray types;
+    DtElements types;
     for (int i = 0; i < 60; ++i)
         types += link("C" + QByteArray::number(i), "C" + QByteArray::number(i + 1));
     return types;
 }
 
-void addSingleModels()
+void addRow(const QByteArray& name, const DtForm& form, const DtElements& sections, const QString& warnings)
+{
+    QTest::addRow("%s %s", form.name, name.constData())
+        << static_cast<int>(&form - theForms) << form.text(element("objectModel", sections)) << warnings;
+}
+
+void addFaults(const DtForm& form, const DtConstruct& construct, const DtValue& value)
+{
+    QString warnings;
+    for (const char* fault : theFaults)
+        warnings += warningsOf(form, construct, value, fault);
+    addRow(QByteArray(value.element) + " " + value.name, form, modelOfFaults(construct, value), warnings);
+}
+
+void addSingleModels(const DtForm& form)
 {
     const QByteArray longName(140, 'L');
     const QByteArray signs = "&lt;/#-&gt;&amp;";
-    const auto row = [](const char* name, const QByteArray& sections) { QTest::newRow(name) << sections; };
-    row("empty model", "");
-    row("empty sections", "<objects/><interactions/><dataTypes/>");
-    row("no classes", element("dataTypes", everyConstruct("E")));
-    row("classes without datatypes", objects(attribute("a", "E")) + interactions(parameter("p", "E")));
-    row("members without a name or a type", objects("<attribute/><attribute><name/></attribute>") +
-                                                interactions("<parameter/><parameter><dataType/></parameter>"));
-    row("members named as a type", model(everyConstruct("a0"), {"a0"}));
-    row("one name for all constructs", model(everyConstruct("E"), {"E"}));
-    row("all constructs twice", model(everyConstruct("E") + everyConstruct("E"), {"E"}));
-    row("long names", model(everyConstruct(longName) + everyConstruct(longName + "2"), {longName, longName + "2"}));
-    row("names of signs", model(everyConstruct(signs), {signs}));
-    row("keywords", model(everyConstruct("class") + everyConstruct("int"), {"class", "int"}));
-    row("names that differ in case", model(everyConstruct("Ab") + everyConstruct("aB"), {"Ab", "aB"}));
-    row("simple types in a ring", model(simple("A", "B") + simple("B", "A"), {"A", "B"}));
+    const QString emptyParts = missing("enumerator") + missing("fixedRecordData field"); // of everyConstruct
+    const QString noRoots = QString("Warning: HLAobjectRoot is missing from %1 file\n"
+                                    "Warning: HLAinteractionRoot is missing from %1 file\n")
+                                .arg(form.words);
+    const auto row = [&form](const char* name, const DtElements& sections, const QString& warnings = QString())
+    { addRow(name, form, sections, warnings); };
+    row("empty model", {});
+    row("empty sections", {element("objects"), element("interactions"), element("dataTypes")}, noRoots);
+    row("no classes", {element("dataTypes", everyConstruct("E"))}, emptyParts);
+    row("classes without datatypes",
+        {objects({member("attribute", "a", "E")}), interactions({member("parameter", "p", "E")})});
+    row("members without a name or a type",
+        {objects({element("attribute"), named("attribute", "")}),
+         interactions({element("parameter"), element("parameter").with("dataType", "")})},
+        missing("attribute"));
+    row("members named as a type", model(everyConstruct("a0"), {"a0"}), emptyParts);
+    row("one name for all constructs", model(everyConstruct("E"), {"E"}), emptyParts);
+    row("all constructs twice", model(everyConstruct("E") + everyConstruct("E"), {"E"}), emptyParts.repeated(2));
+    row("long names", model(everyConstruct(longName) + everyConstruct(longName + "2"), {longName, longName + "2"}),
+        emptyParts.repeated(2));
+    row("names of signs", model(everyConstruct(signs), {signs}), emptyParts);
+    row("keywords", model(everyConstruct("class") + everyConstruct("int"), {"class", "int"}), emptyParts.repeated(2));
+    row("names that differ in case", model(everyConstruct("Ab") + everyConstruct("aB"), {"Ab", "aB"}),
+        emptyParts.repeated(2));
+    row("simple types in a ring", model({simple("A", "B"), simple("B", "A")}, {"A", "B"}));
     row("record over a ring of simple types",
-        model(record("R", {"A", "B"}) + simple("A", "B") + simple("B", "A") + variant("V", "A", {"B"}), {"R", "V"}));
-    row("array of a simple type over it", model(array("A", "B") + simple("B", "A"), {"A", "B"}));
-    row("arrays in a ring", model(array("A", "B") + array("B", "A", "3", "HLAfixedArray"), {"A", "B"}));
-    row("record in its array", model(record("R", {"A"}) + array("A", "R"), {"R", "A"}));
-    row("records in a ring", model(record("R", {"S", "S"}) + record("S", {"R"}), {"R", "S"}));
-    row("variant over itself", model(variant("V", "V", {"V"}), {"V"}));
-    row("variant over a record over it", model(variant("V", "R", {"R", "NA"}) + record("R", {"V"}), {"V", "R"}));
-    row("enumeration over itself", model(enumeration("N", "N", {"One"}), {"N"}));
-    row("variant over a simple type", model(variant("V", "A", {"HLAoctet"}) + simple("A", "V"), {"V"}));
-    row("variant without a value", model(variant("V", "Kind", {"NA", "N/A", ""}), {"V"}));
-    row("variant without alternatives", model(variant("V", "Kind", {}), {"V"}));
-    row("record without fields", model(record("R", {}), {"R"}));
-    row("record of open arrays", model(record("R", {"A", "A"}) + array("A", "HLAoctet") + array("B", "R"), {"B"}));
-    row("enumeration without values", model(enumeration("N", "HLAoctet", {}), {"N"}));
-    row("enumerators of one name", model(enumeration("N", "HLAoctet", {"One", "One", "-", "1", "class"}), {"N"}));
-    row("array of an enumeration", model(array("A", "Kind", "[1..]", "Custom"), {"A"}));
-    row("array of many dimensions", model(array("A", "HLAoctet", "1,,2,x,-3", "HLAfixedArray"), {"A"}));
-    row("padding of no octets", model(array("A", "HLAoctet", "", "paddingTo0"), {"A"}));
-    row("padding too wide", model(array("A", "HLAoctet", "", "paddingTo99999999999999"), {"A"}));
+        model({record("R", {"A", "B"}), simple("A", "B"), simple("B", "A"), variant("V", "A", {"B"})}, {"R", "V"}));
+    row("array of a simple type over it", model({array("A", "B"), simple("B", "A")}, {"A", "B"}));
+    row("arrays in a ring", model({array("A", "B"), array("B", "A", "3", "HLAfixedArray")}, {"A", "B"}));
+    row("record in its array", model({record("R", {"A"}), array("A", "R")}, {"R", "A"}));
+    row("records in a ring", model({record("R", {"S", "S"}), record("S", {"R"})}, {"R", "S"}));
+    row("variant over itself", model({variant("V", "V", {"V"})}, {"V"}));
+    row("variant over a record over it", model({variant("V", "R", {"R", "NA"}), record("R", {"V"})}, {"V", "R"}));
+    row("enumeration over itself", model({enumeration("N", "N", {"One"})}, {"N"}));
+    row("variant over a simple type", model({variant("V", "A", {"HLAoctet"}), simple("A", "V")}, {"V"}));
+    row("variant without a value", model({variant("V", "Kind", {"NA", "N/A", ""})}, {"V"}));
+    row("variant without alternatives", model({variant("V", "Kind", {})}, {"V"}));
+    row("record without fields", model({record("R", {})}, {"R"}));
+    row("record of open arrays", model({record("R", {"A", "A"}), array("A", "HLAoctet"), array("B", "R")}, {"B"}));
+    row("enumeration without values", model({enumeration("N", "HLAoctet", {})}, {"N"}));
+    row("enumerators of one name", model({enumeration("N", "HLAoctet", {"One", "One", "-", "1", "class"})}, {"N"}),
+        "Duplicated enum name One" + QString("uplicated enum number ").repeated(3));
+    row("array of an enumeration", model({array("A", "Kind", "[1..]", "Custom")}, {"A"}));
+    row("array of many dimensions", model({array("A", "HLAoctet", "1,,2,x,-3", "HLAfixedArray")}, {"A"}));
+    row("padding of no octets", model({array("A", "HLAoctet", "", "paddingTo0")}, {"A"}));
+    row("padding too wide", model({array("A", "HLAoctet", "", "paddingTo99999999999999")}, {"A"}));
     row("chain of simple types", model(chain(simple), {"C0"}));
     row("chain of arrays", model(chain([](const QByteArray& n, const QByteArray& t) { return array(n, t); }), {"C0"}));
     row("chain of records", model(chain(
@@ -276,26 +406,33 @@ void TestBrokenModels::cleanup()
 
 void TestBrokenModels::modelIsReadAndGenerated_data()
 {
-    QTest::addColumn<QByteArray>("sections");
-    for (const DtConstruct& construct : theConstructs)
+    QTest::addColumn<int>("form");
+    QTest::addColumn<QByteArray>("text");
+    QTest::addColumn<QString>("warnings");
+    for (const DtForm& form : theForms)
     {
-        for (int i = 0; i < static_cast<int>(construct.values.size()); ++i)
-            QTest::addRow("%s %s%s", construct.element, construct.values[i].isInPart ? construct.part : "",
-                          construct.values[i].element)
-                << modelOfFaults(construct, i);
+        for (const DtConstruct& construct : theConstructs)
+            for (const DtValue& value : theValues)
+                if (qstrcmp(value.element, construct.element) == 0 || qstrcmp(value.element, construct.part) == 0)
+                    addFaults(form, construct, value);
+        addSingleModels(form);
     }
-    addSingleModels();
 }
 
 void TestBrokenModels::modelIsReadAndGenerated()
 {
-    QFETCH(QByteArray, sections);
-    const QByteArray text = "<objectModel>" + sections + "</objectModel>";
+    QFETCH(int, form);
+    QFETCH(QByteArray, text);
     const DtXmlDocument document = DtParseXmlBuffer(text.constData(), text.size());
     QVERIFY(document != nullptr);
-    xmlNode* root = xmlDocGetRootElement(document.get());
-    const std::unique_ptr<DtOMTTree> tree(DtXMLEvolvedFileReader(nullptr).processObjectModel(root));
+    std::unique_ptr<DtOMTTree> tree;
+    {
+        DtCapture capture(DtWarn);
+        tree.reset(theForms[form].read(xmlDocGetRootElement(document.get())));
+        QTEST(capture.text(), "warnings");
+    }
     QVERIFY(tree != nullptr);
+    QCOMPARE(tree->hlaVersion(), theForms[form].version);
 
     DtOmtProject project;
     project.initializePredefinedTypes();
@@ -303,7 +440,8 @@ void TestBrokenModels::modelIsReadAndGenerated()
     project.addInteraction("HLAinteractionRoot.Fire", false, "");
     DtDataTypeMapper::instance()->setPredefinedTypes(project.predefinedTypes());
     DtDataTypeMapper::instance()->populateFromOmtTree(tree.get());
-    for (const DtHLAProtocolVersion version : {DtHla1516e, DtHla13}) // the older one makes arrays of the members too
+    for (const DtHLAProtocolVersion version :
+         {theForms[form].version, DtHla13}) // the older one makes arrays of the members too
     {
         DtDataTypeMapper::instance()->setPredefinedTypes(project.predefinedTypes());
         DtOMTEnvWriter writer;

@@ -84,7 +84,9 @@ private Q_SLOTS:
     void managementModelIsIncludedAsTheSettingSays();
     void otherExtensionsAreNotOpened_data();
     void otherExtensionsAreNotOpened();
-    void omtFileIsAnsweredWithOneLine();
+    void omtFileIsReadByItsExtension();
+    void causeOfAnUnreadOmtFileIsTold_data();
+    void causeOfAnUnreadOmtFileIsTold();
     void missingFileIsTold();
     void malformedFileIsTold();
     void failedReadKeepsMapsAndEmptiesTree();
@@ -100,8 +102,8 @@ private Q_SLOTS:
     void typedModulesAreMerged();
     void typedModulesAreNotChosenByExtension();
     void typedModulesOfAnotherTypeFail();
-    void omtFilesGiveNoTreeAndOneLine();
-    void oldXmlFilesGiveNoTreeAndOneLine();
+    void onlyTheFirstOmtFileIsRead();
+    void onlyTheFirstOldXmlFileIsRead();
     void emptyListGivesNoTree_data();
     void emptyListGivesNoTree();
     void unknownTypeKeepsTheTreeAndClearsTheMaps();
@@ -196,15 +198,39 @@ void TestOmtEnvReader::otherExtensionsAreNotOpened()
     QCOMPARE(warnings.text(), QString());
 }
 
-void TestOmtEnvReader::omtFileIsAnsweredWithOneLine()
+void TestOmtEnvReader::omtFileIsReadByItsExtension()
 {
     const DtCapture warnings(DtWarn);
     DtOMTEnvReader reader;
+    bool ok = false;
+    const DtOMTTree* tree = keep(reader.readFile(file("m.omt", "(ObjectModel (Name \"Fleet\"))"), ok));
+    QVERIFY(ok && tree != nullptr && reader.tree() == tree);
+    QVERIFY(tree->getName() == "Fleet");
+    QCOMPARE(int(tree->hlaVersion()), 1);
+    QCOMPARE(warnings.text(), QString());
+}
+
+void TestOmtEnvReader::causeOfAnUnreadOmtFileIsTold_data()
+{
+    QTest::addColumn<QByteArray>("text");
+    QTest::addColumn<QString>("cause");
+    QTest::newRow("empty") << QByteArray() << "OMT Input file is empty\n";
+    QTest::newRow("no model") << QByteArray("(a) (b)") << "Could not find ObjectModel tag\n";
+    QTest::newRow("no list") << QByteArray("(ObjectModel . a)") << "Could not find ObjectModel tree\n";
+    QTest::newRow("malformed") << QByteArray("(ObjectModel (Class (Name \"Ship\") (ID . 1)))")
+                               << "Badly formatted ID in Class Ship\n";
+}
+
+void TestOmtEnvReader::causeOfAnUnreadOmtFileIsTold()
+{
+    QFETCH(QByteArray, text);
+    QFETCH(QString, cause);
+    const DtCapture warnings(DtWarn);
+    DtOMTEnvReader reader;
     bool ok = true;
-    QVERIFY(reader.readFile(file("m.omt", "(ObjectModel)"), ok) == nullptr);
-    QVERIFY(!ok);
-    QCOMPARE(warnings.text().count('\n'), 1);
-    QVERIFY(warnings.text().contains("m.omt"));
+    QVERIFY(reader.readFile(file("m.omt", text), ok) == nullptr);
+    QVERIFY(!ok && reader.tree() == nullptr);
+    QCOMPARE(warnings.text(), cause);
 }
 
 void TestOmtEnvReader::missingFileIsTold()
@@ -347,28 +373,27 @@ void TestOmtEnvReader::typedModulesOfAnotherTypeFail()
     QVERIFY(warnings.text().contains("FOM file does not match expected type\n"));
 }
 
-void TestOmtEnvReader::omtFilesGiveNoTreeAndOneLine()
+void TestOmtEnvReader::onlyTheFirstOmtFileIsRead()
 {
     const DtCapture warnings(DtWarn);
     DtOMTEnvReader reader;
-    bool ok = true;
-    QVERIFY(reader.readMultipleFiles({file("a.omt", "(a)"), file("b.omt", "(b)")}, ok, DtFomOmt13) == nullptr);
-    QVERIFY(!ok);
-    QCOMPARE(warnings.text().count('\n'), 1);
-    QVERIFY(warnings.text().contains("a.omt"));
-    QVERIFY(!warnings.text().contains("b.omt"));
+    bool ok = false;
+    const DtOMTTree* tree = keep(reader.readMultipleFiles(
+        {file("a.omt", "(ObjectModel (Name \"A\"))"), DtFilename("missing.omt")}, ok, DtFomOmt13));
+    QVERIFY(ok && tree != nullptr && tree->getName() == "A");
+    QCOMPARE(warnings.text(), QString());
 }
 
-void TestOmtEnvReader::oldXmlFilesGiveNoTreeAndOneLine()
+void TestOmtEnvReader::onlyTheFirstOldXmlFileIsRead()
 {
     const DtCapture warnings(DtWarn);
     DtOMTEnvReader reader;
-    bool ok = true;
-    QVERIFY(reader.readMultipleFiles({file("a.xml", "<objectModel name=\"A\"/>"), DtFilename("missing.xml")}, ok,
-                                     DtFom1516) == nullptr);
-    QVERIFY(!ok);
-    QCOMPARE(warnings.text().count('\n'), 1);
-    QVERIFY(warnings.text().contains("a.xml"));
+    bool ok = false;
+    const DtOMTTree* tree = keep(reader.readMultipleFiles(
+        {file("a.xml", "<objectModel name=\"A\"/>"), DtFilename("missing.xml")}, ok, DtFom1516));
+    QVERIFY(ok && tree != nullptr && tree->getName() == "A");
+    QCOMPARE(int(tree->hlaVersion()), 2);
+    QCOMPARE(warnings.text(), QString());
 }
 
 void TestOmtEnvReader::emptyListGivesNoTree_data()

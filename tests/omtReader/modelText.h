@@ -1,6 +1,7 @@
 #ifndef TESTS_OMT_READER_MODEL_TEXT_H
 #define TESTS_OMT_READER_MODEL_TEXT_H
 
+#include "omtReader/xml1516FileReader.h"
 #include "omtReader/xmlDocument.h"
 #include "omtReader/xmlHla4FileReader.h"
 
@@ -13,6 +14,7 @@
 #include <memory>
 #include <sys/wait.h>
 #include <unistd.h>
+#include <vector>
 
 // Builders and printers for models in tests.
 
@@ -23,11 +25,16 @@ inline QByteArray modelText(const QByteArray& sections, const QByteArray& space 
            "</objectModel>\n";
 }
 
-// The 2010 reader's tree of a document with these sections.
-template <typename Reader = DtXMLEvolvedFileReader>
-std::unique_ptr<DtOMTTree> readSections(const QByteArray& sections)
+// A document of the 1516 form around the sections given.
+inline QByteArray modelText1516(const QByteArray& sections, const QByteArray& rootAttributes = QByteArray())
 {
-    const QByteArray text = modelText(sections);
+    return "<?xml version=\"1.0\"?>\n<objectModel " + rootAttributes + ">" + sections + "</objectModel>\n";
+}
+
+template <typename Reader>
+std::unique_ptr<DtOMTTree> readDocument(const QByteArray& text)
+{
+    const DtXmlErrors quiet;
     const DtXmlDocument document = DtParseXmlBuffer(text.constData(), text.size());
     if (document == nullptr)
         qFatal("malformed test model");
@@ -35,9 +42,46 @@ std::unique_ptr<DtOMTTree> readSections(const QByteArray& sections)
     return std::unique_ptr<DtOMTTree>(Reader(nullptr).processObjectModel(root));
 }
 
+// The 2010 reader's tree of a document with these sections.
+template <typename Reader = DtXMLEvolvedFileReader>
+std::unique_ptr<DtOMTTree> readSections(const QByteArray& sections)
+{
+    return readDocument<Reader>(modelText(sections));
+}
+
+// The 1516 reader's.
+inline std::unique_ptr<DtOMTTree> readSections1516(const QByteArray& sections,
+                                                   const QByteArray& rootAttributes = QByteArray())
+{
+    return readDocument<DtXML1516FileReader>(modelText1516(sections, rootAttributes));
+}
+
 inline QString toQt(const DtString& text)
 {
     return QString::fromUtf8(text.c_str());
+}
+
+// The texts joined by blanks, "-" for an empty one.
+inline QString textsOf(const std::vector<DtString>& texts)
+{
+    QStringList list;
+    for (const DtString& text : texts)
+        list += text.isEmpty() ? QString("-") : toQt(text);
+    return list.join(' ');
+}
+
+// The identification, without points of contact and the list of references.
+inline QString identificationTexts(const DtOMTTree& tree)
+{
+    return textsOf({tree.getName(), tree.getVersionNo(), tree.getType(), tree.getPurpose(), tree.getApplicationDomain(),
+                    tree.getSponsorOrgName(), tree.getModificationDate(), tree.getSecurityClassification(),
+                    tree.getReleaseRestriction(), tree.getDescription(), tree.getMOMVersion(), tree.getReference(),
+                    tree.getOther(), tree.getUseLimitation(), tree.getUseHistory()});
+}
+
+inline QString contactOf(const DtOMTTreePOC& poc)
+{
+    return textsOf({poc.type, poc.firstName, poc.lastName, poc.organization, poc.telephone, poc.email, poc.other});
 }
 
 // The names from begin to end, joined by blanks.

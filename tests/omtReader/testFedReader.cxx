@@ -5,6 +5,7 @@
 #include "registerTest.h"
 #include "testSupport.h"
 
+#include <QtCore/QElapsedTimer>
 #include <QtCore/QTemporaryDir>
 #include <QtTest/QtTest>
 
@@ -63,7 +64,27 @@ private Q_SLOTS:
             plainModel("<objects/><interactions><interactionClass><name>HLAinteractionRoot</name>"
                        "</interactionClass></interactions>"),
             2);
-        row("text format", " \r\n\t(DIF HLA-OMT v1.3)", 1);
+        row("text format", " \r\n\t(ObjectModel (Name \"M\"))", 1);
+        row("text format behind another list", "(DIF HLA-OMT v1.3 (TYPE Single))\r\n(ObjectModel)", 1);
+        row("text format behind other objects", "a \"b\" ) (ObjectModel)", 1);
+        row("text format behind a comment", "; (DIF)\n(; x\nObjectModel", 1);
+        row("text format behind a byte order mark", "\xEF\xBB\xBF(ObjectModel)", 1);
+        row("text without a model", "(DIF HLA-OMT v1.3)", 0);
+        row("text with a bare tag", "ObjectModel", 0);
+        row("text with an inner model", "(DIF (ObjectModel))", 0);
+        row("text with a list that does not end", "(DIF (ObjectModel)", 0);
+        row("text with a head in a list", "((ObjectModel))", 0);
+        row("text with the tag as second element", "(a ObjectModel)", 0);
+        row("text with the tag behind a list", "(() ObjectModel)", 0);
+        row("text with the tag as a string", "(\"ObjectModel\")", 0);
+        row("text with a longer tag", "(ObjectModels)", 0);
+        row("text with a shorter tag", "(ObjectMode)", 0);
+        row("text with a tag in small letters", "(objectModel)", 0);
+        row("text with a model in a string", "(a) \"\\\"(ObjectModel)\"", 0);
+        row("text with a model in a comment", "(a) ; (ObjectModel)", 0);
+        row("malformed XML with a model in it", "<a> (ObjectModel)", 0);
+        row("XML behind a byte order mark", "\xEF\xBB\xBF<objectModel><!-- (ObjectModel) --></objectModel>", 2);
+        row("XML in UTF-16", QByteArray("\xFF\xFE<\0o\0b\0j\0e\0c\0t\0M\0o\0d\0e\0l\0/\0>\0", 30), 2);
         row("malformed behind the root", "<objectModel xmlns='http://standards.ieee.org/IEEE1516-2010'><a>", 3);
         row("malformed without a namespace", "<objectModel><a>", 0);
         row("no model", "hello", 0);
@@ -78,6 +99,33 @@ private Q_SLOTS:
         const QByteArray name = directory.filePath("m.xml").toUtf8();
         writeTextFile(name, text);
         QTEST(int(DtFedReader::checkFomType(name.constData())), "type");
+    }
+
+    void typeOfALargeTextIsFoundQuickly_data()
+    {
+        QTest::addColumn<QByteArray>("text");
+        QTest::addColumn<int>("type");
+        const int count = 1000000;
+        QTest::newRow("open parentheses") << QByteArray(count, '(') << 0;
+        QTest::newRow("balanced parentheses") << QByteArray(count, '(') + QByteArray(count, ')') + "(ObjectModel)" << 1;
+        QTest::newRow("elements") << "(a " + QByteArray("b ").repeated(count) + ")(ObjectModel)" << 1;
+        QTest::newRow("string without an end") << "(a \"" + QByteArray(10 * count, 'x') << 0;
+        QTest::newRow("long symbol") << "(" + QByteArray(10 * count, 'x') << 0;
+        QTest::newRow("NUL bytes") << "(" + QByteArray(count, '\0') << 0;
+    }
+
+    void typeOfALargeTextIsFoundQuickly()
+    {
+        QFETCH(QByteArray, text);
+        QTemporaryDir directory;
+        const QByteArray name = directory.filePath("m.omt").toUtf8();
+        writeTextFile(name, text);
+        DtCapture capture(DtWarn);
+        QElapsedTimer timer;
+        timer.start();
+        QTEST(int(DtFedReader::checkFomType(name.constData())), "type");
+        QVERIFY2(timer.elapsed() < 10000, qPrintable(QString::number(timer.elapsed())));
+        QCOMPARE(capture.text(), QString());
     }
 
     void typeOfARoot() { QCOMPARE(int(DtXmlFedReader::fomType(nullptr)), 0); }

@@ -1,6 +1,7 @@
 // Reads the real object models beside the repository, where there are any.
 
 #include "modelText.h"
+#include "omtReader/omtFileReader.h"
 #include "omtReader/xmlFileReader.h"
 #include "registerTest.h"
 #include "testSupport.h"
@@ -59,6 +60,10 @@ QJsonObject countsOf(const DtOMTTree& tree)
     counts["fields"] = fixed(components);
     counts["variant"] = variant(each);
     counts["alternatives"] = variant(components);
+    const auto complex = [&](auto count)
+    { return sum(tree.getComplexDatatypeNodeList(), tree.getComplexDatatypeEndNode(), count); };
+    counts["complex"] = complex(each);
+    counts["components"] = complex(components);
     counts["update_rates"] = sum(tree.getUpdateRateNodeList(), tree.getUpdateRateEndNode(), each);
     counts["sync"] = sum(tree.getSynchroNodeList(), tree.getSynchroEndNode(), each);
     counts["notes"] = sum(tree.getNoteNodeList(), tree.getNoteEndNode(), each);
@@ -69,6 +74,46 @@ QJsonObject countsOf(const DtOMTTree& tree)
     const auto tags = [](const auto& node) { return node.getName() == "text" ? 0 : 1; };
     counts["tags"] = sum(tree.getTagNodeList(), tree.getTagEndNode(), tags);
     return counts;
+}
+
+// A count that our readers give otherwise than a count of the file's elements, and the rule that it comes from.
+struct DtDifference
+{
+    const char* model;
+    const char* key;
+    int more; // than in the file
+    const char* rule;
+};
+
+const DtDifference theDifferences[] = {
+    {"omt13/RPR_v2.0_excerpt.omt",     "object_classes",      1, "the reader adds the root"},
+    {"omt13/RPR_v2.0_excerpt.omt",     "interaction_classes", 1, "the reader adds the root"},
+    {"omt13/Restaurant_converted.omt", "object_classes",      1, "the reader adds the root"},
+    {"omt13/Restaurant_converted.omt", "interaction_classes", 1, "the reader adds the root"},
+};
+
+int difference(const QString& model, const QString& key)
+{
+    for (const DtDifference& row : theDifferences)
+        if (model == row.model && key == row.key)
+            return row.more;
+    return 0;
+}
+
+std::unique_ptr<DtOMTTree> readModel(const QString& path)
+{
+    const QByteArray file = path.toUtf8();
+    if (path.endsWith(".omt"))
+        return std::unique_ptr<DtOMTTree>(DtOMTFileReader().readFile(file.constData(), nullptr));
+    DtXMLFileReader reader;
+    reader.includeMIM(false);
+    return std::unique_ptr<DtOMTTree>(reader.readFile(file.constData(), nullptr));
+}
+
+QJsonObject expectedCounts()
+{
+    const QString file = QStringLiteral(QX_SHARED_DIR "/models/counts.json");
+    return QFile::exists(file) ? QJsonDocument::fromJson(readTextFile(file)).object() : QJsonObject();
 }
 } // namespace
 
@@ -81,36 +126,31 @@ private Q_SLOTS:
     {
         QTest::addColumn<QString>("name");
         QTest::newRow("none") << QString();
-        for (const char* module : theModules)
-            QTest::newRow(module) << QString("1516-2010/rpr2/RPR-%1_v2.0.xml").arg(module);
-        for (const char* name :
-             {"1516-2010/RestaurantFOMmodule.xml", "1516-2010/SineExample.xml", "1516-2025/NETN-BASE.xml",
-              "1516-2025/NETN-MRM.xml", "1516-2025/RestaurantFOMmodule-2025.xml"})
-            QTest::newRow(name) << QString(name);
+        for (const QString& name : expectedCounts().keys())
+            QTest::newRow(qPrintable(name)) << name;
     }
 
     void nodesOfEachModelAreCounted()
     {
         QFETCH(QString, name);
-        const QString directory = QStringLiteral(QX_SHARED_DIR "/models/");
-        if (name.isEmpty() || !QFile::exists(directory + name))
+        if (name.isEmpty())
         {
-            if (!name.isEmpty())
+            if (expectedCounts().isEmpty())
                 qInfo("no real models here");
             return;
         }
-        DtXMLFileReader reader;
-        reader.includeMIM(false);
-        DtCapture capture(DtWarn);
-        const std::unique_ptr<DtOMTTree> tree(reader.readFile((directory + name).toUtf8().constData(), nullptr));
-        QVERIFY2(tree != nullptr, reader.getLastError());
-        QJsonObject expected =
-            QJsonDocument::fromJson(readTextFile(directory + "counts.json")).object()[name].toObject();
+        const DtCapture warnings(DtWarn);
+        const std::unique_ptr<DtOMTTree> tree = readModel(QStringLiteral(QX_SHARED_DIR "/models/") + name);
+        QVERIFY(tree != nullptr);
+        const QJsonObject expected = expectedCounts()[name].toObject();
         const QJsonObject counts = countsOf(*tree);
         for (const QString& key : counts.keys())
-            QVERIFY2(
-                counts[key] == expected[key],
-                qPrintable(QString("%1: %2, not %3").arg(key).arg(counts[key].toInt()).arg(expected[key].toInt())));
+        {
+            const int count = expected[key].toInt() + difference(name, key);
+            QVERIFY2(counts[key].toInt() == count,
+                     qPrintable(QString("%1: %2, not %3").arg(key).arg(counts[key].toInt()).arg(count)));
+        }
+        QCOMPARE(warnings.text(), QString());
     }
 
     void modulesMergeInTheirOrder()

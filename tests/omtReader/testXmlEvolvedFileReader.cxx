@@ -53,19 +53,7 @@ private Q_SLOTS:
             "<releaseRestriction>r</releaseRestriction><purpose>p</purpose><applicationDomain>a</applicationDomain>"
             "<description>e</description><useLimitation>l</useLimitation><useHistory>h</useHistory>"
             "<other>o</other><glyph>g</glyph></modelIdentification>");
-        const QStringList values{toQt(tree->getName()),
-                                 toQt(tree->getType()),
-                                 toQt(tree->getVersionNo()),
-                                 toQt(tree->getModificationDate()),
-                                 toQt(tree->getSecurityClassification()),
-                                 toQt(tree->getReleaseRestriction()),
-                                 toQt(tree->getPurpose()),
-                                 toQt(tree->getApplicationDomain()),
-                                 toQt(tree->getDescription()),
-                                 toQt(tree->getUseLimitation()),
-                                 toQt(tree->getUseHistory()),
-                                 toQt(tree->getOther())};
-        QCOMPARE(values.join(' '), QString("n FOM v d s r p a e l h o"));
+        QCOMPARE(identificationTexts(*tree), QString("n v FOM p a - d s r e - - o l h"));
     }
 
     void everyPointOfContactIsRead()
@@ -74,10 +62,9 @@ private Q_SLOTS:
             readSections("<modelIdentification><poc><pocType>t</pocType><pocName>n</pocName><pocOrg>o</pocOrg>"
                          "<pocTelephone>p</pocTelephone><pocEmail>e</pocEmail></poc><poc/></modelIdentification>");
         QCOMPARE(tree->getPOCList().size(), std::size_t(2));
-        const DtOMTTreePOC& poc = tree->getPOCList()[0];
-        QCOMPARE(toQt(poc.type + poc.firstName + "," + poc.lastName + "," + poc.organization + poc.telephone +
-                      poc.email + poc.other),
-                 QString("tn,,ope"));
+        QCOMPARE(contactOf(tree->getPOCList()[0]), QString("t n - o p e -"));
+        QCOMPARE(contactOf(tree->getPOCList()[1]), QString("- - - - - - -"));
+        QVERIFY(readSections("")->getPOCList().empty());
     }
 
     void referenceTakesTheTextAheadOfItsFirstElement()
@@ -87,6 +74,17 @@ private Q_SLOTS:
         QCOMPARE(referencesOf("<reference>x<identification>b</identification><type>a</type></reference>"),
                  QString("x|x"));
         QCOMPARE(referencesOf("<reference><type>a</type><identification>b</identification></reference>"), QString("|"));
+        QCOMPARE(referencesOf("<reference><!-- c -->x<type>a</type>y<identification>b</identification></reference>"),
+                 QString("x|x"));
+        QCOMPARE(referencesOf("<reference><![CDATA[<x>]]><type>a</type><identification>b</identification></reference>"),
+                 QString("<x>|<x>"));
+    }
+
+    void everyReferenceIsRead()
+    {
+        QCOMPARE(referencesOf("<reference>x<type>a</type><identification>b</identification></reference><reference/>"
+                              "<reference>y<type>a</type><identification>b</identification></reference>"),
+                 QString("x|x;y|y"));
     }
 
     void referenceNeedsBothElementsWithText()
@@ -204,6 +202,13 @@ private Q_SLOTS:
         QTest::newRow("dimension") << QByteArray("<dimensions><dimension/></dimensions>") << missing("dimension");
         QTest::newRow("synchronization") << QByteArray("<synchronizations><synchronization/></synchronizations>")
                                          << missing("synchronization", "label");
+        QTest::newRow("dropped top class")
+            << QByteArray("<objects><objectClass><name/></objectClass></objects>") << missing("objectClass") + noRoot;
+        QTest::newRow("second section of objects") << objects("") + objects("") << wrongRoot;
+        QTest::newRow("other top interaction")
+            << QByteArray("<interactions><interactionClass><name>X</name></interactionClass></interactions>")
+            << noInteractionRoot;
+        QTest::newRow("no sections") << QByteArray() << QString();
         QTest::newRow("updateRate") << QByteArray("<updateRates><updateRate/></updateRates>") << missing("updateRate");
         QTest::newRow("note, transportation and tag")
             << QByteArray("<notes><note/></notes><transportations><transportation/></transportations>"
@@ -341,7 +346,7 @@ private Q_SLOTS:
     void switchesAreRead()
     {
         const auto tree =
-            readSections("<switches><autoProvide isEnabled=\"true\"/><other isEnabled=\"Enabled\"/>"
+            readSections("<switches>\n<autoProvide isEnabled=\"true\"/><!-- none --><other isEnabled=\"Enabled\"/>"
                          "<off isEnabled=\"false\" resignAction=\"NoAction\"/>"
                          "<automaticResignAction isEnabled=\"true\" resignAction=\"NoAction\"/></switches>");
         QCOMPARE(namesOf(tree->getSwitchNodeList(), tree->getSwitchEndNode()),
@@ -375,23 +380,26 @@ private Q_SLOTS:
         QCOMPARE(toQt((*tree->getVariantDatatypeNode("V")->getComponentNodeList())->getEnumerator()), QString("v"));
     }
 
-    void whiteSpaceBetweenTagsCountsAsTags()
+    void everyChildElementIsATag()
     {
         const auto tree = readSections("<tags>\n<updateReflectTag><dataType>t</dataType><semantics>s</semantics>"
-                                       "</updateReflectTag>\n<!-- none --><lockTag/></tags>");
-        QCOMPARE(namesOf(tree->getTagNodeList(), tree->getTagEndNode()), QString("text updateReflectTag text lockTag"));
+                                       "</updateReflectTag>\n<!-- none --><?none?>text<![CDATA[none]]>"
+                                       "<lockTag><name>n</name></lockTag></tags>");
+        QCOMPARE(namesOf(tree->getTagNodeList(), tree->getTagEndNode()), QString("updateReflectTag lockTag"));
         const DtTagNode& tag = *tree->getTagNode("updateReflectTag");
         QCOMPARE(toQt(tag.getDatatype() + tag.getDescription()), QString("ts"));
     }
 
     void embeddedNoteIsTaken()
     {
-        const QByteArray text = "<a><note/><note>n</note></a>";
-        const DtXmlDocument document = DtParseXmlBuffer(text.constData(), text.size());
-        xmlNode* root = xmlDocGetRootElement(document.get());
         DtOMTNode target;
-        DtXMLEvolvedFileReader(nullptr).processEmbeddedNote(root, &target);
-        QCOMPARE(toQt(target.getNote()), QString("n"));
+        for (const QByteArray text : {"<a><note>m</note><note>n</note><note/></a>", "<a><name>x</name></a>"})
+        {
+            const DtXmlDocument document = DtParseXmlBuffer(text.constData(), text.size());
+            xmlNode* root = xmlDocGetRootElement(document.get());
+            DtXMLEvolvedFileReader(nullptr).processEmbeddedNote(root, &target);
+            QCOMPARE(toQt(target.getNote()), QString("n"));
+        }
     }
 
     void textsMayStandInCdataAndBehindComments()
@@ -404,11 +412,190 @@ private Q_SLOTS:
         QCOMPARE(toQt(tree->getPurpose()), QString("<&\nx"));
     }
 
+    void childElementWithoutTextIsSkipped()
+    {
+        const auto tree = readSections(
+            objects("<attribute><name>a</name><cardinality/><dataType>t</dataType><dataType/><order><x>o</x></order>"
+                    "<semantics> </semantics></attribute>") +
+            "<dataTypes><simpleDataTypes><simpleData><name/><name>s</name></simpleData></simpleDataTypes>"
+            "<enumeratedDataTypes><enumeratedData><name>e</name><enumerator><name>x</name><value>5</value><value/>"
+            "</enumerator></enumeratedData></enumeratedDataTypes></dataTypes>"
+            "<modelIdentification><name>n</name><name/><poc><pocName/></poc></modelIdentification>");
+        const DtAttributeFedNode& attribute = *tree->objectClassRoot()->findAttribute("a");
+        QCOMPARE(textsOf({attribute.getCardinality(), attribute.getDatatype(), attribute.getOrder()}),
+                 QString("1 t -"));
+        QCOMPARE(toQt(attribute.getDescription()), QString(" ")); // a blank is a text
+        QVERIFY(tree->getSimpleDatatypeNode("s") != nullptr);
+        QCOMPARE((*tree->getEnumeratedDatatypeNode("e")->getEnumerationNodeList())->getNumber(), 5);
+        QCOMPARE(toQt(tree->getName()), QString("n"));
+    }
+
+    void laterOfTwoValuesStays()
+    {
+        const auto tree = readSections(objects("<sharing>a</sharing><sharing>b</sharing>"));
+        QCOMPARE(toQt(tree->objectClassRoot()->getSharing()), QString("b"));
+    }
+
+    void valuesInAttributesAreNotRead()
+    {
+        DtCapture capture(DtWarn);
+        const auto tree =
+            readSections("<objects><objectClass name='HLAobjectRoot' sharing='s'/></objects>"
+                         "<notes><note label='l'/></notes><dimensions><dimension name='d'/></dimensions>");
+        QCOMPARE(toQt((*tree->getObjectClassNodeBegin())->getSharing()), QString());
+        QCOMPARE(toQt((*tree->getNoteNodeList())->getLabel()), QString("0"));
+        QCOMPARE(capture.text(), QString("Warning: HLAobjectRoot is missing from 1516 Evolved XML file\n"
+                                         "Warning: dimension definition was missing a name\n"));
+    }
+
+    void noteIsFoundByLabelAndANumberedOneByNumber()
+    {
+        const auto tree = readSections("<notes><note><label>3</label><semantics>t</semantics></note><note>"
+                                       "<label>alpha</label></note><note><semantics>u</semantics></note>"
+                                       "<note><name>7</name></note></notes>");
+        QCOMPARE(toQt(tree->getNoteNode(3)->getText()), QString("t"));
+        QVERIFY(tree->getNoteNode(3) == tree->getNoteNode("3"));
+        QCOMPARE(toQt(tree->getNoteNode(0)->getLabel()), QString("alpha"));
+        QCOMPARE(toQt(tree->getNoteNode("0")->getText()), QString("u"));
+        QVERIFY(tree->getNoteNode(7) == nullptr);
+    }
+
+    void updateRateIsReadAsAtofDoes_data()
+    {
+        QTest::addColumn<QByteArray>("text");
+        QTest::addColumn<double>("rate");
+        QTest::newRow("decimal") << QByteArray("0.25") << 0.25;
+        QTest::newRow("text behind it") << QByteArray("5 Hz") << 5.0;
+        QTest::newRow("text") << QByteArray("fast") << 0.0;
+        QTest::newRow("negative") << QByteArray("-1e1") << -10.0;
+        QTest::newRow("comma") << QByteArray("1,5") << 1.0;
+    }
+
+    void updateRateIsReadAsAtofDoes()
+    {
+        QFETCH(QByteArray, text);
+        const auto tree =
+            readSections("<updateRates><updateRate><rate>" + text + "</rate><name>n</name></updateRate></updateRates>");
+        QTEST(tree->getUpdateRateNode("n")->rate(), "rate");
+    }
+
+    void nodesOfOneNameAllStay()
+    {
+        const auto tree = readSections(
+            objects("<objectClass><name>A</name><sharing>1</sharing></objectClass><objectClass><name>A</name>"
+                    "<sharing>2</sharing></objectClass><attribute><name>a</name><order>1</order></attribute>"
+                    "<attribute><name>a</name><order>2</order></attribute>") +
+            interactions("<parameter><name>p</name><order>1</order></parameter><parameter><name>p</name>"
+                         "<order>2</order></parameter>") +
+            "<dimensions><dimension><name>d</name><value>1</value></dimension><dimension><name>d</name><value>2</value>"
+            "</dimension></dimensions>");
+        QCOMPARE(printClass(tree->objectClassRoot()), QString("HLAobjectRoot [a a]\n  A\n  A\n"));
+        QCOMPARE(toQt(tree->getObjectClassNode("HLAobjectRoot.A")->getSharing()), QString("1"));
+        QCOMPARE(toQt(tree->objectClassRoot()->findAttribute("a")->getOrder()), QString("2"));
+        QCOMPARE(tree->interactionClassRoot()->getParameters().size(), std::size_t(2));
+        QCOMPARE(toQt(tree->interactionClassRoot()->findParameter("p")->getOrder()), QString("1"));
+        QCOMPARE(namesOf(tree->getDimensionNodeList(), tree->getDimensionEndNode()), QString("d d"));
+        QCOMPARE(toQt(tree->getDimensionNode("d")->getValue()), QString("1"));
+    }
+
+    void fixedRecordWithoutANameIsDropped()
+    {
+        DtCapture capture(DtWarn);
+        const auto tree = readSections("<dataTypes><fixedRecordDataTypes><fixedRecordData><name/><field/>"
+                                       "</fixedRecordData></fixedRecordDataTypes></dataTypes>");
+        QVERIFY(tree->getFixedDatatypeNodeList() == tree->getFixedDatatypeEndNode());
+        QCOMPARE(capture.text(), QString("Warning: fixedRecordData definition was missing a name\n"));
+    }
+
+    void classWithoutANameElementIsKept()
+    {
+        const auto tree =
+            readSections(objects("<objectClass><attribute><name>a</name></attribute></objectClass>") +
+                         interactions("<interactionClass><parameter><name>p</name></parameter></interactionClass>"));
+        QCOMPARE(printClass(tree->objectClassRoot()), QString("HLAobjectRoot\n   [a]\n"));
+        QCOMPARE(printClass(tree->interactionClassRoot()), QString("HLAinteractionRoot\n   [p]\n"));
+    }
+
+    void parameterAddsItselfAndAttributeDoesNot()
+    {
+        const QByteArray text = "<m><name>m</name></m>";
+        const DtXmlDocument document = DtParseXmlBuffer(text.constData(), text.size());
+        xmlNode* root = xmlDocGetRootElement(document.get());
+        DtXMLEvolvedFileReader reader(nullptr);
+        DtObjectClassFedNode objectClass;
+        const std::unique_ptr<DtAttributeFedNode> attribute(reader.processAttribute(root, &objectClass));
+        QCOMPARE(toQt(attribute->getName()), QString("m"));
+        QVERIFY(objectClass.getAttributes().empty());
+        DtInteractionClassFedNode interaction;
+        QVERIFY(reader.processParameter(root, &interaction) == interaction.getParameters().front());
+    }
+
+    void attributeAndElementGiveTheTextOfTheirFirstChild()
+    {
+        const QByteArray text = "<!DOCTYPE a SYSTEM 'x.dtd'><a b='c' d='' e='&x;'>f<g/>h<i/><j>&x;k</j></a>";
+        const DtXmlErrors quiet;
+        const DtXmlDocument document = DtParseXmlBuffer(text.constData(), text.size());
+        xmlNode* root = xmlDocGetRootElement(document.get());
+        DtXMLEvolvedFileReader reader(nullptr);
+        QStringList texts;
+        for (xmlAttr* attribute = root->properties; attribute != nullptr; attribute = attribute->next)
+            texts += toQt(reader.childNodeString(attribute));
+        texts += toQt(reader.childNodeString(root));
+        for (xmlNode*& child : DtXmlElements(root))
+            texts += toQt(reader.childNodeString(child));
+        QCOMPARE(texts.join('|'), QString("c|||f|||"));
+    }
+
+    void unknownEntityMayBeDeclaredOutside()
+    {
+        const auto tree = readDocument<DtXMLEvolvedFileReader>(
+            "<!DOCTYPE objectModel SYSTEM 'x.dtd'><objectModel>&x;<modelIdentification>&x;<name>n&x;m</name>"
+            "<type>&x;</type></modelIdentification><tags>&x;<a/></tags></objectModel>");
+        QCOMPARE(textsOf({tree->getName(), tree->getType()}), QString("n -"));
+        QCOMPARE(namesOf(tree->getTagNodeList(), tree->getTagEndNode()), QString("a"));
+    }
+
+    void sectionsMayComeInAnyOrderAndAgain()
+    {
+        const QByteArray dimensions = "<dimensions><dimension><name>%1</name></dimension></dimensions>";
+        const auto tree = readSections("<updateRates><updateRate><name>u</name></updateRate></updateRates>" +
+                                       QByteArray(dimensions).replace("%1", "d") + interactions("") + objects("") +
+                                       "<modelIdentification><name>n</name></modelIdentification>" +
+                                       QByteArray(dimensions).replace("%1", "e"));
+        QCOMPARE(namesOf(tree->getDimensionNodeList(), tree->getDimensionEndNode()), QString("d e"));
+        QCOMPARE(toQt(tree->getName()), QString("n"));
+        QVERIFY(tree->objectClassRoot() != nullptr && tree->interactionClassRoot() != nullptr);
+    }
+
+    void nameAndNamespaceOfTheRootElementAreNotAsked()
+    {
+        const auto tree = readDocument<DtXMLEvolvedFileReader>(
+            "<x:other xmlns:x='urn:x'><x:modelIdentification><x:name>n</x:name></x:modelIdentification></x:other>");
+        QCOMPARE(toQt(tree->getName()), QString("n"));
+    }
+
+    void classesMayBeNestedAsDeepAsTheParserAllows()
+    {
+        const auto nested = [](int depth)
+        {
+            return modelText("<interactions>" + QByteArray("<interactionClass><name>C</name>").repeated(depth) +
+                             QByteArray("</interactionClass>").repeated(depth) + "</interactions>");
+        };
+        DtCapture capture(DtWarn);
+        const auto tree = readDocument<DtXMLEvolvedFileReader>(nested(250));
+        QCOMPARE(std::distance(tree->getInteractionClassNodeBegin(), tree->getInteractionClassNodeEnd()),
+                 std::ptrdiff_t(250));
+        const QByteArray tooDeep = nested(300);
+        const DtXmlErrors quiet;
+        QVERIFY(DtParseXmlBuffer(tooDeep.constData(), tooDeep.size()) == nullptr);
+    }
+
     void unknownElementsAreIgnored()
     {
         DtCapture capture(DtWarn);
         const auto tree = readSections<DtXMLHla4FileReader>(
-            "<serviceUtilization/><dataTypes><referenceDataTypes><referenceDataType><name>x</name></referenceDataType>"
+            "text<serviceUtilization/><simpleDataTypes><simpleData><name>x</name></simpleData></"
+            "simpleDataTypes><dataTypes><referenceDataTypes><referenceDataType><name>x</name></referenceDataType>"
             "</referenceDataTypes></dataTypes>");
         QCOMPARE(capture.text(), QString());
         QVERIFY(tree->getSimpleDatatypeNode("x") == nullptr);

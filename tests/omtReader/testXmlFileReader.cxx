@@ -405,25 +405,48 @@ private Q_SLOTS:
         QCOMPARE(toQt(reader.getLastError()), QString("Failed to process object model"));
     }
 
-    void file1516IsRecognisedButNotRead()
+    void file1516IsReadWithoutTheStandardModel()
     {
-        write({"<objectModel/>"});
+        write({"<objectModel name=\"m\"/>"});
         DtCapture capture(DtWarn);
-        QCOMPARE(readWithError("a.xml", true), QByteArray());
-        QCOMPARE(capture.text(), QString("a.xml: models in the IEEE 1516 XML format are recognised but not read.\n"));
+        DtXMLFileReader reader;
+        reader.includeMIM(true);
+        const std::unique_ptr<DtOMTTree> tree(reader.readFile("a.xml", nullptr));
+        QVERIFY(tree != nullptr);
+        QCOMPARE(int(tree->hlaVersion()), 2);
+        QCOMPARE(toQt(tree->getName()), QString("m"));
+        QCOMPARE(referencesOf(*tree), QString());
+        QVERIFY(tree->objectClassRoot() == nullptr);
+        QCOMPARE(capture.text(), QString());
     }
 
-    void model2025IsReadWithoutTheStandardModel()
+    void standardModelIsThatOfTheFormat_data()
     {
-        write({modelText("<modelIdentification><name>m</name></modelIdentification>", "IEEE1516-2025")});
+        QTest::addColumn<QByteArray>("space");
+        QTest::addColumn<int>("version");
+        QTest::addColumn<QString>("onlyThere"); // an enumerated datatype
+        QTest::addColumn<QString>("notThere");
+        QTest::newRow("2010") << QByteArray("IEEE1516-2010") << 3 << "HLAsynchPointStatus" << "HLAsyncPointStatus";
+        QTest::newRow("2025") << QByteArray("IEEE1516-2025") << 4 << "HLAsyncPointStatus" << "HLAsynchPointStatus";
+    }
+    void standardModelIsThatOfTheFormat()
+    {
+        QFETCH(QByteArray, space);
+        QFETCH(int, version);
+        QFETCH(QString, onlyThere);
+        QFETCH(QString, notThere);
+        write({modelText("<modelIdentification><name>m</name></modelIdentification>", space)});
         DtCapture capture(DtWarn);
         DtXMLFileReader reader;
         const std::unique_ptr<DtOMTTree> tree(reader.readFile("a.xml", nullptr));
         QVERIFY(tree != nullptr);
-        QCOMPARE(int(tree->hlaVersion()), 4);
-        QCOMPARE(referencesOf(*tree), QString("Composed_From:m"));
-        QCOMPARE(capture.text(),
-                 QString("HLAstandardMIM.xml: the standard management model of IEEE 1516-2025 is not merged.\n"));
+        QCOMPARE(int(tree->hlaVersion()), version);
+        QCOMPARE(toQt(tree->getName()), QString("m"));
+        QVERIFY(referencesOf(*tree).startsWith("Composed_From:m Composed_From:"));
+        QVERIFY(tree->getEnumeratedDatatypeNode(onlyThere.toLatin1().constData()) != nullptr);
+        QVERIFY(tree->getEnumeratedDatatypeNode(notThere.toLatin1().constData()) == nullptr);
+        QVERIFY(tree->getObjectClassNode("HLAobjectRoot.HLAmanager.HLAfederate") != nullptr);
+        QCOMPARE(capture.text(), QString());
     }
 
     void childrenAreFoundByName()

@@ -1,0 +1,84 @@
+#ifndef OMT_READER_OMT_SUPERCLASSES_H
+#define OMT_READER_OMT_SUPERCLASSES_H
+
+#include "foundation/outputStream.h"
+
+#include <unordered_map>
+#include <vector>
+
+// The superclasses that the classes of a flat list name, with an end to how deep they go: whatever walks through the
+// hierarchies may take a step of the program's stack for each level.
+//
+// All classes are added before the first is asked for. Owns no class.
+template <typename Class>
+class DtOmtSuperclasses
+{
+public:
+    enum
+    {
+        theLargestDepth = 256 // as deep as elements of the XML formats can be
+    };
+
+    // kind: of the classes, for the warning.
+    explicit DtOmtSuperclasses(const char* kind) : myKind(kind) {}
+
+    // Null for a class without a superclass.
+    void add(Class* node, Class* superclass) { myLinks[node].superclass = superclass; }
+
+    // The superclass that was added; null, with a warning, for a class with too many classes above it. Then it counts
+    // as one without a superclass for those below it.
+    Class* superclassOf(Class* node)
+    {
+        settle(node);
+        return myLinks[node].superclass;
+    }
+
+private:
+    enum
+    {
+        NotSettled = 0,
+        OutOfReach = -1 // in a ring or below one
+    };
+
+    struct Link
+    {
+        Class* superclass = nullptr;
+        int depth = NotSettled; // 1 for a class without a superclass
+    };
+
+    void settle(Class* node)
+    {
+        std::vector<Class*> path; // up to a class that is settled or has no superclass
+        int depth = 0;
+        for (; node != nullptr; node = myLinks[node].superclass)
+        {
+            depth = myLinks[node].depth;
+            if (depth != NotSettled)
+                break;
+            myLinks[node].depth = OutOfReach; // stays when the path comes back to the class
+            path.push_back(node);
+        }
+        if (depth == OutOfReach)
+            return;
+        for (auto each = path.rbegin(); each != path.rend(); ++each)
+            depth = settleBelow(**each, depth);
+    }
+
+    int settleBelow(Class& node, int depth)
+    {
+        Link& link = myLinks[&node];
+        if (depth == theLargestDepth)
+        {
+            DtWarn("Warning: %s %s has more than %d superclasses and is put under the root\n", myKind,
+                   node.getName().c_str(), depth - 1);
+            link.superclass = nullptr;
+            depth = 0;
+        }
+        return link.depth = depth + 1;
+    }
+
+    const char* myKind;
+    std::unordered_map<const Class*, Link> myLinks;
+};
+
+#endif

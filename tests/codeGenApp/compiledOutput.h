@@ -1,0 +1,71 @@
+#ifndef TESTS_COMPILED_OUTPUT_H
+#define TESTS_COMPILED_OUTPUT_H
+
+// Compiles what a run has written, against the stand-in toolkit.
+
+#include "scratchProgram.h"
+
+#include <QtCore/QProcess>
+
+// What takes minutes is left to the runs that ask for it.
+inline bool isFullRun()
+{
+    return qEnvironmentVariableIsSet("QX_FULL");
+}
+
+// Runs the generated makefile and gives what it printed.
+inline QString make(const QString& directory)
+{
+    QProcess process;
+    process.setWorkingDirectory(directory);
+    process.setProcessChannelMode(QProcess::MergedChannels);
+    process.start("make", {"-j2", "-f", "cpp\\Makefile", "QX_DIR=" QX_SOURCE_DIR "/toolkit", "CXXFLAGS=-O0"});
+    if (!process.waitForFinished(900000) || process.exitCode() != 0)
+        return "make failed: " + QString::fromUtf8(process.readAll().right(2000));
+    return QString::fromUtf8(process.readAll());
+}
+
+// Lays the generated files out without the prefix of their names and compiles them all as one translation unit.
+inline QString compileAll(const QString& output, const QString& standard, const QString& includeDirectory, int& count,
+                          const QString& program = QStringLiteral("g++"))
+{
+    QTemporaryDir stage;
+    QByteArray unit;
+    for (const QString& file : filesBelow(output))
+    {
+        const QString name = QString(file).remove(QStringLiteral("cpp\\"));
+        QDir().mkpath(QFileInfo(stage.path() + "/" + name).path());
+        QFile::link(output + "/" + file, stage.path() + "/" + name);
+        if (!name.endsWith(".h") && !name.endsWith(".cxx"))
+            continue;
+        unit += "#include \"" + name.toUtf8() + "\"\n";
+        ++count;
+    }
+    writeTextFile(stage.path() + "/all.cpp", unit);
+    QProcess compiler;
+    compiler.setWorkingDirectory(stage.path());
+    compiler.setProcessChannelMode(QProcess::MergedChannels);
+    compiler.start(program, {"-fsyntax-only", "-Wall", "-Wextra", "-Werror", "-std=" + standard, "-I.",
+                             "-I" + includeDirectory, "-I" QX_SOURCE_DIR "/toolkit/include", "all.cpp"});
+    if (!compiler.waitForFinished(300000) || compiler.exitStatus() != QProcess::NormalExit)
+        return program + " did not end";
+    return compiler.exitCode() == 0 ? QString() : QString::fromUtf8(compiler.readAll().left(4000));
+}
+
+inline void checkCompiles(const QString& output, const QString& includeDirectory = QStringLiteral("."))
+{
+    for (const char* standard : {"c++17", "c++11"})
+    {
+        int count = 0;
+        const QString errors = compileAll(output, QString::fromLatin1(standard), includeDirectory, count);
+        QVERIFY2(errors.isEmpty(), qPrintable(errors));
+        qInfo("%d files compile as %s", count, standard);
+        QVERIFY(count > 100);
+        if (!isFullRun())
+            continue;
+        const QString others = compileAll(output, QString::fromLatin1(standard), includeDirectory, count, "clang++");
+        QVERIFY2(others.isEmpty(), qPrintable(others));
+    }
+}
+
+#endif

@@ -2,6 +2,7 @@
 //
 //   generationBench [--rounds N] DIRECTORY MODEL...       model files, merged in this order
 //   generationBench [--rounds N] DIRECTORY --classes N    a model of N classes made up here
+//   generationBench [--rounds N] --load DIRECTORY MODEL   loading alone, from the file to the filled lists
 //
 // Works in a new folder below DIRECTORY, best on a memory file system, and removes it. Each round generates into an
 // empty directory and then copies the result with "cp -r". Prints files, bytes, processor seconds (user and system, of
@@ -14,6 +15,7 @@
 
 #include <QtCore/QDir>
 #include <QtCore/QDirIterator>
+#include <QtCore/QElapsedTimer>
 #include <QtCore/QTemporaryDir>
 #include <QtWidgets/QApplication>
 
@@ -92,6 +94,7 @@ struct DtOptions
 {
     int rounds = 9;
     int classes = 0;
+    bool onlyLoads = false;
     QString directory;
     std::vector<DtCodeGenAppGui::DtModelFile> models;
 };
@@ -106,6 +109,8 @@ DtOptions readOptions(const QStringList& arguments)
             options.rounds = arguments[++index].toInt();
         else if (argument == QStringLiteral("--classes") && index + 1 < arguments.size())
             options.classes = arguments[++index].toInt();
+        else if (argument == QStringLiteral("--load"))
+            options.onlyLoads = true;
         else if (options.directory.isEmpty())
             options.directory = argument;
         else
@@ -113,7 +118,7 @@ DtOptions readOptions(const QStringList& arguments)
     }
     if (options.directory.isEmpty() || options.rounds < 1 || (options.models.empty() && options.classes < 1))
     {
-        std::fprintf(stderr, "usage: generationBench [--rounds N] DIRECTORY (MODEL... | --classes N)\n");
+        std::fprintf(stderr, "usage: generationBench [--rounds N] [--load] DIRECTORY (MODEL... | --classes N)\n");
         std::exit(2);
     }
     return options;
@@ -149,6 +154,33 @@ void enterScratch(const QString& scratch)
     QDir::setCurrent(scratch + "/bin");
 }
 
+void load(DtCodeGenAppGui& window, const DtOptions& options)
+{
+    const int isLoaded = options.models.size() == 1 ? window.loadFile(options.models.front().first, "")
+                                                    : window.loadFiles(options.models);
+    if (isLoaded == 0)
+        qFatal("the models could not be loaded");
+}
+
+// Prints the time by the clock of every round, in milliseconds.
+void measureLoading(QApplication& application, const DtOptions& options)
+{
+    std::vector<double> times;
+    for (int round = 0; round < options.rounds; ++round)
+    {
+        DtCodeGenInitializer initializer;
+        initializer.parseConfigFile("../data/config/codeGenConfig.xml");
+        DtCodeGenAppGui window(initializer, &application, nullptr);
+        window.setUnattended(true);
+        QElapsedTimer clock;
+        clock.start();
+        load(window, options);
+        times.push_back(static_cast<double>(clock.nsecsElapsed()) / 1e6);
+        std::printf("round %d: load %.1f ms\n", round + 1, times.back());
+    }
+    std::printf("median load %.1f ms\n", median(times));
+}
+
 DtCost generate(QApplication& application, const DtOptions& options, const QString& scratch, const QString& output)
 {
     DtCodeGenInitializer initializer;
@@ -157,10 +189,7 @@ DtCost generate(QApplication& application, const DtOptions& options, const QStri
     window.setUnattended(true);
     const DtCost before = usage(RUSAGE_SELF);
     window.newOmtProject(DtFilename((scratch + "/bench.qxproj").toUtf8().constData()));
-    const int isLoaded = options.models.size() == 1 ? window.loadFile(options.models.front().first, "")
-                                                    : window.loadFiles(options.models);
-    if (isLoaded == 0)
-        qFatal("the models could not be loaded");
+    load(window, options);
     window.addAllObjectInteractions();
     window.setOutputDirectory(output + "/");
     window.generateAllFiles();
@@ -199,6 +228,11 @@ int main(int argc, char** argv)
         options.models = {
             {DtString(model.fileName().toUtf8().constData()), ""}
         };
+    }
+    if (options.onlyLoads)
+    {
+        measureLoading(application, options);
+        return 0;
     }
     std::vector<double> own;
     std::vector<double> user;

@@ -12,7 +12,7 @@ lint() {
     "$top/.ci/setup" git clang-format clang-tidy
     cmake --preset lint >/dev/null # without precompiled headers, which clang-tidy cannot read
     cmake --build --preset lint
-    git ls-files 'libsrc/*.h' 'libsrc/*.cxx' 'appsrc/*.cxx' 'bench/*.cxx' 'toolkit/*.h' 'tests/*.cxx' 'tests/*.h' ':!tests/golden' |
+    git ls-files 'libsrc/*.h' 'libsrc/*.cxx' 'appsrc/*.cxx' 'bench/*.cxx' 'toolkit/*.h' 'toolkit/*.cxx' 'tests/*.cxx' 'tests/*.h' ':!tests/golden' |
         xargs clang-format --dry-run --Werror
     git ls-files 'libsrc/*.cxx' 'appsrc/*.cxx' | xargs -P "$(nproc)" -n 4 clang-tidy -quiet -p build/lint
 }

@@ -1,7 +1,6 @@
 #ifndef QX_EXERCISE_H
 #define QX_EXERCISE_H
 
-#include <algorithm>
 #include <map>
 #include <memory>
 #include <string>
@@ -20,14 +19,16 @@ struct DtExerciseEvent
         ObjectAdded,
         ObjectUpdated,
         ObjectRemoved,
-        InteractionSent
+        InteractionSent,
+        MessageSent
     };
 
     Kind kind;
-    DtExerciseObjectId object; // 0 for an interaction
+    DtExerciseObjectId object; // 0 for an interaction and a message
     std::string fullClassName; // of the object or interaction, without the model's root class
     std::string objectName;
     DtAttributeValues values;
+    DtValueBuffer octets; // of a message
 };
 
 // Takes the events of an exercise that other members caused.
@@ -36,9 +37,13 @@ class DtExerciseMember
 public:
     virtual ~DtExerciseMember() {}
     virtual void receive(const DtExerciseEvent& event) = 0;
+
+    // Members with the same number other than 0 reach each other by a way of their own, so the exercise passes nothing
+    // on between them.
+    virtual unsigned int group() const { return 0; }
 };
 
-// A running exercise inside this process: its members, and the objects that stand in it with their latest values.
+// A running exercise inside this process: its members, and the objects of theirs with the latest values.
 //
 // Members of the same exercise name share one. It ends with its last member.
 class DtExercise
@@ -46,132 +51,42 @@ class DtExercise
 public:
     struct Object
     {
-        const DtExerciseMember* owner;
+        const DtExerciseMember* owner; // null for an object of another process
         std::string fullClassName;
         std::string name;
         DtAttributeValues values;
     };
     typedef std::map<DtExerciseObjectId, Object> Objects;
 
-    static std::shared_ptr<DtExercise> named(const std::string& name)
-    {
-        static std::map<std::string, std::weak_ptr<DtExercise>> theExercises;
-        std::weak_ptr<DtExercise>& known = theExercises[name];
-        std::shared_ptr<DtExercise> exercise = known.lock();
-        if (!exercise)
-        {
-            exercise.reset(new DtExercise);
-            known = exercise;
-        }
-        return exercise;
-    }
+    static std::shared_ptr<DtExercise> named(const std::string& name);
 
     // True if `fullClassName` is `ancestor` or one of its subclasses. The model's root class is everyone's ancestor.
-    static bool isKindOf(const std::string& fullClassName, const std::string& ancestor)
-    {
-        return isRootClass(ancestor) || fullClassName == ancestor ||
-               fullClassName.compare(0, ancestor.size() + 1, ancestor + ".") == 0;
-    }
+    static bool isKindOf(const std::string& fullClassName, const std::string& ancestor);
 
-    void join(DtExerciseMember* member) { myMembers.push_back(member); }
+    static DtExerciseEvent eventOf(DtExerciseEvent::Kind kind, DtExerciseObjectId id, const Object& object);
 
+    void join(DtExerciseMember* member);
     // Takes the member's objects along.
-    void leave(DtExerciseMember* member)
-    {
-        const std::vector<DtExerciseObjectId> owned = objectsOf(member);
-        for (std::size_t index = 0; index < owned.size(); ++index)
-        {
-            removeObject(owned[index]);
-        }
-        myMembers.erase(std::remove(myMembers.begin(), myMembers.end(), member), myMembers.end());
-    }
+    void leave(DtExerciseMember* member);
 
     const Objects& objects() const { return myObjects; }
+    // Null if there is no such object of that owner.
+    const Object* objectOf(const DtExerciseMember* owner, DtExerciseObjectId id) const;
+    // False for a member itself, and where the members have a way of their own.
+    static bool passes(const DtExerciseMember* sender, const DtExerciseMember* receiver);
 
-    DtExerciseObjectId addObject(const DtExerciseMember* owner, const std::string& fullClassName,
-                                 const std::string& name)
-    {
-        const DtExerciseObjectId id = ++myLastObject;
-        const Object object = {owner, fullClassName, name, DtAttributeValues()};
-        myObjects[id] = object;
-        tellOthers(owner, eventOf(DtExerciseEvent::ObjectAdded, id, object));
-        return id;
-    }
+    // A number below 2^32 that no object had yet.
+    DtExerciseObjectId newObjectId() { return ++myLastObject; }
+    void addObject(const DtExerciseMember* owner, DtExerciseObjectId id, const std::string& fullClassName,
+                   const std::string& name);
+    // Attributes that `values` leaves out keep their latest value. An unknown object is passed over.
+    void updateObject(DtExerciseObjectId id, const DtAttributeValues& values);
+    void removeObject(DtExerciseObjectId id);
 
-    // Attributes that `values` leaves out keep their latest value.
-    void updateObject(DtExerciseObjectId id, const DtAttributeValues& values)
-    {
-        const Objects::iterator found = myObjects.find(id);
-        if (found == myObjects.end())
-        {
-            return;
-        }
-        for (DtAttributeValues::const_iterator value = values.begin(); value != values.end(); ++value)
-        {
-            found->second.values[value->first] = value->second;
-        }
-        DtExerciseEvent event = eventOf(DtExerciseEvent::ObjectUpdated, id, found->second);
-        event.values = values;
-        tellOthers(found->second.owner, event);
-    }
-
-    void removeObject(DtExerciseObjectId id)
-    {
-        const Objects::iterator found = myObjects.find(id);
-        if (found == myObjects.end())
-        {
-            return;
-        }
-        const Object object = found->second;
-        myObjects.erase(found);
-        tellOthers(object.owner, eventOf(DtExerciseEvent::ObjectRemoved, id, object));
-    }
-
-    void sendInteraction(const DtExerciseMember* sender, const std::string& fullClassName,
-                         const DtAttributeValues& values) const
-    {
-        const DtExerciseEvent event = {DtExerciseEvent::InteractionSent, 0, fullClassName, std::string(), values};
-        tellOthers(sender, event);
-    }
-
-    static DtExerciseEvent eventOf(DtExerciseEvent::Kind kind, DtExerciseObjectId id, const Object& object)
-    {
-        const DtExerciseEvent event = {kind, id, object.fullClassName, object.name, DtAttributeValues()};
-        return event;
-    }
+    void tellOthers(const DtExerciseMember* sender, const DtExerciseEvent& event) const;
 
 private:
     DtExercise() : myMembers(), myObjects(), myLastObject(0) {}
-
-    static bool isRootClass(const std::string& name)
-    {
-        return name == "HLAobjectRoot" || name == "ObjectRoot" || name == "HLAinteractionRoot" ||
-               name == "InteractionRoot";
-    }
-
-    std::vector<DtExerciseObjectId> objectsOf(const DtExerciseMember* member) const
-    {
-        std::vector<DtExerciseObjectId> owned;
-        for (Objects::const_iterator object = myObjects.begin(); object != myObjects.end(); ++object)
-        {
-            if (object->second.owner == member)
-            {
-                owned.push_back(object->first);
-            }
-        }
-        return owned;
-    }
-
-    void tellOthers(const DtExerciseMember* sender, const DtExerciseEvent& event) const
-    {
-        for (std::size_t index = 0; index < myMembers.size(); ++index)
-        {
-            if (myMembers[index] != sender)
-            {
-                myMembers[index]->receive(event);
-            }
-        }
-    }
 
     std::vector<DtExerciseMember*> myMembers;
     Objects myObjects;

@@ -1,17 +1,23 @@
 #ifndef QX_EXERCISE_CONN_H
 #define QX_EXERCISE_CONN_H
 
+#include <cstddef>
 #include <deque>
 #include <functional>
+#include <map>
 #include <memory>
 #include <string>
 #include <vector>
 
 #include <qx/exercise.h>
 #include <qx/interactionWithEncDec.h>
+#include <qx/packets/pduHeader.h>
+
+class DtExerciseLink;
 
 // Hears of the objects of one class and its subclasses, from DtExerciseConn::drainInput(). An object that stood already
-// when the observer was added may be gone by the time it is told of; its removal follows.
+// when the observer was added may be gone by the time it is told of; its removal follows. After a queue ran over, an
+// object that is known already may be added again.
 class DtExerciseObserver
 {
 public:
@@ -21,115 +27,176 @@ public:
     virtual void objectRemoved(DtExerciseObjectId id) = 0;
 };
 
-// One application's connection to an exercise: the way out for publishers and interactions, and the queue of what the
-// others sent.
+// Gets every opaque message of the others, protocol data units included, from DtExerciseConn::drainInput().
+class DtMessageObserver
+{
+public:
+    virtual ~DtMessageObserver() {}
+    virtual void messageReceived(const DtValueBuffer& octets) = 0;
+};
+
+// Gets the protocol data units of one kind, from DtExerciseConn::drainInput().
+class DtPduObserver
+{
+public:
+    virtual ~DtPduObserver() {}
+    virtual void pduReceived(const DtNetPduHeader& header, const DtValueBuffer& body) = 0;
+    // Called at the end of every drainInput(), for what depends on time.
+    virtual void inputDrained() {}
+};
+
+// One application's connection to an exercise: the way out for publishers, interactions and messages, and the queue of
+// what the others sent.
 //
-// Connections of one process that name the same exercise hear each other, and none hears itself. Nothing is delivered
-// but by drainInput(). Publishers and reflected lists hold a pointer to their connection and must go before it.
+// Connections of one process that name the same exercise hear each other, and none hears itself. A connection with a
+// port also speaks over UDP on the loopback address with those of other processes that name the same exercise and
+// port: each takes one of sixteen ports, and every datagram goes to the fifteen others. It learns of the objects that
+// stand, and tells of its own when asked, while one of its operations runs; so a program calls drainInput() or
+// waitForInput() now and then, also when it only sends.
+//
+// Nothing is delivered but by drainInput(). Publishers and reflected lists hold a pointer to their connection and must
+// go before it. No operation may be called from two threads at once; connections of the same exercise count as one
+// here.
 class DtExerciseConn : private DtExerciseMember
 {
 public:
-    explicit DtExerciseConn(const std::string& exerciseName = std::string())
-        : myExercise(DtExercise::named(exerciseName)), myEvents(), myObservers(), myReceivers(), myLastKey(0)
-    {
-        myExercise->join(this);
-    }
-    ~DtExerciseConn() { myExercise->leave(this); }
+    // Longest message in octets, and as much as one interaction with its class name, or one value of an object with its
+    // name, may take of a datagram. For connections without a port only messages are bounded.
+    static const std::size_t theMaximumMessage = 60000;
+    // A connection with a port has so many objects at most, and takes so many of each other one ...
+    static const std::size_t theMostObjects = 4096;
+    static const std::size_t theMostAttributes = 1024; // ... with so many values each,
+    static const std::size_t theLongestName = 1024;    // characters in the name of an object or class
+    static const std::size_t theLongestAttributeName = 255;
+    // When more comes without a drainInput(), the queue is given up: interactions and messages in it are lost, and the
+    // next drainInput() tells of the objects as they then stand.
+    static const std::size_t theMostEvents = 65536;
+    static const std::size_t theMostQueuedOctets = 64u << 20;
+
+    explicit DtExerciseConn(const std::string& exerciseName = std::string());
+    // `firstPort` is the first of the sixteen; 0 stays within this process.
+    DtExerciseConn(const std::string& exerciseName, unsigned short firstPort);
+    // Removes the connection's objects.
+    ~DtExerciseConn() override;
 
     DtExerciseConn(const DtExerciseConn&) = delete;
     DtExerciseConn& operator=(const DtExerciseConn&) = delete;
 
-    DtExerciseObjectId addObject(const std::string& fullClassName, const std::string& name)
-    {
-        return myExercise->addObject(this, fullClassName, name);
-    }
-    void updateObject(DtExerciseObjectId id, const DtAttributeValues& values) { myExercise->updateObject(id, values); }
-    void removeObject(DtExerciseObjectId id) { myExercise->removeObject(id); }
+    // The port that is ours; 0 if the connection stays within this process, because it was told to, all sixteen are
+    // taken, the exercise's name has more than 255 characters, or the system has no sockets of the kind.
+    unsigned short port() const;
+    // Seconds between two signs of life to the other processes, 2 at the start and 0.02 to 60. Others take a connection
+    // for dead, and remove its objects, after five of these without a word.
+    void setHeartbeat(double seconds);
+
+    // A number for an object that no other of the exercise has.
+    DtExerciseObjectId newObjectId();
+
+    // 0, and nothing is added, if the bounds above do not allow it.
+    DtExerciseObjectId addObject(const std::string& fullClassName, const std::string& name);
+    // False if the object is none of ours, or if a value is beyond the bounds above: such a value does not go out and
+    // is named in `refused`, if given. What takes several datagrams reaches others as several updates.
+    bool updateObject(DtExerciseObjectId id, const DtAttributeValues& values,
+                      std::vector<std::string>* refused = nullptr);
+    // An object that is none of ours is passed over.
+    void removeObject(DtExerciseObjectId id);
 
     // The observer hears of the objects that stand already, too, at the next drainInput().
-    void addObserver(DtExerciseObserver* observer, const std::string& fullClassName)
-    {
-        const Observer entry = {++myLastKey, observer, fullClassName};
-        myObservers.push_back(entry);
-        const DtExercise::Objects& objects = myExercise->objects();
-        for (DtExercise::Objects::const_iterator object = objects.begin(); object != objects.end(); ++object)
-        {
-            if (object->second.owner != this)
-            {
-                queueObject(object->first, object->second, entry.key);
-            }
-        }
-    }
+    void addObserver(DtExerciseObserver* observer, const std::string& fullClassName);
+    void removeObserver(const DtExerciseObserver* observer);
 
-    void removeObserver(const DtExerciseObserver* observer)
-    {
-        for (std::size_t index = myObservers.size(); index-- > 0;)
-        {
-            if (myObservers[index].observer == observer)
-            {
-                myObservers.erase(myObservers.begin() + static_cast<std::ptrdiff_t>(index));
-            }
-        }
-    }
-
-    // False if a parameter could not be coded; the interaction goes out without it.
-    bool sendInteraction(const DtInteractionWithEncDec& interaction)
-    {
-        DtAttributeValues values;
-        const bool complete = interaction.encode(values);
-        myExercise->sendInteraction(this, interaction.fullClassName(), values);
-        return complete;
-    }
+    // False if a parameter could not be coded, and the interaction goes out without it, or if the whole is too long for
+    // a datagram, and stays here.
+    bool sendInteraction(const DtInteractionWithEncDec& interaction);
 
     // The callback gets every interaction of class Kind or a subclass, as a Kind.
     template <class Kind>
     void addInteractionCallback(void (*callback)(Kind*, void*), void* user)
     {
         const Kind sample;
-        Receiver receiver;
-        receiver.key = ++myLastKey;
-        receiver.fullClassName = static_cast<const DtInteraction&>(sample).fullClassName();
-        receiver.callback = reinterpret_cast<AnyFunction>(callback);
-        receiver.user = user;
-        receiver.deliver = [callback, user](const DtAttributeValues& values)
+        const std::string wanted = static_cast<const DtInteraction&>(sample).fullClassName();
+        Registration entry = callbackEntry(-1, callback, user);
+        entry.wants = [wanted](const DtExerciseEvent& event)
+        { return event.kind == DtExerciseEvent::InteractionSent && DtExercise::isKindOf(event.fullClassName, wanted); };
+        entry.deliver = [callback, user](const DtExerciseEvent& event)
         {
             Kind interaction;
-            static_cast<DtInteractionWithEncDec&>(interaction).decode(values);
+            static_cast<DtInteractionWithEncDec&>(interaction).decode(event.values);
             callback(&interaction, user);
         };
-        myReceivers.push_back(receiver);
+        enter(entry);
     }
 
     // Takes out one registration of that callback with that user pointer.
     template <class Kind>
     void removeInteractionCallback(void (*callback)(Kind*, void*), void* user)
     {
-        const AnyFunction wanted = reinterpret_cast<AnyFunction>(callback);
-        for (std::size_t index = 0; index < myReceivers.size(); ++index)
+        removeEntry(callbackEntry(-1, callback, user));
+    }
+
+    // False, and nothing is sent, if the message is longer than theMaximumMessage.
+    bool sendMessage(const DtValueBuffer& octets);
+    void addMessageObserver(DtMessageObserver* observer);
+    void removeMessageObserver(const DtMessageObserver* observer);
+
+    // Sends a message that is a protocol data unit. False if it is too long or the kind is none.
+    bool sendPdu(int kind, const DtValueBuffer& body);
+    void addPduObserver(DtPduObserver* observer, int kind);
+    void removePduObserver(const DtPduObserver* observer);
+
+    // The same with an interaction's parameters as the body. False if a parameter could not be coded, and the unit goes
+    // out without it, or if the unit stays here.
+    bool sendPdu(int kind, const DtInteraction& interaction, const DtInteractionEncoder& encoder);
+
+    // The callback gets the units of that kind whose body holds parameters, as a Kind. A subclass has another kind.
+    // `decoder` is usually &DtSharedDecoder<...>.
+    template <class Kind>
+    void addPduCallback(int kind, const DtInteractionDecoder& (*decoder)(), void (*callback)(Kind*, void*), void* user)
+    {
+        Registration entry = callbackEntry(kind, callback, user);
+        entry.wants = [kind](const DtExerciseEvent& event) { return isPduOf(event, kind); };
+        entry.deliver = [decoder, callback, user](const DtExerciseEvent& event)
         {
-            if (myReceivers[index].callback == wanted && myReceivers[index].user == user)
+            DtAttributeValues values;
+            if (takeParameters(event, values))
             {
-                myReceivers.erase(myReceivers.begin() + static_cast<std::ptrdiff_t>(index));
-                return;
+                Kind interaction;
+                decoder().decode(values, interaction);
+                callback(&interaction, user);
             }
-        }
+        };
+        enter(entry);
+    }
+
+    // Takes out one registration of that callback for that kind with that user pointer.
+    template <class Kind>
+    void removePduCallback(int kind, void (*callback)(Kind*, void*), void* user)
+    {
+        removeEntry(callbackEntry(kind, callback, user));
     }
 
     // Delivers what is in the queue now; what the callbacks cause comes with the next call.
-    void drainInput()
-    {
-        std::deque<Event> events;
-        events.swap(myEvents);
-        for (std::size_t index = 0; index < events.size(); ++index)
-        {
-            deliver(events[index]);
-        }
-    }
+    void drainInput();
+
+    // Waits until there is something to drain, or until the time has passed: then false.
+    bool waitForInput(double seconds);
 
 private:
     typedef void (*AnyFunction)();
     typedef unsigned long Key; // of a registration; never used twice, so an event cannot reach a successor
 
+    // Who wants to hear of something. An observer has `observer` set, a callback the other three.
+    struct Registration
+    {
+        Key key;
+        const void* observer;
+        int pduKind; // -1 for an interaction
+        AnyFunction callback;
+        void* user;
+        std::function<bool(const DtExerciseEvent&)> wants;
+        std::function<void(const DtExerciseEvent&)> deliver;
+        std::function<void()> drained; // may be empty
+    };
     // For the registrations from `first` to `last`: an event does not reach one that was made after it.
     struct Event
     {
@@ -137,127 +204,42 @@ private:
         Key first;
         Key last;
     };
-    struct Observer
-    {
-        Key key;
-        DtExerciseObserver* observer;
-        std::string fullClassName;
-    };
-    struct Receiver
-    {
-        Key key;
-        std::string fullClassName;
-        AnyFunction callback;
-        void* user;
-        std::function<void(const DtAttributeValues&)> deliver;
-    };
 
-    void receive(const DtExerciseEvent& what) override
+    template <class Kind>
+    static Registration callbackEntry(int pduKind, void (*callback)(Kind*, void*), void* user)
     {
-        const Event event = {what, 0, myLastKey};
-        myEvents.push_back(event);
+        Registration entry = Registration();
+        entry.pduKind = pduKind;
+        entry.callback = reinterpret_cast<AnyFunction>(callback);
+        entry.user = user;
+        return entry;
     }
+    static bool isPduOf(const DtExerciseEvent& event, int kind);
+    static bool takeParameters(const DtExerciseEvent& event, DtAttributeValues& values);
 
-    void queueObject(DtExerciseObjectId id, const DtExercise::Object& object, Key only)
-    {
-        Event event = {DtExercise::eventOf(DtExerciseEvent::ObjectAdded, id, object), only, only};
-        myEvents.push_back(event);
-        event.what.kind = DtExerciseEvent::ObjectUpdated;
-        event.what.values = object.values;
-        myEvents.push_back(event);
-    }
+    Key enter(Registration entry);
+    void removeEntry(const Registration& like);
+    void removeObserverEntries(const void* observer);
+    const Registration* find(Key key) const;
+    std::vector<Key> keysFor(const Event& event) const;
 
-    // Callbacks may add and remove registrations, so each is looked up again by its key before it is called.
-    void deliver(const Event& event)
-    {
-        if (event.what.kind == DtExerciseEvent::InteractionSent)
-        {
-            deliverInteraction(event);
-        }
-        else
-        {
-            deliverObject(event);
-        }
-    }
+    void receive(const DtExerciseEvent& what) override;
+    unsigned int group() const override;
 
-    void deliverInteraction(const Event& event)
-    {
-        const std::vector<Key> keys = keysFor(event, myReceivers);
-        for (std::size_t index = 0; index < keys.size(); ++index)
-        {
-            const Receiver* const receiver = find(myReceivers, keys[index]);
-            if (receiver != nullptr)
-            {
-                const std::function<void(const DtAttributeValues&)> handOver = receiver->deliver;
-                handOver(event.what.values);
-            }
-        }
-    }
-
-    void deliverObject(const Event& event)
-    {
-        const std::vector<Key> keys = keysFor(event, myObservers);
-        for (std::size_t index = 0; index < keys.size(); ++index)
-        {
-            const Observer* const entry = find(myObservers, keys[index]);
-            if (entry != nullptr)
-            {
-                tell(*entry->observer, event.what);
-            }
-        }
-    }
-
-    static void tell(DtExerciseObserver& observer, const DtExerciseEvent& what)
-    {
-        switch (what.kind)
-        {
-        case DtExerciseEvent::ObjectAdded:
-            observer.objectAdded(what.object, what.objectName);
-            break;
-        case DtExerciseEvent::ObjectUpdated:
-            observer.objectUpdated(what.object, what.values);
-            break;
-        case DtExerciseEvent::ObjectRemoved:
-            observer.objectRemoved(what.object);
-            break;
-        case DtExerciseEvent::InteractionSent:
-            break;
-        }
-    }
-
-    template <class Entry>
-    static std::vector<Key> keysFor(const Event& event, const std::vector<Entry>& entries)
-    {
-        std::vector<Key> keys;
-        for (std::size_t index = 0; index < entries.size(); ++index)
-        {
-            const Key key = entries[index].key;
-            if (event.first <= key && key <= event.last &&
-                DtExercise::isKindOf(event.what.fullClassName, entries[index].fullClassName))
-            {
-                keys.push_back(key);
-            }
-        }
-        return keys;
-    }
-
-    template <class Entry>
-    static const Entry* find(const std::vector<Entry>& entries, Key key)
-    {
-        for (std::size_t index = 0; index < entries.size(); ++index)
-        {
-            if (entries[index].key == key)
-            {
-                return &entries[index];
-            }
-        }
-        return nullptr;
-    }
+    void push(const Event& event);
+    void queueStanding(Key first, Key last);
+    void queueEverythingAnew();
+    void deliver(const Event& event);
+    void remember(const DtExerciseEvent& what);
+    void tellDrained();
 
     std::shared_ptr<DtExercise> myExercise;
+    std::unique_ptr<DtExerciseLink> myLink; // null without a port
     std::deque<Event> myEvents;
-    std::vector<Observer> myObservers;
-    std::vector<Receiver> myReceivers;
+    std::size_t myQueuedOctets;
+    bool myRanOver;
+    std::map<DtExerciseObjectId, std::string> myToldObjects; // full class names of those that observers know
+    std::vector<Registration> myRegistrations;
     Key myLastKey;
 };
 

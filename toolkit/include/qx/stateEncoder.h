@@ -1,17 +1,21 @@
 #ifndef QX_STATE_ENCODER_H
 #define QX_STATE_ENCODER_H
 
+#include <qx/bufferEncoder.h>
 #include <qx/stateMsg.h>
 #include <qx/stateRepository.h>
 
 // Base of the generated encoders that write an object's state as one protocol data unit.
-class DtStateEncoder
+//
+// A generated encoder adds one coder for each attribute of its class, as a DtHlaStateEncoder does. By itself it knows
+// no attribute.
+class DtStateEncoder : public DtBufferEncoder<DtStateRepository>
 {
 public:
-    virtual ~DtStateEncoder() {}
-
-    // Fills the message's body from `state`. False if the state is not of the encoder's class or cannot be coded.
-    virtual bool encodeState(const DtStateRepository& state, DtStateMsg& message) const = 0;
+    // Sets the message's body from `state`, changed or not. Attributes that cannot be coded stay out and are named in
+    // `refused`, if given; the answer is then false.
+    virtual bool encodeState(const DtStateRepository& state, DtStateMsg& message,
+                             std::vector<std::string>* refused = nullptr) const;
 };
 
 #endif

@@ -4,6 +4,7 @@
 #include "fileGenerator/dataTypeMapper.h"
 #include "fileGenerator/memberTypes.h"
 #include "fileGenerator/netTypeTraits.h"
+#include "fileGenerator/numberForm.h"
 #include "fileGenerator/omtEnvWriter.h"
 #include "foundation/stringUtils.h"
 #include "omtReader/arrayDatatypeNode.h"
@@ -24,7 +25,9 @@ struct DtArrayDataTypeFileWriter::DtTokens
     static const DtTokenTable<Writer>& own()
     {
         static const DtTokenRow<Writer> theRows[] = {
-            {"<!ClassPrefix!>", [](const Writer&) { return DtOMTEnvWriter::prefixName(); }},
+            {"<!ClassPrefix!>",       [](const Writer&) { return DtOMTEnvWriter::prefixName(); }                      },
+            {"<!ArrayElementCount!>", [](const Writer& w) { return DtString(elementCountOf(w.currentCardinality())); }},
+            {"<!ArrayEncoding!>",     [](const Writer& w) { return w.currentEncoding(); }                             },
         };
         static const DtTokenTable<Writer> theTable(theRows);
         return theTable;
@@ -81,12 +84,10 @@ DtString DtArrayDataTypeFileWriter::encodingName() const
 {
     if (!myEncoding.isEmpty())
         return myEncoding;
-    const DtOMTNode* node = myCurrentDatatype;
-    if (node == nullptr && !myCompiledDatatypes.empty())
-        node = myCompiledDatatypes.front().first;
+    const DtArrayDatatypeNode* node = currentNode();
     if (node == nullptr)
         return DtString();
-    switch (static_cast<const DtArrayDatatypeNode*>(node)->getCardinalityType())
+    switch (node->getCardinalityType())
     {
     case 1:
         return "HLAfixedArray";
@@ -99,4 +100,24 @@ DtString DtArrayDataTypeFileWriter::encodingName() const
     default:
         return DtString();
     }
+}
+
+const DtArrayDatatypeNode* DtArrayDataTypeFileWriter::currentNode() const
+{
+    const DtOMTNode* node = myCurrentDatatype;
+    if (node == nullptr && !myCompiledDatatypes.empty())
+        node = myCompiledDatatypes.front().first;
+    return static_cast<const DtArrayDatatypeNode*>(node);
+}
+
+DtString DtArrayDataTypeFileWriter::currentCardinality() const
+{
+    const DtArrayDatatypeNode* node = currentNode();
+    return node == nullptr ? DtString() : node->getCardinality();
+}
+
+DtString DtArrayDataTypeFileWriter::currentEncoding() const
+{
+    const DtArrayDatatypeNode* node = currentNode();
+    return node == nullptr ? DtString() : node->getEncoding();
 }

@@ -25,6 +25,10 @@ private:
 
     // The given encoding, or else that of the kind of the array that is current or the first; empty when there is none.
     DtString encodingName() const;
+    // The array that is current, or the first; null when there is none.
+    const DtArrayDatatypeNode* currentNode() const;
+    DtString currentCardinality() const;
+    DtString currentEncoding() const; // as the model names it
 
     DtString myEncoding;
 };

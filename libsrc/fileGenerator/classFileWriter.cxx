@@ -3,6 +3,7 @@
 #include "fileGenerator/cCompatibleName.h"
 #include "fileGenerator/dataTypeMapper.h"
 #include "fileGenerator/namePattern.h"
+#include "fileGenerator/numberForm.h"
 #include "fileGenerator/omtEnvWriter.h"
 #include "foundation/stringUtils.h"
 
@@ -56,20 +57,19 @@ DtString tableName(const DtAttribute& attribute)
 }
 
 // The keyword test takes the name with a small first letter in both cases: "Template" becomes "TheTemplate".
-bool isReservedName(const DtAttribute& attribute)
+bool isReservedName(const DtString& name)
 {
-    return isCPlusPlusKeyword(DtFirstCharToLower(attribute.name()));
+    return isCPlusPlusKeyword(DtFirstCharToLower(name));
 }
 
-DtString lowerAttributeName(const DtAttribute& attribute)
+DtString lowerAttributeName(const DtString& name)
 {
-    return identifier(isReservedName(attribute) ? "the" + DtFirstCharToUpper(attribute.name())
-                                                : DtFirstCharToLowerConditional(attribute.name()));
+    return identifier(isReservedName(name) ? "the" + DtFirstCharToUpper(name) : DtFirstCharToLowerConditional(name));
 }
 
-DtString upperAttributeName(const DtAttribute& attribute)
+DtString upperAttributeName(const DtString& name)
 {
-    return identifier((isReservedName(attribute) ? "The" : "") + DtFirstCharToUpper(attribute.name()));
+    return identifier((isReservedName(name) ? "The" : "") + DtFirstCharToUpper(name));
 }
 
 bool isString(const DtAttribute& attribute)
@@ -169,8 +169,8 @@ const DtClassFileWriter::DtTokens::Table& DtClassFileWriter::DtTokens::attribute
         {"<!AttributeLocalNetType!>",             OF_ATTRIBUTE(withoutVector(a.netType()))},
         {"<!AttributeCastNetType!>",              OF_ATTRIBUTE(DtReplaceSubstring(a.netType(), "DtNet", "Dt"))},
         {"<!AttributeQuorvexNetType!>",           OF_ATTRIBUTE(mapper().isQuorvexNetType(a.netType()) ? a.netType() : DtString())},
-        {"<!attributeName!>",                     OF_ATTRIBUTE(lowerAttributeName(a))},
-        {"<!AttributeName!>",                     OF_ATTRIBUTE(upperAttributeName(a))},
+        {"<!attributeName!>",                     OF_ATTRIBUTE(lowerAttributeName(a.name()))},
+        {"<!AttributeName!>",                     OF_ATTRIBUTE(upperAttributeName(a.name()))},
         {"<!ExactAttributeName!>",                OF_ATTRIBUTE(identifier(a.name()))},
         {"<!AttributeNetType!>",                  OF_ATTRIBUTE(a.netType())},
         {"<!AttributeNetSizeString!>",            OF_ATTRIBUTE(a.netSizeString())},
@@ -193,6 +193,9 @@ const DtClassFileWriter::DtTokens::Table& DtClassFileWriter::DtTokens::attribute
         {"<!AttributeIsString!>",                 OF_ATTRIBUTE(flag(isString(a)))},
         {"<!AttributeIsVariant!>",                OF_ATTRIBUTE(flag(a.isVariant()))},
         {"<!NonVectorDatatype!>",                 OF_ATTRIBUTE(a.nonVectorType())},
+        {"<!AttributeElementCount!>",             OF_ATTRIBUTE(DtString(elementCountOf(mapper().cardinalityOfArrayType(a.datatype()))))},
+        {"<!AttributeOctets!>",                   OF_ATTRIBUTE(DtString(numberFormOf(a.datatype()).octets))},
+        {"<!AttributeIsLittleEndian!>",           OF_ATTRIBUTE(numberFormOf(a.datatype()).isLittleEndian ? "1" : "0")},
     };
     static const Table theTable(theRows);
     return theTable;
@@ -429,6 +432,16 @@ void DtClassFileWriter::compileIncludeList()
             myIncludeFiles.push_back(includeNameOf(attribute.nonVectorType()));
     }
     myIncludeFiles.unique();
+}
+
+DtString DtClassFileWriter::identifierOf(const DtString& name)
+{
+    return identifier(name);
+}
+
+DtAccessorNames DtClassFileWriter::accessorNamesOf(const DtString& attribute)
+{
+    return {lowerAttributeName(attribute), upperAttributeName(attribute)};
 }
 
 std::vector<DtString> DtClassFileWriter::knownTokens() const

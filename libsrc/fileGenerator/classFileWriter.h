@@ -9,6 +9,13 @@
 #include <list>
 #include <vector>
 
+// What <!attributeName!> and <!AttributeName!> are for an attribute.
+struct DtAccessorNames
+{
+    DtString getter;
+    DtString setter; // behind "set"
+};
+
 // Expands the templates of everything that is generated once for each class or datatype of the model.
 //
 // Adds to DtFileWriter the names, the attributes and the project of one class, the tokens made from them and the loops
@@ -53,6 +60,9 @@ public:
     // Appends the headers of the generated types that the attributes use. Only neighbours that are alike are dropped,
     // so a type that comes again behind another one is included twice.
     virtual void compileIncludeList();
+    // A name as an identifier of generated code, as the tokens of classes and attributes give it.
+    static DtString identifierOf(const DtString& name);
+    static DtAccessorNames accessorNamesOf(const DtString& attribute);
     // Every token that the writer replaces, in the order of replacement; those of DtFileWriter come last.
     virtual std::vector<DtString> knownTokens() const;
 

@@ -2,7 +2,9 @@
 #define FILE_GENERATOR_ENUM_FILE_WRITER_H
 
 #include "fileGenerator/fileWriter.h"
+#include "fileGenerator/numberForm.h"
 
+#include <set>
 #include <vector>
 
 // One enumerator: its name and its number as text.
@@ -28,14 +30,21 @@ public:
     // Bits, as text; empty when the model gives none.
     const DtString& size() const { return mySize; }
     void setSize(const DtString& size) { mySize = size; }
+    // The number that stands for it on the wire; without octets when the model does not tell.
+    const DtNumberForm& numberForm() const { return myNumberForm; }
+    void setNumberForm(const DtNumberForm& form) { myNumberForm = form; }
 
 private:
     DtString myName;
     std::vector<DtEnumerationValue> myVals;
     DtString mySize;
+    DtNumberForm myNumberForm;
 };
 
 // Writes the one header that holds all enumerations, and tells the mapper the name, size and representation of each.
+//
+// Names that cannot stand in C++ side by side are told on the warning stream. The second of two enumerators gets a name
+// of its own; the second of two enumerations is marked, so that the template can leave it out.
 class DtEnumerationFileWriter : public DtFileWriter
 {
 public:
@@ -59,13 +68,26 @@ public:
     static std::vector<DtString> knownTokens();
 
 private:
+    // What an enumeration is called in generated code.
+    struct DtNames
+    {
+        DtString type;
+        bool isRepeated = false;           // an enumeration ahead of it has that name
+        std::vector<DtString> identifiers; // of the enumerators
+        DtNumberForm numberForm;           // with octets in any case
+    };
+
+    DtNames makeNames(const DtEnumeration& enumeration);
     void decodeEnumerationTokens(DtString& line) const;
+    void decodeValueTokens(DtString& line, const DtEnumeration& enumeration, const DtNames& names) const;
     void writeEnumerations(std::istream& stream);
     void writeFields(std::istream& stream);
 
     std::vector<DtEnumeration> myEnumerations;
     const DtEnumeration* myCurrentEnumeration = nullptr;           // null outside "Enumeration"
     const DtEnumerationValue* myCurrentEnumerationValue = nullptr; // null outside "EnumerationField"
+    std::vector<DtNames> myNames;                                  // of the enumerations, in their order
+    std::set<DtString> myTypeNames;
 };
 
 #endif

@@ -6,11 +6,13 @@
 #include "fileGenerator/fixedRecordsFileWriter.h"
 #include "fileGenerator/omtEnvWriter.h"
 #include "fileGenerator/qtProgressMeter.h"
+#include "fileGenerator/sharedNames.h"
 #include "fileGenerator/simpleDataTypeFileWriter.h"
 #include "fileGenerator/variantRecordFileWriter.h"
 #include "omtReader/arrayDatatypeNode.h"
 #include "omtReader/basicDataRepresentationNode.h"
 #include "omtReader/complexDatatypeNode.h"
+#include "omtReader/enumeratedDatatypeNode.h"
 #include "omtReader/fixedDatatypeNode.h"
 #include "omtReader/omtTree.h"
 #include "omtReader/simpleDatatypeNode.h"
@@ -55,9 +57,20 @@ struct DtDatatypeFamily
     }
     // Other names that the family's turn for this datatype makes, in order.
     static void nameFurther(const Node&, DtCCompatibleNames&) {}
+    // Of what has accessors in the class.
+    static std::vector<DtString> memberNames(const Node&) { return {}; }
     // What follows when both files are written and listed.
     static void finish(Node*, DtOMTEnvWriter&) {}
 };
+
+template <typename Record>
+std::vector<DtString> componentNames(const Record& record)
+{
+    std::vector<DtString> names;
+    for (auto component = record.getComponentNodeList(); component != record.getComponentNodeEnd(); ++component)
+        names.push_back((*component)->getName());
+    return names;
+}
 
 struct DtComplexFamily : DtDatatypeFamily<DtComplexDatatypeNode, DtComplexDataTypeFileWriter>
 {
@@ -72,6 +85,7 @@ struct DtComplexFamily : DtDatatypeFamily<DtComplexDatatypeNode, DtComplexDataTy
         for (auto component = node.getComponentNodeList(); component != node.getComponentNodeEnd(); ++component)
             DtOMTEnvWriter::componentArrayName(**component);
     }
+    static std::vector<DtString> memberNames(const Node& node) { return componentNames(node); }
     static void finish(Node* node, DtOMTEnvWriter& driver) { driver.checkComplexForArrayType(node); }
 };
 
@@ -128,6 +142,7 @@ struct DtFixedRecordFamily : DtDatatypeFamily<DtFixedDatatypeNode, DtFixedRecord
 
     static auto begin(const DtOMTTree& tree) { return tree.getFixedDatatypeNodeList(); }
     static auto end(const DtOMTTree& tree) { return tree.getFixedDatatypeEndNode(); }
+    static std::vector<DtString> memberNames(const Node& node) { return componentNames(node); }
 };
 
 struct DtVariantRecordFamily : DtDatatypeFamily<DtVariantDatatypeNode, DtVariantRecordFileWriter>
@@ -137,6 +152,14 @@ struct DtVariantRecordFamily : DtDatatypeFamily<DtVariantDatatypeNode, DtVariant
 
     static auto begin(const DtOMTTree& tree) { return tree.getVariantDatatypeNodeList(); }
     static auto end(const DtOMTTree& tree) { return tree.getVariantDatatypeEndNode(); }
+    static std::vector<DtString> memberNames(const Node& node)
+    {
+        std::vector<DtString> names;
+        for (auto part = node.getComponentNodeList(); part != node.getComponentNodeEnd(); ++part)
+            if (hasVariantMember((*part)->getDatatype()))
+                names.push_back((*part)->getName());
+        return names;
+    }
     static void prepare(Writer& writer, const DtDatatypeItem& item, DtCCompatibleNames&)
     {
         writer.setOriginalName(item.name);
@@ -205,7 +228,7 @@ void DtOMTEnvWriter::writePair(typename Family::Node* node)
 
 // Asks for names in the order in which writing asks for them, so that long names get the same numbers.
 template <typename Family>
-void DtOMTEnvWriter::recordClassNames()
+void DtOMTEnvWriter::recordClassNames(DtSharedClassNames& shared)
 {
     DtDatatypeClassNames& classNames = DtDatatypeClassNames::instance();
     for (auto node = Family::begin(*myTree); node != Family::end(*myTree); ++node)
@@ -215,18 +238,31 @@ void DtOMTEnvWriter::recordClassNames()
             continue;
         const DtString stem = DtDatatypeClassNames::fileStem(name, names());
         classNames.add(name, DtDatatypeClassNames::classNameOfStem(stem));
+        shared.add(name, classNames.className(name));
+        warnOfMemberNames(name, Family::memberNames(**node));
         Family::nameFurther(**node, names());
     }
 }
 
 void DtOMTEnvWriter::recordAllClassNames()
 {
-    recordClassNames<DtComplexFamily>();
-    recordClassNames<DtBasicFamily>();
-    recordClassNames<DtSimpleFamily>();
-    recordClassNames<DtArrayFamily>();
-    recordClassNames<DtFixedRecordFamily>();
-    recordClassNames<DtVariantRecordFamily>();
+    DtSharedClassNames shared;
+    std::set<DtString> enumerations; // the enumerations header tells of those that are called alike
+    for (auto node = myTree->getEnumeratedDatatypeNodeList(); node != myTree->getEnumeratedDatatypeEndNode(); ++node)
+    {
+        const DtString& name = (*node)->getName();
+        if (myUsedDatatypes.count(name) == 0 || !DtDataTypeMapper::instance()->isEnumeration(name))
+            continue;
+        const DtString type = DtClassFileWriter::identifierOf(DtDataTypeMapper::instance()->quorvexType(name));
+        if (enumerations.insert(type).second)
+            shared.add(name, type);
+    }
+    recordClassNames<DtComplexFamily>(shared);
+    recordClassNames<DtBasicFamily>(shared);
+    recordClassNames<DtSimpleFamily>(shared);
+    recordClassNames<DtArrayFamily>(shared);
+    recordClassNames<DtFixedRecordFamily>(shared);
+    recordClassNames<DtVariantRecordFamily>(shared);
 }
 
 void DtOMTEnvWriter::writeDataTypesFiles()

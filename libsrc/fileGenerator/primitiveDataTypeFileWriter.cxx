@@ -1,9 +1,24 @@
 #include "fileGenerator/primitiveDataTypeFileWriter.h"
 
 #include "fileGenerator/dataTypeMapper.h"
+#include "fileGenerator/numberForm.h"
 #include "fileGenerator/omtEnvWriter.h"
 #include "foundation/stringUtils.h"
 #include "omtReader/omtNode.h"
+
+struct DtPrimitiveDataTypeFileWriter::DtTokens
+{
+    using Writer = DtPrimitiveDataTypeFileWriter;
+    static const DtTokenTable<Writer>& ofAttribute()
+    {
+        static const DtTokenRow<Writer> theRows[] = {
+            {"<!NumberType!>",
+             [](const Writer& w) { return numberTypeOf(numberFormOf(w.currentAttribute()->datatype())); }},
+        };
+        static const DtTokenTable<Writer> theTable(theRows);
+        return theTable;
+    }
+};
 
 namespace
 {
@@ -26,9 +41,7 @@ const DtPrimitiveRow& rowFor(const DtString& representation)
 {
     if (isFloatRepresentation(representation))
         return theFloats;
-    const bool isSigned =
-        containsEither(representation, "integer", "Integer") && !containsEither(representation, "unsigned", "Unsigned");
-    return isSigned ? theSigned : theUnsigned;
+    return isSignedRepresentation(representation) ? theSigned : theUnsigned;
 }
 
 } // namespace
@@ -36,6 +49,12 @@ const DtPrimitiveRow& rowFor(const DtString& representation)
 bool isFloatRepresentation(const DtString& representation)
 {
     return containsEither(representation, "Float", "float");
+}
+
+bool isSignedRepresentation(const DtString& representation)
+{
+    return containsEither(representation, "integer", "Integer") &&
+           !containsEither(representation, "unsigned", "Unsigned");
 }
 
 DtString primitiveType(const DtString& representation, int bits)
@@ -58,6 +77,20 @@ DtString primitiveType(const DtString& representation, int bits)
 
 void DtPrimitiveDataTypeFileWriter::compileIncludeList()
 {
+}
+
+void DtPrimitiveDataTypeFileWriter::decodeOwnTokens(DtString& line)
+{
+    DtTokenValues<DtPrimitiveDataTypeFileWriter> ofAttribute(DtTokens::ofAttribute(), this);
+    DtExpandTokens(line, {currentAttribute() != nullptr ? &ofAttribute : nullptr});
+    DtCodedDataTypeFileWriter::decodeOwnTokens(line);
+}
+
+std::vector<const DtTokenIndex*> DtPrimitiveDataTypeFileWriter::ownTokens() const
+{
+    std::vector<const DtTokenIndex*> tokens = DtCodedDataTypeFileWriter::ownTokens();
+    tokens.push_back(&DtTokens::ofAttribute().index());
+    return tokens;
 }
 
 void DtPrimitiveDataTypeFileWriter::compilePrimitive(DtOMTNode* node, const DtString& representation)

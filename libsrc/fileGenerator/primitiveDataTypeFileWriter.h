@@ -15,11 +15,17 @@ public:
 protected:
     // One member named like the datatype; its datatype's datatype is the number it holds.
     void compilePrimitive(DtOMTNode* node, const DtString& representation);
+    void decodeOwnTokens(DtString& line) override;
+    std::vector<const DtTokenIndex*> ownTokens() const override;
+
+private:
+    struct DtTokens;
 };
 
 // The number for a representation of that many bits. An unknown signed size widens to 64 bits, an unknown unsigned one
 // falls to 8; "Float" is tested first.
 DtString primitiveType(const DtString& representation, int bits);
 bool isFloatRepresentation(const DtString& representation);
+bool isSignedRepresentation(const DtString& representation);
 
 #endif

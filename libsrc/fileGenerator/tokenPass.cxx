@@ -9,6 +9,8 @@ namespace
 constexpr std::size_t theNowhere = std::string_view::npos;
 constexpr std::string_view theOpening = "<!";
 constexpr std::string_view theClosing = "!>";
+// Values that hold each other's tokens multiply. Once a text has grown to this many bytes, its tokens stay.
+constexpr std::size_t theLongestText = 16u << 20;
 
 // The tables of one replacement, in order; links may be null.
 struct DtChain
@@ -73,7 +75,7 @@ void replaceToken(std::string& text, std::string_view token, DtTokenSource& sour
     const std::string& value = source.value(row).stdString();
     std::string result;
     std::size_t copied = 0;
-    for (; at != std::string::npos; at = text.find(token, copied))
+    for (; at != std::string::npos && result.size() < theLongestText; at = text.find(token, copied))
     {
         result.append(text, copied, at - copied).append(value);
         copied = at + token.size();

@@ -1,10 +1,14 @@
 #include "fileGenerator/variantRecordFileWriter.h"
 
 #include "fileGenerator/cCompatibleName.h"
+#include "fileGenerator/datatypeClassNames.h"
 #include "fileGenerator/enumFileWriter.h"
+#include "fileGenerator/literalText.h"
 #include "fileGenerator/memberTypes.h"
 #include "fileGenerator/netTypeTraits.h"
+#include "fileGenerator/numberForm.h"
 #include "foundation/stringUtils.h"
+#include "omtReader/omtTree.h"
 #include "omtReader/variantDatatypeNode.h"
 
 static DtCCompatibleNames theNames;
@@ -18,6 +22,8 @@ struct DtVariantRecordFileWriter::DtTokens
             {"<!ClassNetName!>",          [](const Writer& w) { return DtReplaceSubstring(w.myClassName, "Dt", "DtNet"); }},
             {"<!ClassDiscriminantName!>", [](const Writer& w) { return w.discriminantName(); }                            },
             {"<!ClassDiscriminantType!>", [](const Writer& w) { return w.discriminantType(); }                            },
+            {"<!ClassEncoding!>",         [](const Writer& w) { return literalText(w.currentEncoding()); }                },
+            {"<!AlternativeSelector!>",   [](const Writer& w) { return literalText(w.currentSelector()); }                },
         };
         static const DtTokenTable<Writer> theTable(theRows);
         return theTable;
@@ -36,25 +42,75 @@ struct DtVariantRecordFileWriter::DtTokens
     }
 };
 
+namespace
+{
+
+// A number, a truth value or an enumeration, ready-made or generated.
+bool canSelect(const DtString& type, const DtOMTTree* tree)
+{
+    const DtDataTypeMapper& mapper = *DtDataTypeMapper::instance();
+    if (mapper.isEnumeration(type) || memberType(type) == "bool")
+        return true;
+    if (DtDatatypeClassNames::instance().contains(type))
+        return tree != nullptr &&
+               (tree->getSimpleDatatypeNode(type) != nullptr || tree->getBasicDataRepresentationNode(type) != nullptr);
+    const DtNumberForm form = numberFormOf(type);
+    return form.octets > 0 && !form.isFloat && memberType(type) == numberTypeOf(form);
+}
+
+} // namespace
+
 bool hasVariantMember(const DtString& datatype)
 {
     return !datatype.isEmpty() && datatype != "NA" && datatype != "N/A";
 }
 
 DtVariantRecordFileWriter::DtVariantRecordFileWriter(const DtString& fileName, const DtString& templateName)
-    : DtCodedDataTypeFileWriter(fileName, templateName, theNames)
+    : DtCodedDataTypeFileWriter(fileName, templateName, theNames), myDiscriminant("", "DtInt32")
 {
+}
+
+void DtVariantRecordFileWriter::writeMultipleTimes(const DtString& loopName, std::istream& stream)
+{
+    if (loopName == "Discriminant")
+        writeDiscriminant(stream);
+    else if (loopName == "ValuelessAlternatives")
+        writeValuelessAlternatives(stream);
+    else
+        DtCodedDataTypeFileWriter::writeMultipleTimes(loopName, stream);
+}
+
+void DtVariantRecordFileWriter::compileIncludeList()
+{
+    DtCodedDataTypeFileWriter::compileIncludeList();
+    const DtString stem = DtDatatypeClassNames::instance().fileStemOf(myDiscriminant.datatype());
+    if (!stem.isEmpty())
+        myIncludeFiles.push_back(stem);
+}
+
+void DtVariantRecordFileWriter::determineDecodeability()
+{
+    DtCodedDataTypeFileWriter::determineDecodeability();
+    if (!myHasFittingDiscriminant)
+        DtWarn << "Warning: The discriminant of " << myClassName
+               << " is no number and no enumeration: " << myDiscriminant.datatype()
+               << ". A number of 32 bits stands for it.\n";
 }
 
 void DtVariantRecordFileWriter::compileAttributes(DtVariantDatatypeNode* node, DtOMTTree* tree)
 {
     if (isCompiled(*node))
         return;
+    setDiscriminant(node->getDiscriminant(), node->getDatatype(), tree);
+    myValuelessSelectors.clear();
     std::vector<DtAttribute> members;
     for (auto alternative = node->getComponentNodeList(); alternative != node->getComponentNodeEnd(); ++alternative)
     {
         if (!hasVariantMember((*alternative)->getDatatype()))
+        {
+            myValuelessSelectors.push_back((*alternative)->getEnumerator());
             continue;
+        }
         members.push_back(makeMember((*alternative)->getName(), (*alternative)->getDatatype(), "0-1"));
         members.back().setDiscriminantValue((*alternative)->getEnumerator());
     }
@@ -113,4 +169,42 @@ std::vector<const DtTokenIndex*> DtVariantRecordFileWriter::ownTokens() const
     std::vector<const DtTokenIndex*> tokens = DtCodedDataTypeFileWriter::ownTokens();
     tokens.insert(tokens.end(), {&DtTokens::own().index(), &DtTokens::ofAttribute().index()});
     return tokens;
+}
+
+void DtVariantRecordFileWriter::setDiscriminant(const DtString& name, const DtString& type, const DtOMTTree* tree)
+{
+    myHasFittingDiscriminant = canSelect(type, tree);
+    myDiscriminant = makeMember(name, type, "1");
+    if (!myHasFittingDiscriminant)
+        myDiscriminant.setType("DtInt32");
+}
+
+void DtVariantRecordFileWriter::writeDiscriminant(std::istream& stream)
+{
+    const std::streampos start = stream.tellg();
+    setCurrentAttribute(&myDiscriminant);
+    writeBodyFrom(stream, start);
+    setCurrentAttribute(nullptr);
+}
+
+void DtVariantRecordFileWriter::writeValuelessAlternatives(std::istream& stream)
+{
+    const std::streampos start = stream.tellg();
+    for (const DtString& selector : myValuelessSelectors)
+    {
+        myCurrentSelector = selector;
+        writeBodyFrom(stream, start);
+    }
+    myCurrentSelector = DtString();
+}
+
+DtString DtVariantRecordFileWriter::currentSelector() const
+{
+    return currentAttribute() != nullptr ? currentAttribute()->discrimininantValue() : myCurrentSelector;
+}
+
+DtString DtVariantRecordFileWriter::currentEncoding() const
+{
+    const DtOMTNode* node = myCurrentDatatype;
+    return node == nullptr ? DtString() : static_cast<const DtVariantDatatypeNode*>(node)->getEncoding();
 }

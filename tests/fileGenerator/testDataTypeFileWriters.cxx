@@ -620,11 +620,13 @@ void TestDataTypeFileWriters::knownTokensOfTheFamilies()
         }
         return tokens.join(' ');
     };
-    QCOMPARE(own(SimpleProbe("", "")), QString("<!MyHeaderInclude!> <!LocalTypeIsNotEncodeable!>"));
-    QCOMPARE(own(BasicProbe("", "")), QString("<!MyHeaderInclude!> <!LocalTypeIsNotEncodeable!> <!BasicSize!> "
-                                              "<!ClassPrefix!> <!size!> <!EndianMatch!>"));
-    QCOMPARE(own(ArrayProbe("", "")), QString("<!MyHeaderInclude!> <!LocalTypeIsNotEncodeable!> <!MyEncoding!> "
-                                              "<!ClassPrefix!> <!TokenCardinality!>"));
+    QCOMPARE(own(SimpleProbe("", "")), QString("<!MyHeaderInclude!> <!LocalTypeIsNotEncodeable!> <!NumberType!>"));
+    QCOMPARE(own(BasicProbe("", "")),
+             QString("<!MyHeaderInclude!> <!LocalTypeIsNotEncodeable!> <!NumberType!> <!BasicSize!> "
+                     "<!ClassPrefix!> <!size!> <!EndianMatch!>"));
+    QCOMPARE(own(ArrayProbe("", "")),
+             QString("<!MyHeaderInclude!> <!LocalTypeIsNotEncodeable!> <!MyEncoding!> "
+                     "<!ClassPrefix!> <!ArrayElementCount!> <!ArrayEncoding!> <!TokenCardinality!>"));
 }
 
 QX_REGISTER_TEST(TestDataTypeFileWriters)

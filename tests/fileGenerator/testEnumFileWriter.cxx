@@ -43,6 +43,12 @@ private Q_SLOTS:
     void representationOfASize();
     void valueNamesLoseSpecialCharacters_data();
     void valueNamesLoseSpecialCharacters();
+    void identifiersAreToldApart();
+    void secondOfOneTypeNameIsMarked();
+    void numberFormIsGivenOrGuessed_data();
+    void numberFormIsGivenOrGuessed();
+    void numberThatDoesNotFitIsTold_data();
+    void numberThatDoesNotFitIsTold();
     void loopsRunInOrder();
     void fieldLoopNeedsAnEnumeration();
     void tokensStayOutsideTheirLoops();
@@ -188,6 +194,133 @@ void TestEnumFileWriter::valueNamesLoseSpecialCharacters()
     const DtEnumerationValue value(name.toUtf8().constData(), "1");
     QTEST(text(Probe("").createEnumerationValueName("DtAny", value)), "expected");
     QTEST(text(Probe("").createEnumerationValueName("", value)), "expected");
+}
+
+void TestEnumFileWriter::identifiersAreToldApart()
+{
+    const RunSettings settings;
+    const DtCapture warnings(DtWarn);
+    Probe writer("");
+    writer.addEnumeration(enumeration("EnumNEnum8", "8",
+                                      {
+                                          {"A-B",       "1"},
+                                          {"AB",        "2"},
+                                          {"AB_2",      "3"},
+                                          {"a.b \"c\"", "4"},
+                                          {"--",        "5"}
+    }));
+    QCOMPARE(writer.expand("<#Enumeration><#EnumerationField><!EnumerationFieldName!>|<!EnumerationFieldIdentifier!>|"
+                           "<!EnumerationFieldText!>; <#><#>"),
+             QString("AB|AB|A-B; AB|AB_2|AB; AB_2|AB_2_2|AB_2; a.b \"c\"|a_b__c_|a.b \\\"c\\\"; ||--; "));
+    QCOMPARE(warnings.text(),
+             QString("Warning: Enumerator AB of EnumNEnum8 is called AB_2: another one is called AB too.\n"
+                     "Warning: Enumerator AB_2 of EnumNEnum8 is called AB_2_2: another one is called "
+                     "AB_2 too.\n"));
+}
+
+void TestEnumFileWriter::secondOfOneTypeNameIsMarked()
+{
+    const RunSettings settings;
+    const DtCapture warnings(DtWarn);
+    Probe writer("");
+    for (const char* name : {"enumO-Enum8", "EnumO-Enum8", "EnumO__Enum8"})
+        writer.addEnumeration(enumeration(name, "8"));
+    QCOMPARE(
+        writer.expand("<#Enumeration><!EnumerationName!> <!EnumerationTypeName!> (<!EnumerationIsRepeated!>); <#>"),
+        QString("DtEnumO-Enum8 DtEnumO__Enum8 (); DtEnumO-Enum8 DtEnumO__Enum8 (1); "
+                "DtEnumO__Enum8 DtEnumO__Enum8 (1); "));
+    QCOMPARE(warnings.text(),
+             QString("Warning: Enumeration EnumO-Enum8 is left out: another one is called DtEnumO__Enum8 too.\n"
+                     "Warning: Enumeration EnumO__Enum8 is left out: another one is called DtEnumO__Enum8 too.\n"));
+}
+
+void TestEnumFileWriter::numberFormIsGivenOrGuessed_data()
+{
+    QTest::addColumn<QString>("name");
+    QTest::addColumn<QString>("size");
+    QTest::addColumn<QString>("value");
+    QTest::addColumn<int>("octets");
+    QTest::addColumn<QString>("expected");
+    QTest::newRow("given") << "EnumPEnum32"
+                           << "16"
+                           << "1" << 3 << "3 1 1";
+    QTest::newRow("size") << "EnumQEnum32"
+                          << "16"
+                          << "1" << 0 << "2 0 0";
+    QTest::newRow("name") << "EnumRKind8"
+                          << ""
+                          << "1" << 0 << "1 0 0";
+    QTest::newRow("nothing") << "EnumSKind"
+                             << ""
+                             << "1" << 0 << "4 0 0";
+    QTest::newRow("negative number") << "EnumTKind"
+                                     << ""
+                                     << "-1" << 0 << "4 1 0";
+    QTest::newRow("odd number in the name") << "EnumUKind1234"
+                                            << ""
+                                            << "1" << 0 << "4 0 0";
+}
+
+void TestEnumFileWriter::numberFormIsGivenOrGuessed()
+{
+    const RunSettings settings;
+    QFETCH(QString, name);
+    QFETCH(QString, size);
+    QFETCH(QString, value);
+    QFETCH(int, octets);
+    DtEnumeration each = enumeration(name.toUtf8().constData(), size.toUtf8().constData(),
+                                     {
+                                         {"One", value.toUtf8().constData()}
+    });
+    DtNumberForm form;
+    form.octets = octets;
+    form.isSigned = form.isLittleEndian = true;
+    each.setNumberForm(form);
+    Probe writer("");
+    writer.addEnumeration(each);
+    QTEST(writer.expand("<#Enumeration><!EnumerationOctets!> <!EnumerationIsSigned!> <!EnumerationIsLittleEndian!><#>"),
+          "expected");
+}
+
+void TestEnumFileWriter::numberThatDoesNotFitIsTold_data()
+{
+    QTest::addColumn<QString>("value");
+    QTest::addColumn<int>("octets");
+    QTest::addColumn<bool>("isSigned");
+    QTest::addColumn<bool>("isTold");
+    QTest::newRow("255 in 1") << "255" << 1 << false << false;
+    QTest::newRow("256 in 1") << "256" << 1 << false << true;
+    QTest::newRow("-1 without a sign") << "-1" << 1 << false << true;
+    QTest::newRow("127 in 1 with a sign") << "127" << 1 << true << false;
+    QTest::newRow("128 in 1 with a sign") << "128" << 1 << true << true;
+    QTest::newRow("-128 in 1 with a sign") << "-128" << 1 << true << false;
+    QTest::newRow("-129 in 1 with a sign") << "-129" << 1 << true << true;
+    QTest::newRow("largest in 4") << "2147483647" << 4 << true << false;
+    QTest::newRow("-1 in 8 without a sign") << "-1" << 8 << false << true;
+    QTest::newRow("-1 in 8 with a sign") << "-1" << 8 << true << false;
+}
+
+void TestEnumFileWriter::numberThatDoesNotFitIsTold()
+{
+    const RunSettings settings;
+    QFETCH(QString, value);
+    QFETCH(int, octets);
+    QFETCH(bool, isSigned);
+    QFETCH(bool, isTold);
+    DtEnumeration each = enumeration("EnumVEnum8", "8",
+                                     {
+                                         {"One", value.toUtf8().constData()}
+    });
+    DtNumberForm form;
+    form.octets = octets;
+    form.isSigned = isSigned;
+    each.setNumberForm(form);
+    const DtCapture warnings(DtWarn);
+    Probe writer("");
+    writer.addEnumeration(each);
+    QCOMPARE(warnings.text(), isTold ? QString("Warning: Enumerator One of EnumVEnum8 does not fit into its "
+                                               "representation.\n")
+                                     : QString());
 }
 
 void TestEnumFileWriter::loopsRunInOrder()

@@ -111,6 +111,9 @@ private Q_SLOTS:
     void variantRecordTokens();
     void enumeratorIsCleanedLikeInTheHeader_data();
     void enumeratorIsCleanedLikeInTheHeader();
+    void selectorStandsAsTheModelHasIt();
+    void discriminantIsAnAttributeInItsLoop_data();
+    void discriminantIsAnAttributeInItsLoop();
     void enumeratorsAreCopiedFromTheRecord();
     void enumeratorsOfEqualNamesKeepTheirOrder();
     void variantNetTypesAreMarked();
@@ -422,6 +425,68 @@ void TestRecordFileWriters::enumeratorIsCleanedLikeInTheHeader()
     QTEST(writer.expand("<#ClassDatatypes><#Attributes><!CurrentDiscriminantEnumerator!><#><#>"), "expected");
 }
 
+void TestRecordFileWriters::selectorStandsAsTheModelHasIt()
+{
+    const RunSettings settings;
+    DtOMTTree tree;
+    VariantProbe writer("", "");
+    DtVariantDatatypeNode* node = addVariant(tree, "RwExact",
+                                             {
+                                                 {"a", "RwX", "[F-16 .. \"B\"]"},
+                                                 {"b", "NA",  "C-2"            },
+                                                 {"c", "",    "D"              }
+    });
+    node->setEncoding("Rw\"Record\"");
+    writer.compileAttributes(node, &tree);
+    QCOMPARE(writer.expand("<#ClassDatatypes><!ClassEncoding!>: <#Attributes><!AlternativeSelector!>; <#>"
+                           "<#ValuelessAlternatives><!AlternativeSelector!>, <#><!AlternativeSelector!><#>"),
+             QString("Rw\\\"Record\\\": [F-16 .. \\\"B\\\"]; C-2, D, "));
+}
+
+void TestRecordFileWriters::discriminantIsAnAttributeInItsLoop_data()
+{
+    QTest::addColumn<QByteArray>("datatype");
+    QTest::addColumn<QString>("expected");
+    QTest::newRow("enumeration") << QByteArray("rw-kind") << "DtRw__kind rw__kind 2";
+    QTest::newRow("ready number") << QByteArray("RwReadyByte") << "DtU8 RwReadyByte 1";
+    QTest::newRow("truth value") << QByteArray("RwTruth") << "bool RwTruth 4";
+    QTest::newRow("simple type") << QByteArray("RwSimple") << "DtRwSimple RwSimple 1";
+    QTest::newRow("text") << QByteArray("RwText") << "DtInt32 RwText 0";
+    QTest::newRow("none") << QByteArray("") << "DtInt32  0";
+}
+
+void TestRecordFileWriters::discriminantIsAnAttributeInItsLoop()
+{
+    const RunSettings settings;
+    QFETCH(QByteArray, datatype);
+    mapper().addBasicTypeInfoMapping("RwWord", {"16", "Big"});
+    mapper().addBasicTypeInfoMapping("RwReadyByte", {"8", "Big"});
+    mapper().addBasicTypeInfoMapping("RwLong", {"32", "Big"});
+    mapper().addMapping("rw-kind", "DtRw-kind");
+    mapper().addEnumeration("rw-kind");
+    mapper().addMapping("RwReadyByte", "DtU8");
+    mapper().addMapping("RwTruth", "bool");
+    mapper().addMapping("RwText", "DtString");
+    mapper().addSimpleTypeToRepresentationMapping("RwSimple", "RwReadyByte");
+    mapper().addMapping("RwSimple", "DtRwSimple");
+    classNames().add("RwSimple", "DtRwSimple");
+    classNames().addEnumeration("rw-kind", "RwWord");
+    classNames().addEnumeration("RwTruth", "RwLong");
+    DtOMTTree tree;
+    auto* simple = new DtSimpleDatatypeNode;
+    simple->setName("RwSimple");
+    tree.addSimpleDatatypeNode(simple);
+    VariantProbe writer("", "");
+    DtVariantDatatypeNode* node = addVariant(tree, "RwBy", {});
+    node->setDatatype(datatype.constData());
+    writer.compileAttributes(node, &tree);
+    QTEST(writer.expand("<#ClassDatatypes><#Discriminant><!AttributeDatatype!> <!AttributeFomDatatype!> "
+                        "<!AttributeOctets!><#><#Attributes>x<#><#>"),
+          "expected");
+    const bool isSimple = datatype == "RwSimple";
+    QCOMPARE(writer.expand("<#IncludeFiles><!FileToInclude!><#>"), isSimple ? QString("rwSimple.h") : QString());
+}
+
 void TestRecordFileWriters::enumeratorsAreCopiedFromTheRecord()
 {
     const RunSettings settings;
@@ -639,9 +704,10 @@ void TestRecordFileWriters::knownTokensOfTheRecords()
     QCOMPARE(own(FixedProbe("", ""), 5),
              QString("<!MyHeaderInclude!> <!LocalTypeIsNotEncodeable!> <!ClassNetName!> <!NetTypeIsVariableSize!> "
                      "<!NetTypeIsVariantRecord!>"));
-    QCOMPARE(own(VariantProbe("", ""), 7),
+    QCOMPARE(own(VariantProbe("", ""), 9),
              QString("<!MyHeaderInclude!> <!LocalTypeIsNotEncodeable!> <!ClassNetName!> <!ClassDiscriminantName!> "
-                     "<!ClassDiscriminantType!> <!CurrentDiscriminantEnumerator!> <!NetTypeIsVariantRecord!>"));
+                     "<!ClassDiscriminantType!> <!ClassEncoding!> <!AlternativeSelector!> "
+                     "<!CurrentDiscriminantEnumerator!> <!NetTypeIsVariantRecord!>"));
     QCOMPARE(own(ComplexProbe("", ""), 6),
              QString("<!MyHeaderInclude!> <!ArrayFileToInclude!> <!DatatypeArrayName!> <!NonDtDatatypeArrayName!> "
                      "<!IsBasicType!> <!OctetBoundary!>"));

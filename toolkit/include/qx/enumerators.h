@@ -11,11 +11,12 @@ struct DtEnumerator
     DtInt64 value;
 };
 
-// The enumerators of one enumeration, in the model's order.
+// The enumerators of one enumeration, in the model's order and with the model's names, and its form on the wire.
 struct DtEnumeratorTable
 {
-    DtEnumeratorTable(const char* nameOfType = "", const DtEnumerator* firstEntry = nullptr, std::size_t size = 0)
-        : typeName(nameOfType), first(firstEntry), count(size)
+    DtEnumeratorTable(const char* nameOfType = "", const DtEnumerator* firstEntry = nullptr, std::size_t size = 0,
+                      const DtNumberForm& numberForm = DtNumberForm())
+        : typeName(nameOfType), first(firstEntry), count(size), number(numberForm)
     {
     }
 
@@ -30,6 +31,7 @@ struct DtEnumeratorTable
     const char* typeName; // in generated code
     const DtEnumerator* first;
     std::size_t count;
+    DtNumberForm number;
 };
 
 // Generated headers overload this for their enumerations; any other type has no names.
@@ -69,7 +71,9 @@ class DtEnumeratorSelector
 {
 public:
     // Text in the model's form: "A", "A, B" or "[A .. B], C"; names that the table does not hold may be numbers, others
-    // select nothing. "HLAother" is for every value that no other alternative takes.
+    // select nothing. A range of enumerators holds those that are declared from the first to the last, whatever their
+    // numbers are; one of numbers holds all between them. "HLAother" is for every value that no other alternative
+    // takes.
     DtEnumeratorSelector(const DtEnumeratorTable& table, const char* text) : myIsOther(trimmed(text) == "HLAother")
     {
         if (!myIsOther)
@@ -118,8 +122,11 @@ private:
         value = entry->value;
         return true;
     }
+    // A comma may be part of an enumerator's name, so the whole text is looked up first.
     void split(const DtEnumeratorTable& table, const std::string& text)
     {
+        if (table.find(trimmed(text)))
+            return add(table, trimmed(text));
         for (std::size_t begin = 0; begin <= text.size();)
         {
             std::size_t end = text.find(',', begin);
@@ -137,16 +144,27 @@ private:
         const std::size_t dots = piece.find("..");
         if (piece.size() > 3 && piece[0] == '[' && piece[piece.size() - 1] == ']' && dots != std::string::npos)
         {
-            const std::string low = trimmed(piece.substr(1, dots - 1));
-            const std::string high = trimmed(piece.substr(dots + 2, piece.size() - dots - 3));
-            if (resolve(table, low, range.first) && resolve(table, high, range.last))
-                myRanges.push_back(range);
+            addRange(table, trimmed(piece.substr(1, dots - 1)),
+                     trimmed(piece.substr(dots + 2, piece.size() - dots - 3)));
         }
         else if (resolve(table, piece, range.first))
         {
             range.last = range.first;
             myRanges.push_back(range);
         }
+    }
+    void addRange(const DtEnumeratorTable& table, const std::string& low, const std::string& high)
+    {
+        const DtEnumerator* const first = table.find(low);
+        const DtEnumerator* const last = table.find(high);
+        DtSelectorRange range = {0, 0};
+        if (first && last)
+        {
+            for (const DtEnumerator* each = first; each <= last; ++each)
+                myRanges.push_back({each->value, each->value});
+        }
+        else if (resolve(table, low, range.first) && resolve(table, high, range.last))
+            myRanges.push_back(range);
     }
 
     bool myIsOther;
@@ -157,10 +175,16 @@ private:
 class DtAlternativeTable
 {
 public:
-    DtAlternativeTable(const DtEnumeratorTable& names, const std::vector<const char*>& selectors) : myTable(names)
+    // The selectors of the alternatives that have a value, and those of the others, which take their values out of
+    // "HLAother".
+    DtAlternativeTable(const DtEnumeratorTable& names, const std::vector<const char*>& selectors,
+                       const std::vector<const char*>& valueless = std::vector<const char*>())
+        : myTable(names)
     {
         for (const char* selector : selectors)
             mySelectors.push_back(DtEnumeratorSelector(myTable, selector));
+        for (const char* selector : valueless)
+            myValueless.push_back(DtEnumeratorSelector(myTable, selector));
     }
 
     // Place of the alternative that a value selects, from 0; -1 when it selects none.
@@ -174,6 +198,9 @@ public:
             if (mySelectors[i].isOther() && other < 0)
                 other = static_cast<int>(i);
         }
+        for (const DtEnumeratorSelector& selector : myValueless)
+            if (selector.takes(value))
+                return -1;
         return other;
     }
     // A discriminant value that selects the alternative: the present one if it does, else the first that is found.
@@ -188,43 +215,16 @@ public:
         for (std::size_t i = 0; i < myTable.count; ++i)
             if (find(myTable.first[i].value) == wanted)
                 return myTable.first[i].value;
+        for (DtInt64 number = 0; number < 256; ++number) // one that has no enumerator
+            if (find(number) == wanted)
+                return number;
         return present;
     }
 
 private:
     DtEnumeratorTable myTable;
     std::vector<DtEnumeratorSelector> mySelectors;
-};
-
-// Types that a discriminant can have without being an enumeration of the model: those with a type of the toolkit.
-struct DtReadyDiscriminants
-{
-    typedef bool DtHLAboolean;
-    typedef bool DtRPRboolean;
-    typedef bool DtOMT13boolean;
-    typedef bool Dtboolean;
-    typedef bool DtBoolean;
-    typedef DtU8 DtHLAoctet;
-    typedef DtU8 DtOctet;
-    typedef DtU8 Dtoctet;
-    typedef DtU8 DtHLAASCIIchar;
-    typedef DtU8 DtHLAunsignedInteger8BE;
-    typedef DtU8 DtRPRunsignedInteger8BE;
-    typedef DtU16 DtHLAunicodeChar;
-    typedef DtU16 DtHLAoctetPairBE;
-    typedef DtU16 DtHLAunsignedInteger16BE;
-    typedef DtU16 DtRPRunsignedInteger16BE;
-    typedef DtU32 DtHLAunsignedInteger32BE;
-    typedef DtU32 DtRPRunsignedInteger32BE;
-    typedef DtU64 DtHLAunsignedInteger64BE;
-    typedef DtU64 DtRPRunsignedInteger64BE;
-    typedef DtInt16 DtHLAinteger16BE;
-    typedef DtInt16 DtHLAinteger16LE;
-    typedef DtInt32 DtHLAinteger32BE;
-    typedef DtInt32 DtHLAinteger32LE;
-    typedef DtInt32 DtHLAcount;
-    typedef DtInt64 DtHLAinteger64BE;
-    typedef DtInt64 DtHLAinteger64LE;
+    std::vector<DtEnumeratorSelector> myValueless;
 };
 
 #endif

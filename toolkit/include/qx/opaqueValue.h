@@ -2,6 +2,7 @@
 #define QX_OPAQUE_VALUE_H
 
 #include <qx/attributeValues.h>
+#include <qx/wireBuffer.h>
 
 // Value of an attribute whose datatype has no C++ form: the octets alone.
 //
@@ -15,6 +16,11 @@ public:
 
     const DtValueBuffer& octets() const { return myOctets; }
     void setOctets(const DtValueBuffer& octets) { myOctets = octets; }
+
+    // As an element or field: never, see above.
+    void encode(DtWireWriter& writer) const { writer.refuse("the model does not define the datatype"); }
+    bool decode(DtWireReader& reader) { return reader.fail("the model does not define the datatype"); }
+    static unsigned int octetBoundary() { return 1; }
 
 private:
     DtValueBuffer myOctets;

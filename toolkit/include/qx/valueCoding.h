@@ -5,7 +5,8 @@
 #include <qx/wireFormat.h>
 
 // Coding of one attribute or parameter with an answer: false means that the value has no wire form here (writing) or
-// that the octets are not one of its values (reading). What was written before a refusal is not to be sent.
+// that the octets are not one of its values (reading). What was written before a refusal is not to be sent. A value
+// takes the whole buffer: octets behind it are a failure too. The value is then as it was.
 
 template <class Value>
 bool DtWriteValue(DtWireWriter& writer, const Value& value, const DtWireForm& form)
@@ -23,7 +24,13 @@ inline bool DtWriteValue(DtWireWriter& writer, const DtOpaqueValue&, const DtWir
 template <class Value>
 bool DtReadValue(DtWireReader& reader, Value& value, const DtWireForm& form)
 {
-    return DtDecodeValue(reader, value, form);
+    Value taken(value);
+    if (!DtDecodeValue(reader, taken, form))
+        return false;
+    if (!reader.atEnd())
+        return reader.fail("octets are left over behind the value");
+    value = taken;
+    return true;
 }
 
 inline bool DtReadValue(DtWireReader& reader, DtOpaqueValue&, const DtWireForm&)

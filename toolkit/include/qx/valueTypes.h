@@ -65,6 +65,7 @@ public:
     DtGlobalObjectDesignator() {}
     DtGlobalObjectDesignator(const char* name) : myName(name) {}
     DtGlobalObjectDesignator(const DtString& name) : myName(name) {}
+    DtGlobalObjectDesignator(const std::string& name) : myName(name) {}
 
     const DtString& name() const { return myName; }
     const char* c_str() const { return myName.c_str(); }

@@ -3,7 +3,8 @@
 
 #include <qx/wireNumbers.h>
 
-// Arrays. Elements are padded to their boundary one by one; nothing is added behind the last.
+// Arrays. Elements are padded to their boundary one by one; nothing is added behind the last, and nothing behind a
+// count of 0. An array of several dimensions is one of all its elements, the last index running fastest.
 
 // An element at a time is taken in, so a count that the octets cannot bear costs no memory.
 template <class Container>
@@ -45,6 +46,7 @@ struct DtElementReader
     int idle;
 };
 
+// A padding array has no boundary of its own: it gives one to what follows.
 template <class Element>
 unsigned int DtArrayBoundary(const DtArrayLayout& layout, const DtWireForm& elementForm, const DtWireTrail* trail)
 {
@@ -52,22 +54,98 @@ unsigned int DtArrayBoundary(const DtArrayLayout& layout, const DtWireForm& elem
     {
     case DtVariableArray:
         return DtLargerBoundary(4, DtBoundaryOfType<Element>(elementForm, trail));
-    case DtPaddingTo32Array:
-    case DtPaddingTo64Array:
+    case DtPaddingArray:
         return 1;
     default:
         return DtBoundaryOfType<Element>(elementForm, trail);
     }
 }
 
-inline std::size_t DtOctetsUpTo(std::size_t offset, std::size_t boundary)
+// The octets that end a null-terminated array: an element at its start, all of it zero.
+template <class Element>
+struct DtTerminator
 {
-    return (boundary - offset % boundary) % boundary;
+    explicit DtTerminator(const DtWireForm& elementForm)
+        : boundary(DtBoundaryOfType<Element>(elementForm)), length(octetsOf(Element(), elementForm).size())
+    {
+    }
+
+    static std::vector<DtU8> octetsOf(const Element& element, const DtWireForm& form)
+    {
+        DtWireWriter writer;
+        DtEncodeValue<Element>(writer, element, form);
+        return writer.bytes();
+    }
+    bool is(const std::vector<DtU8>& octets) const
+    {
+        if (octets.size() < length)
+            return false;
+        for (std::size_t i = 0; i < length; ++i)
+            if (octets[i] != 0)
+                return false;
+        return true;
+    }
+    // Passes over it, if it is there.
+    bool take(DtWireReader& reader) const
+    {
+        DtWireReader ahead(reader);
+        std::vector<DtU8> octets(length);
+        if (!ahead.pad(boundary) || !ahead.getBytes(octets.data(), length) || !is(octets))
+            return false;
+        reader = ahead;
+        return true;
+    }
+
+    unsigned int boundary;
+    std::size_t length;
+};
+
+template <class Container>
+void DtEncodeTerminatedArray(DtWireWriter& writer, const Container& elements, const DtWireForm& elementForm)
+{
+    typedef typename Container::value_type Element;
+    const DtTerminator<Element> terminator(elementForm);
+    if (terminator.length == 0)
+        return writer.refuse("elements without octets cannot be terminated");
+    for (typename Container::const_iterator i = elements.begin(); i != elements.end(); ++i)
+    {
+        if (terminator.is(DtTerminator<Element>::octetsOf(*i, elementForm)))
+            return writer.refuse("an element would end its null-terminated array");
+        DtEncodeValue<Element>(writer, *i, elementForm);
+    }
+    writer.pad(terminator.boundary);
+    const std::vector<DtU8> zeros(terminator.length);
+    writer.putBytes(zeros.data(), zeros.size());
 }
 
-inline std::size_t DtPaddingUnit(const DtArrayLayout& layout)
+template <class Container>
+bool DtDecodeTerminatedArray(DtWireReader& reader, Container& elements, const DtWireForm& elementForm)
 {
-    return layout.kind == DtPaddingTo32Array ? 4 : 8;
+    typedef typename Container::value_type Element;
+    const DtTerminator<Element> terminator(elementForm);
+    if (terminator.length == 0)
+        return reader.fail("elements without octets cannot be terminated");
+    DtElementReader<Container> source(reader, elements, elementForm);
+    while (!terminator.take(reader))
+        if (!source.next())
+            return false;
+    return true;
+}
+
+// Closes the reader: what follows could not be told from another element.
+template <class Container>
+bool DtDecodeLengthlessArray(DtWireReader& reader, Container& elements, const DtWireForm& elementForm)
+{
+    DtElementReader<Container> source(reader, elements, elementForm);
+    while (!reader.atEnd())
+    {
+        if (!source.next())
+            return false;
+        if (reader.isClosed())
+            return reader.fail("elements without length cannot be told apart");
+    }
+    reader.close();
+    return true;
 }
 
 template <class Container>
@@ -75,32 +153,53 @@ void DtEncodeArray(DtWireWriter& writer, const Container& elements, const DtArra
                    const DtWireForm& elementForm)
 {
     typedef typename Container::value_type Element;
-    if (layout.kind == DtPaddingTo32Array || layout.kind == DtPaddingTo64Array)
-        return writer.pad(static_cast<unsigned int>(DtPaddingUnit(layout)));
-    if (layout.kind == DtVariableArray)
+    switch (layout.kind)
+    {
+    case DtPaddingArray:
+        return writer.pad(layout.count);
+    case DtNullTerminatedArray:
+        return DtEncodeTerminatedArray(writer, elements, elementForm);
+    case DtUnknownArray:
+        return writer.refuse("the encoding of the array is not known");
+    case DtFixedArray:
+        if (layout.count != elements.size())
+            return writer.refuse("a fixed array has another number of elements");
+        break;
+    case DtVariableArray:
+        if (elements.size() > 0x7fffffff)
+            return writer.refuse("the array has too many elements");
         writer.putInteger(elements.size(), 4);
-    if (layout.kind == DtFixedArray && layout.count != elements.size())
-        return writer.refuse("a fixed array has another number of elements");
+        break;
+    case DtLengthlessArray:
+        break;
+    }
     for (typename Container::const_iterator i = elements.begin(); i != elements.end(); ++i)
         DtEncodeValue<Element>(writer, *i, elementForm);
-    if (layout.kind == DtNullTerminatedArray)
-        writer.putInteger(0, DtBoundaryOfType<Element>(elementForm));
 }
 
+// Takes the elements in behind those that the container holds.
 template <class Container>
-bool DtDecodeTerminatedArray(DtWireReader& reader, Container& elements, const DtWireForm& elementForm)
+bool DtDecodeElements(DtWireReader& reader, Container& elements, const DtArrayLayout& layout,
+                      const DtWireForm& elementForm)
 {
     DtElementReader<Container> source(reader, elements, elementForm);
-    const unsigned int unit = DtBoundaryOfType<typename Container::value_type>(elementForm);
-    for (;;)
+    DtU64 count = layout.count;
+    switch (layout.kind)
     {
-        DtWireReader ahead(reader); // looks for the zero without taking anything
-        DtU64 bits;
-        if (ahead.getInteger(bits, unit) && bits == 0)
-            return reader.skip(unit);
-        if (!source.next())
-            return false;
+    case DtVariableArray:
+        return reader.getInteger(count, 4) && source.nextOf(count);
+    case DtFixedArray:
+        return source.nextOf(count);
+    case DtLengthlessArray:
+        return DtDecodeLengthlessArray(reader, elements, elementForm);
+    case DtNullTerminatedArray:
+        return DtDecodeTerminatedArray(reader, elements, elementForm);
+    case DtPaddingArray:
+        return reader.pad(layout.count);
+    case DtUnknownArray:
+        break;
     }
+    return reader.fail("the encoding of the array is not known");
 }
 
 // Replaces the elements; on failure they are as they were.
@@ -111,29 +210,7 @@ bool DtDecodeArray(DtWireReader& reader, Container& elements, const DtArrayLayou
     if (!reader.enter())
         return false;
     Container taken;
-    DtElementReader<Container> source(reader, taken, elementForm);
-    DtU64 count = layout.count;
-    bool done = false;
-    switch (layout.kind)
-    {
-    case DtVariableArray:
-        done = reader.getInteger(count, 4) && source.nextOf(count);
-        break;
-    case DtFixedArray:
-        done = source.nextOf(count);
-        break;
-    case DtLengthlessArray:
-        for (done = true; done && !reader.atEnd();)
-            done = source.next();
-        break;
-    case DtNullTerminatedArray:
-        done = DtDecodeTerminatedArray(reader, taken, elementForm);
-        break;
-    case DtPaddingTo32Array:
-    case DtPaddingTo64Array:
-        done = reader.skip(DtOctetsUpTo(reader.offset(), DtPaddingUnit(layout)));
-        break;
-    }
+    const bool done = DtDecodeElements(reader, taken, layout, elementForm);
     reader.leave();
     if (done)
         elements.swap(taken);
@@ -146,11 +223,11 @@ struct DtWireTraits<std::vector<Element>, void>
 {
     static void encode(DtWireWriter& writer, const std::vector<Element>& value, const DtWireForm& form)
     {
-        DtEncodeArray(writer, value, layout(form, value.size()), elementForm(form));
+        DtEncodeArray(writer, value, DtLayoutOf(form), elementForm(form));
     }
     static bool decode(DtWireReader& reader, std::vector<Element>& value, const DtWireForm& form)
     {
-        return DtDecodeArray(reader, value, layout(form, value.size()), elementForm(form));
+        return DtDecodeArray(reader, value, DtLayoutOf(form), elementForm(form));
     }
     static unsigned int boundary(const DtWireForm& form, const DtWireTrail* trail)
     {
@@ -158,13 +235,9 @@ struct DtWireTraits<std::vector<Element>, void>
     }
 
 private:
-    static DtWireForm elementForm(const DtWireForm& form) { return DtWireForm(form.representation); }
-    static DtArrayLayout layout(const DtWireForm& form, std::size_t present)
+    static DtWireForm elementForm(const DtWireForm& form)
     {
-        DtArrayLayout layout = DtLayoutOf(form);
-        if (layout.count <= 1)
-            layout.count = present;
-        return layout;
+        return DtWireForm(form.representation, "", "", -1, form.octets, form.isLittleEndian);
     }
 };
 

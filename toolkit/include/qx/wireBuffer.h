@@ -1,8 +1,8 @@
 #ifndef QX_WIRE_BUFFER_H
 #define QX_WIRE_BUFFER_H
 
-// Octets on their way out and in. Offsets and padding count from the start of the buffer, which is the start of one
-// attribute or parameter value.
+// Octets on their way out and in. The buffer starts with one attribute or parameter value; offsets count from there,
+// and padding counts from where the innermost record began.
 
 #include <qx/valueTypes.h>
 
@@ -15,7 +15,7 @@
 class DtWireWriter
 {
 public:
-    DtWireWriter() : myReason(nullptr) {}
+    DtWireWriter() : myOrigin(0), myReason(nullptr) {}
 
     bool ok() const { return myReason == nullptr; }
     const char* reason() const { return myReason ? myReason : ""; }
@@ -27,19 +27,26 @@ public:
     }
 
     std::size_t size() const { return myOctets.size(); }
+    std::size_t offset() const { return myOctets.size(); }
     const DtU8* data() const { return myOctets.data(); }
     const std::vector<DtU8>& bytes() const { return myOctets; }
     void clear()
     {
         myOctets.clear();
+        myOrigin = 0;
         myReason = nullptr;
     }
 
+    // Where padding counts from.
+    std::size_t origin() const { return myOrigin; }
+    void setOrigin(std::size_t offset) { myOrigin = offset; }
+
     // Zeros up to the next multiple of the boundary; 0 and 1 add none.
-    void pad(unsigned int boundary)
+    void pad(std::size_t boundary)
     {
-        if (boundary > 1 && myOctets.size() % boundary != 0)
-            myOctets.resize(myOctets.size() + boundary - myOctets.size() % boundary, DtU8(0));
+        const std::size_t over = boundary > 1 ? (offset() - myOrigin) % boundary : 0;
+        if (over != 0)
+            myOctets.resize(myOctets.size() + boundary - over, DtU8(0));
     }
     void putByte(DtU8 octet) { myOctets.push_back(octet); }
     void putBytes(const void* octets, std::size_t count)
@@ -73,6 +80,7 @@ public:
 
 private:
     std::vector<DtU8> myOctets;
+    std::size_t myOrigin;
     const char* myReason; // null while all is well
 };
 
@@ -84,7 +92,13 @@ class DtWireReader
 public:
     explicit DtWireReader(const std::vector<DtU8>& octets) : DtWireReader(octets.data(), octets.size()) {}
     DtWireReader(const void* octets, std::size_t size)
-        : myOctets(static_cast<const DtU8*>(octets)), mySize(size), myOffset(0), myDepth(0), myReason(nullptr)
+        : myOctets(static_cast<const DtU8*>(octets)),
+          mySize(size),
+          myOffset(0),
+          myOrigin(0),
+          myDepth(0),
+          myIsClosed(false),
+          myReason(nullptr)
     {
     }
 
@@ -102,6 +116,14 @@ public:
     std::size_t remaining() const { return mySize - myOffset; }
     bool atEnd() const { return myOffset == mySize; }
 
+    // Where padding counts from.
+    std::size_t origin() const { return myOrigin; }
+    void setOrigin(std::size_t offset) { myOrigin = offset; }
+
+    // To be called behind a part that reaches to the end of the octets by its nature: no value can follow it.
+    void close() { myIsClosed = true; }
+    bool isClosed() const { return myIsClosed; }
+
     bool skip(std::size_t count)
     {
         if (!has(count))
@@ -110,10 +132,20 @@ public:
         return true;
     }
     // Passes over what the writer's pad added; its content is not looked at.
-    bool pad(unsigned int boundary)
+    bool pad(std::size_t boundary)
     {
-        const std::size_t over = boundary > 1 ? myOffset % boundary : 0;
+        const std::size_t over = boundary > 1 ? (myOffset - myOrigin) % boundary : 0;
         return over == 0 ? ok() : skip(boundary - over);
+    }
+    // Takes the next octets out as a buffer of their own, which is read apart from this one.
+    bool split(std::size_t count, DtWireReader& part)
+    {
+        if (!has(count))
+            return false;
+        part = DtWireReader(myOctets + myOffset, count);
+        part.myDepth = myDepth;
+        myOffset += count;
+        return true;
     }
     bool getByte(DtU8& octet) { return getBytes(&octet, 1); }
     bool getBytes(void* octets, std::size_t count)
@@ -125,26 +157,24 @@ public:
         myOffset += count;
         return true;
     }
-    // The next octet without taking it.
-    bool peekByte(DtU8& octet)
-    {
-        if (!has(1))
-            return false;
-        octet = myOctets[myOffset];
-        return true;
-    }
-    // Octets of more than eight count only as far as they fit.
-    bool getInteger(DtU64& bits, unsigned int octets, bool little = false)
+    // A number of fewer than eight octets fills them with its sign, or with zeros; one of more has to fit into eight.
+    bool getInteger(DtU64& bits, unsigned int octets, bool little = false, bool isSigned = false)
     {
         if (!has(octets))
             return false;
-        bits = 0;
+        const std::size_t high = myOffset + (little ? octets - 1 : 0);
+        const DtU8 filler = isSigned && octets > 0 && (myOctets[high] & 0x80) != 0 ? 0xff : 0x00;
+        DtU64 taken = filler ? ~DtU64(0) : 0;
         for (unsigned int i = 0; i < octets; ++i)
         {
-            const unsigned int place = little ? i : octets - 1 - i;
-            if (place < 8)
-                bits |= static_cast<DtU64>(myOctets[myOffset + i]) << (8 * place);
+            const DtU8 octet = myOctets[myOffset + (little ? octets - 1 - i : i)];
+            if (octets - i > 8 && octet != filler)
+                return fail("the number has more than 64 bits");
+            taken = taken << 8 | octet;
         }
+        if (octets > 8 && isSigned && (taken >> 63 != 0) != (filler != 0))
+            return fail("the number has more than 64 bits");
+        bits = taken;
         myOffset += octets;
         return true;
     }
@@ -183,9 +213,28 @@ private:
     }
 
     const DtU8* myOctets;
-    std::size_t mySize, myOffset;
+    std::size_t mySize, myOffset, myOrigin;
     int myDepth;
+    bool myIsClosed;
     const char* myReason; // null while all is well
+};
+
+// As long as it lives, padding counts from where it was made: the start of a record.
+template <class Buffer>
+class DtRecordScope
+{
+public:
+    explicit DtRecordScope(Buffer& buffer) : myBuffer(buffer), myOuter(buffer.origin())
+    {
+        myBuffer.setOrigin(myBuffer.offset());
+    }
+    DtRecordScope(const DtRecordScope&) = delete;
+    DtRecordScope& operator=(const DtRecordScope&) = delete;
+    ~DtRecordScope() { myBuffer.setOrigin(myOuter); }
+
+private:
+    Buffer& myBuffer;
+    const std::size_t myOuter;
 };
 
 #endif

@@ -7,21 +7,44 @@
 
 #include <cstring>
 
-// Names out of a model: the datatype, the last representation that it leads to, and the encoding of an array or record.
+// Names out of a model: the datatype, the last representation that it leads to, and the encoding of an array or record;
+// with them what the model's tables give for the number that the datatype ends at.
 //
-// Made of literals in generated code. An empty name says nothing; the local type then decides.
+// Made of literals in generated code. An empty name, a count of -1 and a length of 0 say nothing: the length and the
+// byte order then follow from the names, or from the local type.
 struct DtWireForm
 {
     constexpr DtWireForm(const char* datatypeName = "", const char* representationName = "",
-                         const char* encodingName = "", unsigned int elementCount = 0)
-        : datatype(datatypeName), representation(representationName), encoding(encodingName), count(elementCount)
+                         const char* encodingName = "", int elementCount = -1, unsigned int numberOctets = 0,
+                         bool numberIsLittleEndian = false)
+        : datatype(datatypeName),
+          representation(representationName),
+          encoding(encodingName),
+          count(elementCount),
+          octets(numberOctets),
+          isLittleEndian(numberIsLittleEndian)
     {
     }
 
     const char* datatype;
     const char* representation;
     const char* encoding;
-    unsigned int count; // elements of a fixed array; 0 and 1 leave it open
+    int count;           // elements of a fixed array, over all of its dimensions
+    unsigned int octets; // length of the number, or of one element
+    bool isLittleEndian; // counts together with octets only
+};
+
+// Length, sign and byte order of an integer that stands for an enumeration; 0 octets when nobody tells.
+struct DtNumberForm
+{
+    constexpr DtNumberForm(unsigned int octetCount = 0, bool hasSign = false, bool littleEndian = false)
+        : octets(octetCount), isSigned(hasSign), isLittleEndian(littleEndian)
+    {
+    }
+
+    unsigned int octets;
+    bool isSigned;
+    bool isLittleEndian;
 };
 
 enum DtArrayKind
@@ -29,20 +52,17 @@ enum DtArrayKind
     DtVariableArray, // count in four octets, then the elements
     DtFixedArray,
     DtLengthlessArray,     // elements up to the end of the value
-    DtNullTerminatedArray, // elements up to a zero
-    DtPaddingTo32Array,    // as many octets as bring the offset to a multiple of 4 ...
-    DtPaddingTo64Array     // ... and of 8
+    DtNullTerminatedArray, // elements up to one whose octets are all zero
+    DtPaddingArray,        // as many octets as bring the enclosing record to a multiple of a number of octets
+    DtUnknownArray         // no wire form
 };
 
 struct DtArrayLayout
 {
-    DtArrayLayout(DtArrayKind layoutKind = DtVariableArray, std::size_t elementCount = 0)
-        : kind(layoutKind), count(elementCount)
-    {
-    }
+    DtArrayLayout(DtArrayKind layoutKind = DtVariableArray, std::size_t number = 0) : kind(layoutKind), count(number) {}
 
     DtArrayKind kind;
-    std::size_t count; // of a fixed array
+    std::size_t count; // elements of a fixed array, octets of the multiple of a padding array
 };
 
 inline bool DtTextIs(const char* text, const char* other)
@@ -81,7 +101,7 @@ inline bool DtHasByteOrder(const char* name, char first)
 
 inline bool DtIsLittleEndian(const DtWireForm& form)
 {
-    return DtHasByteOrder(DtRepresentationOf(form), 'L');
+    return form.octets != 0 ? form.isLittleEndian : DtHasByteOrder(DtRepresentationOf(form), 'L');
 }
 
 // Length of a representation by its name, in octets; 0 when the name does not tell.
@@ -134,8 +154,23 @@ inline bool DtIsUnsignedByName(const char* name)
            (std::strstr(name, "nteger") == nullptr || std::strstr(name, "nsigned") != nullptr);
 }
 
-// The layout that the encoding of an array stands for; an unknown one counts as fixed where the number of elements is
-// known, else as variable.
+// The number of octets that a padding array fills up to a multiple of, from the bits in a name such as
+// "RPRpaddingTo32Array"; 0 for other encodings.
+inline std::size_t DtPaddingUnit(const char* encoding)
+{
+    const char* at = std::strstr(encoding, "addingTo");
+    if (!at)
+        return 0;
+    std::size_t bits = 0;
+    while (*at && (*at < '0' || *at > '9'))
+        ++at;
+    for (; *at >= '0' && *at <= '9' && bits < 100000; ++at)
+        bits = bits * 10 + static_cast<std::size_t>(*at - '0');
+    return bits % 8 == 0 ? bits / 8 : 0;
+}
+
+// The layout that the encoding of an array stands for. One that is not in the table is fixed where the model gives the
+// number of elements, else without length; bits are not packed. Where nothing is said at all, the array is variable.
 inline DtArrayLayout DtLayoutOf(const DtWireForm& form)
 {
     struct Row
@@ -144,21 +179,26 @@ inline DtArrayLayout DtLayoutOf(const DtWireForm& form)
         DtArrayKind kind;
     };
     static const Row theRows[] = {
+        {"",                       DtVariableArray      },
+        {"HLAvariableArray",       DtVariableArray      },
         {"HLAfixedArray",          DtFixedArray         },
         {"HLAnullTerminatedArray", DtNullTerminatedArray},
         {"NullTerminatedArray",    DtNullTerminatedArray},
         {"RPRnullTerminatedArray", DtNullTerminatedArray},
         {"HLAlengthlessVarArray",  DtLengthlessArray    },
         {"RPRlengthlessArray",     DtLengthlessArray    },
-        {"HLApaddingTo32Array",    DtPaddingTo32Array   },
-        {"RPRpaddingTo32Array",    DtPaddingTo32Array   },
-        {"HLApaddingTo64Array",    DtPaddingTo64Array   },
-        {"RPRpaddingTo64Array",    DtPaddingTo64Array   }
+        {"HLAbitArray",            DtUnknownArray       },
+        {"BitArray",               DtUnknownArray       }
     };
+    if (const std::size_t unit = DtPaddingUnit(form.encoding))
+        return DtArrayLayout(DtPaddingArray, unit);
+    DtArrayKind kind = form.count > 0 ? DtFixedArray : DtLengthlessArray;
     for (const Row& row : theRows)
         if (DtTextIs(row.encoding, form.encoding))
-            return DtArrayLayout(row.kind, form.count);
-    return form.count > 1 ? DtArrayLayout(DtFixedArray, form.count) : DtArrayLayout();
+            kind = row.kind;
+    if (kind == DtFixedArray && form.count < 0)
+        return DtArrayLayout(DtUnknownArray);
+    return DtArrayLayout(kind, kind == DtFixedArray ? static_cast<std::size_t>(form.count) : 0);
 }
 
 #endif

@@ -12,14 +12,16 @@
 //
 // A template writes the form of an attribute or parameter as
 //
-//     DtWireForm("<!AttributeFomDatatype!>", "<!AttributeDatatypeDatatype!>", R"qx(<!AttributeEncoding!>)qx")
+//     DtWireForm("<!AttributeFomDatatype!>", "<!AttributeDatatypeDatatype!>", R"qx(<!AttributeEncoding!>)qx",
+//         <!AttributeElementCount!>, <!AttributeOctets!>, <!AttributeIsLittleEndian!>)
 //
 // in which the raw literal matters: an encoding may be whole sentences with quotes in them. The form tells what the C++
-// type does not: byte order, 4 octets for HLAboolean, the kind of a string, the length of an enumeration.
+// type does not: length and byte order of a number, the kind of a string. Enumerations tell theirs themselves.
 
 #include <qx/wireArrays.h>
 #include <qx/wireNumbers.h>
 #include <qx/wireStrings.h>
+#include <qx/wireVariants.h>
 
 // The other classes of the toolkit.
 

@@ -8,24 +8,41 @@
 
 // Numbers of a given length and byte order; the length need not be that of the C++ type.
 
+// Whether the low octets hold the whole number.
+inline bool DtFitsInto(DtU64 bits, bool isSigned, unsigned int octets)
+{
+    if (octets >= 8 || octets == 0)
+        return octets != 0;
+    const DtU64 rest = bits >> (8 * octets - (isSigned ? 1 : 0));
+    const DtU64 ones = ~DtU64(0) >> (8 * octets - (isSigned ? 1 : 0));
+    return rest == 0 || (isSigned && rest == ones);
+}
+
 template <class Number>
 typename std::enable_if<std::is_integral<Number>::value>::type DtPutNumber(DtWireWriter& writer, Number value,
                                                                            unsigned int octets, bool little)
 {
-    writer.putInteger(static_cast<DtU64>(value), octets, little,
-                      std::is_signed<Number>::value && value < Number(1) && value != 0);
+    const bool isSigned = std::is_signed<Number>::value;
+    const DtU64 bits = static_cast<DtU64>(value);
+    if (octets == 0)
+        return writer.refuse("the number has no length");
+    if (!DtFitsInto(bits, isSigned, octets))
+        return writer.refuse("the number is too large for its octets");
+    writer.putInteger(bits, octets, little, isSigned && bits >> 63 != 0);
 }
 
 template <class Number>
 typename std::enable_if<std::is_integral<Number>::value, bool>::type DtGetNumber(DtWireReader& reader, Number& value,
                                                                                  unsigned int octets, bool little)
 {
+    const bool isSigned = std::is_signed<Number>::value;
     DtU64 bits;
-    if (!reader.getInteger(bits, octets, little))
+    if (octets == 0)
+        return reader.fail("the number has no length");
+    if (!reader.getInteger(bits, octets, little, isSigned))
         return false;
-    const bool negative = octets > 0 && octets < 8 && (bits >> (8 * octets - 1) & 1) != 0;
-    if (std::is_signed<Number>::value && negative)
-        bits |= ~DtU64(0) << (8 * octets);
+    if (!DtFitsInto(bits, isSigned, sizeof(Number)))
+        return reader.fail("the number is too large for its type");
     value = static_cast<Number>(bits);
     return true;
 }
@@ -62,13 +79,16 @@ struct DtWireTraits<
 {
     static void encode(DtWireWriter& writer, const Number& value, const DtWireForm& form)
     {
-        DtPutNumber(writer, value, sizeof(Number), DtIsLittleEndian(form));
+        DtPutNumber(writer, value, octets(form), DtIsLittleEndian(form));
     }
     static bool decode(DtWireReader& reader, Number& value, const DtWireForm& form)
     {
-        return DtGetNumber(reader, value, sizeof(Number), DtIsLittleEndian(form));
+        return DtGetNumber(reader, value, octets(form), DtIsLittleEndian(form));
     }
-    static unsigned int boundary(const DtWireForm&, const DtWireTrail*) { return sizeof(Number); }
+    static unsigned int boundary(const DtWireForm& form, const DtWireTrail*) { return DtNumberBoundary(octets(form)); }
+
+private:
+    static unsigned int octets(const DtWireForm& form) { return form.octets != 0 ? form.octets : sizeof(Number); }
 };
 
 template <>
@@ -86,17 +106,20 @@ struct DtWireTraits<bool, void>
         value = bits != 0;
         return true;
     }
-    static unsigned int boundary(const DtWireForm& form, const DtWireTrail*) { return octets(form); }
+    static unsigned int boundary(const DtWireForm& form, const DtWireTrail*) { return DtNumberBoundary(octets(form)); }
 
 private:
     static unsigned int octets(const DtWireForm& form)
     {
+        if (form.octets != 0)
+            return form.octets;
         return DtTextIs(form.datatype, "HLAboolean") || DtTextIs(form.representation, "HLAboolean") ? 4 : 1;
     }
 };
 
-// Enumerations: the length follows from the representation, else from a number at the end of the enumeration's name,
-// else it is 4 octets.
+// Enumerations: the number that the enumeration's own table tells of goes ahead of what a form says. Without either the
+// length follows from the name of the representation, else from a number at the end of the enumeration's name, else it
+// is 4 octets. A number that no enumerator has is a value all the same.
 template <class Enumeration>
 struct DtWireTraits<Enumeration, typename std::enable_if<std::is_enum<Enumeration>::value>::type>
 {
@@ -104,29 +127,39 @@ struct DtWireTraits<Enumeration, typename std::enable_if<std::is_enum<Enumeratio
 
     static void encode(DtWireWriter& writer, const Enumeration& value, const DtWireForm& form)
     {
-        DtPutNumber(writer, static_cast<Number>(value), octets(form), DtIsLittleEndian(form));
+        const DtNumberForm number = numberForm(form);
+        const DtU64 bits = static_cast<DtU64>(static_cast<Number>(value));
+        if (!DtFitsInto(bits, number.isSigned, number.octets))
+            return writer.refuse("the enumerator is too large for its octets");
+        writer.putInteger(bits, number.octets, number.isLittleEndian, number.isSigned && bits >> 63 != 0);
     }
     static bool decode(DtWireReader& reader, Enumeration& value, const DtWireForm& form)
     {
-        DtU64 bits = 0;
-        DtInt64 number = 0;
-        const unsigned int length = octets(form);
-        const bool little = DtIsLittleEndian(form);
-        if (DtIsUnsignedByName(form.representation) ? !reader.getInteger(bits, length, little)
-                                                    : !DtGetNumber(reader, number, length, little))
+        const DtNumberForm number = numberForm(form);
+        DtU64 bits;
+        if (!reader.getInteger(bits, number.octets, number.isLittleEndian, number.isSigned))
             return false;
-        value = static_cast<Enumeration>(static_cast<Number>(bits | static_cast<DtU64>(number)));
+        if (static_cast<DtU64>(static_cast<Number>(bits)) != bits)
+            return reader.fail("the number is too large for its type");
+        value = static_cast<Enumeration>(static_cast<Number>(bits));
         return true;
     }
-    static unsigned int boundary(const DtWireForm& form, const DtWireTrail*) { return octets(form); }
+    static unsigned int boundary(const DtWireForm& form, const DtWireTrail*)
+    {
+        return DtNumberBoundary(numberForm(form).octets);
+    }
 
 private:
-    static unsigned int octets(const DtWireForm& form)
+    static DtNumberForm numberForm(const DtWireForm& form)
     {
-        unsigned int length = DtOctetsByName(form.representation);
+        const DtEnumeratorTable table = DtNamesOfType<Enumeration>();
+        if (table.number.octets != 0)
+            return table.number;
+        unsigned int length = form.octets != 0 ? form.octets : DtOctetsByName(form.representation);
         if (length == 0)
-            length = DtOctetsByName(DtNamesOfType<Enumeration>().typeName);
-        return length == 0 || length > 8 ? 4 : length;
+            length = DtOctetsByName(table.typeName);
+        return DtNumberForm(length == 0 || length > 8 ? 4 : length, !DtIsUnsignedByName(form.representation),
+                            DtIsLittleEndian(form));
     }
 };
 

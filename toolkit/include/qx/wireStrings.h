@@ -7,6 +7,8 @@
 
 inline bool DtIsWideString(const DtWireForm& form)
 {
+    if (form.octets != 0)
+        return form.octets == 2;
     return std::strstr(form.datatype, "nicode") || std::strstr(form.representation, "nicode") ||
            std::strstr(form.representation, "octetPair");
 }
@@ -97,18 +99,20 @@ struct DtWireTraits<DtString, void>
     }
 
 private:
-    static DtWireForm unitForm(const DtWireForm& form) { return DtWireForm(form.representation); }
+    static DtWireForm unitForm(const DtWireForm& form)
+    {
+        return DtWireForm(form.representation, "", "", -1, form.octets, form.isLittleEndian);
+    }
     // A fixed string has the length of the form, or the one that its datatype's name ends with; without either it
     // reaches to the end of the value.
     static DtArrayLayout layout(const DtWireForm& form)
     {
-        DtArrayLayout layout =
-            DtTextIs(form.datatype, "string") ? DtArrayLayout(DtNullTerminatedArray) : DtLayoutOf(form);
-        if (layout.kind == DtFixedArray && layout.count <= 1)
-            layout.count = DtTrailingNumber(form.datatype);
-        if (layout.kind == DtFixedArray && layout.count == 0)
-            layout.kind = DtLengthlessArray;
-        return layout;
+        if (DtTextIs(form.datatype, "string"))
+            return DtArrayLayout(DtNullTerminatedArray);
+        if (!DtTextIs(form.encoding, "HLAfixedArray") || form.count > 1)
+            return DtLayoutOf(form);
+        const std::size_t number = DtTrailingNumber(form.datatype);
+        return number != 0 ? DtArrayLayout(DtFixedArray, number) : DtArrayLayout(DtLengthlessArray);
     }
     template <class Unit>
     static void encodeUnits(DtWireWriter& writer, std::vector<Unit> units, const DtWireForm& form)

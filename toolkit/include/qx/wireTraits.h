@@ -30,37 +30,17 @@ inline unsigned int DtLargerBoundary(unsigned int a, unsigned int b)
 template <class Type, class Enable = void>
 struct DtWireTraits
 {
-    static void encode(DtWireWriter& writer, const Type& value, const DtWireForm& form) { put(writer, value, form, 0); }
-    static bool decode(DtWireReader& reader, Type& value, const DtWireForm& form)
+    static void encode(DtWireWriter& writer, const Type& value, const DtWireForm&) { value.encode(writer); }
+    static bool decode(DtWireReader& reader, Type& value, const DtWireForm&) { return value.decode(reader); }
+    static unsigned int boundary(const DtWireForm&, const DtWireTrail* trail)
     {
-        return get(reader, value, form, 0);
+        if (trail)
+            return own<Type>(trail, 0);
+        static const unsigned int theBoundary = own<Type>(nullptr, 0);
+        return theBoundary;
     }
-    static unsigned int boundary(const DtWireForm&, const DtWireTrail* trail) { return own<Type>(trail, 0); }
 
 private:
-    // Classes of simple datatypes take the form too, since the byte order of their representation is known to the user.
-    template <class Class>
-    static auto put(DtWireWriter& writer, const Class& value, const DtWireForm& form, int)
-        -> decltype(value.encode(writer, form))
-    {
-        return value.encode(writer, form);
-    }
-    template <class Class>
-    static void put(DtWireWriter& writer, const Class& value, const DtWireForm&, long)
-    {
-        value.encode(writer);
-    }
-    template <class Class>
-    static auto get(DtWireReader& reader, Class& value, const DtWireForm& form, int)
-        -> decltype(value.decode(reader, form))
-    {
-        return value.decode(reader, form);
-    }
-    template <class Class>
-    static bool get(DtWireReader& reader, Class& value, const DtWireForm&, long)
-    {
-        return value.decode(reader);
-    }
     template <class Class>
     static auto own(const DtWireTrail* trail, int) -> decltype(Class::octetBoundary(trail))
     {
@@ -95,6 +75,8 @@ void DtEncodeValue(DtWireWriter& writer, const Type& value, const DtWireForm& fo
 template <class Type>
 bool DtDecodeValue(DtWireReader& reader, Type& value, const DtWireForm& form)
 {
+    if (reader.isClosed())
+        return reader.fail("something follows an array without length");
     return reader.pad(DtBoundaryOfType<Type>(form)) && DtWireTraits<Type>::decode(reader, value, form);
 }
 

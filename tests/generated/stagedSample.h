@@ -1,0 +1,95 @@
+#ifndef TESTS_STAGED_SAMPLE_H
+#define TESTS_STAGED_SAMPLE_H
+
+// What the unseen window generates from a model, laid out for a compiler, and programs that are compiled with it.
+
+#include "codeGenApp/scratchProgram.h"
+
+#include <QtCore/QProcess>
+
+struct DtProgramRun
+{
+    int exitCode = -1;
+    QString output; // both streams; of the compiler when it failed
+};
+
+inline DtProgramRun runProgram(const QString& directory, const QString& program, const QStringList& arguments)
+{
+    QProcess process;
+    process.setWorkingDirectory(directory);
+    process.setProcessChannelMode(QProcess::MergedChannels);
+    process.start(program, arguments);
+    if (!process.waitForFinished(600000) || process.exitStatus() != QProcess::NormalExit)
+        return {-1, program + " did not end: " + QString::fromUtf8(process.readAll().left(4000))};
+    return {process.exitCode(), QString::fromUtf8(process.readAll())};
+}
+
+// The files of one run without the first part of their names, and a scratch directory around them.
+class DtStagedOutput
+{
+public:
+    // Generates everything of a model of this text, alone; without one, of the sample model with the standard one.
+    explicit DtStagedOutput(const QByteArray& modelText) { stage(myProgram.model("model.xml", modelText), false); }
+    DtStagedOutput() { stage(myProgram.sampleModel(), true); }
+
+    QString path() const { return myStage.path(); }
+    QString warnings() const { return myWarnings; }
+    // Names that match, sorted.
+    QStringList files(const QString& pattern) const
+    {
+        return filesBelow(path()).filter(QRegularExpression("^(" + pattern + ")$"));
+    }
+    QByteArray text(const QString& name) const { return readTextFile(path() + "/" + name); }
+
+    // Compiles these files and the given text as one unit; without a program only for errors.
+    QString compile(const QStringList& sources, const QByteArray& further, const QStringList& options,
+                    const QString& program = QString()) const
+    {
+        QByteArray unit;
+        for (const QString& source : sources)
+            unit += "#include \"" + source.toUtf8() + "\"\n";
+        writeTextFile(path() + "/unit.cpp", unit + further);
+        const QStringList target = program.isEmpty() ? QStringList{"-fsyntax-only"} : QStringList{"-o", program};
+        const DtProgramRun run =
+            runProgram(path(), "g++",
+                       QStringList{"-Wall", "-Wextra", "-Werror", "-I.", "-I" QX_SOURCE_DIR "/toolkit/include",
+                                   "-I" QX_SOURCE_DIR "/tests/generated", "unit.cpp"} +
+                           options + target);
+        return run.exitCode == 0 ? QString() : run.output.left(4000);
+    }
+
+private:
+    void stage(const DtString& model, bool standardMim)
+    {
+        const DtCapture warnings(DtWarn);
+        generate(model, standardMim);
+        myWarnings = warnings.text();
+        for (const QString& file : filesBelow(myProgram.path("out")))
+        {
+            const QString target = path() + "/" + QString(file).remove(QStringLiteral("cpp\\"));
+            QDir().mkpath(QFileInfo(target).path());
+            QFile::copy(myProgram.path("out/") + file, target);
+        }
+    }
+
+    void generate(const DtString& model, bool standardMim)
+    {
+        const auto window = myProgram.makeWindow(
+            [standardMim](DtCodeGenInitializer& initializer)
+            {
+                initializer.setGenerateExamples(false);
+                initializer.setIncludeStandardMIM(standardMim);
+            });
+        window->newOmtProject(DtFilename(myProgram.bytes(myProgram.path("models/model.qxproj"))));
+        QVERIFY(window->loadFile(model, ""));
+        window->addAllObjectInteractions();
+        window->setOutputDirectory(myProgram.path("out/"));
+        window->generateAllFiles();
+    }
+
+    DtScratchProgram myProgram;
+    QTemporaryDir myStage;
+    QString myWarnings; // of loading and generating
+};
+
+#endif

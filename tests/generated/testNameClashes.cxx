@@ -1,0 +1,216 @@
+// Models whose names C++ cannot hold side by side: what is generated compiles, or a warning says what does not.
+
+#include "registerTest.h"
+
+#include "stagedSample.h"
+
+namespace
+{
+QByteArray attribute(const char* name, const char* datatype)
+{
+    return QByteArray("<attribute><name>") + name + "</name><dataType>" + datatype + "</dataType></attribute>";
+}
+
+QByteArray enumeration(const char* name, const char* representation, std::initializer_list<const char*> enumerators)
+{
+    QByteArray text =
+        QByteArray("<enumeratedData><name>") + name + "</name><representation>" + representation + "</representation>";
+    int number = 0;
+    for (const char* each : enumerators)
+        text += QByteArray("<enumerator><name>") + each + "</name><value>" + QByteArray::number(number++) +
+                "</value></enumerator>";
+    return text + "</enumeratedData>";
+}
+
+QByteArray parts(const char* element, std::initializer_list<std::pair<const char*, const char*>> rows)
+{
+    QByteArray text;
+    for (const auto& [name, datatype] : rows)
+        text += QByteArray("<") + element + "><name>" + name + "</name><dataType>" + datatype + "</dataType></" +
+                element + ">";
+    return text;
+}
+
+QByteArray record(const char* name, std::initializer_list<std::pair<const char*, const char*>> fields)
+{
+    return QByteArray("<fixedRecordData><name>") + name + "</name><encoding>HLAfixedRecord</encoding>" +
+           parts("field", fields) + "</fixedRecordData>";
+}
+
+QByteArray model(const QByteArray& objectClasses, const QByteArray& interactionClasses, const QByteArray& datatypes)
+{
+    return "<?xml version=\"1.0\"?>\n<objectModel xmlns=\"http://standards.ieee.org/IEEE1516-2010\">"
+           "<modelIdentification><name>Clash</name></modelIdentification>"
+           "<objects><objectClass><name>HLAobjectRoot</name>" +
+           objectClasses + "</objectClass></objects><interactions><interactionClass><name>HLAinteractionRoot</name>" +
+           interactionClasses + "</interactionClass></interactions><dataTypes>" + datatypes +
+           "</dataTypes></objectModel>\n";
+}
+
+QByteArray objectClass(const char* name, const QByteArray& content)
+{
+    return QByteArray("<objectClass><name>") + name + "</name>" + content + "</objectClass>";
+}
+
+QByteArray enumerations(const QByteArray& content)
+{
+    return "<enumeratedDataTypes>" + content + "</enumeratedDataTypes>";
+}
+
+QByteArray records(const QByteArray& content)
+{
+    return "<fixedRecordDataTypes>" + content + "</fixedRecordDataTypes>";
+}
+
+void compareLines(const DtStagedOutput& output, const QStringList& expected)
+{
+    QCOMPARE(output.warnings().split('\n', Qt::SkipEmptyParts), expected);
+}
+
+QString compileErrors(const DtStagedOutput& output, const QByteArray& further = QByteArray())
+{
+    return output.compile(output.files(".*\\.cxx"), further, {"-std=c++17"});
+}
+} // namespace
+
+class TestNameClashes : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void enumeratorsThatAreCalledAlikeAreTold();
+    void enumerationsThatAreCalledAlikeAreTold();
+    void datatypesThatAreCalledAlikeAreTold();
+    void datatypeThatIsCalledLikeTheToolkitsIsTold();
+    void membersThatAreCalledAlikeAreTold();
+    void enumeratorBeyondItsRepresentationIsTold();
+    void hyphensAndSmallLettersNameTypes();
+    void wordsOfTheLanguageAndEmptyClassesCompile();
+    void discriminantThatSelectsNothingIsTold();
+};
+
+void TestNameClashes::enumeratorsThatAreCalledAlikeAreTold()
+{
+    const DtStagedOutput output(
+        model(objectClass("Buoy", attribute("Kind", "Kind8")), "",
+              enumerations(enumeration("Kind8", "HLAoctet", {"A-B", "AB", "A/B", "Nr. 1", "Nr_ 1"}))));
+    compareLines(output, {"Warning: Enumerator AB of Kind8 is called AB_2: another one is called AB too.",
+                          "Warning: Enumerator A/B of Kind8 is called AB_3: another one is called AB too.",
+                          "Warning: Enumerator Nr_ 1 of Kind8 is called Nr__1_2: another one is called Nr__1 too."});
+    const QString errors = compileErrors(output, "static_assert(static_cast<int>(DtKind8::eAB_3) == 2, \"\");\n");
+    QVERIFY2(errors.isEmpty(), qPrintable(errors));
+}
+
+void TestNameClashes::enumerationsThatAreCalledAlikeAreTold()
+{
+    const DtStagedOutput output(model(
+        objectClass("Buoy", attribute("One", "kind") + attribute("Two", "Kind")), "",
+        enumerations(enumeration("kind", "HLAoctet", {"A"}) + enumeration("Kind", "HLAinteger16BE", {"A", "B"}))));
+    compareLines(output, {"Warning: Enumeration Kind is left out: another one is called DtKind too."});
+    const QString errors = compileErrors(output);
+    QVERIFY2(errors.isEmpty(), qPrintable(errors));
+}
+
+void TestNameClashes::datatypesThatAreCalledAlikeAreTold()
+{
+    const DtStagedOutput output(model(objectClass("Buoy", attribute("One", "place") + attribute("Two", "Place")), "",
+                                      records(record("place",
+                                                     {
+                                                         {"X", "HLAfloat64BE"}
+    }) +
+                                              record("Place", {{"Y", "HLAfloat32BE"}}))));
+    compareLines(output, {"Warning: Datatypes place and Place are both called DtPlace in C++."});
+    const QString errors = compileErrors(output);
+    QVERIFY2(errors.isEmpty(), qPrintable(errors));
+}
+
+void TestNameClashes::datatypeThatIsCalledLikeTheToolkitsIsTold()
+{
+    const DtStagedOutput output(model(objectClass("Buoy", attribute("One", "Vector")), "",
+                                      records(record("Vector", {
+                                                                   {"X", "HLAfloat64BE"}
+    }))));
+    compareLines(output, {"Warning: Datatype Vector is called DtVector in C++, like a type of the toolkit."});
+}
+
+void TestNameClashes::membersThatAreCalledAlikeAreTold()
+{
+    const QByteArray parameters =
+        parts("parameter", {
+                               {"7th",  "HLAoctet"},
+                               {"Call", "HLAoctet"},
+                               {"call", "HLAoctet"}
+    });
+    const DtStagedOutput output(
+        model(objectClass("Buoy", attribute("Size", "HLAoctet") + attribute("size", "HLAoctet") +
+                                      attribute("theClass", "HLAoctet") + attribute("class", "Frame")),
+              "<interactionClass><name>Ring</name>" + parameters + "</interactionClass>",
+              records(record("Frame", {
+                                          {"X", "HLAoctet"},
+                                          {"x", "HLAoctet"}
+    }))));
+    compareLines(output,
+                 {"Warning: Members X and x of Frame are called alike in C++.",
+                  "Warning: Members Size and size of HLAobjectRoot.Buoy are called alike in C++.",
+                  "Warning: Members theClass and class of HLAobjectRoot.Buoy are called alike in C++.",
+                  "Warning: Member 7th of HLAinteractionRoot.Ring is called 7th in C++, which is no identifier.",
+                  "Warning: Members Call and call of HLAinteractionRoot.Ring are called alike in C++."});
+}
+
+void TestNameClashes::enumeratorBeyondItsRepresentationIsTold()
+{
+    QByteArray kind = enumeration("Kind8", "HLAoctet", {"A", "B"});
+    kind.replace("<value>1<", "<value>256<");
+    const DtStagedOutput output(model(objectClass("Buoy", attribute("One", "Kind8")), "", enumerations(kind)));
+    compareLines(output, {"Warning: Enumerator B of Kind8 does not fit into its representation."});
+}
+
+void TestNameClashes::hyphensAndSmallLettersNameTypes()
+{
+    const QByteArray variant =
+        "<variantRecordDataTypes><variantRecordData><name>signal-part</name><discriminant>Kind</discriminant>"
+        "<dataType>signal-kind</dataType><alternative><enumerator>Long-Blast</enumerator><name>Seconds</name>"
+        "<dataType>HLAfloat64BE</dataType></alternative><encoding>HLAvariantRecord</encoding>"
+        "</variantRecordData></variantRecordDataTypes>";
+    const DtStagedOutput output(
+        model(objectClass("Buoy", attribute("One", "signal-kind") + attribute("Two", "signal-part")), "",
+              enumerations(enumeration("signal-kind", "HLAinteger32LE", {"Silent", "Long-Blast"})) + variant));
+    compareLines(output, {});
+    const QString errors = compileErrors(
+        output, "static_assert(std::is_same<DtSignal__part::Discriminant, DtSignal__kind>::value, \"\");\n");
+    QVERIFY2(errors.isEmpty(), qPrintable(errors));
+}
+
+void TestNameClashes::wordsOfTheLanguageAndEmptyClassesCompile()
+{
+    const DtStagedOutput output(
+        model(objectClass("Buoy", attribute("switch", "HLAoctet") + attribute("Operator", "Frame") +
+                                      objectClass("Empty", objectClass("Light", attribute("new", "HLAoctet")))),
+              "<interactionClass><name>Ring</name><interactionClass><name>Answer</name>" +
+                  parts("parameter",
+                        {
+                            {"default", "HLAoctet"}
+    }) +
+                  "</interactionClass></interactionClass>",
+              records(record("Frame", {{"for", "HLAoctet"}, {"Double", "HLAfloat64BE"}, {"encode", "HLAoctet"}}))));
+    compareLines(output, {});
+    const QString errors = compileErrors(output);
+    QVERIFY2(errors.isEmpty(), qPrintable(errors));
+}
+
+void TestNameClashes::discriminantThatSelectsNothingIsTold()
+{
+    const QByteArray variant =
+        "<variantRecordDataTypes><variantRecordData><name>Part</name><discriminant>Kind</discriminant>"
+        "<dataType>HLAunicodeString</dataType><alternative><enumerator>A</enumerator><name>Seconds</name>"
+        "<dataType>HLAoctet</dataType></alternative><encoding>HLAvariantRecord</encoding>"
+        "</variantRecordData></variantRecordDataTypes>";
+    const DtStagedOutput output(model(objectClass("Buoy", attribute("One", "Part")), "", variant));
+    compareLines(output, {"Warning: The discriminant of DtPart is no number and no enumeration: HLAunicodeString. "
+                          "A number of 32 bits stands for it."});
+    const QString errors = compileErrors(output);
+    QVERIFY2(errors.isEmpty(), qPrintable(errors));
+}
+
+QX_REGISTER_TEST(TestNameClashes)
+#include "testNameClashes.moc"

@@ -25,18 +25,19 @@ void DtFileGenerator::setFullClassName(const DtString& name)
         writer->setFullClassName(name);
 }
 
-void DtFileGenerator::generateFiles()
+bool DtFileGenerator::runWriters()
 {
     for (const auto& writer : myWriters)
     {
         writer->compileIncludeList();
         writer->writeFile();
         if (DtQtProgressMeter::instance()->isCancelled())
-            return;
+            return false;
     }
+    return true;
 }
 
-void DtFileGenerator::addAttribute(const DtString& name, const DtString& datatype, const DtString& cardinality)
+DtAttribute DtFileGenerator::addToWriters(const DtString& name, const DtString& datatype, const DtString& cardinality)
 {
     DtString type = DtDataTypeMapper::instance()->quorvexType(datatype);
     DtString resolvedCardinality = cardinality;
@@ -49,6 +50,7 @@ void DtFileGenerator::addAttribute(const DtString& name, const DtString& datatyp
     attribute.setDatatypeDatatype(lastRepresentation(datatype));
     for (const auto& writer : myWriters)
         writer->addAttribute(attribute);
+    return attribute;
 }
 
 void DtFileGenerator::initializeWriters(const DtString& name, const DtOmtProject& project)

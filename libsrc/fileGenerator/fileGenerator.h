@@ -23,10 +23,11 @@ public:
 
     virtual void setParentClassName(const DtString& name);
     virtual void setPduKind(int kind);
-    // Runs the writers in order and stops behind the file during which the user cancelled.
-    virtual void generateFiles();
-    // Resolves the model's datatype to a target type and hands the member to every writer.
-    virtual void addAttribute(const DtString& name, const DtString& datatype, const DtString& cardinality);
+    // Runs the writers in order and stops behind the file during which the user cancelled. Behind the last one, the
+    // examples are made if they are wanted.
+    virtual void generateFiles() = 0;
+    // Resolves the model's datatype to a target type and hands the member to every writer, and to the examples.
+    virtual void addAttribute(const DtString& name, const DtString& datatype, const DtString& cardinality) = 0;
     virtual void setFullClassName(const DtString& name);
     // Walks array and simple datatypes to a target type. The cardinality changes when the way leads over an array. A
     // datatype that leads back to itself stands as its own type.
@@ -53,8 +54,12 @@ protected:
             myWriters.push_back(row.make(fileName, DtString("../data/templates/") + row.templateName, record));
         }
     }
-    // Gives every writer its names and the project, the last step of construction.
+    // Gives every writer its names and the project.
     void initializeWriters(const DtString& name, const DtOmtProject& project);
+    // False when the user cancelled: the writers behind the current one have not run then.
+    bool runWriters();
+    // The member as every writer got it.
+    DtAttribute addToWriters(const DtString& name, const DtString& datatype, const DtString& cardinality);
 
     std::list<std::unique_ptr<DtClassFileWriter>> myWriters;
 };

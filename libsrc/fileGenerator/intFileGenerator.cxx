@@ -2,6 +2,7 @@
 
 #include "fileGenerator/dintHeaderFileWriter.h"
 #include "fileGenerator/dintSourceFileWriter.h"
+#include "fileGenerator/examplesCreator.h"
 #include "fileGenerator/hintDecHeaderWriter.h"
 #include "fileGenerator/hintDecSourceWriter.h"
 #include "fileGenerator/hintEncHeaderWriter.h"
@@ -49,18 +50,36 @@ const Row theOutputs[] = {
 } // namespace
 
 DtInteractionFileGenerator::DtInteractionFileGenerator(const DtString& name, std::set<DtString>& fileList,
-                                                       bool /* generateExamples */, bool generateDis,
+                                                       bool generateExamples, bool generateDis,
                                                        const DtOmtInteraction& interaction, DtOmtProject project)
+    : myGenerateExamples(generateExamples), myGenerateDis(generateDis), myOmtProject(std::move(project))
 {
     const auto makeAll = [&]
     {
-        createWriters(theOutputs, *this, name, interaction, generateDis, fileList);
-        initializeWriters(name, project);
+        createWriters(theOutputs, *this, name, interaction, myGenerateDis, fileList);
+        initializeWriters(name, myOmtProject);
+        // The examples of an interaction are made for HLA only, whatever else is: nothing tells them of DIS.
+        if (myGenerateExamples)
+            myExamplesCreator = std::make_unique<DtExamplesCreator>(name, myOmtProject, interaction);
     };
     guardConstruction(theSignature, __FILE__, __LINE__, makeAll);
 }
 
 DtInteractionFileGenerator::~DtInteractionFileGenerator() = default;
+
+void DtInteractionFileGenerator::generateFiles()
+{
+    if (runWriters() && myGenerateExamples && myExamplesCreator != nullptr)
+        myExamplesCreator->createInteractionExamples();
+}
+
+void DtInteractionFileGenerator::addAttribute(const DtString& name, const DtString& datatype,
+                                              const DtString& cardinality)
+{
+    const DtAttribute attribute = addToWriters(name, datatype, cardinality);
+    if (myGenerateExamples)
+        myExamplesCreator->addAttribute(attribute);
+}
 
 void DtInteractionFileGenerator::determineValueType(const DtString& datatype, DtString& cardinality, DtString& type)
 {

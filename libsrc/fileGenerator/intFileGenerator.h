@@ -3,7 +3,11 @@
 
 #include "fileGenerator/fileGenerator.h"
 
-// The files of one interaction class: six, and four more with DIS.
+#include <memory>
+
+class DtExamplesCreator;
+
+// The files of one interaction class: six, and four more with DIS; and its examples, when they are wanted.
 class DtInteractionFileGenerator : public DtFileGenerator
 {
 public:
@@ -12,6 +16,8 @@ public:
                                bool generateDis, const DtOmtInteraction& interaction, DtOmtProject project);
     ~DtInteractionFileGenerator() override;
 
+    void generateFiles() override;
+    void addAttribute(const DtString& name, const DtString& datatype, const DtString& cardinality) override;
     // Differs from the objects' in its failures: a datatype without any representation is warned about, and an array
     // of a simple type without target type leaves the type empty.
     void determineValueType(const DtString& datatype, DtString& cardinality, DtString& type) override;
@@ -20,6 +26,12 @@ public:
     DtString interactionFileBaseName(const DtString& name) const;
     DtString interEncoderFileBaseName(const DtString& name) const;
     DtString interDecoderFileBaseName(const DtString& name) const;
+
+private:
+    std::unique_ptr<DtExamplesCreator> myExamplesCreator; // null unless examples are wanted
+    bool myGenerateExamples;
+    bool myGenerateDis;
+    DtOmtProject myOmtProject;
 };
 
 #endif

@@ -1,6 +1,7 @@
 #include "fileGenerator/objFileGenerator.h"
 
 #include "fileGenerator/dpubWriter.h"
+#include "fileGenerator/examplesCreator.h"
 #include "fileGenerator/hobjDecoderHeaderWriter.h"
 #include "fileGenerator/hobjDecoderSourceWriter.h"
 #include "fileGenerator/hobjEncoderHeaderWriter.h"
@@ -9,6 +10,7 @@
 #include "fileGenerator/hrefListHeaderWriter.h"
 #include "fileGenerator/hrefListSourceWriter.h"
 #include "fileGenerator/hrefObjWriter.h"
+#include "fileGenerator/qtProgressMeter.h"
 #include "fileGenerator/refListHeaderWriter.h"
 #include "fileGenerator/refObjHeaderWriter.h"
 #include "fileGenerator/srHeaderFileWriter.h"
@@ -74,19 +76,44 @@ const Row theOutputs[] = {
 };
 } // namespace
 
-DtObjectFileGenerator::DtObjectFileGenerator(const DtString& name, std::set<DtString>& fileList,
-                                             bool /* generateExamples */, bool generateDis, const DtOmtObject& object,
-                                             DtOmtProject project)
+DtObjectFileGenerator::DtObjectFileGenerator(const DtString& name, std::set<DtString>& fileList, bool generateExamples,
+                                             bool generateDis, const DtOmtObject& object, DtOmtProject project)
+    : myGenerateDis(generateDis), myGenerateExamples(generateExamples), myOmtProject(std::move(project))
 {
     const auto makeAll = [&]
     {
         createWriters(theOutputs, *this, name, object, generateDis, fileList);
-        initializeWriters(name, project);
+        if (myGenerateExamples)
+            createExamples(name, object);
+        initializeWriters(name, myOmtProject);
     };
     guardConstruction(theSignature, __FILE__, __LINE__, makeAll);
 }
 
 DtObjectFileGenerator::~DtObjectFileGenerator() = default;
+
+void DtObjectFileGenerator::createExamples(const DtString& name, const DtOmtObject& object)
+{
+    myExamplesCreator = std::make_unique<DtExamplesCreator>(name, myOmtProject, object);
+    myExamplesCreator->setGenerateDis(myGenerateDis);
+    myExamplesCreator->setClassName(name);
+}
+
+void DtObjectFileGenerator::generateFiles()
+{
+    if (!runWriters() || !myGenerateExamples || myExamplesCreator == nullptr)
+        return;
+    // The label is there for objects only.
+    DtQtProgressMeter::instance()->setLabel(DtString("Generating examples for: ") + myExamplesCreator->name());
+    myExamplesCreator->createObjectExamples();
+}
+
+void DtObjectFileGenerator::addAttribute(const DtString& name, const DtString& datatype, const DtString& cardinality)
+{
+    const DtAttribute attribute = addToWriters(name, datatype, cardinality);
+    if (myGenerateExamples)
+        myExamplesCreator->addAttribute(attribute);
+}
 
 void DtObjectFileGenerator::determineValueType(const DtString& datatype, DtString& cardinality, DtString& type)
 {

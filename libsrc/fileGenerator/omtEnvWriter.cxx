@@ -4,13 +4,17 @@
 #include "fileGenerator/codedDataTypeFileWriter.h"
 #include "fileGenerator/dataTypeMapper.h"
 #include "fileGenerator/datatypeClassNames.h"
+#include "fileGenerator/datatypeClosure.h"
 #include "fileGenerator/enumFileWriter.h"
 #include "fileGenerator/intFileGenerator.h"
 #include "fileGenerator/makeFileWriter.h"
+#include "fileGenerator/numberForm.h"
 #include "fileGenerator/objFileGenerator.h"
 #include "fileGenerator/omtProject.h"
 #include "fileGenerator/projectFileWriter.h"
 #include "fileGenerator/qtProgressMeter.h"
+#include "fileGenerator/relativePath.h"
+#include "fileGenerator/sharedNames.h"
 #include "fileGenerator/solutionsFileWriter.h"
 #include "foundation/exception.h"
 #include "foundation/fileUtils.h"
@@ -45,11 +49,14 @@ DtString withoutDashesAndDots(const DtString& name)
     return DtReplaceAllSubstrings(DtReplaceAllSubstrings(name, "-", ""), ".", "");
 }
 
-// False for an include path that leads away from the output directory: no file is written there.
-bool staysBelow(const DtString& path)
+// A representation can also be a number of bits.
+DtNumberForm numberFormOfEnumeration(const DtString& representation)
 {
-    const DtString normal = DtFilename::normalized(path);
-    return !DtFilename(path).isAbsolute() && normal != ".." && !normal.startsWith("../");
+    DtNumberForm form = numberFormOf(representation);
+    const int bits = representation.toInt();
+    if (form.octets == 0 && bits >= 8 && bits <= 64)
+        form.octets = bits / 8;
+    return form;
 }
 
 DtString orPlainName(const DtString& rename, const DtString& plainName)
@@ -74,6 +81,18 @@ void makeIdentifiers(const std::set<Record>& records)
 {
     for (const Record& record : records)
         record.uuid(2);
+}
+
+template <typename Members>
+std::vector<DtString> namesOf(const Members& members)
+{
+    std::vector<DtString> names;
+    for (const auto* member : members)
+    {
+        if (member != nullptr)
+            names.push_back(member->getName());
+    }
+    return names;
 }
 
 // Hands the members of a class to its generator. A member's cardinality is always "1": arrays are named types by now.
@@ -104,7 +123,6 @@ int DtOMTEnvWriter::writeFile(const DtString& fomName)
 {
     if (myTree == nullptr)
         DT_THROW("setOmtTree() must be called before writeFile()");
-    leaveOutUnavailable();
     startRun(fomName);
     makeDirectories();
     compileExportMacroName();
@@ -120,25 +138,12 @@ int DtOMTEnvWriter::writeFile(const DtString& fomName)
     return 1;
 }
 
-void DtOMTEnvWriter::leaveOutUnavailable()
-{
-    if (myGenerateExamples)
-        DtWarn << "Examples cannot be generated yet. They are left out.\n";
-    if (myGenerateDis)
-        DtWarn << "DIS files cannot be generated yet. They are left out.\n";
-    myGenerateExamples = false;
-    myGenerateDis = false;
-}
-
 void DtOMTEnvWriter::startRun(const DtString& fomName)
 {
     theFomDefinitionFileName = fomName;
     myUsedDatatypes.clear();
     if (myHlaVersion == DtHla13)
-    {
-        for (auto node = myTree->getArrayDatatypeNodeList(); node != myTree->getArrayDatatypeEndNode(); ++node)
-            myUsedDatatypes.insert((*node)->getName());
-    }
+        closure().insertAllArrays();
     theBaseName = modelBase();
     DtDatatypeClassNames::instance().clear();
     DtCodedDataTypeFileWriter::resetPlusAttributeCounts();
@@ -216,6 +221,8 @@ void DtOMTEnvWriter::generateEnumerationsFile()
     DtEnumerationFileWriter writer(DtString("DataTypes") + DtFilename::separator() + base + "Enums.h");
     for (auto node = myTree->getEnumeratedDatatypeNodeList(); node != myTree->getEnumeratedDatatypeEndNode(); ++node)
     {
+        // Also of those that a ready-made type stands for: it does not tell how long the number is.
+        DtDatatypeClassNames::instance().addEnumeration((*node)->getName(), (*node)->getRepresentation());
         if (isGenerated(**node))
             addEnumeration(**node, writer);
     }
@@ -243,12 +250,12 @@ void DtOMTEnvWriter::addEnumeration(DtEnumeratedDatatypeNode& node, DtEnumeratio
         representation = "Dt" + DtFirstCharToUpper(prefixName() + name);
     mapper().addEnumeration(name);
     mapper().addEnumNameToRepMapping(name, representation);
-    DtDatatypeClassNames::instance().addEnumeration(name, node.getRepresentation());
 
     // "DtInt32" leaves 32, the name of a class leaves no number.
     const int size = DtReplaceSubstring(DtReplaceSubstring(representation, "DtU", ""), "DtInt", "").toInt();
     if (size != 0)
         enumeration.setSize(DtString(size));
+    enumeration.setNumberForm(numberFormOfEnumeration(node.getRepresentation()));
     writer.addEnumeration(enumeration);
 }
 
@@ -301,6 +308,7 @@ void DtOMTEnvWriter::addObjectToFile(DtString name, std::set<DtString>& done)
     if (node->getParentObject() != nullptr)
         generator.setParentClassName(objectParentName(*node->getParentObject()));
     done.insert(name);
+    warnOfMemberNames(name, namesOf(node->getAttributes()));
     addMembers(generator, node->getAttributes());
     generator.generateFiles();
 }
@@ -324,6 +332,7 @@ void DtOMTEnvWriter::addInteractionToFile(DtString name, std::set<DtString>& don
     if (node->getParentObject() != nullptr)
         generator.setParentClassName(interactionParentName(*node->getParentObject()));
     done.insert(name);
+    warnOfMemberNames(name, namesOf(node->getParameters()));
     addMembers(generator, node->getParameters());
     generator.generateFiles();
 }

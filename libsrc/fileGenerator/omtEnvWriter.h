@@ -13,11 +13,12 @@
 class DtCCompatibleNames;
 class DtComplexComponentNode;
 class DtComplexDatatypeNode;
+class DtDatatypeClosure;
 class DtEnumeratedDatatypeNode;
 class DtEnumerationFileWriter;
 class DtOmtProject;
 class DtOMTTree;
-struct DtArrayShape;
+class DtSharedClassNames;
 
 // Driver of the generation of C++: what is generated for a selection of classes, and in which order.
 //
@@ -114,8 +115,6 @@ public:
     static DtString includePath();
 
 private:
-    // What this version cannot generate yet is reported and left out.
-    void leaveOutUnavailable();
     void startRun(const DtString& fomName);
     void makeDirectories() const;
     void writeExportHeader();
@@ -143,15 +142,11 @@ private:
     template <typename Family>
     void writePair(typename Family::Node* node);
     template <typename Family>
-    void recordClassNames();
+    void recordClassNames(DtSharedClassNames& shared);
     void recordAllClassNames();
 
-    // Closure and made-up arrays, in omtEnvWriterArrays.cxx.
-    void insertMemberDatatypes();
-    std::vector<DtString> subDatatypes(const DtString& name) const;
-    void mapToArray(const DtDatatypeFedNode& member);
-    DtString addArray(const DtArrayShape& shape, const DtString& cardinality, const DtString& datatype);
-    static bool hasArray(const DtComplexComponentNode& component);
+    // Over the tree and the used datatypes as they are.
+    DtDatatypeClosure closure();
 
     // Identifiers of this module: all its files number long names together.
     static DtCCompatibleNames& names();

@@ -25,23 +25,47 @@ inline QString make(const QString& directory)
     return QString::fromUtf8(process.readAll());
 }
 
-// Lays the generated files out without the prefix of their names and compiles them all as one translation unit.
+// The generated files without the prefix of their names, as links in a scratch directory.
+inline QStringList layOut(const QString& output, const QString& directory)
+{
+    QStringList names;
+    for (const QString& file : filesBelow(output))
+    {
+        const QString name = QString(file).remove(QStringLiteral("cpp\\"));
+        QDir().mkpath(QFileInfo(directory + "/" + name).path());
+        QFile::link(output + "/" + file, directory + "/" + name);
+        if (name.endsWith(".h") || name.endsWith(".cxx"))
+            names += name;
+    }
+    return names;
+}
+
+// One unit that includes all files, and behind them the examples, each in a namespace of its own.
+inline QByteArray joinedUnit(const QStringList& names)
+{
+    QByteArray files = "#include <qx/exerciseConn.h>\n#include <qx/valueText.h>\n#include <chrono>\n"
+                       "#include <cstdlib>\n#include <iostream>\n#include <string>\n#include <thread>\n";
+    QByteArray examples;
+    for (const QString& name : names)
+    {
+        const QByteArray include = "#include \"" + name.toUtf8() + "\"\n";
+        if (name.startsWith("Examples/"))
+            examples += "namespace example" + QByteArray::number(examples.size()) +
+                        "\n{\n#define main mainOfExample\n" + include + "#undef main\n}\n";
+        else
+            files += include;
+    }
+    return files + examples;
+}
+
+// Compiles all generated files as one translation unit.
 inline QString compileAll(const QString& output, const QString& standard, const QString& includeDirectory, int& count,
                           const QString& program = QStringLiteral("g++"))
 {
     QTemporaryDir stage;
-    QByteArray unit;
-    for (const QString& file : filesBelow(output))
-    {
-        const QString name = QString(file).remove(QStringLiteral("cpp\\"));
-        QDir().mkpath(QFileInfo(stage.path() + "/" + name).path());
-        QFile::link(output + "/" + file, stage.path() + "/" + name);
-        if (!name.endsWith(".h") && !name.endsWith(".cxx"))
-            continue;
-        unit += "#include \"" + name.toUtf8() + "\"\n";
-        ++count;
-    }
-    writeTextFile(stage.path() + "/all.cpp", unit);
+    const QStringList names = layOut(output, stage.path());
+    count += names.size();
+    writeTextFile(stage.path() + "/all.cpp", joinedUnit(names));
     QProcess compiler;
     compiler.setWorkingDirectory(stage.path());
     compiler.setProcessChannelMode(QProcess::MergedChannels);

@@ -43,8 +43,8 @@ private Q_SLOTS:
     void totalProgressFollowsTheFormula();
     void totalProgressLeavesOutMappedEnumeratedAndReplaced();
     void totalProgressCountsDisAndExamples();
-    void examplesAreLeftOutWithOneLine();
-    void disIsLeftOutWithOneLine();
+    void everyClassHasExamplesWhenTheyAreWanted();
+    void disFilesAreWrittenWhenTheyAreWanted();
     void cancelBeforeTheClassesEndsTheRun();
     void cancelledRunWritesNoBuildProducts();
     void enumerationsFileHoldsUsedUnmappedOnly();
@@ -440,30 +440,45 @@ void TestOmtEnvWriter::totalProgressCountsDisAndExamples()
     QCOMPARE(DtQtProgressMeter::instance()->totalMeasure(), 16 + 28 + 12 + 10 + 12);
 }
 
-void TestOmtEnvWriter::examplesAreLeftOutWithOneLine()
+void TestOmtEnvWriter::everyClassHasExamplesWhenTheyAreWanted()
 {
     myModel->addObject("HLAobjectRoot.Tank");
-    myFixture->writeTemplate("solutionVC14_64.tlt", "<#Objects>x<#>");
-    select({"HLAobjectRoot.Tank"});
+    myModel->addInteraction("HLAinteractionRoot.Fire");
+    myModel->addAttribute("HLAobjectRoot.Tank", "deSpeed", "DeU32");
+    DtDataTypeMapper::instance()->addMapping("DeU32", "DtU32");
+    myFixture->writeTemplate("talkObjExample.tlt", "<!ClassName!><#Attributes> <!AttributeName!><#>");
+    myFixture->writeTemplate("talkInterExample.tlt", "<!ClassName!>");
+    myFixture->writeTemplate("talkExProjVC14_64.tlt", "<!UUID1!> <!UUID2!> ");
+    myFixture->writeTemplate("solutionVC14_64.tlt",
+                             "<#Objects><!UUID1!> <!UUID2!> <#><#Interactions><!UUID1!> <!UUID2!> <#>");
+    select({"HLAobjectRoot.Tank"}, {"HLAinteractionRoot.Fire"});
     myWriter->setGenerateExamples(true);
     const DtCapture capture(DtWarn);
     run();
-    QCOMPARE(capture.text(), QString("Examples cannot be generated yet. They are left out.\n"));
-    QVERIFY(!myFixture->hasOutput("Examples"));
-    QCOMPARE(myFixture->output("modelVC14_64.sln"), QString());
+    QCOMPARE(capture.text(), QString());
+    QCOMPARE(myFixture->output("Examples/Tank/talk.cxx"), QString("Tank DeSpeed"));
+    QCOMPARE(myFixture->output("Examples/FireInter/talk.cxx"), QString("FireInter"));
+    QCOMPARE(myFixture->output("modelVC14_64.sln"),
+             myFixture->output("Examples/Tank/TankTalkVC14_64.vcxproj") +
+                 myFixture->output("Examples/FireInter/FireInterTalkVC14_64.vcxproj"));
+    QVERIFY(!myFixture->output("Files-cc.txt").contains("talk"));
 }
 
-void TestOmtEnvWriter::disIsLeftOutWithOneLine()
+void TestOmtEnvWriter::disFilesAreWrittenWhenTheyAreWanted()
 {
     myModel->addObject("HLAobjectRoot.Tank");
+    myModel->addInteraction("HLAinteractionRoot.Fire");
     myFixture->writeTemplate("makefile.tlt", "[<!GenerateDis!>]");
-    select({"HLAobjectRoot.Tank"});
+    select({"HLAobjectRoot.Tank"}, {"HLAinteractionRoot.Fire"});
     myWriter->setGenerateDis(true);
     const DtCapture capture(DtWarn);
     run();
-    QCOMPARE(capture.text(), QString("DIS files cannot be generated yet. They are left out.\n"));
-    QVERIFY(!myFixture->hasOutput("tankPdu.h"));
-    QCOMPARE(myFixture->output("Makefile"), QString("[]"));
+    QCOMPARE(capture.text(), QString());
+    QCOMPARE(myFixture->outputs().filter("tank", Qt::CaseInsensitive).size(), 28);
+    QCOMPARE(myFixture->outputs().filter("fire").size(), 10);
+    QVERIFY(myFixture->output("Files-cc.txt").contains("tankPdu.cxx\n"));
+    QCOMPARE(myFixture->output("Makefile"), QString("[1]"));
+    QVERIFY(!myFixture->hasOutput("Examples"));
 }
 
 void TestOmtEnvWriter::cancelBeforeTheClassesEndsTheRun()

@@ -4,6 +4,7 @@
 #include "registerTest.h"
 
 #include "generatorFixture.h"
+#include "shippedScripts.h"
 #include "templateScanner.h"
 #include "writerProbe.h"
 
@@ -14,6 +15,8 @@
 #include "fileGenerator/dintSourceFileWriter.h"
 #include "fileGenerator/dpubWriter.h"
 #include "fileGenerator/enumFileWriter.h"
+#include "fileGenerator/exMakefileWriter.h"
+#include "fileGenerator/examplesProjWriter.h"
 #include "fileGenerator/fixedRecordsFileWriter.h"
 #include "fileGenerator/hintDecHeaderWriter.h"
 #include "fileGenerator/hintDecSourceWriter.h"
@@ -87,8 +90,12 @@ DtTemplateRules enumRules()
     DtTemplateRules rules =
         rulesOf(DtEnumerationFileWriter::knownTokens(),
                 {
-                    {"Enumeration",      {"<!EnumerationName!>"}                                  },
-                    {"EnumerationField", {"<!EnumerationFieldName!>", "<!EnumerationFieldValue!>"}}
+                    {"Enumeration",
+                     {"<!EnumerationName!>", "<!EnumerationTypeName!>", "<!EnumerationIsRepeated!>",
+                      "<!EnumerationOctets!>", "<!EnumerationIsSigned!>", "<!EnumerationIsLittleEndian!>"}},
+                    {"EnumerationField",
+                     {"<!EnumerationFieldName!>", "<!EnumerationFieldIdentifier!>", "<!EnumerationFieldText!>",
+                      "<!EnumerationFieldValue!>"}                                                        }
     });
     rules.parents = {
         {"EnumerationField", "Enumeration"}
@@ -112,6 +119,16 @@ DtTemplateRules makefileRules()
     return rulesOf(DtMakefileWriter::knownTokens(), {});
 }
 
+DtTemplateRules exampleMakefileRules()
+{
+    return rulesOf(DtExamplesMakefileWriter::knownTokens(), {});
+}
+
+DtTemplateRules exampleProjectRules()
+{
+    return rulesOf(DtExamplesProjectFileWriter::knownTokens(), {});
+}
+
 DtTemplateRules solutionRules()
 {
     return rulesOf(DtSolutionsFileWriter::knownTokens(),
@@ -119,6 +136,33 @@ DtTemplateRules solutionRules()
                        {"Objects",      {"<!Object!>", "<!UUID1!>", "<!UUID2!>"}     },
                        {"Interactions", {"<!Interaction!>", "<!UUID1!>", "<!UUID2!>"}}
     });
+}
+
+// The custom code window has a table of its own, which its tests compare with these templates.
+DtTemplateRules customCodeRules()
+{
+    DtTemplateRules rules;
+    rules.freeTokens = {
+        "<!AttributeDatatypeEnum!>",
+        "<!AttributeName!>",
+        "<!attributeName!>",
+        "<!AttributeDatatype!>",
+        "<!EnumerationRep!>",
+        "<!enumerationRep!>",
+        "<!EncClassName!>",
+        "<!DecClassName!>",
+        "<!EncInterClassName!>",
+        "<!DecInterClassName!>",
+        "<!StateRepName!>",
+        "<!InteractionName!>",
+        "<!Prefix!>",
+        "<!AttributeElementCount!>",
+        "<!AttributeDatatypeDatatype!>",
+        "<!AttributeOctets!>",
+        "<!AttributeEncoding!>",
+        "<!AttributeIsLittleEndian!>",
+    };
+    return rules;
 }
 
 void moveTokens(DtTemplateRules& rules, const QString& loop, const Names& tokens)
@@ -204,6 +248,15 @@ DtTemplateRules datatypeRules()
         rules.loops["ArrayIncludeFiles"];
         moveTokens(rules, "ArrayIncludeFiles", {"<!ArrayFileToInclude!>"});
     }
+    if (std::is_same_v<Writer, DtVariantRecordFileWriter>)
+    {
+        moveTokens(rules, "ClassDatatypes", {"<!ClassEncoding!>"});
+        moveTokens(rules, "ValuelessAlternatives", {"<!AlternativeSelector!>"});
+        rules.loops["Attributes"].insert("<!AlternativeSelector!>");
+        rules.loops["Discriminant"] = rules.loops["Attributes"]; // the discriminant is the attribute there
+        for (const char* loop : {"ValuelessAlternatives", "Discriminant"})
+            rules.parents[loop] = "ClassDatatypes";
+    }
     return rules;
 }
 
@@ -213,70 +266,110 @@ struct TemplateRow
     DtTemplateRules (*rules)();
 };
 
-// Every template that a run can open, and the writer that opens it.
+// Every template that the program can open, and who opens it.
 const TemplateRow theRows[] = {
-    {"dllExport.tlt",                         baseRules                                      },
-    {"enums.tlt",                             enumRules                                      },
-    {"makefile.tlt",                          makefileRules                                  },
-    {"solutionVC14_64.tlt",                   solutionRules                                  },
-    {"projectFile.tlt",                       projectRules                                   },
-    {"projectFileVC10.tlt",                   projectRules                                   },
-    {"projectFileVC10_64.tlt",                projectRules                                   },
-    {"projectFileVC12.tlt",                   projectRules                                   },
-    {"projectFileVC12_64.tlt",                projectRules                                   },
-    {"projectFileVC14.tlt",                   projectRules                                   },
-    {"projectFileVC14_64.tlt",                projectRules                                   },
-    {"subTemplates/complexTypesHeader.tlt",   datatypeRules<DtComplexDataTypeFileWriter>     },
-    {"subTemplates/complexTypesSource.tlt",   datatypeRules<DtComplexDataTypeFileWriter>     },
-    {"subTemplates/basicTypesHeader.tlt",     datatypeRules<DtBasicDataTypeFileWriter>       },
-    {"subTemplates/basicTypesSource.tlt",     datatypeRules<DtBasicDataTypeFileWriter>       },
-    {"subTemplates/simpleTypesHeader.tlt",    datatypeRules<DtSimpleDataTypeFileWriter>      },
-    {"subTemplates/simpleTypesSource.tlt",    datatypeRules<DtSimpleDataTypeFileWriter>      },
-    {"arrayHeaderByEncoding.tlt",             datatypeRules<DtArrayDataTypeFileWriter>       },
-    {"arraySourceByEncoding.tlt",             datatypeRules<DtArrayDataTypeFileWriter>       },
-    {"subTemplates/fixedRecordsHeader.tlt",   datatypeRules<DtFixedRecordFileWriter>         },
-    {"subTemplates/fixedRecordsSource.tlt",   datatypeRules<DtFixedRecordFileWriter>         },
-    {"subTemplates/variantRecordsHeader.tlt", datatypeRules<DtVariantRecordFileWriter>       },
-    {"subTemplates/variantRecordsSource.tlt", datatypeRules<DtVariantRecordFileWriter>       },
-    {"hobjEncHeader.tlt",                     classRules<DtHlaObjectEncoderHeaderWriter>     },
-    {"hobjEncSource.tlt",                     classRules<DtHlaObjectEncoderSourceWriter>     },
-    {"stateRepSource.tlt",                    classRules<DtStateRepositoryFileWriter>        },
-    {"stateRepHeader.tlt",                    classRules<DtStateRepositoryFileWriter>        },
-    {"hpubHeader.tlt",                        classRules<DtHlaPublisherFileWriter>           },
-    {"hpubSource.tlt",                        classRules<DtHlaPublisherFileWriter>           },
-    {"hrefObjHeader.tlt",                     classRules<DtHlaReflectedObjectFileWriter>     },
-    {"hrefObjSource.tlt",                     classRules<DtHlaReflectedObjectFileWriter>     },
-    {"hrefListHeader.tlt",                    classRules<DtHlaReflectedListHeaderFileWriter> },
-    {"hrefListSource.tlt",                    classRules<DtHlaReflectedListSourceFileWriter> },
-    {"hobjDecHeader.tlt",                     classRules<DtHlaObjectDecoderHeaderWriter>     },
-    {"hobjDecSource.tlt",                     classRules<DtHlaObjectDecoderSourceWriter>     },
-    {"hinterHeader.tlt",                      classRules<DtHlaInteractionHeaderFileWriter>   },
-    {"hinterSource.tlt",                      classRules<DtHlaInteractionSourceFileWriter>   },
-    {"hintEncHeader.tlt",                     classRules<DtHlaInteractionEncoderHeaderWriter>},
-    {"hintEncSource.tlt",                     classRules<DtHlaInteractionEncoderSourceWriter>},
-    {"hintDecHeader.tlt",                     classRules<DtHlaInteractionDecoderHeaderWriter>},
-    {"hintDecSource.tlt",                     classRules<DtHlaInteractionDecoderSourceWriter>},
+    {"customUITemplates/customDecHeader.tlt",      customCodeRules                                },
+    {"customUITemplates/customDecInterHeader.tlt", customCodeRules                                },
+    {"customUITemplates/customDecoder.tlt",        customCodeRules                                },
+    {"customUITemplates/customEncHeader.tlt",      customCodeRules                                },
+    {"customUITemplates/customEncInterHeader.tlt", customCodeRules                                },
+    {"customUITemplates/customEncoder.tlt",        customCodeRules                                },
+    {"customUITemplates/customEnumDecoder.tlt",    customCodeRules                                },
+    {"customUITemplates/customEnumEncoder.tlt",    customCodeRules                                },
+    {"customUITemplates/customEnumIntDecoder.tlt", customCodeRules                                },
+    {"customUITemplates/customEnumIntEncoder.tlt", customCodeRules                                },
+    {"customUITemplates/customIntDecoder.tlt",     customCodeRules                                },
+    {"customUITemplates/customIntEncoder.tlt",     customCodeRules                                },
+    {"customUITemplates/customUIguide.tlt",        customCodeRules                                },
+    {"dllExport.tlt",                              baseRules                                      },
+    {"enums.tlt",                                  enumRules                                      },
+    {"makefile.tlt",                               makefileRules                                  },
+    {"solutionVC14_64.tlt",                        solutionRules                                  },
+    {"projectFile.tlt",                            projectRules                                   },
+    {"projectFileVC10.tlt",                        projectRules                                   },
+    {"projectFileVC10_64.tlt",                     projectRules                                   },
+    {"projectFileVC12.tlt",                        projectRules                                   },
+    {"projectFileVC12_64.tlt",                     projectRules                                   },
+    {"projectFileVC14.tlt",                        projectRules                                   },
+    {"projectFileVC14_64.tlt",                     projectRules                                   },
+    {"subTemplates/complexTypesHeader.tlt",        datatypeRules<DtComplexDataTypeFileWriter>     },
+    {"subTemplates/complexTypesSource.tlt",        datatypeRules<DtComplexDataTypeFileWriter>     },
+    {"subTemplates/basicTypesHeader.tlt",          datatypeRules<DtBasicDataTypeFileWriter>       },
+    {"subTemplates/basicTypesSource.tlt",          datatypeRules<DtBasicDataTypeFileWriter>       },
+    {"subTemplates/simpleTypesHeader.tlt",         datatypeRules<DtSimpleDataTypeFileWriter>      },
+    {"subTemplates/simpleTypesSource.tlt",         datatypeRules<DtSimpleDataTypeFileWriter>      },
+    {"arrayHeaderByEncoding.tlt",                  datatypeRules<DtArrayDataTypeFileWriter>       },
+    {"arraySourceByEncoding.tlt",                  datatypeRules<DtArrayDataTypeFileWriter>       },
+    {"subTemplates/fixedRecordsHeader.tlt",        datatypeRules<DtFixedRecordFileWriter>         },
+    {"subTemplates/fixedRecordsSource.tlt",        datatypeRules<DtFixedRecordFileWriter>         },
+    {"subTemplates/variantRecordsHeader.tlt",      datatypeRules<DtVariantRecordFileWriter>       },
+    {"subTemplates/variantRecordsSource.tlt",      datatypeRules<DtVariantRecordFileWriter>       },
+    {"hobjEncHeader.tlt",                          classRules<DtHlaObjectEncoderHeaderWriter>     },
+    {"hobjEncSource.tlt",                          classRules<DtHlaObjectEncoderSourceWriter>     },
+    {"stateRepSource.tlt",                         classRules<DtStateRepositoryFileWriter>        },
+    {"stateRepHeader.tlt",                         classRules<DtStateRepositoryFileWriter>        },
+    {"hpubHeader.tlt",                             classRules<DtHlaPublisherFileWriter>           },
+    {"hpubSource.tlt",                             classRules<DtHlaPublisherFileWriter>           },
+    {"hrefObjHeader.tlt",                          classRules<DtHlaReflectedObjectFileWriter>     },
+    {"hrefObjSource.tlt",                          classRules<DtHlaReflectedObjectFileWriter>     },
+    {"hrefListHeader.tlt",                         classRules<DtHlaReflectedListHeaderFileWriter> },
+    {"hrefListSource.tlt",                         classRules<DtHlaReflectedListSourceFileWriter> },
+    {"hobjDecHeader.tlt",                          classRules<DtHlaObjectDecoderHeaderWriter>     },
+    {"hobjDecSource.tlt",                          classRules<DtHlaObjectDecoderSourceWriter>     },
+    {"refListHeader.tlt",                          classRules<DtReflectedListHeaderFileWriter>    },
+    {"pubHeader.tlt",                              classRules<DtClassFileWriter>                  },
+    {"refObjHeader.tlt",                           classRules<DtReflectedObjectHeaderFileWriter>  },
+    {"dpubHeader.tlt",                             classRules<DtDisPublisherFileWriter>           },
+    {"dpubSource.tlt",                             classRules<DtDisPublisherFileWriter>           },
+    {"dobjEncHeader.tlt",                          classRules<DtClassFileWriter>                  },
+    {"dobjEncSource.tlt",                          classRules<DtClassFileWriter>                  },
+    {"dobjDecHeader.tlt",                          classRules<DtClassFileWriter>                  },
+    {"dobjDecSource.tlt",                          classRules<DtClassFileWriter>                  },
+    {"drefObjHeader.tlt",                          classRules<DtClassFileWriter>                  },
+    {"drefObjSource.tlt",                          classRules<DtClassFileWriter>                  },
+    {"drefListHeader.tlt",                         classRules<DtClassFileWriter>                  },
+    {"drefListSource.tlt",                         classRules<DtClassFileWriter>                  },
+    {"objPduHeader.tlt",                           classRules<DtClassFileWriter>                  },
+    {"objPduSource.tlt",                           classRules<DtClassFileWriter>                  },
+    {"netObjPduHeader.tlt",                        classRules<DtClassFileWriter>                  },
+    {"hinterHeader.tlt",                           classRules<DtHlaInteractionHeaderFileWriter>   },
+    {"hinterSource.tlt",                           classRules<DtHlaInteractionSourceFileWriter>   },
+    {"intHeader.tlt",                              classRules<DtInteractionHeaderFileWriter>      },
+    {"intSource.tlt",                              classRules<DtInteractionSourceFileWriter>      },
+    {"dinterHeader.tlt",                           classRules<DtDisInteractionHeaderFileWriter>   },
+    {"dinterSource.tlt",                           classRules<DtDisInteractionSourceFileWriter>   },
+    {"hintEncHeader.tlt",                          classRules<DtHlaInteractionEncoderHeaderWriter>},
+    {"hintEncSource.tlt",                          classRules<DtHlaInteractionEncoderSourceWriter>},
+    {"hintDecHeader.tlt",                          classRules<DtHlaInteractionDecoderHeaderWriter>},
+    {"hintDecSource.tlt",                          classRules<DtHlaInteractionDecoderSourceWriter>},
+    {"talkObjExample.tlt",                         classRules<DtClassFileWriter>                  },
+    {"listenObjExample.tlt",                       classRules<DtClassFileWriter>                  },
+    {"talkInterExample.tlt",                       classRules<DtClassFileWriter>                  },
+    {"listenInterExample.tlt",                     classRules<DtClassFileWriter>                  },
+    {"talkExProjVC14_64.tlt",                      exampleProjectRules                            },
+    {"listenExProjVC14_64.tlt",                    exampleProjectRules                            },
+    {"exMakefile.tlt",                             exampleMakefileRules                           },
 };
 
-// Writers whose templates do not ship: their tokens are documented all the same.
-DtTemplateRules (*const theFurtherRules[])() = {
-    classRules<DtReflectedListHeaderFileWriter>,  classRules<DtReflectedObjectHeaderFileWriter>,
-    classRules<DtDisPublisherFileWriter>,         classRules<DtInteractionHeaderFileWriter>,
-    classRules<DtInteractionSourceFileWriter>,    classRules<DtDisInteractionHeaderFileWriter>,
-    classRules<DtDisInteractionSourceFileWriter>,
-};
-
+// But for those of command files, which have tests of their own.
 QStringList shippedTemplates()
 {
+    const QStringList directories = scriptTemplateDirectories();
     QStringList names;
     for (QDirIterator each(theTemplates, QDir::Files, QDirIterator::Subdirectories); each.hasNext();)
     {
         const QString name = QDir(theTemplates).relativeFilePath(each.next());
-        if (name.endsWith(QStringLiteral(".tlt")))
+        if (name.endsWith(QStringLiteral(".tlt")) && !directories.contains(QFileInfo(name).path()))
             names += name;
     }
     names.sort();
     return names;
+}
+
+void shipTemplates(const DtGeneratorFixture& fixture)
+{
+    for (const QString& name : shippedTemplates())
+        fixture.writeTemplate(name, readTextFile(theTemplates + "/" + name));
 }
 
 QStringList scanShipped(const TemplateRow& row, std::set<QString>* included = nullptr)
@@ -307,8 +400,6 @@ Names allTokens()
     };
     for (const TemplateRow& row : theRows)
         add(row.rules());
-    for (const auto rules : theFurtherRules)
-        add(rules());
     return tokens;
 }
 
@@ -395,6 +486,9 @@ private Q_SLOTS:
     void projectTemplatesHaveNoDeclarationAndNoComment();
     void projectTemplateGivesWellFormedXml_data();
     void projectTemplateGivesWellFormedXml();
+    void projectBuildsOneProtocolAtATime();
+    void exampleProjectGivesWellFormedXml_data();
+    void exampleProjectGivesWellFormedXml();
     void everyTokenIsDocumented();
     void everyDocumentedTokenIsKnown();
     void everyTemplateAndLoopIsDocumented();
@@ -494,7 +588,8 @@ void TestTemplateFiles::linesAreShortAndHaveNoCarriageReturn()
 void TestTemplateFiles::projectTemplatesHaveNoDeclarationAndNoComment_data()
 {
     QTest::addColumn<QString>("name");
-    for (const QString& name : shippedTemplates().filter(QStringLiteral("projectFile")))
+    for (const QString& name :
+         shippedTemplates().filter(QRegularExpression("project|ExProj", QRegularExpression::CaseInsensitiveOption)))
         QTest::newRow(qPrintable(name)) << name;
 }
 
@@ -526,8 +621,7 @@ void TestTemplateFiles::projectTemplateGivesWellFormedXml()
     QFETCH(QByteArray, toolset);
     QFETCH(QByteArray, platform);
     const DtGeneratorFixture fixture;
-    for (const QString& name : shippedTemplates())
-        fixture.writeTemplate(name, readTextFile(theTemplates + "/" + name));
+    shipTemplates(fixture);
     const std::set<DtString> files = {"DataTypes/point.cxx", "DataTypes/point.h", "dllExport.h", "shipEncoderHLA.cxx"};
     {
         DtProjectFileWriter writer("p.vcxproj", files, compiler);
@@ -542,6 +636,69 @@ void TestTemplateFiles::projectTemplateGivesWellFormedXml()
              QStringList({"DataTypes/point.cxx", "DataTypes/point.h", "dllExport.h", "shipEncoderHLA.cxx"}));
     QVERIFY(xml.contains("MODEL_EXPORTS") && xml.contains("harbour"));
     QVERIFY2(xml.contains(toolset) && xml.contains(platform), xml.constData());
+    for (const char* opening : {"<!", "<#", "<?", "\n|"})
+        QVERIFY2(!xml.contains(opening), opening);
+}
+
+// HLA and DIS classes have the same names, so with both in the list the sources of one of them are taken out again.
+void TestTemplateFiles::projectBuildsOneProtocolAtATime()
+{
+    const std::set<DtString> files = {"shipPdu.cxx", "shipPublisherDIS.cxx", "shipPublisherHLA.cxx"};
+    for (const bool dis : {true, false})
+    {
+        const DtGeneratorFixture fixture;
+        shipTemplates(fixture);
+        {
+            DtProjectFileWriter writer("p.vcxproj", files, 9);
+            writer.setGenerateDis(dis);
+            writer.writeFile();
+        }
+        const QByteArray xml = fixture.output("p.vcxproj").toUtf8();
+        const FileElements elements = readProject(xml);
+        QCOMPARE(elements.error, QString());
+        QCOMPARE(elements.names, QStringList({"shipPdu.cxx", "shipPublisherDIS.cxx", "shipPublisherHLA.cxx"}));
+        QCOMPARE(xml.contains("<ClCompile Remove=\"*DIS.cxx;*Pdu.cxx\" />"), dis);
+        QCOMPARE(xml.contains("<ClCompile Remove=\"*HLA.cxx\" />"), dis);
+        QCOMPARE(xml.contains("<GeneratedProtocol>HLA</GeneratedProtocol>"), !dis);
+    }
+}
+
+void TestTemplateFiles::exampleProjectGivesWellFormedXml_data()
+{
+    QTest::addColumn<QString>("program");
+    QTest::addColumn<int>("identifier");
+    QTest::addColumn<bool>("dis");
+    for (const bool dis : {false, true})
+    {
+        QTest::newRow(dis ? "talk with DIS" : "talk") << "talk" << 1 << dis;
+        QTest::newRow(dis ? "listen with DIS" : "listen") << "listen" << 2 << dis;
+    }
+}
+
+void TestTemplateFiles::exampleProjectGivesWellFormedXml()
+{
+    QFETCH(QString, program);
+    QFETCH(int, identifier);
+    QFETCH(bool, dis);
+    const DtGeneratorFixture fixture;
+    shipTemplates(fixture);
+    DtOmtObject ship;
+    ship.setName("Ship");
+    {
+        DtExamplesProjectFileWriter writer("p.vcxproj", (program + "ExProjVC14_64.tlt").toLatin1().constData(), ship);
+        writer.setLibraryName("harbour");
+        writer.setGenerateDis(dis);
+        writer.writeFile();
+    }
+    const QByteArray xml = fixture.output("p.vcxproj").toUtf8();
+    const FileElements elements = readProject(xml);
+    QCOMPARE(elements.error, QString());
+    QCOMPARE(elements.names, QStringList(program + ".cxx"));
+    const QString identity = QString("<ProjectGuid>{%1}</ProjectGuid>").arg(ship.uuid(identifier).c_str());
+    QVERIFY2(xml.contains(identity.toLatin1()), xml.constData());
+    QVERIFY(xml.contains("<AdditionalDependencies>harbour$(GeneratedProtocol).lib;"));
+    QVERIFY(xml.contains(";DT_DLL_MODEL_SHARED;"));
+    QCOMPARE(xml.contains("<GeneratedProtocol>HLA</GeneratedProtocol>"), !dis);
     for (const char* opening : {"<!", "<#", "<?", "\n|"})
         QVERIFY2(!xml.contains(opening), opening);
 }

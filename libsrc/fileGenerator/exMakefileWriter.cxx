@@ -1,0 +1,39 @@
+#include "fileGenerator/exMakefileWriter.h"
+
+DtExamplesMakefileWriter::DtExamplesMakefileWriter(const DtString& fileName)
+    : DtFileWriter(fileName, "../data/templates/exMakefile.tlt"), myTokens(table(), this)
+{
+}
+
+const DtTokenTable<DtExamplesMakefileWriter>& DtExamplesMakefileWriter::table()
+{
+    using Writer = const DtExamplesMakefileWriter&;
+    static const DtTokenRow<DtExamplesMakefileWriter> theRows[] = {
+        {"<!LibName!>",     [](Writer w) { return w.myLibraryName; }                     },
+        {"<!GenerateDis!>", [](Writer w) { return DtString(w.myGenerateDis ? "1" : ""); }},
+    };
+    static const DtTokenTable<DtExamplesMakefileWriter> theTable(theRows);
+    return theTable;
+}
+
+std::vector<DtString> DtExamplesMakefileWriter::knownTokens()
+{
+    return {"<!LibName!>", "<!GenerateDis!>"};
+}
+
+void DtExamplesMakefileWriter::decodeFileLine(DtString& line)
+{
+    expandTokens(line, {&myTokens});
+}
+
+void DtExamplesMakefileWriter::setLibraryName(const DtString& name)
+{
+    myLibraryName = name;
+    myTokens.clear();
+}
+
+void DtExamplesMakefileWriter::setGenerateDis(bool generate)
+{
+    myGenerateDis = generate;
+    myTokens.clear();
+}

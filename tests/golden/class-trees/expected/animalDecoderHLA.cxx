@@ -12,7 +12,8 @@ DtAnimalDecoder::DtAnimalDecoder()
 
 bool DtAnimalDecoder::decodeName(DtAnimalStateRepository& state, DtWireReader& reader)
 {
-    const DtWireForm form("HLAunicodeString", "", R"qx(HLAvariableArray)qx", 1);
+    const DtWireForm form("HLAunicodeString", "", R"qx(HLAvariableArray)qx",
+        -1, 0, 0);
     auto value = state.name();
     if (!DtReadValue(reader, value, form))
     {
@@ -24,7 +25,8 @@ bool DtAnimalDecoder::decodeName(DtAnimalStateRepository& state, DtWireReader& r
 
 bool DtAnimalDecoder::decodeLegs(DtAnimalStateRepository& state, DtWireReader& reader)
 {
-    const DtWireForm form("HLAinteger32BE", "", R"qx(HLAvariableArray)qx", 1);
+    const DtWireForm form("HLAinteger32BE", "", R"qx(HLAvariableArray)qx",
+        -1, 4, 0);
     auto value = state.legs();
     if (!DtReadValue(reader, value, form))
     {

@@ -12,13 +12,15 @@ DtAnimalEncoder::DtAnimalEncoder()
 
 bool DtAnimalEncoder::encodeName(const DtAnimalStateRepository& state, DtWireWriter& writer)
 {
-    const DtWireForm form("HLAunicodeString", "", R"qx(HLAvariableArray)qx", 1);
+    const DtWireForm form("HLAunicodeString", "", R"qx(HLAvariableArray)qx",
+        -1, 0, 0);
     return DtWriteValue(writer, state.name(), form);
 }
 
 bool DtAnimalEncoder::encodeLegs(const DtAnimalStateRepository& state, DtWireWriter& writer)
 {
-    const DtWireForm form("HLAinteger32BE", "", R"qx(HLAvariableArray)qx", 1);
+    const DtWireForm form("HLAinteger32BE", "", R"qx(HLAvariableArray)qx",
+        -1, 4, 0);
     return DtWriteValue(writer, state.legs(), form);
 }
 

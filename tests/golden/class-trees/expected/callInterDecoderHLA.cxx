@@ -11,7 +11,8 @@ DtCallInterDecoder::DtCallInterDecoder()
 
 bool DtCallInterDecoder::decodeText(DtCallInter& interaction, DtWireReader& reader)
 {
-    const DtWireForm form("HLAASCIIstring", "", R"qx(HLAvariableArray)qx", 1);
+    const DtWireForm form("HLAASCIIstring", "", R"qx(HLAvariableArray)qx",
+        -1, 0, 0);
     auto value = interaction.text();
     if (!DtReadValue(reader, value, form))
     {

@@ -14,7 +14,8 @@ DtCallInterEncoder::DtCallInterEncoder()
 
 bool DtCallInterEncoder::encodeText(const DtCallInter& interaction, DtWireWriter& writer)
 {
-    const DtWireForm form("HLAASCIIstring", "", R"qx(HLAvariableArray)qx", 1);
+    const DtWireForm form("HLAASCIIstring", "", R"qx(HLAvariableArray)qx",
+        -1, 0, 0);
     return DtWriteValue(writer, interaction.text(), form);
 }
 

@@ -12,7 +12,8 @@ DtDogDecoder::DtDogDecoder()
 
 bool DtDogDecoder::decodeBarks(DtDogStateRepository& state, DtWireReader& reader)
 {
-    const DtWireForm form("HLAboolean", "", R"qx(HLAvariableArray)qx", 1);
+    const DtWireForm form("HLAboolean", "", R"qx(HLAvariableArray)qx",
+        -1, 0, 0);
     auto value = state.barks();
     if (!DtReadValue(reader, value, form))
     {
@@ -24,7 +25,8 @@ bool DtDogDecoder::decodeBarks(DtDogStateRepository& state, DtWireReader& reader
 
 bool DtDogDecoder::decodeWeight__Kg(DtDogStateRepository& state, DtWireReader& reader)
 {
-    const DtWireForm form("HLAfloat64BE", "", R"qx(HLAvariableArray)qx", 1);
+    const DtWireForm form("HLAfloat64BE", "", R"qx(HLAvariableArray)qx",
+        -1, 8, 0);
     auto value = state.weight__Kg();
     if (!DtReadValue(reader, value, form))
     {

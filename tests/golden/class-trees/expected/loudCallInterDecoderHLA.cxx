@@ -11,7 +11,8 @@ DtLoudCallInterDecoder::DtLoudCallInterDecoder()
 
 bool DtLoudCallInterDecoder::decodeLoudness(DtLoudCallInter& interaction, DtWireReader& reader)
 {
-    const DtWireForm form("HLAfloat32BE", "", R"qx(HLAvariableArray)qx", 1);
+    const DtWireForm form("HLAfloat32BE", "", R"qx(HLAvariableArray)qx",
+        -1, 4, 0);
     auto value = interaction.loudness();
     if (!DtReadValue(reader, value, form))
     {

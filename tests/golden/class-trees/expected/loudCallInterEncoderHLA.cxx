@@ -14,7 +14,8 @@ DtLoudCallInterEncoder::DtLoudCallInterEncoder()
 
 bool DtLoudCallInterEncoder::encodeLoudness(const DtLoudCallInter& interaction, DtWireWriter& writer)
 {
-    const DtWireForm form("HLAfloat32BE", "", R"qx(HLAvariableArray)qx", 1);
+    const DtWireForm form("HLAfloat32BE", "", R"qx(HLAvariableArray)qx",
+        -1, 4, 0);
     return DtWriteValue(writer, interaction.loudness(), form);
 }
 

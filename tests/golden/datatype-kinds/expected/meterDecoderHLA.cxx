@@ -18,7 +18,8 @@ DtMeterDecoder::DtMeterDecoder()
 
 bool DtMeterDecoder::decodeRaw(DtMeterStateRepository& state, DtWireReader& reader)
 {
-    const DtWireForm form("Unsigned16LE", "", R"qx(HLAvariableArray)qx", 1);
+    const DtWireForm form("Unsigned16LE", "", R"qx(HLAvariableArray)qx",
+        -1, 2, 1);
     auto value = state.raw();
     if (!DtReadValue(reader, value, form))
     {
@@ -30,7 +31,8 @@ bool DtMeterDecoder::decodeRaw(DtMeterStateRepository& state, DtWireReader& read
 
 bool DtMeterDecoder::decodeRunning(DtMeterStateRepository& state, DtWireReader& reader)
 {
-    const DtWireForm form("Hours", "Unsigned16LE", R"qx(HLAvariableArray)qx", 1);
+    const DtWireForm form("Hours", "Unsigned16LE", R"qx(HLAvariableArray)qx",
+        -1, 2, 1);
     auto value = state.running();
     if (!DtReadValue(reader, value, form))
     {
@@ -42,7 +44,8 @@ bool DtMeterDecoder::decodeRunning(DtMeterStateRepository& state, DtWireReader& 
 
 bool DtMeterDecoder::decodeState(DtMeterStateRepository& state, DtWireReader& reader)
 {
-    const DtWireForm form("State8", "HLAoctet", R"qx(HLAvariableArray)qx", 1);
+    const DtWireForm form("State8", "HLAoctet", R"qx(HLAvariableArray)qx",
+        -1, 1, 0);
     auto value = state.state();
     if (!DtReadValue(reader, value, form))
     {
@@ -54,7 +57,8 @@ bool DtMeterDecoder::decodeState(DtMeterStateRepository& state, DtWireReader& re
 
 bool DtMeterDecoder::decodeWeek(DtMeterStateRepository& state, DtWireReader& reader)
 {
-    const DtWireForm form("Row", "Unsigned16LE", R"qx(HLAfixedArray)qx", 1);
+    const DtWireForm form("Row", "Unsigned16LE", R"qx(HLAfixedArray)qx",
+        3, 2, 1);
     auto value = state.week();
     if (!DtReadValue(reader, value, form))
     {
@@ -66,7 +70,8 @@ bool DtMeterDecoder::decodeWeek(DtMeterStateRepository& state, DtWireReader& rea
 
 bool DtMeterDecoder::decodeRemarks(DtMeterStateRepository& state, DtWireReader& reader)
 {
-    const DtWireForm form("Notes", "HLAASCIIchar", R"qx(HLAvariableArray)qx", 1);
+    const DtWireForm form("Notes", "HLAASCIIchar", R"qx(HLAvariableArray)qx",
+        -1, 1, 0);
     auto value = state.remarks();
     if (!DtReadValue(reader, value, form))
     {
@@ -78,7 +83,8 @@ bool DtMeterDecoder::decodeRemarks(DtMeterStateRepository& state, DtWireReader& 
 
 bool DtMeterDecoder::decodePast(DtMeterStateRepository& state, DtWireReader& reader)
 {
-    const DtWireForm form("History", "Reading", R"qx(HLAvariableArray)qx", 1);
+    const DtWireForm form("History", "Reading", R"qx(HLAvariableArray)qx",
+        -1, 0, 0);
     auto value = state.past();
     if (!DtReadValue(reader, value, form))
     {
@@ -90,7 +96,8 @@ bool DtMeterDecoder::decodePast(DtMeterStateRepository& state, DtWireReader& rea
 
 bool DtMeterDecoder::decodeLast(DtMeterStateRepository& state, DtWireReader& reader)
 {
-    const DtWireForm form("Reading", "", R"qx(HLAvariableArray)qx", 1);
+    const DtWireForm form("Reading", "", R"qx(HLAvariableArray)qx",
+        -1, 0, 0);
     auto value = state.last();
     if (!DtReadValue(reader, value, form))
     {
@@ -102,7 +109,8 @@ bool DtMeterDecoder::decodeLast(DtMeterStateRepository& state, DtWireReader& rea
 
 bool DtMeterDecoder::decodeInside(DtMeterStateRepository& state, DtWireReader& reader)
 {
-    const DtWireForm form("Content", "", R"qx(HLAvariableArray)qx", 1);
+    const DtWireForm form("Content", "", R"qx(HLAvariableArray)qx",
+        -1, 0, 0);
     auto value = state.inside();
     if (!DtReadValue(reader, value, form))
     {

@@ -15,7 +15,8 @@ DtQxFlowerDecoder::DtQxFlowerDecoder()
 
 bool DtQxFlowerDecoder::decodeColour(DtQxFlowerStateRepository& state, DtWireReader& reader)
 {
-    const DtWireForm form("Colour8", "HLAoctet", R"qx(HLAvariableArray)qx", 1);
+    const DtWireForm form("Colour8", "HLAoctet", R"qx(HLAvariableArray)qx",
+        -1, 1, 0);
     auto value = state.colour();
     if (!DtReadValue(reader, value, form))
     {
@@ -28,7 +29,8 @@ bool DtQxFlowerDecoder::decodeColour(DtQxFlowerStateRepository& state, DtWireRea
 #error "Seed: values of DtQxPacket cannot be decoded"
 bool DtQxFlowerDecoder::decodeSeed(DtQxFlowerStateRepository& state, DtWireReader& reader)
 {
-    const DtWireForm form("Packet", "", R"qx(HLAvariableArray)qx", 1);
+    const DtWireForm form("Packet", "", R"qx(HLAvariableArray)qx",
+        -1, 0, 0);
     auto value = state.seed();
     if (!DtReadValue(reader, value, form))
     {

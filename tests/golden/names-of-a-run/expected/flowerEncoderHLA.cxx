@@ -15,14 +15,16 @@ DtQxFlowerEncoder::DtQxFlowerEncoder()
 
 bool DtQxFlowerEncoder::encodeColour(const DtQxFlowerStateRepository& state, DtWireWriter& writer)
 {
-    const DtWireForm form("Colour8", "HLAoctet", R"qx(HLAvariableArray)qx", 1);
+    const DtWireForm form("Colour8", "HLAoctet", R"qx(HLAvariableArray)qx",
+        -1, 1, 0);
     return DtWriteValue(writer, state.colour(), form);
 }
 
 #error "Seed: values of DtQxPacket cannot be encoded"
 bool DtQxFlowerEncoder::encodeSeed(const DtQxFlowerStateRepository& state, DtWireWriter& writer)
 {
-    const DtWireForm form("Packet", "", R"qx(HLAvariableArray)qx", 1);
+    const DtWireForm form("Packet", "", R"qx(HLAvariableArray)qx",
+        -1, 0, 0);
     return DtWriteValue(writer, state.seed(), form);
 }
 

@@ -14,7 +14,8 @@ DtQxWaterInterDecoder::DtQxWaterInterDecoder()
 
 bool DtQxWaterInterDecoder::decodeLitres(DtQxWaterInter& interaction, DtWireReader& reader)
 {
-    const DtWireForm form("HLAfloat32BE", "", R"qx(HLAvariableArray)qx", 1);
+    const DtWireForm form("HLAfloat32BE", "", R"qx(HLAvariableArray)qx",
+        -1, 4, 0);
     auto value = interaction.litres();
     if (!DtReadValue(reader, value, form))
     {

@@ -17,7 +17,8 @@ DtQxWaterInterEncoder::DtQxWaterInterEncoder()
 
 bool DtQxWaterInterEncoder::encodeLitres(const DtQxWaterInter& interaction, DtWireWriter& writer)
 {
-    const DtWireForm form("HLAfloat32BE", "", R"qx(HLAvariableArray)qx", 1);
+    const DtWireForm form("HLAfloat32BE", "", R"qx(HLAvariableArray)qx",
+        -1, 4, 0);
     return DtWriteValue(writer, interaction.litres(), form);
 }
 

@@ -4,15 +4,10 @@
 // Generated from case; the next generation writes it anew.
 //
 // Every enumerator has the letter e in front, so that digits and keywords are names too. DtEnumeratorsOf gives the names
-// as the model has them, without the letter.
+// as the model has them, and how long the number is on the wire. A number without a name is a value all the same.
  
 #include <qx/enumerators.h>
  
 #include "dllExport.h"
- 
-// Where variant records look up the type of their discriminant: among the enumerations, else among the ready-made types.
-struct DT_DLL_CASE_Discriminants : DtReadyDiscriminants
-{
-};
  
 #endif

@@ -32,49 +32,47 @@ bool DtContent::operator!=(const DtContent& other) const
  
 void DtContent::encode(DtWireWriter& writer) const
 {
+    static const unsigned int theBoundary = alternativeBoundary_(nullptr);
+    static_cast<void>(theBoundary); // a record may have no alternatives
+    const DtRecordScope<DtWireWriter> scope(writer);
     DtEncodeValue(writer, selector_, discriminantForm_());
-    const int place = selected<int>();
-    if (place >= 0)
-        writer.pad(alternativeBoundary_(nullptr));
-    switch (place)
+    switch (selected<int>())
     {
     case 0:
-        return DtEncodeValue(writer, myIdle, formOf(0));
+        return DtEncodeAlternative(writer, myIdle, formOf(0), kind_(), theBoundary);
     case 1:
-        return DtEncodeValue(writer, myBusy, formOf(1));
+        return DtEncodeAlternative(writer, myBusy, formOf(1), kind_(), theBoundary);
     default:
-        break;
+        return DtEncodeNoAlternative(writer, kind_());
     }
 }
  
 bool DtContent::decode(DtWireReader& reader)
 {
+    static const unsigned int theBoundary = alternativeBoundary_(nullptr);
+    static_cast<void>(theBoundary); // a record may have no alternatives
+    const DtRecordScope<DtWireReader> scope(reader);
     DtContent taken(*this);
-    if (!DtDecodeValue(reader, taken.selector_, discriminantForm_()))
-        return false;
-    const int place = taken.selected<int>();
-    if (place >= 0 && !reader.pad(alternativeBoundary_(nullptr)))
-        return false;
-    switch (place)
+    bool done = DtDecodeValue(reader, taken.selector_, discriminantForm_());
+    switch (done ? taken.selected<int>() : -1)
     {
     case 0:
-        if (!DtDecodeValue(reader, taken.myIdle, formOf(0)))
-            return false;
+        done = DtDecodeAlternative(reader, taken.myIdle, formOf(0), kind_(), theBoundary);
         break;
     case 1:
-        if (!DtDecodeValue(reader, taken.myBusy, formOf(1)))
-            return false;
+        done = DtDecodeAlternative(reader, taken.myBusy, formOf(1), kind_(), theBoundary);
         break;
     default:
-        break;
+        done = done && DtDecodeNoAlternative(reader, kind_());
     }
-    *this = taken;
-    return true;
+    if (done)
+        *this = taken;
+    return done;
 }
  
 unsigned int DtContent::octetBoundary(const DtWireTrail* outer)
 {
-    return DtLargerBoundary(DtBoundaryOfType<Discriminant>(discriminantForm_()), alternativeBoundary_(outer));
+    return DtVariantBoundary(kind_(), DtBoundaryOfType<Discriminant>(discriminantForm_()), alternativeBoundary_(outer));
 }
  
 // Whatever alternative is selected, it starts where the one with the largest boundary would.
@@ -97,30 +95,39 @@ const DtAlternativeTable& DtContent::places_()
         DtNamesOfType<Discriminant>(),
         {
             "Off",
-            "[HalfOn .. 2nd]",
+            "[Half-On .. 2nd]",
+        },
+        {
+            "HLAother",
         });
     return theTable;
 }
  
 void DtContent::select_(unsigned int alternative)
 {
-    const DtInt64 present = static_cast<DtInt64>(selector_);
+    const DtInt64 present = DtNumberOfDiscriminant(selector_);
     selector_ = static_cast<Discriminant>(places_().valueOf(alternative, present));
 }
  
 // Discriminant: Kind.
 DtWireForm DtContent::discriminantForm_()
 {
-    return DtWireForm("State8");
+    return DtWireForm("State8", "HLAoctet", R"qx(HLAvariableArray)qx",
+        -1, 1, 0);
+}
+ 
+DtVariantKind DtContent::kind_()
+{
+    return DtVariantKindOf("HLAvariantRecord");
 }
  
 DtWireForm DtContent::formOf(unsigned int alternative)
 {
     static const DtWireForm theForms[] = {
         DtWireForm("Hours", "Unsigned16LE", R"qx(HLAvariableArray)qx",
-            1),
+            -1, 2, 1),
         DtWireForm("Reading", "", R"qx(HLAvariableArray)qx",
-            1),
+            -1, 0, 0),
         DtWireForm()};
     return theForms[alternative];
 }

@@ -3,12 +3,17 @@
  
 // Generated from case; the next generation writes it anew.
  
+#include <qx/opaqueValue.h>
 #include <qx/wireFormat.h>
  
 #include "dllExport.h"
 #include "DataTypes/caseEnums.h"
+#if __has_include("DataTypes/hours.h")
 #include "DataTypes/hours.h"
+#endif
+#if __has_include("DataTypes/reading.h")
 #include "DataTypes/reading.h"
+#endif
 
 // A variant record: a discriminant and the alternative that it selects. Setting an alternative selects it.
 //
@@ -16,8 +21,8 @@
 class DT_DLL_CASE DtContent
 {
 public:
-    typedef DT_DLL_CASE_Discriminants::DtState8 Discriminant;
- 
+    typedef DtState8 Discriminant;
+
     DtContent();
     bool operator==(const DtContent& other) const;
     bool operator!=(const DtContent& other) const;
@@ -36,7 +41,7 @@ public:
     template <class Result = int>
     Result selected() const
     {
-        return places_().find(static_cast<DtInt64>(selector_));
+        return places_().find(DtNumberOfDiscriminant(selector_));
     }
  
     const DtHours& idle() const { return myIdle; }
@@ -73,6 +78,7 @@ private:
     static const DtAlternativeTable& places_();
     static DtWireForm formOf(unsigned int alternative);
     static DtWireForm discriminantForm_();
+    static DtVariantKind kind_();
     static unsigned int alternativeBoundary_(const DtWireTrail* outer);
     void select_(unsigned int alternative);
  

@@ -1,7 +1,9 @@
 // Generated from case; the next generation writes it anew.
  
 #include "DataTypes/history.h"
+#if __has_include("DataTypes/reading.h")
 #include "DataTypes/reading.h"
+#endif
 
 DtHistory::DtHistory() : myElements(layout().kind == DtFixedArray ? layout().count : 0)
 {
@@ -104,15 +106,16 @@ unsigned int DtHistory::octetBoundary(const DtWireTrail* outer)
     return DtArrayBoundary<value_type>(layout(), elementForm(), &trail);
 }
  
+// The encoding that the model names, or that of the kind of array.
 DtArrayLayout DtHistory::layout()
 {
-    const unsigned int count = 1;
-    return DtLayoutOf(DtWireForm("", "", R"qx(HLAvariableArray)qx", count));
+    return DtLayoutOf(DtWireForm("", "", R"qx(HLAvariableArray)qx", -1));
 }
  
 DtWireForm DtHistory::elementForm()
 {
-    return DtWireForm("Reading", "", R"qx(HLAvariableArray)qx");
+    return DtWireForm("Reading", "", R"qx(HLAvariableArray)qx",
+        -1, 0, 0);
 }
  
 

@@ -2,14 +2,14 @@
  
 #include "DataTypes/hours.h"
 
-void DtHours::encode(DtWireWriter& writer, const DtWireForm& form) const
+void DtHours::encode(DtWireWriter& writer) const
 {
-    DtPutNumber(writer, myNumber, octets(), DtIsLittleEndian(form));
+    DtPutNumber(writer, myNumber, octets(), isLittleEndian());
 }
  
-bool DtHours::decode(DtWireReader& reader, const DtWireForm& form)
+bool DtHours::decode(DtWireReader& reader)
 {
-    return DtGetNumber(reader, myNumber, octets(), DtIsLittleEndian(form));
+    return DtGetNumber(reader, myNumber, octets(), isLittleEndian());
 }
  
 unsigned int DtHours::netSize() const
@@ -22,11 +22,14 @@ unsigned int DtHours::octetBoundary()
     return DtNumberBoundary(octets());
 }
  
-// The model's size of the representation, or that of the C++ type when the model gives none.
 unsigned int DtHours::octets()
 {
-    const unsigned int size = 2;
-    return size != 0 ? size : sizeof(Number);
+    return 2;
+}
+ 
+bool DtHours::isLittleEndian()
+{
+    return 1 != 0;
 }
  
 

@@ -11,7 +11,7 @@
 class DT_DLL_CASE DtHours
 {
 public:
-    typedef DtU8 Number;
+    typedef DtU16 Number;
 
     DtHours() : myNumber() {}
     DtHours(Number number) : myNumber(number) {}
@@ -21,16 +21,16 @@ public:
     bool operator==(const DtHours& other) const { return myNumber == other.myNumber; }
     bool operator!=(const DtHours& other) const { return !(*this == other); }
  
-    // The form names the representation, whose byte order counts.
-    void encode(DtWireWriter& writer, const DtWireForm& form = DtWireForm()) const;
+    void encode(DtWireWriter& writer) const;
     // False: the octets are no such number, and this one is as it was.
-    bool decode(DtWireReader& reader, const DtWireForm& form = DtWireForm());
+    bool decode(DtWireReader& reader);
     // Octets on the wire, from an offset of 0.
     unsigned int netSize() const;
     static unsigned int octetBoundary();
  
 private:
     static unsigned int octets();
+    static bool isLittleEndian();
  
     Number myNumber;
 };

@@ -103,15 +103,16 @@ unsigned int DtNotes::octetBoundary(const DtWireTrail* outer)
     return DtArrayBoundary<value_type>(layout(), elementForm(), &trail);
 }
  
+// The encoding that the model names, or that of the kind of array.
 DtArrayLayout DtNotes::layout()
 {
-    const unsigned int count = 1;
-    return DtLayoutOf(DtWireForm("", "", R"qx(HLAvariableArray)qx", count));
+    return DtLayoutOf(DtWireForm("", "", R"qx(HLAvariableArray)qx", -1));
 }
  
 DtWireForm DtNotes::elementForm()
 {
-    return DtWireForm("HLAASCIIchar", "", R"qx(HLAvariableArray)qx");
+    return DtWireForm("HLAASCIIchar", "", R"qx(HLAvariableArray)qx",
+        -1, 1, 0);
 }
  
 

@@ -25,13 +25,14 @@ bool DtReading::operator!=(const DtReading& other) const
  
 void DtReading::encode(DtWireWriter& writer) const
 {
-    static_cast<void>(writer);
+    const DtRecordScope<DtWireWriter> scope(writer);
     DtEncodeValue(writer, myAt, formOf(0));
     DtEncodeValue(writer, myState, formOf(1));
 }
  
 bool DtReading::decode(DtWireReader& reader)
 {
+    const DtRecordScope<DtWireReader> scope(reader);
     DtReading taken(*this);
     if (!DtDecodeValue(reader, taken.myAt, formOf(0)))
         return false;
@@ -58,9 +59,9 @@ DtWireForm DtReading::formOf(unsigned int field)
 {
     static const DtWireForm theForms[] = {
         DtWireForm("Hours", "Unsigned16LE", R"qx(HLAvariableArray)qx",
-            1),
+            -1, 2, 1),
         DtWireForm("State8", "HLAoctet", R"qx(HLAvariableArray)qx",
-            1),
+            -1, 1, 0),
         DtWireForm()};
     return theForms[field];
 }

@@ -3,11 +3,14 @@
  
 // Generated from case; the next generation writes it anew.
  
+#include <qx/opaqueValue.h>
 #include <qx/wireFormat.h>
  
 #include "dllExport.h"
 #include "DataTypes/caseEnums.h"
+#if __has_include("DataTypes/hours.h")
 #include "DataTypes/hours.h"
+#endif
 
 // A fixed record. Its own operations take an argument or are templates, so that a field may bear any name.
 class DT_DLL_CASE DtReading

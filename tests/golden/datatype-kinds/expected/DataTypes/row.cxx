@@ -1,7 +1,9 @@
 // Generated from case; the next generation writes it anew.
  
 #include "DataTypes/row.h"
+#if __has_include("DataTypes/hours.h")
 #include "DataTypes/hours.h"
+#endif
 
 DtRow::DtRow() : myElements(layout().kind == DtFixedArray ? layout().count : 0)
 {
@@ -104,15 +106,16 @@ unsigned int DtRow::octetBoundary(const DtWireTrail* outer)
     return DtArrayBoundary<value_type>(layout(), elementForm(), &trail);
 }
  
+// The encoding that the model names, or that of the kind of array.
 DtArrayLayout DtRow::layout()
 {
-    const unsigned int count = 3;
-    return DtLayoutOf(DtWireForm("", "", R"qx(HLAfixedArray)qx", count));
+    return DtLayoutOf(DtWireForm("", "", R"qx(HLAfixedArray)qx", 3));
 }
  
 DtWireForm DtRow::elementForm()
 {
-    return DtWireForm("Hours", "Unsigned16LE", R"qx(HLAvariableArray)qx");
+    return DtWireForm("Hours", "Unsigned16LE", R"qx(HLAvariableArray)qx",
+        -1, 2, 1);
 }
  
 

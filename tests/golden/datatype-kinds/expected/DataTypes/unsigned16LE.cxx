@@ -22,11 +22,9 @@ unsigned int DtUnsigned16LE::octetBoundary()
     return DtNumberBoundary(octets());
 }
  
-// The model's size, or that of the C++ type when the model gives none.
 unsigned int DtUnsigned16LE::octets()
 {
-    const unsigned int size = 2;
-    return size != 0 ? size : sizeof(Number);
+    return 2;
 }
  
 bool DtUnsigned16LE::isLittleEndian()

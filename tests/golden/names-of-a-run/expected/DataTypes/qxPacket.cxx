@@ -57,9 +57,9 @@ DtWireForm DtQxPacket::formOf(unsigned int field)
 {
     static const DtWireForm theForms[] = {
         DtWireForm("Seeds", "HLAinteger16BE", R"qx(HLAvariableArray)qx",
-            1),
+            -1, 2, 0),
         DtWireForm("Seeds", "HLAinteger16BE", R"qx(HLAvariableArray)qx",
-            1),
+            -1, 2, 0),
         DtWireForm()};
     return theForms[field];
 }

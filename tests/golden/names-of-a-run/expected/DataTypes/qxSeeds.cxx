@@ -106,15 +106,16 @@ unsigned int DtQxSeeds::octetBoundary(const DtWireTrail* outer)
     return DtArrayBoundary<value_type>(layout(), elementForm(), &trail);
 }
  
+// The encoding that the model names, or that of the kind of array.
 DtArrayLayout DtQxSeeds::layout()
 {
-    const unsigned int count = 1;
-    return DtLayoutOf(DtWireForm("", "", R"qx(HLAvariableArray)qx", count));
+    return DtLayoutOf(DtWireForm("", "", R"qx(HLAvariableArray)qx", -1));
 }
  
 DtWireForm DtQxSeeds::elementForm()
 {
-    return DtWireForm("HLAinteger16BE", "", R"qx(HLAvariableArray)qx");
+    return DtWireForm("HLAinteger16BE", "", R"qx(HLAvariableArray)qx",
+        -1, 2, 0);
 }
  
 } // namespace garden

@@ -4,7 +4,7 @@
 // Generated from case; the next generation writes it anew.
 //
 // Every enumerator has the letter e in front, so that digits and keywords are names too. DtEnumeratorsOf gives the names
-// as the model has them, without the letter.
+// as the model has them, and how long the number is on the wire. A number without a name is a value all the same.
  
 #include <qx/enumerators.h>
  
@@ -13,7 +13,7 @@
 namespace garden
 {
  
-enum class DtColour8 : DtInt32
+enum class DtColour8 : DtInt64
 {
     eRed = 0,
     eBlue = 1,
@@ -25,14 +25,9 @@ inline DtEnumeratorTable DtEnumeratorsOf(DtColour8)
         {"Red", 0},
         {"Blue", 1},
         {"", 0}};
-    return DtEnumeratorTable("DtColour8", theEntries, sizeof theEntries / sizeof *theEntries - 1);
+    static const DtNumberForm theNumber(1, 0, 0);
+    return DtEnumeratorTable("DtColour8", theEntries, sizeof theEntries / sizeof *theEntries - 1, theNumber);
 }
- 
-// Where variant records look up the type of their discriminant: among the enumerations, else among the ready-made types.
-struct DT_DLL_CASE_Discriminants : DtReadyDiscriminants
-{
-    typedef ::garden::DtColour8 DtColour8;
-};
  
 } // namespace garden
  

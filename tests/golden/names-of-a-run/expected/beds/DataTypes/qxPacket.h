@@ -3,11 +3,14 @@
  
 // Generated from case; the next generation writes it anew.
  
+#include <qx/opaqueValue.h>
 #include <qx/wireFormat.h>
  
 #include "dllExport.h"
 #include "DataTypes/caseEnums.h"
+#if __has_include("DataTypes/qxSeeds.h")
 #include "DataTypes/qxSeeds.h"
+#endif
 
 namespace garden
 {

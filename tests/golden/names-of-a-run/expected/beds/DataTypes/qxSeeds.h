@@ -3,6 +3,7 @@
  
 // Generated from case; the next generation writes it anew.
  
+#include <qx/opaqueValue.h>
 #include <qx/wireFormat.h>
  
 #include <vector>

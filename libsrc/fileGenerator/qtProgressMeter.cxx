@@ -114,8 +114,11 @@ void DtQtProgressMeter::makeDialog()
     myDialog->setWindowModality(Qt::ApplicationModal);
     myLabel = new QLabel(myDialog);
     myLabel->setAlignment(Qt::AlignLeft | Qt::AlignVCenter);
+    myLabel->setWordWrap(true);
     myDialog->setLabel(myLabel);
     myDialog->setFixedWidth(theWidth);
+    const int twoLines = 2 * myLabel->fontMetrics().lineSpacing(); // most names need one of their own
+    myDialog->setFixedHeight(myDialog->sizeHint().height() - myLabel->sizeHint().height() + twoLines);
     myDialog->setWindowTitle(theTitle);
 }
 
@@ -123,8 +126,8 @@ void DtQtProgressMeter::showMeasure()
 {
     noteCancel(); // ahead of the value: reaching the last one resets the dialog, the pressed button included
     myDialog->setValue(myCurrentMeasure);
-    noteCancel();
     processEvents();
+    noteCancel(); // also of a button pressed just now, so that no further file is begun
 }
 
 void DtQtProgressMeter::noteCancel()

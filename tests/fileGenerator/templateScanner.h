@@ -19,6 +19,8 @@ struct DtTemplateRules
     Names freeTokens;                   // everywhere
     std::map<QString, Names> loops;     // loop to the tokens that it alone sets
     std::map<QString, QString> parents; // loop to the one that it must stand in
+    Names verbs;                        // conditions without operands, beside those that every writer has
+    bool hasCountedLoops = true;
 
     bool knows(const QString& token) const
     {
@@ -187,7 +189,7 @@ private:
     QString checkLoop(const QString& header)
     {
         static const QRegularExpression theCount(QStringLiteral("^[0-9]+$"));
-        if (theCount.match(header).hasMatch())
+        if (myRules.hasCountedLoops && theCount.match(header).hasMatch())
             return QString();
         if (myRules.loops.count(header) == 0)
         {
@@ -222,6 +224,8 @@ private:
         };
         const QStringList words = header.split(' ', Qt::SkipEmptyParts);
         const auto verb = theOperandCounts.find(header.section(' ', 0, 0));
+        if (myRules.verbs.count(header) > 0)
+            return QString();
         if (verb == theOperandCounts.end())
             fault("the writer does not know the verb in: " + header);
         else if (words.size() != 1 + verb->second)

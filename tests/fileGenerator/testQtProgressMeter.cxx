@@ -72,9 +72,11 @@ private Q_SLOTS:
 
     void operationsWithoutDialogThrow();
     void dialogLooksAsItShould();
+    void longNameHasALineOfItsOwn();
     void valueAndLabelFollow();
     void newTotalStartsAtZeroWithOneDialog();
     void cancelShowsAtNextUpdate();
+    void cancelDuringAnUpdateShowsAtOnce();
     void cancelAheadOfLastStepIsNotLost();
     void initClearsCancel();
     void cancelCanBeSet();
@@ -129,6 +131,16 @@ void TestQtProgressMeter::dialogLooksAsItShould()
     QCOMPARE(dialog->findChild<QPushButton*>()->text(), QString("Cancel"));
 }
 
+void TestQtProgressMeter::longNameHasALineOfItsOwn()
+{
+    myMeter.setTotalMeasure(7);
+    const QSize size = shownDialog()->size();
+    myMeter.setFileGenerated("radioTransmitterStateRepository.cxx");
+    QCOMPARE(shownDialog()->size(), size);
+    QVERIFY(shownLabel()->heightForWidth(shownLabel()->width()) > shownLabel()->fontMetrics().lineSpacing());
+    QVERIFY(shownLabel()->height() >= shownLabel()->heightForWidth(shownLabel()->width()));
+}
+
 void TestQtProgressMeter::valueAndLabelFollow()
 {
     myMeter.setTotalMeasure(10);
@@ -163,6 +175,16 @@ void TestQtProgressMeter::cancelShowsAtNextUpdate()
     QVERIFY(!myMeter.isCancelled());
     myMeter.incrementCurrentMeasure(1);
     QVERIFY(myMeter.isCancelled());
+}
+
+void TestQtProgressMeter::cancelDuringAnUpdateShowsAtOnce()
+{
+    myMeter.init(qApp, nullptr);
+    myMeter.setTotalMeasure(10);
+    QTimer::singleShot(0, shownDialog(), [] { shownDialog()->findChild<QPushButton*>()->click(); });
+    myMeter.incrementCurrentMeasure(1); // turns the event loop
+    QVERIFY(myMeter.isCancelled());
+    myMeter.init(qApp, nullptr);
 }
 
 void TestQtProgressMeter::cancelAheadOfLastStepIsNotLost()

@@ -1,0 +1,55 @@
+#ifndef FILE_GENERATOR_DATATYPE_CLOSURE_H
+#define FILE_GENERATOR_DATATYPE_CLOSURE_H
+
+#include "fileGenerator/omtInteraction.h"
+#include "fileGenerator/omtObject.h"
+#include "foundation/string.h"
+#include "omtReader/datatypeFedNode.h"
+
+#include <set>
+#include <vector>
+
+class DtCCompatibleNames;
+class DtComplexComponentNode;
+class DtComplexDatatypeNode;
+class DtOMTTree;
+struct DtArrayShape;
+
+// The datatypes that a selection of classes uses, and the arrays that cardinalities imply without a declaration.
+//
+// Both drivers of generation share this. It works on the tree and on the set of used datatypes of its driver and owns
+// neither. Names of arrays are made by the identifiers of the driver's module.
+class DtDatatypeClosure
+{
+public:
+    DtDatatypeClosure(DtOMTTree* tree, std::set<DtString>& used, DtCCompatibleNames& names);
+
+    // Every array of the tree, as models of HLA 1.3 need them.
+    void insertAllArrays();
+    // What the members of these classes need, directly or through other datatypes, and what the set holds already.
+    void complete(const std::set<DtOmtObject>& objects, const std::set<DtOmtInteraction>& interactions);
+
+    // Make up the arrays of the classes' members and map the members' names to them. Nothing without a tree.
+    void makeArraysOf(const std::set<DtOmtObject>& objects);
+    void makeArraysOf(const std::set<DtOmtInteraction>& interactions);
+    void makeArraysOf(const DtComplexDatatypeNode& node);
+    void makeArrayOf(DtComplexComponentNode& component);
+    // The name of the array, or empty, after a warning, when the cardinality type makes none.
+    DtString makeArrayOf(const DtString& itemName, const DtString& cardinality,
+                         DtDatatypeFedNode::DtCardinalityType type, const DtString& datatype);
+
+    // The name of the array that is made for the component; empty when none is.
+    static DtString arrayNameOf(const DtComplexComponentNode& component, DtCCompatibleNames& names);
+
+private:
+    void insertMemberDatatypes(const std::set<DtOmtObject>& objects, const std::set<DtOmtInteraction>& interactions);
+    std::vector<DtString> subDatatypes(const DtString& name) const;
+    void mapToArray(const DtDatatypeFedNode& member);
+    DtString addArray(const DtArrayShape& shape, const DtString& cardinality, const DtString& datatype);
+
+    DtOMTTree* myTree;
+    std::set<DtString>& myUsed;
+    DtCCompatibleNames& myNames;
+};
+
+#endif

@@ -1,6 +1,12 @@
+// The form, its actions, menus and context menus, and the slots that lead to the operations of the window.
+
 #include "codeGenApp/codeGenAppGui.h"
 
+#include "codeGenApp/aboutBox.h"
 #include "codeGenApp/codeGenInitializer.h"
+#include "codeGenApp/customCodeGui.h"
+#include "codeGenApp/deployment.h"
+#include "codeGenApp/findBar.h"
 #include "codeGenApp/listViewManager.h"
 #include "codeGenApp/preferencesDialog.h"
 #include "fileGenerator/fileWriter.h"
@@ -10,7 +16,10 @@
 #include "ui_codeGenAppGui.h"
 
 #include <QtCore/QFile>
+#include <QtCore/QProcess>
+#include <QtGui/QStatusTipEvent>
 #include <QtWidgets/QFileDialog>
+#include <QtWidgets/QShortcut>
 #include <QtWidgets/QStatusBar>
 #include <QtWidgets/QToolBar>
 
@@ -28,10 +37,9 @@ QIcon imageIcon(const char* name)
     return QFile::exists(file) ? QIcon(file) : QIcon();
 }
 
-// The directory of a model file that the user has chosen.
-DtCodeGenAppGui::DtModelFile modelFile(const QString& choice)
+DtCodeGenAppGui::DtModelFile modelFile(const QByteArray& file)
 {
-    const DtFilename path(choice.toLatin1().constData());
+    const DtFilename path(file.constData());
     DtFilename directory(path);
     directory.stripFilename();
     return {path, directory};
@@ -42,17 +50,18 @@ DtCodeGenAppGui::DtCodeGenAppGui(DtCodeGenInitializer& initializer, QApplication
     : QMainWindow(parent),
       myApplication(application),
       myInitializer(initializer),
+      myIconManager(std::make_unique<DtWidgetIconStyleManager>([this](QIcon::Mode mode)
+                                                               { return iconColorMappingsByMode(mode); })),
       myForm(std::make_unique<Ui_QtCodeGenApp>())
 {
     myForm->setupUi(this);
     setCentralWidget(myForm->widget);
     setObjectName(QStringLiteral("CodeGenAppGUI"));
-    myForm->myAddButton->setObjectName(QStringLiteral("MiddleButton"));
-    myForm->myRemoveButton->setObjectName(QStringLiteral("MiddleButton"));
-    myListViewManager = std::make_unique<DtListViewManager>(myForm->myLeftListView, myForm->myRightListView);
+    setUpLists();
     setWindowIcon(QIcon(QStringLiteral("../data/quorvexIcon.ico")));
+    myAboutBox = std::make_unique<DtAboutBox>(this);
     DtCodeGenAppGui::loadStylesheet(true);
-    myPreferences = std::make_unique<DtPreferencesDialog>(initializer);
+    myPreferences = std::make_unique<DtPreferencesDialog>(initializer, this);
     createActions();
     createToolBar();
     createMenus();
@@ -62,6 +71,21 @@ DtCodeGenAppGui::DtCodeGenAppGui(DtCodeGenInitializer& initializer, QApplication
 DtCodeGenAppGui::~DtCodeGenAppGui()
 {
     saveConfiguration();
+}
+
+// The two buttons have one name between them, by which the style sheet finds them.
+void DtCodeGenAppGui::setUpLists()
+{
+    for (QPushButton* button : {myForm->myAddButton, myForm->myRemoveButton})
+    {
+        button->setObjectName(QStringLiteral("MiddleButton"));
+        button->setAccessibleName(button->toolTip());
+    }
+    myForm->vboxLayout1->insertStretch(0); // keeps the two together in the middle
+    myForm->vboxLayout1->addStretch();
+    myListViewManager = std::make_unique<DtListViewManager>(myForm->myLeftListView, myForm->myRightListView);
+    statusBar(); // there from the start, so that the first text in it moves nothing
+    setAcceptDrops(true);
 }
 
 void DtCodeGenAppGui::saveConfiguration()
@@ -134,8 +158,13 @@ void DtCodeGenAppGui::createMenus()
     file->addSeparator();
     file->addAction(myExitAction);
     menuBar()->addMenu(QStringLiteral("&Edit"))->addAction(mySelectAllAction);
+    createConfigurationMenu();
+    menuBar()->addMenu(QStringLiteral("&Build"))->addAction(myGenerateAction);
+    createHelpMenu();
+}
 
-    QMenu* const configuration = menuBar()->addMenu(QStringLiteral("&Configuration"));
+void DtCodeGenAppGui::createConfigurationMenu()
+{
     QAction* const preferences = addNamedAction("Preferences...", "SettingsSystem.svg", "", "");
     connect(preferences, &QAction::triggered, this, &DtCodeGenAppGui::showPreferencesDialog);
     QAction* const outputDirectory = addNamedAction("Choose Output Directory...", "FileOpen.svg", "", "");
@@ -144,21 +173,32 @@ void DtCodeGenAppGui::createMenus()
     darkMode->setCheckable(true);
     darkMode->setChecked(true);
     connect(darkMode, &QAction::toggled, this, &DtCodeGenAppGui::setToggleDarkMode);
-    configuration->addActions({preferences, outputDirectory, darkMode});
+    menuBar()->addMenu(QStringLiteral("&Configuration"))->addActions({preferences, outputDirectory, darkMode});
+}
 
-    menuBar()->addMenu(QStringLiteral("&Build"))->addAction(myGenerateAction);
+void DtCodeGenAppGui::createHelpMenu()
+{
+    QAction* const versions = addNamedAction("Version Web Site...", "TerrainWorldView.svg", "", "");
+    connect(versions, &QAction::triggered, this, &DtCodeGenAppGui::launchUpdate);
+    QAction* const about = addNamedAction("About Quorvex Code Generator", "UtilityInformation.svg", "", "");
+    connect(about, &QAction::triggered, this, &DtCodeGenAppGui::showAboutBox);
+    QMenu* const help = menuBar()->addMenu(QStringLiteral("&Help"));
+    help->addAction(versions);
+    help->addSeparator();
+    help->addAction(about);
 }
 
 void DtCodeGenAppGui::connectLists()
 {
     connect(myForm->myAddButton, &QPushButton::clicked, this, &DtCodeGenAppGui::addSelectedItems);
     connect(myForm->myRemoveButton, &QPushButton::clicked, this, &DtCodeGenAppGui::removeSelectedItems);
-}
-
-void DtCodeGenAppGui::manageIcons()
-{
-    myForm->myAddButton->setIcon(imageIcon("DarkMode/SettingsAddWindow.svg"));
-    myForm->myRemoveButton->setIcon(imageIcon("DarkMode/SettingsRemoveWindow.svg"));
+    QTreeWidget* const right = myForm->myRightListView;
+    connect(right, &QTreeWidget::customContextMenuRequested, this, &DtCodeGenAppGui::slot_showContextMenu);
+    connect(right, &QTreeWidget::itemDoubleClicked, this, &DtCodeGenAppGui::slot_itemDoubleClicked);
+    for (QTreeWidget* list : {myForm->myLeftListView, right})
+        list->installEventFilter(this);
+    auto* const find = new QShortcut(QKeySequence(QStringLiteral("Ctrl+F")), this);
+    connect(find, &QShortcut::activated, this, &DtCodeGenAppGui::openFindBar);
 }
 
 void DtCodeGenAppGui::showStatus(const DtString& text)
@@ -168,38 +208,12 @@ void DtCodeGenAppGui::showStatus(const DtString& text)
         DtWarn << text << std::endl;
 }
 
-namespace
+// A pointer that passes over the menus asks to show the tip of each entry. None has one, and the text stays.
+bool DtCodeGenAppGui::event(QEvent* event)
 {
-QString readStylesheet(const QString& name)
-{
-    QFile file(name);
-    return file.open(QIODevice::ReadOnly) ? QString::fromLatin1(file.readAll()) : QString();
-}
-} // namespace
-
-void DtCodeGenAppGui::loadStylesheet(bool dark)
-{
-    const QString directory = QStringLiteral("../data/config/qt") + (dark ? "/DarkMode" : "/LightMode");
-    setStyleSheet(
-        resolveVars(readStylesheet(directory + "/00_common.qss") + readStylesheet(directory + "/01_qvx.qss")));
-}
-
-void DtCodeGenAppGui::setToggleDarkMode(bool dark)
-{
-    loadStylesheet(dark);
-}
-
-void DtCodeGenAppGui::replaceAll(QString& text, const QString& from, const QString& to)
-{
-    for (int at = text.indexOf(from); at >= 0; at = text.indexOf(from))
-        text.replace(at, from.length(), to);
-}
-
-QString DtCodeGenAppGui::resolveVars(const QString& text)
-{
-    QString result(text);
-    replaceAll(result, QStringLiteral("$(APP_DIR)"), myAppDir);
-    return result;
+    if (event->type() == QEvent::StatusTip && static_cast<QStatusTipEvent*>(event)->tip().isEmpty())
+        return true;
+    return QMainWindow::event(event);
 }
 
 void DtCodeGenAppGui::slot_quitMe()
@@ -209,13 +223,14 @@ void DtCodeGenAppGui::slot_quitMe()
     exit(0);
 }
 
+// Characters beyond Latin-1 are lost on this road, and on no other.
 void DtCodeGenAppGui::slot_openFile()
 {
     const QString choice = QFileDialog::getOpenFileName(this, QStringLiteral("Open File"), QStringLiteral("."),
                                                         QString::fromLatin1(theModelFilter));
     if (choice.isEmpty())
         return;
-    const DtModelFile file = modelFile(choice);
+    const DtModelFile file = modelFile(choice.toLatin1());
     loadFile(file.first, file.second);
 }
 
@@ -225,7 +240,7 @@ void DtCodeGenAppGui::slot_openFiles()
                                                               QString::fromLatin1(theModelFilter));
     std::vector<DtModelFile> files;
     for (const QString& choice : choices)
-        files.push_back(modelFile(choice));
+        files.push_back(modelFile(choice.toUtf8()));
     if (!files.empty())
         loadFiles(files);
 }
@@ -243,6 +258,85 @@ void DtCodeGenAppGui::slot_generateFiles()
 void DtCodeGenAppGui::showPreferencesDialog()
 {
     myPreferences->show();
+}
+
+void DtCodeGenAppGui::showAboutBox()
+{
+    myAboutBox->open();
+}
+
+void DtCodeGenAppGui::launchUpdate()
+{
+    const QString page = DtDeployment::read().versionPage;
+    if (page.isEmpty())
+        showStatus("No version page is set in ../data/config/deployment.xml.");
+    if (!QProcess::startDetached(QStringLiteral("htmlview"), {page}))
+        showStatus("The program htmlview could not be started.");
+}
+
+void DtCodeGenAppGui::slot_showContextMenu(const QPoint& point)
+{
+    QMenu menu(this);
+    const QAction* const customizing = menu.addAction(QStringLiteral("Customize"));
+    const QTreeWidget* const list = myForm->myRightListView;
+    if (menu.exec(list->viewport()->mapToGlobal(point)) == customizing && !list->selectedItems().isEmpty())
+        customize(list->selectedItems().first());
+}
+
+void DtCodeGenAppGui::slot_itemDoubleClicked(QTreeWidgetItem* item, int)
+{
+    customize(item);
+}
+
+void DtCodeGenAppGui::customize(QTreeWidgetItem* item)
+{
+    if (item == nullptr)
+        return;
+    myCustomCodeGui = new DtCustomCodeGui(myApplication, item, this); // deletes itself when it is closed
+    myCustomCodeGui->show();
+}
+
+DtCustomCodeGui* DtCodeGenAppGui::customCodeGui() const
+{
+    return myCustomCodeGui;
+}
+
+void DtCodeGenAppGui::leftListRightButtonPressedCb(QTreeWidgetItem* item, const QPoint& point, int)
+{
+    if (item != nullptr)
+        popUpMenu(myAdditionMenu, "AdditionMenuPop", "Add", &DtCodeGenAppGui::additionPressed, point);
+}
+
+void DtCodeGenAppGui::rightListRightButtonPressedCb(QTreeWidgetItem* item, const QPoint& point, int)
+{
+    if (item != nullptr)
+        popUpMenu(myRemovalMenu, "RemovalMenuPop", "Remove", &DtCodeGenAppGui::removalPressed, point);
+}
+
+// A menu with one entry, made once.
+void DtCodeGenAppGui::popUpMenu(QMenu*& menu, const char* name, const char* text, void (DtCodeGenAppGui::*slot)(),
+                                const QPoint& point)
+{
+    if (menu == nullptr)
+    {
+        menu = new QMenu(QString::fromLatin1(name), this);
+        menu->setObjectName(QString::fromLatin1(name));
+        connect(menu->addAction(QString::fromLatin1(text)), &QAction::triggered, this, slot);
+    }
+    menu->popup(point);
+}
+
+// Without the maps no class is found for an item, so nothing enters the project.
+void DtCodeGenAppGui::additionPressed()
+{
+    DtItemMap noObjects;
+    DtItemMap noInteractions;
+    myListViewManager->processAddition(true, myProject.get(), noObjects, noInteractions, false);
+}
+
+void DtCodeGenAppGui::removalPressed()
+{
+    removeSelectedItems();
 }
 
 void DtCodeGenAppGui::selectAllObjectsInteractions()

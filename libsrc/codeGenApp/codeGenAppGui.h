@@ -1,10 +1,12 @@
 #ifndef CODE_GEN_APP_CODE_GEN_APP_GUI_H
 #define CODE_GEN_APP_CODE_GEN_APP_GUI_H
 
+#include "codeGenApp/widgetIconStyleManager.h"
 #include "fileGenerator/omtEnvReader.h"
 #include "foundation/filename.h"
 #include "foundation/fomType.h"
 
+#include <QtCore/QPointer>
 #include <QtWidgets/QMainWindow>
 
 #include <map>
@@ -12,14 +14,20 @@
 #include <utility>
 #include <vector>
 
+class DtAboutBox;
 class DtCodeGenInitializer;
+class DtCustomCodeGui;
 class DtFedNode;
+class DtFindBar;
 class DtListViewManager;
 class DtOMTTree;
 class DtOmtProject;
 class DtPreferencesDialog;
 class QAction;
 class QApplication;
+class QKeyEvent;
+class QMenu;
+class QTreeWidget;
 class QTreeWidgetItem;
 class Ui_QtCodeGenApp;
 
@@ -32,6 +40,10 @@ class Ui_QtCodeGenApp;
 //
 // What the user has to know goes to the status bar and stays there until it is replaced. While the window is not
 // visible each text goes to DtWarn as well, in one line.
+//
+// Beside its menus it takes files that are dropped on it: project files to load, and model files to add while the
+// action "Import FOM" is enabled. In the lists Insert adds, Delete removes, and F2 or Enter on the right list
+// customizes the current class. Ctrl+F opens a find bar below the left list.
 class DtCodeGenAppGui : public QMainWindow
 {
     Q_OBJECT
@@ -49,6 +61,8 @@ public:
     // An unattended window opens no message box and no file dialog: the text goes to DtWarn and the operation goes on
     // as after a cancel.
     void setUnattended(bool unattended) { myIsUnattended = unattended; }
+    // Puts the window where it was closed last, and notes its place from now on whenever it is closed.
+    void keepPlace();
 
     // Gives the two middle buttons their icons.
     virtual void manageIcons();
@@ -70,7 +84,12 @@ public:
     virtual void saveOmtProject();
     virtual void loadOmtProject(const DtFilename& path);
     virtual void newOmtProject(DtFilename path);
+    // Without the files of a style the window has the look of the platform.
     virtual void loadStylesheet(bool dark);
+    // The colours of icons follow from the style sheet. For QIcon::Normal there are none, and a warning.
+    virtual DtIconColorMappings iconColorMappingsByMode(QIcon::Mode mode) const;
+    // The colours are worked out again when they are asked for the next time.
+    virtual void invalidateIconColorMappings();
     virtual void putIntoUi(DtOmtProject* project);
     // True when the model file can be opened, from here or below RTI_CONFIG, where the readers look too. The standard
     // management model is found under its name without a file.
@@ -81,6 +100,9 @@ public:
 
     DtOMTTree* tree() const { return myTree.get(); }
     DtPreferencesDialog* preferences() const { return myPreferences.get(); }
+    DtAboutBox* aboutBox() const { return myAboutBox.get(); }
+    DtWidgetIconStyleManager* iconManager() const { return myIconManager.get(); }
+    DtCustomCodeGui* customCodeGui() const; // the one opened last, null once it is closed
     bool isFileLoaded() const { return myFileLoaded; }
     const std::vector<DtModelFile>& loadedFiles() const { return myLoadedFiles; }
     const DtString& outputDirectory() const { return myOutputDir; }
@@ -88,29 +110,60 @@ public:
 
 public Q_SLOTS:
     virtual void slot_quitMe();
+    virtual void slot_showContextMenu(const QPoint& point); // a point of the right list's viewport
+    virtual void slot_itemDoubleClicked(QTreeWidgetItem* item, int column);
     virtual void slot_openFile();
+    // Several files at once. Nothing in the window leads here.
     virtual void slot_openFiles();
     virtual void slot_closeOpenFiles();
     virtual void closeOpenFiles();
     virtual void slot_generateFiles();
     virtual bool setOutputDirectory(); // true when a directory was chosen
     virtual void showPreferencesDialog();
+    // Menus with one entry at a point of the screen; nothing without an item. Nothing in the window leads here.
+    virtual void leftListRightButtonPressedCb(QTreeWidgetItem* item, const QPoint& point, int column);
+    virtual void rightListRightButtonPressedCb(QTreeWidgetItem* item, const QPoint& point, int column);
+    // Shows the selected classes on the right without recording them in the project.
+    virtual void additionPressed();
+    virtual void removalPressed();
     virtual void selectAllObjectsInteractions();
     virtual void addSelectedItems();
     virtual void removeSelectedItems();
+    virtual void showAboutBox();
+    // Opens the page of the toolkit's versions, whose address is a matter of the deployment.
+    virtual void launchUpdate();
     virtual void slot_saveOmtProject();
     virtual void slot_loadOmtProject();
     virtual void slot_newOmtProject();
     virtual void setToggleDarkMode(bool dark);
 
+protected:
+    bool event(QEvent* event) override;
+    bool eventFilter(QObject* watched, QEvent* event) override;
+    void dragEnterEvent(QDragEnterEvent* event) override;
+    void dropEvent(QDropEvent* event) override;
+    void closeEvent(QCloseEvent* event) override;
+
 private:
     void createActions();
     void createMenus();
     void createToolBar();
+    void createConfigurationMenu();
+    void createHelpMenu();
     void connectLists();
+    void setUpLists();
     QAction* addNamedAction(const char* text, const char* icon, const char* shortcut, const char* toolTip);
+    void popUpMenu(QMenu*& menu, const char* name, const char* text, void (DtCodeGenAppGui::*slot)(),
+                   const QPoint& point);
+    void customize(QTreeWidgetItem* item);
     void showStatus(const DtString& text);
     void saveConfiguration();
+
+    bool handleListKey(const QTreeWidget* list, const QKeyEvent& event);
+    void customizeCurrentItem();
+    void openFindBar();
+    bool takesFile(const QString& file) const;
+    void takeFile(const QString& file);
 
     bool canMergeWithLoaded(const DtString& path, DtFomType type);
     std::vector<DtFilename> filesToRead(const DtFilename& newFile, DtFomType type, bool addMim) const;
@@ -132,6 +185,9 @@ private:
     QApplication* myApplication;
     DtCodeGenInitializer& myInitializer;
     bool myIsUnattended = false;
+    bool myKeepsPlace = false;
+    mutable std::map<QIcon::Mode, QColor> myIconColors; // filled on first use
+    std::unique_ptr<DtWidgetIconStyleManager> myIconManager;
     std::unique_ptr<Ui_QtCodeGenApp> myForm;
     const QString myAppDir = QStringLiteral("../data/config"); // stands for $(APP_DIR) in style sheets
     DtString myOutputDir;
@@ -150,7 +206,12 @@ private:
     std::unique_ptr<DtOMTTree> myTree;
     std::unique_ptr<DtOmtProject> myProject;
     std::unique_ptr<DtListViewManager> myListViewManager;
+    std::unique_ptr<DtAboutBox> myAboutBox;
     std::unique_ptr<DtPreferencesDialog> myPreferences;
+    QPointer<DtCustomCodeGui> myCustomCodeGui; // deletes itself when it is closed
+    QMenu* myAdditionMenu = nullptr;           // made when it is used first, as the next two
+    QMenu* myRemovalMenu = nullptr;
+    DtFindBar* myFindBar = nullptr;
     QAction* myNewProjectAction = nullptr;
     QAction* myLoadProjectAction = nullptr;
     QAction* mySaveProjectAction = nullptr;

@@ -8,6 +8,7 @@
 #include "fileGenerator/omtEnvWriter.h"
 #include "fileGenerator/omtEnvironment.h"
 #include "fileGenerator/omtProject.h"
+#include "fileGenerator/omtWriter.h"
 #include "fileGenerator/qtProgressMeter.h"
 #include "foundation/filePrinter.h"
 #include "foundation/outputStream.h"
@@ -38,6 +39,33 @@ public:
 private:
     DtString myOldDirectory;
 };
+
+// The class-wide settings of one road's writer; each road has its own.
+template <typename Writer>
+void setNames(const DtPreferencesDialog& preferences)
+{
+    Writer::setNamespaceName(preferences.namespaceName());
+    Writer::setIncludeName(preferences.includeName());
+    Writer::setPrefixName(preferences.prefixName());
+}
+
+// What both roads hand to their writer. Version and project come ahead of the selection, which asks for them.
+template <typename Writer>
+void fillWriter(Writer& writer, DtOMTTree* tree, DtOmtProject* project, const DtPreferencesDialog& preferences)
+{
+    writer.setOmtTree(tree);
+    writer.setHlaVersion(tree->hlaVersion());
+    writer.setOmtProject(project);
+    if (project != nullptr)
+    {
+        writer.setObjectsToGenerate(project->getObjects());
+        writer.setInteractionsToGenerate(project->getInteractions());
+    }
+    writer.setGenerateExamples(preferences.generateExamples());
+    writer.setGenerateErrors(preferences.generateErrors());
+    writer.setGenerateDis(preferences.generateDis());
+    writer.setFirstPduKind(preferences.firstPduKind());
+}
 } // namespace
 
 void DtCodeGenAppGui::generateAllFiles()
@@ -67,6 +95,7 @@ void DtCodeGenAppGui::generateCppFiles()
     // The backslash belongs to the names of the generated files, also where it separates nothing.
     const DtScriptRun run(DtFileWriter::outputDirectory() + "cpp\\", myApplication, this);
     setUpWriters();
+    setNames<DtOMTEnvWriter>(*myPreferences);
     if (myPreferences->dumpParseTree())
         dumpParseTree();
     runCppWriter();
@@ -77,9 +106,6 @@ void DtCodeGenAppGui::setUpWriters()
     if (myProject != nullptr)
         DtDataTypeMapper::instance()->setPredefinedTypes(myProject->predefinedTypes());
     DtDataTypeMapper::instance()->setMapRtiObjectIdToGlobalId(myPreferences->mapRtiObjectIdToGlobalId());
-    DtOMTEnvWriter::setNamespaceName(myPreferences->namespaceName());
-    DtOMTEnvWriter::setIncludeName(myPreferences->includeName());
-    DtOMTEnvWriter::setPrefixName(myPreferences->prefixName());
     DtFileWriter::setHlaVersion(myTree->hlaVersion());
     DtFileWriter::setGenerate64Bit(myPreferences->generate64Bit());
 }
@@ -87,24 +113,18 @@ void DtCodeGenAppGui::setUpWriters()
 void DtCodeGenAppGui::runCppWriter()
 {
     DtOMTEnvWriter writer;
-    writer.setOmtTree(myTree.get());
-    writer.setHlaVersion(myTree->hlaVersion());
-    writer.setOmtProject(myProject.get());
-    if (myProject != nullptr)
-    {
-        writer.setObjectsToGenerate(myProject->getObjects());
-        writer.setInteractionsToGenerate(myProject->getInteractions());
-    }
-    writer.setGenerateExamples(myPreferences->generateExamples());
-    writer.setGenerateErrors(myPreferences->generateErrors());
-    writer.setGenerateDis(myPreferences->generateDis());
-    writer.setFirstPduKind(myPreferences->firstPduKind());
+    fillWriter(writer, myTree.get(), myProject.get(), *myPreferences);
     writer.writeFile(myFileName);
 }
 
 void DtCodeGenAppGui::generateFile(const DtString& script)
 {
-    DtWarn << "Script " << script << " is ignored: only genCpp.txt can be run." << std::endl;
+    const DtScriptRun run(DtFileWriter::outputDirectory(), myApplication, this);
+    setUpWriters();
+    setNames<DtOMTWriter>(*myPreferences);
+    DtOMTWriter writer;
+    fillWriter(writer, myTree.get(), myProject.get(), *myPreferences);
+    writer.writeFile(myFileName, script);
 }
 
 void DtCodeGenAppGui::dumpParseTree()

@@ -1,6 +1,7 @@
 // Loading and merging of model files.
 
 #include "codeGenApp/codeGenAppGui.h"
+#include "codeGenApp/findBar.h"
 #include "codeGenApp/listViewManager.h"
 #include "codeGenApp/preferencesDialog.h"
 #include "fileGenerator/dataTypeMapper.h"
@@ -161,6 +162,9 @@ void DtCodeGenAppGui::fillLists()
     myReader->constructInteractionListView(list, myListViewManager->leftInteractionList());
     myObjectItems = myReader->objectWidgetToRootNodeMap();
     myInteractionItems = myReader->interactionWidgetToRootNodeMap();
+    myListViewManager->fitColumns();
+    if (myFindBar != nullptr)
+        myFindBar->refresh();
 }
 
 void DtCodeGenAppGui::closeOpenFiles()

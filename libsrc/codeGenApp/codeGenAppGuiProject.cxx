@@ -45,7 +45,7 @@ void DtCodeGenAppGui::slot_newOmtProject()
                                                         QString::fromLatin1(theProjectFilter));
     if (choice.isEmpty())
         return;
-    DtFilename path(choice.toLatin1().constData());
+    DtFilename path(choice.toUtf8().constData());
     if (path.extension().isEmpty())
         path.setExtension(theProjectExtension);
     newOmtProject(path);
@@ -138,7 +138,7 @@ DtFilename DtCodeGenAppGui::askForFile(const char* title, const char* filter)
     }
     const QString choice = QFileDialog::getOpenFileName(this, QString::fromLatin1(title), QStringLiteral("."),
                                                         QString::fromLatin1(filter));
-    return choice.toLatin1().constData();
+    return choice.toUtf8().constData();
 }
 
 // Replaces the present project by what the file holds. A file that cannot be opened leaves no project at all. Until

@@ -145,6 +145,7 @@ void DtCodeGenerationApp::createApplication(int argc, char** argv)
 {
     myHasNoDisplay = chooseOffscreenWithoutDisplay();
     myArgc = argc;
+    QApplication::setAttribute(Qt::AA_UseHighDpiPixmaps); // icons in the pixels of the screen
     myApplication = new QApplication(myArgc, copyArguments(argc, argv));
 }
 
@@ -238,7 +239,10 @@ int DtCodeGenerationApp::runWindow()
     myGui->setUnattended(myHasNoDisplay); // from here on somebody can answer
     myGui->manageIcons();
     if (!myHasNoDisplay)
+    {
+        myGui->keepPlace();
         myGui->show();
+    }
     QCoreApplication::processEvents();
     if (myHasNoDisplay)
     {

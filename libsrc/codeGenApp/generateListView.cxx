@@ -27,8 +27,10 @@ DtGenerateListView::DtGenerateListView(QWidget* parent) : QTreeWidget(parent)
     setRootIsDecorated(false);
     setSortingEnabled(true);
     setSelectionMode(QAbstractItemView::ExtendedSelection);
+    setAccessibleName(QStringLiteral("Scripts"));
     setHeaderLabels({QStringLiteral("Generate?"), QStringLiteral("Script file name")});
     myNameColumnWidth = fontMetrics().horizontalAdvance(QStringLiteral("Description")) + 31;
+    myGenerateColumnWidth = qMax(myGenerateColumnWidth, header()->sectionSizeHint(myGenerateColumn)); // whole header
     setColumnWidth(myGenerateColumn, myGenerateColumnWidth);
     setColumnWidth(myNameColumn, myNameColumnWidth);
     sortByColumn(myNameColumn, Qt::AscendingOrder);

@@ -5,12 +5,16 @@
 #include "omtReader/interactionClassFedNode.h"
 #include "omtReader/objectClassFedNode.h"
 
+#include <QtCore/QSet>
+#include <QtWidgets/QHeaderView>
+
 #include <algorithm>
 
 namespace
 {
 const QString theObjectsText = QStringLiteral("Objects");
 const QString theInteractionsText = QStringLiteral("Interactions");
+const int theLeastWidth = 50; // of a column, in pixels
 
 bool isRootText(const QString& text)
 {
@@ -40,6 +44,65 @@ void setUpList(QTreeWidget* list, const char* header)
     list->setColumnWidth(0, 250);
     list->setSelectionMode(QAbstractItemView::ExtendedSelection);
     list->setHeaderLabel(QString::fromLatin1(header));
+    list->setAccessibleName(QString::fromLatin1(header));
+    list->setUniformRowHeights(true); // long lists are laid out without asking each row
+}
+
+// Paints nothing while many items change.
+class DtWithoutUpdates
+{
+public:
+    explicit DtWithoutUpdates(QWidget* widget) : myWidget(widget), myWereEnabled(widget->updatesEnabled())
+    {
+        myWidget->setUpdatesEnabled(false);
+    }
+    ~DtWithoutUpdates() { myWidget->setUpdatesEnabled(myWereEnabled); }
+    DtWithoutUpdates(const DtWithoutUpdates&) = delete;
+    DtWithoutUpdates& operator=(const DtWithoutUpdates&) = delete;
+
+private:
+    QWidget* myWidget;
+    bool myWereEnabled;
+};
+
+using DtItemSet = QSet<const QTreeWidgetItem*>;
+
+// One look at the selection: asking each item for its state takes as long as there are selected ranges.
+DtItemSet selectedItems(const QTreeWidgetItem* item)
+{
+    DtItemSet items;
+    if (item->treeWidget() != nullptr)
+        for (const QTreeWidgetItem* each : item->treeWidget()->selectedItems())
+            items.insert(each);
+    return items;
+}
+
+bool hasAncestorIn(const DtItemSet& items, const QTreeWidgetItem* item)
+{
+    for (const QTreeWidgetItem* each = item->parent(); each != nullptr; each = each->parent())
+        if (items.contains(each))
+            return true;
+    return false;
+}
+
+// Adds the rows below an index, down to the leaves. Rows that are hidden stay out, with all below them.
+void addShownRows(const QTreeWidget& list, const QModelIndex& parent, QItemSelection& selection)
+{
+    const QAbstractItemModel& model = *list.model();
+    const int count = model.rowCount(parent);
+    int first = 0; // of the run of shown rows
+    for (int row = 0; row <= count; ++row)
+    {
+        const bool isShown = row < count && !list.isRowHidden(row, parent);
+        if (isShown)
+            addShownRows(list, model.index(row, 0, parent), selection);
+        else
+        {
+            if (first < row)
+                selection.append(QItemSelectionRange(model.index(first, 0, parent), model.index(row - 1, 0, parent)));
+            first = row + 1;
+        }
+    }
 }
 
 // How the root of one kind of class is called in the lists and in the two families of models.
@@ -86,8 +149,10 @@ void DtListViewManager::processAddition(bool selectedOnly, DtOmtProject* project
         selectAll();
     std::vector<QTreeWidgetItem*> found;
     findObjectsAndInteractions(found, false, selectedOnly, project, objectItems, interactionItems, fromProject);
+    const DtWithoutUpdates quiet(myRightListView);
     for (QTreeWidgetItem* item : found)
         addPath(item, project, objectItems, interactionItems);
+    fitColumns();
 }
 
 void DtListViewManager::addPath(QTreeWidgetItem* leaf, DtOmtProject* project, const DtItemMap& objectItems,
@@ -151,11 +216,16 @@ void DtListViewManager::processRemoval(DtOmtProject* project)
 {
     if (project == nullptr)
         return;
-    std::vector<QTreeWidgetItem*> found; // children first, so none is gone with its parent when its turn comes
+    std::vector<QTreeWidgetItem*> found;
     const DtItemMap noItems;
     findObjectsAndInteractions(found, true, true, project, noItems, noItems, false);
+    const DtItemSet selected(found.begin(), found.end());
+    const DtWithoutUpdates quiet(myRightListView);
+    myRightListView->clearSelection();
     for (QTreeWidgetItem* item : found)
     {
+        if (hasAncestorIn(selected, item)) // goes with it, from the list and from the project
+            continue;
         removeFromProject(item, project);
         forget(item);
         delete item;
@@ -272,7 +342,10 @@ void DtListViewManager::selectAll()
     {
         if (!list->hasFocus())
             continue;
-        list->selectAll();
+        const DtWithoutUpdates quiet(list);
+        QItemSelection everything;
+        addShownRows(*list, QModelIndex(), everything); // also what is collapsed
+        list->selectionModel()->select(everything, QItemSelectionModel::ClearAndSelect);
         return;
     }
 }
@@ -311,18 +384,41 @@ bool isInProject(QTreeWidgetItem* item, const DtOmtProject* project, const DtLis
         return project->isInteractionInProj(node->getFullName());
     return false;
 }
+
+// The items that are taken, children ahead of their parent.
+template <typename IsTaken>
+void appendIf(QTreeWidgetItem* root, std::vector<QTreeWidgetItem*>& found, const IsTaken& isTaken)
+{
+    for (int index = 0; index < root->childCount(); ++index)
+        appendIf(root->child(index), found, isTaken);
+    if (isTaken(root))
+        found.push_back(root);
+}
 } // namespace
 
 void DtListViewManager::findItems(QTreeWidgetItem* root, std::vector<QTreeWidgetItem*>& found, bool selectedOnly,
                                   DtOmtProject* project, const DtItemMap& objectItems,
                                   const DtItemMap& interactionItems, bool fromProject)
 {
-    for (int index = 0; index < root->childCount(); ++index)
-        findItems(root->child(index), found, selectedOnly, project, objectItems, interactionItems, fromProject);
-    const bool isTaken =
-        fromProject ? isInProject(root, project, objectItems, interactionItems) : !selectedOnly || root->isSelected();
-    if (isTaken)
-        found.push_back(root);
+    if (fromProject)
+        appendIf(root, found,
+                 [&](QTreeWidgetItem* item) { return isInProject(item, project, objectItems, interactionItems); });
+    else if (selectedOnly)
+        appendIf(root, found,
+                 [selected = selectedItems(root)](QTreeWidgetItem* item) { return selected.contains(item); });
+    else
+        appendIf(root, found, [](QTreeWidgetItem*) { return true; });
+}
+
+void DtListViewManager::fitColumns() const
+{
+    for (QTreeWidget* list : {myLeftListView, myRightListView})
+    {
+        const QAbstractItemView* const view = list; // which lets everybody ask
+        list->header()->setMinimumSectionSize(qMax(view->sizeHintForColumn(0), theLeastWidth));
+        for (const bool isStretched : {false, true}) // the header sees the new limit then
+            list->header()->setStretchLastSection(isStretched);
+    }
 }
 
 bool DtListViewManager::objectExistsInTree(const DtString& fullName) const

@@ -64,6 +64,10 @@ public:
                            DtOmtProject* project, const DtItemMap& objectItems, const DtItemMap& interactionItems,
                            bool fromProject);
 
+    // Makes the columns at least as wide as what stands in them, so that a long name scrolls and is not cut off. To be
+    // called when the left list was filled; the right one is seen to.
+    void fitColumns() const;
+
     // Look into the sets as they were built last.
     bool objectExistsInTree(const DtString& fullName) const;
     bool interactionExistsInTree(const DtString& fullName) const;

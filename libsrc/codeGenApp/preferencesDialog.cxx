@@ -6,6 +6,8 @@
 
 namespace
 {
+const int theScriptsHeight = 96; // pixels, for header and three rows
+
 struct DtBitsRow
 {
     const char* text;
@@ -39,7 +41,12 @@ DtPreferencesDialog::DtPreferencesDialog(DtCodeGenInitializer& initializer, QWid
       myScripts(new DtGenerateListView(this))
 {
     myForm->setupUi(this);
+    myScripts->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Ignored); // takes what height is left, but not less
+    myScripts->setMinimumHeight(theScriptsHeight);
     myForm->myScriptsLayout->addWidget(myScripts);
+    setTabOrder(myForm->myIncludeStandardMIM, myScripts);
+    setTabOrder(myScripts, myForm->myGenerateDis);
+    setWindowFlag(Qt::WindowContextHelpButtonHint, false);
     readInitializer();
     fillControls();
     connectControls();
@@ -100,6 +107,9 @@ void DtPreferencesDialog::show()
 {
     fillScripts();
     fillControls();
+    ensurePolished();
+    const int width = qMax(size().width(), minimumSizeHint().width());
+    resize(width, qMax(height(), layout()->totalHeightForWidth(width))); // whatever the user's font
     QDialog::show();
 }
 

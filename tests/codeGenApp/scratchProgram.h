@@ -14,6 +14,7 @@
 #include <QtTest/QtTest>
 #include <QtWidgets/QtWidgets>
 
+#include <functional>
 #include <memory>
 #include <vector>
 
@@ -29,7 +30,7 @@ inline void copyTree(const QString& from, const QString& to)
         if (each.fileInfo().isDir())
             QDir().mkpath(target);
         else
-            QFile::copy(each.filePath(), target);
+            writeTextFile(target, readTextFile(each.filePath())); // QFile::copy() waits for the disk
     }
 }
 
@@ -74,11 +75,13 @@ public:
     }
     DtString sampleModel() const { return copiedModel(QStringLiteral(QX_SOURCE_DIR "/data/samples/sample.xml")); }
 
-    // A window on the configuration of the scratch copy, unattended.
-    std::unique_ptr<DtCodeGenAppGui> makeWindow()
+    // A window on the configuration of the scratch copy, which may be changed first; unattended.
+    std::unique_ptr<DtCodeGenAppGui> makeWindow(const std::function<void(DtCodeGenInitializer&)>& change = {})
     {
         myInitializers.push_back(std::make_unique<DtCodeGenInitializer>());
         initializer().parseConfigFile("../data/config/codeGenConfig.xml");
+        if (change)
+            change(initializer());
         auto window = std::make_unique<DtCodeGenAppGui>(initializer(), qApp, nullptr);
         window->setUnattended(true);
         return window;

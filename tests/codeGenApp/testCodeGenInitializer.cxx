@@ -671,8 +671,12 @@ void TestCodeGenInitializer::shippedConfigurationHoldsEveryKey()
     QVERIFY(!initializer.generateErrors());
     QVERIFY(initializer.logFileName().isEmpty());
     QCOMPARE(DtNotifyLevel, 2);
-    QVERIFY((initializer.scriptMap() == std::map<DtString, bool>{
-                                            {"genCpp.txt", true}
+    QVERIFY((initializer.scriptMap() ==
+             std::map<DtString, bool>{
+                 {"genCpp.txt",    true },
+                 {"genHtml.txt",   false},
+                 {"genJson.txt",   false},
+                 {"genPython.txt", false}
     }));
 }
 

@@ -44,6 +44,13 @@ private Q_SLOTS:
         QCOMPARE(list.header()->sortIndicatorOrder(), Qt::AscendingOrder);
     }
 
+    void nameColumnHasTheWidthOfAWord()
+    {
+        const DtGenerateListView list;
+        QCOMPARE(list.columnWidth(1), list.fontMetrics().horizontalAdvance("Description") + 31);
+        QVERIFY(list.columnWidth(0) >= 36);
+    }
+
     void addedItemsEnterTheMapWithTheirState()
     {
         DtGenerateListView list;

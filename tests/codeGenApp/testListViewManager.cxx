@@ -8,6 +8,7 @@
 #include "omtReader/interactionClassFedNode.h"
 #include "omtReader/objectClassFedNode.h"
 #include "omtReader/omtTree.h"
+#include "printedLists.h"
 #include "smallModels.h"
 #include "testSupport.h"
 
@@ -19,22 +20,6 @@
 
 namespace
 {
-QString printItem(const QTreeWidgetItem& item, const QString& indent)
-{
-    QString text = indent + item.text(0) + "\n";
-    for (int index = 0; index < item.childCount(); ++index)
-        text += printItem(*item.child(index), indent + " ");
-    return text;
-}
-
-QString printList(const QTreeWidget& list)
-{
-    QString text;
-    for (int index = 0; index < list.topLevelItemCount(); ++index)
-        text += printItem(*list.topLevelItem(index), QString());
-    return text;
-}
-
 // Full names of the recorded classes, objects ahead of interactions.
 QString recorded(const DtOmtProject& project)
 {
@@ -62,13 +47,9 @@ struct DtLists
         reader.constructInteractionListView(&left, manager.leftInteractionList());
     }
 
-    QTreeWidgetItem* item(QTreeWidget& list, const char* text, int which = 0) const
-    {
-        return list.findItems(text, Qt::MatchExactly | Qt::MatchRecursive, 0).at(which);
-    }
     void select(QTreeWidget& list, const char* text, int which = 0) const
     {
-        item(list, text, which)->setSelected(true);
+        itemOf(list, text, which)->setSelected(true);
     }
     void add(bool selectedOnly = true, bool fromProject = false)
     {
@@ -143,7 +124,7 @@ private Q_SLOTS:
         QCOMPARE(printList(lists.right), QString("Objects\n Ship\n  Ferry\n   Fast\n"));
         QCOMPARE(recorded(lists.project),
                  QString("HLAobjectRoot.Ship HLAobjectRoot.Ship.Ferry HLAobjectRoot.Ship.Ferry.Fast"));
-        QVERIFY(lists.item(lists.right, "Ship")->isExpanded());
+        QVERIFY(itemOf(lists.right, "Ship")->isExpanded());
     }
 
     void recordHoldsTheOwnAttributes()
@@ -159,10 +140,10 @@ private Q_SLOTS:
     {
         DtLists lists(fleetModel());
         lists.addOnly("Tug");
-        QTreeWidgetItem* const first = lists.item(lists.right, "Tug");
+        QTreeWidgetItem* const first = itemOf(lists.right, "Tug");
         lists.addOnly("Tug");
         QCOMPARE(printList(lists.right), QString("Objects\n Ship\n  Tug\n"));
-        QVERIFY(lists.item(lists.right, "Tug") == first);
+        QVERIFY(itemOf(lists.right, "Tug") == first);
         QCOMPARE(recorded(lists.project), QString("HLAobjectRoot.Ship HLAobjectRoot.Ship.Tug"));
     }
 
@@ -253,7 +234,7 @@ private Q_SLOTS:
         lists.addOnly("Flare");
         const auto& pairs = lists.manager.rightWidgetsByLeftWidgets();
         QCOMPARE(pairs.size(), std::size_t(2));
-        QVERIFY(pairs.at(lists.item(lists.right, "Flare")) == lists.item(lists.left, "Flare"));
+        QVERIFY(pairs.at(itemOf(lists.right, "Flare")) == itemOf(lists.left, "Flare"));
     }
 
     void childrenAreFoundAheadOfTheirParents()
@@ -403,6 +384,47 @@ private Q_SLOTS:
         lists.manager.selectAll();
         QVERIFY(lists.left.selectedItems().isEmpty());
         QCOMPARE(lists.right.selectedItems().size(), 10);
+    }
+
+    void selectAllReachesCollapsedItemsButNoHiddenOnes()
+    {
+        DtLists lists(fleetModel());
+        lists.left.show();
+        QApplication::setActiveWindow(&lists.left);
+        lists.left.setFocus();
+        QTRY_VERIFY(lists.left.hasFocus());
+        lists.left.collapseAll();
+        itemOf(lists.left, "Ferry")->setHidden(true);
+        itemOf(lists.left, "Shipyard")->setHidden(true);
+        lists.select(lists.left, "Interactions");
+        lists.manager.selectAll();
+        QCOMPARE(lists.left.selectedItems().size(), 7); // all but Ferry, what is below it, and Shipyard
+        lists.add();
+        QCOMPARE(printList(lists.right), QString("Objects\n Ship\n  Tug\nInteractions\n Signal\n  Flare\n Ship\n"));
+    }
+
+    void removedSelectionLeavesTheRestUnselected()
+    {
+        DtLists lists(fleetModel());
+        lists.add(false);
+        for (const char* text : {"Ferry", "Fast", "Signal"})
+            lists.select(lists.right, text);
+        lists.manager.processRemoval(&lists.project);
+        QCOMPARE(printList(lists.right), QString("Objects\n Ship\n  Tug\n Shipyard\nInteractions\n Ship\n"));
+        QCOMPARE(recorded(lists.project), QString("HLAobjectRoot.Ship HLAobjectRoot.Ship.Tug HLAobjectRoot.Shipyard "
+                                                  "HLAinteractionRoot.Ship"));
+        QVERIFY(lists.right.selectedItems().isEmpty());
+    }
+
+    void addedBranchIsOpenAndItsSelectionIsKept()
+    {
+        DtLists lists(fleetModel());
+        lists.addOnly("Ferry");
+        lists.select(lists.right, "Ferry");
+        lists.addOnly("Fast");
+        QVERIFY(itemOf(lists.right, "Objects")->isExpanded() && itemOf(lists.right, "Ferry")->isExpanded());
+        QCOMPARE(lists.right.selectedItems().size(), 1);
+        QVERIFY(lists.right.updatesEnabled());
     }
 };
 

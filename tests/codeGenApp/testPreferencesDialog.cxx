@@ -8,8 +8,11 @@
 #include "testSupport.h"
 
 #include <QtCore/QTemporaryDir>
+#include <QtGui/QTextDocument>
 #include <QtTest/QtTest>
 #include <QtWidgets/QCheckBox>
+#include <QtWidgets/QHeaderView>
+#include <QtWidgets/QLabel>
 #include <QtWidgets/QLineEdit>
 #include <QtWidgets/QPushButton>
 #include <QtWidgets/QSpinBox>
@@ -117,6 +120,104 @@ private Q_SLOTS:
             QCOMPARE((*preferences.dialog.*row.setting)(), (preferences.initializer.*row.stored)());
         QCOMPARE(preferences.dialog->generateScripts(), preferences.initializer.scriptMap());
         QCOMPARE(preferences.dialog->generateScripts().at("genCpp.txt"), true);
+    }
+
+    void controlsHaveTheirTexts_data()
+    {
+        QTest::addColumn<QString>("toolTip");
+        QTest::newRow("Use Namespace")
+            << "Wrap all classes in a namespace. This is particularly useful if the Objects and Interaction names will "
+               "conflict with Quorvex's standard API";
+        QTest::newRow("Create Include Directory") << "";
+        QTest::newRow("Prefix Classnames") << "";
+        QTest::newRow("64-bit Linux Makefile") << "Generated Makefile supporting 64-bit architectures.\n"
+                                                  "If unselected, this will generate a 32-bit architecture.";
+        QTest::newRow("Generate Examples")
+            << "Generate simple talk/listen examples for each Object and Interaction class";
+        QTest::newRow("Map RTIObjectID to DtGlobalObjectDesignator")
+            << "Use the internal Quorvex concept of Global Object Designator for RTI Object names. Checking this will "
+               "produce an interface more consistant with the standard Quorvex API";
+        QTest::newRow("Generate #error for undecodable attributes")
+            << "Use #error in output whenever code can't be generated. If unset, use #include to a user generated "
+               "file. Unsetting this makes it easier to repeatedly generate code.";
+        QTest::newRow("Include HLA Standard MIM")
+            << "Decides whether the Code Generator includes the Standard HLA MIM file (HLAstandardMIM.xml). If an "
+               "HLA1516e FOM is selected, the HLA standard MIM will also be included in the project. This is true by "
+               "default.";
+        QTest::newRow("Generate DIS PDUs")
+            << "If checked, Experimental DIS PDUs will be created for each object and interaction. This is an "
+               "experimental feature and will likely not work for many object classes.";
+        QTest::newRow("Save Parse Tree")
+            << "If Checked, the internal parse tree of the FOM will be saved in the output directory. This is useful "
+               "for debugging if the FOM cannot be generated properly";
+    }
+    void controlsHaveTheirTexts()
+    {
+        QFETCH(QString, toolTip);
+        DtPreferences preferences;
+        const QCheckBox& box = preferences.box(QTest::currentDataTag());
+        QTextDocument shown; // the text of a rich one
+        shown.setHtml(box.toolTip());
+        QCOMPARE(shown.toPlainText(), toolTip);
+        QCOMPARE(box.toolTip().contains("font-size:8pt"), box.text() == "64-bit Linux Makefile");
+    }
+
+    void furtherTextsStandAsTheyAre()
+    {
+        DtPreferences preferences;
+        QCOMPARE(preferences.control<QSpinBox>("myFirstPduKind").toolTip(),
+                 QString("The PDU Kind to use for the fist PDU. Incremented for each subsiquent PDU."));
+        QStringList texts;
+        for (const QLabel* label : preferences.dialog->findChildren<QLabel*>())
+            texts += label->text();
+        for (const char* text :
+             {"Namespace Name:", "Directory Name", "Prefix", "First PDU Kind", "Select items to generate.",
+              "Experimental features: This section contains capabilities we have added for a specific internal task. "
+              "They are here to help you get your work done. However, they may not be finished and are not well "
+              "supported. Additionally we may remove them in future releases. ",
+              "Debug features: This section contains capabilities we have added to help you, or us, understand how the "
+              "code generator is working on a specific FOM. If you run into problems with your code, check this box "
+              "and send us the file that is generated. "})
+            QVERIFY2(texts.contains(text), text);
+        QStringList buttons;
+        for (const QPushButton* button : preferences.dialog->findChildren<QPushButton*>())
+            buttons += button->text();
+        QCOMPARE(buttons.join(' '), QString("OK Cancel"));
+    }
+
+    void tabFollowsTheRows()
+    {
+        DtPreferences preferences("inc");
+        preferences.dialog->show();
+        QStringList order;
+        const QWidget* const first = &preferences.box("Use Namespace");
+        for (const QWidget* each = first; order.size() < 30 && (each != first || order.isEmpty());
+             each = each->nextInFocusChain())
+            if ((each->focusPolicy() & Qt::TabFocus) != 0 && each->isVisible() && each->focusProxy() == nullptr &&
+                qobject_cast<QAbstractSpinBox*>(each->parentWidget()) == nullptr)
+                order += each->objectName().isEmpty() ? each->accessibleName() : each->objectName();
+        QCOMPARE(order.join(' '),
+                 QString("myUseNamespace myNamespaceName myCreateIncludeDir myIncludeName myPrefixClassnames "
+                         "myPrefixName myGenerate64Bit myGenerateExamples myMapRtiObjectId myGenerateErrors "
+                         "myIncludeStandardMIM Scripts myGenerateDis myFirstPduKind mySaveParseTree myOkButton "
+                         "myCancelButton"));
+    }
+
+    void nothingIsCutOff()
+    {
+        DtPreferences preferences("inc");
+        preferences.dialog->show();
+        for (const QCheckBox* box : preferences.dialog->findChildren<QCheckBox*>())
+            QVERIFY2(box->width() >= box->sizeHint().width(), qPrintable(box->text()));
+        for (const QLabel* label : preferences.dialog->findChildren<QLabel*>())
+        {
+            const int needed = label->wordWrap() ? label->heightForWidth(label->width()) : label->sizeHint().height();
+            const QString sizes = QString(": %1 of %2").arg(label->height()).arg(needed);
+            QVERIFY2(label->height() >= needed, qPrintable(label->text() + sizes));
+        }
+        const QHeaderView& header = *preferences.scripts().header();
+        QVERIFY(header.sectionSize(0) >= 36);
+        QVERIFY(header.sectionSize(0) >= header.sectionSizeHint(0));
     }
 
     void textIsEnabledByItsBox()

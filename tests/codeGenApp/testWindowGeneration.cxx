@@ -4,7 +4,10 @@
 
 #include "dialogWatch.h"
 #include "fileGenerator/omtProject.h"
+#include "fileGenerator/omtWriter.h"
+#include "fileGenerator/qtProgressMeter.h"
 #include "omtReader/omtTree.h"
+#include "progressWatch.h"
 #include "scratchProgram.h"
 #include "smallModels.h"
 
@@ -53,19 +56,28 @@ private:
         myWindow->addAllObjectInteractions();
         myWindow->setOutputDirectory(myProgram->path("out/"));
     }
-    // A window over settings that are changed first.
-    template <typename Change>
-    void restartWith(Change change)
+    // A window over settings that are changed first; examples are off, so that few files are written.
+    void openWith(const std::function<void(DtCodeGenInitializer&)>& change)
     {
-        myWindow = myProgram->makeWindow();
-        change(myProgram->initializer());
-        myWindow = std::make_unique<DtCodeGenAppGui>(myProgram->initializer(), qApp, nullptr);
-        myWindow->setUnattended(true);
+        myWindow = myProgram->makeWindow(
+            [&change](DtCodeGenInitializer& initializer)
+            {
+                initializer.setGenerateExamples(false);
+                change(initializer);
+            });
+    }
+    void restartWith(const std::function<void(DtCodeGenInitializer&)>& change)
+    {
+        openWith(change);
         prepare();
     }
     void onlyScripts(const std::map<DtString, bool>& scripts)
     {
         restartWith([&](DtCodeGenInitializer& initializer) { initializer.setScriptMap(scripts); });
+    }
+    void writeScript(const char* name, const QByteArray& commands) const
+    {
+        writeTextFile(myProgram->path("data/") + QString::fromLatin1(name), commands);
     }
     QString status() const { return myWindow->statusBar()->currentMessage(); }
     QStringList written() const { return filesBelow(myProgram->path("out")); }
@@ -80,7 +92,7 @@ private Q_SLOTS:
     {
         myProgram = std::make_unique<DtScratchProgram>();
         QDir().mkpath(myProgram->path("models"));
-        myWindow = myProgram->makeWindow();
+        openWith([](DtCodeGenInitializer&) {});
         myDialogs = std::make_unique<DtDialogWatch>();
     }
     void cleanup()
@@ -174,58 +186,115 @@ private Q_SLOTS:
         QCOMPARE(warnings.text(), QString());
     }
 
-    void otherScriptIsIgnoredInOneLine()
+    void otherScriptIsRunAsACommandFile()
     {
+        writeScript("genOther.txt", "beginTypes\nendTypes\nlanguage Other\ntemplateDir other\nsubdir deep\n"
+                                    "file classes.txt classes.tlt\n");
+        writeTextFile(myProgram->path("data/other/classes.tlt"),
+                      "<!Prefix!> <!Protocol!> <!BaseName!><#Objects> <!ObjectFullName!><#><#Interactions> "
+                      "<!InteractionName!><#Parameters>(<!ParameterName!>)<#><#>");
         onlyScripts({
-            {"genCpp.txt",     false},
-            {"genOther%s.txt", true }
+            {"genCpp.txt",   false},
+            {"genOther.txt", true }
         });
+        myWindow->setClassPrefix("Port");
         const DtCapture warnings(DtWarn);
         myWindow->generateAllFiles();
-        QCOMPARE(warnings.text(), QString("Script genOther%s.txt is ignored: only genCpp.txt can be run.\n"));
-        QVERIFY(!QFile::exists(myProgram->path("out")));
+        QCOMPARE(warnings.text(), QString());
+        QCOMPARE(written(), QStringList("deep/classes.txt")); // no directory of its own, unlike the main road
+        QCOMPARE(output("deep/classes.txt"), QByteArray("Port HLA1516e a HLAobjectRoot.Barge Signal(Code)"));
+        QCOMPARE(DtFileWriter::outputDirectory().c_str(), (myProgram->path("out/")).toUtf8().constData());
+        for (const QWidget* widget : QApplication::topLevelWidgets())
+            QVERIFY(qobject_cast<const QProgressDialog*>(widget) == nullptr);
+    }
+
+    void otherScriptLeavesTheSettingsOfTheMainRoad()
+    {
+        writeScript("genOther.txt", "endTypes\n");
+        onlyScripts({
+            {"genCpp.txt",   false},
+            {"genOther.txt", true }
+        });
+        DtOMTEnvWriter::setPrefixName("Kept");
+        myWindow->preferences()->setPrefix("Port");
+        myWindow->generateAllFiles();
+        QCOMPARE(DtOMTEnvWriter::prefixName().c_str(), "Kept");
+        QCOMPARE(DtOMTWriter::prefixName().c_str(), "Port");
+        QCOMPARE(int(DtFileWriter::hlaVersion()), 3);
+    }
+
+    void otherScriptDumpsNoParseTree()
+    {
+        writeScript("genOther.txt", "endTypes\n");
+        restartWith(
+            [](DtCodeGenInitializer& initializer)
+            {
+                initializer.setDumpParseTree(true);
+                initializer.setScriptMap({
+                    {"genOther.txt", true}
+                });
+            });
+        myWindow->generateAllFiles();
+        QCOMPARE(written(), QStringList());
+        restartWith([](DtCodeGenInitializer& initializer) { initializer.setDumpParseTree(false); });
     }
 
     void scriptsRunInTheOrderOfTheirNames()
     {
+        // Each takes in what one before it has written; a file that is not there yet comes out empty.
+        writeTextFile(myProgram->path("data/t/a.tlt"), "<?notlast?../out/cpp\\dllExport.h?>a");
+        writeTextFile(myProgram->path("data/t/b.tlt"), "<?notlast?../out/a.out?>b");
+        writeTextFile(myProgram->path("data/t/z.tlt"), "<?notlast?../out/b.out?>z<?notlast?../out/cpp\\dllExport.h?>");
+        writeScript("a.txt", "templateDir t\nfile a.out a.tlt\n");
+        writeScript("b.txt", "templateDir t\nfile b.out b.tlt\n");
+        writeScript("z.txt", "templateDir t\nfile z.out z.tlt\n");
         onlyScripts({
             {"b.txt",      true},
             {"genCpp.txt", true},
             {"a.txt",      true},
             {"z.txt",      true}
         });
-        const DtCapture warnings(DtWarn);
         myWindow->generateAllFiles();
-        const QString text = warnings.text();
-        QVERIFY(text.indexOf("Script a.txt") < text.indexOf("Script b.txt"));
-        QVERIFY(text.indexOf("Script b.txt") < text.indexOf("Script z.txt"));
-        QVERIFY(QFile::exists(myProgram->path("out/cpp\\Makefile")));
+        QCOMPARE(output("a.out"), QByteArray("a"));
+        QCOMPARE(output("z.out"), "abz" + output("cpp\\dllExport.h"));
+        QVERIFY(output("cpp\\dllExport.h").size() > 0);
     }
 
-    void examplesAndDisAreLeftOutInOneLineEach()
+    void userCanCancelAScript()
     {
-        restartWith(
-            [](DtCodeGenInitializer& initializer)
-            {
-                initializer.setGenerateExamples(true);
-                initializer.setGenerateDis(true);
-            });
-        QString text;
+        writeTextFile(myProgram->path("data/t/x.tlt"), "x");
+        writeScript("genOther.txt", "templateDir t\nfile first.txt x.tlt\nsubdir deep\nfile second.txt x.tlt\n"
+                                    "file third.txt x.tlt\n");
+        onlyScripts({
+            {"genCpp.txt",   false},
+            {"genOther.txt", true }
+        });
         {
-            const DtCapture warnings(DtWarn);
+            const DtCancelAt user("first");
             myWindow->generateAllFiles();
-            text = warnings.text();
+            QVERIFY(user.isDone());
         }
-        QCOMPARE(text.count("Examples cannot be generated yet. They are left out.\n"), 1);
-        QCOMPARE(text.count("DIS files cannot be generated yet. They are left out.\n"), 1);
-        QCOMPARE(text.count('\n'), 2);
-        const QStringList files = written();
-        restartWith([](DtCodeGenInitializer&) {});
-        QDir(myProgram->path("out")).removeRecursively();
+        QCOMPARE(written(), QStringList("first.txt"));
+        QCOMPARE(output("first.txt"), QByteArray("x"));
+        QCOMPARE(DtFileWriter::outputDirectory().c_str(), (myProgram->path("out/")).toUtf8().constData());
+        myWindow->generateAllFiles(); // the next run starts without the cancel
+        QCOMPARE(written(), QStringList({"deep/second.txt", "deep/third.txt", "first.txt"}));
+    }
+
+    void examplesAndDisComeWhenAskedFor()
+    {
+        prepare();
         myWindow->generateAllFiles();
-        QCOMPARE(written(), files);
+        const QStringList files = written();
         QCOMPARE(files.filter("barge", Qt::CaseInsensitive).size(), 12);
         QCOMPARE(files.filter("signal", Qt::CaseInsensitive).size(), 6);
+        QCOMPARE(files.filter(QRegularExpression("Examples|DIS")), QStringList());
+        restartWith([](DtCodeGenInitializer& initializer) { initializer.setGenerateExamples(true); });
+        myWindow->generateAllFiles();
+        QVERIFY(!written().filter("Examples").isEmpty() && written().filter("DIS").isEmpty());
+        restartWith([](DtCodeGenInitializer& initializer) { initializer.setGenerateDis(true); });
+        myWindow->generateAllFiles();
+        QVERIFY(!written().filter("DIS").isEmpty());
     }
 
     void outputDirectoryIsPutBack()
@@ -368,6 +437,62 @@ private Q_SLOTS:
         QCOMPARE(DtFileWriter::outputDirectory().c_str(), (myProgram->path("out/")).toUtf8().constData());
         myWindow->generateAllFiles(); // the next run starts without the cancel
         QVERIFY(written().contains("cpp\\Makefile"));
+    }
+
+    // Whichever file is being written when the user cancels, it is the last one.
+    void cancelAtAnyFileStopsBehindIt()
+    {
+        prepare();
+        QStringList all;
+        {
+            DtCancelAfter user(-1);
+            myWindow->generateAllFiles();
+            all = user.files;
+        }
+        QVERIFY(all.size() > 20);
+        const QStringList complete = written();
+        for (int last = 0; last < all.size(); ++last)
+        {
+            QVERIFY(QDir(myProgram->path("out")).removeRecursively());
+            DtCancelAfter user(last);
+            myWindow->generateAllFiles();
+            QCOMPARE(user.files, all.mid(0, last + 1));
+            QVERIFY(DtQtProgressMeter::instance()->isCancelled());
+            // The lists of files stand behind the classes and ahead of the project, the makefile and the solution.
+            const QStringList products = written().filter(QRegularExpression("Makefile|\\.vcxproj|\\.sln"));
+            QCOMPARE(products.size(), qMax(0, last + 1 - (all.size() - 3)));
+        }
+        myWindow->generateAllFiles();
+        QCOMPARE(written(), complete);
+    }
+
+    void largeModelStopsAtOnceAndGeneratesAgain()
+    {
+        if (largeModel().isEmpty())
+        {
+            qInfo("The large model is not there.");
+            return;
+        }
+        myWindow->newOmtProject(DtFilename(myProgram->bytes(myProgram->path("models/rpr.qxproj"))));
+        std::vector<DtCodeGenAppGui::DtModelFile> models;
+        for (const QString& file : largeModel())
+            models.emplace_back(myProgram->copiedModel(file), "");
+        QCOMPARE(myWindow->loadFiles(models), 1);
+        myWindow->addAllObjectInteractions();
+        myWindow->setOutputDirectory(myProgram->path("out/"));
+        myWindow->show(); // alive all the while
+        for (const int last : {0, 250, 700})
+        {
+            QDir(myProgram->path("out")).removeRecursively();
+            DtCancelAfter user(last);
+            myWindow->generateAllFiles();
+            QCOMPARE(user.files.size(), last + 1);
+            QCOMPARE(written().filter(QRegularExpression("Makefile|\\.vcxproj|\\.sln|Files-")), QStringList());
+            QVERIFY(myWindow->isVisible() && myWindow->isEnabled());
+        }
+        myWindow->generateAllFiles();
+        QVERIFY(written().contains("cpp\\Makefile"));
+        QVERIFY2(written().size() > 800, qPrintable(QString::number(written().size())));
     }
 
     void cancelBetweenFilesLeavesClassesOut()

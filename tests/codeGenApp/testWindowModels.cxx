@@ -485,6 +485,9 @@ private Q_SLOTS:
         QCOMPARE(status(), QString("No file loaded... Cannot generate files."));
         QTest::qWait(50);
         QCOMPARE(status(), QString("No file loaded... Cannot generate files.")); // until it is replaced
+        QStatusTipEvent passing{QString()};
+        QCoreApplication::sendEvent(myWindow.get(), &passing); // of a pointer over the menus
+        QCOMPARE(status(), QString("No file loaded... Cannot generate files."));
         myWindow->saveOmtProject();
         QCOMPARE(status(), QString("No Project loaded... Cannot save OMT Project."));
     }

@@ -1,0 +1,155 @@
+#include "codeGenApp/customCodeTokens.h"
+
+#include "fileGenerator/cCompatibleName.h"
+#include "fileGenerator/classFileWriter.h"
+#include "fileGenerator/dataTypeMapper.h"
+#include "fileGenerator/omtProject.h"
+#include "foundation/stringUtils.h"
+#include "omtReader/enumeratedDatatypeNode.h"
+#include "omtReader/omtTree.h"
+
+#include <set>
+
+namespace
+{
+const DtDataTypeMapper& mapper()
+{
+    return *DtDataTypeMapper::instance();
+}
+
+bool isReserved(const DtString& name)
+{
+    return isCPlusPlusKeyword(DtFirstCharToLower(name));
+}
+} // namespace
+
+struct DtCustomCodeTokens::DtRow
+{
+    const char* token;
+    DtString (*value)(const DtCustomCodeTokens& t);
+};
+
+#define VALUE(expression) [](const DtCustomCodeTokens& t [[maybe_unused]]) -> DtString { return expression; }
+
+// Rows run top to bottom, and a later row sees what an earlier one put in. The rows behind the prefix make up the form
+// on the wire, as the encoders and decoders have it.
+// clang-format off
+const DtCustomCodeTokens::DtRow DtCustomCodeTokens::theRows[] = {
+    {"<!AttributeDatatypeEnum!>",     VALUE(t.enumerationType())},
+    {"<!AttributeName!>",             VALUE(t.upperName())},
+    {"<!attributeName!>",             VALUE(t.lowerName())},
+    {"<!AttributeDatatype!>",         VALUE(identifier(t.myMember.datatype))},
+    {"<!EnumerationRep!>",            VALUE(t.enumerationRep())},
+    {"<!enumerationRep!>",            VALUE(DtFirstCharToLowerConditional(t.enumerationRep()))},
+    {"<!EncClassName!>",              VALUE(t.myMember.className + "Encoder")},
+    {"<!DecClassName!>",              VALUE(t.myMember.className + "Decoder")},
+    {"<!EncInterClassName!>",         VALUE(t.myMember.className + "InterEncoder")},
+    {"<!DecInterClassName!>",         VALUE(t.myMember.className + "InterDecoder")},
+    {"<!StateRepName!>",              VALUE(t.myMember.className + "StateRepository")},
+    {"<!InteractionName!>",           VALUE(t.myMember.className + "Inter")},
+    {"<!Prefix!>",                    VALUE(t.myPrefix)},
+    {"<!AttributeDatatypeDatatype!>", VALUE(identifier(t.lastRepresentation()))},
+    {"<!AttributeElementCount!>",     VALUE(DtString(elementCountOf(mapper().cardinalityOfArrayType(t.myMember.datatype))))},
+    {"<!AttributeOctets!>",           VALUE(DtString(t.numberForm().octets))},
+    {"<!AttributeIsLittleEndian!>",   VALUE(t.numberForm().isLittleEndian ? "1" : "0")},
+    {"<!AttributeEncoding!>",         VALUE(t.encoding())},
+};
+// clang-format on
+
+#undef VALUE
+
+DtCustomCodeTokens::DtCustomCodeTokens(const DtCustomCodeMember& member, const DtOMTTree* tree,
+                                       const DtOmtProject* project, const DtString& prefix)
+    : myMember(member), myTree(tree), myProject(project), myPrefix(prefix)
+{
+}
+
+DtString DtCustomCodeTokens::identifier(const DtString& text)
+{
+    return DtClassFileWriter::identifierOf(text);
+}
+
+void DtCustomCodeTokens::expand(DtString& line) const
+{
+    for (const DtRow& row : theRows)
+        if (DtContainsSubstring(line, row.token))
+            line = DtReplaceAllSubstrings(line, row.token, row.value(*this));
+}
+
+// The accessors of generated classes: a word of C++ gets an article in front.
+DtString DtCustomCodeTokens::lowerName() const
+{
+    return identifier(isReserved(myMember.name) ? "the" + DtFirstCharToUpper(myMember.name)
+                                                : DtFirstCharToLowerConditional(myMember.name));
+}
+
+DtString DtCustomCodeTokens::upperName() const
+{
+    return identifier((isReserved(myMember.name) ? "The" : "") + DtFirstCharToUpper(myMember.name));
+}
+
+// The mapper learns of an enumeration when it is generated, the tree has it from the start. A predefined type is none,
+// whatever the model says.
+bool DtCustomCodeTokens::isEnumeration(const DtString& datatype) const
+{
+    if (myProject != nullptr && myProject->isPredefinedType(datatype))
+        return false;
+    return mapper().isEnumeration(datatype) ||
+           (myTree != nullptr && myTree->getEnumeratedDatatypeNode(datatype) != nullptr);
+}
+
+DtString DtCustomCodeTokens::enumerationType() const
+{
+    return isEnumeration() ? identifier("Dt" + DtFirstCharToUpper(myMember.datatype)) : DtString();
+}
+
+DtString DtCustomCodeTokens::enumerationRep() const
+{
+    const DtString& known = mapper().repForEnumName(myMember.datatype);
+    if (!known.isEmpty() || !isEnumeration() || myTree == nullptr)
+        return known;
+    const DtEnumeratedDatatypeNode* const node = myTree->getEnumeratedDatatypeNode(myMember.datatype);
+    if (node == nullptr)
+        return known;
+    const DtString& type = mapper().quorvexType(node->getRepresentation());
+    return type.isEmpty() ? mapper().quorvexType(mapper().repOfSimpleType(node->getRepresentation())) : type;
+}
+
+DtString DtCustomCodeTokens::nextRepresentation(const DtString& datatype) const
+{
+    const DtString& ofSimpleType = mapper().repOfSimpleType(datatype);
+    if (!ofSimpleType.isEmpty())
+        return ofSimpleType;
+    const DtEnumeratedDatatypeNode* const node =
+        myTree != nullptr ? myTree->getEnumeratedDatatypeNode(datatype) : nullptr;
+    return node != nullptr ? node->getRepresentation() : mapper().repOfArrayType(datatype);
+}
+
+// A datatype that leads back to itself is its own last representation.
+DtString DtCustomCodeTokens::lastRepresentation() const
+{
+    std::set<DtString> visited = {myMember.datatype};
+    DtString last;
+    for (DtString next = nextRepresentation(myMember.datatype); !next.isEmpty(); next = nextRepresentation(last))
+    {
+        if (!visited.insert(next).second)
+            return myMember.datatype;
+        last = next;
+    }
+    return last;
+}
+
+DtNumberForm DtCustomCodeTokens::numberForm() const
+{
+    const DtString representation = lastRepresentation();
+    return numberFormOfRepresentation(representation.isEmpty() ? myMember.datatype : representation);
+}
+
+DtString DtCustomCodeTokens::encoding() const
+{
+    const DtString& known = mapper().encOfDatatype(myMember.datatype);
+    if (!known.isEmpty())
+        return known;
+    const bool isObjectId = myMember.datatype == "RTIobjectId" || myMember.datatype == "RTIObjectId";
+    return isObjectId ? "RPRnullTerminatedArray" : "HLAvariableArray";
+}

@@ -1,0 +1,55 @@
+#ifndef CODE_GEN_APP_CUSTOM_CODE_TOKENS_H
+#define CODE_GEN_APP_CUSTOM_CODE_TOKENS_H
+
+#include "fileGenerator/numberForm.h"
+
+class DtOMTTree;
+class DtOmtProject;
+
+// One attribute or parameter whose code is customized.
+struct DtCustomCodeMember
+{
+    DtString className; // short name or rename of its class
+    DtString name;      // the model's name of the member
+    DtString datatype;  // the model's datatype
+};
+
+// The values behind the tokens of the custom code templates, for one member.
+//
+// They are worked out from the model and the project, so they are the same before and after a generation, and what
+// they make up is what generation writes without custom code. All arguments must outlive the object; tree and project
+// may be null.
+class DtCustomCodeTokens
+{
+public:
+    DtCustomCodeTokens(const DtCustomCodeMember& member, const DtOMTTree* tree, const DtOmtProject* project,
+                       const DtString& prefix);
+
+    // Replaces every token of the line, in the order of the table; a token that is not in it stays.
+    void expand(DtString& line) const;
+    // The form of a name in generated code.
+    static DtString identifier(const DtString& text);
+    // Whether the member gets the templates of enumerations.
+    bool isEnumeration() const { return isEnumeration(myMember.datatype); }
+
+private:
+    struct DtRow;
+    static const DtRow theRows[];
+
+    bool isEnumeration(const DtString& datatype) const;
+    DtString lowerName() const;
+    DtString upperName() const;
+    DtString enumerationType() const;
+    DtString enumerationRep() const;
+    DtString lastRepresentation() const;
+    DtString nextRepresentation(const DtString& datatype) const;
+    DtNumberForm numberForm() const;
+    DtString encoding() const;
+
+    const DtCustomCodeMember& myMember;
+    const DtOMTTree* myTree;
+    const DtOmtProject* myProject;
+    const DtString& myPrefix;
+};
+
+#endif

@@ -292,8 +292,8 @@ private Q_SLOTS:
                                   "currently loaded a.xml b.xml HLAstandardMIM.xml"));
         QCOMPARE(leftObjects(*myWindow), QString("Ship Tug HLAmanager"));
         QCOMPARE(myWindow->loadFiles({
-                     {old,                           ""},
-                     {myProgram->model("c.xml", the1516Text), ""}
+                     {old,           ""},
+                     { myProgram->model("c.xml", the1516Text), ""}
         }),
                  0);
         QCOMPARE(status(), QString(theFailure));
@@ -302,7 +302,9 @@ private Q_SLOTS:
     void malformedTextModelFailsWithItsCause()
     {
         const DtCapture warnings(DtWarn);
-        QCOMPARE(myWindow->loadFile(myProgram->model("a.omt", "(ObjectModel (Class (Name . 5) (Attribute (Name . 3))))"), ""), 0);
+        QCOMPARE(myWindow->loadFile(
+                     myProgram->model("a.omt", "(ObjectModel (Class (Name . 5) (Attribute (Name . 3))))"), ""),
+                 0);
         QCOMPARE(status(), QString(theFailure));
         QVERIFY2(warnings.text().contains("Badly formatted"), qPrintable(warnings.text()));
         QVERIFY(isEmpty(*myWindow));

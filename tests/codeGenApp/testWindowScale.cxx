@@ -32,12 +32,12 @@ private:
     qint64 myStart;
 };
 
-// The least of three rounds.
+// The lesser of two rounds.
 template <typename Prepare, typename Operation>
 qint64 costOf(Prepare prepare, Operation operation)
 {
     qint64 least = std::numeric_limits<qint64>::max();
-    for (int round = 0; round < 3; ++round)
+    for (int round = 0; round < 2; ++round)
     {
         prepare();
         const DtStopWatch watch;

@@ -6,7 +6,7 @@
 
 namespace
 {
-const int theScriptsHeight = 96; // pixels, for header and three rows
+const int theScriptsHeight = 130; // pixels, for header and five rows
 
 struct DtBitsRow
 {

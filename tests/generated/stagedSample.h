@@ -24,13 +24,32 @@ inline DtProgramRun runProgram(const QString& directory, const QString& program,
     return {process.exitCode(), QString::fromUtf8(process.readAll())};
 }
 
+// Sources of the toolkit, for programs that need more of it than its headers.
+inline QStringList toolkitSources()
+{
+    QStringList sources;
+    for (const QFileInfo& file : QDir(QStringLiteral(QX_SOURCE_DIR "/toolkit/src")).entryInfoList({"*.cxx"}))
+        sources += file.filePath();
+    return sources;
+}
+
 // The files of one run without the first part of their names, and a scratch directory around them.
 class DtStagedOutput
 {
 public:
     // Generates everything of a model of this text, alone; without one, of the sample model with the standard one.
-    explicit DtStagedOutput(const QByteArray& modelText) { stage(myProgram.model("model.xml", modelText), false); }
-    DtStagedOutput() { stage(myProgram.sampleModel(), true); }
+    explicit DtStagedOutput(const QByteArray& modelText) { stage({myProgram.model("model.xml", modelText)}, false); }
+    DtStagedOutput() { stage({myProgram.sampleModel()}, true); }
+    // What a window has written to this directory.
+    explicit DtStagedOutput(const QString& written) { layOut(written); }
+    // Of modules in this order, with the standard model.
+    explicit DtStagedOutput(const QStringList& modules)
+    {
+        std::vector<DtString> models;
+        for (const QString& module : modules)
+            models.push_back(myProgram.copiedModel(module));
+        stage(models, true);
+    }
 
     QString path() const { return myStage.path(); }
     QString warnings() const { return myWarnings; }
@@ -59,20 +78,25 @@ public:
     }
 
 private:
-    void stage(const DtString& model, bool standardMim)
+    void stage(const std::vector<DtString>& models, bool standardMim)
     {
         const DtCapture warnings(DtWarn);
-        generate(model, standardMim);
+        generate(models, standardMim);
         myWarnings = warnings.text();
-        for (const QString& file : filesBelow(myProgram.path("out")))
+        layOut(myProgram.path("out"));
+    }
+
+    void layOut(const QString& written)
+    {
+        for (const QString& file : filesBelow(written))
         {
             const QString target = path() + "/" + QString(file).remove(QStringLiteral("cpp\\"));
             QDir().mkpath(QFileInfo(target).path());
-            QFile::copy(myProgram.path("out/") + file, target);
+            QFile::copy(written + "/" + file, target);
         }
     }
 
-    void generate(const DtString& model, bool standardMim)
+    void generate(const std::vector<DtString>& models, bool standardMim)
     {
         const auto window = myProgram.makeWindow(
             [standardMim](DtCodeGenInitializer& initializer)
@@ -81,7 +105,10 @@ private:
                 initializer.setIncludeStandardMIM(standardMim);
             });
         window->newOmtProject(DtFilename(myProgram.bytes(myProgram.path("models/model.qxproj"))));
-        QVERIFY(window->loadFile(model, ""));
+        std::vector<DtCodeGenAppGui::DtModelFile> files;
+        for (const DtString& model : models)
+            files.emplace_back(model, "");
+        QVERIFY(files.size() == 1 ? window->loadFile(models.front(), "") : window->loadFiles(files));
         window->addAllObjectInteractions();
         window->setOutputDirectory(myProgram.path("out/"));
         window->generateAllFiles();

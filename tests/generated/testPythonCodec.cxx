@@ -88,7 +88,7 @@ public:
     {
         return runPython(path(), QStringList{theDirectory + "/crossValues.py"} + arguments, input);
     }
-    QStringList refused() const { return python({"refused"}).output.split('\n', QString::SkipEmptyParts); }
+    QStringList refused() const { return python({"refused"}).output.split('\n', Qt::SkipEmptyParts); }
     QString nameOf(const QString& attribute) const { return myDatatypes.value(attribute.mid(1).toInt()); }
 
     // Empty when the generated code has become a program.
@@ -165,8 +165,8 @@ void checkThereAndBack(const DtBothSides& sides, const QStringList& notInPython,
     QVERIFY2(values.isGood(), qPrintable(values.output.right(2000)));
     const DtPythonRun driver = sides.driver(values.output.toUtf8());
     QCOMPARE(driver.exitCode, 0);
-    const QStringList sent = values.output.split('\n', QString::SkipEmptyParts);
-    const QStringList faults = differences(sides, sent, driver.output.split('\n', QString::SkipEmptyParts));
+    const QStringList sent = values.output.split('\n', Qt::SkipEmptyParts);
+    const QStringList faults = differences(sides, sent, driver.output.split('\n', Qt::SkipEmptyParts));
     QStringList names;
     for (const QString& fault : faults)
         names += fault.section(": ", 0, 0);

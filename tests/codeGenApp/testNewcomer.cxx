@@ -156,12 +156,13 @@ private:
         {
             DtCancelAfter user(3);
             choose("Generate");
-            QCOMPARE(user.files.size(), 4);
+            QVERIFY(user.isDone());
+            QVERIFY(filesBelow(path("out")).size() <= 5); // a datatype's source comes with its header
         }
         QVERIFY(!QFile::exists(path("out/cpp\\Makefile")));
         DtCancelAfter nobody(-1);
         choose("Generate");
-        QVERIFY(nobody.files.size() > 20);
+        QVERIFY(nobody.files().size() > 20);
         QVERIFY(QFile::exists(path("out/cpp\\Makefile")));
         QVERIFY(project().contains("<fom name=")); // saved on the way
     }

@@ -606,7 +606,7 @@ private Q_SLOTS:
         QTest::addColumn<QString>("fault");
         QTest::newRow("value") << QByteArray("return int.from_bytes(octets, self.order, signed")
                                << QByteArray("return int.from_bytes(octets, \"big\", signed") << " becomes ";
-        QTest::newRow("end") << QByteArray("if count > self.left():") << QByteArray("if count > max(1, self.left()):")
+        QTest::newRow("end") << QByteArray("while is_more():") << QByteArray("while is_more() and reader.left() > 0:")
                              << " is taken without its end";
         QTest::newRow("rest") << QByteArray("        if reader.left():") << QByteArray("        if False:")
                               << " is taken with an octet too many";

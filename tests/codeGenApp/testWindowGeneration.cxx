@@ -439,7 +439,8 @@ private Q_SLOTS:
         QVERIFY(written().contains("cpp\\Makefile"));
     }
 
-    // Whichever file is being written when the user cancels, it is the last one.
+    // Whichever file is being written when the user cancels, it is the last one. Only the enumerations follow the
+    // export header without a look at the button.
     void cancelAtAnyFileStopsBehindIt()
     {
         prepare();
@@ -447,25 +448,28 @@ private Q_SLOTS:
         {
             DtCancelAfter user(-1);
             myWindow->generateAllFiles();
-            all = user.files;
+            all = user.files();
         }
         QVERIFY(all.size() > 20);
         const QStringList complete = written();
         for (int last = 0; last < all.size(); ++last)
         {
             QVERIFY(QDir(myProgram->path("out")).removeRecursively());
-            DtCancelAfter user(last);
+            int before = 0;
+            DtCancelAfter user(last, [&] { before = written().size(); });
             myWindow->generateAllFiles();
-            QCOMPARE(user.files, all.mid(0, last + 1));
-            QVERIFY(DtQtProgressMeter::instance()->isCancelled());
-            // The lists of files stand behind the classes and ahead of the project, the makefile and the solution.
-            const QStringList products = written().filter(QRegularExpression("Makefile|\\.vcxproj|\\.sln"));
-            QCOMPARE(products.size(), qMax(0, last + 1 - (all.size() - 3)));
+            QVERIFY(user.isDone() && DtQtProgressMeter::instance()->isCancelled());
+            const QString name = user.files().last();
+            QVERIFY2(written().size() <= before + (name == "dllExport.h" ? 2 : 1), qPrintable(name));
+            const QRegularExpression products("Makefile|\\.vcxproj|\\.sln");
+            if (!name.contains(products))
+                QCOMPARE(written().filter(products), QStringList());
         }
         myWindow->generateAllFiles();
         QCOMPARE(written(), complete);
     }
 
+    // The source of a datatype follows its header without a look at the button.
     void largeModelStopsAtOnceAndGeneratesAgain()
     {
         if (largeModel().isEmpty())
@@ -484,9 +488,11 @@ private Q_SLOTS:
         for (const int last : {0, 250, 700})
         {
             QDir(myProgram->path("out")).removeRecursively();
-            DtCancelAfter user(last);
+            int before = 0;
+            DtCancelAfter user(last, [&] { before = written().size(); });
             myWindow->generateAllFiles();
-            QCOMPARE(user.files.size(), last + 1);
+            QVERIFY(user.isDone());
+            QVERIFY2(written().size() <= before + 2, qPrintable(QString::number(written().size() - before)));
             QCOMPARE(written().filter(QRegularExpression("Makefile|\\.vcxproj|\\.sln|Files-")), QStringList());
             QVERIFY(myWindow->isVisible() && myWindow->isEnabled());
         }

@@ -56,10 +56,22 @@ public:
             all += {"-f", "cpp\\Makefile"};
         if (!toolkit.isEmpty())
             all += "QX_DIR=" + toolkit;
-        return runProgram(directory.isEmpty() ? path() : path(directory), "make", all + arguments);
+        return runMake(directory.isEmpty() ? path() : path(directory), all + arguments);
     }
 
 private:
+    // The large model takes its time.
+    static DtProgramRun runMake(const QString& directory, const QStringList& arguments)
+    {
+        QProcess process;
+        process.setWorkingDirectory(directory);
+        process.setProcessChannelMode(QProcess::MergedChannels);
+        process.start("make", arguments);
+        if (!process.waitForFinished(3600000) || process.exitStatus() != QProcess::NormalExit)
+            return {-1, "make did not end: " + QString::fromUtf8(process.readAll().right(4000))};
+        return {process.exitCode(), QString::fromUtf8(process.readAll())};
+    }
+
     void adjust(DtCodeGenInitializer& initializer) const
     {
         initializer.setGenerateExamples(true);

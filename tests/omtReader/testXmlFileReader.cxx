@@ -426,8 +426,10 @@ private Q_SLOTS:
         QTest::addColumn<int>("version");
         QTest::addColumn<QString>("onlyThere"); // an enumerated datatype
         QTest::addColumn<QString>("notThere");
-        QTest::newRow("2010") << QByteArray("IEEE1516-2010") << 3 << "HLAsynchPointStatus" << "HLAsyncPointStatus";
-        QTest::newRow("2025") << QByteArray("IEEE1516-2025") << 4 << "HLAsyncPointStatus" << "HLAsynchPointStatus";
+        QTest::newRow("2010") << QByteArray("IEEE1516-2010") << 3 << "HLAsynchPointStatus"
+                              << "HLAsyncPointStatus";
+        QTest::newRow("2025") << QByteArray("IEEE1516-2025") << 4 << "HLAsyncPointStatus"
+                              << "HLAsynchPointStatus";
     }
     void standardModelIsThatOfTheFormat()
     {

@@ -154,10 +154,11 @@ private:
         QVERIFY(filesBelow(path("out")).isEmpty());
         chooseFile("Choose Output Directory...", path("out"), "Choose an Output Directory");
         {
-            DtCancelAfter user(3);
+            int before = 0;
+            DtCancelAfter user(3, [&] { before = filesBelow(path("out")).size(); });
             choose("Generate");
             QVERIFY(user.isDone());
-            QVERIFY(filesBelow(path("out")).size() <= 5); // a datatype's source comes with its header
+            QVERIFY(filesBelow(path("out")).size() <= before + 2); // a datatype's source comes with its header
         }
         QVERIFY(!QFile::exists(path("out/cpp\\Makefile")));
         DtCancelAfter nobody(-1);

@@ -52,7 +52,7 @@ const Row theOutputs[] = {
 DtInteractionFileGenerator::DtInteractionFileGenerator(const DtString& name, std::set<DtString>& fileList,
                                                        bool generateExamples, bool generateDis,
                                                        const DtOmtInteraction& interaction, DtOmtProject project)
-    : myGenerateExamples(generateExamples), myGenerateDis(generateDis), myOmtProject(std::move(project))
+    : myGenerateExamples(generateExamples), myGenerateDis(generateDis), myOmtProject(project)
 {
     const auto makeAll = [&]
     {

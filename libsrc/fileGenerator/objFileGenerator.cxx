@@ -78,7 +78,7 @@ const Row theOutputs[] = {
 
 DtObjectFileGenerator::DtObjectFileGenerator(const DtString& name, std::set<DtString>& fileList, bool generateExamples,
                                              bool generateDis, const DtOmtObject& object, DtOmtProject project)
-    : myGenerateDis(generateDis), myGenerateExamples(generateExamples), myOmtProject(std::move(project))
+    : myGenerateDis(generateDis), myGenerateExamples(generateExamples), myOmtProject(project)
 {
     const auto makeAll = [&]
     {

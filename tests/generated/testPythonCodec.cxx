@@ -95,10 +95,9 @@ public:
     QString compile() const
     {
         QByteArray unit;
-        for (const QString& file : filesBelow(path()).filter(QRegularExpression("^(DataTypes/.*|probe\\w+HLA|"
-                                                                                "probeStateRepository)\\.cxx$")))
-            if (!file.contains("Publisher") && !file.contains("DataTypes/HLA"))
-                unit += "#include \"" + file.toUtf8() + "\"\n";
+        const QRegularExpression sources("^(DataTypes/.*|probe(En|De)coderHLA|probeStateRepository)\\.cxx$");
+        for (const QString& file : filesBelow(path()).filter(sources))
+            unit += "#include \"" + file.toUtf8() + "\"\n";
         writeTextFile(path() + "/unit.cpp", unit + "#include \"crossDriver.cxx\"\n");
         const DtPythonRun run =
             runProgram("g++", {"-std=c++17", "-Wall", "-Wextra", "-Werror", "-I.", "-I" + theDirectory,

@@ -107,35 +107,34 @@ QAction* DtCodeGenAppGui::addNamedAction(const char* text, const char* icon, con
 
 void DtCodeGenAppGui::createActions()
 {
-    using DtSlot = void (DtCodeGenAppGui::*)();
+    using Gui = DtCodeGenAppGui;
     struct DtActionRow
     {
-        QAction* DtCodeGenAppGui::*action;
+        QAction* Gui::*action;
         const char *text, *icon, *shortcut, *toolTip;
-        DtSlot slot;
-        bool enabled;
+        void (Gui::*slot)();
     };
-    using DtGui = DtCodeGenAppGui;
     static const DtActionRow theActions[] = {
-        {&DtGui::myNewProjectAction,  "New Project",  "",                  "",       "",                            &DtGui::slot_newOmtProject,           true },
-        {&DtGui::myLoadProjectAction, "Load Project", "",                  "",       "",                            &DtGui::slot_loadOmtProject,          true },
-        {&DtGui::mySaveProjectAction, "Save Project", "",                  "",       "",                            &DtGui::slot_saveOmtProject,          false},
-        {&DtGui::myImportAction,      "Import FOM",   "FileNew.svg",       "Ctrl+O", "Open a FOM definition file",
-         &DtGui::slot_openFile,                                                                                                                           false},
-        {&DtGui::mySelectAllAction,   "Select All",   "",                  "Ctrl+A", "",                            &DtGui::selectAllObjectsInteractions, true },
-        {&DtGui::myCloseAction,       "Close",        "UtilityClose.svg",  "",       "Close a FOM definition file",
-         &DtGui::slot_closeOpenFiles,                                                                                                                     true },
-        {&DtGui::myGenerateAction,    "Generate",     "UtilityExport.svg", "Ctrl+G", "Generate Quorvex extensions",
-         &DtGui::slot_generateFiles,                                                                                                                      true },
-        {&DtGui::myExitAction,        "Exit",         "FileExit.svg",      "",       "",                            &DtGui::slot_quitMe,                  true },
+        {&Gui::myNewProjectAction,  "New Project",  "",                  "",       "",                            &Gui::slot_newOmtProject          },
+        {&Gui::myLoadProjectAction, "Load Project", "",                  "",       "",                            &Gui::slot_loadOmtProject         },
+        {&Gui::mySaveProjectAction, "Save Project", "",                  "",       "",                            &Gui::slot_saveOmtProject         },
+        {&Gui::myImportAction,      "Import FOM",   "FileNew.svg",       "Ctrl+O", "Open a FOM definition file",
+         &Gui::slot_openFile                                                                                                                        },
+        {&Gui::mySelectAllAction,   "Select All",   "",                  "Ctrl+A", "",                            &Gui::selectAllObjectsInteractions},
+        {&Gui::myCloseAction,       "Close",        "UtilityClose.svg",  "",       "Close a FOM definition file",
+         &Gui::slot_closeOpenFiles                                                                                                                  },
+        {&Gui::myGenerateAction,    "Generate",     "UtilityExport.svg", "Ctrl+G", "Generate Quorvex extensions",
+         &Gui::slot_generateFiles                                                                                                                   },
+        {&Gui::myExitAction,        "Exit",         "FileExit.svg",      "",       "",                            &Gui::slot_quitMe                 },
     };
     for (const DtActionRow& row : theActions)
     {
         QAction* const action = addNamedAction(row.text, row.icon, row.shortcut, row.toolTip);
         this->*row.action = action;
-        action->setEnabled(row.enabled);
         connect(action, &QAction::triggered, this, [this, slot = row.slot] { (this->*slot)(); });
     }
+    mySaveProjectAction->setEnabled(false);
+    myImportAction->setEnabled(false);
 }
 
 void DtCodeGenAppGui::createToolBar()

@@ -57,16 +57,29 @@ DtContextValue trueOrNothing(bool isSet)
 }
 
 using Run = DtOMTWriter;
+
+// A class-wide setting.
+template <const DtString& (*Getter)()>
+DtContextValue setting(const Run& /*run*/, Run& /*writer*/)
+{
+    return Getter();
+}
+
+DtContextValue mimIncluded(const Run& /*run*/, Run& /*writer*/)
+{
+    return trueOrNothing(Run::MIMincluded());
+}
+
 const DtContextRow<Run> theSettings[] = {
-    {"FomDefinitionFileName",                                 [](const Run&, Run&) -> DtContextValue { return Run::fomDefinitionFileName(); },                                       Text},
-    {"Namespace",                                                       [](const Run&,                                                          Run&) -> DtContextValue { return Run::namespaceName(); },                                                                                             Text},
-    {"Include",                                                   [](const Run&,                                                                Run&) -> DtContextValue { return Run::includeName(); },                                                                  Text},
-    {"Prefix", [](const Run&,Run&) -> DtContextValue { return Run::prefixName(); },Text},
-    {"BaseName",                                          [](const Run&,                                                        Run&) -> DtContextValue { return Run::baseName(); },                                                                                                                                                                           Text},
-    {"MIMincluded",                                              [](const Run&,     Run&) -> DtContextValue { return trueOrNothing(Run::MIMincluded()); }, Plain},
-    {"TemplateDir",                                                       got<&Run::templateDir>,                                                        Text                                                                                                   },
-    {"Language",                                                  got<&Run::language>,                                                               Text                                                                                                                                                        },
-    {"Protocol",                                                   protocolOf,         Plain  },
+    {"FomDefinitionFileName", setting<&Run::fomDefinitionFileName>, Text },
+    {"Namespace",             setting<&Run::namespaceName>,         Text },
+    {"Include",               setting<&Run::includeName>,           Text },
+    {"Prefix",                setting<&Run::prefixName>,            Text },
+    {"BaseName",              setting<&Run::baseName>,              Text },
+    {"MIMincluded",           mimIncluded,                          Plain},
+    {"TemplateDir",           got<&Run::templateDir>,               Text },
+    {"Language",              got<&Run::language>,                  Text },
+    {"Protocol",              protocolOf,                           Plain},
 };
 
 const char* const theEntryIdentifiers[] = {"UUID1", "UUID2"};

@@ -28,14 +28,17 @@ struct DtVariantRecordFileWriter::DtTokens
         static const DtTokenTable<Writer> theTable(theRows);
         return theTable;
     }
+    // The same text as in the enumerations header; a list or a range keeps its commas and brackets.
+    static DtString currentEnumerator(const Writer& w)
+    {
+        return DtEnumerationFileWriter::cleanedValueName(w.currentAttribute()->discrimininantValue());
+    }
+    static DtString isVariantRecord(const Writer& w) { return holdsVariantRecord(*w.currentAttribute()) ? "1" : ""; }
     static const DtTokenTable<Writer>& ofAttribute()
     {
         static const DtTokenRow<Writer> theRows[] = {
-  // the same text as in the enumerations header; a list or a range keeps its commas and brackets
-            {"<!CurrentDiscriminantEnumerator!>", [](const Writer& w)
-             { return DtEnumerationFileWriter::cleanedValueName(w.currentAttribute()->discrimininantValue()); }},
-            {"<!NetTypeIsVariantRecord!>",
-             [](const Writer& w) -> DtString { return holdsVariantRecord(*w.currentAttribute()) ? "1" : ""; }                                                   },
+            {"<!CurrentDiscriminantEnumerator!>", currentEnumerator},
+            {"<!NetTypeIsVariantRecord!>",        isVariantRecord  },
         };
         static const DtTokenTable<Writer> theTable(theRows);
         return theTable;

@@ -9,7 +9,6 @@
 
 #include <algorithm>
 #include <csignal>
-#include <functional>
 #include <map>
 #include <sys/resource.h>
 
@@ -138,60 +137,84 @@ void logEverything(DtStart& start)
     start.write("data/config/customCodeGenConfig.xml", text);
 }
 
+void changeNothing(DtStart& /*start*/)
+{
+}
+
+void hideDisplay(DtStart& start)
+{
+    start.setVariable("DISPLAY", QString());
+}
+
+void searchOnTheShelf(DtStart& start)
+{
+    start.setVariable("RTI_CONFIG", start.path("shelf"));
+}
+
+void breakModel(DtStart& start)
+{
+    start.write("models/bad.xml", "<objectModel");
+}
+
+void removeConfiguration(DtStart& start)
+{
+    QFile::remove(start.path("data/config/codeGenConfig.xml"));
+}
+
+void breakConfiguration(DtStart& start)
+{
+    start.write("data/config/customCodeGenConfig.xml", "<codeGenConfig");
+}
+
+const QByteArray theBoatSelection = "<objectClass name=\"HLAobjectRoot.Boat\" rename=\"\"/>";
+
+void keepProject(DtStart& start)
+{
+    start.write("models/kept.qxproj", projectOf("boat.xml", theBoatSelection));
+}
+
+void keepProjectOfLostModel(DtStart& start)
+{
+    chooseOffscreen(start); // where a dialog would wait for ever
+    logEverything(start);
+    start.write("models/lost.qxproj", projectOf("gone.xml", theBoatSelection));
+}
+
 struct DtStartRow
 {
     const char* name;
-    QStringList options;
-    std::function<void(DtStart&)> prepare;
+    void (*prepare)(DtStart&);
+    const char* options; // divided by single blanks, so two in a row have an empty one between them
+
+    QStringList arguments() const
+    {
+        return *options != '\0' ? QString::fromLatin1(options).split(QLatin1Char(' ')) : QStringList();
+    }
 };
 
+const char theLongOptions[] = "--generate --all --outputDir ../out --fomDefFile ../models/boat.xml --includeDir quay "
+                              "--classPrefix Qx";
+
 // All starts of the real program. Each holds its splash for three seconds, so they run at the same time.
-const std::vector<DtStartRow>& startRows()
-{
-    static const QByteArray theBoatSelection = "<objectClass name=\"HLAobjectRoot.Boat\" rename=\"\"/>";
-    static const std::vector<DtStartRow> theRows = {
-        {"long",
-         {"--generate", "--all", "--outputDir", "../out", "--fomDefFile", "../models/boat.xml", "--includeDir", "quay",
-          "--classPrefix", "Qx"},
-         [](DtStart&) {}                                                                                                                                                                             },
-        {"short",                  {"-GA", "-O", "../out/", "-F", "../models/boat.xml", "-I", "quay", "-p", "Qx"}, chooseOffscreen                                                                   },
-        {"bad model",
-         {"-G", "-A", "-O", "../out", "-F", "../models/bad.xml"},
-         [](DtStart& start) { start.write("models/bad.xml", "<objectModel"); }                                                                                                                       },
-        {"no output directory",    {"-G", "-A", "-F", "../models/boat.xml"},                                       [](DtStart&) {}                                                                   },
-        {"empty output directory", {"-G", "-O", "", "-F", "../models/boat.xml"},                                   [](DtStart&) {}                                                                   },
-        {"no model",               {"-G", "-A", "-O", "../out"},                                                   [](DtStart& start) { start.setVariable("DISPLAY", QString()); }                   },
-        {"no options",             {},                                                                             [](DtStart& start) { QFile::remove(start.path("data/config/codeGenConfig.xml")); }},
-        {"unreadable project",
-         {"-G", "-A", "-O", "../out", "-P", "../models/new.qxproj", "-F", "../models/boat.xml"},
-         chooseOffscreen                                                                                                                                                                             },
-        {"valid project",
-         {"-G", "-O", "../out", "-P", "../models/kept.qxproj", "-F", "../shelf/raft.xml"},
-         [](DtStart& start) { start.write("models/kept.qxproj", projectOf("boat.xml", theBoatSelection)); }                                                                                          },
-        {"two models",
-         {"-G", "-A", "-O", "../out", "-F", "../models/boat.xml", "-F", "raft.xml"},
-         [](DtStart& start) { start.setVariable("RTI_CONFIG", start.path("shelf")); }                                                                                                                },
-        {"searched model",
-         {"-G", "-A", "-O", "../out\\", "-F", "raft.xml"},
-         [](DtStart& start) { start.setVariable("RTI_CONFIG", start.path("shelf")); }                                                                                                                },
-        {"lost model",
-         {"-G", "-A", "-O", "../out", "-P", "../models/lost.qxproj", "-F", "../models/boat.xml"},
-         [](DtStart& start)
-         {
-             chooseOffscreen(start); // where a dialog would wait for ever
-             logEverything(start);
-             start.write("models/lost.qxproj", projectOf("gone.xml", theBoatSelection));
-         }                                                                                                                                                                                           },
-        {"help",                   {"--help"},                                                                     [](DtStart&) {}                                                                   },
-        {"version",                {"--version"},                                                                  logEverything                                                                     },
-        {"unknown option",         {"-style", "fusion"},                                                           [](DtStart&) {}                                                                   },
-        {"window",                 {},                                                                             chooseOffscreen                                                                   },
-        {"broken configuration",
-         {"-G", "-A", "-O", "../out", "-F", "../models/boat.xml"},
-         [](DtStart& start) { start.write("data/config/customCodeGenConfig.xml", "<codeGenConfig"); }                                                                                                },
-    };
-    return theRows;
-}
+const DtStartRow theStarts[] = {
+    {"long",                   changeNothing,          theLongOptions                                                  },
+    {"short",                  chooseOffscreen,        "-GA -O ../out/ -F ../models/boat.xml -I quay -p Qx"            },
+    {"bad model",              breakModel,             "-G -A -O ../out -F ../models/bad.xml"                          },
+    {"no output directory",    changeNothing,          "-G -A -F ../models/boat.xml"                                   },
+    {"empty output directory", changeNothing,          "-G -O  -F ../models/boat.xml"                                  },
+    {"no model",               hideDisplay,            "-G -A -O ../out"                                               },
+    {"no options",             removeConfiguration,    ""                                                              },
+    {"unreadable project",     chooseOffscreen,        "-G -A -O ../out -P ../models/new.qxproj -F ../models/boat.xml" },
+    {"valid project",          keepProject,            "-G -O ../out -P ../models/kept.qxproj -F ../shelf/raft.xml"    },
+    {"two models",             searchOnTheShelf,       "-G -A -O ../out -F ../models/boat.xml -F raft.xml"             },
+    {"searched model",         searchOnTheShelf,       "-G -A -O ../out\\ -F raft.xml"                                 },
+    {"lost model",             keepProjectOfLostModel, "-G -A -O ../out -P ../models/lost.qxproj -F ../models/boat.xml"},
+    {"help",                   changeNothing,          "--help"                                                        },
+    {"version",                logEverything,          "--version"                                                     },
+    {"unknown option",         changeNothing,          "-style fusion"                                                 },
+    {"window",                 chooseOffscreen,        ""                                                              },
+    {"broken configuration",   breakConfiguration,     "-G -A -O ../out -F ../models/boat.xml"                         },
+};
 
 QList<QByteArray> sortedLines(const QByteArray& text)
 {
@@ -263,12 +286,12 @@ private:
 
 void TestProgram::initTestCase()
 {
-    for (const DtStartRow& row : startRows())
+    for (const DtStartRow& row : theStarts)
     {
         auto start = std::make_unique<DtStart>();
         start->prepare();
         row.prepare(*start);
-        start->start(QX_PROGRAM, row.options);
+        start->start(QX_PROGRAM, row.arguments());
         myStarts.emplace(row.name, std::move(start));
     }
 }

@@ -14,7 +14,7 @@ lint() {
     cmake --build --preset lint
     git ls-files 'libsrc/*.h' 'libsrc/*.cxx' 'appsrc/*.cxx' 'bench/*.cxx' 'toolkit/*.h' 'toolkit/*.cxx' 'tests/*.cxx' 'tests/*.h' ':!tests/golden' |
         xargs clang-format --dry-run --Werror
-    git ls-files 'libsrc/*.cxx' 'appsrc/*.cxx' | xargs -P "$(nproc)" -n 4 clang-tidy -quiet -p build/lint
+    git ls-files 'libsrc/*.cxx' 'appsrc/*.cxx' | xargs -P "$(nproc)" -n 1 clang-tidy -quiet -p build/lint
 }
 
 run_tests() {

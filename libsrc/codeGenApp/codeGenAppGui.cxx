@@ -269,7 +269,7 @@ void DtCodeGenAppGui::launchUpdate()
     const QString page = DtDeployment::read().versionPage;
     if (page.isEmpty())
         showStatus("No version page is set in ../data/config/deployment.xml.");
-    if (!QProcess::startDetached(QStringLiteral("htmlview"), {page}))
+    if (!QProcess::startDetached(QStringLiteral("htmlview"), {page}) && !page.isEmpty())
         showStatus("The program htmlview could not be started.");
 }
 

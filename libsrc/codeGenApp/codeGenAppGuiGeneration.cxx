@@ -87,6 +87,8 @@ void DtCodeGenAppGui::generateAllFiles()
             generateCppFiles();
         else
             generateFile(script);
+        if (DtQtProgressMeter::instance()->isCancelled())
+            return; // the next script would begin with a meter that knows nothing of it
     }
 }
 

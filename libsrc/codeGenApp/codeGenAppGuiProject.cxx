@@ -104,6 +104,7 @@ void DtCodeGenAppGui::loadOmtProject(const DtFilename& path)
     DtFilename file = path.isEmpty() ? myProjectFile : path;
     if (file.isEmpty())
         file = askForFile("Open Project File", theProjectFilter);
+    const DtFilename oldFile = myProjectFile;
     if (file.isEmpty() || !readProject(file))
         return;
     std::vector<DtModelFile> models;
@@ -111,7 +112,11 @@ void DtCodeGenAppGui::loadOmtProject(const DtFilename& path)
         return;
     DtDataTypeMapper::instance()->setPredefinedTypes(myProject->predefinedTypes());
     if (models.empty())
+    {
+        if (file == oldFile)
+            myProjectFile = oldFile; // the same project, read again: it can still be saved
         return;
+    }
     if (models.size() > 1)
         loadFiles(models);
     else

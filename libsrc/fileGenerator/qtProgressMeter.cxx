@@ -2,12 +2,15 @@
 
 #include "foundation/exception.h"
 
+#include <QtCore/QRegularExpression>
 #include <QtCore/QString>
+#include <QtWidgets/QStyle>
 
 namespace
 {
 constexpr int theWidth = 300;              // pixels
 constexpr qint64 thePaintingInterval = 20; // milliseconds
+const QRegularExpression theSeparators(QStringLiteral("[ /]"));
 constexpr const char* theTitle = "Generating files...";
 constexpr const char* theNoDialogMessage = "Need to setTotalMeasure() before using";
 } // namespace
@@ -112,7 +115,9 @@ void DtQtProgressMeter::makeDialog()
     delete myDialog.data(); // one of a run that was not reset
     myDialog = new QProgressDialog(theTitle, "Cancel", 0, myTotalMeasure, myParent);
     myDialog->setWindowModality(Qt::ApplicationModal);
-    myLabel = new QLabel(myDialog);
+    myDialog->setAutoReset(false); // it stays, and keeps the window from the user, when a script writes more than it
+    myDialog->setAutoClose(false); // has counted, as in its first run
+    myLabel = new QLabel(theTitle, myDialog);
     myLabel->setAlignment(Qt::AlignLeft | Qt::AlignVCenter);
     myLabel->setWordWrap(true);
     myDialog->setLabel(myLabel);
@@ -124,8 +129,9 @@ void DtQtProgressMeter::makeDialog()
 
 void DtQtProgressMeter::showMeasure()
 {
-    noteCancel(); // ahead of the value: reaching the last one resets the dialog, the pressed button included
-    myDialog->setValue(myCurrentMeasure);
+    noteCancel();
+    if (!myDialog->wasCanceled())
+        myDialog->setValue(myCurrentMeasure); // turns the event loop, too
     processEvents();
     noteCancel(); // also of a button pressed just now, so that no further file is begun
 }
@@ -140,11 +146,29 @@ void DtQtProgressMeter::showLabel(const DtString& text)
 {
     myLabelText = text;
     if (!myLabel.isNull())
-        myLabel->setText(QString::fromUtf8(text.c_str()));
+        myLabel->setText(fitted(QString::fromUtf8(text.c_str())));
 }
 
+// The label breaks lines behind blanks and slashes; what is wider than a line between these loses its middle.
+QString DtQtProgressMeter::fitted(const QString& text) const
+{
+    const int margins = myDialog->style()->pixelMetric(QStyle::PM_LayoutLeftMargin) +
+                        myDialog->style()->pixelMetric(QStyle::PM_LayoutRightMargin);
+    QString result;
+    for (int at = 0, end = 0; at < text.size(); at = end)
+    {
+        const int separator = text.indexOf(theSeparators, at);
+        end = separator < 0 ? text.size() : separator + 1;
+        result += myLabel->fontMetrics().elidedText(text.mid(at, end - at), Qt::ElideMiddle, theWidth - margins);
+    }
+    return result;
+}
+
+// Not behind a pressed Cancel, which hides the dialog: until the run ends, the window would be open to the user.
 void DtQtProgressMeter::processEvents()
 {
+    if (!myDialog.isNull() && myDialog->wasCanceled())
+        return;
     const bool isPaintingDue = mySincePainted.hasExpired(thePaintingInterval);
     if (isPaintingDue && !myDialog.isNull())
         myDialog->setUpdatesEnabled(true);

@@ -48,6 +48,7 @@ private:
     void showMeasure();
     void noteCancel();
     void showLabel(const DtString& text);
+    QString fitted(const QString& text) const;
     void processEvents();
     void suspendPainting();
 

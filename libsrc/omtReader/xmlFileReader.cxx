@@ -3,6 +3,7 @@
 #include "foundation/assertion.h"
 #include "foundation/outputStream.h"
 #include "foundation/stringUtils.h"
+#include "omtReader/cardinalityText.h"
 #include "omtReader/fedReader.h"
 #include "omtReader/standardMim.h"
 #include "omtReader/xml1516FileReader.h"
@@ -125,9 +126,13 @@ DtOMTTree* DtXMLFileReader::readFiles(const std::vector<DtFilename>& files, DtFo
     if (type == DtFomEvolved || type == DtFomHla4)
         tree->setHlaVersion(static_cast<DtHLAProtocolVersion>(type));
     else
-        type = DtFedReader::checkFomType(files.front());
-    if (type == DtFomUnknown)
-        return nullptr;
+    {
+        const DtFomType found = DtFedReader::checkFomType(files.front());
+        if (found == DtFomUnknown)
+            return nullptr;
+        if (type == DtFomUnknown)
+            type = found;
+    }
     myIsFirstModule = true;
     for (const DtFilename& file : files)
         if (!mergeModule(*tree, file, type))
@@ -203,6 +208,14 @@ bool anyChild(xmlNode* parent, const char* name, Condition condition)
     return false;
 }
 
+// What only divides lines between the tags of an empty element is no content.
+bool holdsText(const xmlNode& element)
+{
+    const xmlChar* text = DtXmlText(element.children);
+    return text != nullptr && (xmlFirstElementChild(const_cast<xmlNode*>(&element)) != nullptr ||
+                               !DtIsBlank(reinterpret_cast<const char*>(text)));
+}
+
 bool hasClassNamed(xmlNode* classes, const char* element, const char* name)
 {
     return anyChild(classes, element,
@@ -219,7 +232,7 @@ bool DtXMLFileReader::isEvolvedFormat(xmlNode*& root)
     if (root->ns != nullptr && xmlStrEqual(root->ns->href, BAD_CAST xmlns_HLA1516_2010))
         return true;
     const auto isEvolved = [](xmlNode* transportation)
-    { return getNodeByName(transportation, BAD_CAST "reliable") != nullptr || DtXmlText(transportation->children); };
+    { return getNodeByName(transportation, BAD_CAST "reliable") != nullptr || holdsText(*transportation); };
     if (anyChild(root, "transportations", [&](xmlNode* node) { return anyChild(node, "transportation", isEvolved); }))
         return true;
     if (getNodeByName(root, BAD_CAST "updateRates") != nullptr)

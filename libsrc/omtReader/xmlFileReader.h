@@ -37,9 +37,9 @@ public:
     // One file. A 2010 or 2025 model is merged with the standard management model behind it when that is included and
     // the file is not that model itself.
     virtual DtOMTTree* readFile(const DtFilename& file, DtExerciseConn* connection);
-    // All files merged in order, under the identification of the first. They share one format, which is that of the
-    // first file when the type is 0; the tree's version is then left at 0. A file of the standard model's name is not
-    // read from disk.
+    // All files merged in order, under the identification of the first. They share one format, the type, which is that
+    // of the first file when it is 0; the tree has a version for the types 3 and 4 alone. A file of the standard
+    // model's name is not read from disk.
     virtual DtOMTTree* readFiles(const std::vector<DtFilename>& files, DtFomType type, DtExerciseConn* connection);
     // Stays until it is cleared.
     virtual const DtString& getLastError() const { return myLastError; }

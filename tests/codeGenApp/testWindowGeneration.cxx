@@ -281,6 +281,50 @@ private Q_SLOTS:
         QCOMPARE(written(), QStringList({"deep/second.txt", "deep/third.txt", "first.txt"}));
     }
 
+    void cancelEndsTheScriptsBehindIt()
+    {
+        writeTextFile(myProgram->path("data/t/x.tlt"), "x");
+        writeScript("genFirst.txt", "templateDir t\nfile first.txt x.tlt\n");
+        writeScript("genSecond.txt", "templateDir t\nfile second.txt x.tlt\n");
+        onlyScripts({
+            {"genCpp.txt",    false},
+            {"genFirst.txt",  true },
+            {"genSecond.txt", true }
+        });
+        {
+            const DtCancelAt user("first");
+            myWindow->generateAllFiles();
+            QVERIFY(user.isDone());
+        }
+        QCOMPARE(written(), QStringList("first.txt"));
+        myWindow->generateAllFiles();
+        QCOMPARE(written(), QStringList({"first.txt", "second.txt"}));
+    }
+
+    // Also in the first run over a command file, which writes files that nobody has counted yet.
+    void windowIsClosedToTheUserAtEveryFile()
+    {
+        writeTextFile(myProgram->path("data/t/x.tlt"), "x");
+        writeScript("genOther.txt", "templateDir t\nfile a.txt x.tlt\nfile b.txt x.tlt\nfile c.txt x.tlt\n");
+        onlyScripts({
+            {"genCpp.txt",   true},
+            {"genOther.txt", true}
+        });
+        int updates = 0;
+        int openUpdates = 0;
+        QTimer timer; // runs out at every turn of the event loop
+        connect(&timer, &QTimer::timeout,
+                [&]
+                {
+                    ++updates;
+                    openUpdates += QApplication::activeModalWidget() == nullptr ? 1 : 0;
+                });
+        timer.start(0);
+        myWindow->generateAllFiles();
+        QVERIFY(updates > 20);
+        QCOMPARE(openUpdates, 0);
+    }
+
     void examplesAndDisComeWhenAskedFor()
     {
         prepare();

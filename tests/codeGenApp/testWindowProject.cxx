@@ -357,6 +357,15 @@ private Q_SLOTS:
         QCOMPARE(text("p.qxproj"), before);
     }
 
+    void emptyProjectThatIsReadAgainCanBeSaved()
+    {
+        myWindow->newOmtProject(file("new.qxproj"));
+        myWindow->loadOmtProject(DtFilename()); // the present one, without a dialog
+        QCOMPARE(myWindow->loadFile(module("a.xml", "Ship"), ""), 1);
+        myWindow->saveOmtProject();
+        QVERIFY(text("new.qxproj").contains("a.xml"));
+    }
+
     void earlierFilesAreForgottenByALoad()
     {
         myWindow->loadFile(module("other.xml", "Tug"), "");

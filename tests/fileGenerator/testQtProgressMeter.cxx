@@ -73,6 +73,9 @@ private Q_SLOTS:
     void operationsWithoutDialogThrow();
     void dialogLooksAsItShould();
     void longNameHasALineOfItsOwn();
+    void nameWiderThanALineLosesItsMiddle();
+    void dialogStaysWhenTheTotalIsReached();
+    void cancelledDialogTurnsNoEvents();
     void valueAndLabelFollow();
     void newTotalStartsAtZeroWithOneDialog();
     void cancelShowsAtNextUpdate();
@@ -129,6 +132,7 @@ void TestQtProgressMeter::dialogLooksAsItShould()
     QCOMPARE(dialog->width(), 300);
     QCOMPARE(int(shownLabel()->alignment()), 1 + 128);
     QCOMPARE(dialog->findChild<QPushButton*>()->text(), QString("Cancel"));
+    QCOMPARE(dialog->labelText(), QString("Generating files..."));
 }
 
 void TestQtProgressMeter::longNameHasALineOfItsOwn()
@@ -139,6 +143,51 @@ void TestQtProgressMeter::longNameHasALineOfItsOwn()
     QCOMPARE(shownDialog()->size(), size);
     QVERIFY(shownLabel()->heightForWidth(shownLabel()->width()) > shownLabel()->fontMetrics().lineSpacing());
     QVERIFY(shownLabel()->height() >= shownLabel()->heightForWidth(shownLabel()->width()));
+}
+
+void TestQtProgressMeter::nameWiderThanALineLosesItsMiddle()
+{
+    myMeter.setTotalMeasure(7);
+    const QString name(120, 'w');
+    myMeter.setFileGenerated(("DataTypes/a" + name + "z.cxx").toUtf8().constData());
+    const QString text = shownLabel()->text();
+    QVERIFY2(text.startsWith("Generating: DataTypes/aw") && text.endsWith("wz.cxx"), qPrintable(text));
+    QVERIFY(!text.contains(name));
+    for (const QString& piece : text.split(QRegularExpression("[ /]")))
+        QVERIFY2(shownLabel()->fontMetrics().horizontalAdvance(piece) <= shownLabel()->width(), qPrintable(piece));
+}
+
+// A script whose files were not counted may go beyond the total; the window must not be open to the user then.
+void TestQtProgressMeter::dialogStaysWhenTheTotalIsReached()
+{
+    myMeter.setTotalMeasure(2);
+    for (int step = 0; step < 4; ++step)
+    {
+        myMeter.incrementCurrentMeasure(1);
+        QVERIFY(shownDialog()->isVisible());
+        QCOMPARE(QApplication::activeModalWidget(), shownDialog());
+    }
+    shownDialog()->findChild<QPushButton*>()->click();
+    myMeter.incrementCurrentMeasure(1);
+    QVERIFY(myMeter.isCancelled());
+    myMeter.init(qApp, nullptr);
+}
+
+// Cancel hides the dialog, so what the user does next would reach the window in the middle of the run.
+void TestQtProgressMeter::cancelledDialogTurnsNoEvents()
+{
+    myMeter.init(qApp, nullptr);
+    myMeter.setTotalMeasure(10);
+    shownDialog()->findChild<QPushButton*>()->click();
+    bool hasRun = false;
+    QTimer::singleShot(0, [&hasRun] { hasRun = true; });
+    myMeter.incrementCurrentMeasure(1);
+    myMeter.setFileGenerated("a.h");
+    QVERIFY(!hasRun);
+    QVERIFY(!shownDialog()->isVisible());
+    QApplication::processEvents();
+    QVERIFY(hasRun);
+    myMeter.init(qApp, nullptr);
 }
 
 void TestQtProgressMeter::valueAndLabelFollow()

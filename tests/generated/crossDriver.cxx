@@ -1,17 +1,54 @@
 // The generated classes of a model that has an object class Probe, as a filter: reads lines of an attribute's name and
-// octets, decodes the octets, encodes what has come of them and prints the line with these octets, or with a word that
-// tells what was refused.
+// octets, decodes the octets, encodes what has come of them and prints the line with these octets, or with the reason
+// for a refusal.
+//
+// With an argument it reads nothing: it prints the attributes that an object as it starts refuses to encode, and those
+// whose own encoding it does not take back, with the reasons; and how many it encodes all the same.
 
 #include "probeDecoderHLA.h"
 #include "probeEncoderHLA.h"
 
 #include <cstdio>
 #include <iostream>
+#include <map>
 #include <set>
 #include <string>
 
 namespace
 {
+// The coders keep the reason for a refusal to themselves, so their operations are asked for it one by one. probes.h has
+// a line PROBE(name) for each attribute.
+struct DtOpenDecoder : DtProbeDecoder
+{
+    static std::string refusal(const std::string& name, const DtValueBuffer& octets)
+    {
+        typedef bool (*Decode)(DtProbeStateRepository&, DtWireReader&);
+        static const std::map<std::string, Decode> theOperations = {
+#define PROBE(name) {#name, &DtOpenDecoder::decode##name},
+#include "probes.h"
+#undef PROBE
+        };
+        DtProbeStateRepository state;
+        DtWireReader reader(octets.data(), octets.size());
+        return theOperations.at(name)(state, reader) ? "no reason" : std::string("refused: ") + reader.reason();
+    }
+};
+
+struct DtOpenEncoder : DtProbeEncoder
+{
+    static std::string refusal(const std::string& name, const DtProbeStateRepository& state)
+    {
+        typedef bool (*Encode)(const DtProbeStateRepository&, DtWireWriter&);
+        static const std::map<std::string, Encode> theOperations = {
+#define PROBE(name) {#name, &DtOpenEncoder::encode##name},
+#include "probes.h"
+#undef PROBE
+        };
+        DtWireWriter writer;
+        return theOperations.at(name)(state, writer) ? "no reason" : std::string("refused: ") + writer.reason();
+    }
+};
+
 DtValueBuffer octetsOf(const std::string& hex)
 {
     DtValueBuffer octets;
@@ -40,14 +77,35 @@ std::string thereAndBack(const std::string& name, const DtValueBuffer& octets)
     DtAttributeValues taken, given;
     taken[name] = octets;
     if (!theDecoder.decode(taken, theState))
-        return "notDecoded";
-    return theEncoder.encode(theState, std::set<std::string>{name}, given) ? hexOf(given[name]) : "notEncoded";
+        return DtOpenDecoder::refusal(name, octets);
+    if (!theEncoder.encode(theState, std::set<std::string>{name}, given))
+        return DtOpenEncoder::refusal(name, theState) + " (when encoded)";
+    return hexOf(given[name]);
+}
+
+void printStart()
+{
+    const DtProbeStateRepository state;
+    DtAttributeValues given;
+    std::vector<std::string> refused;
+    DtProbeEncoder().encode(state, given, &refused);
+    for (const std::string& name : refused)
+        std::puts((name + ' ' + DtOpenEncoder::refusal(name, state)).c_str());
+    for (const DtAttributeValues::value_type& each : given)
+    {
+        const std::string answer = thereAndBack(each.first, each.second);
+        if (answer != hexOf(each.second))
+            std::puts((each.first + " not taken back, " + answer).c_str());
+    }
+    std::printf("%u encoded\n", static_cast<unsigned int>(given.size()));
 }
 } // namespace
 
-int main()
+int main(int argc, char**)
 {
-    for (std::string line; std::getline(std::cin, line);)
+    if (argc > 1)
+        printStart();
+    for (std::string line; argc == 1 && std::getline(std::cin, line);)
     {
         const std::size_t blank = line.find(' ');
         const std::string name = line.substr(0, blank);

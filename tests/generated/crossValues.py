@@ -2,10 +2,12 @@
 
     crossValues.py refused               the datatypes of Probe's attributes that have no encoding
     crossValues.py values COUNT          random values of each attribute of Probe: its name and the octets
-    crossValues.py back COUNT            compares such lines, from the standard input, with the values themselves
+    crossValues.py back COUNT CLASS...   compares such lines, from the standard input, with the octets and the values;
+                                         C++ classes that have no encoding have to be refused, by these names
     crossValues.py vectors FILE          encodes, decodes and cuts off the values of a list of vectors
 """
 
+import itertools
 import json
 import random
 import sys
@@ -29,13 +31,53 @@ def values(count):
             yield member, codec.random_value(member.datatype, generator)
 
 
-def check_back(count, lines):
-    faults = {}
-    for (member, value), line in zip(values(count), lines):
-        name, _, digits = line.strip().partition(" ")
-        if name != member.name or codec.decode(member.datatype, bytes.fromhex(digits)) != value:
-            faults[member.datatype] = "%r comes back as %s" % (value, line.strip())
-    return ["%s: %s" % fault for fault in faults.items()]
+def class_of(datatype):
+    return "Dt" + datatype.name[:1].upper() + datatype.name[1:]
+
+
+def first_of(classes, datatype, value):
+    """The first of the classes that a value in plain form is made of; empty when there is none in it."""
+    if class_of(datatype) in classes:
+        return class_of(datatype)
+    parts = []
+    if isinstance(value, list):
+        parts = [(datatype.element, each) for each in value]
+    elif isinstance(value, dict):
+        fields = datatype.fields() if callable(datatype.fields) else datatype.fields
+        datatypes = {field.name: field.datatype for field in fields}
+        parts = [(datatypes[name], each) for name, each in value.items() if name in datatypes]
+    return next(filter(None, (first_of(classes, *part) for part in parts)), "")
+
+
+def answer_fault(member, value, answer, classes):
+    """What is wrong with that which the generated code makes of the octets of a value; empty when nothing is."""
+    octets = codec.encode(member.datatype, value)
+    refused = classes and first_of(classes, codec.DATATYPES[member.datatype], codec.plain(member.datatype, value))
+    expected = "refused: %s has no encoding" % refused if refused else octets.hex()
+    if answer != expected:
+        return "%s comes back as %s" % (octets.hex(), answer)
+    if not refused and codec.decode(member.datatype, bytes.fromhex(answer)) != value:
+        return "%r comes back as %s" % (value, answer)
+    return ""
+
+
+def check_back(count, classes, lines):
+    """A line for each datatype of which a value is wrong, or rightly refused; and how many values there are."""
+    wrong, refused, number = {}, {}, 0
+    for asked, line in itertools.zip_longest(values(count), lines):
+        if asked is None or line is None:
+            wrong[""] = "another number of lines"
+            break
+        member, value = asked
+        name, _, answer = line.rstrip("\n").partition(" ")
+        fault = answer_fault(member, value, answer, classes) if name == member.name else "the line of " + name
+        if fault:
+            wrong.setdefault(member.datatype, fault)
+        elif answer.startswith("refused"):
+            refused[member.datatype] = answer
+        number += 1
+    lines = ["wrong %s: %s" % fault for fault in wrong.items()] + ["refused " + name for name in refused]
+    return lines + ["%d values" % number]
 
 
 def as_given(value, given):
@@ -86,19 +128,19 @@ def check_vectors(file):
 
 
 def main(command, *arguments):
-    faults = []
     if command == "refused":
-        print("\n".join(member.datatype for member in probes() if not is_coded(member)))
+        lines = [each.datatype for each in probes() if not is_coded(each)]
     elif command == "values":
-        for member, value in values(int(arguments[0])):
-            print(member.name, codec.encode(member.datatype, value).hex())
+        lines = ["%s %s" % (member.name, codec.encode(member.datatype, value).hex())
+                 for member, value in values(int(arguments[0]))]
     elif command == "back":
-        faults = check_back(int(arguments[0]), sys.stdin)
+        lines = check_back(int(arguments[0]), arguments[1:], sys.stdin)
     else:
         faults, count = check_vectors(arguments[0])
-        print("%d vectors, %d failures" % (count, len(faults)))
-    print("\n".join(faults), end="")
-    return 1 if faults else 0
+        lines = ["wrong " + fault for fault in faults] + ["%d vectors, %d failures" % (count, len(faults))]
+    for line in lines:
+        print(line)
+    return 1 if any(line.startswith("wrong ") for line in lines) else 0
 
 
 sys.exit(main(*sys.argv[1:]))

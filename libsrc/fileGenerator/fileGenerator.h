@@ -3,6 +3,7 @@
 
 #include "fileGenerator/omtProject.h"
 #include "fileGenerator/outputTable.h"
+#include "fileGenerator/sharedNames.h"
 
 #include <functional>
 #include <list>
@@ -50,7 +51,8 @@ protected:
             if (row.wanted == DtWanted::WithDis && !generateDis)
                 continue;
             const DtString fileName = (generator.*row.stem)(name) + row.ending;
-            fileList.insert(fileName);
+            if (!fileList.insert(fileName).second)
+                warnOfFile(fileName);
             myWriters.push_back(row.make(fileName, DtString("../data/templates/") + row.templateName, record));
         }
     }

@@ -190,9 +190,10 @@ DtString DtOMTEnvWriter::modelBase() const
 
 void DtOMTEnvWriter::compileExportMacroName()
 {
-    DtString macro = DtString("DT_DLL_") + withoutDashesAndDots(withoutPathAndExtension(theBaseName));
-    macro.toUpper();
-    DtFileWriter::setExportMacroName(macro);
+    DtString name = withoutDashesAndDots(withoutPathAndExtension(theBaseName));
+    name.toUpper();
+    warnOfBaseName(withoutPathAndExtension(theBaseName), name);
+    DtFileWriter::setExportMacroName(DtString("DT_DLL_") + name);
 }
 
 void DtOMTEnvWriter::setTotalProgress()
@@ -290,6 +291,13 @@ DtString DtOMTEnvWriter::interactionParentName(const DtFedNode& parent) const
     return replaceInteractionName(uniqueName(parent), parent.getFullName()) + "Inter";
 }
 
+bool DtOMTEnvWriter::hasFiles(const DtFedNode& parent) const
+{
+    const DtString& name = parent.getFullName();
+    return &parent == myTree->objectClassRoot() || &parent == myTree->interactionClassRoot() ||
+           findRecord(myObjectsToGenerate, name) != nullptr || findRecord(myInteractionsToGenerate, name) != nullptr;
+}
+
 void DtOMTEnvWriter::addObjectToFile(DtString name, std::set<DtString>& done)
 {
     if (isCancelled())
@@ -305,8 +313,12 @@ void DtOMTEnvWriter::addObjectToFile(DtString name, std::set<DtString>& done)
                                     *record, myProject != nullptr ? *myProject : DtOmtProject());
     generator.setPduKind(myNextPduKind++);
     generator.setFullClassName(name);
-    if (node->getParentObject() != nullptr)
-        generator.setParentClassName(objectParentName(*node->getParentObject()));
+    if (const DtFedNode* parent = node->getParentObject())
+    {
+        const DtString parentName = objectParentName(*parent);
+        generator.setParentClassName(parentName);
+        warnOfParent(name, parent->getFullName(), hasFiles(*parent), parentName);
+    }
     done.insert(name);
     warnOfMemberNames(name, namesOf(node->getAttributes()));
     addMembers(generator, node->getAttributes());
@@ -329,8 +341,12 @@ void DtOMTEnvWriter::addInteractionToFile(DtString name, std::set<DtString>& don
                                          myProject != nullptr ? *myProject : DtOmtProject());
     generator.setPduKind(myNextPduKind++);
     generator.setFullClassName(name);
-    if (node->getParentObject() != nullptr)
-        generator.setParentClassName(interactionParentName(*node->getParentObject()));
+    if (const DtFedNode* parent = node->getParentObject())
+    {
+        const DtString parentName = interactionParentName(*parent);
+        generator.setParentClassName(parentName);
+        warnOfParent(name, parent->getFullName(), hasFiles(*parent), parentName);
+    }
     done.insert(name);
     warnOfMemberNames(name, namesOf(node->getParameters()));
     addMembers(generator, node->getParameters());

@@ -18,6 +18,7 @@ class DtEnumeratedDatatypeNode;
 class DtEnumerationFileWriter;
 class DtOmtProject;
 class DtOMTTree;
+class DtHeldDatatypes;
 class DtSharedClassNames;
 
 // Driver of the generation of C++: what is generated for a selection of classes, and in which order.
@@ -128,6 +129,7 @@ private:
     const DtOmtInteraction* selectedInteraction(const DtString& fullName) const;
     DtString uniqueName(const DtFedNode& node) const;
     DtString objectParentName(const DtFedNode& parent) const;
+    bool hasFiles(const DtFedNode& parent) const; // of this run, or of the toolkit
     DtString interactionParentName(const DtFedNode& parent) const;
 
     // Enumerations, in omtEnvWriter.cxx.
@@ -142,7 +144,7 @@ private:
     template <typename Family>
     void writePair(typename Family::Node* node);
     template <typename Family>
-    void recordClassNames(DtSharedClassNames& shared);
+    void recordClassNames(DtSharedClassNames& shared, DtHeldDatatypes& held);
     void recordAllClassNames();
 
     // Over the tree and the used datatypes as they are.

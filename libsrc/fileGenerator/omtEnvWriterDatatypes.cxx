@@ -59,6 +59,8 @@ struct DtDatatypeFamily
     static void nameFurther(const Node&, DtCCompatibleNames&) {}
     // Of what has accessors in the class.
     static std::vector<DtString> memberNames(const Node&) { return {}; }
+    // Of what the class holds by value.
+    static std::vector<DtString> memberDatatypes(const Node&) { return {}; }
     // What follows when both files are written and listed.
     static void finish(Node*, DtOMTEnvWriter&) {}
 };
@@ -70,6 +72,15 @@ std::vector<DtString> componentNames(const Record& record)
     for (auto component = record.getComponentNodeList(); component != record.getComponentNodeEnd(); ++component)
         names.push_back((*component)->getName());
     return names;
+}
+
+template <typename Record>
+std::vector<DtString> componentDatatypes(const Record& record)
+{
+    std::vector<DtString> datatypes;
+    for (auto component = record.getComponentNodeList(); component != record.getComponentNodeEnd(); ++component)
+        datatypes.push_back((*component)->getDatatype());
+    return datatypes;
 }
 
 struct DtComplexFamily : DtDatatypeFamily<DtComplexDatatypeNode, DtComplexDataTypeFileWriter>
@@ -86,6 +97,14 @@ struct DtComplexFamily : DtDatatypeFamily<DtComplexDatatypeNode, DtComplexDataTy
             DtOMTEnvWriter::componentArrayName(**component);
     }
     static std::vector<DtString> memberNames(const Node& node) { return componentNames(node); }
+    static std::vector<DtString> memberDatatypes(const Node& node)
+    {
+        std::vector<DtString> datatypes;
+        for (auto component = node.getComponentNodeList(); component != node.getComponentNodeEnd(); ++component)
+            if (DtOMTEnvWriter::componentArrayName(**component).isEmpty())
+                datatypes.push_back((*component)->getDatatype());
+        return datatypes;
+    }
     static void finish(Node* node, DtOMTEnvWriter& driver) { driver.checkComplexForArrayType(node); }
 };
 
@@ -143,6 +162,7 @@ struct DtFixedRecordFamily : DtDatatypeFamily<DtFixedDatatypeNode, DtFixedRecord
     static auto begin(const DtOMTTree& tree) { return tree.getFixedDatatypeNodeList(); }
     static auto end(const DtOMTTree& tree) { return tree.getFixedDatatypeEndNode(); }
     static std::vector<DtString> memberNames(const Node& node) { return componentNames(node); }
+    static std::vector<DtString> memberDatatypes(const Node& node) { return componentDatatypes(node); }
 };
 
 struct DtVariantRecordFamily : DtDatatypeFamily<DtVariantDatatypeNode, DtVariantRecordFileWriter>
@@ -160,6 +180,7 @@ struct DtVariantRecordFamily : DtDatatypeFamily<DtVariantDatatypeNode, DtVariant
                 names.push_back((*part)->getName());
         return names;
     }
+    static std::vector<DtString> memberDatatypes(const Node& node) { return componentDatatypes(node); }
     static void prepare(Writer& writer, const DtDatatypeItem& item, DtCCompatibleNames&)
     {
         writer.setOriginalName(item.name);
@@ -228,7 +249,7 @@ void DtOMTEnvWriter::writePair(typename Family::Node* node)
 
 // Asks for names in the order in which writing asks for them, so that long names get the same numbers.
 template <typename Family>
-void DtOMTEnvWriter::recordClassNames(DtSharedClassNames& shared)
+void DtOMTEnvWriter::recordClassNames(DtSharedClassNames& shared, DtHeldDatatypes& held)
 {
     DtDatatypeClassNames& classNames = DtDatatypeClassNames::instance();
     for (auto node = Family::begin(*myTree); node != Family::end(*myTree); ++node)
@@ -239,6 +260,7 @@ void DtOMTEnvWriter::recordClassNames(DtSharedClassNames& shared)
         const DtString stem = DtDatatypeClassNames::fileStem(name, names());
         classNames.add(name, DtDatatypeClassNames::classNameOfStem(stem));
         shared.add(name, classNames.className(name));
+        held.add(name, Family::memberDatatypes(**node));
         warnOfMemberNames(name, Family::memberNames(**node));
         Family::nameFurther(**node, names());
     }
@@ -247,6 +269,7 @@ void DtOMTEnvWriter::recordClassNames(DtSharedClassNames& shared)
 void DtOMTEnvWriter::recordAllClassNames()
 {
     DtSharedClassNames shared;
+    DtHeldDatatypes held;
     std::set<DtString> enumerations; // the enumerations header tells of those that are called alike
     for (auto node = myTree->getEnumeratedDatatypeNodeList(); node != myTree->getEnumeratedDatatypeEndNode(); ++node)
     {
@@ -257,12 +280,13 @@ void DtOMTEnvWriter::recordAllClassNames()
         if (enumerations.insert(type).second)
             shared.add(name, type);
     }
-    recordClassNames<DtComplexFamily>(shared);
-    recordClassNames<DtBasicFamily>(shared);
-    recordClassNames<DtSimpleFamily>(shared);
-    recordClassNames<DtArrayFamily>(shared);
-    recordClassNames<DtFixedRecordFamily>(shared);
-    recordClassNames<DtVariantRecordFamily>(shared);
+    recordClassNames<DtComplexFamily>(shared, held);
+    recordClassNames<DtBasicFamily>(shared, held);
+    recordClassNames<DtSimpleFamily>(shared, held);
+    recordClassNames<DtArrayFamily>(shared, held);
+    recordClassNames<DtFixedRecordFamily>(shared, held);
+    recordClassNames<DtVariantRecordFamily>(shared, held);
+    held.warn();
 }
 
 void DtOMTEnvWriter::writeDataTypesFiles()

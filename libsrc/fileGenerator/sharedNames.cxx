@@ -38,6 +38,64 @@ void DtSharedClassNames::add(const DtString& datatype, const DtString& className
                << " in C++.\n";
 }
 
+void DtHeldDatatypes::add(const DtString& datatype, const std::vector<DtString>& members)
+{
+    myMembers.emplace(datatype, members);
+}
+
+// Takes away, again and again, what holds none of those that are left; the rings stay, and what holds them.
+void DtHeldDatatypes::warn() const
+{
+    std::map<DtString, std::vector<DtString>> holders; // by member
+    std::map<DtString, std::size_t> counts;            // members that are left
+    for (const auto& [datatype, members] : myMembers)
+    {
+        counts[datatype] = 0;
+        for (const DtString& member : members)
+        {
+            if (myMembers.count(member) == 0)
+                continue;
+            holders[member].push_back(datatype);
+            ++counts[datatype];
+        }
+    }
+    std::vector<DtString> done;
+    for (const auto& [datatype, count] : counts)
+        if (count == 0)
+            done.push_back(datatype);
+    while (!done.empty())
+    {
+        const DtString datatype = done.back();
+        done.pop_back();
+        for (const DtString& holder : holders[datatype])
+            if (--counts[holder] == 0)
+                done.push_back(holder);
+    }
+    for (const auto& [datatype, count] : counts)
+        if (count != 0)
+            DtWarn << "Warning: Datatype " << datatype << " holds itself, or one that does, which no C++ class can.\n";
+}
+
+void warnOfParent(const DtString& className, const DtString& parent, bool isSelected, const DtString& parentName)
+{
+    if (!isSelected)
+        DtWarn << "Warning: " << className << " needs the files of " << parent << ", which is not selected.\n";
+    if (!isIdentifier(parentName))
+        DtWarn << "Warning: " << className << " calls its parent " << parentName
+               << " in C++, which is no identifier.\n";
+}
+
+void warnOfFile(const DtString& fileName)
+{
+    DtWarn << "Warning: File " << fileName << " is written a second time: two classes are called alike in C++.\n";
+}
+
+void warnOfBaseName(const DtString& base, const DtString& macroPart)
+{
+    if (!isIdentifier(macroPart))
+        DtWarn << "Warning: " << base << " is called " << macroPart << " in C++, which is no identifier.\n";
+}
+
 void warnOfMemberNames(const DtString& owner, const std::vector<DtString>& names)
 {
     std::map<DtString, DtString> getters;

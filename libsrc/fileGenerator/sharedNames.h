@@ -19,6 +19,29 @@ private:
     std::map<DtString, DtString> myDatatypes; // class name to the first datatype of that name
 };
 
+// Datatypes that hold themselves by value, directly or through records in records. An array in between ends such a
+// ring: its elements are not part of the object.
+class DtHeldDatatypes
+{
+public:
+    // A datatype that becomes a class, and the datatypes of its members; these may be any.
+    void add(const DtString& datatype, const std::vector<DtString>& members);
+    // Of every datatype in a ring, and of those that hold one.
+    void warn() const;
+
+private:
+    std::map<DtString, std::vector<DtString>> myMembers;
+};
+
+// A class whose parent has no files: it was not selected, or they are named by another name than the class includes.
+void warnOfParent(const DtString& className, const DtString& parent, bool isSelected, const DtString& parentName);
+
+// A file that the run writes a second time, for another class of the same name.
+void warnOfFile(const DtString& fileName);
+
+// The name of the model or project, of which macros are made.
+void warnOfBaseName(const DtString& base, const DtString& macroPart);
+
 // Members of one class or record whose accessors are called alike, and such whose names are no identifiers.
 void warnOfMemberNames(const DtString& owner, const std::vector<DtString>& names);
 

@@ -163,7 +163,7 @@ private:
         QVERIFY(!QFile::exists(path("out/cpp\\Makefile")));
         DtCancelAfter nobody(-1);
         choose("Generate");
-        QVERIFY(nobody.files().size() > 20);
+        QVERIFY(nobody.files().size() > 15);
         QVERIFY(QFile::exists(path("out/cpp\\Makefile")));
         QVERIFY(project().contains("<fom name=")); // saved on the way
     }

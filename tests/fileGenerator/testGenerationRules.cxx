@@ -6,6 +6,7 @@
 #include "generatorFixture.h"
 
 #include "fileGenerator/omtProject.h"
+#include "fileGenerator/sharedNames.h"
 
 #include <QtTest/QtTest>
 
@@ -33,9 +34,17 @@ private Q_SLOTS:
     void longNamesOfEveryKindGiveFiles();
     void predefinedTypesOfTheRunForgetComponents();
     void parentOutsideTheSelectionGivesItsUniqueName();
+    void selectedParentIsNoMatterForAWarning();
+    void parentThatIsNoIdentifierIsTold();
+    void classesOfOneNameAreTold();
+    void baseNameThatIsNoIdentifierIsTold_data();
+    void baseNameThatIsNoIdentifierIsTold();
+    void datatypesThatHoldThemselvesAreTold();
+    void recordsThatHoldEachOtherAreToldByTheRun();
+    void arrayEndsARingOfRecords();
 
 private:
-    int run();
+    int run(const char* modelFile = "model.xml");
     void select(const DtString& object, const DtString& rename = "");
     void addTank(const std::vector<std::pair<DtString, DtString>>& attributes);
     QStringList scratchEntries() const;
@@ -65,7 +74,7 @@ void TestGenerationRules::cleanup()
 }
 
 // Load and generation, in the order of the program.
-int TestGenerationRules::run()
+int TestGenerationRules::run(const char* modelFile)
 {
     DtDataTypeMapper& mapper = *DtDataTypeMapper::instance();
     mapper.setPredefinedTypes(myProject->predefinedTypes());
@@ -77,7 +86,7 @@ int TestGenerationRules::run()
     writer.setOmtProject(myProject.get());
     writer.setObjectsToGenerate(myProject->getObjects());
     writer.setInteractionsToGenerate(myProject->getInteractions());
-    return writer.writeFile("model.xml");
+    return writer.writeFile(modelFile);
 }
 
 void TestGenerationRules::select(const DtString& object, const DtString& rename)
@@ -398,9 +407,127 @@ void TestGenerationRules::parentOutsideTheSelectionGivesItsUniqueName()
     myModel->addObject("HLAobjectRoot.Vehicle");
     myModel->addObject("HLAobjectRoot.Vehicle.Tank");
     select("HLAobjectRoot.Vehicle.Tank");
+    const DtCapture capture(DtWarn);
     QCOMPARE(run(), 1);
     QVERIFY(myFixture->output("tankEncoderHLA.h").contains("Vehicle"));
     QVERIFY(!myFixture->hasOutput("vehicleEncoderHLA.h"));
+    QCOMPARE(capture.text(), QString("Warning: HLAobjectRoot.Vehicle.Tank needs the files of HLAobjectRoot.Vehicle, "
+                                     "which is not selected.\n"));
+}
+
+void TestGenerationRules::selectedParentIsNoMatterForAWarning()
+{
+    myModel->addObject("HLAobjectRoot.Vehicle");
+    myModel->addObject("HLAobjectRoot.Vehicle.Tank");
+    select("HLAobjectRoot.Vehicle");
+    select("HLAobjectRoot.Vehicle.Tank");
+    const DtCapture capture(DtWarn);
+    QCOMPARE(run("a-model.2.xml"), 1); // dashes and points leave the base name
+    QCOMPARE(capture.text(), QString());
+}
+
+// The class's own files are named after Land__Vehicle.
+void TestGenerationRules::parentThatIsNoIdentifierIsTold()
+{
+    myModel->addObject("HLAobjectRoot.Land-Vehicle");
+    myModel->addObject("HLAobjectRoot.Land-Vehicle.Tank");
+    select("HLAobjectRoot.Land-Vehicle");
+    select("HLAobjectRoot.Land-Vehicle.Tank");
+    const DtCapture capture(DtWarn);
+    QCOMPARE(run(), 1);
+    QVERIFY(myFixture->hasOutput("land__VehicleEncoderHLA.h"));
+    QCOMPARE(capture.text(), QString("Warning: HLAobjectRoot.Land-Vehicle.Tank calls its parent Land-Vehicle in C++, "
+                                     "which is no identifier.\n"));
+}
+
+void TestGenerationRules::classesOfOneNameAreTold()
+{
+    myModel->addObject(theTank);
+    myModel->addObject("HLAobjectRoot.Vehicle");
+    select(theTank);
+    select("HLAobjectRoot.Vehicle", "Tank");
+    const DtCapture capture(DtWarn);
+    QCOMPARE(run(), 1);
+    QCOMPARE(capture.text().count("is written a second time"), 12);
+    QVERIFY(capture.text().contains("Warning: File tankEncoderHLA.h is written a second time: two classes are called "
+                                    "alike in C++.\n"));
+}
+
+void TestGenerationRules::baseNameThatIsNoIdentifierIsTold_data()
+{
+    QTest::addColumn<QByteArray>("file");
+    QTest::addColumn<QString>("warning");
+    QTest::newRow("blank") << QByteArray("my model.xml")
+                           << "Warning: my model is called MY MODEL in C++, which is no identifier.\n";
+    QTest::newRow("digit") << QByteArray("models/1st.xml")
+                           << "Warning: 1st is called 1ST in C++, which is no identifier.\n";
+    QTest::newRow("ampersand") << QByteArray("R&D.xml")
+                               << "Warning: R&D is called R&D in C++, which is no identifier.\n";
+    QTest::newRow("plain") << QByteArray("my_model-2.xml") << "";
+}
+
+void TestGenerationRules::baseNameThatIsNoIdentifierIsTold()
+{
+    QFETCH(QByteArray, file);
+    const DtCapture capture(DtWarn);
+    QCOMPARE(run(file.constData()), 1);
+    QTEST(capture.text(), "warning");
+}
+
+void TestGenerationRules::datatypesThatHoldThemselvesAreTold()
+{
+    const std::pair<const char*, std::vector<DtString>> records[] = {
+        {"Front",  {"Back", "HLAoctet"}          },
+        {"Back",   {"Front"}                     },
+        {"Self",   {"Self", "Plain"}             },
+        {"Holder", {"HLAoctet", "Self"}          },
+        {"Plain",  {"HLAoctet", "Plain2", "List"}},
+        {"Plain2", {}                            },
+    };
+    DtHeldDatatypes held;
+    for (const auto& [name, members] : records)
+        held.add(name, members);
+    const DtCapture capture(DtWarn);
+    held.warn();
+    QStringList told;
+    for (const QString& line : capture.text().split('\n', Qt::SkipEmptyParts))
+    {
+        QVERIFY2(line.endsWith(" holds itself, or one that does, which no C++ class can."), qPrintable(line));
+        told += line.section(' ', 2, 2);
+    }
+    QCOMPARE(told, QStringList({"Back", "Front", "Holder", "Self"}));
+}
+
+void TestGenerationRules::recordsThatHoldEachOtherAreToldByTheRun()
+{
+    myModel->addFixed("Front", {
+                                   {"back", "Back"}
+    });
+    myModel->addVariant("Back", "kind", "HLAboolean",
+                        {
+                            {"front", "Front"}
+    });
+    addTank({
+        {"front", "Front"}
+    });
+    const DtCapture capture(DtWarn);
+    QCOMPARE(run(), 1);
+    QVERIFY(capture.text().contains("Warning: Datatype Front holds itself, or one that does"));
+    QVERIFY(capture.text().contains("Warning: Datatype Back holds itself, or one that does"));
+}
+
+void TestGenerationRules::arrayEndsARingOfRecords()
+{
+    myModel->addFixed("Node", {
+                                  {"children", "NodeList"}
+    });
+    myModel->addArray("NodeList", "Node", "Dynamic");
+    addTank({
+        {"node", "Node"}
+    });
+    const DtCapture capture(DtWarn);
+    QCOMPARE(run(), 1);
+    QVERIFY2(!capture.text().contains("holds itself"), qPrintable(capture.text()));
 }
 
 QX_REGISTER_TEST(TestGenerationRules)

@@ -171,7 +171,7 @@ private:
     void fillLists();
     void addMimIfMissing(std::vector<DtFilename>& files) const;
 
-    bool readProject(DtFilename& path);
+    bool readProject(DtFilename& path, bool& isSound);
     void forgetProject();
     bool locateModels(const DtFilename& projectFile, std::vector<DtModelFile>& models);
     bool locateModel(const DtModelFile& model, const DtFilename& projectFile, DtFilename& found);

@@ -16,6 +16,8 @@
 
 #include <QtWidgets/QApplication>
 
+#include <algorithm>
+
 namespace
 {
 // Another output directory, and a progress meter, for as long as a script runs.
@@ -79,6 +81,8 @@ void DtCodeGenAppGui::generateAllFiles()
         return;
     saveOmtProject();
     const std::map<DtString, bool> scripts = myPreferences->generateScripts();
+    if (std::none_of(scripts.begin(), scripts.end(), [](const auto& script) { return script.second; }))
+        showStatus("No script is switched on... Nothing to generate.");
     for (const auto& [script, isWanted] : scripts)
     {
         if (!isWanted)

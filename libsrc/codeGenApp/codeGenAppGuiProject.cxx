@@ -53,9 +53,8 @@ void DtCodeGenAppGui::slot_newOmtProject()
 
 void DtCodeGenAppGui::newOmtProject(DtFilename path)
 {
-    if (!DtKeepFile(path))
-        showStatus("Cannot keep a copy of project file " + path);
-    myProjectFile = path;
+    const bool isKept = DtKeepFile(path);
+    myProjectFile = isKept ? path : DtFilename(); // without a copy nothing may be saved over it
     myProject = std::make_unique<DtOmtProject>();
     myProject->initializePredefinedTypes();
     myObjectItems.clear();
@@ -65,6 +64,8 @@ void DtCodeGenAppGui::newOmtProject(DtFilename path)
     DtDataTypeMapper::instance()->setPredefinedTypes(myProject->predefinedTypes());
     myBaseName = stem(path);
     slot_saveOmtProject();
+    if (!isKept)
+        showStatus("Cannot keep a copy of project file " + path + ", so it is not written.");
     enableProjectActions(true);
     myOutputDir = DtString();
 }
@@ -91,7 +92,10 @@ void DtCodeGenAppGui::saveOmtProject()
     myProject->setBaseName(myBaseName.isEmpty() ? stem(myProjectFile) : myBaseName);
     myProject->setIncludeDir(myPreferences->includeName());
     myProject->setClassPrefix(myPreferences->prefixName());
-    DtOmtProjectXmlWriter(*myProject, myProjectFile).writeXml();
+    DtOmtProjectXmlWriter writer(*myProject, myProjectFile);
+    writer.writeXml();
+    if (!writer.isWritten())
+        showStatus("Project file " + myProjectFile + " could not be written.");
 }
 
 void DtCodeGenAppGui::slot_loadOmtProject()
@@ -105,7 +109,8 @@ void DtCodeGenAppGui::loadOmtProject(const DtFilename& path)
     if (file.isEmpty())
         file = askForFile("Open Project File", theProjectFilter);
     const DtFilename oldFile = myProjectFile;
-    if (file.isEmpty() || !readProject(file))
+    bool isSound = false;
+    if (file.isEmpty() || !readProject(file, isSound))
         return;
     std::vector<DtModelFile> models;
     if (!locateModels(file, models))
@@ -113,7 +118,7 @@ void DtCodeGenAppGui::loadOmtProject(const DtFilename& path)
     DtDataTypeMapper::instance()->setPredefinedTypes(myProject->predefinedTypes());
     if (models.empty())
     {
-        if (file == oldFile)
+        if (isSound && file == oldFile)
             myProjectFile = oldFile; // the same project, read again: it can still be saved
         return;
     }
@@ -147,8 +152,9 @@ DtFilename DtCodeGenAppGui::askForFile(const char* title, const char* filter)
 }
 
 // Replaces the present project by what the file holds. A file that cannot be opened leaves no project at all. Until
-// the load is complete no project file is set, so a save in between cannot write over a project.
-bool DtCodeGenAppGui::readProject(DtFilename& path)
+// the load is complete no project file is set, so a save in between cannot write over a project. A file that holds no
+// project is not sound, and gives an empty one.
+bool DtCodeGenAppGui::readProject(DtFilename& path, bool& isSound)
 {
     forgetProject();
     if (!path.exists() && path.extension() != theProjectExtension)
@@ -160,7 +166,9 @@ bool DtCodeGenAppGui::readProject(DtFilename& path)
         return false;
     }
     myProject = std::make_unique<DtOmtProject>();
-    DtOmtProjectXmlReader(path).readXml(*myProject);
+    DtOmtProjectXmlReader reader(path);
+    reader.readXml(*myProject);
+    isSound = reader.hasFoundProject();
     return true;
 }
 

@@ -72,7 +72,7 @@ void DtCodeGenInitializer::readNotifyLevel() const
 
 bool DtCodeGenInitializer::saveConfigFile(const DtString& file)
 {
-    return DtEnvXMLWriter("codeGenConfig", "codeGenConfig.dtd").writeFile(myConfig, file);
+    return myIsSaved && DtEnvXMLWriter("codeGenConfig", "codeGenConfig.dtd").writeFile(myConfig, file);
 }
 
 void DtCodeGenInitializer::setText(const char* key, DtString& field, const DtString& value)

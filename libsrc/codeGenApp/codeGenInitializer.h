@@ -21,7 +21,10 @@ public:
     // False, with every field as it was, when the file cannot be read. After a successful read a setting that the file
     // lacks is empty, 0 or false, whatever its compiled-in default, and named on DtWarn.
     virtual bool parseConfigFile(const DtString& file);
+    // False when the file could not be written, or is not to be.
     virtual bool saveConfigFile(const DtString& file);
+    // Whether saveConfigFile() and that of later copies write; true at first.
+    void setSaved(bool isSaved) { myIsSaved = isSaved; }
 
     virtual void setLogFileName(const DtString& name);
     virtual const DtString& logFileName() const;
@@ -90,6 +93,7 @@ private:
     bool myMapRtiObjIdToGlobalId = true;
     bool myIncludeStandardMIM = true;
     std::map<DtString, bool> myScriptMap;
+    bool myIsSaved = true;
 };
 
 #endif

@@ -23,7 +23,7 @@ const char theDefaultConfigFile[] = "../data/config/codeGenConfig.xml";
 const char theProduct[] = "Quorvex Code Generator";
 const DtVariableScope theScope = DtScopeBoth;
 
-// Part of the numeric support's start-up.
+// Called once at start-up; nothing reads the result.
 const int b5678 [[maybe_unused]] = diagonalizable();
 
 // Qt edits the arguments it is given, so it gets a copy, which is never freed.
@@ -127,8 +127,11 @@ void DtCodeGenerationApp::readConfiguration()
     if (isRead || !isCustomized)
         return;
     // The end of the run writes this file anew.
-    DtWarn << "Cannot read " << theCustomConfigFile << "; a copy of it is kept beside it." << std::endl;
-    DtKeepFile(theCustomConfigFile);
+    const bool isKept = DtKeepFile(theCustomConfigFile);
+    myInitializer.setSaved(isKept);
+    DtWarn << "Cannot read " << theCustomConfigFile
+           << (isKept ? "; a copy of it is kept beside it." : "; no copy of it could be kept, so it stays as it is.")
+           << std::endl;
 }
 
 void DtCodeGenerationApp::openLogFile() const

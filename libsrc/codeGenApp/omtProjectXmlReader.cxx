@@ -63,7 +63,8 @@ void forEachChild(const xmlNode* node, const char* wanted, Action action)
 }
 
 // Names, rename and generation settings of an attribute or a parameter; false when it has no name.
-bool readMember(const xmlNode* node, DtOmtMember& member)
+template <typename Member>
+bool readMember(const xmlNode* node, Member& member)
 {
     const DtString name = property(node, "name");
     if (name.isEmpty())
@@ -100,6 +101,7 @@ DtOmtProjectXmlReader::~DtOmtProjectXmlReader() = default;
 
 void DtOmtProjectXmlReader::readXml(DtOmtProject& project)
 {
+    myHasFoundProject = false;
     std::string text;
     if (!DtReadFile(myFileName, text))
         return;
@@ -116,6 +118,7 @@ void DtOmtProjectXmlReader::processNode(const xmlNode* node)
 {
     if (getNodeName(node) != "project")
         return;
+    myHasFoundProject = true;
     forEachChild(node,
                  [this](const xmlNode* child, const DtString& name)
                  {

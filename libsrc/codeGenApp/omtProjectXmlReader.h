@@ -24,6 +24,8 @@ public:
 
     // The project is a new one, without the predefined types that initializePredefinedTypes gives.
     virtual void readXml(DtOmtProject& project);
+    // False when the last file held no project: it was missing, was not XML, or something else.
+    bool hasFoundProject() const { return myHasFoundProject; }
 
     // One for each element, each called with that element's node.
     virtual void processNode(const xmlNode* node);
@@ -54,6 +56,7 @@ public:
 private:
     DtOmtProject* myProject = nullptr; // the one being filled; null outside readXml
     DtFilename myFileName;
+    bool myHasFoundProject = false;
 };
 
 #endif

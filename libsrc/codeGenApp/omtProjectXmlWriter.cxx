@@ -64,7 +64,8 @@ void DtOmtProjectXmlWriter::writeXml()
     writeDocument(writer.get());
     writer.reset(); // before the document, which it still uses
     const DtDocument owner(document);
-    if (!myIsComplete || hasXmlError() || !save(document))
+    myIsWritten = myIsComplete && !hasXmlError() && save(document);
+    if (!myIsWritten)
         complain("Error at xmlSaveFormatFileEnc\n");
 }
 
@@ -136,6 +137,17 @@ void DtOmtProjectXmlWriter::writeInteractions(xmlTextWriter* writer)
     }
 }
 
+template <typename Member>
+void DtOmtProjectXmlWriter::writeMember(xmlTextWriter* writer, const char* element, const Member& member)
+{
+    startElement(writer, element);
+    writeAttribute(writer, "name", member.name());
+    writeAttribute(writer, "rename", member.rename());
+    writeAttribute(writer, "nogen", member.noGen() ? "true" : "false");
+    writeAttribute(writer, "customGenerationReference", member.customGenerationRef());
+    endElement(writer);
+}
+
 void DtOmtProjectXmlWriter::writeAttributes(xmlTextWriter* writer, const DtOmtObject& object)
 {
     for (const DtOmtAttribute& attribute : object.attributes())
@@ -146,16 +158,6 @@ void DtOmtProjectXmlWriter::writeParameters(xmlTextWriter* writer, const DtOmtIn
 {
     for (const DtOmtParameter& parameter : interaction.parameters())
         writeMember(writer, "parameter", parameter);
-}
-
-void DtOmtProjectXmlWriter::writeMember(xmlTextWriter* writer, const char* element, const DtOmtMember& member)
-{
-    startElement(writer, element);
-    writeAttribute(writer, "name", member.name());
-    writeAttribute(writer, "rename", member.rename());
-    writeAttribute(writer, "nogen", member.noGen() ? "true" : "false");
-    writeAttribute(writer, "customGenerationReference", member.customGenerationRef());
-    endElement(writer);
 }
 
 void DtOmtProjectXmlWriter::writeCustomCodings(xmlTextWriter* writer)

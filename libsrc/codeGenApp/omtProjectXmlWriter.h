@@ -18,6 +18,7 @@ public:
     virtual ~DtOmtProjectXmlWriter();
 
     virtual void writeXml();
+    bool isWritten() const { return myIsWritten; } // by the last writeXml
 
     // One for each part of the file; they write to the document under way.
     virtual void writeObjects(xmlTextWriter* writer);
@@ -32,7 +33,8 @@ private:
     void writeDocument(xmlTextWriter* writer);
     void writeProject(xmlTextWriter* writer);
     void writeModelFiles(xmlTextWriter* writer);
-    void writeMember(xmlTextWriter* writer, const char* element, const DtOmtMember& member);
+    template <typename Member>
+    void writeMember(xmlTextWriter* writer, const char* element, const Member& member);
     void writeNamedElement(xmlTextWriter* writer, const char* element, const DtString& name);
     void startElement(xmlTextWriter* writer, const char* name);
     void endElement(xmlTextWriter* writer);
@@ -41,7 +43,8 @@ private:
 
     DtOmtProject myProject;
     DtFilename myFileName;
-    DtString mySchemaFile;    // describes the format; the file itself does not name it
+    DtString mySchemaFile; // describes the format; the file itself does not name it
+    bool myIsWritten = false;
     bool myIsComplete = true; // false once a call of the text writer failed
 };
 

@@ -109,12 +109,6 @@ DtString DtCCompatibleNames::MakeCCompatibleString(const DtString& text)
     return isTableWord(name) ? "_" + name : name;
 }
 
-void DtCCompatibleNames::clear()
-{
-    longNamesToShortNames.clear();
-    myCurrentLargeFileNum = 0;
-}
-
 DtString DtCCompatibleNames::shortened(const DtString& name)
 {
     // The map has no shorter keys, also none for a name without its "Dt".

@@ -19,8 +19,6 @@ public:
     // The identifier form. Words of the table `keywords` get a leading underscore; that table is not the one of
     // isCPlusPlusKeyword.
     DtString MakeCCompatibleString(const DtString& text);
-    // Forgets all short names; numbering starts at 0 again.
-    void clear();
 
 private:
     DtString shortened(const DtString& name);

@@ -62,14 +62,15 @@ bool isReservedName(const DtString& name)
     return isCPlusPlusKeyword(DtFirstCharToLower(name));
 }
 
-DtString lowerAttributeName(const DtString& name)
+DtString lowerAttributeName(const DtString& name, DtCCompatibleNames& names = theNames)
 {
-    return identifier(isReservedName(name) ? "the" + DtFirstCharToUpper(name) : DtFirstCharToLowerConditional(name));
+    return names.MakeCCompatibleString(isReservedName(name) ? "the" + DtFirstCharToUpper(name)
+                                                            : DtFirstCharToLowerConditional(name));
 }
 
-DtString upperAttributeName(const DtString& name)
+DtString upperAttributeName(const DtString& name, DtCCompatibleNames& names = theNames)
 {
-    return identifier((isReservedName(name) ? "The" : "") + DtFirstCharToUpper(name));
+    return names.MakeCCompatibleString((isReservedName(name) ? "The" : "") + DtFirstCharToUpper(name));
 }
 
 bool isString(const DtAttribute& attribute)
@@ -311,8 +312,6 @@ void DtClassFileWriter::decodeFileLine(DtString& line)
 {
     if (!myLongNamesAreNumbered)
         numberLongNames();
-    if (!DtHasToken(line))
-        return;
     const bool hasAttribute = myCurrentAttribute != nullptr;
     const bool hasModules = !myOmtProject.fomDefFiles().empty();
     expandTokens(line, {&myBoundaryToken, hasAttribute ? &myAttributeTokens : nullptr, &myClassTokens,
@@ -439,9 +438,9 @@ DtString DtClassFileWriter::identifierOf(const DtString& name)
     return identifier(name);
 }
 
-DtAccessorNames DtClassFileWriter::accessorNamesOf(const DtString& attribute)
+DtAccessorNames DtClassFileWriter::accessorNamesOf(const DtString& attribute, DtCCompatibleNames& names)
 {
-    return {lowerAttributeName(attribute), upperAttributeName(attribute)};
+    return {lowerAttributeName(attribute, names), upperAttributeName(attribute, names)};
 }
 
 std::vector<DtString> DtClassFileWriter::knownTokens() const

@@ -9,6 +9,8 @@
 #include <list>
 #include <vector>
 
+class DtCCompatibleNames;
+
 // What <!attributeName!> and <!AttributeName!> are for an attribute.
 struct DtAccessorNames
 {
@@ -62,7 +64,8 @@ public:
     virtual void compileIncludeList();
     // A name as an identifier of generated code, as the tokens of classes and attributes give it.
     static DtString identifierOf(const DtString& name);
-    static DtAccessorNames accessorNamesOf(const DtString& attribute);
+    // Long names are numbered by the caller's names: only a template line numbers those of generated code.
+    static DtAccessorNames accessorNamesOf(const DtString& attribute, DtCCompatibleNames& names);
     // Every token that the writer replaces, in the order of replacement; those of DtFileWriter come last.
     virtual std::vector<DtString> knownTokens() const;
 

@@ -25,8 +25,7 @@ bool isBasicType(const DtAttribute& attribute)
 
 DtString boundaryOf(const DtAttribute& attribute)
 {
-    const unsigned int ofType = mapper().boundaryFromDataTypeName(attribute.type());
-    return DtString(ofType != 0 ? ofType : mapper().boundaryFromDataTypeName(attribute.datatype()));
+    return DtString(mapper().boundaryFromDataTypeName(attribute.type()));
 }
 
 DtString withoutDt(const DtString& className)

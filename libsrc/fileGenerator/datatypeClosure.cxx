@@ -2,6 +2,7 @@
 
 #include "fileGenerator/cCompatibleName.h"
 #include "fileGenerator/dataTypeMapper.h"
+#include "foundation/exception.h"
 #include "foundation/outputStream.h"
 #include "omtReader/omtTree.h"
 
@@ -234,6 +235,8 @@ DtString DtDatatypeClosure::arrayNameOf(const DtComplexComponentNode& component,
 
 DtString DtDatatypeClosure::addArray(const DtArrayShape& shape, const DtString& cardinality, const DtString& datatype)
 {
+    if (myTree == nullptr)
+        DT_THROW("An array needs a tree to stand in");
     const DtString name = myNames.MakeCCompatibleString(shape.nameOf(datatype, cardinality));
     if (myTree->getArrayDatatypeNode(name) != nullptr)
         return name;

@@ -220,7 +220,10 @@ void DtFileWriter::writeFileStream(std::istream& in)
         cursor.skipCharacters(block);
         if (block > 0)
             writePiece(piece.substr(0, block));
-        isLoop ? handleForLoop(in) : handleIfStatement(in);
+        if (isLoop)
+            handleForLoop(in);
+        else
+            handleIfStatement(in);
     }
 }
 
@@ -344,7 +347,10 @@ void DtFileWriter::expandBlock(const DtString& header, DtTemplateStream& body, c
     const DtDeeper deeper(myBlockDepth);
     const DtInsideFile inside(myOpenFiles, body.fileName());
     body.seekg(0); // fails for a file that could not be opened, and nothing is read from it then
-    delimiter == '#' ? writeMultipleTimes(header, body) : writeConditional(header, body);
+    if (delimiter == '#')
+        writeMultipleTimes(header, body);
+    else
+        writeConditional(header, body);
 }
 
 void DtFileWriter::helperStringHandler(std::string& line, unsigned int start, std::istream& in,

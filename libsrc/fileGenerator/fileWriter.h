@@ -40,8 +40,8 @@ public:
     virtual ~DtFileWriter();
     virtual void setFileName(const DtString& name);
     virtual const DtString& fileName() const;
-    // Expands the whole template; one step of the progress meter, which has to be set up. Nothing happens without a
-    // template, or when it has been read before.
+    // Expands the whole template; one step of the progress meter, which has to be set up. A second call writes nothing
+    // more, but is a step again.
     virtual void writeFile();
     // Scans the stream to its end and writes the expansion to myStream. Called again for every body.
     virtual void writeFileStream(std::istream& in);

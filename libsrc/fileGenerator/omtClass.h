@@ -12,10 +12,10 @@ class DtOmtClass : public DtOmtNode
 protected:
     // A copy of the member of that name; the key of the search itself when there is none, with name, full name and
     // owner set and all else as in a new record.
-    Member memberFromName(const DtString& name) const
+    Member memberFromName(const DtString& name, void (Member::*setOwner)(const DtString&)) const
     {
         Member key;
-        key.setOwner(myFullName);
+        (key.*setOwner)(myFullName);
         key.setName(name);
         key.setFullName(name);
         const auto found = myMembers.find(key);

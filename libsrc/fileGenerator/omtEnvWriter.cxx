@@ -119,10 +119,16 @@ DtCCompatibleNames& DtOMTEnvWriter::names()
     return theNames;
 }
 
-int DtOMTEnvWriter::writeFile(const DtString& fomName)
+DtOMTTree& DtOMTEnvWriter::tree() const
 {
     if (myTree == nullptr)
-        DT_THROW("setOmtTree() must be called before writeFile()");
+        DT_THROW("setOmtTree() must be called before the model is used");
+    return *myTree;
+}
+
+int DtOMTEnvWriter::writeFile(const DtString& fomName)
+{
+    tree();
     startRun(fomName);
     makeDirectories();
     compileExportMacroName();
@@ -147,6 +153,7 @@ void DtOMTEnvWriter::startRun(const DtString& fomName)
     theBaseName = modelBase();
     DtDatatypeClassNames::instance().clear();
     DtCodedDataTypeFileWriter::resetPlusAttributeCounts();
+    mapper().forgetNonEncodeableDataTypes();
 }
 
 void DtOMTEnvWriter::makeDirectories() const
@@ -205,7 +212,7 @@ void DtOMTEnvWriter::setTotalProgress()
     int datatypes = 0;
     for (const DtString& name : myUsedDatatypes)
     {
-        if (!mapper().hasMapping(name) && myTree->getEnumeratedDatatypeNode(name) == nullptr &&
+        if (!mapper().hasMapping(name) && tree().getEnumeratedDatatypeNode(name) == nullptr &&
             !mapper().isToBeReplaced(name))
             ++datatypes;
     }
@@ -220,7 +227,7 @@ void DtOMTEnvWriter::generateEnumerationsFile()
 {
     const DtString base = withoutDashesAndDots(withoutPathAndExtension(modelBase()));
     DtEnumerationFileWriter writer(DtString("DataTypes") + DtFilename::separator() + base + "Enums.h");
-    for (auto node = myTree->getEnumeratedDatatypeNodeList(); node != myTree->getEnumeratedDatatypeEndNode(); ++node)
+    for (auto node = tree().getEnumeratedDatatypeNodeList(); node != tree().getEnumeratedDatatypeEndNode(); ++node)
     {
         // Also of those that a ready-made type stands for: it does not tell how long the number is.
         DtDatatypeClassNames::instance().addEnumeration((*node)->getName(), (*node)->getRepresentation());
@@ -279,14 +286,14 @@ DtString DtOMTEnvWriter::uniqueName(const DtFedNode& node) const
 
 DtString DtOMTEnvWriter::objectParentName(const DtFedNode& parent) const
 {
-    if (&parent == myTree->objectClassRoot())
+    if (&parent == tree().objectClassRoot())
         return "ObjectRoot";
     return replaceObjectName(uniqueName(parent), parent.getFullName());
 }
 
 DtString DtOMTEnvWriter::interactionParentName(const DtFedNode& parent) const
 {
-    if (&parent == myTree->interactionClassRoot())
+    if (&parent == tree().interactionClassRoot())
         return "InteractionRoot";
     return replaceInteractionName(uniqueName(parent), parent.getFullName()) + "Inter";
 }
@@ -294,7 +301,7 @@ DtString DtOMTEnvWriter::interactionParentName(const DtFedNode& parent) const
 bool DtOMTEnvWriter::hasFiles(const DtFedNode& parent) const
 {
     const DtString& name = parent.getFullName();
-    return &parent == myTree->objectClassRoot() || &parent == myTree->interactionClassRoot() ||
+    return &parent == tree().objectClassRoot() || &parent == tree().interactionClassRoot() ||
            findRecord(myObjectsToGenerate, name) != nullptr || findRecord(myInteractionsToGenerate, name) != nullptr;
 }
 
@@ -302,7 +309,7 @@ void DtOMTEnvWriter::addObjectToFile(DtString name, std::set<DtString>& done)
 {
     if (isCancelled())
         return;
-    const DtObjectClassFedNode* node = myTree->getObjectClassNode(name);
+    const DtObjectClassFedNode* node = tree().getObjectClassNode(name);
     const DtOmtObject* record = selectedObject(name);
     if (node == nullptr || record == nullptr)
         return;
@@ -329,7 +336,7 @@ void DtOMTEnvWriter::addInteractionToFile(DtString name, std::set<DtString>& don
 {
     if (isCancelled())
         return;
-    const DtInteractionClassFedNode* node = myTree->getInteractionClassNode(name);
+    const DtInteractionClassFedNode* node = tree().getInteractionClassNode(name);
     const DtOmtInteraction* record = selectedInteraction(name);
     if (node == nullptr || record == nullptr)
         return;

@@ -128,6 +128,7 @@ private:
     const DtOmtObject* selectedObject(const DtString& fullName) const;
     const DtOmtInteraction* selectedInteraction(const DtString& fullName) const;
     DtString uniqueName(const DtFedNode& node) const;
+    DtOMTTree& tree() const; // throws DtException when there is none
     DtString objectParentName(const DtFedNode& parent) const;
     bool hasFiles(const DtFedNode& parent) const; // of this run, or of the toolkit
     DtString interactionParentName(const DtFedNode& parent) const;

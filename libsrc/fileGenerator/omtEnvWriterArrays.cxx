@@ -11,6 +11,7 @@ DtDatatypeClosure DtOMTEnvWriter::closure()
 
 void DtOMTEnvWriter::checkUsedSubDatatypesFiles()
 {
+    tree();
     closure().complete(myObjectsToGenerate, myInteractionsToGenerate);
 }
 

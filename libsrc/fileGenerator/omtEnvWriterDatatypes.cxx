@@ -213,7 +213,7 @@ bool DtOMTEnvWriter::isWanted(const DtString& name) const
 template <typename Family>
 void DtOMTEnvWriter::writeFamily()
 {
-    for (auto node = Family::begin(*myTree); node != Family::end(*myTree); ++node)
+    for (auto node = Family::begin(tree()); node != Family::end(tree()); ++node)
     {
         if (Family::stopsOnCancel && isCancelled())
             return;
@@ -252,7 +252,7 @@ template <typename Family>
 void DtOMTEnvWriter::recordClassNames(DtSharedClassNames& shared, DtHeldDatatypes& held)
 {
     DtDatatypeClassNames& classNames = DtDatatypeClassNames::instance();
-    for (auto node = Family::begin(*myTree); node != Family::end(*myTree); ++node)
+    for (auto node = Family::begin(tree()); node != Family::end(tree()); ++node)
     {
         const DtString name = (*node)->getName();
         if (!isWanted<Family>(name) || classNames.contains(name))
@@ -271,7 +271,7 @@ void DtOMTEnvWriter::recordAllClassNames()
     DtSharedClassNames shared;
     DtHeldDatatypes held;
     std::set<DtString> enumerations; // the enumerations header tells of those that are called alike
-    for (auto node = myTree->getEnumeratedDatatypeNodeList(); node != myTree->getEnumeratedDatatypeEndNode(); ++node)
+    for (auto node = tree().getEnumeratedDatatypeNodeList(); node != tree().getEnumeratedDatatypeEndNode(); ++node)
     {
         const DtString& name = (*node)->getName();
         if (myUsedDatatypes.count(name) == 0 || !DtDataTypeMapper::instance()->isEnumeration(name))

@@ -13,7 +13,10 @@ public:
     // Changes nothing when a parameter of that name is there.
     virtual void addParameter(const DtOmtParameter& parameter) { myMembers.insert(parameter); }
     // For an unknown name a new record with that name, so noGen is false and there is no rename.
-    virtual DtOmtParameter getParameterFromName(const DtString& name) const { return memberFromName(name); }
+    virtual DtOmtParameter getParameterFromName(const DtString& name) const
+    {
+        return memberFromName(name, &DtOmtParameter::setOwningInteraction);
+    }
 
     bool operator==(const DtOmtInteraction& other) const { return myFullName == other.myFullName; }
 };

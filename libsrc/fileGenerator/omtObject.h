@@ -13,7 +13,10 @@ public:
     virtual void setAttributes(const std::set<DtOmtAttribute>& attributes) { myMembers = attributes; }
     virtual const std::set<DtOmtAttribute>& attributes() const { return myMembers; }
     // For an unknown name a new record with that name, so noGen is false and there is no rename.
-    virtual DtOmtAttribute getAttributeFromName(const DtString& name) const { return memberFromName(name); }
+    virtual DtOmtAttribute getAttributeFromName(const DtString& name) const
+    {
+        return memberFromName(name, &DtOmtAttribute::setOwningObject);
+    }
 
     bool operator==(const DtOmtObject& other) const { return myFullName == other.myFullName; }
     bool operator==(const DtString& fullName) const { return myFullName == fullName; }

@@ -7,8 +7,16 @@
 class DtOmtParameter : public DtOmtMember
 {
 public:
-    virtual void setOwningInteraction(const DtString& fullName) { setOwner(fullName); }
-    virtual DtString owningInteraction() const { return owner(); }
+    virtual void setEncoding(const DtString& encoding) { myEncoding = encoding; }
+    virtual DtString encoding() const { return myEncoding; }
+    virtual void setOwningInteraction(const DtString& fullName) { myOwner = fullName; }
+    virtual DtString owningInteraction() const { return myOwner; }
+    // Path of a text file whose text takes the place of the generated one; empty when there is none.
+    virtual void setCustomGenerationRef(const DtString& fileName) { myCustomGenerationRef = fileName; }
+    virtual DtString customGenerationRef() const { return myCustomGenerationRef; }
+    // True when nothing is generated for it; false at first.
+    virtual void setNoGen(bool noGen) { myNoGen = noGen; }
+    virtual bool noGen() const { return myNoGen; }
 };
 
 #endif

@@ -180,7 +180,10 @@ std::vector<DtString> DtContextKey::spellings() const
 
 void DtPutValue(DtMapSubstitute& entry, const DtString& key, const DtString& value, DtKeyForm form)
 {
-    form == DtKeyForm::Name ? entry.putId(key, value) : entry.put(key, value);
+    if (form == DtKeyForm::Name)
+        entry.putId(key, value);
+    else
+        entry.put(key, value);
     if (form == DtKeyForm::Name || form == DtKeyForm::Text)
         entry.putSafeForms(key, value);
 }

@@ -1,5 +1,6 @@
 #include "fileGenerator/sharedNames.h"
 
+#include "fileGenerator/cCompatibleName.h"
 #include "fileGenerator/classFileWriter.h"
 #include "fileGenerator/dataTypeMapper.h"
 #include "foundation/outputStream.h"
@@ -100,9 +101,10 @@ void warnOfMemberNames(const DtString& owner, const std::vector<DtString>& names
 {
     std::map<DtString, DtString> getters;
     std::map<DtString, DtString> setters;
+    DtCCompatibleNames identifiers;
     for (const DtString& name : names)
     {
-        const DtAccessorNames accessors = DtClassFileWriter::accessorNamesOf(name);
+        const DtAccessorNames accessors = DtClassFileWriter::accessorNamesOf(name, identifiers);
         const auto [getter, isNewGetter] = getters.emplace(accessors.getter, name);
         const auto [setter, isNewSetter] = setters.emplace(accessors.setter, name);
         if (!isNewGetter || !isNewSetter)

@@ -47,7 +47,7 @@ struct DtFileStamp
     std::int64_t changed;
 };
 
-// Texts of files that have not changed since. One a use that is made of the text.
+// Texts of files, each as long as its file has not changed since. There is one cache for each kind of text.
 class DtTextCache
 {
 public:

@@ -145,11 +145,11 @@ bool isSpentCombination(const std::string& argument)
 // required Args that serves.
 int CmdLine::claim(int& index, std::vector<std::string>& arguments)
 {
+    const std::string argument = arguments[static_cast<std::size_t>(index)];
     for (Arg* each : _argList)
         if (each->processArg(&index, arguments))
             return _xorHandler.check(each);
-    const std::string& argument = arguments[static_cast<std::size_t>(index)];
-    if (isSpentCombination(argument))
+    if (isSpentCombination(arguments[static_cast<std::size_t>(index)]))
         return 0;
     throw CmdLineParseException("Couldn't find match for argument", argument);
 }

@@ -151,8 +151,8 @@ bool DtReplaceFile(const DtString& name, const std::string& text)
     DtDescriptor file(mkstemp(sibling.data()));
     if (file.get() < 0)
         return false;
-    const bool isWritten = writeAll(file.get(), text) && fchmod(file.get(), modeFor(target)) == 0 &&
-                           fsync(file.get()) == 0 && file.close();
+    static_cast<void>(fchmod(file.get(), modeFor(target))); // fails on file systems that know no modes
+    const bool isWritten = writeAll(file.get(), text) && fsync(file.get()) == 0 && file.close();
     if (isWritten && rename(sibling.c_str(), target.c_str()) == 0)
         return true;
     unlink(sibling.c_str());

@@ -31,7 +31,7 @@ bool DtPollBlockingInputChar();
 DtString DtOperatingSystem(); // "Linux", say
 DtString DtCompiler();        // name and version
 
-// Part of the numeric support; returns 0.
+// Called once at start-up; returns 0.
 int diagonalizable();
 
 #endif

@@ -18,9 +18,8 @@ enum class DtMtlToken
 
 // Cuts the text of s-expressions into tokens:
 //   - white space separates, and a semicolon where a token may begin starts a comment that runs to the end of the line;
-//   - a text stands in double quotes and may hold line ends. The escape character, if there is one, in front of "n",
-//   "r"
-//     and "t" makes a line feed, a carriage return and a tab, in front of anything else that character itself;
+//   - a text stands in double quotes and may hold line ends. The escape character, if there is one, makes a line feed,
+//     a carriage return and a tab of "n", "r" and "t" behind it, and of anything else that character itself;
 //   - a word is any other run of characters but white space, double quotes and parentheses; a semicolon in it is a
 //     letter like others.
 // A byte of 0 is a letter too. Keeps nothing but the text of the present token, and looks one byte ahead of it at most.

@@ -122,7 +122,7 @@ void* DtFedReader::openFedFile(const char* file, bool /*reportFailure*/)
     int descriptor = DtOpenPlainFile(file);
     if (descriptor < 0)
         descriptor = DtOpenPlainFile(pathBelowRtiConfig(file));
-    return descriptor >= 0 ? fdopen(descriptor, "r") : nullptr;
+    return DtStreamOf(descriptor);
 }
 
 DtString DtFedReader::pathBelowRtiConfig(const char* file)

@@ -40,7 +40,8 @@ void DtInteractionClassFedNode::addChildInteraction(DtInteractionClassFedNode* c
 DtInteractionClassFedNode* DtInteractionClassFedNode::findChildInteraction(const char* path)
 {
     return myChildren.find(
-        this, path, [](const DtInteractionClassFedNode& node) -> auto& { return node.myChildren; });
+        this, DtString(path).stdString(),
+        [](const DtInteractionClassFedNode& node) -> auto& { return node.myChildren; });
 }
 
 DtParameterFedNode* DtInteractionClassFedNode::findParameter(const char* name) const

@@ -42,7 +42,7 @@ void DtObjectClassFedNode::addChildObject(DtObjectClassFedNode* child)
 DtObjectClassFedNode* DtObjectClassFedNode::findChildObject(const char* path)
 {
     return myChildren.find(
-        this, path, [](const DtObjectClassFedNode& node) -> auto& { return node.myChildren; });
+        this, DtString(path).stdString(), [](const DtObjectClassFedNode& node) -> auto& { return node.myChildren; });
 }
 
 DtAttributeFedNode* DtObjectClassFedNode::findAttribute(const char* name) const

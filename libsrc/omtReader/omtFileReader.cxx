@@ -6,7 +6,6 @@
 #include "omtReader/xmlDocument.h"
 
 #include <new>
-#include <unistd.h>
 
 namespace
 {
@@ -14,11 +13,7 @@ using DtFile = std::unique_ptr<FILE, int (*)(FILE*)>;
 
 DtFile openFile(const DtString& name)
 {
-    const int descriptor = DtOpenPlainFile(name);
-    FILE* file = descriptor >= 0 ? fdopen(descriptor, "r") : nullptr;
-    if (file == nullptr && descriptor >= 0)
-        close(descriptor);
-    return DtFile(file, std::fclose);
+    return DtFile(DtStreamOf(DtOpenPlainFile(name)), std::fclose);
 }
 
 // Completes messages; what has no such name has no message that wants one.

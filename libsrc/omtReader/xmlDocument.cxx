@@ -53,6 +53,14 @@ int DtOpenPlainFile(const char* name)
     return descriptor;
 }
 
+FILE* DtStreamOf(int descriptor)
+{
+    FILE* const stream = descriptor >= 0 ? fdopen(descriptor, "r") : nullptr;
+    if (stream == nullptr && descriptor >= 0)
+        close(descriptor);
+    return stream;
+}
+
 DtXmlDocument DtParseXmlDescriptor(int descriptor, const char* name)
 {
     return DtXmlDocument(xmlReadFd(descriptor, name, nullptr, theXmlParseOptions));

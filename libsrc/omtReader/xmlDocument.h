@@ -6,6 +6,7 @@
 #include <libxml/tree.h>
 #include <libxml/xmlerror.h>
 
+#include <cstdio>
 #include <memory>
 
 struct DtFreeXmlDocument
@@ -48,6 +49,8 @@ DtXmlDocument DtParseXmlBuffer(const char* buffer, int size);
 
 // A descriptor of the plain file for reading, -1 when there is none. The caller closes it.
 int DtOpenPlainFile(const char* name);
+// The stream that reads from it; null, and the descriptor closed, when there can be none.
+FILE* DtStreamOf(int descriptor);
 
 // The element behind an iterator step: `node` itself when it is an element, else the next sibling that is one.
 xmlNode* DtElementFrom(xmlNode* node);

@@ -171,7 +171,7 @@ private:
 
     Format myFormat;
     DtString myLastError;
-    [[maybe_unused]] DtExerciseConn* myConnection; // kept for its owner
+    [[maybe_unused]] DtExerciseConn* myConnection; // passed on by callers; never looked into
 };
 
 template <typename Reader, std::size_t theCount>

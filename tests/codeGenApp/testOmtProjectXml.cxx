@@ -121,6 +121,16 @@ DtOmtProject sampleProject()
     return project;
 }
 
+DtString ownerOf(const DtOmtAttribute& attribute)
+{
+    return attribute.owningObject();
+}
+
+DtString ownerOf(const DtOmtParameter& parameter)
+{
+    return parameter.owningInteraction();
+}
+
 // All that the file holds, as text.
 template <typename Member>
 QString describe(const std::set<Member>& members)
@@ -128,7 +138,7 @@ QString describe(const std::set<Member>& members)
     QString result;
     for (const Member& member : members)
         result += QString("  %1,%2,%3,%4,%5,%6\n")
-                      .arg(text(member.name()), text(member.fullName()), text(member.owner()), text(member.rename()),
+                      .arg(text(member.name()), text(member.fullName()), text(ownerOf(member)), text(member.rename()),
                            text(member.customGenerationRef()))
                       .arg(member.noGen());
     return result;

@@ -314,6 +314,8 @@ void TestProgram::brokenConfigurationIsKeptBesideTheNewOne()
     QVERIFY(start.finish());
     QCOMPARE(start.exitCode(), 0);
     QVERIFY(start.errors().contains("Cannot read ../data/config/customCodeGenConfig.xml; a copy of it is kept"));
+    QVERIFY(start.errors().contains("No script is switched on... Nothing to generate."));
+    QVERIFY(!QFile::exists(start.path("out")));
     QCOMPARE(start.file("data/config/customCodeGenConfig.xml~"), QByteArray("<codeGenConfig"));
     QVERIFY(start.file("data/config/customCodeGenConfig.xml") != QByteArray("<codeGenConfig"));
 }

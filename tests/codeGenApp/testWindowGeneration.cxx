@@ -183,7 +183,8 @@ private Q_SLOTS:
         myWindow->generateAllFiles();
         QVERIFY(readTextFile(myProgram->path("models/a.qxproj")).contains("HLAobjectRoot.Barge"));
         QVERIFY(!QFile::exists(myProgram->path("out")));
-        QCOMPARE(warnings.text(), QString());
+        QCOMPARE(warnings.text(), QString("No script is switched on... Nothing to generate.\n"));
+        QCOMPARE(myWindow->statusBar()->currentMessage(), QString("No script is switched on... Nothing to generate."));
     }
 
     void otherScriptIsRunAsACommandFile()

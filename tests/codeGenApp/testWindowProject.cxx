@@ -157,6 +157,18 @@ private Q_SLOTS:
         QVERIFY(QFileInfo(myProgram->path("work/p.qxproj")).isDir());
     }
 
+    void projectThatCannotBeKeptIsNotWrittenOver()
+    {
+        const QByteArray name = QByteArray(241, 'n') + ".qxproj"; // leaves no room for the ending of a copy
+        write(name.constData(), "the only one");
+        const DtCapture warnings(DtWarn);
+        myWindow->newOmtProject(file(name.constData()));
+        QVERIFY(warnings.text().contains("Cannot keep a copy of project file "));
+        QVERIFY(status().endsWith(", so it is not written."));
+        myWindow->saveOmtProject();
+        QCOMPARE(text(name.constData()), QByteArray("the only one"));
+    }
+
     // Saving
 
     void savingNeedsAProject()
@@ -364,6 +376,25 @@ private Q_SLOTS:
         QCOMPARE(myWindow->loadFile(module("a.xml", "Ship"), ""), 1);
         myWindow->saveOmtProject();
         QVERIFY(text("new.qxproj").contains("a.xml"));
+    }
+
+    void damagedProjectThatIsReadAgainIsNotWrittenOver_data()
+    {
+        QTest::addColumn<QByteArray>("damaged");
+        QTest::newRow("not XML") << QByteArray("<project><configurationRoot><objectClass name=\"R.A\"></project>");
+        QTest::newRow("other root") << QByteArray("<projects/>");
+        QTest::newRow("empty") << QByteArray();
+    }
+    void damagedProjectThatIsReadAgainIsNotWrittenOver()
+    {
+        QFETCH(QByteArray, damaged);
+        module("a.xml", "Ship");
+        write("p.qxproj", projectText(fomText("a.xml", location("models"))));
+        myWindow->loadOmtProject(file("p.qxproj"));
+        write("p.qxproj", damaged);
+        myWindow->loadOmtProject(DtFilename()); // the present one, without a dialog
+        myWindow->saveOmtProject();
+        QCOMPARE(text("p.qxproj"), damaged);
     }
 
     void earlierFilesAreForgottenByALoad()

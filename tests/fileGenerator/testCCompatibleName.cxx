@@ -37,7 +37,6 @@ private Q_SLOTS:
     void prefixedLongNameFollowsTheBareOne();
     void bareLongNameDoesNotFollowThePrefixedOne();
     void objectsNumberIndependently();
-    void clearStartsAgain();
     void keywordsOfCPlusPlus();
     void keywordTestIsExact();
 };
@@ -158,14 +157,6 @@ void TestCCompatibleName::objectsNumberIndependently()
     made(one, QString(200, 'z'));
     QCOMPARE(made(one, QString(101, 'a')), QString(50, 'a') + "1");
     QCOMPARE(made(other, QString(101, 'a')), QString(50, 'a') + "0");
-}
-
-void TestCCompatibleName::clearStartsAgain()
-{
-    DtCCompatibleNames names;
-    made(names, QString(101, 'a'));
-    names.clear();
-    QCOMPARE(made(names, QString(102, 'b')), QString(50, 'b') + "0");
 }
 
 void TestCCompatibleName::keywordsOfCPlusPlus()

@@ -27,6 +27,8 @@ private Q_SLOTS:
     void headerKnowsWhetherItsTypeIsEncodeable();
     void openPartsAreCountedAcrossFamilies();
     void openPartsAreForgottenBetweenRuns();
+    void secondRunGivesWhatTheFirstGave();
+    void longMembersAreNumberedByTheTemplate();
     void fileOfADatatypeHoldsThatDatatypeOnly();
     void typesInARingOfPredefinedTypesStand();
     void ringThroughAPredefinedTypeEnds_data();
@@ -250,6 +252,55 @@ void TestGenerationRules::openPartsAreForgottenBetweenRuns()
     const DtCapture capture(DtWarn);
     QCOMPARE(run(), 1);
     QCOMPARE(capture.text().count("Cannot encode/decode"), 0);
+}
+
+// Fixed records come ahead of the variant records: the first run does not know that the member cannot be encoded.
+void TestGenerationRules::secondRunGivesWhatTheFirstGave()
+{
+    myFixture->writeTemplate("subTemplates/fixedRecordsHeader.tlt",
+                             "<#ClassDatatypes><#Attributes>[<!AttributeIsNotEncodeable!>]<#><#>");
+    addTank({
+        {"a", "GsHolder"}
+    });
+    myModel->addFixed("GsHolder", {
+                                      {"f", "GsVariant"}
+    });
+    myModel->addVariant("GsVariant", "kind", "HLAboolean",
+                        {
+                            {"one", "GsOpen"},
+                            {"two", "GsOpen"}
+    });
+    myModel->addArray("GsOpen", "GsByte");
+    for (int pass = 0; pass < 2; ++pass)
+    {
+        const DtCapture capture(DtWarn);
+        QCOMPARE(run(), 1);
+        QVERIFY(capture.text().contains("Warning: Cannot encode/decode data type DtGsVariant.\n"));
+        QCOMPARE(myFixture->output("DataTypes/gsHolder.h"), QString("[]"));
+    }
+}
+
+// The warnings about members ask for names too, but have numbers of their own.
+void TestGenerationRules::longMembersAreNumberedByTheTemplate()
+{
+    const auto name = [](char c) { return DtString(std::string(120, c)); };
+    myFixture->writeTemplate("subTemplates/fixedRecordsHeader.tlt",
+                             "<#ClassDatatypes><#Attributes><!attributeName!> <!AttributeFomDatatype!>|<#><#>");
+    addTank({
+        {"a", "GlRecord"}
+    });
+    myModel->addFixed("GlRecord", {
+                                      {name('q'), name('X')},
+                                      {name('r'), name('Y')}
+    });
+    QCOMPARE(run(), 1);
+    std::vector<int> numbers;
+    for (const QString& text :
+         myFixture->output("DataTypes/glRecord.h").split(QRegularExpression("[ |]"), Qt::SkipEmptyParts))
+        numbers.push_back(QString(text).remove(QRegularExpression("[^0-9]")).toInt());
+    QCOMPARE(numbers.size(), std::size_t(4));
+    for (std::size_t at = 1; at < numbers.size(); ++at)
+        QCOMPARE(numbers[at], numbers[0] + int(at));
 }
 
 void TestGenerationRules::fileOfADatatypeHoldsThatDatatypeOnly()

@@ -125,7 +125,7 @@ private Q_SLOTS:
     void arrayIncludesDropNeighbours();
     void complexTokens();
     void generatedClassIsNoBasicType();
-    void boundaryOfTheTypeGoesFirst();
+    void boundaryIsThatOfTheTypeAlone();
     void complexTypesAreAlwaysEncodeable();
     void knownTokensOfTheRecords();
 };
@@ -664,15 +664,21 @@ void TestRecordFileWriters::generatedClassIsNoBasicType()
     QCOMPARE(writer.decode("<!IsBasicType!>|"), QString("|"));
 }
 
-void TestRecordFileWriters::boundaryOfTheTypeGoesFirst()
+void TestRecordFileWriters::boundaryIsThatOfTheTypeAlone()
 {
     const RunSettings settings;
     mapper().addDataTypeNameToBoundary("RwWide", 8);
-    ComplexProbe writer("", "");
-    DtAttribute attribute("c", "DtU16");
-    attribute.setDatatype("RwWide");
-    writer.setCurrentAttribute(&attribute);
-    QCOMPARE(writer.decode("<!OctetBoundary!>"), QString("2"));
+    const auto boundaryOf = [](const char* type)
+    {
+        ComplexProbe writer("", "");
+        DtAttribute attribute("c", type);
+        attribute.setDatatype("RwWide");
+        writer.setCurrentAttribute(&attribute);
+        return writer.decode("<!OctetBoundary!>");
+    };
+    QCOMPARE(boundaryOf("DtU16"), QString("2"));
+    QCOMPARE(boundaryOf("DtRwWide"), QString("0"));
+    QCOMPARE(boundaryOf("RwWide"), QString("8"));
 }
 
 void TestRecordFileWriters::complexTypesAreAlwaysEncodeable()

@@ -4,6 +4,7 @@
 // What the unseen window generates from a model, laid out for a compiler, and programs that are compiled with it.
 
 #include "codeGenApp/scratchProgram.h"
+#include "fileGenerator/omtProject.h"
 
 #include <QtCore/QProcess>
 
@@ -40,6 +41,11 @@ public:
     // Generates everything of a model of this text, alone; without one, of the sample model with the standard one.
     explicit DtStagedOutput(const QByteArray& modelText) { stage({myProgram.model("model.xml", modelText)}, false); }
     DtStagedOutput() { stage({myProgram.sampleModel()}, true); }
+    // Of a model of this text, in a project that does not take this datatype for a ready-made type.
+    DtStagedOutput(const QByteArray& modelText, const char* unmapped) : myUnmapped(unmapped)
+    {
+        stage({myProgram.model("model.xml", modelText)}, false);
+    }
     // What a window has written to this directory.
     explicit DtStagedOutput(const QString& written) { layOut(written); }
     // Of modules in this order, with the standard model.
@@ -105,6 +111,9 @@ private:
                 initializer.setIncludeStandardMIM(standardMim);
             });
         window->newOmtProject(DtFilename(myProgram.bytes(myProgram.path("models/model.qxproj"))));
+        std::map<DtString, DtString> types = window->omtProject()->predefinedTypes();
+        types.erase(myUnmapped);
+        window->omtProject()->setPredefinedType(types);
         std::vector<DtCodeGenAppGui::DtModelFile> files;
         for (const DtString& model : models)
             files.emplace_back(model, "");
@@ -116,6 +125,7 @@ private:
 
     DtScratchProgram myProgram;
     QTemporaryDir myStage;
+    DtString myUnmapped;
     QString myWarnings; // of loading and generating
 };
 

@@ -58,6 +58,117 @@ int main()
 }
 )";
 
+QByteArray recordText(const char* name, const char* datatype)
+{
+    const auto field = [datatype](const char* each)
+    { return element("field", element("name", each) + element("dataType", datatype)); };
+    return element("fixedRecordData",
+                   element("name", name) + element("encoding", "HLAfixedRecord") + field("Left") + field("Right"));
+}
+
+// Datatypes with open arrays in them: the array Row and these records.
+QByteArray withOpenTypes(QByteArray module, const QByteArray& records)
+{
+    const QByteArray row = element("arrayData", "<name>Row</name><dataType>HLAoctet</dataType><cardinality>Dynamic"
+                                                "</cardinality><encoding>HLAvariableArray</encoding>");
+    const QByteArray types = element("arrayDataTypes", row) + element("fixedRecordDataTypes", records);
+    return module.replace("</objectModel>", element("dataTypes", types) + "</objectModel>");
+}
+
+// A class and an interaction with a value of two open arrays, which has no encoding, and one of an unknown datatype.
+QByteArray uncodedModel()
+{
+    return withOpenTypes(moduleText(objectText("Boat", attributeText("Speed") + attributeText("Load", "Pair") +
+                                                           attributeText("Riddle", "Unknown")),
+                                    interactionText("Horn", parameterText("Volume") + parameterText("Load", "Pair") +
+                                                                parameterText("Riddle", "Unknown"))),
+                         recordText("Pair", "Row"));
+}
+
+// Functions that write the octet 7 and read it, of an object class or an interaction, by the head of each.
+QByteArray coderText(const char* guard, std::initializer_list<QByteArray> encoders,
+                     std::initializer_list<QByteArray> decoders)
+{
+    QByteArray text = QByteArray("#ifndef ") + guard + "\n#define " + guard + "\n";
+    for (const QByteArray& head : encoders)
+        text += head + ", DtWireWriter& writer)\n{\n    writer.putByte(7);\n    return true;\n}\n";
+    for (const QByteArray& head : decoders)
+        text += head + ", DtWireReader& reader)\n{\n    DtU8 octet = 0;\n" +
+                "    return reader.getBytes(&octet, 1) && octet == 7;\n}\n";
+    return text + "#endif\n";
+}
+
+void writeUserFiles(const QString& directory, const QString& side)
+{
+    const auto write = [&](const QString& file, const QByteArray& text)
+    { writeTextFile(directory + "/" + file + side + "User.h", text); };
+    write("boatEncoder", coderText("BOAT_ENCODER",
+                                   {"bool DtBoatEncoder::encodeLoad(const DtBoatStateRepository&",
+                                    "bool DtBoatEncoder::encodeRiddle(const DtBoatStateRepository&"},
+                                   {}));
+    write("boatDecoder", coderText("BOAT_DECODER", {},
+                                   {"bool DtBoatDecoder::decodeLoad(DtBoatStateRepository&",
+                                    "bool DtBoatDecoder::decodeRiddle(DtBoatStateRepository&"}));
+    write("hornInterEncoder", coderText("HORN_ENCODER",
+                                        {"bool DtHornInterEncoder::encodeLoad(const DtHornInter&",
+                                         "bool DtHornInterEncoder::encodeRiddle(const DtHornInter&"},
+                                        {}));
+    write("hornInterDecoder", coderText("HORN_DECODER", {},
+                                        {"bool DtHornInterDecoder::decodeLoad(DtHornInter&",
+                                         "bool DtHornInterDecoder::decodeRiddle(DtHornInter&"}));
+    write("hornInter", coderText("HORN_CODING",
+                                 {"static bool encode_DtHornInter_Load(const DtHornInter&",
+                                  "static bool encode_DtHornInter_Riddle(const DtHornInter&"},
+                                 {"static bool decode_DtHornInter_Load(DtHornInter&",
+                                  "static bool decode_DtHornInter_Riddle(DtHornInter&"}));
+}
+
+// What is encoded, and how many of the others can be decoded out of the octet 7.
+const char theUncodedProgram[] = R"(
+#include <cstdio>
+template <class Encoder, class Decoder, class Value>
+static void tell(const char* other, Value value)
+{
+    DtAttributeValues values;
+    const bool isWhole = Encoder().encode(value, values);
+    std::printf("%s", isWhole ? "all" : "some");
+    for (const auto& each : values)
+        std::printf(" %s %u", each.first.c_str(), static_cast<unsigned int>(each.second.size()));
+    values.clear();
+    values[other] = DtValueBuffer(4, 0);
+    values["Load"] = {7};
+    values["Riddle"] = {7};
+    std::vector<std::string> refused;
+    Decoder().decode(values, value, &refused);
+    std::printf(" refused %u\n", static_cast<unsigned int>(refused.size()));
+}
+int main()
+{
+    tell<DtBoatEncoder, DtBoatDecoder>("Speed", DtBoatStateRepository());
+    tell<DtHornInterEncoder, DtHornInterDecoder>("Volume", DtHornInter());
+}
+)";
+
+const char theOpenProgram[] = R"(
+#include <cstdio>
+int main()
+{
+    DtInner inner;
+    inner.setLeft(DtRow(std::vector<DtU8>(2, 7)));
+    DtOuter outer;
+    outer.setLeft(inner);
+    outer.setRight(inner);
+    DtWireWriter writer;
+    outer.encode(writer);
+    DtOuter seen;
+    DtWireReader reader(writer.data(), writer.size());
+    if (writer.ok() && seen.decode(reader) && seen == outer)
+        std::printf("%u octets", static_cast<unsigned int>(writer.size()));
+    else if (!writer.ok())
+        std::printf("refused");
+}
+)";
+
 DtString filledIn(const char* text, const char* value)
 {
     return QString(text).arg(QString(value)).toUtf8().constData();
@@ -134,6 +245,142 @@ private Q_SLOTS:
         const DtProgramRun result = runProgram(output.path(), run, {});
         QVERIFY2(result.exitCode == 0, qPrintable(result.output));
         QCOMPARE(result.output.count(" yes"), 11);
+    }
+
+    void fileOfTheUserCodesWhatHasNoEncoding_data()
+    {
+        QTest::addColumn<bool>("isDis");
+        QTest::addColumn<bool>("hasFiles");
+        QTest::newRow("HLA with files") << false << true;
+        QTest::newRow("HLA without files") << false << false;
+        QTest::newRow("DIS with files") << true << true;
+        QTest::newRow("DIS without files") << true << false;
+    }
+    void fileOfTheUserCodesWhatHasNoEncoding()
+    {
+        QFETCH(bool, isDis);
+        QFETCH(bool, hasFiles);
+        DtScratchProgram program;
+        const std::unique_ptr<DtStagedOutput> output = uncodedOutput(program, hasFiles);
+        const QString run = output->path() + (isDis ? "/runDis" : "/runHla");
+        const QString errors =
+            output->compile(sourcesOf(*output, isDis), theUncodedProgram, toolkitObjects() + optionsOf(isDis), run);
+        QVERIFY2(errors.isEmpty(), qPrintable(errors));
+        QCOMPARE(runProgram(output->path(), run, {}).output,
+                 QString(hasFiles ? "all Load 1 Riddle 1 Speed 4 refused 0\nall Load 1 Riddle 1 Volume 4 refused 0\n"
+                                  : "some Speed 4 refused 2\nsome Volume 4 refused 2\n"));
+    }
+
+    // It takes every header for one that is there, and passes over the files of the user.
+    void compilerThatCannotLookForFilesIsEnough_data()
+    {
+        QTest::addColumn<bool>("isDis");
+        QTest::newRow("HLA") << false;
+        QTest::newRow("DIS") << true;
+    }
+    void compilerThatCannotLookForFilesIsEnough()
+    {
+        QFETCH(bool, isDis);
+        DtScratchProgram program;
+        const std::unique_ptr<DtStagedOutput> output = uncodedOutput(program, true);
+        writeTextFile(output->path() + "/DataTypes/unknown.h", "");
+        writeTextFile(output->path() + "/old.h",
+                      "#pragma GCC system_header\n#include <bits/stdc++.h>\n#undef __has_include\n");
+        const QString errors = output->compile(sourcesOf(*output, isDis), "static_assert(sizeof(DtPair) > 1, \"\");\n",
+                                               QStringList{"-include", "old.h"} + optionsOf(isDis));
+        QVERIFY2(errors.isEmpty(), qPrintable(errors));
+    }
+
+    // The generator knows what a record holds from its turn on, and turns go by the model.
+    void openArraysOfALaterRecordAreCoded_data()
+    {
+        QTest::addColumn<QByteArray>("records"); // with names of their own, for marks outlast a run
+        QTest::addColumn<QStringList>("marked");
+        QTest::addColumn<QString>("coded");
+        const QByteArray inner = recordText("Inner", "Row");
+        const QByteArray outer = recordText("Outer", "Inner");
+        const QByteArray half =
+            QByteArray(inner).replace("Right</name><dataType>Row", "Right</name><dataType>HLAoctet");
+        QTest::newRow("A") << inner + outer << QStringList{"Inner", "Outer"} << "refused";
+        QTest::newRow("B") << outer + inner << QStringList{"Inner"} << "refused";
+        QTest::newRow("C") << half + outer << QStringList{"Outer"} << "refused";
+        QTest::newRow("D") << outer + half << QStringList() << "15 octets";
+    }
+    void openArraysOfALaterRecordAreCoded()
+    {
+        QFETCH(QByteArray, records);
+        QFETCH(QStringList, marked);
+        QFETCH(QString, coded);
+        const QByteArray row = QTest::currentDataTag();
+        const auto named = [&row](QByteArray text)
+        { return text.replace("Inner", "Inner" + row).replace("Outer", "Outer" + row); };
+        const DtStagedOutput output(
+            named(withOpenTypes(moduleText(objectText("Boat", attributeText("Load", "Outer"))), records)));
+        QStringList warnings;
+        for (const QString& each : marked)
+            warnings += "Warning: Cannot encode/decode data type Dt" + each + row + ".";
+        QCOMPARE(output.warnings().split('\n', Qt::SkipEmptyParts), warnings);
+        const QString run = output.path() + "/open";
+        const QString errors =
+            output.compile(output.files("DataTypes/.*\\.cxx"), named(theOpenProgram), {"-std=c++11"}, run);
+        QVERIFY2(errors.isEmpty(), qPrintable(errors));
+        QCOMPARE(runProgram(output.path(), run, {}).output, coded);
+    }
+
+private:
+    // With the headers of the DIS classes under the names by which they include each other.
+    static std::unique_ptr<DtStagedOutput> uncodedOutput(DtScratchProgram& program, bool hasFiles)
+    {
+        generateUncoded(program);
+        auto output = std::make_unique<DtStagedOutput>(program.path("out"));
+        QFile::link(output->path() + "/boatPdu.h", output->path() + "/BoatPdu.h");
+        if (hasFiles)
+            for (const char* side : {"HLA", "DIS"})
+                writeUserFiles(output->path(), side);
+        return output;
+    }
+    static void generateUncoded(DtScratchProgram& program)
+    {
+        const DtCapture warnings(DtWarn);
+        const DtString model = program.model("boats.xml", uncodedModel());
+        const auto window = program.makeWindow(
+            [](DtCodeGenInitializer& initializer)
+            {
+                initializer.setGenerateDis(true);
+                initializer.setGenerateExamples(false);
+                initializer.setGenerateErrors(false);
+                initializer.setIncludeStandardMIM(false);
+            });
+        window->newOmtProject(DtFilename(program.bytes(program.path("models/boats.qxproj"))));
+        window->loadFile(model, "");
+        window->addAllObjectInteractions();
+        window->setOutputDirectory(program.path("out/"));
+        window->generateAllFiles();
+    }
+    static QStringList sourcesOf(const DtStagedOutput& output, bool isDis)
+    {
+        const QRegularExpression other(isDis ? "HLA\\.cxx$" : "(DIS|Pdu|hornInter)\\.cxx$");
+        QStringList sources;
+        for (const QString& file : output.files(".*\\.cxx"))
+            if (!other.match(file).hasMatch())
+                sources += file;
+        return sources;
+    }
+    static QStringList optionsOf(bool isDis)
+    {
+        return isDis ? QStringList{"-std=c++11", "-DQX_DIS"} : QStringList{"-std=c++11"};
+    }
+    // The toolkit, compiled once.
+    static QStringList toolkitObjects()
+    {
+        static const QTemporaryDir theDirectory;
+        static const DtProgramRun theRun =
+            runProgram(theDirectory.path(), "g++",
+                       QStringList{"-c", "-std=c++11", "-I" QX_SOURCE_DIR "/toolkit/include"} + toolkitSources());
+        QStringList objects;
+        for (const QFileInfo& file : QDir(theDirectory.path()).entryInfoList({"*.o"}))
+            objects += file.filePath();
+        return objects;
     }
 };
 

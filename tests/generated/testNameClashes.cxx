@@ -87,6 +87,8 @@ private Q_SLOTS:
     void hyphensAndSmallLettersNameTypes();
     void wordsOfTheLanguageAndEmptyClassesCompile();
     void discriminantThatSelectsNothingIsTold();
+    void membersMayBeCalledLikeWhatTheClassesHold();
+    void truthValuesNameATypeAsDiscriminants();
 };
 
 void TestNameClashes::enumeratorsThatAreCalledAlikeAreTold()
@@ -210,6 +212,96 @@ void TestNameClashes::discriminantThatSelectsNothingIsTold()
                           "A number of 32 bits stands for it."});
     const QString errors = compileErrors(output);
     QVERIFY2(errors.isEmpty(), qPrintable(errors));
+}
+
+void TestNameClashes::membersMayBeCalledLikeWhatTheClassesHold()
+{
+    QByteArray alternatives;
+    QByteArray enumerators = "<name>Kind</name><representation>HLAoctet</representation>";
+    int number = 0;
+    for (const char* name : {"places_",
+                             "kind_",
+                             "discriminantForm_",
+                             "alternativeBoundary_",
+                             "select_",
+                             "selector_",
+                             "places",
+                             "placeOf",
+                             "select",
+                             "selected",
+                             "selector",
+                             "discriminant",
+                             "formOf",
+                             "coding",
+                             "own",
+                             "encode",
+                             "decode",
+                             "netSize",
+                             "octetBoundary",
+                             "A",
+                             "myA",
+                             "setB",
+                             "value"})
+    {
+        const QByteArray kind = QByteArray("e") + QByteArray::number(number);
+        enumerators +=
+            "<enumerator><name>" + kind + "</name><value>" + QByteArray::number(number++) + "</value></enumerator>";
+        alternatives += "<alternative><enumerator>" + kind + "</enumerator><name>" + name +
+                        "</name><dataType>HLAinteger16BE</dataType></alternative>";
+    }
+    const DtStagedOutput output(
+        model(objectClass("Buoy", attribute("One", "Part") + attribute("Two", "Frame")), "",
+              enumerations("<enumeratedData>" + enumerators + "</enumeratedData>") +
+                  records(record("Frame",
+                                 {
+                                     {"A",   "HLAoctet"},
+                                     {"myA", "HLAoctet"},
+                                     {"own", "HLAoctet"}
+    })) +
+                  "<variantRecordDataTypes><variantRecordData><name>Part</name><discriminant>Which</discriminant>"
+                  "<dataType>Kind</dataType>" +
+                  alternatives + "<encoding>HLAvariantRecord</encoding></variantRecordData></variantRecordDataTypes>"));
+    compareLines(output, {});
+    const QString run = output.path() + "/members";
+    const QString errors = output.compile(output.files("DataTypes/.*\\.cxx"), R"(
+int main()
+{
+    DtPart part;
+    part.setKind_(0x0102);
+    DtWireWriter writer;
+    part.encode(writer);
+    if (writer.bytes() != std::vector<DtU8>({1, 0, 1, 2}))
+        return 1;
+    DtPart seen;
+    DtWireReader reader(writer.data(), writer.size());
+    if (!seen.decode(reader) || !(seen == part) || seen.kind_() != 0x0102 || seen.selected<int>() != 1)
+        return 2;
+    part.setMyA(5);
+    DtFrame frame;
+    frame.setMyA(3);
+    return part.selected<int>() == 20 && part.a() == 0 && frame.a() == 0 && frame.myA() == 3 ? 0 : 3;
+}
+)",
+                                          {"-std=c++11"}, run);
+    QVERIFY2(errors.isEmpty(), qPrintable(errors));
+    QCOMPARE(runProgram(output.path(), run, {}).exitCode, 0);
+}
+
+// Where the project maps them to bool; else the class of the enumeration has the name.
+void TestNameClashes::truthValuesNameATypeAsDiscriminants()
+{
+    const char names[] = "static_assert(std::is_same<DtHLAboolean, bool>::value, \"\");\n"
+                         "static_assert(std::is_same<DtRPRboolean, bool>::value, \"\");\n"
+                         "static_assert(std::is_same<DtOMT13boolean, bool>::value, \"\");\n";
+    const QByteArray text = model(objectClass("Buoy", attribute("One", "RPRboolean")), "",
+                                  enumerations(enumeration("RPRboolean", "HLAoctet", {"False", "True"})));
+    const DtStagedOutput mapped(text);
+    const QString errors = compileErrors(mapped, names);
+    QVERIFY2(errors.isEmpty(), qPrintable(errors));
+    const DtStagedOutput unmapped(text, "RPRboolean");
+    const QString further = compileErrors(unmapped, "static_assert(std::is_enum<DtRPRboolean>::value, \"\");\n"
+                                                    "static_assert(std::is_same<DtHLAboolean, bool>::value, \"\");\n");
+    QVERIFY2(further.isEmpty(), qPrintable(further));
 }
 
 QX_REGISTER_TEST(TestNameClashes)

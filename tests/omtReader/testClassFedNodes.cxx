@@ -138,6 +138,7 @@ private Q_SLOTS:
         QVERIFY(root->findChildObject("Base") == nullptr);
         QVERIFY(root->findChildObject("ObjectRoot.Bas") == nullptr);
         QVERIFY(root->findChildObject("") == nullptr);
+        QVERIFY(root->findChildObject(nullptr) == nullptr);
     }
 
     void pathOneCharacterLongerLeadsOnlyToAChildWithoutName()

@@ -405,6 +405,25 @@ private Q_SLOTS:
         QCOMPARE(toQt(reader.getLastError()), QString("Failed to process object model"));
     }
 
+    void listOfAnotherTypeThanToldCannotBeMerged()
+    {
+        const auto names = write({module("m"), "<objectModel/>"});
+        const std::pair<DtFilename, DtFomType> rows[] = {
+            {names[0], DtFomOmt13  },
+            {names[0], DtFom1516   },
+            {names[0], DtFomType(7)},
+            {names[0], DtFomHla4   },
+            {names[1], DtFomOmt13  },
+            {names[1], DtFomEvolved},
+        };
+        for (const auto& [name, type] : rows)
+        {
+            DtXMLFileReader reader;
+            QVERIFY(reader.readFiles({name}, type, nullptr) == nullptr);
+            QCOMPARE(toQt(reader.getLastError()), QString("FOM file does not match expected type\n"));
+        }
+    }
+
     void file1516IsReadWithoutTheStandardModel()
     {
         write({"<objectModel name=\"m\"/>"});

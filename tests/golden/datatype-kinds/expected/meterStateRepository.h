@@ -8,25 +8,39 @@
 #include <qx/valueTypes.h>
  
 #include "DataTypes/caseEnums.h"
-#if __has_include("DataTypes/unsigned16LE.h")
+#ifndef __has_include
+#include "DataTypes/unsigned16LE.h"
+#elif __has_include("DataTypes/unsigned16LE.h")
 #include "DataTypes/unsigned16LE.h"
 #endif
-#if __has_include("DataTypes/hours.h")
+#ifndef __has_include
+#include "DataTypes/hours.h"
+#elif __has_include("DataTypes/hours.h")
 #include "DataTypes/hours.h"
 #endif
-#if __has_include("DataTypes/row.h")
+#ifndef __has_include
+#include "DataTypes/row.h"
+#elif __has_include("DataTypes/row.h")
 #include "DataTypes/row.h"
 #endif
-#if __has_include("DataTypes/notes.h")
+#ifndef __has_include
+#include "DataTypes/notes.h"
+#elif __has_include("DataTypes/notes.h")
 #include "DataTypes/notes.h"
 #endif
-#if __has_include("DataTypes/history.h")
+#ifndef __has_include
+#include "DataTypes/history.h"
+#elif __has_include("DataTypes/history.h")
 #include "DataTypes/history.h"
 #endif
-#if __has_include("DataTypes/reading.h")
+#ifndef __has_include
+#include "DataTypes/reading.h"
+#elif __has_include("DataTypes/reading.h")
 #include "DataTypes/reading.h"
 #endif
-#if __has_include("DataTypes/content.h")
+#ifndef __has_include
+#include "DataTypes/content.h"
+#elif __has_include("DataTypes/content.h")
 #include "DataTypes/content.h"
 #endif
 #include "dllExport.h"

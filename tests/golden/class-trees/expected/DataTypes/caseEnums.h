@@ -10,4 +10,15 @@
  
 #include "dllExport.h"
  
+// What the predefined truth values are called as discriminants; the class of one that the run makes goes first.
+#ifndef DT_DLL_CASE_DtHLAboolean
+typedef bool DtHLAboolean;
+#endif
+#ifndef DT_DLL_CASE_DtRPRboolean
+typedef bool DtRPRboolean;
+#endif
+#ifndef DT_DLL_CASE_DtOMT13boolean
+typedef bool DtOMT13boolean;
+#endif
+ 
 #endif

@@ -2,24 +2,21 @@
  
 #include "DataTypes/content.h"
 
-DtContent::DtContent()
-    : selector_()
-    , myIdle()
-    , myBusy()
+DtContent::DtContent() : Own()
 {
 }
  
 // Alternatives that are not selected do not count.
 bool DtContent::operator==(const DtContent& other) const
 {
-    if (selector_ != other.selector_)
+    if (Own.selector != other.Own.selector)
         return false;
     switch (selected<int>())
     {
     case 0:
-        return myIdle == other.myIdle;
+        return Own.myIdle == other.Own.myIdle;
     case 1:
-        return myBusy == other.myBusy;
+        return Own.myBusy == other.Own.myBusy;
     default:
         return true;
     }
@@ -32,38 +29,42 @@ bool DtContent::operator!=(const DtContent& other) const
  
 void DtContent::encode(DtWireWriter& writer) const
 {
-    static const unsigned int theBoundary = alternativeBoundary_(nullptr);
+    static const unsigned int theBoundary = Coding::alternativeBoundary(nullptr);
     static_cast<void>(theBoundary); // a record may have no alternatives
     const DtRecordScope<DtWireWriter> scope(writer);
-    DtEncodeValue(writer, selector_, discriminantForm_());
+    DtEncodeValue(writer, Own.selector, Coding::discriminantForm());
     switch (selected<int>())
     {
     case 0:
-        return DtEncodeAlternative(writer, myIdle, formOf(0), kind_(), theBoundary);
+        return DtEncodeAlternative(
+            writer, Own.myIdle, Coding::formOf(0), Coding::kind(), theBoundary);
     case 1:
-        return DtEncodeAlternative(writer, myBusy, formOf(1), kind_(), theBoundary);
+        return DtEncodeAlternative(
+            writer, Own.myBusy, Coding::formOf(1), Coding::kind(), theBoundary);
     default:
-        return DtEncodeNoAlternative(writer, kind_());
+        return DtEncodeNoAlternative(writer, Coding::kind());
     }
 }
  
 bool DtContent::decode(DtWireReader& reader)
 {
-    static const unsigned int theBoundary = alternativeBoundary_(nullptr);
+    static const unsigned int theBoundary = Coding::alternativeBoundary(nullptr);
     static_cast<void>(theBoundary); // a record may have no alternatives
     const DtRecordScope<DtWireReader> scope(reader);
     DtContent taken(*this);
-    bool done = DtDecodeValue(reader, taken.selector_, discriminantForm_());
+    bool done = DtDecodeValue(reader, taken.Own.selector, Coding::discriminantForm());
     switch (done ? taken.selected<int>() : -1)
     {
     case 0:
-        done = DtDecodeAlternative(reader, taken.myIdle, formOf(0), kind_(), theBoundary);
+        done = DtDecodeAlternative(
+            reader, taken.Own.myIdle, Coding::formOf(0), Coding::kind(), theBoundary);
         break;
     case 1:
-        done = DtDecodeAlternative(reader, taken.myBusy, formOf(1), kind_(), theBoundary);
+        done = DtDecodeAlternative(
+            reader, taken.Own.myBusy, Coding::formOf(1), Coding::kind(), theBoundary);
         break;
     default:
-        done = done && DtDecodeNoAlternative(reader, kind_());
+        done = done && DtDecodeNoAlternative(reader, Coding::kind());
     }
     if (done)
         *this = taken;
@@ -72,11 +73,12 @@ bool DtContent::decode(DtWireReader& reader)
  
 unsigned int DtContent::octetBoundary(const DtWireTrail* outer)
 {
-    return DtVariantBoundary(kind_(), DtBoundaryOfType<Discriminant>(discriminantForm_()), alternativeBoundary_(outer));
+    const unsigned int ofDiscriminant = DtBoundaryOfType<Discriminant>(Coding::discriminantForm());
+    return DtVariantBoundary(Coding::kind(), ofDiscriminant, Coding::alternativeBoundary(outer));
 }
  
 // Whatever alternative is selected, it starts where the one with the largest boundary would.
-unsigned int DtContent::alternativeBoundary_(const DtWireTrail* outer)
+unsigned int DtContent::Coding::alternativeBoundary(const DtWireTrail* outer)
 {
     static const char theId = 0;
     unsigned int boundary = 1;
@@ -89,7 +91,7 @@ unsigned int DtContent::alternativeBoundary_(const DtWireTrail* outer)
     return boundary;
 }
  
-const DtAlternativeTable& DtContent::places_()
+const DtAlternativeTable& DtContent::Coding::places()
 {
     static const DtAlternativeTable theTable(
         DtNamesOfType<Discriminant>(),
@@ -103,25 +105,30 @@ const DtAlternativeTable& DtContent::places_()
     return theTable;
 }
  
-void DtContent::select_(unsigned int alternative)
+int DtContent::placeOf(const Discriminant& selector)
 {
-    const DtInt64 present = DtNumberOfDiscriminant(selector_);
-    selector_ = static_cast<Discriminant>(places_().valueOf(alternative, present));
+    return Coding::places().find(DtNumberOfDiscriminant(selector));
+}
+ 
+void DtContent::select(unsigned int alternative)
+{
+    const DtInt64 present = DtNumberOfDiscriminant(Own.selector);
+    Own.selector = static_cast<Discriminant>(Coding::places().valueOf(alternative, present));
 }
  
 // Discriminant: Kind.
-DtWireForm DtContent::discriminantForm_()
+DtWireForm DtContent::Coding::discriminantForm()
 {
     return DtWireForm("State8", "HLAoctet", R"qx(HLAvariableArray)qx",
         -1, 1, 0);
 }
  
-DtVariantKind DtContent::kind_()
+DtVariantKind DtContent::Coding::kind()
 {
     return DtVariantKindOf("HLAvariantRecord");
 }
  
-DtWireForm DtContent::formOf(unsigned int alternative)
+DtWireForm DtContent::Coding::formOf(unsigned int alternative)
 {
     static const DtWireForm theForms[] = {
         DtWireForm("Hours", "Unsigned16LE", R"qx(HLAvariableArray)qx",

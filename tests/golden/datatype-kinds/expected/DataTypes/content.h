@@ -8,10 +8,14 @@
  
 #include "dllExport.h"
 #include "DataTypes/caseEnums.h"
-#if __has_include("DataTypes/hours.h")
+#ifndef __has_include
+#include "DataTypes/hours.h"
+#elif __has_include("DataTypes/hours.h")
 #include "DataTypes/hours.h"
 #endif
-#if __has_include("DataTypes/reading.h")
+#ifndef __has_include
+#include "DataTypes/reading.h"
+#elif __has_include("DataTypes/reading.h")
 #include "DataTypes/reading.h"
 #endif
 
@@ -30,31 +34,31 @@ public:
     template <class Result = Discriminant>
     Result discriminant() const
     {
-        return selector_;
+        return Own.selector;
     }
     template <class Value>
     void setDiscriminant(Value value)
     {
-        selector_ = value;
+        Own.selector = value;
     }
     // The place of the selected alternative among those that have a value, from 0; -1 when none is selected.
     template <class Result = int>
     Result selected() const
     {
-        return places_().find(DtNumberOfDiscriminant(selector_));
+        return placeOf(Own.selector);
     }
  
-    const DtHours& idle() const { return myIdle; }
+    const DtHours& idle() const { return Own.myIdle; }
     void setIdle(const DtHours& value)
     {
-        myIdle = value;
-        select_(0);
+        Own.myIdle = value;
+        select(0);
     }
-    const DtReading& busy() const { return myBusy; }
+    const DtReading& busy() const { return Own.myBusy; }
     void setBusy(const DtReading& value)
     {
-        myBusy = value;
-        select_(1);
+        Own.myBusy = value;
+        select(1);
     }
 
     void encode(DtWireWriter& writer) const;
@@ -74,17 +78,28 @@ public:
     static unsigned int octetBoundary(const DtWireTrail* outer);
  
 private:
-    // Names that end in _ cannot be those of an alternative.
-    static const DtAlternativeTable& places_();
-    static DtWireForm formOf(unsigned int alternative);
-    static DtWireForm discriminantForm_();
-    static DtVariantKind kind_();
-    static unsigned int alternativeBoundary_(const DtWireTrail* outer);
-    void select_(unsigned int alternative);
+    // How the record is coded. No accessor is called like this: the second letter would be a capital too.
+    struct Coding
+    {
+        static const DtAlternativeTable& places();
+        static DtVariantKind kind();
+        static DtWireForm discriminantForm();
+        static DtWireForm formOf(unsigned int alternative);
+        static unsigned int alternativeBoundary(const DtWireTrail* outer);
+    };
  
-    Discriminant selector_;
-    DtHours myIdle;
-    DtReading myBusy;
+    static int placeOf(const Discriminant& selector);
+    void select(unsigned int alternative);
+ 
+    // The values stand in a structure of their own, where no accessor can share their names.
+    struct OwnValues
+    {
+        Discriminant selector;
+        DtHours myIdle;
+        DtReading myBusy;
+    };
+ 
+    OwnValues Own;
 };
  
 #endif

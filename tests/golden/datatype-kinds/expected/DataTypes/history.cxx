@@ -1,7 +1,9 @@
 // Generated from case; the next generation writes it anew.
  
 #include "DataTypes/history.h"
-#if __has_include("DataTypes/reading.h")
+#ifndef __has_include
+#include "DataTypes/reading.h"
+#elif __has_include("DataTypes/reading.h")
 #include "DataTypes/reading.h"
 #endif
 

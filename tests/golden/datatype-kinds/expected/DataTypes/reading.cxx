@@ -2,18 +2,16 @@
  
 #include "DataTypes/reading.h"
 
-DtReading::DtReading()
-    : myAt()
-    , myState()
+DtReading::DtReading() : Own()
 {
 }
  
 bool DtReading::operator==(const DtReading& other) const
 {
     static_cast<void>(other); // a record may have no fields
-    if (!(myAt == other.myAt))
+    if (!(Own.myAt == other.Own.myAt))
         return false;
-    if (!(myState == other.myState))
+    if (!(Own.myState == other.Own.myState))
         return false;
     return true;
 }
@@ -26,17 +24,17 @@ bool DtReading::operator!=(const DtReading& other) const
 void DtReading::encode(DtWireWriter& writer) const
 {
     const DtRecordScope<DtWireWriter> scope(writer);
-    DtEncodeValue(writer, myAt, formOf(0));
-    DtEncodeValue(writer, myState, formOf(1));
+    DtEncodeValue(writer, Own.myAt, formOf(0));
+    DtEncodeValue(writer, Own.myState, formOf(1));
 }
  
 bool DtReading::decode(DtWireReader& reader)
 {
     const DtRecordScope<DtWireReader> scope(reader);
     DtReading taken(*this);
-    if (!DtDecodeValue(reader, taken.myAt, formOf(0)))
+    if (!DtDecodeValue(reader, taken.Own.myAt, formOf(0)))
         return false;
-    if (!DtDecodeValue(reader, taken.myState, formOf(1)))
+    if (!DtDecodeValue(reader, taken.Own.myState, formOf(1)))
         return false;
     *this = taken;
     return reader.ok();

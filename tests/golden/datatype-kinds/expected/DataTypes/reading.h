@@ -8,7 +8,9 @@
  
 #include "dllExport.h"
 #include "DataTypes/caseEnums.h"
-#if __has_include("DataTypes/hours.h")
+#ifndef __has_include
+#include "DataTypes/hours.h"
+#elif __has_include("DataTypes/hours.h")
 #include "DataTypes/hours.h"
 #endif
 
@@ -20,10 +22,10 @@ public:
     bool operator==(const DtReading& other) const;
     bool operator!=(const DtReading& other) const;
  
-    const DtHours& at() const { return myAt; }
-    void setAt(const DtHours& value) { myAt = value; }
-    const DtState8& state() const { return myState; }
-    void setState(const DtState8& value) { myState = value; }
+    const DtHours& at() const { return Own.myAt; }
+    void setAt(const DtHours& value) { Own.myAt = value; }
+    const DtState8& state() const { return Own.myState; }
+    void setState(const DtState8& value) { Own.myState = value; }
 
     void encode(DtWireWriter& writer) const;
     // False: the octets are no such record, and this one is as it was.
@@ -44,8 +46,14 @@ public:
 private:
     static DtWireForm formOf(unsigned int field);
  
-    DtHours myAt;
-    DtState8 myState;
+    // The values stand in a structure of their own, where no accessor can share their names.
+    struct OwnValues
+    {
+        DtHours myAt;
+        DtState8 myState;
+    };
+ 
+    OwnValues Own;
 };
  
 #endif

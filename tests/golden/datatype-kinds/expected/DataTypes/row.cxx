@@ -1,7 +1,9 @@
 // Generated from case; the next generation writes it anew.
  
 #include "DataTypes/row.h"
-#if __has_include("DataTypes/hours.h")
+#ifndef __has_include
+#include "DataTypes/hours.h"
+#elif __has_include("DataTypes/hours.h")
 #include "DataTypes/hours.h"
 #endif
 

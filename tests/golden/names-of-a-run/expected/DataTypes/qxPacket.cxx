@@ -7,18 +7,16 @@
 namespace garden
 {
  
-DtQxPacket::DtQxPacket()
-    : myFront()
-    , myBack()
+DtQxPacket::DtQxPacket() : Own()
 {
 }
  
 bool DtQxPacket::operator==(const DtQxPacket& other) const
 {
     static_cast<void>(other); // a record may have no fields
-    if (!(myFront == other.myFront))
+    if (!(Own.myFront == other.Own.myFront))
         return false;
-    if (!(myBack == other.myBack))
+    if (!(Own.myBack == other.Own.myBack))
         return false;
     return true;
 }

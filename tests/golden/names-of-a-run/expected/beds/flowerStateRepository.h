@@ -8,7 +8,9 @@
 #include <qx/valueTypes.h>
  
 #include "DataTypes/caseEnums.h"
-#if __has_include("DataTypes/qxPacket.h")
+#ifndef __has_include
+#include "DataTypes/qxPacket.h"
+#elif __has_include("DataTypes/qxPacket.h")
 #include "DataTypes/qxPacket.h"
 #endif
 #include "dllExport.h"

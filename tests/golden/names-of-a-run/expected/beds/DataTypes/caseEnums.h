@@ -13,6 +13,17 @@
 namespace garden
 {
  
+// What the predefined truth values are called as discriminants; the class of one that the run makes goes first.
+#ifndef DT_DLL_CASE_DtHLAboolean
+typedef bool DtHLAboolean;
+#endif
+#ifndef DT_DLL_CASE_DtRPRboolean
+typedef bool DtRPRboolean;
+#endif
+#ifndef DT_DLL_CASE_DtOMT13boolean
+typedef bool DtOMT13boolean;
+#endif
+ 
 enum class DtColour8 : DtInt64
 {
     eRed = 0,

@@ -8,7 +8,9 @@
  
 #include "dllExport.h"
 #include "DataTypes/caseEnums.h"
-#if __has_include("DataTypes/qxSeeds.h")
+#ifndef __has_include
+#include "DataTypes/qxSeeds.h"
+#elif __has_include("DataTypes/qxSeeds.h")
 #include "DataTypes/qxSeeds.h"
 #endif
 
@@ -23,10 +25,10 @@ public:
     bool operator==(const DtQxPacket& other) const;
     bool operator!=(const DtQxPacket& other) const;
  
-    const DtQxSeeds& front() const { return myFront; }
-    void setFront(const DtQxSeeds& value) { myFront = value; }
-    const DtQxSeeds& back() const { return myBack; }
-    void setBack(const DtQxSeeds& value) { myBack = value; }
+    const DtQxSeeds& front() const { return Own.myFront; }
+    void setFront(const DtQxSeeds& value) { Own.myFront = value; }
+    const DtQxSeeds& back() const { return Own.myBack; }
+    void setBack(const DtQxSeeds& value) { Own.myBack = value; }
 
     void encode(DtWireWriter& writer) const;
     // False: the octets are no such record, and this one is as it was.
@@ -47,8 +49,14 @@ public:
 private:
     static DtWireForm formOf(unsigned int field);
  
-    DtQxSeeds myFront;
-    DtQxSeeds myBack;
+    // The values stand in a structure of their own, where no accessor can share their names.
+    struct OwnValues
+    {
+        DtQxSeeds myFront;
+        DtQxSeeds myBack;
+    };
+ 
+    OwnValues Own;
 };
  
 } // namespace garden

@@ -91,7 +91,8 @@ Options readOptions(const QString& file)
 
 QString unknownOptions(const Options& options)
 {
-    static const QStringList theKeys = {"generate64Bit", "generateErrors", "include", "mim", "namespace", "prefix"};
+    static const QStringList theKeys = {"dis", "generate64Bit", "generateErrors", "include",
+                                        "mim", "model", "namespace", "prefix"};
     QStringList unknown;
     for (const auto& [key, value] : options)
         if (!theKeys.contains(key))
@@ -108,6 +109,7 @@ void setPreferences(DtCodeGenAppGui& window, const Options& options)
         if (found != options.end())
             window.preferences()->findChild<QCheckBox*>(box)->setChecked(found->second == "on");
     };
+    check("dis", "myGenerateDis");
     check("generate64Bit", "myGenerate64Bit");
     check("generateErrors", "myGenerateErrors");
     check("mim", "myIncludeStandardMIM");
@@ -119,10 +121,14 @@ void setPreferences(DtCodeGenAppGui& window, const Options& options)
     window.preferences()->okButtonPressed();
 }
 
-// All models of the case, in the order of their names; they lie where the project is written.
-std::vector<DtCodeGenAppGui::DtModelFile> copyModels(const DtScratchProgram& program, const QString& caseDirectory)
+// All models of the case, in the order of their names, or the one that the options name; they lie where the project is
+// written.
+std::vector<DtCodeGenAppGui::DtModelFile> copyModels(const DtScratchProgram& program, const QString& caseDirectory,
+                                                     const Options& options)
 {
     std::vector<DtCodeGenAppGui::DtModelFile> models;
+    if (options.count("model") > 0)
+        models.emplace_back(program.copiedModel(QStringLiteral(QX_SOURCE_DIR "/") + options.at("model")), "");
     for (const QString& name : QDir(caseDirectory).entryList({"*.xml"}, QDir::Files, QDir::Name))
         models.emplace_back(program.copiedModel(caseDirectory + "/" + name), "");
     return models;
@@ -131,7 +137,7 @@ std::vector<DtCodeGenAppGui::DtModelFile> copyModels(const DtScratchProgram& pro
 // False when the models could not be read.
 bool generate(DtScratchProgram& program, const QString& caseDirectory, const Options& options)
 {
-    const auto models = copyModels(program, caseDirectory);
+    const auto models = copyModels(program, caseDirectory, options);
     const auto window = program.makeWindow();
     setPreferences(*window, options);
     window->newOmtProject(DtFilename(program.bytes(program.path("models/case.qxproj"))));

@@ -1,0 +1,60 @@
+#ifndef DT_DLL_CASE_DtTideMark_H
+#define DT_DLL_CASE_DtTideMark_H
+ 
+// Generated from case; the next generation writes it anew.
+ 
+#include <qx/opaqueValue.h>
+#include <qx/wireFormat.h>
+ 
+#include "dllExport.h"
+#include "DataTypes/caseEnums.h"
+#ifndef __has_include
+#include "DataTypes/clockTime.h"
+#elif __has_include("DataTypes/clockTime.h")
+#include "DataTypes/clockTime.h"
+#endif
+
+// A fixed record. Its own operations take an argument or are templates, so that a field may bear any name.
+class DT_DLL_CASE DtTideMark
+{
+public:
+    DtTideMark();
+    bool operator==(const DtTideMark& other) const;
+    bool operator!=(const DtTideMark& other) const;
+ 
+    const DtClockTime& at() const { return Own.myAt; }
+    void setAt(const DtClockTime& value) { Own.myAt = value; }
+    const DtInt16& level() const { return Own.myLevel; }
+    void setLevel(const DtInt16& value) { Own.myLevel = value; }
+
+    void encode(DtWireWriter& writer) const;
+    // False: the octets are no such record, and this one is as it was.
+    bool decode(DtWireReader& reader);
+    // Octets on the wire, from an offset of 0.
+    template <class Size = unsigned int>
+    Size netSize() const
+    {
+        return DtNetSizeOf(*this);
+    }
+    template <class Size = unsigned int>
+    static Size octetBoundary()
+    {
+        return octetBoundary(static_cast<const DtWireTrail*>(nullptr));
+    }
+    static unsigned int octetBoundary(const DtWireTrail* outer);
+ 
+private:
+    static DtWireForm formOf(unsigned int field);
+ 
+    // The values stand in a structure of their own, where no accessor can share their names.
+    struct OwnValues
+    {
+        DtClockTime myAt;
+        DtInt16 myLevel;
+    };
+ 
+    OwnValues Own;
+};
+ 
+#endif
+

@@ -1,0 +1,73 @@
+// Generated from case; the next generation writes it anew.
+//
+// Publishes one Vessel, changes its values round by round and removes it.
+//
+//     talk [port] [rounds]
+//
+// A round takes half a second. Start listen with the same port to see what comes.
+ 
+#ifdef QX_DIS
+#include "vesselPublisherDIS.h"
+#else
+#include "vesselPublisherHLA.h"
+#endif
+ 
+#include <qx/exerciseConn.h>
+#include <qx/valueText.h>
+ 
+#include <chrono>
+#include <cstdlib>
+#include <iostream>
+#include <string>
+#include <thread>
+ 
+namespace
+{
+typedef DtVesselStateRepository Target;
+ 
+// Gives every value that has a simple form another one in each round. Structures and arrays go out as they start.
+void setValues(Target& target, std::size_t round)
+{
+    (void)target; // in case that nothing below needs them
+    (void)round;
+    target.setSpeed(static_cast<Target::ValueOfSpeed>(7.02 + static_cast<double>(round)));
+    target.setHeading__True(static_cast<Target::ValueOfHeading__True>(7.02 + static_cast<double>(round)));
+    target.setState(DtEnumeratorInTurn<Target::ValueOfState>(round));
+    target.setTheClass("_class " + std::to_string(round));
+    target.setTheInt(static_cast<Target::ValueOfTheInt>(32 + round));
+    target.setTheTemplate(DtEnumeratorInTurn<Target::ValueOfTheTemplate>(round));
+    target.setCrew(target.crew());
+}
+
+} // namespace
+ 
+int main(int argc, char* argv[])
+{
+    const int port = argc > 1 ? std::atoi(argv[1]) : 17000;
+    const std::size_t rounds = argc > 2 ? std::strtoul(argv[2], nullptr, 10) : 10;
+ 
+    // The connection takes the first of sixteen ports that is free.
+    DtExerciseConn exerciseConn("case", static_cast<unsigned short>(port));
+    if (exerciseConn.port() == 0)
+    {
+        std::cerr << "talk: none of the ports from " << port << " on is free" << std::endl;
+        return 1;
+    }
+ 
+    // The object is there from here on. Others learn of it, and of its values, whenever they come.
+    DtVesselPublisher publisher(&exerciseConn, "A Vessel");
+    for (std::size_t round = 0; round < rounds; ++round)
+    {
+        setValues(*publisher.vesselStateRep(), round);
+        if (!publisher.tick()) // sends what was set since the last time
+        {
+            for (const std::string& name : publisher.refused())
+            {
+                std::cerr << "talk: " << name << " could not be sent" << std::endl;
+            }
+        }
+        std::this_thread::sleep_for(std::chrono::milliseconds(500));
+        exerciseConn.drainInput(); // answers those who have come
+    }
+    return 0; // and the publisher removes the object
+}

@@ -1,0 +1,72 @@
+// Generated from case; the next generation writes it anew.
+//
+// Publishes one Weather, changes its values round by round and removes it.
+//
+//     talk [port] [rounds]
+//
+// A round takes half a second. Start listen with the same port to see what comes.
+ 
+#ifdef QX_DIS
+#include "weatherPublisherDIS.h"
+#else
+#include "weatherPublisherHLA.h"
+#endif
+ 
+#include <qx/exerciseConn.h>
+#include <qx/valueText.h>
+ 
+#include <chrono>
+#include <cstdlib>
+#include <iostream>
+#include <string>
+#include <thread>
+ 
+namespace
+{
+typedef DtWeatherStateRepository Target;
+ 
+// Gives every value that has a simple form another one in each round. Structures and arrays go out as they start.
+void setValues(Target& target, std::size_t round)
+{
+    (void)target; // in case that nothing below needs them
+    (void)round;
+    target.setWind(target.wind());
+    target.setReport(target.report());
+    target.setSamples(target.samples());
+    target.setCodes(target.codes());
+    target.setTide(target.tide());
+    target.setTrace(target.trace());
+}
+
+} // namespace
+ 
+int main(int argc, char* argv[])
+{
+    const int port = argc > 1 ? std::atoi(argv[1]) : 17000;
+    const std::size_t rounds = argc > 2 ? std::strtoul(argv[2], nullptr, 10) : 10;
+ 
+    // The connection takes the first of sixteen ports that is free.
+    DtExerciseConn exerciseConn("case", static_cast<unsigned short>(port));
+    if (exerciseConn.port() == 0)
+    {
+        std::cerr << "talk: none of the ports from " << port << " on is free" << std::endl;
+        return 1;
+    }
+ 
+    // The object is there from here on. Others learn of it, and of its values, whenever they come.
+    DtWeatherPublisher publisher(&exerciseConn, "A Weather");
+    for (std::size_t round = 0; round < rounds; ++round)
+    {
+        setValues(*publisher.weatherStateRep(), round);
+        if (!publisher.tick()) // sends what was set since the last time
+        {
+            for (const std::string& name : publisher.refused())
+            {
+                std::cerr << "talk: " << name << " could not be sent" << std::endl;
+            }
+        }
+        std::this_thread::sleep_for(std::chrono::milliseconds(500));
+        exerciseConn.drainInput(); // answers those who have come
+    }
+    return 0; // and the publisher removes the object
+}

@@ -1,0 +1,13 @@
+#ifndef DT_DLL_CASE_DtBerthPublisher_FRONT_H
+#define DT_DLL_CASE_DtBerthPublisher_FRONT_H
+ 
+// Generated from case; the next generation writes it anew.
+ 
+// The publisher of the protocol that the program is built for: with QX_DIS defined that of DIS, else that of HLA.
+ 
+#ifdef QX_DIS
+#include "berthPublisherDIS.h"
+#else
+#include "berthPublisherHLA.h"
+#endif
+#endif

@@ -1,0 +1,13 @@
+#ifndef DT_DLL_CASE_DtReflectedBeacon_FRONT_H
+#define DT_DLL_CASE_DtReflectedBeacon_FRONT_H
+ 
+// Generated from case; the next generation writes it anew.
+ 
+// The reflected object of the protocol that the program is built for: with QX_DIS defined that of DIS, else that of HLA.
+ 
+#ifdef QX_DIS
+#include "reflectedBeaconDIS.h"
+#else
+#include "reflectedBeaconHLA.h"
+#endif
+#endif

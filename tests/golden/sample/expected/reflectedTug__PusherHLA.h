@@ -1,0 +1,27 @@
+#ifndef DT_DLL_CASE_DtReflectedTug__Pusher_H
+#define DT_DLL_CASE_DtReflectedTug__Pusher_H
+ 
+// Generated from case; the next generation writes it anew.
+ 
+#include <qx/hlaReflectedObject.h>
+ 
+#include "tug__PusherStateRepository.h"
+#include "dllExport.h"
+ 
+#include <string>
+ 
+class DtReflectedTug__Pusher;
+typedef void (*DtTug__PusherCallbackFunction)(DtReflectedTug__Pusher* object, void* user);
+ 
+// A Tug__Pusher that someone else publishes. DtReflectedTug__PusherList makes it and keeps it up to date.
+class DT_DLL_CASE DtReflectedTug__Pusher : public DtHlaReflectedObject
+{
+public:
+    DtReflectedTug__Pusher(DtExerciseObjectId id, const std::string& name);
+ 
+    // The object's state, under a long and a short name.
+    DtTug__PusherStateRepository* tug__PusherStateRep() const;
+    DtTug__PusherStateRepository* tsr() const;
+};
+
+#endif

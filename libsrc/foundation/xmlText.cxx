@@ -66,9 +66,15 @@ std::string latin1ToUtf8(const std::string& text)
 }
 } // namespace
 
+DtString DtUtf8Text(const DtString& text)
+{
+    return isUtf8(text.stdString()) ? text : DtString(latin1ToUtf8(text.stdString()));
+}
+
 DtString DtXmlText(const DtString& text)
 {
-    const std::string source = isUtf8(text.stdString()) ? text.stdString() : latin1ToUtf8(text.stdString());
+    const DtString converted = DtUtf8Text(text);
+    const std::string& source = converted.stdString();
     std::string result;
     for (std::string_view rest = source; !rest.empty();)
     {

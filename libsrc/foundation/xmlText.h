@@ -7,4 +7,7 @@
 // that XML cannot carry (most control characters, U+FFFE and U+FFFF) are left out with one warning on DtWarn.
 DtString DtXmlText(const DtString& text);
 
+// Any text in UTF-8: what is not valid UTF-8 is taken as Latin-1 and converted.
+DtString DtUtf8Text(const DtString& text);
+
 #endif

@@ -1,6 +1,7 @@
 #include "omtReader/omtFileReader.h"
 
 #include "foundation/outputStream.h"
+#include "foundation/xmlText.h"
 #include "omtReader/omtItems.h"
 #include "omtReader/omtSuperclasses.h"
 #include "omtReader/xmlDocument.h"
@@ -45,7 +46,7 @@ void setIfString(const DtlObjPtr& list, DtOMTTree& tree, DtIdentificationSetter 
 {
     const DtlObjPtr value = DtcCar(list);
     if (DtcStringp(value))
-        (tree.*setter)(value->string());
+        (tree.*setter)(DtUtf8Text(value->string()));
 }
 
 // The class that `node` names as its superclass; null when there is none.
@@ -140,7 +141,7 @@ void DtOMTFileReader::processElement(const DtlObjPtr& element, DtOMTTree& tree, 
         (this->*item->process)(DtcCdr(element), &tree);
     else if (const DtOmtContactItem* field = DtFindOmtItem(theContactItems, keyword->string()))
         if (DtcStringp(DtcCadr(element)))
-            contact.*field->field = DtcCadr(element)->string();
+            contact.*field->field = DtUtf8Text(DtcCadr(element)->string());
 }
 
 template <typename Items, typename Node>
@@ -166,7 +167,7 @@ void DtOMTFileReader::readItem(const Item& item, const DtlObjPtr& value, Node& n
     if (item.fault != nullptr && !DtcListp(value))
         fail(faultText(item.fault, node));
     if (item.target.setText != nullptr)
-        return (node.*item.target.setText)(DtcCar(value)->string());
+        return (node.*item.target.setText)(DtUtf8Text(DtcCar(value)->string()));
     if (item.target.setNumber != nullptr)
         return (node.*item.target.setNumber)(DtcCar(value)->fixnum());
     try

@@ -92,7 +92,7 @@ Options readOptions(const QString& file)
 QString unknownOptions(const Options& options)
 {
     static const QStringList theKeys = {"dis", "generate64Bit", "generateErrors", "include",
-                                        "mim", "model", "namespace", "prefix"};
+                                        "mim", "model",         "namespace",      "prefix"};
     QStringList unknown;
     for (const auto& [key, value] : options)
         if (!theKeys.contains(key))

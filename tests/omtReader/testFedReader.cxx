@@ -49,6 +49,10 @@ private Q_SLOTS:
             plainModel("<transportations><transportation>a</transportation>"
                        "</transportations>"),
             3);
+        row("transportation with a line end alone",
+            plainModel("<transportations><transportation name='a'>\n  </transportation></transportations>"), 2);
+        row("transportation with elements on lines of their own",
+            plainModel("<transportations><transportation>\n<name>a</name>\n</transportation></transportations>"), 3);
         row("reliable elsewhere", plainModel("<transportations><reliable/></transportations>"), 2);
         row("update rates", plainModel("<updateRates/>"), 3);
         row("object root",

@@ -112,6 +112,35 @@ private Q_SLOTS:
         QCOMPARE(readName(name, reader).error, QString("Failed to Open OMT File"));
     }
 
+    // Lists, projects and generated code all hold UTF-8, so a name must be the same text in all of them.
+    void textsAreTakenToUtf8_data()
+    {
+        QTest::addColumn<QByteArray>("name");
+        QTest::addColumn<QByteArray>("read");
+        QTest::newRow("Latin-1") << QByteArray("Fl\xe9"
+                                               "che")
+                                 << QByteArray("Fl\xc3\xa9"
+                                               "che");
+        QTest::newRow("UTF-8") << QByteArray("Fl\xc3\xa9"
+                                             "che")
+                               << QByteArray("Fl\xc3\xa9"
+                                             "che");
+        QTest::newRow("ASCII") << QByteArray("Fleche") << QByteArray("Fleche");
+    }
+    void textsAreTakenToUtf8()
+    {
+        QFETCH(QByteArray, name);
+        QFETCH(QByteArray, read);
+        const DtTreePointer tree =
+            readElements("(Name \"" + name + "\")(POC (LastName \"" + name + "\"))(Class (ID 1) (Name \"" + name +
+                         "\") (Attribute (Name \"" + name + "\")))");
+        QVERIFY(tree != nullptr);
+        QCOMPARE(tree->getName().c_str(), read.constData());
+        const DtObjectClassFedNode* node = *tree->getObjectClassNodeBegin();
+        QCOMPARE(node->getName().c_str(), read.constData());
+        QCOMPARE(node->getAttributes().front()->getName().c_str(), read.constData());
+    }
+
     void fileIsNotLookedForBelowRtiConfig()
     {
         QTemporaryDir directory;
@@ -492,33 +521,12 @@ private Q_SLOTS:
     // A small generator of its own makes the same texts everywhere.
     void anyMixOfTokensGivesATreeOrAText()
     {
-        const char* const tokens[] = {"(",
-                                      "(",
-                                      "(",
-                                      ")",
-                                      ")",
-                                      ")",
-                                      ".",
-                                      "\"a\"",
-                                      "12",
-                                      "(ObjectModel ",
-                                      "(Class ",
-                                      "(Name ",
-                                      "(ID 1)",
-                                      "(SuperClass 1)",
-                                      "(Attribute ",
-                                      "(DataType ",
-                                      "(Enumeration ",
-                                      "(EnumeratedDataType ",
-                                      "(ComplexDataType ",
-                                      "(ComplexComponent ",
-                                      "(Interaction ",
-                                      "(Parameter ",
-                                      "(Note ",
-                                      "\"",
-                                      ";\n",
-                                      "\\",
-                                      "eof"};
+        static const QList<QByteArray> tokens =
+            QByteArray(
+                "(|(|(|)|)|)|.|\"a\"|12|(ObjectModel |(Class |(Name |(ID 1)|(SuperClass 1)|(Attribute |(DataType |"
+                "(Enumeration |(EnumeratedDataType |(ComplexDataType |(ComplexComponent |(Interaction |"
+                "(Parameter |(Note |\"|;\n|\\|eof")
+                .split('|');
         const DtSaved<int> quiet(DtNotifyLevel, 0);
         std::uint32_t state = 1;
         for (int round = 0; round < 1000; ++round)
@@ -527,7 +535,7 @@ private Q_SLOTS:
             for (int length = 0; length < 60; ++length)
             {
                 state = state * 1664525U + 1013904223U;
-                text += tokens[(state >> 16) % std::size(tokens)];
+                text += tokens[int((state >> 16) % unsigned(tokens.size()))];
                 text += ' ';
             }
             const DtOutcome outcome = readText(text);

@@ -305,6 +305,23 @@ bool DtOMTEnvWriter::hasFiles(const DtFedNode& parent) const
            findRecord(myObjectsToGenerate, name) != nullptr || findRecord(myInteractionsToGenerate, name) != nullptr;
 }
 
+// What both kinds of classes have in common, once their generator stands.
+template <typename Members>
+void DtOMTEnvWriter::generateClass(DtFileGenerator& generator, const DtString& name, const DtFedNode* parent,
+                                   const DtString& parentName, const Members& members)
+{
+    generator.setPduKind(myNextPduKind++);
+    generator.setFullClassName(name);
+    if (parent != nullptr)
+    {
+        generator.setParentClassName(parentName);
+        warnOfParent(name, parent->getFullName(), hasFiles(*parent), parentName);
+    }
+    warnOfMemberNames(name, namesOf(members));
+    addMembers(generator, members);
+    generator.generateFiles();
+}
+
 void DtOMTEnvWriter::addObjectToFile(DtString name, std::set<DtString>& done)
 {
     if (isCancelled())
@@ -318,18 +335,10 @@ void DtOMTEnvWriter::addObjectToFile(DtString name, std::set<DtString>& done)
         return;
     DtObjectFileGenerator generator(replaceObjectName(plainName, name), myFileList, myGenerateExamples, myGenerateDis,
                                     *record, myProject != nullptr ? *myProject : DtOmtProject());
-    generator.setPduKind(myNextPduKind++);
-    generator.setFullClassName(name);
-    if (const DtFedNode* parent = node->getParentObject())
-    {
-        const DtString parentName = objectParentName(*parent);
-        generator.setParentClassName(parentName);
-        warnOfParent(name, parent->getFullName(), hasFiles(*parent), parentName);
-    }
     done.insert(name);
-    warnOfMemberNames(name, namesOf(node->getAttributes()));
-    addMembers(generator, node->getAttributes());
-    generator.generateFiles();
+    const DtFedNode* parent = node->getParentObject();
+    generateClass(generator, name, parent, parent != nullptr ? objectParentName(*parent) : DtString(),
+                  node->getAttributes());
 }
 
 void DtOMTEnvWriter::addInteractionToFile(DtString name, std::set<DtString>& done)
@@ -346,18 +355,10 @@ void DtOMTEnvWriter::addInteractionToFile(DtString name, std::set<DtString>& don
     DtInteractionFileGenerator generator(replaceInteractionName(plainName, name) + "Inter", myFileList,
                                          myGenerateExamples, myGenerateDis, *record,
                                          myProject != nullptr ? *myProject : DtOmtProject());
-    generator.setPduKind(myNextPduKind++);
-    generator.setFullClassName(name);
-    if (const DtFedNode* parent = node->getParentObject())
-    {
-        const DtString parentName = interactionParentName(*parent);
-        generator.setParentClassName(parentName);
-        warnOfParent(name, parent->getFullName(), hasFiles(*parent), parentName);
-    }
     done.insert(name);
-    warnOfMemberNames(name, namesOf(node->getParameters()));
-    addMembers(generator, node->getParameters());
-    generator.generateFiles();
+    const DtFedNode* parent = node->getParentObject();
+    generateClass(generator, name, parent, parent != nullptr ? interactionParentName(*parent) : DtString(),
+                  node->getParameters());
 }
 
 void DtOMTEnvWriter::writeProjectFiles()

@@ -18,6 +18,7 @@ class DtEnumeratedDatatypeNode;
 class DtEnumerationFileWriter;
 class DtOmtProject;
 class DtOMTTree;
+class DtFileGenerator;
 class DtHeldDatatypes;
 class DtSharedClassNames;
 
@@ -131,6 +132,9 @@ private:
     DtOMTTree& tree() const; // throws DtException when there is none
     DtString objectParentName(const DtFedNode& parent) const;
     bool hasFiles(const DtFedNode& parent) const; // of this run, or of the toolkit
+    template <typename Members>
+    void generateClass(DtFileGenerator& generator, const DtString& name, const DtFedNode* parent,
+                       const DtString& parentName, const Members& members);
     DtString interactionParentName(const DtFedNode& parent) const;
 
     // Enumerations, in omtEnvWriter.cxx.

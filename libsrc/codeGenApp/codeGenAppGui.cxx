@@ -267,10 +267,13 @@ void DtCodeGenAppGui::showAboutBox()
 void DtCodeGenAppGui::launchUpdate()
 {
     const QString page = DtDeployment::read().versionPage;
+    QStringList faults;
     if (page.isEmpty())
-        showStatus("No version page is set in ../data/config/deployment.xml.");
-    if (!QProcess::startDetached(QStringLiteral("htmlview"), {page}) && !page.isEmpty())
-        showStatus("The program htmlview could not be started.");
+        faults += QStringLiteral("No version page is set in ../data/config/deployment.xml.");
+    if (!QProcess::startDetached(QStringLiteral("htmlview"), {page}))
+        faults += QStringLiteral("The program htmlview could not be started.");
+    if (!faults.isEmpty())
+        showStatus(faults.join(QLatin1Char(' ')).toUtf8().constData());
 }
 
 void DtCodeGenAppGui::slot_showContextMenu(const QPoint& point)

@@ -315,6 +315,12 @@ private Q_SLOTS:
     {
         const DtWithEnvironment search("PATH", bytes("home").c_str());
         myWindow->launchUpdate();
+        QCOMPARE(status(),
+                 QString("No version page is set in ../data/config/deployment.xml. The program htmlview could "
+                         "not be started."));
+        writeTextFile(path("data/config/deployment.xml"),
+                      "<deployment><versionPage>https://versions.example/list</versionPage></deployment>");
+        myWindow->launchUpdate();
         QCOMPARE(status(), QString("The program htmlview could not be started."));
     }
 

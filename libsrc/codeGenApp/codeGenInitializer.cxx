@@ -226,20 +226,32 @@ void DtCodeGenInitializer::parseScripts()
     parseScripts(myDefaults);
 }
 
+namespace
+{
+// The settings of a list with the attributes that hold their values, null where there is none. Of equal names the last
+// one counts. For many look-ups at once: DtEnvironment::getObject() walks the list each time.
+std::map<DtString, std::shared_ptr<DtEnvValue>> valueNodes(const DtEnvironment& list)
+{
+    std::map<DtString, std::shared_ptr<DtEnvValue>> nodes;
+    const DtEnvObject* const root = DtEnvObject::castToObject(list.root());
+    if (root == nullptr)
+        return nodes;
+    for (const auto& child : root->children())
+    {
+        const DtEnvObject* const object = DtEnvObject::castToObject(child);
+        if (object != nullptr && object->type() == "var")
+            nodes[object->name()] = object->attribute("value");
+    }
+    return nodes;
+}
+} // namespace
+
 void DtCodeGenInitializer::parseScripts(const DtEnvironment& list)
 {
-    const DtEnvironment scripts(list.getNamedList("scripts"));
-    const DtEnvObject* const object = DtEnvObject::castToObject(scripts.root());
-    if (object == nullptr)
-        return;
-    for (const auto& child : object->children())
+    for (const auto& [name, value] : valueNodes(DtEnvironment(list.getNamedList("scripts"))))
     {
-        if (child->format() != DtEnvValue::Object)
-            continue;
-        bool isFound = false;
-        const DtString value = getVariableValue(scripts, child->name(), isFound);
-        if (isFound)
-            myScriptMap.emplace(child->name(), value.caseCompare("true"));
+        if (value != nullptr)
+            myScriptMap.emplace(name, value->value().caseCompare("true"));
     }
 }
 
@@ -255,8 +267,12 @@ void DtCodeGenInitializer::saveScripts()
     DT_ASSERT_AS(list != nullptr, "listSP != NULL", "libsrc/codeGenApp/codeGenInit", 432,
                  "void DtCodeGenInitializer::saveScripts()");
     DtEnvironment scripts(list);
+    const auto nodes = valueNodes(scripts);
     for (const auto& [name, isEnabled] : myScriptMap)
-        setVariableValue(name, textOf(isEnabled), scripts);
+    {
+        const auto node = nodes.find(name);
+        storeValue(node != nodes.end() ? node->second : nullptr, name, textOf(isEnabled), scripts);
+    }
 }
 
 DtString DtCodeGenInitializer::getVariableValue(const DtString& name) const
@@ -301,7 +317,12 @@ bool DtCodeGenInitializer::setVariableValue(const DtString& name, const DtString
 
 bool DtCodeGenInitializer::setVariableValue(const DtString& name, const DtString& value, DtEnvironment& env)
 {
-    std::shared_ptr<DtEnvValue> node = valueNode(env, name);
+    return storeValue(valueNode(env, name), name, value, env);
+}
+
+bool DtCodeGenInitializer::storeValue(std::shared_ptr<DtEnvValue> node, const DtString& name, const DtString& value,
+                                      DtEnvironment& env)
+{
     if (node == nullptr)
         node = env.addAttribute("value", "", env.addObject(name, "var", env.root()));
     if (node == nullptr)

@@ -73,6 +73,9 @@ private:
     void readNotifyLevel() const;
     bool readFlag(const DtString& name) const;
     void parseScripts(const DtEnvironment& list);
+    // Gives the setting its value; without a node for it a new setting is made at the end of the list.
+    static bool storeValue(std::shared_ptr<DtEnvValue> node, const DtString& name, const DtString& value,
+                           DtEnvironment& env);
     void makeUserList();
     void setText(const char* key, DtString& field, const DtString& value);
     void setFlag(const char* key, bool& field, bool value);

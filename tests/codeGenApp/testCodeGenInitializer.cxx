@@ -5,6 +5,7 @@
 
 #include <QtTest/QtTest>
 
+#include <ctime>
 #include <libxml/parser.h>
 #include <libxml/valid.h>
 
@@ -47,6 +48,8 @@ private Q_SLOTS:
     void scriptsComeFromBothLists();
     void scriptFlagIgnoresCase();
     void scriptWithoutAValueIsNotListed();
+    void lastScriptOfANameCounts();
+    void manyScriptsAreReadAndSavedQuickly();
     void mapIsNotClearedByParsing();
     void setScriptMapWritesTheUserList();
     void setScriptMapMakesTheUserListToo();
@@ -55,6 +58,7 @@ private Q_SLOTS:
     void savedFileIsReadBackToTheSame();
     void commentsSurviveSaving();
     void saveFailsWithoutADirectory();
+    void nothingIsSavedWhenItIsNotToBe();
     void copiesShareTheStore();
     void shippedConfigurationHoldsEveryKey();
     void shippedConfigurationIsValid();
@@ -526,6 +530,59 @@ void TestCodeGenInitializer::scriptWithoutAValueIsNotListed()
     QVERIFY(initializer.scriptMap().empty());
 }
 
+// Also when it has no value; an object of another kind is no script.
+void TestCodeGenInitializer::lastScriptOfANameCounts()
+{
+    write(defaultsWith("") + "<user><scripts>" + var("a.txt", "false") + var("b.txt", "true") + var("a.txt", "true") +
+          var("c.txt", "true") + "<var name='c.txt'/>" + "<other name='b.txt' value='false'/>" + "</scripts></user>");
+    DtCodeGenInitializer initializer;
+    QCOMPARE(parse(initializer), QString());
+    QVERIFY((initializer.scriptMap() == std::map<DtString, bool>{
+                                            {"a.txt", true},
+                                            {"b.txt", true}
+    }));
+    initializer.setScriptMap({
+        {"a.txt", false},
+        {"b.txt", false},
+        {"c.txt", false}
+    });
+    QVERIFY(initializer.saveConfigFile("saved.xml"));
+    QVERIFY(readTextFile("saved.xml")
+                .contains("        <scripts>\n"
+                          "            <var name=\"a.txt\" value=\"false\"/>\n"
+                          "            <var name=\"b.txt\" value=\"false\"/>\n"
+                          "            <var name=\"a.txt\" value=\"false\"/>\n"
+                          "            <var name=\"c.txt\" value=\"true\"/>\n"
+                          "            <var name=\"c.txt\"/>\n"
+                          "            <other name=\"b.txt\" value=\"false\"/>\n"
+                          "            <var name=\"c.txt\" value=\"false\"/>\n"
+                          "        </scripts>\n"));
+}
+
+void TestCodeGenInitializer::manyScriptsAreReadAndSavedQuickly()
+{
+    const int count = 20000;
+    QByteArray scripts;
+    std::map<DtString, bool> others;
+    for (int i = 0; i < count; ++i)
+    {
+        scripts += var("script" + QByteArray::number(i) + ".txt", "true");
+        others[DtString("other") + DtString(i)] = i % 2 == 0;
+    }
+    write(defaultsWith("<scripts>" + scripts + "</scripts>") + "<user><scripts>" + scripts + "</scripts></user>");
+    DtCodeGenInitializer initializer;
+    const std::clock_t start = std::clock(); // of this process, however busy the machine is
+    QCOMPARE(parse(initializer), QString());
+    QCOMPARE(initializer.scriptMap().size(), std::size_t(count));
+    initializer.setScriptMap(others);
+    QVERIFY(initializer.saveConfigFile("config.xml"));
+    QVERIFY2(std::clock() - start < 2 * CLOCKS_PER_SEC, "linear look-ups take much longer");
+    DtCodeGenInitializer next;
+    parse(next);
+    QCOMPARE(next.scriptMap().size(), std::size_t(2 * count));
+    QVERIFY(next.scriptMap().at("other0") && !next.scriptMap().at("other19999"));
+}
+
 void TestCodeGenInitializer::mapIsNotClearedByParsing()
 {
     write(defaultsWith("<scripts>" + var("a.txt", "true") + "</scripts>"));
@@ -640,6 +697,25 @@ void TestCodeGenInitializer::saveFailsWithoutADirectory()
 {
     DtCodeGenInitializer initializer;
     QVERIFY(!initializer.saveConfigFile("missing/config.xml"));
+}
+
+void TestCodeGenInitializer::nothingIsSavedWhenItIsNotToBe()
+{
+    writeTextFile("config.xml", "not readable");
+    DtCodeGenInitializer initializer;
+    initializer.setSaved(false);
+    DtCodeGenInitializer copy(initializer);
+    for (DtCodeGenInitializer* each : {&initializer, &copy})
+    {
+        each->setPrefixName("Qx");
+        QVERIFY(!each->saveConfigFile("config.xml"));
+        QVERIFY(!each->saveConfigFile("new.xml"));
+    }
+    QCOMPARE(readTextFile("config.xml"), QByteArray("not readable"));
+    QCOMPARE(QDir().entryList(QDir::Files), QStringList("config.xml"));
+    initializer.setSaved(true);
+    QVERIFY(initializer.saveConfigFile("config.xml"));
+    QVERIFY(readTextFile("config.xml").contains("value=\"Qx\""));
 }
 
 void TestCodeGenInitializer::copiesShareTheStore()

@@ -26,6 +26,7 @@ private Q_SLOTS:
     void littleEndianFlagWaitsForTheNetType();
     void enumerationIsFoundWithoutPrefix();
     void enumerationIsFoundWithSmallFirstLetter();
+    void newTypeIsMarkedBeforeItsNetTypeIsFound();
     void enumerationKeepsItsMark();
     void enumerationSizeMakesTheNetType();
     void emptyEnumerationSizeIsAWord();
@@ -234,6 +235,14 @@ void TestAttribute::enumerationIsFoundWithSmallFirstLetter()
 {
     QVERIFY(DtAttribute("a", "DtAttrSmallEnum").isEnumeration());
     QVERIFY(DtAttribute("a", "DtattrSmallEnum").isEnumeration());
+}
+
+void TestAttribute::newTypeIsMarkedBeforeItsNetTypeIsFound()
+{
+    DtAttribute attribute("a", "DtFoo");
+    attribute.setType("DtAttrKindEnum");
+    QVERIFY(attribute.isEnumeration());
+    QCOMPARE(text(attribute.netType()), QString("DtNetU8"));
 }
 
 void TestAttribute::enumerationKeepsItsMark()

@@ -204,6 +204,8 @@ private Q_SLOTS:
     void interactionRootIsCutAtTheStartOnly();
     void longNamesAreNumberedAtTheFirstLine();
     void longNamesAreNumberedInTokenOrder();
+    void singleLongNameIsNumberedAtTheFirstLine_data();
+    void singleLongNameIsNumberedAtTheFirstLine();
     void knownTokensAreAllReplaced();
     void rowWriterFillsItsNames();
     void rowWriterUnderTheRoot();
@@ -804,6 +806,37 @@ void TestClassFileWriter::longNamesAreNumberedInTokenOrder()
     QCOMPARE(numberOf(names[2]), first + 3);
     QCOMPARE(numberOf(names[1]), first + 4);
     QCOMPARE(numberOf(names[0]), first + 5);
+}
+
+void TestClassFileWriter::singleLongNameIsNumberedAtTheFirstLine_data()
+{
+    QTest::addColumn<int>("place");
+    QTest::newRow("name") << 0;
+    QTest::newRow("type") << 1;
+    QTest::newRow("datatype") << 2;
+    QTest::newRow("datatype of the datatype") << 3;
+}
+
+// One long name alone, in a line that asks for nothing, takes the next number.
+void TestClassFileWriter::singleLongNameIsNumberedAtTheFirstLine()
+{
+    QFETCH(int, place);
+    const RunSettings settings;
+    const std::string tail(150, 'e');
+    DtString names[] = {"single", "DtSingle", "Single", "SingleBelow"};
+    names[place] = "lone" + std::to_string(place) + tail;
+    DtAttribute attribute(names[0], names[1]);
+    attribute.setDatatype(names[2]);
+    attribute.setDatatypeDatatype(names[3]);
+    Probe writer("", "");
+    writer.setRootName("before" + std::to_string(place) + tail);
+    const int first = numberOf(writer.decode("<!ClassName!>"));
+    writer.setRootName("Short");
+    writer.setCurrentAttribute(&attribute);
+    writer.decode("no token at all");
+    writer.setCurrentAttribute(nullptr);
+    writer.setRootName("behind" + std::to_string(place) + tail);
+    QCOMPARE(numberOf(writer.decode("<!ClassName!>")), first + 2);
 }
 
 void TestClassFileWriter::knownTokensAreAllReplaced()

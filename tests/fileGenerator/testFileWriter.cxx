@@ -90,6 +90,7 @@ private Q_SLOTS:
     void pieceBoundaryHidesTokensAndBlocks();
     void valuesAreNotScannedForBlocks();
     void tokensGoInOrder();
+    void firstMarkOfTheExportMacroIsCut();
     void everyBaseTokenHasItsValue();
     void fomFileNamesAreTakenOnceOnly();
     void zeroBytesAreOrdinary();
@@ -323,6 +324,12 @@ void TestFileWriter::tokensGoInOrder()
     QCOMPARE(expand("<!NamespaceName!>"), std::string("f<!NamespaceName!>,<!BitCount!>"));
     DtFileWriter::setExportMacroName("<!DllExport!>");
     QCOMPARE(expand("<!noDtDllExport!>"), std::string("<!DllExport!>")); // replaced by row 3, which gives itself
+}
+
+void TestFileWriter::firstMarkOfTheExportMacroIsCut()
+{
+    DtFileWriter::setExportMacroName("DT_DLL_OUTER_DT_DLL_INNER");
+    QCOMPARE(expand("<!noDtDllExport!> <!DllExport!>"), std::string("OUTER_DT_DLL_INNER DT_DLL_OUTER_DT_DLL_INNER"));
 }
 
 void TestFileWriter::everyBaseTokenHasItsValue()

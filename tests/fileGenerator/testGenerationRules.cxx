@@ -454,15 +454,23 @@ void TestGenerationRules::predefinedTypesOfTheRunForgetComponents()
 
 void TestGenerationRules::parentOutsideTheSelectionGivesItsUniqueName()
 {
-    myFixture->writeTemplate("hobjEncHeader.tlt", "<!BaseClassName!>");
+    for (const char* name : {"hobjEncHeader.tlt", "hintEncHeader.tlt"})
+        myFixture->writeTemplate(name, "<!BaseClassName!>");
     myModel->addObject("HLAobjectRoot.Vehicle");
     myModel->addObject("HLAobjectRoot.Vehicle.Tank");
+    myModel->addInteraction("HLAinteractionRoot.Act");
+    myModel->addInteraction("HLAinteractionRoot.Act.Fire");
     select("HLAobjectRoot.Vehicle.Tank");
+    myProject->addInteraction("HLAinteractionRoot.Act.Fire", false, "");
     const DtCapture capture(DtWarn);
     QCOMPARE(run(), 1);
-    QVERIFY(myFixture->output("tankEncoderHLA.h").contains("Vehicle"));
+    QCOMPARE(myFixture->output("tankEncoderHLA.h"), QString("DtVehicleEncoder"));
     QVERIFY(!myFixture->hasOutput("vehicleEncoderHLA.h"));
+    QCOMPARE(myFixture->output("fireInterEncoderHLA.h"), QString("DtActInterEncoder"));
+    QVERIFY(!myFixture->hasOutput("actInterEncoderHLA.h"));
     QCOMPARE(capture.text(), QString("Warning: HLAobjectRoot.Vehicle.Tank needs the files of HLAobjectRoot.Vehicle, "
+                                     "which is not selected.\n"
+                                     "Warning: HLAinteractionRoot.Act.Fire needs the files of HLAinteractionRoot.Act, "
                                      "which is not selected.\n"));
 }
 

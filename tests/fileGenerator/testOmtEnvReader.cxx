@@ -106,6 +106,8 @@ private Q_SLOTS:
     void onlyTheFirstOldXmlFileIsRead();
     void emptyListGivesNoTree_data();
     void emptyListGivesNoTree();
+    void failedTypedReadEmptiesTreeAndMaps_data();
+    void failedTypedReadEmptiesTreeAndMaps();
     void unknownTypeKeepsTheTreeAndClearsTheMaps();
 
     void objectListShowsAllClassesOpen();
@@ -412,6 +414,29 @@ void TestOmtEnvReader::emptyListGivesNoTree()
     QVERIFY(reader.readMultipleFiles({}, ok, static_cast<DtFomType>(type)) == nullptr);
     QVERIFY(!ok);
     QCOMPARE(warnings.text(), QString());
+}
+
+void TestOmtEnvReader::failedTypedReadEmptiesTreeAndMaps_data()
+{
+    emptyListGivesNoTree_data();
+}
+
+void TestOmtEnvReader::failedTypedReadEmptiesTreeAndMaps()
+{
+    QFETCH(int, type);
+    const DtCapture warnings(DtWarn);
+    DtOMTEnvReader reader;
+    readModel(reader, objectClasses(objectClass("Ship")) + interactionClasses(interactionClass("Fire")));
+    const DtOMTTree* before = reader.tree();
+    QTreeWidget list;
+    reader.constructObjectListView(&list, nullptr);
+    reader.constructInteractionListView(&list, nullptr);
+    bool ok = true;
+    QVERIFY(reader.readMultipleFiles({file("bad", "<objectModel>")}, ok, static_cast<DtFomType>(type)) == nullptr);
+    QVERIFY(!ok);
+    QVERIFY(reader.tree() == nullptr);
+    QVERIFY(reader.objectWidgetToRootNodeMap().empty() && reader.interactionWidgetToRootNodeMap().empty());
+    QVERIFY(before->getObjectClassNode("HLAobjectRoot.Ship") != nullptr); // not deleted
 }
 
 void TestOmtEnvReader::unknownTypeKeepsTheTreeAndClearsTheMaps()

@@ -28,6 +28,7 @@ private Q_SLOTS:
     void allArraysCountAsUsedInTheOldestModels();
     void selectedClassesGetTheirFiles();
     void classIsGeneratedOncePerName();
+    void interactionIsGeneratedOncePerName();
     void unknownClassTakesNoPduKind();
     void pduKindRunsOnFromObjectsToInteractions();
     void classWithoutRecordIsSkipped();
@@ -42,9 +43,14 @@ private Q_SLOTS:
     void emptiedMemberListIsPassedOver();
     void totalProgressFollowsTheFormula();
     void totalProgressLeavesOutMappedEnumeratedAndReplaced();
+    void totalProgressCountsWhatTheClosureAdds();
     void totalProgressCountsDisAndExamples();
     void everyClassHasExamplesWhenTheyAreWanted();
     void disFilesAreWrittenWhenTheyAreWanted();
+    void disSettingReachesTheBuildProducts_data();
+    void disSettingReachesTheBuildProducts();
+    void solutionHoldsClassesWithExamplesOnly_data();
+    void solutionHoldsClassesWithExamplesOnly();
     void cancelBeforeTheClassesEndsTheRun();
     void cancelledRunWritesNoBuildProducts();
     void enumerationsFileHoldsUsedUnmappedOnly();
@@ -250,6 +256,21 @@ void TestOmtEnvWriter::classIsGeneratedOncePerName()
     QCOMPARE(myFixture->output("tankPublisherHLA.h"), QString("0"));
 }
 
+void TestOmtEnvWriter::interactionIsGeneratedOncePerName()
+{
+    myModel->addInteraction("HLAinteractionRoot.Fire");
+    myFixture->writeTemplate("hinterHeader.tlt", "<!PduKind!>");
+    select({}, {"HLAinteractionRoot.Fire"});
+    std::set<DtString> done = {"HLAinteractionRoot.Fire"};
+    myWriter->addInteractionToFile("HLAinteractionRoot.Fire", done);
+    QCOMPARE(myFixture->outputs(), QStringList());
+    done.clear();
+    myWriter->addInteractionToFile("HLAinteractionRoot.Fire", done);
+    myWriter->addInteractionToFile("HLAinteractionRoot.Fire", done);
+    QCOMPARE(done, std::set<DtString>{"HLAinteractionRoot.Fire"});
+    QCOMPARE(myFixture->output("fireInterHLA.h"), QString("0"));
+}
+
 void TestOmtEnvWriter::unknownClassTakesNoPduKind()
 {
     myModel->addObject("HLAobjectRoot.Tank");
@@ -427,6 +448,20 @@ void TestOmtEnvWriter::totalProgressLeavesOutMappedEnumeratedAndReplaced()
     QCOMPARE(DtQtProgressMeter::instance()->totalMeasure(), 16 + 2 * 1 + 12);
 }
 
+void TestOmtEnvWriter::totalProgressCountsWhatTheClosureAdds()
+{
+    myModel->addObject("HLAobjectRoot.Tank");
+    myModel->addAttribute("HLAobjectRoot.Tank", "deMember", "DeOuter");
+    myModel->addFixed("DeOuter", {
+                                     {"f", "DeInner"}
+    });
+    myModel->addArray("DeInner", "DeElement");
+    select({"HLAobjectRoot.Tank"});
+    QCOMPARE(run(), 1);
+    QCOMPARE(myWriter->usedDatatypes(), (std::set<DtString>{"DeElement", "DeInner", "DeOuter"}));
+    QCOMPARE(DtQtProgressMeter::instance()->totalMeasure(), 16 + 2 * 3 + 12);
+}
+
 void TestOmtEnvWriter::totalProgressCountsDisAndExamples()
 {
     myModel->addObject("HLAobjectRoot.Tank");
@@ -479,6 +514,46 @@ void TestOmtEnvWriter::disFilesAreWrittenWhenTheyAreWanted()
     QVERIFY(myFixture->output("Files-cc.txt").contains("tankPdu.cxx\n"));
     QCOMPARE(myFixture->output("Makefile"), QString("[1]"));
     QVERIFY(!myFixture->hasOutput("Examples"));
+}
+
+void TestOmtEnvWriter::disSettingReachesTheBuildProducts_data()
+{
+    QTest::addColumn<bool>("isOn");
+    QTest::addColumn<QString>("expected");
+    QTest::newRow("on") << true << "[1]";
+    QTest::newRow("off") << false << "[]";
+}
+
+void TestOmtEnvWriter::disSettingReachesTheBuildProducts()
+{
+    QFETCH(bool, isOn);
+    for (const char* name : {"projectFileVC14_64.tlt", "makefile.tlt"})
+        myFixture->writeTemplate(name, "[<!GenerateDis!>]");
+    myWriter->setGenerateDis(isOn);
+    run();
+    QTEST(myFixture->output("modelVC14_64.vcxproj"), "expected");
+    QTEST(myFixture->output("Makefile"), "expected");
+}
+
+void TestOmtEnvWriter::solutionHoldsClassesWithExamplesOnly_data()
+{
+    QTest::addColumn<bool>("isOn");
+    QTest::addColumn<QString>("expected");
+    QTest::newRow("on") << true << "model Tank Fire";
+    QTest::newRow("off") << false << "model";
+}
+
+void TestOmtEnvWriter::solutionHoldsClassesWithExamplesOnly()
+{
+    QFETCH(bool, isOn);
+    myModel->addObject("HLAobjectRoot.Tank");
+    myModel->addInteraction("HLAinteractionRoot.Fire");
+    myFixture->writeTemplate("solutionVC14_64.tlt",
+                             "<!ProjectName!><#Objects> <!Object!><#><#Interactions> <!Interaction!><#>");
+    select({"HLAobjectRoot.Tank"}, {"HLAinteractionRoot.Fire"});
+    myWriter->setGenerateExamples(isOn);
+    run();
+    QTEST(myFixture->output("modelVC14_64.sln"), "expected");
 }
 
 void TestOmtEnvWriter::cancelBeforeTheClassesEndsTheRun()

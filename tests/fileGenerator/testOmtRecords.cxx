@@ -28,6 +28,46 @@ DtOmtObject objectNamed(const DtString& fullName)
     return object;
 }
 
+// A member that overrides every operation and keeps what it was told. The two kinds name the owner differently.
+template <typename Record>
+struct OwnMember : Record
+{
+    void setEncoding(const DtString& value) override { told += "E" + value; }
+    DtString encoding() const override { return "own encoding"; }
+    void setCustomGenerationRef(const DtString& value) override { told += "C" + value; }
+    DtString customGenerationRef() const override { return "own text"; }
+    void setNoGen(bool value) override { told += value ? "N1" : "N0"; }
+    bool noGen() const override { return true; }
+
+    DtString told;
+};
+
+struct OwnAttribute : OwnMember<DtOmtAttribute>
+{
+    void setOwningObject(const DtString& value) override { told += "O" + value; }
+    DtString owningObject() const override { return "own owner"; }
+};
+
+struct OwnParameter : OwnMember<DtOmtParameter>
+{
+    void setOwningInteraction(const DtString& value) override { told += "O" + value; }
+    DtString owningInteraction() const override { return "own owner"; }
+};
+
+template <typename Record>
+void setCommonValues(Record& record)
+{
+    record.setEncoding("e");
+    record.setCustomGenerationRef("c");
+    record.setNoGen(false);
+}
+
+template <typename Record>
+QString commonAnswers(const Record& record)
+{
+    return text(record.encoding() + ", " + record.customGenerationRef()) + (record.noGen() ? ", none" : "");
+}
+
 } // namespace
 
 class TestOmtRecords : public QObject
@@ -38,6 +78,7 @@ private Q_SLOTS:
     void newRecordIsEmptyAndIsNotRenamed();
     void settersShowInGetters();
     void newMemberIsGeneratedWithoutCustomText();
+    void operationsOfAMemberCanBeOverridden();
     void ownerIsTheOwningClass();
     void objectsAreOrderedByFullNameAlone();
     void objectEqualsItsFullName();
@@ -89,6 +130,25 @@ void TestOmtRecords::newMemberIsGeneratedWithoutCustomText()
     QVERIFY(parameter.noGen());
     QCOMPARE(text(parameter.customGenerationRef()), QString("text.txt"));
     QCOMPARE(text(parameter.encoding()), QString("HLAfixedArray"));
+}
+
+void TestOmtRecords::operationsOfAMemberCanBeOverridden()
+{
+    OwnAttribute ownAttribute;
+    DtOmtAttribute& attribute = ownAttribute;
+    attribute.setOwningObject("o");
+    setCommonValues(attribute);
+    QCOMPARE(text(ownAttribute.told), QString("OoEeCcN0"));
+    QCOMPARE(commonAnswers(attribute), QString("own encoding, own text, none"));
+    QCOMPARE(text(attribute.owningObject()), QString("own owner"));
+
+    OwnParameter ownParameter;
+    DtOmtParameter& parameter = ownParameter;
+    parameter.setOwningInteraction("o");
+    setCommonValues(parameter);
+    QCOMPARE(text(ownParameter.told), QString("OoEeCcN0"));
+    QCOMPARE(commonAnswers(parameter), QString("own encoding, own text, none"));
+    QCOMPARE(text(parameter.owningInteraction()), QString("own owner"));
 }
 
 void TestOmtRecords::ownerIsTheOwningClass()

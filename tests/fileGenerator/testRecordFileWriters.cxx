@@ -114,6 +114,7 @@ private Q_SLOTS:
     void selectorStandsAsTheModelHasIt();
     void discriminantIsAnAttributeInItsLoop_data();
     void discriminantIsAnAttributeInItsLoop();
+    void includeOfTheDiscriminantStandsOnce();
     void enumeratorsAreCopiedFromTheRecord();
     void enumeratorsOfEqualNamesKeepTheirOrder();
     void variantNetTypesAreMarked();
@@ -485,6 +486,30 @@ void TestRecordFileWriters::discriminantIsAnAttributeInItsLoop()
           "expected");
     const bool isSimple = datatype == "RwSimple";
     QCOMPARE(writer.expand("<#IncludeFiles><!FileToInclude!><#>"), isSimple ? QString("rwSimple.h") : QString());
+}
+
+// The include of the discriminant is put behind those of the members, where the last of them may be the same.
+void TestRecordFileWriters::includeOfTheDiscriminantStandsOnce()
+{
+    const RunSettings settings;
+    DtOMTTree tree;
+    for (const char* name : {"RwSimple", "RwOther"})
+    {
+        auto* simple = new DtSimpleDatatypeNode;
+        simple->setName(name);
+        tree.addSimpleDatatypeNode(simple);
+        mapper().addMapping(name, DtString("Dt") + name);
+        classNames().add(name, DtString("Dt") + name);
+    }
+    VariantProbe writer("", "");
+    DtVariantDatatypeNode* node = addVariant(tree, "RwBySimple",
+                                             {
+                                                 {"a", "RwOther",  "A"},
+                                                 {"b", "RwSimple", "B"}
+    });
+    node->setDatatype("RwSimple");
+    writer.compileAttributes(node, &tree);
+    QCOMPARE(writer.expand("<#IncludeFiles><!FileToInclude!> <#>"), QString("rwOther.h rwSimple.h "));
 }
 
 void TestRecordFileWriters::enumeratorsAreCopiedFromTheRecord()

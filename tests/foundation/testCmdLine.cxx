@@ -30,6 +30,7 @@ private Q_SLOTS:
     void noArgumentsAtAllAreFine();
     void argumentsAreListedAsAdded();
     void failureWritesTheStatedText();
+    void unknownSwitchInACombinationIsShownAsWritten();
     void failureShowsAtAnyLevelAndRestoresIt();
     void usageWritesTheStatedText();
     void usageShowsAtAnyLevelAndRestoresIt();
@@ -263,6 +264,24 @@ void TestCmdLine::failureWritesTheStatedText()
                                 "   codeGen --help\n");
     QCOMPARE(result.output, QByteArray());
     QCOMPARE(result.exitCode, 1);
+}
+
+// The known switches of a combination are blotted out on the way; the message has them all the same.
+void TestCmdLine::unknownSwitchInACombinationIsShownAsWritten()
+{
+    for (const char* argument : {"-GxA", "-xGA", "-AGx"})
+    {
+        const DtChildResult result = runInChild(
+            [argument]
+            {
+                DtOptions options;
+                options.parse({argument}, true);
+            });
+        const QByteArray head =
+            "PARSE ERROR: Argument: " + QByteArray(argument) + "\n             Couldn't find match for argument\n\n";
+        QCOMPARE(result.errors.left(head.size()), head);
+        QCOMPARE(result.exitCode, 1);
+    }
 }
 
 void TestCmdLine::failureShowsAtAnyLevelAndRestoresIt()

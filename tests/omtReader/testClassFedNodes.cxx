@@ -114,8 +114,12 @@ private Q_SLOTS:
 
     void copyOfInteractionClassHasParametersAndDimensions()
     {
-        DtInteractionClassFedNode node, child;
+        DtInteractionClassFedNode parent, node(&parent), child;
         node.setName("Node");
+        node.setDescriptor("text");
+        node.setSharing("Publish");
+        node.setIdentifier(3);
+        node.setParentIdentifier(2);
         node.setTransportation("HLAreliable");
         node.setOrder("Receive");
         node.addDimension("d");
@@ -123,9 +127,13 @@ private Q_SLOTS:
         node.addChildInteraction(&child);
         const DtInteractionClassFedNode copy(node);
         QCOMPARE(printClass(&copy), QString("Node [p]\n"));
+        QCOMPARE(toQt(copy.getDescriptor() + copy.getSharing()), QString("textPublish"));
+        QCOMPARE(copy.getIdentifier() * 10 + copy.getParentIdentifier(), 32);
         QCOMPARE(toQt(copy.getTransportation() + copy.getOrder()), QString("HLAreliableReceive"));
         QCOMPARE(copy.getDimensions(), std::list<DtString>{"d"});
+        QVERIFY(copy.findParameter("p") != node.findParameter("p"));
         QVERIFY(copy.getParameters().front()->getParentObject() == &copy);
+        QCOMPARE(copy.getParentObject(), &parent);
     }
 
     void separatorOfAPathMayBeAnyCharacter()
@@ -168,6 +176,35 @@ private Q_SLOTS:
         root.addChildInteraction(&child);
         QCOMPARE(root.findChildInteraction("R.C"), &child);
         QVERIFY(root.findChildInteraction("R.D") == nullptr);
+    }
+
+    // Many siblings are looked up by an index of their names, which a child added later enters too.
+    void manyInteractionsAreFoundByTheirNames()
+    {
+        DtInteractionClassFedNode root;
+        root.setName("R");
+        std::vector<std::unique_ptr<DtInteractionClassFedNode>> nodes;
+        const auto add = [&nodes](DtInteractionClassFedNode& parent, const std::string& name)
+        {
+            nodes.push_back(std::make_unique<DtInteractionClassFedNode>());
+            nodes.back()->setName(name);
+            parent.addChildInteraction(nodes.back().get());
+            return nodes.back().get();
+        };
+        for (int i = 0; i < 40; ++i)
+            add(root, "C" + std::to_string(i));
+        for (int i = 0; i < 40; ++i)
+            QCOMPARE(root.findChildInteraction(("R.C" + std::to_string(i)).c_str()),
+                     nodes[static_cast<std::size_t>(i)].get());
+        QVERIFY(root.findChildInteraction("R.C40") == nullptr);
+        DtInteractionClassFedNode* late = add(root, "C40");
+        QCOMPARE(root.findChildInteraction("R.C40"), late);
+        add(root, "C7"); // of equal names the first counts
+        QCOMPARE(root.findChildInteraction("R.C7"), nodes[7].get());
+        DtInteractionClassFedNode* below = add(*nodes[39], "Below");
+        QCOMPARE(root.findChildInteraction("R.C39.Below"), below);
+        QVERIFY(root.findChildInteraction("R.C38.Below") == nullptr);
+        QCOMPARE(root.getChildInteractions().size(), std::size_t(42));
     }
 
     // Names are made of few letters, so that prefixes, repeated and empty names meet often; classes have few children

@@ -129,6 +129,7 @@ public:
     }
 
     const QStringList& datatypes() const { return myDatatypes; }
+    QString attributeOf(const QString& datatype) const { return 'P' + QString::number(myDatatypes.indexOf(datatype)); }
     DtPythonRun python(const QStringList& arguments, const QByteArray& input = QByteArray()) const
     {
         return runPython(path(), QStringList{QX_SOURCE_DIR "/tests/generated/crossValues.py"} + arguments, input);
@@ -147,9 +148,9 @@ public:
             probes += "PROBE(P" + QByteArray::number(index) + ")\n";
         writeTextFile(path() + "/probes.h", probes);
         writeTextFile(path() + "/unit.cpp", unit + "#include \"crossDriver.cxx\"\n");
-        const DtPythonRun run =
-            runProgram("g++", {"-std=c++17", "-Wall", "-Wextra", "-Werror", "-I.", "-I" QX_SOURCE_DIR "/tests/generated",
-                               "-I" QX_SOURCE_DIR "/toolkit/include", "unit.cpp", "-o", "driver"});
+        const DtPythonRun run = runProgram("g++", {"-std=c++17", "-Wall", "-Wextra", "-Werror", "-I.",
+                                                   "-I" QX_SOURCE_DIR "/tests/generated",
+                                                   "-I" QX_SOURCE_DIR "/toolkit/include", "unit.cpp", "-o", "driver"});
         return run.isGood() ? QString() : run.output.left(4000);
     }
     DtPythonRun driver(const QByteArray& lines) const { return runProgram(path() + "/driver", {}, lines); }

@@ -49,6 +49,12 @@ def first_of(classes, datatype, value):
     return next(filter(None, (first_of(classes, *part) for part in parts)), "")
 
 
+def open_arrays(datatype, passed=()):
+    """How many arrays the datatype is and holds whose number of elements the model leaves open, padding too."""
+    is_open = isinstance(datatype, codec.Array) and datatype.count is None
+    return is_open + sum(open_arrays(part, passed + (datatype,)) for part in datatype.parts() if part not in passed)
+
+
 def answer_fault(member, value, answer, classes):
     """What is wrong with that which the generated code makes of the octets of a value; empty when nothing is."""
     octets = codec.encode(member.datatype, value)
@@ -63,10 +69,12 @@ def answer_fault(member, value, answer, classes):
 
 def check_back(count, classes, lines):
     """A line for each datatype of which a value is wrong, or rightly refused; and how many values there are."""
-    wrong, refused, number = {}, {}, 0
+    wrong = {name: "has one open array at most" for name, datatype in codec.DATATYPES.items()
+             if class_of(datatype) in classes and open_arrays(datatype) < 2}
+    refused, number = {}, 0
     for asked, line in itertools.zip_longest(values(count), lines):
         if asked is None or line is None:
-            wrong[""] = "another number of lines"
+            wrong["number of lines"] = "another one"
             break
         member, value = asked
         name, _, answer = line.rstrip("\n").partition(" ")

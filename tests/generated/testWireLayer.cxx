@@ -145,6 +145,27 @@ struct Tree // holds itself
     std::vector<Tree> branches;
 };
 
+struct Chain // holds itself in an array that its first zero element ends
+{
+    static DtArrayLayout layout() { return DtArrayLayout(DtNullTerminatedArray, 0); }
+    void encode(DtWireWriter& writer) const
+    {
+        const DtRecordScope<DtWireWriter> scope(writer);
+        DtEncodeValue(writer, number, DtWireForm());
+        DtEncodeArray(writer, links, layout(), DtWireForm());
+    }
+    bool decode(DtWireReader& reader)
+    {
+        const DtRecordScope<DtWireReader> scope(reader);
+        return DtDecodeValue(reader, number, DtWireForm()) && DtDecodeArray(reader, links, layout(), DtWireForm());
+    }
+    static unsigned int octetBoundary(const DtWireTrail* /*outer*/ = nullptr) { return 2; }
+    bool operator==(const Chain& other) const { return number == other.number && links == other.links; }
+
+    DtU16 number = 0;
+    std::vector<Chain> links;
+};
+
 enum class Plain : DtInt64
 {
     A = 1
@@ -196,6 +217,7 @@ private Q_SLOTS:
     void elementsWithoutOctetsAreLimited();
     void fixedArrayHasItsNumberOfElements();
     void zeroElementEndsATerminatedArray();
+    void terminatedArrayOfWhatHoldsItIsRefused();
     void lengthlessArrayIsLastOrRefused();
     void paddingCountsFromTheRecord();
     void unknownArrayIsRefused();
@@ -394,6 +416,22 @@ void TestWireLayer::fixedArrayHasItsNumberOfElements()
     QCOMPARE(encoded(arrayOf<Three>({1, 2})), QByteArray("refused: a fixed array has another number of elements"));
     QCOMPARE(decoded<Three>("00010002").reason, QByteArray(theShortage));
     QCOMPARE(decoded<Three>("0001000200030004").reason, QByteArray(theSurplus));
+}
+
+void TestWireLayer::terminatedArrayOfWhatHoldsItIsRefused()
+{
+    const QByteArray reason = "elements without octets cannot be terminated";
+    Chain chain;
+    for (int round = 0; round < 2; ++round) // the second finds nothing of the first
+    {
+        QCOMPARE(encoded(chain), "refused: " + reason);
+        QCOMPARE(decoded<Chain>("0001 0002 0000").reason, reason);
+        chain.links.resize(3);
+    }
+    typedef Laid<Chain, DtNullTerminatedArray> Chains;
+    QCOMPARE(encoded(arrayOf<Chains>({Chain()})), "refused: " + reason);
+    typedef Laid<DtU16, DtNullTerminatedArray> Wide;
+    QCOMPARE(decoded<Wide>("00010000").value.elements, std::vector<DtU16>{1});
 }
 
 void TestWireLayer::zeroElementEndsATerminatedArray()

@@ -61,13 +61,36 @@ unsigned int DtArrayBoundary(const DtArrayLayout& layout, const DtWireForm& elem
     }
 }
 
-// The octets that end a null-terminated array: an element at its start, all of it zero.
+// The octets that end a null-terminated array: an element at its start, all of it zero. An element that holds such an
+// array of its own kind has no length that could be told, and so no terminator: the length is 0.
 template <class Element>
 struct DtTerminator
 {
-    explicit DtTerminator(const DtWireForm& elementForm)
-        : boundary(DtBoundaryOfType<Element>(elementForm)), length(octetsOf(Element(), elementForm).size())
+    explicit DtTerminator(const DtWireForm& elementForm) : boundary(DtBoundaryOfType<Element>(elementForm)), length(0)
     {
+        Search& present = search();
+        if (present.isOpen)
+        {
+            present.holdsItself = true;
+            return;
+        }
+        present.isOpen = true;
+        present.holdsItself = false;
+        const std::size_t octets = octetsOf(Element(), elementForm).size();
+        present.isOpen = false;
+        length = present.holdsItself ? 0 : octets;
+    }
+
+    // Whether the length is being worked out, further up on the stack.
+    struct Search
+    {
+        bool isOpen;
+        bool holdsItself;
+    };
+    static Search& search()
+    {
+        static thread_local Search theSearch = {false, false};
+        return theSearch;
     }
 
     static std::vector<DtU8> octetsOf(const Element& element, const DtWireForm& form)

@@ -274,12 +274,17 @@ void TestTalkListen::examplesOfTheLargeModelLink()
     output.generate(models);
     const DtProgramRun run = output.make({});
     QVERIFY2(run.exitCode == 0, qPrintable(run.output.right(4000)));
-    int programs = 0;
-    for (const QString& file : filesBelow(output.path()))
-        if (file.startsWith("cpp\\Examples/") && QFileInfo(output.path(file)).isExecutable())
-            ++programs;
-    QVERIFY(programs > 300);
-    qInfo("%d programs", programs);
+    const QDir examples(output.path("cpp\\Examples"));
+    const QStringList classes = examples.entryList(QDir::Dirs | QDir::NoDotAndDotDot);
+    QVERIFY2(classes.contains("Aircraft") && classes.contains("WeaponFireInter"), qPrintable(classes.join(" ")));
+    QStringList missing;
+    for (const QString& name : classes)
+        for (const char* program : {"talk", "listen", "talkDIS", "listenDIS"})
+            if (!(name.endsWith("Inter") && QString(program).endsWith("DIS")) && // interactions are sent by HLA alone
+                !QFileInfo(examples.filePath(name + "/" + program)).isExecutable())
+                missing += name + "/" + program;
+    QCOMPARE(missing, QStringList());
+    qInfo("The programs of %d classes link.", int(classes.size()));
 }
 
 QX_REGISTER_TEST(TestTalkListen)

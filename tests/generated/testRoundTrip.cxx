@@ -82,9 +82,10 @@ private Q_SLOTS:
     void everyClassOfTheLargeModel()
     {
         const QStringList modules = largeModel();
-        if (modules.isEmpty() || !qEnvironmentVariableIsSet("QX_FULL"))
-            QSKIP("only in the full run, and with the large model");
-        check(DtStagedOutput(modules), {});
+        if (modules.isEmpty())
+            qInfo("The large model is not here.");
+        else
+            check(DtStagedOutput(modules), {});
     }
 };
 

@@ -3,10 +3,15 @@
 #include "fileGenerator/dataTypeMapper.h"
 #include "fileGenerator/memberTypes.h"
 #include "fileGenerator/primitiveDataTypeFileWriter.h"
+#include "foundation/outputStream.h"
 #include "foundation/stringUtils.h"
+#include "omtReader/basicDataRepresentationNode.h"
+#include "omtReader/omtTree.h"
 
 #include <algorithm>
 #include <limits>
+#include <set>
+#include <utility>
 
 namespace
 {
@@ -38,20 +43,26 @@ bool endsWith(const DtString& text, const std::string& end)
     return whole.size() >= end.size() && whole.compare(whole.size() - end.size(), end.size(), end) == 0;
 }
 
-// Everything but "Big" is little-endian, as in <!EndianMatch!>; the name decides where the table has no text.
-bool isLittleEndian(const DtString& name, const DtString& endian)
+std::string withoutBlanks(const DtString& text)
 {
-    return endian.isEmpty() ? !endsWith(name, "BE") : endian != "Big";
+    std::string result = text.stdString();
+    result.erase(std::remove_if(result.begin(), result.end(), DtIsSpace), result.end());
+    return result;
 }
 
-DtNumberForm formOfBasicType(const DtString& name, const DtDataTypeMapper::DtBasicTypeInfo& info)
+// The text of a model in lower case without blanks; "big" and "little" are the ones that the standard knows.
+std::string plainEndian(const DtString& endian)
 {
-    DtNumberForm form;
-    form.octets = static_cast<int>((std::min(info.first.toUInt(), 8192U) + 7) / 8);
-    form.isFloat = isFloatRepresentation(name);
-    form.isSigned = form.isFloat || isSignedRepresentation(name);
-    form.isLittleEndian = isLittleEndian(name, info.second);
-    return form;
+    std::string text = withoutBlanks(endian);
+    std::transform(text.begin(), text.end(), text.begin(), DtToLower);
+    return text;
+}
+
+// The name decides where the model has no text. A text that says neither is taken for big.
+bool isLittleEndian(const DtString& name, const DtString& endian)
+{
+    const std::string text = plainEndian(endian);
+    return text.empty() ? endsWith(name, "LE") : text == "little";
 }
 
 DtNumberForm formOfReadyType(const DtString& name, const DtString& type)
@@ -70,16 +81,31 @@ DtNumberForm formOfReadyType(const DtString& name, const DtString& type)
     return form;
 }
 
+// Size and byte order are the model's. Sign and fraction follow from the ready-made type that stands for the name, as
+// that of "short" or "double", else from the name.
+DtNumberForm formOfBasicType(const DtString& name, const DtDataTypeMapper::DtBasicTypeInfo& info,
+                             const DtString& readyType)
+{
+    DtNumberForm form = formOfReadyType(name, readyType);
+    if (form.octets == 0)
+    {
+        form.isFloat = isFloatRepresentation(name);
+        form.isSigned = form.isFloat || isSignedRepresentation(name);
+    }
+    form.octets = static_cast<int>((std::min(info.first.toUInt(), 8192U) + 7) / 8);
+    form.isLittleEndian = isLittleEndian(name, info.second);
+    return form;
+}
+
+bool isKnownByteOrder(const DtString& endian)
+{
+    const std::string text = plainEndian(endian);
+    return text.empty() || text == "big" || text == "little";
+}
+
 bool isNumber(const std::string& text)
 {
     return !text.empty() && std::all_of(text.begin(), text.end(), DtIsDigit);
-}
-
-std::string withoutBlanks(const DtString& text)
-{
-    std::string result = text.stdString();
-    result.erase(std::remove_if(result.begin(), result.end(), DtIsSpace), result.end());
-    return result;
 }
 
 } // namespace
@@ -88,8 +114,9 @@ DtNumberForm numberFormOfRepresentation(const DtString& representation)
 {
     const DtDataTypeMapper& mapper = *DtDataTypeMapper::instance();
     const DtDataTypeMapper::DtBasicTypeInfo& info = mapper.infoForBasicType(representation);
-    return info.first.toUInt() != 0 ? formOfBasicType(representation, info)
-                                    : formOfReadyType(representation, mapper.quorvexType(representation));
+    const DtString& readyType = mapper.quorvexType(representation);
+    return info.first.toUInt() != 0 ? formOfBasicType(representation, info, readyType)
+                                    : formOfReadyType(representation, readyType);
 }
 
 DtNumberForm numberFormOf(const DtString& datatype)
@@ -108,6 +135,20 @@ DtString numberTypeOf(const DtNumberForm& form)
             return row.type;
     }
     return "DtU8";
+}
+
+void warnOfByteOrders(const DtOMTTree& tree)
+{
+    static std::set<std::pair<DtString, DtString>> theTold;
+    for (auto each = tree.getBasicDataRepresentationNodeList(); each != tree.getBasicDataRepresentationEndNode();
+         ++each)
+    {
+        const DtString& name = (*each)->getName();
+        const DtString& endian = (*each)->getEndian();
+        if (!isKnownByteOrder(endian) && theTold.emplace(name, endian).second)
+            DtWarn << "Warning: The byte order of " << name << " is \"" << endian
+                   << "\", which is neither Big nor Little. It is taken for Big.\n";
+    }
 }
 
 int elementCountOf(const DtString& cardinality)

@@ -4,6 +4,7 @@
 #include "fileGenerator/datatypeBoundaries.h"
 #include "fileGenerator/datatypeClosure.h"
 #include "fileGenerator/fileWriter.h"
+#include "fileGenerator/numberForm.h"
 #include "fileGenerator/omtProject.h"
 #include "foundation/exception.h"
 #include "omtReader/omtTree.h"
@@ -40,6 +41,7 @@ bool DtOMTWriter::writeFile(const DtString& fomName, const DtString& commandFile
     const DtString projectBase = myProject != nullptr ? myProject->baseName() : DtString();
     theBaseName = projectBase.isEmpty() ? fomName : projectBase;
     checkUsedSubDatatypesFiles();
+    warnOfByteOrders(tree());
     myNextPduKind = myFirstPduKind;
     execCmdFile("../data/" + commandFile);
     return true;

@@ -4,6 +4,7 @@
 #include "fileGenerator/classFileWriter.h"
 #include "fileGenerator/dataTypeMapper.h"
 #include "fileGenerator/omtProject.h"
+#include "fileGenerator/toolkitLayouts.h"
 #include "foundation/stringUtils.h"
 #include "omtReader/enumeratedDatatypeNode.h"
 #include "omtReader/omtTree.h"
@@ -49,10 +50,12 @@ const DtCustomCodeTokens::DtRow DtCustomCodeTokens::theRows[] = {
     {"<!InteractionName!>",           VALUE(t.myMember.className + "Inter")},
     {"<!Prefix!>",                    VALUE(t.myPrefix)},
     {"<!AttributeDatatypeDatatype!>", VALUE(identifier(t.lastRepresentation()))},
-    {"<!AttributeElementCount!>",     VALUE(DtString(elementCountOf(mapper().cardinalityOfArrayType(t.myMember.datatype))))},
-    {"<!AttributeOctets!>",           VALUE(DtString(t.numberForm().octets))},
-    {"<!AttributeIsLittleEndian!>",   VALUE(t.numberForm().isLittleEndian ? "1" : "0")},
+    {"<!AttributeElementCount!>",     VALUE(DtString(t.valueForm().count))},
+    {"<!AttributeOctets!>",           VALUE(DtString(t.valueForm().number.octets))},
+    {"<!AttributeIsLittleEndian!>",   VALUE(t.valueForm().number.isLittleEndian ? "1" : "0")},
+    {"<!AttributeLayout!>",           VALUE(t.valueForm().layout)},
     {"<!AttributeEncoding!>",         VALUE(t.encoding())},
+    {"<!AttributeWireEncoding!>",     VALUE(t.valueForm().encoding)},
 };
 // clang-format on
 
@@ -139,10 +142,18 @@ DtString DtCustomCodeTokens::lastRepresentation() const
     return last;
 }
 
-DtNumberForm DtCustomCodeTokens::numberForm() const
+// The number is looked up in the tree: the mapper learns of an enumeration when it is generated.
+DtValueForm DtCustomCodeTokens::valueForm() const
 {
+    const DtString& datatype = myMember.datatype;
+    DtToolkitLayout layout;
+    if (myTree != nullptr)
+        layout = toolkitLayoutOf(datatype, mapper().quorvexType(datatype), *myTree);
+    DtValueForm form = valueFormOf(datatype, encoding(), layout);
     const DtString representation = lastRepresentation();
-    return numberFormOfRepresentation(representation.isEmpty() ? myMember.datatype : representation);
+    if (layout.element.octets == 0)
+        form.number = numberFormOfRepresentation(representation.isEmpty() ? datatype : representation);
+    return form;
 }
 
 DtString DtCustomCodeTokens::encoding() const

@@ -1,7 +1,7 @@
 #ifndef CODE_GEN_APP_CUSTOM_CODE_TOKENS_H
 #define CODE_GEN_APP_CUSTOM_CODE_TOKENS_H
 
-#include "fileGenerator/numberForm.h"
+#include "fileGenerator/valueForm.h"
 
 class DtOMTTree;
 class DtOmtProject;
@@ -43,7 +43,7 @@ private:
     DtString enumerationRep() const;
     DtString lastRepresentation() const;
     DtString nextRepresentation(const DtString& datatype) const;
-    DtNumberForm numberForm() const;
+    DtValueForm valueForm() const;
     DtString encoding() const;
 
     const DtCustomCodeMember& myMember;

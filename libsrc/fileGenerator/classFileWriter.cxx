@@ -5,6 +5,8 @@
 #include "fileGenerator/namePattern.h"
 #include "fileGenerator/numberForm.h"
 #include "fileGenerator/omtEnvWriter.h"
+#include "fileGenerator/toolkitLayouts.h"
+#include "fileGenerator/valueForm.h"
 #include "foundation/stringUtils.h"
 
 #include <algorithm>
@@ -274,7 +276,8 @@ const DtClassFileWriter::DtTokens::Table& DtClassFileWriter::DtTokens::modules()
 const DtClassFileWriter::DtTokens::Table& DtClassFileWriter::DtTokens::encoding()
 {
     static const Row theRows[] = {
-        {"<!AttributeEncoding!>", OF_ATTRIBUTE(encodingOf(a))},
+        {"<!AttributeEncoding!>",     OF_ATTRIBUTE(encodingOf(a))},
+        {"<!AttributeWireEncoding!>", OF_ATTRIBUTE(valueFormOf(a).encoding)},
     };
     static const Table theTable(theRows);
     return theTable;
@@ -481,7 +484,7 @@ void DtClassFileWriter::writeIncludeFiles(std::istream& stream)
         myIncludeFiles.unique();
     }
     const std::streampos start = stream.tellg();
-    for (const DtString& include : myIncludeFiles)
+    for (const DtString& include : includes)
     {
         setCurrentInclude(include);
         writeBodyFrom(stream, start);

@@ -16,6 +16,7 @@
 #include "fileGenerator/relativePath.h"
 #include "fileGenerator/sharedNames.h"
 #include "fileGenerator/solutionsFileWriter.h"
+#include "fileGenerator/toolkitLayouts.h"
 #include "foundation/exception.h"
 #include "foundation/fileUtils.h"
 #include "foundation/stringUtils.h"

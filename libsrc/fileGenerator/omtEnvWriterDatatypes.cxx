@@ -9,6 +9,7 @@
 #include "fileGenerator/sharedNames.h"
 #include "fileGenerator/simpleDataTypeFileWriter.h"
 #include "fileGenerator/variantRecordFileWriter.h"
+#include "foundation/stringUtils.h"
 #include "omtReader/arrayDatatypeNode.h"
 #include "omtReader/basicDataRepresentationNode.h"
 #include "omtReader/complexDatatypeNode.h"
@@ -18,6 +19,7 @@
 #include "omtReader/simpleDatatypeNode.h"
 #include "omtReader/variantDatatypeNode.h"
 
+#include <algorithm>
 #include <type_traits>
 
 namespace

@@ -161,6 +161,8 @@ DtTemplateRules customCodeRules()
         "<!AttributeOctets!>",
         "<!AttributeEncoding!>",
         "<!AttributeIsLittleEndian!>",
+        "<!AttributeLayout!>",
+        "<!AttributeWireEncoding!>",
     };
     return rules;
 }

@@ -260,7 +260,7 @@ struct DtWireTraits<std::vector<Element>, void>
 private:
     static DtWireForm elementForm(const DtWireForm& form)
     {
-        return DtWireForm(form.representation, "", "", -1, form.octets, form.isLittleEndian);
+        return DtWireForm(form.representation, "", "", -1, form.octets, form.isLittleEndian, form.layout);
     }
 };
 

@@ -7,31 +7,88 @@
 
 #include <cstring>
 
+// One number of a record that a class of the toolkit stands for.
+struct DtPartForm
+{
+    unsigned int component; // of the toolkit's class, from 0, in the order of its constructor's arguments
+    unsigned int offset;    // in octets from the start of the record
+    unsigned int octets;
+    bool isSigned; // of a whole number
+    bool isLittleEndian;
+};
+
+// The parts of such a record in the order in which they lie on the wire. No parts: the model's datatype does not fit
+// into the toolkit's class, and its values are refused.
+struct DtRecordLayout
+{
+    unsigned int boundary; // in octets
+    unsigned int count;
+    const DtPartForm* parts;
+};
+
+// A part and a layout as generated code writes them:
+//
+//     &DtRecordOf<8, DtPart<2, 0, 8>, DtPart<1, 8, 8>, DtPart<0, 16, 8>>::theLayout // z, y and x, each of 8 octets
+template <unsigned int Component, unsigned int Offset, unsigned int Octets, bool Signed = false, bool Little = false>
+struct DtPart
+{
+    static constexpr DtPartForm form() { return {Component, Offset, Octets, Signed, Little}; }
+};
+
+template <unsigned int Boundary, class... Parts>
+struct DtRecordOf
+{
+    static const DtPartForm theParts[sizeof...(Parts)];
+    static const DtRecordLayout theLayout;
+};
+
+template <unsigned int Boundary, class... Parts>
+const DtPartForm DtRecordOf<Boundary, Parts...>::theParts[sizeof...(Parts)] = {Parts::form()...};
+
+template <unsigned int Boundary, class... Parts>
+const DtRecordLayout DtRecordOf<Boundary, Parts...>::theLayout = {Boundary, sizeof...(Parts), theParts};
+
+// The layout of what does not fit.
+template <unsigned int Boundary>
+struct DtRecordOf<Boundary>
+{
+    static const DtRecordLayout theLayout;
+};
+
+template <unsigned int Boundary>
+const DtRecordLayout DtRecordOf<Boundary>::theLayout = {Boundary, 0, nullptr};
+
+typedef DtRecordOf<1> DtMisfit;
+
 // Names out of a model: the datatype, the last representation that it leads to, and the encoding of an array or record;
 // with them what the model's tables give for the number that the datatype ends at.
 //
-// Made of literals in generated code. An empty name, a count of -1 and a length of 0 say nothing: the length and the
-// byte order then follow from the names, or from the local type.
+// Made of literals in generated code. An empty name, a count of -1, a length of 0 and no layout say nothing: the length
+// and the byte order then follow from the names, or from the local type; the classes of the toolkit lie as they usually
+// do. Where there is a length, the names of the datatype and the representation decide nothing.
 struct DtWireForm
 {
     constexpr DtWireForm(const char* datatypeName = "", const char* representationName = "",
                          const char* encodingName = "", int elementCount = -1, unsigned int numberOctets = 0,
-                         bool numberIsLittleEndian = false)
+                         bool numberIsLittleEndian = false, const DtRecordLayout* recordLayout = nullptr)
         : datatype(datatypeName),
           representation(representationName),
           encoding(encodingName),
           count(elementCount),
           octets(numberOctets),
-          isLittleEndian(numberIsLittleEndian)
+          isLittleEndian(numberIsLittleEndian),
+          layout(recordLayout)
     {
     }
+    bool isMisfit() const { return layout && !layout->parts; }
 
     const char* datatype;
     const char* representation;
     const char* encoding;
-    int count;           // elements of a fixed array, over all of its dimensions
-    unsigned int octets; // length of the number, or of one element
-    bool isLittleEndian; // counts together with octets only
+    int count;                    // elements of a fixed array, over all of its dimensions
+    unsigned int octets;          // length of the number, or of one element
+    bool isLittleEndian;          // counts together with octets only
+    const DtRecordLayout* layout; // of a toolkit class that holds a record; null: the usual one
 };
 
 // Length, sign and byte order of an integer that stands for an enumeration; 0 octets when nobody tells.

@@ -103,10 +103,12 @@ private:
     {
         return DtWireForm(form.representation, "", "", -1, form.octets, form.isLittleEndian);
     }
-    // A fixed string has the length of the form, or the one that its datatype's name ends with; without either it
-    // reaches to the end of the value.
+    // What the model defines has the layout of the form. Else a fixed string has the length of the form, or the one
+    // that its datatype's name ends with; without either it reaches to the end of the value.
     static DtArrayLayout layout(const DtWireForm& form)
     {
+        if (form.octets != 0)
+            return DtLayoutOf(form);
         if (DtTextIs(form.datatype, "string"))
             return DtArrayLayout(DtNullTerminatedArray);
         if (!DtTextIs(form.encoding, "HLAfixedArray") || form.count > 1)
@@ -124,23 +126,32 @@ private:
     }
 };
 
+// A text; null-terminated where the model does not say how it lies.
 template <>
 struct DtWireTraits<DtGlobalObjectDesignator, void>
 {
-    static DtWireForm form() { return DtWireForm("", "", "RPRnullTerminatedArray"); }
-    static void encode(DtWireWriter& writer, const DtGlobalObjectDesignator& value, const DtWireForm&)
+    static void encode(DtWireWriter& writer, const DtGlobalObjectDesignator& value, const DtWireForm& form)
     {
-        DtWireTraits<DtString>::encode(writer, value.name(), form());
+        DtWireTraits<DtString>::encode(writer, value.name(), textForm(form));
     }
-    static bool decode(DtWireReader& reader, DtGlobalObjectDesignator& value, const DtWireForm&)
+    static bool decode(DtWireReader& reader, DtGlobalObjectDesignator& value, const DtWireForm& form)
     {
         DtString name;
-        if (!DtWireTraits<DtString>::decode(reader, name, form()))
+        if (!DtWireTraits<DtString>::decode(reader, name, textForm(form)))
             return false;
         value = DtGlobalObjectDesignator(name);
         return true;
     }
-    static unsigned int boundary(const DtWireForm&, const DtWireTrail*) { return 1; }
+    static unsigned int boundary(const DtWireForm& form, const DtWireTrail* trail)
+    {
+        return DtWireTraits<DtString>::boundary(textForm(form), trail);
+    }
+
+private:
+    static DtWireForm textForm(const DtWireForm& form)
+    {
+        return form.octets != 0 ? form : DtWireForm("", "", "RPRnullTerminatedArray");
+    }
 };
 
 #endif

@@ -68,6 +68,8 @@ unsigned int DtBoundaryOf(const Type&, const DtWireForm& form)
 template <class Type>
 void DtEncodeValue(DtWireWriter& writer, const Type& value, const DtWireForm& form)
 {
+    if (form.isMisfit())
+        return writer.refuse("the model's datatype does not fit into the type of the toolkit");
     writer.pad(DtBoundaryOfType<Type>(form));
     DtWireTraits<Type>::encode(writer, value, form);
 }
@@ -77,6 +79,8 @@ bool DtDecodeValue(DtWireReader& reader, Type& value, const DtWireForm& form)
 {
     if (reader.isClosed())
         return reader.fail("something follows an array without length");
+    if (form.isMisfit())
+        return reader.fail("the model's datatype does not fit into the type of the toolkit");
     return reader.pad(DtBoundaryOfType<Type>(form)) && DtWireTraits<Type>::decode(reader, value, form);
 }
 

@@ -1,0 +1,188 @@
+#include "fileGenerator/datatypeShape.h"
+
+#include "foundation/stringUtils.h"
+#include "omtReader/omtTree.h"
+
+#include <algorithm>
+#include <set>
+
+namespace
+{
+
+constexpr int theMostSteps = 1000; // components looked at, so that records of empty records come to an end
+constexpr int theMostDepth = 32;
+
+struct DtArrayRow
+{
+    const char* encoding;
+    DtArrayLength length;
+};
+const DtArrayRow theArrays[] = {
+    {"",                       DtArrayLength::Open },
+    {"HLAvariableArray",       DtArrayLength::Open },
+    {"HLAfixedArray",          DtArrayLength::Fixed},
+    {"HLAnullTerminatedArray", DtArrayLength::Open },
+    {"NullTerminatedArray",    DtArrayLength::Open },
+    {"RPRnullTerminatedArray", DtArrayLength::Open },
+    {"HLAlengthlessVarArray",  DtArrayLength::Open },
+    {"RPRlengthlessArray",     DtArrayLength::Open },
+    {"HLAbitArray",            DtArrayLength::None },
+    {"BitArray",               DtArrayLength::None },
+};
+
+// The smallest power of two that is not below the length of a number.
+int boundaryOf(const DtNumberForm& form)
+{
+    int boundary = 1;
+    while (boundary < form.octets && boundary < 128)
+        boundary *= 2;
+    return boundary;
+}
+
+// Takes a datatype apart, one component after the other. Depth and steps are bounded: a model may be made so that its
+// records hold one another in a ring, or branch without end and without a number.
+class DtShapeWalk
+{
+public:
+    DtShapeWalk(const DtOMTTree& tree, std::size_t mostParts) : myTree(tree), myMostParts(mostParts) {}
+
+    DtDatatypeShape run(const DtString& datatype) { return of(datatype, DtString(), 0); }
+
+private:
+    DtDatatypeShape of(const DtString& datatype, const DtString& field, int depth)
+    {
+        if (depth > theMostDepth || ++mySteps > theMostSteps)
+            return faulty("holds itself or too many records");
+        const DtString name = belowSimpleTypes(datatype, myTree);
+        if (const DtFixedDatatypeNode* record = myTree.getFixedDatatypeNode(name))
+            return ofRecord(*record, depth);
+        if (const DtComplexDatatypeNode* record = myTree.getComplexDatatypeNode(name))
+            return ofRecord(*record, depth);
+        if (const DtArrayDatatypeNode* array = myTree.getArrayDatatypeNode(name))
+            return ofArray(array->getDatatype(), array->getEncoding(), elementCountOf(array->getCardinality()), depth);
+        return ofNumber(name, field);
+    }
+
+    template <typename Record>
+    DtDatatypeShape ofRecord(const Record& record, int depth)
+    {
+        DtDatatypeShape shape;
+        for (auto each = record.getComponentNodeList(); each != record.getComponentNodeEnd(); ++each)
+        {
+            if (!append(shape, ofComponent(**each, depth)))
+                break;
+        }
+        return shape;
+    }
+
+    DtDatatypeShape ofComponent(const DtFieldComponentNode& field, int depth)
+    {
+        return of(field.getDatatype(), field.getName(), depth + 1);
+    }
+    // A component of HLA 1.3 can be an array without having a datatype of its own for that.
+    DtDatatypeShape ofComponent(const DtComplexComponentNode& component, int depth)
+    {
+        const DtString& cardinality = component.getCardinality();
+        if (cardinality.isEmpty() || cardinality == "1")
+            return of(component.getDatatype(), component.getName(), depth + 1);
+        return ofArray(component.getDatatype(), "HLAfixedArray", elementCountOf(cardinality), depth);
+    }
+
+    DtDatatypeShape ofArray(const DtString& element, const DtString& encoding, int count, int depth)
+    {
+        if (lengthOfArray(encoding, count) != DtArrayLength::Fixed)
+            return faulty("holds an array that is not of fixed length");
+        const DtDatatypeShape one = of(element, DtString(), depth + 1);
+        DtDatatypeShape shape;
+        for (int index = 0; index < count; ++index)
+        {
+            if (!append(shape, one) || ++mySteps > theMostSteps)
+                break;
+        }
+        return shape;
+    }
+
+    DtDatatypeShape ofNumber(const DtString& name, const DtString& field) const
+    {
+        const DtNumberForm form = numberOf(name, myTree);
+        if (form.octets == 0)
+            return faulty(field.isEmpty() ? DtString("holds something that is no number")
+                                          : "has a member " + field + " that is no number");
+        DtDatatypeShape shape;
+        shape.parts.push_back({field, form, 0});
+        shape.octets = form.octets;
+        shape.boundary = boundaryOf(form);
+        return shape;
+    }
+
+    // Puts a member behind those that are there, at its boundary. False when the shape is at fault then.
+    bool append(DtDatatypeShape& shape, const DtDatatypeShape& member) const
+    {
+        const int start = (shape.octets + member.boundary - 1) / member.boundary * member.boundary;
+        for (DtShapePart part : member.parts)
+        {
+            part.offset += start;
+            shape.parts.push_back(part);
+        }
+        shape.octets = start + member.octets;
+        shape.boundary = std::max(shape.boundary, member.boundary);
+        shape.fault = member.fault;
+        if (shape.fault.isEmpty() && shape.parts.size() > myMostParts)
+            shape.fault = "has more than " + DtString(static_cast<int>(myMostParts)) + " members";
+        return shape.fault.isEmpty();
+    }
+
+    static DtDatatypeShape faulty(const DtString& fault)
+    {
+        DtDatatypeShape shape;
+        shape.fault = fault;
+        return shape;
+    }
+
+    const DtOMTTree& myTree;
+    std::size_t myMostParts;
+    int mySteps = 0;
+};
+
+} // namespace
+
+DtDatatypeShape shapeOf(const DtString& datatype, const DtOMTTree& tree, std::size_t mostParts)
+{
+    return DtShapeWalk(tree, mostParts).run(datatype);
+}
+
+DtString belowSimpleTypes(const DtString& datatype, const DtOMTTree& tree)
+{
+    std::set<DtString> visited;
+    DtString name = datatype;
+    while (visited.insert(name).second)
+    {
+        const DtSimpleDatatypeNode* simple = tree.getSimpleDatatypeNode(name);
+        if (simple == nullptr || simple->getRepresentation().isEmpty())
+            return name;
+        name = simple->getRepresentation();
+    }
+    return datatype;
+}
+
+DtNumberForm numberOf(const DtString& datatype, const DtOMTTree& tree)
+{
+    DtString name = belowSimpleTypes(datatype, tree);
+    if (const DtEnumeratedDatatypeNode* enumeration = tree.getEnumeratedDatatypeNode(name))
+        name = belowSimpleTypes(enumeration->getRepresentation(), tree);
+    if (tree.getArrayDatatypeNode(name) != nullptr || tree.getFixedDatatypeNode(name) != nullptr ||
+        tree.getVariantDatatypeNode(name) != nullptr || tree.getComplexDatatypeNode(name) != nullptr)
+        return {};
+    return numberFormOfRepresentation(name);
+}
+
+DtArrayLength lengthOfArray(const DtString& encoding, int elementCount)
+{
+    if (DtContainsSubstring(encoding, "addingTo"))
+        return DtArrayLength::None;
+    DtArrayLength length = elementCount > 0 ? DtArrayLength::Fixed : DtArrayLength::Open;
+    for (const DtArrayRow& row : theArrays)
+        if (encoding == row.encoding)
+            length = row.length;
+    return length == DtArrayLength::Fixed && elementCount < 0 ? DtArrayLength::None : length;
+}

@@ -1,0 +1,48 @@
+#ifndef FILE_GENERATOR_DATATYPE_SHAPE_H
+#define FILE_GENERATOR_DATATYPE_SHAPE_H
+
+#include "fileGenerator/numberForm.h"
+#include "foundation/string.h"
+
+#include <vector>
+
+class DtOMTTree;
+
+// One number of a datatype of fixed length.
+struct DtShapePart
+{
+    DtString name; // of the field that the number is; empty for elements of arrays
+    DtNumberForm form;
+    int offset = 0; // in octets from the start of the datatype
+};
+
+// A datatype taken apart into numbers: a record of numbers, with records in it and arrays of a fixed number of elements
+// (IEEE 1516.2, HLAfixedRecord and HLAfixedArray). Any other datatype has a fault, and what is said of its parts does
+// not count.
+struct DtDatatypeShape
+{
+    std::vector<DtShapePart> parts;
+    int octets = 0;
+    int boundary = 1;
+    DtString fault; // what stands in the way, as the rest of a sentence behind "it"
+};
+
+// The shape of a datatype. One with more than mostParts numbers is at fault, and so is one that holds itself.
+DtDatatypeShape shapeOf(const DtString& datatype, const DtOMTTree& tree, std::size_t mostParts);
+
+// The datatype that a chain of simple types ends at, the datatype itself included.
+DtString belowSimpleTypes(const DtString& datatype, const DtOMTTree& tree);
+
+// The number that a datatype is, looked up below simple types and enumerations; without octets when it is none.
+DtNumberForm numberOf(const DtString& datatype, const DtOMTTree& tree);
+
+// What the encoding and the cardinality of an array come to, as the wire layer of the toolkit reads them.
+enum class DtArrayLength
+{
+    Fixed, // a number of elements that the model gives
+    Open,  // counted, ended by a terminator, or up to the end of the value
+    None   // bits, padding, and fixed arrays without a number: these hold no elements that could be told apart
+};
+DtArrayLength lengthOfArray(const DtString& encoding, int elementCount);
+
+#endif

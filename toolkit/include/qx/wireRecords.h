@@ -1,0 +1,200 @@
+#ifndef QX_WIRE_RECORDS_H
+#define QX_WIRE_RECORDS_H
+
+// Classes of the toolkit that stand for a record of numbers. The layout of the form tells where each component lies and
+// how long it is; without one each class lies as it does in models that define nothing else.
+
+#include <qx/wireNumbers.h>
+
+// What DtRecordTraits asks of a class: the type and number of its components, the usual layout, the components of a
+// value, and the value of components; make answers false when a component is too large for the class.
+template <class Type>
+struct DtComponentsOf;
+
+template <class Number, int Tag>
+struct DtComponentsOf<DtTriple<Number, Tag>>
+{
+    typedef Number Component;
+    typedef DtRecordOf<sizeof(Number), DtPart<0, 0, sizeof(Number)>, DtPart<1, sizeof(Number), sizeof(Number)>,
+                       DtPart<2, 2 * sizeof(Number), sizeof(Number)>>
+        Usual;
+    enum
+    {
+        count = 3
+    };
+    static void take(const DtTriple<Number, Tag>& value, Component* components)
+    {
+        components[0] = value.x();
+        components[1] = value.y();
+        components[2] = value.z();
+    }
+    static bool make(DtTriple<Number, Tag>& value, const Component* components)
+    {
+        value = DtTriple<Number, Tag>(components[0], components[1], components[2]);
+        return true;
+    }
+};
+
+template <>
+struct DtComponentsOf<DtTaitBryan>
+{
+    typedef DtFloat32 Component;
+    typedef DtRecordOf<4, DtPart<0, 0, 4>, DtPart<1, 4, 4>, DtPart<2, 8, 4>> Usual;
+    enum
+    {
+        count = 3
+    };
+    static void take(const DtTaitBryan& value, Component* components)
+    {
+        components[0] = value.psi();
+        components[1] = value.theta();
+        components[2] = value.phi();
+    }
+    static bool make(DtTaitBryan& value, const Component* components)
+    {
+        value = DtTaitBryan(components[0], components[1], components[2]);
+        return true;
+    }
+};
+
+template <>
+struct DtComponentsOf<DtEntityType>
+{
+    typedef DtU16 Component;
+    typedef DtRecordOf<2, DtPart<0, 0, 1>, DtPart<1, 1, 1>, DtPart<2, 2, 2>, DtPart<3, 4, 1>, DtPart<4, 5, 1>,
+                       DtPart<5, 6, 1>, DtPart<6, 7, 1>>
+        Usual;
+    enum
+    {
+        count = 7
+    };
+    static void take(const DtEntityType& value, Component* components)
+    {
+        const Component taken[] = {value.kind(),        value.domain(),   value.country(), value.category(),
+                                   value.subCategory(), value.specific(), value.extra()};
+        std::memcpy(components, taken, sizeof taken);
+    }
+    static bool make(DtEntityType& value, const Component* c)
+    {
+        for (int i = 0; i < count; ++i)
+            if (i != 2 && c[i] > 0xff)
+                return false;
+        value = DtEntityType(static_cast<DtU8>(c[0]), static_cast<DtU8>(c[1]), c[2], static_cast<DtU8>(c[3]),
+                             static_cast<DtU8>(c[4]), static_cast<DtU8>(c[5]), static_cast<DtU8>(c[6]));
+        return true;
+    }
+};
+
+template <>
+struct DtComponentsOf<DtEntityIdentifier>
+{
+    typedef DtU16 Component;
+    typedef DtRecordOf<2, DtPart<0, 0, 2>, DtPart<1, 2, 2>, DtPart<2, 4, 2>> Usual;
+    enum
+    {
+        count = 3
+    };
+    static void take(const DtEntityIdentifier& value, Component* components)
+    {
+        components[0] = value.site();
+        components[1] = value.application();
+        components[2] = value.entity();
+    }
+    static bool make(DtEntityIdentifier& value, const Component* components)
+    {
+        value = DtEntityIdentifier(components[0], components[1], components[2]);
+        return true;
+    }
+};
+
+// A part that is a floating-point number, and one that is a whole number; components have no sign.
+inline void DtPutPart(DtWireWriter& writer, DtFloat64 component, const DtPartForm& part)
+{
+    DtPutNumber(writer, component, part.octets, part.isLittleEndian);
+}
+inline void DtPutPart(DtWireWriter& writer, DtFloat32 component, const DtPartForm& part)
+{
+    DtPutNumber(writer, component, part.octets, part.isLittleEndian);
+}
+inline void DtPutPart(DtWireWriter& writer, DtU16 component, const DtPartForm& part)
+{
+    if (!DtFitsInto(component, part.isSigned, part.octets))
+        return writer.refuse("the number is too large for its octets");
+    writer.putInteger(component, part.octets, part.isLittleEndian);
+}
+
+template <class Float>
+bool DtGetPart(DtWireReader& reader, Float& component, const DtPartForm& part)
+{
+    return DtGetNumber(reader, component, part.octets, part.isLittleEndian);
+}
+inline bool DtGetPart(DtWireReader& reader, DtU16& component, const DtPartForm& part)
+{
+    DtU64 bits = 0;
+    if (!reader.getInteger(bits, part.octets, part.isLittleEndian, part.isSigned))
+        return false;
+    if (bits > 0xffff)
+        return reader.fail("the number is too large for its type");
+    component = static_cast<DtU16>(bits);
+    return true;
+}
+
+template <class Type>
+struct DtRecordTraits
+{
+    typedef DtComponentsOf<Type> Components;
+
+    static void encode(DtWireWriter& writer, const Type& value, const DtWireForm& form)
+    {
+        const DtRecordLayout& layout = layoutOf(form);
+        const std::size_t start = writer.offset();
+        typename Components::Component components[Components::count];
+        Components::take(value, components);
+        for (unsigned int i = 0; i < layout.count; ++i)
+        {
+            while (writer.offset() < start + layout.parts[i].offset)
+                writer.putByte(0);
+            DtPutPart(writer, components[layout.parts[i].component], layout.parts[i]);
+        }
+    }
+    static bool decode(DtWireReader& reader, Type& value, const DtWireForm& form)
+    {
+        const DtRecordLayout& layout = layoutOf(form);
+        const std::size_t start = reader.offset();
+        typename Components::Component components[Components::count] = {};
+        for (unsigned int i = 0; i < layout.count; ++i)
+        {
+            const DtPartForm& part = layout.parts[i];
+            if (!reader.skip(start + part.offset - reader.offset()) ||
+                !DtGetPart(reader, components[part.component], part))
+                return false;
+        }
+        return Components::make(value, components) || reader.fail("the number is too large for its type");
+    }
+    static unsigned int boundary(const DtWireForm& form, const DtWireTrail*) { return layoutOf(form).boundary; }
+
+private:
+    static const DtRecordLayout& layoutOf(const DtWireForm& form)
+    {
+        return form.layout ? *form.layout : Components::Usual::theLayout;
+    }
+};
+
+template <class Number, int Tag>
+struct DtWireTraits<DtTriple<Number, Tag>, void> : DtRecordTraits<DtTriple<Number, Tag>>
+{
+};
+template <>
+struct DtWireTraits<DtTaitBryan, void> : DtRecordTraits<DtTaitBryan>
+{
+};
+template <>
+struct DtWireTraits<DtEntityType, void> : DtRecordTraits<DtEntityType>
+{
+};
+template <>
+struct DtWireTraits<DtEntityIdentifier, void> : DtRecordTraits<DtEntityIdentifier>
+{
+};
+
+#endif

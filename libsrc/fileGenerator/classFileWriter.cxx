@@ -2,6 +2,7 @@
 
 #include "fileGenerator/cCompatibleName.h"
 #include "fileGenerator/dataTypeMapper.h"
+#include "fileGenerator/datatypeClassNames.h"
 #include "fileGenerator/namePattern.h"
 #include "fileGenerator/numberForm.h"
 #include "fileGenerator/omtEnvWriter.h"
@@ -90,6 +91,18 @@ DtString encodingOf(const DtAttribute& attribute)
     if (datatype == "RTIobjectId" || datatype == "RTIObjectId")
         return "RPRnullTerminatedArray";
     return attribute.encoding().isEmpty() ? DtString("HLAvariableArray") : attribute.encoding();
+}
+
+DtValueForm valueFormOf(const DtAttribute& attribute)
+{
+    return valueFormOf(attribute.datatype(), encodingOf(attribute),
+                       DtToolkitLayouts::instance().of(attribute.datatype()));
+}
+
+// The C++ name of the attribute's type.
+DtString typeIdentifier(const DtAttribute& attribute)
+{
+    return identifier(DtDatatypeClassNames::instance().identifierOf(attribute.datatype(), attribute.type()));
 }
 
 DtString bareClassName(const DtString& className)
@@ -196,9 +209,12 @@ const DtClassFileWriter::DtTokens::Table& DtClassFileWriter::DtTokens::attribute
         {"<!AttributeIsString!>",                 OF_ATTRIBUTE(flag(isString(a)))},
         {"<!AttributeIsVariant!>",                OF_ATTRIBUTE(flag(a.isVariant()))},
         {"<!NonVectorDatatype!>",                 OF_ATTRIBUTE(a.nonVectorType())},
-        {"<!AttributeElementCount!>",             OF_ATTRIBUTE(DtString(elementCountOf(mapper().cardinalityOfArrayType(a.datatype()))))},
-        {"<!AttributeOctets!>",                   OF_ATTRIBUTE(DtString(numberFormOf(a.datatype()).octets))},
-        {"<!AttributeIsLittleEndian!>",           OF_ATTRIBUTE(numberFormOf(a.datatype()).isLittleEndian ? "1" : "0")},
+        {"<!AttributeElementCount!>",             OF_ATTRIBUTE(DtString(valueFormOf(a).count))},
+        {"<!AttributeOctets!>",                   OF_ATTRIBUTE(DtString(valueFormOf(a).number.octets))},
+        {"<!AttributeIsLittleEndian!>",           OF_ATTRIBUTE(valueFormOf(a).number.isLittleEndian ? "1" : "0")},
+        {"<!AttributeTypeIdentifier!>",           OF_ATTRIBUTE(typeIdentifier(a))},
+        {"<!AttributeIsNamesake!>",               OF_ATTRIBUTE(flag(DtDatatypeClassNames::instance().isNamesake(a.datatype())))},
+        {"<!AttributeLayout!>",                   OF_ATTRIBUTE(valueFormOf(a).layout)},
     };
     static const Table theTable(theRows);
     return theTable;
@@ -325,6 +341,8 @@ void DtClassFileWriter::writeMultipleTimes(const DtString& loopName, std::istrea
 {
     if (loopName == "IncludeFiles")
         writeIncludeFiles(stream);
+    else if (loopName == "NamesakeIncludeFiles")
+        writeNamesakeIncludeFiles(stream);
     else if (loopName == "Attributes")
         writeAttributes(stream);
     else if (loopName == "FomModules")
@@ -483,6 +501,25 @@ void DtClassFileWriter::writeIncludeFiles(std::istream& stream)
         compileIncludeList();
         myIncludeFiles.unique();
     }
+    writeIncludes(stream, myIncludeFiles);
+}
+
+// compileIncludeList() takes the types of namesakes for those of the toolkit.
+void DtClassFileWriter::writeNamesakeIncludeFiles(std::istream& stream)
+{
+    const DtDatatypeClassNames& names = DtDatatypeClassNames::instance();
+    std::list<DtString> includes;
+    for (const DtAttribute& attribute : attributeList())
+    {
+        if (names.isNamesake(attribute.datatype()) && names.contains(attribute.datatype()))
+            includes.push_back(names.fileStemOf(attribute.datatype()));
+    }
+    includes.unique();
+    writeIncludes(stream, includes);
+}
+
+void DtClassFileWriter::writeIncludes(std::istream& stream, const std::list<DtString>& includes)
+{
     const std::streampos start = stream.tellg();
     for (const DtString& include : includes)
     {

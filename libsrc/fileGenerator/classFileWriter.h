@@ -33,7 +33,8 @@ public:
     // Replaces the tokens in the order of the tables; a value that holds a token of a later row is expanded too.
     // Attribute tokens stay in the line while no attribute is current.
     void decodeFileLine(DtString& line) override;
-    // Knows "IncludeFiles", "Attributes" (which must not stand inside itself) and "FomModules".
+    // Knows "IncludeFiles", "NamesakeIncludeFiles" (the headers of generated types that are called like types of the
+    // toolkit), "Attributes" (which must not stand inside itself) and "FomModules".
     void writeMultipleTimes(const DtString& loopName, std::istream& stream) override;
 
     // Stores the class's short name and hands it to setClassName, from where every subclass derives its names.
@@ -98,6 +99,8 @@ private:
     struct DtTokens; // the tables
 
     void writeIncludeFiles(std::istream& stream);
+    void writeNamesakeIncludeFiles(std::istream& stream);
+    void writeIncludes(std::istream& stream, const std::list<DtString>& includes);
     void writeAttributes(std::istream& stream);
     void writeFomModules(std::istream& stream);
     void setCurrentInclude(const DtString& include);

@@ -22,6 +22,7 @@ void DtDataTypeFileWriter::decodeFileLine(DtString& line)
     if (DtHasToken(line))
     {
         line = DtReplaceAllSubstrings(line, "<!MyHeaderInclude!>", myFileStem + ".h");
+        line = DtReplaceAllSubstrings(line, "<!ClassIdentifier!>", classIdentifier());
         decodeOwnTokens(line);
     }
     DtClassFileWriter::decodeFileLine(line);
@@ -44,7 +45,8 @@ void DtDataTypeFileWriter::compileIncludeList()
         for (const DtAttribute& member : compiled.second)
         {
             const DtString& type = member.nonVectorType();
-            if (member.isEnumeration() || mapper.isKnownType(type) || isOwnClass(type))
+            const bool isOfToolkit = mapper.isKnownType(type) && !names.isNamesake(member.datatype());
+            if (member.isEnumeration() || isOfToolkit || isOwnClass(type))
                 continue;
             const DtString stem = names.fileStemOf(member.datatype());
             myIncludeFiles.push_back(stem.isEmpty() ? includeNameOf(type) : stem);
@@ -55,7 +57,7 @@ void DtDataTypeFileWriter::compileIncludeList()
 
 std::vector<DtString> DtDataTypeFileWriter::knownTokens() const
 {
-    std::vector<DtString> tokens = {"<!MyHeaderInclude!>"};
+    std::vector<DtString> tokens = {"<!MyHeaderInclude!>", "<!ClassIdentifier!>"};
     for (const DtTokenIndex* index : ownTokens())
     {
         for (int row = 0; row < index->size(); ++row)
@@ -107,6 +109,13 @@ void DtDataTypeFileWriter::setCurrentClass(const DtString& className, const std:
 DtString DtDataTypeFileWriter::identifier(const DtString& text)
 {
     return myNames.MakeCCompatibleString(text);
+}
+
+DtString DtDataTypeFileWriter::classIdentifier() const
+{
+    if (myCurrentDatatype == nullptr)
+        return DtClassFileWriter::identifierOf(myClassName);
+    return DtDatatypeClassNames::instance().identifierOf(myCurrentDatatype->getName(), myClassName);
 }
 
 void DtDataTypeFileWriter::writeClassDatatypes(std::istream& stream)

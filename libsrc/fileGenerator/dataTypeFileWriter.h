@@ -52,6 +52,8 @@ protected:
 
 private:
     void writeClassDatatypes(std::istream& stream);
+    // The C++ name of the current class.
+    DtString classIdentifier() const;
     bool isOwnClass(const DtString& type) const;
 
     DtCCompatibleNames& myNames;

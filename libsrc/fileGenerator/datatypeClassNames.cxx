@@ -34,6 +34,7 @@ DtString DtDatatypeClassNames::classNameOfStem(const DtString& stem)
 void DtDatatypeClassNames::clear()
 {
     myClassNames.clear();
+    myNamesakes.clear();
     myEnumerationRepresentations.clear();
 }
 
@@ -62,6 +63,18 @@ DtString DtDatatypeClassNames::fileStemOf(const DtString& datatype) const
     const DtString modelName = DtOMTEnvWriter::prefixName() + datatype;
     const bool startsSmall = !modelName.isEmpty() && DtToUpper(modelName[0]) != modelName[0];
     return startsSmall ? DtFirstCharToLower(bare) : DtFirstCharToLowerConditional(bare);
+}
+
+void DtDatatypeClassNames::addNamesake(const DtString& datatype, const DtString& statedName, const DtString& identifier)
+{
+    myNamesakes[datatype] = {statedName, identifier};
+}
+
+const DtString& DtDatatypeClassNames::identifierOf(const DtString& datatype, const DtString& statedName) const
+{
+    const auto namesake = myNamesakes.find(datatype);
+    const bool isNamed = namesake != myNamesakes.end() && namesake->second.statedName == statedName;
+    return isNamed ? namesake->second.identifier : statedName;
 }
 
 void DtDatatypeClassNames::addEnumeration(const DtString& enumeration, const DtString& representation)

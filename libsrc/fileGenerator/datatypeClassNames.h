@@ -31,13 +31,27 @@ public:
     // File name without directory and extension of that class; empty likewise.
     DtString fileStemOf(const DtString& datatype) const;
 
+    // Records that the toolkit has a type of the name that a generated class or enumeration is stated to have, and what
+    // it is called in C++ instead. The identifier may be that name where a namespace keeps the two apart.
+    void addNamesake(const DtString& datatype, const DtString& statedName, const DtString& identifier);
+    bool isNamesake(const DtString& datatype) const { return myNamesakes.count(datatype) != 0; }
+    // The C++ name of a type that is stated to be called so; that name itself unless it is the one of a namesake.
+    const DtString& identifierOf(const DtString& datatype, const DtString& statedName) const;
+
     // Records the model's representation of an enumeration.
     void addEnumeration(const DtString& enumeration, const DtString& representation);
     // Empty when it was not recorded.
     const DtString& enumerationRepresentation(const DtString& enumeration) const;
 
 private:
+    struct DtNamesake
+    {
+        DtString statedName;
+        DtString identifier;
+    };
+
     std::map<DtString, DtString> myClassNames;
+    std::map<DtString, DtNamesake> myNamesakes;
     std::map<DtString, DtString> myEnumerationRepresentations;
 };
 

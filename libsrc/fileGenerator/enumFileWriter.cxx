@@ -2,6 +2,7 @@
 
 #include "fileGenerator/classFileWriter.h"
 #include "fileGenerator/dataTypeMapper.h"
+#include "fileGenerator/datatypeClassNames.h"
 #include "fileGenerator/literalText.h"
 #include "fileGenerator/regularExpressionUtils.h"
 #include "foundation/stringUtils.h"
@@ -170,7 +171,8 @@ std::vector<DtString> DtEnumerationFileWriter::knownTokens()
 DtEnumerationFileWriter::DtNames DtEnumerationFileWriter::makeNames(const DtEnumeration& enumeration)
 {
     DtNames names;
-    names.type = DtClassFileWriter::identifierOf(createEnumerationName(enumeration));
+    names.type = DtDatatypeClassNames::instance().identifierOf(
+        enumeration.name(), DtClassFileWriter::identifierOf(createEnumerationName(enumeration)));
     names.isRepeated = !myTypeNames.insert(names.type).second;
     names.numberForm = enumeration.numberForm().octets > 0 ? enumeration.numberForm() : guessedForm(enumeration);
     if (names.isRepeated)

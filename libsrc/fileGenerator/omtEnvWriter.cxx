@@ -134,6 +134,9 @@ int DtOMTEnvWriter::writeFile(const DtString& fomName)
     makeDirectories();
     compileExportMacroName();
     checkUsedSubDatatypesFiles();
+    DtToolkitLayouts::instance().workOut(tree(), myUsedDatatypes);
+    warnOfByteOrders(tree());
+    recordNamesakes();
     setTotalProgress();
     myNextPduKind = myFirstPduKind;
     writeExportHeader();

@@ -151,6 +151,10 @@ private:
     template <typename Family>
     void recordClassNames(DtSharedClassNames& shared, DtHeldDatatypes& held);
     void recordAllClassNames();
+    // Finds the datatypes whose class or enumeration would be called like a type of the toolkit.
+    void recordNamesakes();
+    bool getsClass(const DtString& datatype) const;
+    bool isTakenByToolkit(const DtString& name) const;
 
     // Over the tree and the used datatypes as they are.
     DtDatatypeClosure closure();

@@ -5,9 +5,11 @@
 #include "fileGenerator/datatypeClassNames.h"
 #include "fileGenerator/fixedRecordsFileWriter.h"
 #include "fileGenerator/omtEnvWriter.h"
+#include "fileGenerator/omtProject.h"
 #include "fileGenerator/qtProgressMeter.h"
 #include "fileGenerator/sharedNames.h"
 #include "fileGenerator/simpleDataTypeFileWriter.h"
+#include "fileGenerator/toolkitNames.h"
 #include "fileGenerator/variantRecordFileWriter.h"
 #include "foundation/stringUtils.h"
 #include "omtReader/arrayDatatypeNode.h"
@@ -289,6 +291,54 @@ void DtOMTEnvWriter::recordAllClassNames()
     recordClassNames<DtFixedRecordFamily>(shared, held);
     recordClassNames<DtVariantRecordFamily>(shared, held);
     held.warn();
+}
+
+bool DtOMTEnvWriter::getsClass(const DtString& datatype) const
+{
+    if (tree().getSimpleDatatypeNode(datatype) != nullptr)
+        return isWanted<DtSimpleFamily>(datatype);
+    const bool isDefined =
+        tree().getEnumeratedDatatypeNode(datatype) != nullptr ||
+        tree().getBasicDataRepresentationNode(datatype) != nullptr ||
+        tree().getArrayDatatypeNode(datatype) != nullptr || tree().getFixedDatatypeNode(datatype) != nullptr ||
+        tree().getVariantDatatypeNode(datatype) != nullptr || tree().getComplexDatatypeNode(datatype) != nullptr;
+    return isDefined && isWanted<DtArrayFamily>(datatype);
+}
+
+// In a namespace, a generated type may be called like one of the toolkit that generated code never speaks of.
+bool DtOMTEnvWriter::isTakenByToolkit(const DtString& name) const
+{
+    if (!isToolkitName(name) || namespaceName().isEmpty())
+        return isToolkitName(name);
+    if (isToolkitNameInGeneratedCode(name) || myProject == nullptr)
+        return true;
+    const std::map<DtString, DtString>& predefined = myProject->predefinedTypes();
+    return std::any_of(predefined.begin(), predefined.end(), [&name](const auto& type) { return type.second == name; });
+}
+
+void DtOMTEnvWriter::recordNamesakes()
+{
+    std::map<DtString, DtString> statedNames;
+    std::set<DtString> taken;
+    for (const DtString& datatype : myUsedDatatypes)
+    {
+        if (!getsClass(datatype))
+            continue;
+        const bool isEnumeration = tree().getEnumeratedDatatypeNode(datatype) != nullptr; // these have no prefix
+        statedNames[datatype] = "Dt" + DtFirstCharToUpper(isEnumeration ? datatype : prefixName() + datatype);
+        taken.insert(statedNames[datatype]);
+    }
+    for (const auto& [datatype, statedName] : statedNames)
+    {
+        if (!isToolkitName(statedName))
+            continue;
+        DtString identifier = statedName;
+        while (isTakenByToolkit(identifier) || (identifier != statedName && taken.count(identifier) != 0))
+            identifier += "Type";
+        DtDatatypeClassNames::instance().addNamesake(datatype, statedName, identifier);
+        if (identifier != statedName)
+            warnOfNamesake(datatype, statedName, identifier);
+    }
 }
 
 void DtOMTEnvWriter::writeDataTypesFiles()

@@ -2,7 +2,6 @@
 
 #include "fileGenerator/cCompatibleName.h"
 #include "fileGenerator/classFileWriter.h"
-#include "fileGenerator/dataTypeMapper.h"
 #include "foundation/outputStream.h"
 #include "foundation/stringUtils.h"
 
@@ -27,9 +26,6 @@ bool isIdentifier(const DtString& name)
 
 void DtSharedClassNames::add(const DtString& datatype, const DtString& className)
 {
-    if (DtDataTypeMapper::instance()->isKnownType(className))
-        DtWarn << "Warning: Datatype " << datatype << " is called " << className
-               << " in C++, like a type of the toolkit.\n";
     if (!isIdentifier(className))
         DtWarn << "Warning: Datatype " << datatype << " is called " << className
                << " in C++, which is no identifier.\n";
@@ -75,6 +71,12 @@ void DtHeldDatatypes::warn() const
     for (const auto& [datatype, count] : counts)
         if (count != 0)
             DtWarn << "Warning: Datatype " << datatype << " holds itself, or one that does, which no C++ class can.\n";
+}
+
+void warnOfNamesake(const DtString& datatype, const DtString& statedName, const DtString& identifier)
+{
+    DtWarn << "Warning: Datatype " << datatype << " is called " << identifier << " in C++: the toolkit has a "
+           << statedName << " of its own. A class prefix or a namespace gives generated code other names.\n";
 }
 
 void warnOfParent(const DtString& className, const DtString& parent, bool isSelected, const DtString& parentName)

@@ -33,6 +33,9 @@ private:
     std::map<DtString, std::vector<DtString>> myMembers;
 };
 
+// A generated type that is not called as its datatype has it, since the toolkit has a type of that name.
+void warnOfNamesake(const DtString& datatype, const DtString& statedName, const DtString& identifier);
+
 // A class whose parent has no files: it was not selected, or they are named by another name than the class includes.
 void warnOfParent(const DtString& className, const DtString& parent, bool isSelected, const DtString& parentName);
 

@@ -620,12 +620,12 @@ void TestDataTypeFileWriters::knownTokensOfTheFamilies()
         }
         return tokens.join(' ');
     };
-    QCOMPARE(own(SimpleProbe("", "")), QString("<!MyHeaderInclude!> <!LocalTypeIsNotEncodeable!> <!NumberType!>"));
+    QCOMPARE(own(SimpleProbe("", "")), QString("<!MyHeaderInclude!> <!ClassIdentifier!> <!LocalTypeIsNotEncodeable!> <!NumberType!>"));
     QCOMPARE(own(BasicProbe("", "")),
-             QString("<!MyHeaderInclude!> <!LocalTypeIsNotEncodeable!> <!NumberType!> <!BasicSize!> "
+             QString("<!MyHeaderInclude!> <!ClassIdentifier!> <!LocalTypeIsNotEncodeable!> <!NumberType!> <!BasicSize!> "
                      "<!ClassPrefix!> <!size!> <!EndianMatch!>"));
     QCOMPARE(own(ArrayProbe("", "")),
-             QString("<!MyHeaderInclude!> <!LocalTypeIsNotEncodeable!> <!MyEncoding!> "
+             QString("<!MyHeaderInclude!> <!ClassIdentifier!> <!LocalTypeIsNotEncodeable!> <!MyEncoding!> "
                      "<!ClassPrefix!> <!ArrayElementCount!> <!ArrayEncoding!> <!TokenCardinality!>"));
 }
 

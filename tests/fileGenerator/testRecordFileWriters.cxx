@@ -732,15 +732,15 @@ void TestRecordFileWriters::knownTokensOfTheRecords()
             tokens << text(writer.knownTokens()[static_cast<std::size_t>(i)]);
         return tokens.join(' ');
     };
-    QCOMPARE(own(FixedProbe("", ""), 5),
-             QString("<!MyHeaderInclude!> <!LocalTypeIsNotEncodeable!> <!ClassNetName!> <!NetTypeIsVariableSize!> "
+    QCOMPARE(own(FixedProbe("", ""), 6),
+             QString("<!MyHeaderInclude!> <!ClassIdentifier!> <!LocalTypeIsNotEncodeable!> <!ClassNetName!> <!NetTypeIsVariableSize!> "
                      "<!NetTypeIsVariantRecord!>"));
-    QCOMPARE(own(VariantProbe("", ""), 9),
-             QString("<!MyHeaderInclude!> <!LocalTypeIsNotEncodeable!> <!ClassNetName!> <!ClassDiscriminantName!> "
+    QCOMPARE(own(VariantProbe("", ""), 10),
+             QString("<!MyHeaderInclude!> <!ClassIdentifier!> <!LocalTypeIsNotEncodeable!> <!ClassNetName!> <!ClassDiscriminantName!> "
                      "<!ClassDiscriminantType!> <!ClassEncoding!> <!AlternativeSelector!> "
                      "<!CurrentDiscriminantEnumerator!> <!NetTypeIsVariantRecord!>"));
-    QCOMPARE(own(ComplexProbe("", ""), 6),
-             QString("<!MyHeaderInclude!> <!ArrayFileToInclude!> <!DatatypeArrayName!> <!NonDtDatatypeArrayName!> "
+    QCOMPARE(own(ComplexProbe("", ""), 7),
+             QString("<!MyHeaderInclude!> <!ClassIdentifier!> <!ArrayFileToInclude!> <!DatatypeArrayName!> <!NonDtDatatypeArrayName!> "
                      "<!IsBasicType!> <!OctetBoundary!>"));
 }
 

@@ -226,6 +226,7 @@ DtTemplateRules classRules()
         if (rules.freeTokens.count(token) == 0)
             rules.loops["Attributes"].insert(token);
     moveTokens(rules, "IncludeFiles", {"<!FileToInclude!>"});
+    rules.loops["NamesakeIncludeFiles"] = rules.loops["IncludeFiles"];
     moveTokens(rules, "FomModules", {"<!FomModule!>"});
     for (const QString& token : known)
         if (!rules.knows(token))

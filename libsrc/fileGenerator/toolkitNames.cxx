@@ -1,0 +1,66 @@
+#include "fileGenerator/toolkitNames.h"
+
+#include <algorithm>
+#include <cstring>
+#include <iterator>
+
+namespace
+{
+
+// Both tables are in the order of strcmp.
+// clang-format off
+const char* const theNamesInGeneratedCode[] = {
+    "DtAlternativeTable", "DtArrayBoundary", "DtArrayLayout", "DtBoundaryOfType", "DtDecodeAlternative",
+    "DtDecodeArray", "DtDecodeNoAlternative", "DtDecodeValue", "DtDisPublisherBase", "DtDisReflectedList",
+    "DtDisReflectedObject", "DtEncodeAlternative", "DtEncodeArray", "DtEncodeNoAlternative", "DtEncodeValue",
+    "DtEnumerator", "DtEnumeratorInTurn", "DtEnumeratorTable", "DtEnumeratorsOf", "DtExerciseConn",
+    "DtExerciseObjectId", "DtFixedArray", "DtGetNumber", "DtHlaPublisherBase", "DtHlaReflectedList",
+    "DtHlaReflectedObject", "DtHlaStateDecoder", "DtHlaStateEncoder", "DtInt64", "DtInteraction",
+    "DtInteractionCoding", "DtInteractionDecoder", "DtInteractionEncoder", "DtInteractionWithEncDec",
+    "DtLargerBoundary", "DtLayoutOf", "DtMisfit", "DtNamesOfType", "DtNetSizeOf", "DtNumberBoundary", "DtNumberForm",
+    "DtNumberOfDiscriminant", "DtOpaqueValue", "DtPart", "DtPutNumber", "DtReadValue", "DtRecordOf", "DtRecordScope",
+    "DtSharedDecoder", "DtSharedEncoder", "DtStateDecoder", "DtStateEncoder", "DtStateRepository", "DtValueText",
+    "DtVariantBoundary", "DtVariantKind", "DtVariantKindOf", "DtWireForm", "DtWireReader", "DtWireTrail",
+    "DtWireWriter", "DtWriteValue",
+};
+
+const char* const theOtherNames[] = {
+    "DtAppendUtf8", "DtArrayKind", "DtAttributeValues", "DtBoundaryOf", "DtBufferDecoder", "DtBufferEncoder",
+    "DtComponentsOf", "DtDecodeElements", "DtDecodeLengthlessArray", "DtDecodePdu", "DtDecodeTerminatedArray",
+    "DtDecodeValues", "DtElementReader", "DtEncodePdu", "DtEncodeTerminatedArray", "DtEncodeValues", "DtEncodedTime",
+    "DtEntityIdentifier", "DtEntityType", "DtEnumeratorSelector", "DtExercise", "DtExerciseEvent", "DtExerciseLink",
+    "DtExerciseMember", "DtExerciseObserver", "DtExtendableVariant", "DtExtendedVariant", "DtFitsInto", "DtFloat",
+    "DtFloat32", "DtFloat64", "DtGetPart", "DtGlobalObjectDesignator", "DtHasByteOrder", "DtHexText",
+    "DtHlaLogicalTime", "DtHlaLogicalTimeInterval", "DtInt16", "DtInt32", "DtInt8", "DtIsLittleEndian",
+    "DtIsUnsignedByName", "DtIsWideString", "DtLEFloat32", "DtLEFloat64", "DtLEInt16", "DtLEInt32", "DtLEU16",
+    "DtLEU32", "DtLEU64", "DtLEU8", "DtLengthlessArray", "DtMessageObserver", "DtNarrowText", "DtNetBoolean",
+    "DtNetEntityIdentifier", "DtNetEntityType", "DtNetEulerAngles", "DtNetFloat32", "DtNetFloat64", "DtNetInt16",
+    "DtNetInt32", "DtNetInt64", "DtNetPduHeader", "DtNetU16", "DtNetU32", "DtNetU64", "DtNetU8", "DtNetVector32",
+    "DtNetVector64", "DtNullTerminatedArray", "DtNumberImage", "DtOctetsByName", "DtPaddingArray", "DtPaddingUnit",
+    "DtPartForm", "DtPduObserver", "DtPlainVariant", "DtPublisherBase", "DtPutAlternativeLength", "DtPutPart",
+    "DtQuotedText", "DtRecordLayout", "DtRecordTraits", "DtReflectedListBase", "DtReflectedObjectBase",
+    "DtRepresentationOf", "DtSelectorRange", "DtSplitAlternative", "DtStateMsg", "DtString", "DtTaitBryan",
+    "DtTerminator", "DtTextIs", "DtTextTraits", "DtTrailingNumber", "DtTriple", "DtU16", "DtU32", "DtU64", "DtU8",
+    "DtUnknownArray", "DtValueBuffer", "DtVariableArray", "DtVector", "DtVector32", "DtVector64", "DtVectorImage",
+    "DtWideUnits", "DtWireTraits",
+};
+// clang-format on
+
+template <std::size_t N>
+bool contains(const char* const (&names)[N], const DtString& name)
+{
+    return std::binary_search(std::begin(names), std::end(names), name.c_str(),
+                              [](const char* a, const char* b) { return std::strcmp(a, b) < 0; });
+}
+
+} // namespace
+
+bool isToolkitName(const DtString& name)
+{
+    return contains(theNamesInGeneratedCode, name) || contains(theOtherNames, name);
+}
+
+bool isToolkitNameInGeneratedCode(const DtString& name)
+{
+    return contains(theNamesInGeneratedCode, name);
+}

@@ -2,7 +2,8 @@
  
 #include "DataTypes/reading.h"
 
-DtReading::DtReading() : Own()
+DtReading::DtReading()
+    : Own()
 {
 }
  

@@ -7,7 +7,8 @@
 namespace garden
 {
  
-DtQxPacket::DtQxPacket() : Own()
+DtQxPacket::DtQxPacket()
+    : Own()
 {
 }
  

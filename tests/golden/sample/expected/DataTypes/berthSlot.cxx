@@ -2,7 +2,8 @@
  
 #include "DataTypes/berthSlot.h"
 
-DtBerthSlot::DtBerthSlot() : Own()
+DtBerthSlot::DtBerthSlot()
+    : Own()
 {
 }
  

@@ -2,7 +2,7 @@
  
 #include "DataTypes/empty__Record.h"
 
-DtEmpty__Record::DtEmpty__Record() : Own()
+DtEmpty__Record::DtEmpty__Record()
 {
 }
  

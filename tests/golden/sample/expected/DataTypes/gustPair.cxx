@@ -2,7 +2,8 @@
  
 #include "DataTypes/gustPair.h"
 
-DtGustPair::DtGustPair() : Own()
+DtGustPair::DtGustPair()
+    : Own()
 {
 }
  

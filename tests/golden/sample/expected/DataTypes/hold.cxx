@@ -2,7 +2,8 @@
  
 #include "DataTypes/hold.h"
 
-DtHold::DtHold() : Own()
+DtHold::DtHold()
+    : Own()
 {
 }
  

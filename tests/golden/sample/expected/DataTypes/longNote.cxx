@@ -2,7 +2,8 @@
  
 #include "DataTypes/longNote.h"
 
-DtLongNote::DtLongNote() : Own()
+DtLongNote::DtLongNote()
+    : Own()
 {
 }
  

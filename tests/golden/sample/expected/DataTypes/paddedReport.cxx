@@ -2,7 +2,8 @@
  
 #include "DataTypes/paddedReport.h"
 
-DtPaddedReport::DtPaddedReport() : Own()
+DtPaddedReport::DtPaddedReport()
+    : Own()
 {
 }
  

@@ -2,7 +2,8 @@
  
 #include "DataTypes/person.h"
 
-DtPerson::DtPerson() : Own()
+DtPerson::DtPerson()
+    : Own()
 {
 }
  

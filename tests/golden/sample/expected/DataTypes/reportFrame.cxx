@@ -2,7 +2,8 @@
  
 #include "DataTypes/reportFrame.h"
 
-DtReportFrame::DtReportFrame() : Own()
+DtReportFrame::DtReportFrame()
+    : Own()
 {
 }
  

@@ -2,7 +2,8 @@
  
 #include "DataTypes/rotation.h"
 
-DtRotation::DtRotation() : Own()
+DtRotation::DtRotation()
+    : Own()
 {
 }
  

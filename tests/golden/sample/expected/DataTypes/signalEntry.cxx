@@ -2,7 +2,8 @@
  
 #include "DataTypes/signalEntry.h"
 
-DtSignalEntry::DtSignalEntry() : Own()
+DtSignalEntry::DtSignalEntry()
+    : Own()
 {
 }
  

@@ -2,7 +2,8 @@
  
 #include "DataTypes/tideMark.h"
 
-DtTideMark::DtTideMark() : Own()
+DtTideMark::DtTideMark()
+    : Own()
 {
 }
  

@@ -2,7 +2,8 @@
  
 #include "DataTypes/windRecord.h"
 
-DtWindRecord::DtWindRecord() : Own()
+DtWindRecord::DtWindRecord()
+    : Own()
 {
 }
  

@@ -36,6 +36,21 @@ bool canOpen(const DtFilename& path)
     DtFileClose(file);
     return file != nullptr;
 }
+
+// The models with name and directory joined. Several models by bare name would come from the working directory, where
+// it has files of these names, and not from where the project's were found.
+std::vector<DtCodeGenAppGui::DtModelFile> joinedPaths(const std::vector<DtCodeGenAppGui::DtModelFile>& models)
+{
+    std::vector<DtCodeGenAppGui::DtModelFile> paths;
+    paths.reserve(models.size());
+    for (const auto& [name, directory] : models)
+    {
+        DtFilename path(directory);
+        path.append(name);
+        paths.emplace_back(path, DtString());
+    }
+    return paths;
+}
 } // namespace
 
 void DtCodeGenAppGui::slot_newOmtProject()
@@ -123,7 +138,7 @@ void DtCodeGenAppGui::loadOmtProject(const DtFilename& path)
         return;
     }
     if (models.size() > 1)
-        loadFiles(models);
+        loadFiles(joinedPaths(models));
     else
         loadFile(models.front().first, models.front().second);
     setValidProject(true);

@@ -57,6 +57,14 @@ private:
     {
         return QString(isEnabled("Save Project") ? "save " : "") + (isEnabled("Import FOM") ? "import" : "");
     }
+    QString readClasses(const QByteArray& stem) const // letters of the classes of that stem in the tree
+    {
+        QString letters;
+        for (const char letter : {'A', 'B'})
+            if (myWindow->tree()->getObjectClassNode(("HLAobjectRoot." + stem + letter).constData()) != nullptr)
+                letters += QLatin1Char(letter);
+        return letters;
+    }
     int topItems(bool right) const
     {
         const DtListViewManager& manager = *myWindow->listViewManager();
@@ -487,6 +495,43 @@ private Q_SLOTS:
         myWindow->loadOmtProject(file("p.qxproj"));
         QVERIFY(myWindow->isValidProject() && myWindow->isFileLoaded());
         QCOMPARE(QString(myWindow->loadedFiles().front().second.c_str()), expected.replace("%", myProgram->path("")));
+    }
+
+    void locatedModelsWinOverFilesOfTheWorkingDirectory_data()
+    {
+        QTest::addColumn<QStringList>("names");
+        QTest::addColumn<bool>("isAbsolute");
+        QTest::newRow("one model") << QStringList{"a.xml"} << false;
+        QTest::newRow("one model, absolute location") << QStringList{"a.xml"} << true;
+        QTest::newRow("two models") << QStringList{"a.xml", "b.xml"} << false;
+        QTest::newRow("two models, absolute location") << QStringList{"a.xml", "b.xml"} << true;
+    }
+    void locatedModelsWinOverFilesOfTheWorkingDirectory()
+    {
+        QFETCH(QStringList, names);
+        QFETCH(bool, isAbsolute);
+        const QByteArray where = isAbsolute ? location("bin/sub/") : QByteArray("sub/");
+        QByteArray entries;
+        for (const QString& name : names)
+        {
+            const QByteArray letter = name.left(1).toUpper().toLatin1();
+            writeTextFile(myProgram->path("bin/sub/") + name, moduleText(objectText("Located" + letter)));
+            writeTextFile(myProgram->path("bin/") + name, moduleText(objectText("Stray" + letter)));
+            entries += fomText(name.toLatin1(), where);
+        }
+        write("p.qxproj", projectText(entries));
+        for (int load = 0; load < 2; ++load) // the project as written by hand, then as the program saves it
+        {
+            myWindow = myProgram->makeWindow();
+            myWindow->loadOmtProject(file("p.qxproj"));
+            QCOMPARE(readClasses("Stray"), QString());
+            QCOMPARE(readClasses("Located"), names.size() == 1 ? QString("A") : QString("AB"));
+            QCOMPARE(myWindow->loadedFiles().size(), static_cast<std::size_t>(names.size()));
+            myWindow->saveOmtProject();
+            QVERIFY(text("p.qxproj").contains(fomText("a.xml", where)));
+            QCOMPARE(text("p.qxproj").contains(fomText("b.xml", where)), names.size() == 2);
+            QCOMPARE(text("p.qxproj").count("<fom "), names.size());
+        }
     }
 
     void directoryIsNoModelFile()

@@ -79,6 +79,8 @@ public:
     [[noreturn]] void leave(int exitCode);
 
 private:
+    using TCLAP::CmdLine::parse; // out of reach: they do not know how this program ends
+
     void parseArguments(std::vector<std::string>& arguments);
     int claim(int& index, std::vector<std::string>& arguments);
     void addBuiltIn(Arg& argument);

@@ -38,7 +38,6 @@ public:
 private:
     void deriveIfStale() const;
     void deriveFromFixedEncoding() const;
-    void deriveFromCardinality() const;
     void setDimensions() const;
     void setBounds() const;
     void setLength(int length) const;

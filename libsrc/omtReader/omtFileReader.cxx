@@ -1,5 +1,6 @@
 #include "omtReader/omtFileReader.h"
 
+#include "foundation/mtlReader.h"
 #include "foundation/outputStream.h"
 #include "foundation/xmlText.h"
 #include "omtReader/omtItems.h"

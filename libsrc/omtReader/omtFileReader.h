@@ -1,7 +1,8 @@
 #ifndef OMT_READER_OMT_FILE_READER_H
 #define OMT_READER_OMT_FILE_READER_H
 
-#include "foundation/mtlReader.h"
+#include "foundation/mtlInputStream.h"
+#include "foundation/mtlObject.h"
 #include "omtReader/omtReadException.h"
 #include "omtReader/omtTree.h"
 

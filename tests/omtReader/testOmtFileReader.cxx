@@ -1,3 +1,4 @@
+#include "foundation/mtlReader.h"
 #include "omtText.h"
 #include "registerTest.h"
 

@@ -2,31 +2,13 @@
 
 #include "fileGenerator/omtProject.h"
 #include "foundation/fileUtils.h"
+#include "foundation/xmlDocumentOwner.h"
 
-#include <libxml/parser.h>
-
-#include <climits>
 #include <cstring>
-#include <memory>
 #include <string>
 
 namespace
 {
-
-struct DtFreeDocument
-{
-    void operator()(xmlDoc* document) const { xmlFreeDoc(document); }
-};
-using DtDocument = std::unique_ptr<xmlDoc, DtFreeDocument>;
-
-// Null when the text is not XML, which nobody is told.
-DtDocument parse(const std::string& text)
-{
-    if (text.size() > INT_MAX)
-        return nullptr;
-    const int options = XML_PARSE_NONET | XML_PARSE_NOERROR | XML_PARSE_NOWARNING;
-    return DtDocument(xmlReadMemory(text.data(), static_cast<int>(text.size()), nullptr, nullptr, options));
-}
 
 bool isSkipped(const xmlNode* node)
 {
@@ -105,7 +87,7 @@ void DtOmtProjectXmlReader::readXml(DtOmtProject& project)
     std::string text;
     if (!DtReadFile(myFileName, text))
         return;
-    const DtDocument document = parse(text);
+    const DtXmlDocument document = DtParseXmlQuietly(text); // what is no XML is a file without a project
     const xmlNode* root = xmlDocGetRootElement(document.get());
     if (root == nullptr)
         return;

@@ -1,6 +1,7 @@
 #include "codeGenApp/omtProjectXmlWriter.h"
 
 #include "foundation/fileUtils.h"
+#include "foundation/xmlDocumentOwner.h"
 #include "foundation/xmlText.h"
 
 #include <libxml/xmlerror.h>
@@ -13,12 +14,6 @@ namespace
 {
 
 const char theEncoding[] = "utf-8";
-
-struct DtFreeDocument
-{
-    void operator()(xmlDoc* document) const { xmlFreeDoc(document); }
-};
-using DtDocument = std::unique_ptr<xmlDoc, DtFreeDocument>;
 
 struct DtFreeWriter
 {
@@ -63,7 +58,7 @@ void DtOmtProjectXmlWriter::writeXml()
     xmlResetLastError();
     writeDocument(writer.get());
     writer.reset(); // before the document, which it still uses
-    const DtDocument owner(document);
+    const DtXmlDocument owner(document);
     myIsWritten = myIsComplete && !hasXmlError() && save(document);
     if (!myIsWritten)
         complain("Error at xmlSaveFormatFileEnc\n");

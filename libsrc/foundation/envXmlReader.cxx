@@ -1,10 +1,7 @@
 #include "foundation/envXmlReader.h"
 
 #include "foundation/fileUtils.h"
-
-#include <climits>
-#include <libxml/parser.h>
-#include <libxml/tree.h>
+#include "foundation/xmlDocumentOwner.h"
 
 namespace
 {
@@ -52,11 +49,9 @@ DtEnvironment DtEnvXMLReader::readFile(const DtString& fileName, bool* result) c
     bool& isGood = result != nullptr ? *result : ignored;
     isGood = false;
     std::string text;
-    if (!DtReadFile(fileName, text) || text.size() > INT_MAX)
+    if (!DtReadFile(fileName, text))
         return DtEnvironment();
-    const int options = XML_PARSE_NONET | XML_PARSE_NOERROR | XML_PARSE_NOWARNING;
-    const std::unique_ptr<xmlDoc, decltype(&xmlFreeDoc)> document(
-        xmlReadMemory(text.data(), static_cast<int>(text.size()), nullptr, nullptr, options), xmlFreeDoc);
+    const DtXmlDocument document = DtParseXmlQuietly(text);
     const xmlNode* const root = document != nullptr ? xmlDocGetRootElement(document.get()) : nullptr;
     isGood = root != nullptr;
     return root != nullptr ? DtEnvironment(makeObject(root, myKeepComments)) : DtEnvironment();

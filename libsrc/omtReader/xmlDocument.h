@@ -2,18 +2,12 @@
 #define OMT_READER_XML_DOCUMENT_H
 
 #include "foundation/string.h"
+#include "foundation/xmlDocumentOwner.h"
 
 #include <libxml/tree.h>
 #include <libxml/xmlerror.h>
 
 #include <cstdio>
-#include <memory>
-
-struct DtFreeXmlDocument
-{
-    void operator()(xmlDoc* document) const { xmlFreeDoc(document); }
-};
-using DtXmlDocument = std::unique_ptr<xmlDoc, DtFreeXmlDocument>;
 
 // Keeps the XML parser from writing to the console for as long as it lives, and remembers what first made a document
 // unusable. One may live inside another; the inner one listens.

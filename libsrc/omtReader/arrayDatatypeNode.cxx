@@ -17,20 +17,20 @@ int integerOf(const std::string& text)
 struct DtEncodingRow
 {
     const char* encoding;
-    int type;
-    int typeOfText; // when the elements are "HLAASCIIchar"
+    DtArrayCardinality kind;
+    DtArrayCardinality kindOfText; // when the elements are "HLAASCIIchar"
 };
 
-//   encoding                   type  of text
+//   encoding                  kind                   of text
 const DtEncodingRow theEncodings[] = {
-    {"HLAbitArray",            7,  7 },
-    {"BitArray",               7,  7 },
-    {"HLAnullTerminatedArray", 4,  4 },
-    {"NullTerminatedArray",    4,  4 },
-    {"RPRnullTerminatedArray", 4,  4 },
-    {"HLAlengthlessVarArray",  8,  4 },
-    {"RPRlengthlessArray",     8,  4 },
-    {"HLAvariableArray",       10, 10},
+    {"HLAbitArray",            DtArrayOfBits,         DtArrayOfBits        },
+    {"BitArray",               DtArrayOfBits,         DtArrayOfBits        },
+    {"HLAnullTerminatedArray", DtArrayNullTerminated, DtArrayNullTerminated},
+    {"NullTerminatedArray",    DtArrayNullTerminated, DtArrayNullTerminated},
+    {"RPRnullTerminatedArray", DtArrayNullTerminated, DtArrayNullTerminated},
+    {"HLAlengthlessVarArray",  DtArrayLengthless,     DtArrayNullTerminated},
+    {"RPRlengthlessArray",     DtArrayLengthless,     DtArrayNullTerminated},
+    {"HLAvariableArray",       DtArrayVariable,       DtArrayVariable      },
 };
 } // namespace
 
@@ -49,7 +49,7 @@ void DtArrayDatatypeNode::setEncoding(const DtString& encoding)
 int DtArrayDatatypeNode::getCardinalityType() const
 {
     deriveIfStale();
-    return myCardinalityType;
+    return myKind;
 }
 
 int DtArrayDatatypeNode::getCardinalityMinimum() const
@@ -79,20 +79,20 @@ void DtArrayDatatypeNode::deriveIfStale() const
 void DtArrayDatatypeNode::setDerivedValues() const
 {
     myIsStale = false;
-    myCardinalityType = 8;
+    myKind = DtArrayLengthless;
     myCardinalityMinimum = 0;
     myCardinalityMaximum = -1;
     for (const DtEncodingRow& row : theEncodings)
     {
         if (myEncoding == row.encoding)
         {
-            myCardinalityType = getDatatype() == "HLAASCIIchar" ? row.typeOfText : row.type;
+            myKind = getDatatype() == "HLAASCIIchar" ? row.kindOfText : row.kind;
             return;
         }
     }
     if (DtContainsSubstring(myEncoding, "addingTo"))
     {
-        myCardinalityType = 5;
+        myKind = DtArrayPadded;
         myCardinalityMaximum = extractInteger(myEncoding) / 8;
     }
     else if (myEncoding == "HLAfixedArray")
@@ -113,14 +113,14 @@ void DtArrayDatatypeNode::deriveFromFixedEncoding() const
 
 void DtArrayDatatypeNode::setLength(int length) const
 {
-    myCardinalityType = 1;
+    myKind = DtArrayFixed;
     myCardinalityMinimum = length;
     myCardinalityMaximum = length;
 }
 
 void DtArrayDatatypeNode::setDimensions() const
 {
-    myCardinalityType = 9;
+    myKind = DtArrayMultiDim;
     for (const DtString& piece : DtSplit(myCardinality, ','))
         myDimensions.push_back(integerOf(piece.stdString()));
 }
@@ -135,7 +135,7 @@ void DtArrayDatatypeNode::setBounds() const
     const std::size_t close = secondDot != std::string::npos ? text.find(']', secondDot) : secondDot;
     if (close == std::string::npos)
         return;
-    myCardinalityType = 2;
+    myKind = DtArrayBounded;
     myCardinalityMinimum = integerOf(text.substr(open + 1, firstDot - open - 1));
     myCardinalityMaximum = integerOf(text.substr(secondDot + 1, close - secondDot - 1));
 }

@@ -5,18 +5,24 @@
 
 #include <vector>
 
+// How the number of elements of an array is told: what getCardinalityType() of an array answers. Behind each kind stand
+// the minimum and the maximum that go with it.
+enum DtArrayCardinality : int
+{
+    DtArrayNotDerived = 0,     // -1 and -1: neither encoding nor cardinality was set
+    DtArrayFixed = 1,          // the length, twice
+    DtArrayBounded = 2,        // a and b of the cardinality "[a..b]"
+    DtArrayNullTerminated = 4, // 0 and -1: a terminator ends it
+    DtArrayPadded = 5,         // 0 and the padding in bytes
+    DtArrayOfBits = 7,         // 0 and -1
+    DtArrayLengthless = 8,     // 0 and -1: nothing in it tells where it ends
+    DtArrayMultiDim = 9,       // 0 and -1: the lengths of the cardinality "a,b" are in the dimensions
+    DtArrayVariable = 10       // 0 and -1: the length stands ahead of the elements
+};
+
 // An array datatype; its datatype is that of the elements.
 //
-// Type and bounds are derived from encoding and cardinality when they are asked for after either was set:
-//   type  array
-//   1     of fixed length                          minimum and maximum are the length
-//   2     of fixed encoding with bounds "[a..b]"   a and b
-//   4     ended by a terminator                    0 and -1
-//   5     padded                                   0 and the padding in bytes
-//   7     of bits                                  0 and -1
-//   8     without a length                         0 and -1
-//   9     of several dimensions "a,b"              0 and -1, lengths in the dimensions
-//   10    with its length ahead                    0 and -1
+// Kind and bounds are derived from encoding and cardinality when they are asked for after either was set.
 class DtArrayDatatypeNode : public DtOMTDatatypeNode
 {
 public:
@@ -26,13 +32,13 @@ public:
     virtual const DtString& getEncoding() const { return myEncoding; }
     virtual void setDescription(const DtString& description) { myDescription = description; }
     virtual const DtString& getDescription() const { return myDescription; }
-    virtual int getCardinalityType() const;
+    virtual int getCardinalityType() const; // a DtArrayCardinality
     virtual int getCardinalityMinimum() const;
     virtual int getCardinalityMaximum() const;
-    // Every derivation of a type 9 appends its dimensions to those already there.
+    // Every derivation of an array of several dimensions appends its dimensions to those already there.
     virtual const std::vector<int>& getMultiDimCardinality() const;
     virtual void setDerivedValues() const;
-    // The first run of digits in the text, with a leading zero in octal; 0 when there is none.
+    // The number that is the first run of digits in the text, with a leading zero in octal; 0 when there is none.
     virtual int extractInteger(const DtString& text) const;
 
 private:
@@ -45,7 +51,7 @@ private:
     DtString myCardinality;
     DtString myEncoding;
     DtString myDescription;
-    mutable int myCardinalityType = 0;
+    mutable DtArrayCardinality myKind = DtArrayNotDerived;
     mutable int myCardinalityMinimum = -1;
     mutable int myCardinalityMaximum = -1;
     mutable std::vector<int> myDimensions;

@@ -68,36 +68,36 @@ private Q_SLOTS:
             QTest::addRow("%s %s %s", encoding, cardinality, elements)
                 << QByteArray(encoding) << QByteArray(cardinality) << QByteArray(elements) << expected;
         };
-        row("HLAbitArray", "8", "", {7, 0, -1});
-        row("BitArray", "8", "", {7, 0, -1});
-        row("HLAnullTerminatedArray", "8", "", {4, 0, -1});
-        row("NullTerminatedArray", "8", "", {4, 0, -1});
-        row("RPRnullTerminatedArray", "8", "", {4, 0, -1});
-        row("HLAlengthlessVarArray", "8", "HLAASCIIchar", {4, 0, -1});
-        row("HLAlengthlessVarArray", "8", "HLAoctet", {8, 0, -1});
-        row("RPRlengthlessArray", "8", "HLAASCIIchar", {4, 0, -1});
-        row("RPRlengthlessArray", "8", "", {8, 0, -1});
-        row("HLAvariableArray", "8", "", {10, 0, -1});
-        row("HLAvariableArray", "Dynamic", "HLAASCIIchar", {10, 0, -1});
-        row("HLApaddingTo64", "Dynamic", "", {5, 0, 8});
-        row("RPRpaddingTo32Array", "", "", {5, 0, 4});
-        row("addingTo", "4", "", {5, 0, 0});
-        row("paddingTo010", "", "", {5, 0, 1}); // octal
-        row("HLAfixedArray", "Dynamic", "", {1, 0, 0});
-        row("HLAfixedArray", "12", "", {1, 12, 12});
-        row("HLAfixedArray", "[1..10]", "", {2, 1, 10});
-        row("HLAfixedArray", "[0x10..010]", "", {2, 16, 8});
-        row("HLAfixedArray", "[1..99999999999]", "", {2, 1, 2147483647});
-        row("HLAfixedArray", "[1.10]", "", {8, 0, -1});
-        row("HLAfixedArray", "[1..10", "", {8, 0, -1});
-        row("HLAfixedArray", "[1]", "", {8, 0, -1});
-        row("HLAfixedArray", "[3,4]", "", {8, 0, -1});
-        row("HLAfixedArray", "3,4", "", {9, 0, -1, 3, 4});
-        row("HLAfixedArray", "0x10,010,", "", {9, 0, -1, 16, 8, 0});
-        row("hlaFixedArray", "[1..10]", "", {8, 0, -1});
-        row("Custom", "4", "", {1, 4, 4});
-        row("Custom", "Dynamic", "", {8, 0, -1});
-        row("", "", "", {8, 0, -1});
+        row("HLAbitArray", "8", "", {DtArrayOfBits, 0, -1});
+        row("BitArray", "8", "", {DtArrayOfBits, 0, -1});
+        row("HLAnullTerminatedArray", "8", "", {DtArrayNullTerminated, 0, -1});
+        row("NullTerminatedArray", "8", "", {DtArrayNullTerminated, 0, -1});
+        row("RPRnullTerminatedArray", "8", "", {DtArrayNullTerminated, 0, -1});
+        row("HLAlengthlessVarArray", "8", "HLAASCIIchar", {DtArrayNullTerminated, 0, -1});
+        row("HLAlengthlessVarArray", "8", "HLAoctet", {DtArrayLengthless, 0, -1});
+        row("RPRlengthlessArray", "8", "HLAASCIIchar", {DtArrayNullTerminated, 0, -1});
+        row("RPRlengthlessArray", "8", "", {DtArrayLengthless, 0, -1});
+        row("HLAvariableArray", "8", "", {DtArrayVariable, 0, -1});
+        row("HLAvariableArray", "Dynamic", "HLAASCIIchar", {DtArrayVariable, 0, -1});
+        row("HLApaddingTo64", "Dynamic", "", {DtArrayPadded, 0, 8});
+        row("RPRpaddingTo32Array", "", "", {DtArrayPadded, 0, 4});
+        row("addingTo", "4", "", {DtArrayPadded, 0, 0});
+        row("paddingTo010", "", "", {DtArrayPadded, 0, 1}); // octal
+        row("HLAfixedArray", "Dynamic", "", {DtArrayFixed, 0, 0});
+        row("HLAfixedArray", "12", "", {DtArrayFixed, 12, 12});
+        row("HLAfixedArray", "[1..10]", "", {DtArrayBounded, 1, 10});
+        row("HLAfixedArray", "[0x10..010]", "", {DtArrayBounded, 16, 8});
+        row("HLAfixedArray", "[1..99999999999]", "", {DtArrayBounded, 1, 2147483647});
+        row("HLAfixedArray", "[1.10]", "", {DtArrayLengthless, 0, -1});
+        row("HLAfixedArray", "[1..10", "", {DtArrayLengthless, 0, -1});
+        row("HLAfixedArray", "[1]", "", {DtArrayLengthless, 0, -1});
+        row("HLAfixedArray", "[3,4]", "", {DtArrayLengthless, 0, -1});
+        row("HLAfixedArray", "3,4", "", {DtArrayMultiDim, 0, -1, 3, 4});
+        row("HLAfixedArray", "0x10,010,", "", {DtArrayMultiDim, 0, -1, 16, 8, 0});
+        row("hlaFixedArray", "[1..10]", "", {DtArrayLengthless, 0, -1});
+        row("Custom", "4", "", {DtArrayFixed, 4, 4});
+        row("Custom", "Dynamic", "", {DtArrayLengthless, 0, -1});
+        row("", "", "", {DtArrayLengthless, 0, -1});
     }
 
     void arrayShape()
@@ -114,6 +114,13 @@ private Q_SLOTS:
         for (const int dimension : node.getMultiDimCardinality())
             shape += dimension;
         QCOMPARE(shape, expected);
+    }
+
+    void kindsKeepTheirNumbers()
+    {
+        QCOMPARE((QList<int>{DtArrayNotDerived, DtArrayFixed, DtArrayBounded, DtArrayNullTerminated, DtArrayPadded,
+                             DtArrayOfBits, DtArrayLengthless, DtArrayMultiDim, DtArrayVariable}),
+                 (QList<int>{0, 1, 2, 4, 5, 7, 8, 9, 10}));
     }
 
     void dimensionsAreAppendedAtEachDerivation()

@@ -68,8 +68,8 @@ void insertDatatypes(const Members& members, std::set<DtString>& datatypes)
 template <typename Record>
 void appendComponents(const Record& record, std::vector<DtString>& datatypes)
 {
-    for (auto component = record.getComponentNodeList(); component != record.getComponentNodeEnd(); ++component)
-        datatypes.push_back((*component)->getDatatype());
+    for (const auto* component : record.components())
+        datatypes.push_back(component->getDatatype());
 }
 
 // Neither an optional component nor one that depends on another, nor a single value.
@@ -88,8 +88,8 @@ DtDatatypeClosure::DtDatatypeClosure(DtOMTTree* tree, std::set<DtString>& used, 
 
 void DtDatatypeClosure::insertAllArrays()
 {
-    for (auto node = myTree->getArrayDatatypeNodeList(); node != myTree->getArrayDatatypeEndNode(); ++node)
-        myUsed.insert((*node)->getName());
+    for (const DtArrayDatatypeNode* node : myTree->arrayDatatypes())
+        myUsed.insert(node->getName());
 }
 
 void DtDatatypeClosure::complete(const std::set<DtOmtObject>& objects, const std::set<DtOmtInteraction>& interactions)
@@ -199,10 +199,10 @@ DtString DtDatatypeClosure::makeArrayOf(const DtString& itemName, const DtString
 
 void DtDatatypeClosure::makeArraysOf(const DtComplexDatatypeNode& node)
 {
-    for (auto component = node.getComponentNodeList(); component != node.getComponentNodeEnd(); ++component)
+    for (DtComplexComponentNode* component : node.components())
     {
-        if (hasArray(**component))
-            makeArrayOf(**component);
+        if (hasArray(*component))
+            makeArrayOf(*component);
     }
 }
 

@@ -68,10 +68,10 @@ void DtOMTEnvironment::addInteractions(DtOMTTree* tree)
 
 void DtOMTEnvironment::addDatatypes(DtOMTTree* tree)
 {
-    for (auto each = tree->getComplexDatatypeNodeList(); each != tree->getComplexDatatypeEndNode(); ++each)
-        addComplexDatatypeNode(*each);
-    for (auto each = tree->getFixedDatatypeNodeList(); each != tree->getFixedDatatypeEndNode(); ++each)
-        addFixedDatatypeNode(*each);
+    for (const DtComplexDatatypeNode* each : tree->complexDatatypes())
+        addComplexDatatypeNode(each);
+    for (const DtFixedDatatypeNode* each : tree->fixedDatatypes())
+        addFixedDatatypeNode(each);
 }
 
 void DtOMTEnvironment::addToObjectBranch(const DtObjectClassFedNode* node, const DtBranch& parent)
@@ -114,28 +114,27 @@ void DtOMTEnvironment::addMember(const DtDatatypeFedNode& node, const DtBranch& 
 void DtOMTEnvironment::addComplexDatatypeNode(const DtComplexDatatypeNode* node)
 {
     const DtBranch entry = addObject(node->getName(), "datatype name", myDatatypes);
-    for (auto each = node->getComponentNodeList(); each != node->getComponentNodeEnd(); ++each)
+    for (const DtComplexComponentNode* each : node->components())
     {
-        const DtString& name = (*each)->getName();
-        const DtBranch component = addEntry(name, "component", (*each)->getDatatype(), entry);
-        addEntry(name + "Cardinality", "cardinality", (*each)->getCardinality(), component);
+        const DtString& name = each->getName();
+        const DtBranch component = addEntry(name, "component", each->getDatatype(), entry);
+        addEntry(name + "Cardinality", "cardinality", each->getCardinality(), component);
     }
 }
 
 void DtOMTEnvironment::addFixedDatatypeNode(const DtFixedDatatypeNode* node)
 {
     const DtBranch entry = addObject(node->getName(), "datatype name", myDatatypes);
-    for (auto each = node->getComponentNodeList(); each != node->getComponentNodeEnd(); ++each)
-        addEntry((*each)->getName(), "component", (*each)->getDatatype(), entry);
+    for (const DtFieldComponentNode* each : node->components())
+        addEntry(each->getName(), "component", each->getDatatype(), entry);
 }
 
 void DtOMTEnvironment::addBasicTypes(DtOMTTree* tree)
 {
     bool hasCommonInteger = false;
-    for (auto each = tree->getBasicDataRepresentationNodeList(); each != tree->getBasicDataRepresentationEndNode();
-         ++each)
+    for (const DtBasicDataRepresentationNode* each : tree->basicDataRepresentations())
     {
-        const DtString& name = (*each)->getName();
+        const DtString& name = each->getName();
         addEntry(name, "basic type", name, myBasicDatatypes);
         hasCommonInteger = hasCommonInteger || DtContainsSubstring(name, theCommonInteger);
     }
@@ -145,27 +144,27 @@ void DtOMTEnvironment::addBasicTypes(DtOMTTree* tree)
 
 void DtOMTEnvironment::addSimpleTypes(DtOMTTree* tree)
 {
-    for (auto each = tree->getSimpleDatatypeNodeList(); each != tree->getSimpleDatatypeEndNode(); ++each)
-        addEntry((*each)->getName(), "simple type", (*each)->getRepresentation(), mySimpleDatatypes);
+    for (const DtSimpleDatatypeNode* each : tree->simpleDatatypes())
+        addEntry(each->getName(), "simple type", each->getRepresentation(), mySimpleDatatypes);
 }
 
 void DtOMTEnvironment::addArrayTypes(DtOMTTree* tree)
 {
-    for (auto each = tree->getArrayDatatypeNodeList(); each != tree->getArrayDatatypeEndNode(); ++each)
+    for (const DtArrayDatatypeNode* each : tree->arrayDatatypes())
     {
-        const DtString& name = (*each)->getName();
-        const DtBranch entry = addEntry(name, "array type", (*each)->getDatatype(), myArrayDatatypes);
-        addEntry(name + "Cardinality", "cardinality", (*each)->getCardinality(), entry);
+        const DtString& name = each->getName();
+        const DtBranch entry = addEntry(name, "array type", each->getDatatype(), myArrayDatatypes);
+        addEntry(name + "Cardinality", "cardinality", each->getCardinality(), entry);
     }
 }
 
 void DtOMTEnvironment::addVariantTypes(DtOMTTree* tree)
 {
-    for (auto each = tree->getVariantDatatypeNodeList(); each != tree->getVariantDatatypeEndNode(); ++each)
+    for (const DtVariantDatatypeNode* each : tree->variantDatatypes())
     {
-        const DtBranch entry = addObject((*each)->getName(), "variant type", myVariantDatatypes);
-        for (auto part = (*each)->getComponentNodeList(); part != (*each)->getComponentNodeEnd(); ++part)
-            addEntry((*part)->getName(), "component", (*part)->getDatatype(), entry);
+        const DtBranch entry = addObject(each->getName(), "variant type", myVariantDatatypes);
+        for (const DtAlternativeComponentNode* part : each->components())
+            addEntry(part->getName(), "component", part->getDatatype(), entry);
     }
 }
 

@@ -149,11 +149,11 @@ void putInteraction(const Interaction& node, DtOMTWriter& writer, DtMapSubstitut
 }
 
 // Those of an earlier run, which may have had another selection.
-template <typename Iterator>
-void forgetUniqueNames(Iterator at, Iterator end)
+template <typename Nodes>
+void forgetUniqueNames(const Nodes& nodes)
 {
-    for (; at != end; ++at)
-        (*at)->setUniqueName(DtString());
+    for (auto* node : nodes)
+        node->setUniqueName(DtString());
 }
 } // namespace
 
@@ -184,7 +184,7 @@ void DtOMTWriter::noteUniqueName(DtOMTNode& node)
 
 DtMapSubstitute* DtOMTWriter::getObjectContext()
 {
-    forgetUniqueNames(tree().getObjectClassNodeBegin(), tree().getObjectClassNodeEnd());
+    forgetUniqueNames(tree().objectClasses());
     auto objects = std::make_unique<DtMapSubstitute>();
     for (const DtOmtObject& object : myObjectsToGenerate)
     {
@@ -199,7 +199,7 @@ DtMapSubstitute* DtOMTWriter::getObjectContext()
 
 DtMapSubstitute* DtOMTWriter::getInteractionContext()
 {
-    forgetUniqueNames(tree().getInteractionClassNodeBegin(), tree().getInteractionClassNodeEnd());
+    forgetUniqueNames(tree().interactionClasses());
     auto interactions = std::make_unique<DtMapSubstitute>();
     for (const DtOmtInteraction& interaction : myInteractionsToGenerate)
     {

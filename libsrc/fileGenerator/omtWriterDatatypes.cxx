@@ -134,8 +134,8 @@ DtContextValue variantPadding(const Variant& node, DtOMTWriter& writer)
 {
     const int discriminant = writer.getBoundary(node.getDatatype());
     int greatest = 0;
-    for (auto at = node.getComponentNodeList(); at != node.getComponentNodeEnd(); ++at)
-        greatest = std::max(greatest, writer.getBoundary((*at)->getDatatype()));
+    for (const DtAlternativeComponentNode* part : node.components())
+        greatest = std::max(greatest, writer.getBoundary(part->getDatatype()));
     return DtString(greatest > discriminant ? greatest - discriminant : discriminant);
 }
 
@@ -165,11 +165,11 @@ std::unique_ptr<DtMapSubstitute> partsOf(const Record& record, const DtContextRo
                                          DtOMTWriter& writer)
 {
     auto parts = std::make_unique<DtMapSubstitute>();
-    for (auto at = record.getComponentNodeList(); at != record.getComponentNodeEnd(); ++at)
+    for (const Part* part : record.components())
     {
-        DtMapSubstitute& entry = parts->putMap((*at)->getName());
-        DtPutRows(rows, **at, writer, entry);
-        writer.getType(prefix, (*at)->getDatatype(), &entry);
+        DtMapSubstitute& entry = parts->putMap(part->getName());
+        DtPutRows(rows, *part, writer, entry);
+        writer.getType(prefix, part->getDatatype(), &entry);
     }
     return parts;
 }
@@ -177,8 +177,8 @@ std::unique_ptr<DtMapSubstitute> partsOf(const Record& record, const DtContextRo
 std::unique_ptr<DtMapSubstitute> enumeratorsOf(const Enumerated& node, DtOMTWriter& writer)
 {
     auto enumerators = std::make_unique<DtMapSubstitute>();
-    for (auto at = node.getEnumerationNodeList(); at != node.getEnumerationNodeEnd(); ++at)
-        DtPutRows(theEnumeratorRows, **at, writer, enumerators->putMap((*at)->getEnum()));
+    for (const DtEnumerationNode* each : node.enumerators())
+        DtPutRows(theEnumeratorRows, *each, writer, enumerators->putMap(each->getEnum()));
     return enumerators;
 }
 
@@ -217,16 +217,16 @@ void DtAddDatatypeKeys(std::vector<DtContextKey>& keys)
 DtMapSubstitute* DtOMTWriter::getRepresentationsContext()
 {
     auto list = std::make_unique<DtMapSubstitute>();
-    for (auto at = tree().getBasicDataRepresentationNodeList(); at != tree().getBasicDataRepresentationEndNode(); ++at)
-        DtPutRows(theBasicRows, **at, *this, list->putMap((*at)->getName()));
+    for (const Basic* node : tree().basicDataRepresentations())
+        DtPutRows(theBasicRows, *node, *this, list->putMap(node->getName()));
     return list.release();
 }
 
 DtMapSubstitute* DtOMTWriter::getSimpleContext()
 {
     auto list = std::make_unique<DtMapSubstitute>();
-    for (auto at = tree().getSimpleDatatypeNodeList(); at != tree().getSimpleDatatypeEndNode(); ++at)
-        putSimple(**at, *list);
+    for (const Simple* node : tree().simpleDatatypes())
+        putSimple(*node, *list);
     putSimple(octetDatatype(), *list);
     return list.release();
 }
@@ -242,13 +242,13 @@ void DtOMTWriter::putSimple(const DtSimpleDatatypeNode& node, DtMapSubstitute& l
 DtMapSubstitute* DtOMTWriter::getComplexContext()
 {
     auto list = std::make_unique<DtMapSubstitute>();
-    for (auto at = tree().getComplexDatatypeNodeList(); at != tree().getComplexDatatypeEndNode(); ++at)
+    for (const Complex* node : tree().complexDatatypes())
     {
-        if (!isUsed(**at))
+        if (!isUsed(*node))
             continue;
-        DtMapSubstitute& entry = list->putMap((*at)->getName());
-        DtPutRows(theComplexRows, **at, *this, entry);
-        DtPutList(entry, "NumComponents", "Components", partsOf(**at, theComponentRows, "Component", *this));
+        DtMapSubstitute& entry = list->putMap(node->getName());
+        DtPutRows(theComplexRows, *node, *this, entry);
+        DtPutList(entry, "NumComponents", "Components", partsOf(*node, theComponentRows, "Component", *this));
     }
     return list.release();
 }
@@ -256,10 +256,10 @@ DtMapSubstitute* DtOMTWriter::getComplexContext()
 DtMapSubstitute* DtOMTWriter::getEnumerationsContext()
 {
     auto list = std::make_unique<DtMapSubstitute>();
-    for (auto at = tree().getEnumeratedDatatypeNodeList(); at != tree().getEnumeratedDatatypeEndNode(); ++at)
+    for (const Enumerated* node : tree().enumeratedDatatypes())
     {
-        if (isUsed(**at))
-            putEnumeration(**at, *list);
+        if (isUsed(*node))
+            putEnumeration(*node, *list);
     }
     return list.release();
 }
@@ -278,13 +278,15 @@ void DtOMTWriter::putEnumeration(const DtEnumeratedDatatypeNode& node, DtMapSubs
 DtMapSubstitute* DtOMTWriter::getArrayContext()
 {
     auto list = std::make_unique<DtMapSubstitute>();
-    for (auto at = tree().getArrayDatatypeNodeList(); at != tree().getArrayDatatypeEndNode() && !isCancelled(); ++at)
+    for (const Array* node : tree().arrayDatatypes())
     {
-        if (!isUsed(**at))
+        if (isCancelled())
+            break;
+        if (!isUsed(*node))
             continue;
-        DtMapSubstitute& entry = list->putMap((*at)->getName());
-        DtPutRows(theArrayRows, **at, *this, entry);
-        getType("Array", (*at)->getDatatype(), &entry);
+        DtMapSubstitute& entry = list->putMap(node->getName());
+        DtPutRows(theArrayRows, *node, *this, entry);
+        getType("Array", node->getDatatype(), &entry);
     }
     return list.release();
 }
@@ -292,13 +294,15 @@ DtMapSubstitute* DtOMTWriter::getArrayContext()
 DtMapSubstitute* DtOMTWriter::getFixedContext()
 {
     auto list = std::make_unique<DtMapSubstitute>();
-    for (auto at = tree().getFixedDatatypeNodeList(); at != tree().getFixedDatatypeEndNode() && !isCancelled(); ++at)
+    for (const Fixed* node : tree().fixedDatatypes())
     {
-        if (!isUsed(**at))
+        if (isCancelled())
+            break;
+        if (!isUsed(*node))
             continue;
-        DtMapSubstitute& entry = list->putMap((*at)->getName());
-        DtPutRows(theFixedRows, **at, *this, entry);
-        DtPutList(entry, "NumFields", "Fields", partsOf(**at, theFieldRows, "Field", *this));
+        DtMapSubstitute& entry = list->putMap(node->getName());
+        DtPutRows(theFixedRows, *node, *this, entry);
+        DtPutList(entry, "NumFields", "Fields", partsOf(*node, theFieldRows, "Field", *this));
     }
     return list.release();
 }
@@ -306,15 +310,16 @@ DtMapSubstitute* DtOMTWriter::getFixedContext()
 DtMapSubstitute* DtOMTWriter::getVariantContext()
 {
     auto list = std::make_unique<DtMapSubstitute>();
-    for (auto at = tree().getVariantDatatypeNodeList(); at != tree().getVariantDatatypeEndNode() && !isCancelled();
-         ++at)
+    for (const Variant* node : tree().variantDatatypes())
     {
-        if (!isUsed(**at))
+        if (isCancelled())
+            break;
+        if (!isUsed(*node))
             continue;
-        DtMapSubstitute& entry = list->putMap((*at)->getName());
-        DtPutRows(theVariantRows, **at, *this, entry);
-        getType("Variant", (*at)->getDatatype(), &entry);
-        DtPutList(entry, "NumAlternatives", "Alternatives", partsOf(**at, theAlternativeRows, "Alternative", *this));
+        DtMapSubstitute& entry = list->putMap(node->getName());
+        DtPutRows(theVariantRows, *node, *this, entry);
+        getType("Variant", node->getDatatype(), &entry);
+        DtPutList(entry, "NumAlternatives", "Alternatives", partsOf(*node, theAlternativeRows, "Alternative", *this));
     }
     return list.release();
 }

@@ -10,6 +10,7 @@ class DtComplexDatatypeNode : public DtOMTNode
 public:
     virtual void addComponentNode(DtComplexComponentNode* node) { myComponents.add(node); }
     virtual DtComplexComponentNode* getComponentNode(const DtString& name) const { return myComponents.find(name); }
+    const std::list<DtComplexComponentNode*>& components() const { return myComponents.nodes(); }
     virtual std::list<DtComplexComponentNode*>::const_iterator getComponentNodeList() const
     {
         return myComponents.begin();

@@ -26,6 +26,7 @@ public:
     // First enumerator with that name or number, null if none.
     virtual DtEnumerationNode* getEnumerationNode(const DtString& name) const { return myEnumerations.find(name); }
     virtual DtEnumerationNode* getEnumerationNode(int number) const { return myNumberIndex.find(number); }
+    const std::list<DtEnumerationNode*>& enumerators() const { return myEnumerations.nodes(); }
     virtual std::list<DtEnumerationNode*>::const_iterator getEnumerationNodeList() const;
     virtual std::list<DtEnumerationNode*>::const_iterator getEnumerationNodeEnd() const;
     // Size in bytes, from the representation or else from the end of the name; defaultEnumerationSize if neither tells.

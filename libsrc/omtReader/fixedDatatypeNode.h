@@ -26,6 +26,7 @@ public:
 
     virtual void addComponentNode(DtFieldComponentNode* node) { myComponents.add(node); }
     virtual DtFieldComponentNode* getComponentNode(const DtString& name) const { return myComponents.find(name); }
+    const std::list<DtFieldComponentNode*>& components() const { return myComponents.nodes(); }
     virtual std::list<DtFieldComponentNode*>::const_iterator getComponentNodeList() const
     {
         return myComponents.begin();

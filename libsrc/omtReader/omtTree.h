@@ -106,7 +106,9 @@ public:
     virtual std::list<DtNoteNode*>::const_iterator getNoteNodeList() const { return myNotes.begin(); }
     virtual std::list<DtNoteNode*>::const_iterator getNoteEndNode() const { return myNotes.end(); }
 
-    // First node of that exact name; begin and end of the list.
+    // The lists of each kind, in the order in which the nodes were added: all of them, for a range-based loop; the
+    // first node of that exact name; begin and end.
+    const std::list<DtFixedDatatypeNode*>& fixedDatatypes() const { return myFixedDatatypes.nodes(); }
     virtual void addFixedDatatypeNode(DtFixedDatatypeNode* node) { myFixedDatatypes.add(node); }
     virtual DtFixedDatatypeNode* getFixedDatatypeNode(const DtString& name) const
     {
@@ -121,6 +123,10 @@ public:
         return myFixedDatatypes.end();
     }
 
+    const std::list<DtBasicDataRepresentationNode*>& basicDataRepresentations() const
+    {
+        return myBasicDataRepresentations.nodes();
+    }
     virtual void addBasicDataRepresentationNode(DtBasicDataRepresentationNode* node)
     {
         myBasicDataRepresentations.add(node);
@@ -138,6 +144,7 @@ public:
         return myBasicDataRepresentations.end();
     }
 
+    const std::list<DtVariantDatatypeNode*>& variantDatatypes() const { return myVariantDatatypes.nodes(); }
     virtual void addVariantDatatypeNode(DtVariantDatatypeNode* node) { myVariantDatatypes.add(node); }
     virtual DtVariantDatatypeNode* getVariantDatatypeNode(const DtString& name) const
     {
@@ -152,6 +159,7 @@ public:
         return myVariantDatatypes.end();
     }
 
+    const std::list<DtSimpleDatatypeNode*>& simpleDatatypes() const { return mySimpleDatatypes.nodes(); }
     virtual void addSimpleDatatypeNode(DtSimpleDatatypeNode* node) { mySimpleDatatypes.add(node); }
     virtual DtSimpleDatatypeNode* getSimpleDatatypeNode(const DtString& name) const
     {
@@ -166,6 +174,7 @@ public:
         return mySimpleDatatypes.end();
     }
 
+    const std::list<DtArrayDatatypeNode*>& arrayDatatypes() const { return myArrayDatatypes.nodes(); }
     virtual void addArrayDatatypeNode(DtArrayDatatypeNode* node) { myArrayDatatypes.add(node); }
     virtual DtArrayDatatypeNode* getArrayDatatypeNode(const DtString& name) const
     {
@@ -180,6 +189,7 @@ public:
         return myArrayDatatypes.end();
     }
 
+    const std::list<DtComplexDatatypeNode*>& complexDatatypes() const { return myComplexDatatypes.nodes(); }
     virtual void addComplexDatatypeNode(DtComplexDatatypeNode* node) { myComplexDatatypes.add(node); }
     virtual DtComplexDatatypeNode* getComplexDatatypeNode(const DtString& name) const
     {
@@ -194,6 +204,7 @@ public:
         return myComplexDatatypes.end();
     }
 
+    const std::list<DtEnumeratedDatatypeNode*>& enumeratedDatatypes() const { return myEnumeratedDatatypes.nodes(); }
     virtual void addEnumeratedDatatypeNode(DtEnumeratedDatatypeNode* node) { myEnumeratedDatatypes.add(node); }
     virtual DtEnumeratedDatatypeNode* getEnumeratedDatatypeNode(const DtString& name) const
     {
@@ -254,6 +265,7 @@ public:
     // the flat list with that full name.
     virtual void setObjectClassRoot(DtObjectClassFedNode* root) { myObjectClassRoot = root; }
     virtual DtObjectClassFedNode* objectClassRoot() const { return myObjectClassRoot; }
+    const std::list<DtObjectClassFedNode*>& objectClasses() const { return myObjectClasses.nodes(); }
     virtual void addObjectClassNode(DtObjectClassFedNode* node) { myObjectClasses.add(node); }
     virtual std::list<DtObjectClassFedNode*>::const_iterator getObjectClassNodeBegin() const
     {
@@ -279,6 +291,7 @@ public:
 
     virtual void setInteractionClassRoot(DtInteractionClassFedNode* root) { myInteractionClassRoot = root; }
     virtual DtInteractionClassFedNode* interactionClassRoot() const { return myInteractionClassRoot; }
+    const std::list<DtInteractionClassFedNode*>& interactionClasses() const { return myInteractionClasses.nodes(); }
     virtual void addInteractionClassNode(DtInteractionClassFedNode* node) { myInteractionClasses.add(node); }
     virtual std::list<DtInteractionClassFedNode*>::const_iterator getInteractionClassNodeBegin() const
     {

@@ -31,6 +31,7 @@ public:
 
     virtual void addComponentNode(DtAlternativeComponentNode* node) { myComponents.add(node); }
     virtual DtAlternativeComponentNode* getComponentNode(const DtString& name) const { return myComponents.find(name); }
+    const std::list<DtAlternativeComponentNode*>& components() const { return myComponents.nodes(); }
     virtual std::list<DtAlternativeComponentNode*>::const_iterator getComponentNodeList() const
     {
         return myComponents.begin();

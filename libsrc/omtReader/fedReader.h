@@ -12,9 +12,8 @@
 class DtFedReader
 {
 public:
-    // Format of the file, 0 when it is missing or in no known format. A text is one of the OMT text format when one of
-    // its lists, outside others, has the head ObjectModel. A file with an XML root element of a known namespace is not
-    // looked at beyond it; what is wrong with an XML file that had to be read on goes to DtWarn.
+    // Format of the file by the rules of modelFormat.h, DtFomUnknown when it is missing or in none. What is wrong with
+    // an XML file that had to be read beyond its root element goes to DtWarn.
     static DtFomType checkFomType(const char* file);
     // The same for a file opened by openFedFile, which is closed. A null handle is a missing file. Without a report
     // nothing goes to DtWarn: for a look ahead of the reading, which tells what is wrong.

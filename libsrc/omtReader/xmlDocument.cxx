@@ -93,6 +93,14 @@ bool DtHasXmlName(const xmlNode* node, const char* name)
     return std::strcmp(reinterpret_cast<const char*>(node->name), name) == 0;
 }
 
+xmlNode* DtFirstXmlChild(const xmlNode* parent, const char* name)
+{
+    for (xmlNode* child : DtXmlElements(parent))
+        if (DtHasXmlName(child, name))
+            return child;
+    return nullptr;
+}
+
 const xmlChar* DtXmlText(const xmlNode* first)
 {
     while (first != nullptr && (first->type == XML_COMMENT_NODE || first->type == XML_PI_NODE))

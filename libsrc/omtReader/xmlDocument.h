@@ -49,6 +49,8 @@ FILE* DtStreamOf(int descriptor);
 // The element behind an iterator step: `node` itself when it is an element, else the next sibling that is one.
 xmlNode* DtElementFrom(xmlNode* node);
 bool DtHasXmlName(const xmlNode* node, const char* name);
+// First child element of that name, null if none.
+xmlNode* DtFirstXmlChild(const xmlNode* parent, const char* name);
 // Text of the first of these siblings that is no comment or processing instruction; null when there is none or it is no
 // text. A reference to an entity counts as none: a few bytes could stand for any amount of text.
 const xmlChar* DtXmlText(const xmlNode* first);

@@ -5,10 +5,11 @@
 
 #include <libxml/tree.h>
 
+// Tells the format of a document that is parsed already; DtFedReader tells that of a file.
 class DtXmlFedReader
 {
 public:
-    // Format of a parsed document from its root element, 0 when that is no "objectModel".
+    // From the root element, DtFomUnknown when that is null or no "objectModel".
     static DtFomType fomType(xmlNode* root);
 };
 

@@ -3,12 +3,10 @@
 #include "foundation/assertion.h"
 #include "foundation/outputStream.h"
 #include "foundation/stringUtils.h"
-#include "omtReader/cardinalityText.h"
 #include "omtReader/fedReader.h"
 #include "omtReader/standardMim.h"
 #include "omtReader/xml1516FileReader.h"
 #include "omtReader/xmlDocument.h"
-#include "omtReader/xmlFedReader.h"
 #include "omtReader/xmlHla4FileReader.h"
 
 #include <cstdlib>
@@ -89,7 +87,7 @@ DtOMTTree* DtXMLFileReader::readFile(const DtFilename& file, DtExerciseConn* con
     try
     {
         xmlNode* root = xmlDocGetRootElement(parsed);
-        const DtFomType type = DtXmlFedReader::fomType(root);
+        const DtFomType type = DtFormatOfRoot(root);
         if (type == DtFom1516) // never with the management model
             return DtXML1516FileReader(connection).processObjectModel(root);
         const DtString standardName = DtFedReader::standardMimFileName(type);
@@ -155,7 +153,7 @@ bool DtXMLFileReader::mergeDocument(DtOMTTree& tree, DtXmlDocument document, DtF
     try
     {
         xmlNode* root = xmlDocGetRootElement(document.get());
-        if (DtXmlFedReader::fomType(root) != type)
+        if (DtFormatOfRoot(root) != type)
         {
             myLastError = "FOM file does not match expected type\n";
             return false;
@@ -183,12 +181,7 @@ bool DtXMLFileReader::mergeDocument(DtOMTTree& tree, DtXmlDocument document, DtF
 
 xmlNode* DtXMLFileReader::getNodeByName(xmlNode* parent, const xmlChar* name)
 {
-    if (parent == nullptr)
-        return nullptr;
-    for (xmlNode* child : DtXmlElements(parent))
-        if (xmlStrEqual(child->name, name))
-            return child;
-    return nullptr;
+    return parent != nullptr ? DtFirstXmlChild(parent, reinterpret_cast<const char*>(name)) : nullptr;
 }
 
 const xmlChar* DtXMLFileReader::childContentByName(xmlNode* parent, const xmlChar* name)
@@ -197,48 +190,7 @@ const xmlChar* DtXMLFileReader::childContentByName(xmlNode* parent, const xmlCha
     return child != nullptr ? DtXmlText(child->children) : nullptr;
 }
 
-namespace
-{
-template <typename Condition>
-bool anyChild(xmlNode* parent, const char* name, Condition condition)
-{
-    for (xmlNode* child : DtXmlElements(parent))
-        if (DtHasXmlName(child, name) && condition(child))
-            return true;
-    return false;
-}
-
-// What only divides lines between the tags of an empty element is no content.
-bool holdsText(const xmlNode& element)
-{
-    const xmlChar* text = DtXmlText(element.children);
-    return text != nullptr && (xmlFirstElementChild(const_cast<xmlNode*>(&element)) != nullptr ||
-                               !DtIsBlank(reinterpret_cast<const char*>(text)));
-}
-
-bool hasClassNamed(xmlNode* classes, const char* element, const char* name)
-{
-    return anyChild(classes, element,
-                    [name](xmlNode* node)
-                    {
-                        const xmlChar* text = DtXMLFileReader::childContentByName(node, BAD_CAST "name");
-                        return text != nullptr && xmlStrEqual(text, BAD_CAST name);
-                    });
-}
-} // namespace
-
 bool DtXMLFileReader::isEvolvedFormat(xmlNode*& root)
 {
-    if (root->ns != nullptr && xmlStrEqual(root->ns->href, BAD_CAST xmlns_HLA1516_2010))
-        return true;
-    const auto isEvolved = [](xmlNode* transportation)
-    { return getNodeByName(transportation, BAD_CAST "reliable") != nullptr || holdsText(*transportation); };
-    if (anyChild(root, "transportations", [&](xmlNode* node) { return anyChild(node, "transportation", isEvolved); }))
-        return true;
-    if (getNodeByName(root, BAD_CAST "updateRates") != nullptr)
-        return true;
-    if (xmlNode* objects = getNodeByName(root, BAD_CAST "objects"))
-        return hasClassNamed(objects, "objectClass", "HLAobjectRoot");
-    xmlNode* interactions = getNodeByName(root, BAD_CAST "interactions");
-    return interactions != nullptr && hasClassNamed(interactions, "interactionClass", "HLAinteractionRoot");
+    return DtHasEvolvedForm(root);
 }

@@ -3,6 +3,7 @@
 
 #include "foundation/filename.h"
 #include "foundation/fomType.h"
+#include "omtReader/modelFormat.h"
 #include "omtReader/omtTree.h"
 #include "omtReader/xmlDocument.h"
 
@@ -24,10 +25,10 @@ public:
     static constexpr const char* IEEE1516_2009 = "IEEE1516-2009";
     static constexpr const char* IEEE1516_2010 = "IEEE1516-2010";
     static constexpr const char* IEEE1516_2025 = "IEEE1516-2025";
-    static constexpr const char* xmlns_HLA1516_2010 = "http://standards.ieee.org/IEEE1516-2010";
-    static constexpr const char* xmlns_HLA1516_2025 = "http://standards.ieee.org/IEEE1516-2025";
-    static constexpr const char* tagDocumentType = "objectModel";
-    static constexpr const char* tagObjectModel = "objectModel";
+    static constexpr const char* xmlns_HLA1516_2010 = theNamespace2010;
+    static constexpr const char* xmlns_HLA1516_2025 = theNamespace2025;
+    static constexpr const char* tagDocumentType = theModelElement;
+    static constexpr const char* tagObjectModel = theModelElement;
 
     virtual ~DtXMLFileReader() = default;
     DtXMLFileReader() = default;

@@ -28,7 +28,8 @@ enum DtVariableScope
     DtScopeBoth = 3
 };
 
-// What all variables share. Owns the command-line argument, which lives as long as the variable.
+// The common base of all variables that the command line or the configuration file can set. Owns the command-line
+// argument, which lives as long as the variable.
 class DtBaseConfigVariable
 {
 public:
@@ -64,7 +65,7 @@ protected:
     void addCommandLineArg(DtCmdLine::CmdLine& commandLine);
     void setCommandLineArg(std::unique_ptr<DtCmdLine::Arg> argument);
     void markSet() { myWasSet = true; }
-    // Below the group's node if there is a group.
+    // Makes the group's node the root of the environment; without a group it stays as it is.
     static void moveToGroup(DtEnvironment& environment, const DtVariableGroup* group);
     // Cuts a "&" out of the name and appends the character behind it to the flag: "a&bc" becomes "abc" with "b".
     static void takeFlagFromName(DtString& name, DtString& flag);

@@ -81,7 +81,7 @@ CmdLine::CmdLine(const DtString& programName, const DtString& message, const DtS
     addBuiltIn(myHelpArg);
 }
 
-// The base class puts each new argument in front.
+// Adds an argument behind all others; the base class puts each new one in front.
 void CmdLine::addBuiltIn(Arg& argument)
 {
     TCLAP::CmdLine::add(&argument);
@@ -133,7 +133,8 @@ void CmdLine::parseArguments(std::vector<std::string>& arguments)
 
 namespace
 {
-// Combined switches are blotted out one by one as they are claimed.
+// True for switches given together, such as "-ab", all of which have been claimed: each Arg that claims one of them
+// blots it out.
 bool isSpentCombination(const std::string& argument)
 {
     return argument.size() > 1 && argument[0] == Arg::flagStartChar() &&

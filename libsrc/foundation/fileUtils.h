@@ -6,13 +6,13 @@
 #include <cstdio>
 #include <string>
 
-// Files, directories and the machine.
+// Helpers for files, directories and the machine.
 
-// Null on failure. The letter "t" of a mode has no effect on this platform.
+// Opens the file as fopen does; null on a failure. The letter "t" of a mode has no effect on this platform.
 FILE* DtFileOpen(const char* name, const char* mode);
 void DtFileClose(FILE* file); // null is allowed
 
-// The whole content of a regular file into `text`; false when it is none or cannot be read.
+// Puts the whole content of a regular file into `text`; false when it is none or cannot be read.
 bool DtReadFile(const DtString& name, std::string& text);
 
 // Makes the directory and its missing parents. True when it is there afterwards.
@@ -23,7 +23,7 @@ bool DtMakeDirectory(const DtFilename& directory);
 // old file being untouched.
 bool DtReplaceFile(const DtString& name, const std::string& text);
 
-// Blocks the calling thread.
+// Blocks the calling thread for that many seconds.
 void DtSleep(double seconds);
 // True once a key has been pressed on the console, or when its input has ended.
 bool DtPollBlockingInputChar();

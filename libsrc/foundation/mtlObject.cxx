@@ -3,9 +3,13 @@
 #include <utility>
 #include <vector>
 
+// An object that lost its last reference waits in the list of the dead, which myNextDead links. Each turn of the loop
+// takes one off, lets it give up the two objects that it holds, and deletes it; what these two lose makes the list grow
+// again. Had the destructor of a pair dropped its parts by itself, a long list would have taken one call within the
+// other for each of its elements.
 void DecObjRefCnt(DtlObj* object)
 {
-    DtlObj* dead = nullptr; // a list of its own, linked by myNextDead
+    DtlObj* dead = nullptr;
     const auto drop = [&dead](DtlObj* each)
     {
         if (each == nullptr || --each->myReferenceCount > 0)

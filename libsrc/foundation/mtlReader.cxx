@@ -12,6 +12,9 @@ namespace
 char theBackslash = '\\';
 
 // A list whose closing parenthesis is still to come.
+//
+// Whether "." makes a dotted pair shows only at the end of the list: it does when it is the last element but one. Then
+// the pair ahead of it gets the last element as its tail, which is why the last three pairs are known.
 class DtOpenList
 {
 public:
@@ -81,7 +84,7 @@ DtlObjPtr closeInnermost(std::vector<DtOpenList>& lists)
     return list;
 }
 
-// The outermost list, when the input ends within it.
+// Closes all lists when the input ends within them, and gives the outermost one.
 DtlObjPtr closeAll(std::vector<DtOpenList>& lists, DtlInputStream& stream)
 {
     stream.setEndedEarly();
@@ -110,10 +113,13 @@ DtlObjPtr DtcIntern(const char* name, const DtlObjPtr& env)
     return internName(name, env);
 }
 
+// One pass over the tokens. The lists that are open at a moment stand in a stack, the innermost last; an object that is
+// complete, an atom or a list that has just been closed, goes to the end of the innermost one, and is the result when
+// there is none. The stack is not the program's own, since a file may nest lists to any depth.
 DtlObjPtr DtcRead(DtlInputStream* stream, const DtlObjPtr& env)
 {
     DtMtlScanner scanner(*stream, DtMtlReadEscapeChar);
-    std::vector<DtOpenList> lists; // a stack of our own, the innermost last
+    std::vector<DtOpenList> lists;
     while (true)
     {
         const DtMtlToken token = scanner.next();

@@ -4,7 +4,7 @@
 #include "foundation/mtlInputStream.h"
 #include "foundation/mtlObject.h"
 
-// Reads s-expressions: lists in parentheses, symbols, strings and integers, see DtMtlScanner for how they are written.
+// Reads s-expressions: lists in parentheses, symbols, strings and integers. DtMtlScanner tells how they are written.
 
 // Points to the escape character of strings; null, as at the start, when they have none.
 extern char* DtMtlReadEscapeChar;
@@ -38,7 +38,7 @@ private:
 // The one symbol of that name in the table of an environment; a fresh symbol when `env` is something else.
 DtlObjPtr DtcIntern(const char* name, const DtlObjPtr& env);
 
-// The next object; DtcIntern("eof", env) at the end of the input, and for a symbol "eof" in it.
+// Gives the next object of the input, and DtcIntern("eof", env) at its end or for a symbol "eof" in it.
 //
 // Never fails. A closing parenthesis without an opening one is passed over. What the end of the input leaves open, a
 // string or lists, ends there: the object read so far is the result, and the stream tells that it has ended early. A

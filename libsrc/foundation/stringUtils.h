@@ -7,7 +7,7 @@
 
 // Free helpers on texts. None of them changes its argument.
 
-// The text with the first occurrence, or with every occurrence, replaced. An empty `from` changes nothing, and the
+// Give the text with the first occurrence, or with every occurrence, replaced. An empty `from` changes nothing, and the
 // search goes on behind the inserted text, so a replacement may hold what is searched.
 DtString DtReplaceSubstring(const DtString& text, const DtString& from, const DtString& to);
 DtString DtReplaceAllSubstrings(const DtString& text, const DtString& from, const DtString& to);

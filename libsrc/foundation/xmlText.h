@@ -3,11 +3,11 @@
 
 #include "foundation/string.h"
 
-// Any text as one that an XML file can hold: what is not valid UTF-8 is taken as Latin-1 and converted, and characters
+// Gives a text that an XML file can hold: one that is not valid UTF-8 is taken as Latin-1 and converted, and characters
 // that XML cannot carry (most control characters, U+FFFE and U+FFFF) are left out with one warning on DtWarn.
 DtString DtXmlText(const DtString& text);
 
-// Any text in UTF-8: what is not valid UTF-8 is taken as Latin-1 and converted.
+// Gives the text in UTF-8: one that is not valid UTF-8 is taken as Latin-1 and converted.
 DtString DtUtf8Text(const DtString& text);
 
 #endif

@@ -20,7 +20,7 @@ enum DtArrayCardinality : int
     DtArrayVariable = 10       // 0 and -1: the length stands ahead of the elements
 };
 
-// An array datatype; its datatype is that of the elements.
+// An array datatype (IEEE 1516.2-2010, clause 4.13); its datatype is that of the elements.
 //
 // Kind and bounds are derived from encoding and cardinality when they are asked for after either was set.
 class DtArrayDatatypeNode : public DtOMTDatatypeNode

@@ -5,7 +5,8 @@
 
 #include <list>
 
-// One attribute of an object class. Its parent is the class.
+// One attribute of an object class (IEEE 1516.2-2010, clause 4.4). Its parent is the class. All texts stay as they are
+// in the file.
 class DtAttributeFedNode : public DtDatatypeFedNode
 {
 public:

@@ -3,7 +3,8 @@
 
 #include "omtReader/omtNode.h"
 
-// A basic data representation. The size is a text that counts bits.
+// A basic data representation (IEEE 1516.2-2010, clause 4.13): how a number lies in octets. The size is a text and
+// counts bits.
 class DtBasicDataRepresentationNode : public DtOMTNode
 {
 public:

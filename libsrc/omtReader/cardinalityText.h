@@ -5,7 +5,8 @@
 
 #include <istream>
 
-// Reads an integer, white space ahead of it skipped. A failed extraction gives 0, and so do all that follow it.
+// Reads an integer, white space ahead of it skipped. When no integer stands there, the answer is 0, and so is every
+// later one from that stream.
 inline int DtReadInteger(std::istream& in)
 {
     int number = 0;

@@ -11,8 +11,16 @@
 
 // The subclasses of one class in their order, and the walk along a dotted path through them. Owns no node.
 //
-// A class with many subclasses gets an index of their names at the first walk, so that a walk costs about the same
-// however many siblings there are.
+// The walk goes down the path name by name and keeps, for each class on its way, the subclasses that are still to be
+// tried. At each step `rest` is the part of the path that `node` and those below it have to answer for. A name may be
+// the beginning of another, the character behind a name may be any, and siblings may share a name, so several
+// subclasses can answer for one path; when one of them leads nowhere, the walk goes back and tries the next. The trap
+// is the order: the first subclass of the list wins, whatever its name, and an index by name alone would find another
+// one.
+//
+// A class with many subclasses gets such an index at the first walk, so that a walk costs about the same however many
+// siblings there are. A look-up in it tries every length that a name of a subclass has, since the path does not tell
+// where the name ends, and each entry knows its place in the list. A name does not change once its class is added.
 template <typename Node>
 class DtClassChildren
 {
@@ -46,11 +54,11 @@ private:
         Node* node;
     };
 
-    // The children of one class by name, those that share a name in list order.
+    // Finds the children of one class by name. Those that share a name stand in list order.
     struct Index
     {
         std::unordered_map<std::string, std::vector<Entry>> entries;
-        std::set<std::size_t> lengths; // of the names
+        std::set<std::size_t> lengths; // those that the names have
         std::size_t count = 0;
 
         void add(Node* child)
@@ -79,7 +87,7 @@ private:
         std::string_view myRest;
         typename Nodes::const_iterator myAt;
         typename Nodes::const_iterator myEnd;
-        std::vector<Run> myRuns; // one for each child name that the rest begins with
+        std::vector<Run> myRuns; // one for each name of a child with which the rest begins
     };
 
     const Index& index() const

@@ -6,7 +6,11 @@
 #include <iterator>
 #include <list>
 
-// The flat list of all object or all interaction classes of a tree, which owns them. Not copied.
+// The flat list of all object or all interaction classes of a tree. Owns the classes and is not copied.
+//
+// The full name of a class can change while the tree is being built, and an index would keep the old one. So the index
+// covers only the head of the list, up to the first class whose name is not settled yet, and each look-up moves that
+// border on as far as it can.
 template <typename Node>
 class DtClassList
 {

@@ -4,7 +4,7 @@
 #include "omtReader/complexComponentNode.h"
 #include "omtReader/nodeList.h"
 
-// A complex datatype of the OMT text format. Owns its components.
+// A complex datatype: the record of the OMT text format. Owns its components.
 class DtComplexDatatypeNode : public DtOMTNode
 {
 public:

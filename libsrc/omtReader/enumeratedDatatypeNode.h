@@ -7,7 +7,7 @@
 
 #include <list>
 
-// An enumerated datatype. Owns its enumerators, which differ in name and in number.
+// An enumerated datatype (IEEE 1516.2-2010, clause 4.13). Owns its enumerators, which differ in name and in number.
 class DtEnumeratedDatatypeNode : public DtOMTNode
 {
 public:

@@ -25,7 +25,9 @@ const DtFedNode* DtFedNode::namedParent() const
     return myParent != nullptr && myParent->getName().length() > 0 ? myParent : nullptr;
 }
 
-// A file of flat classes that name each other as superclass can close a ring.
+// True when the way up from here goes round in a ring: classes of the OMT text format can name each other as
+// superclass. Two nodes walk up, one of them twice as fast. In a ring the fast one meets the slow one; elsewhere it
+// reaches a top class or a class whose full name is known, which is below no ring.
 bool DtFedNode::isBelowRing() const
 {
     const DtFedNode* slow = this;

@@ -15,7 +15,7 @@ private:
     DtString myDescription;
 };
 
-// A fixed record. Owns its fields.
+// A fixed record (IEEE 1516.2-2010, clause 4.13). Owns its fields, which lie in a value in their order.
 class DtFixedDatatypeNode : public DtOMTNode
 {
 public:

@@ -6,7 +6,8 @@
 
 #include <list>
 
-// One interaction class. Owns its parameters; its subclasses belong to the tree's list of interaction classes.
+// One interaction class (IEEE 1516.2-2010, clause 4.3). Owns its parameters; its subclasses belong to the tree's list
+// of interaction classes.
 //
 // A copy has copies of the parameters and no subclasses.
 class DtInteractionClassFedNode : public DtFedNode

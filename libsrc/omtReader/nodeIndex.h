@@ -14,6 +14,9 @@
 //
 // KeyOf gives the key of a node. The index keeps no copy of the keys: it asks the nodes, which therefore outlive it and
 // keep the key they were added with.
+//
+// The nodes lie in one table of slots. The hash of a key tells where its search starts; the search goes on slot by slot
+// until it meets the key or a free slot, so there must always be a free one, and a node is never taken out again.
 template <typename Node, typename KeyOf>
 class DtNodeIndex
 {
@@ -79,11 +82,11 @@ private:
                 insert(entry);
     }
 
-    std::vector<Entry> mySlots; // a power of two, a third of them free at least
+    std::vector<Entry> mySlots; // their number is a power of two, and at least a third of them is free
     std::size_t myCount = 0;
 };
 
-// Key of most lists.
+// The key of most lists: the name of the node.
 struct DtNameOfNode
 {
     template <typename Node>

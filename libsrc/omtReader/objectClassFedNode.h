@@ -7,7 +7,8 @@
 #include <list>
 #include <map>
 
-// One object class. Owns its attributes; its subclasses belong to the tree's list of object classes.
+// One object class (IEEE 1516.2-2010, clause 4.2). Owns its attributes; its subclasses belong to the tree's list of
+// object classes.
 //
 // A copy has copies of the attributes and no subclasses.
 class DtObjectClassFedNode : public DtFedNode

@@ -72,7 +72,7 @@ public:
     virtual void setParameterHandles(DtInteractionClassFedNode* interaction);
 
 protected:
-    // Null on a failure.
+    // The stream from which the s-expressions are read; null when there can be none.
     virtual std::unique_ptr<DtlInputStream> openStream(FILE* file);
 
 private:
@@ -81,8 +81,8 @@ private:
     [[noreturn]] void fail(const DtString& message);
 
     void processElement(const DtlObjPtr& element, DtOMTTree& tree, DtOMTTreePOC& contact);
-    // Go by the tables of omtItems.h. The fault is what is badly formatted when the list is none, the place goes behind
-    // the message of an element that fails.
+    // Read the elements of a list, or one of them, into a node, as a table of omtItems.h tells. fault: what a message
+    // calls badly formatted when the list is none; place: stands behind the message of an element that fails.
     template <typename Items, typename Node>
     void readItems(const Items& items, const DtlObjPtr& list, Node& node, const char* fault, const char* place = "");
     template <typename Item, typename Node>

@@ -3,10 +3,10 @@
 
 #include "omtReader/omtFileReader.h"
 
-// The keywords of the OMT text format, for the reader of it alone.
+// This header holds the keywords of the OMT text format. Only the reader of that format includes it.
 
-// Where the value of one keyword goes: its text or its number into the node, or the elements behind the keyword to the
-// operation that reads them.
+// Tells where the value of a keyword goes: its text or its number into the node, or the elements behind the keyword to
+// the operation that reads them.
 template <typename Node>
 struct DtOmtTarget
 {
@@ -87,7 +87,7 @@ inline constexpr DtOmtItem<DtNoteNode> theNoteItems[] = {
     {"NoteNumber", "NoteNumber in Note", &DtNoteNode::setNumber},
 };
 
-// What is directly below the model.
+// An element that stands directly below the model.
 struct DtOmtModelItem
 {
     const char* keyword;
@@ -110,7 +110,7 @@ inline constexpr DtOmtModelItem theModelItems[] = {
     {"MOMVersion",         &DtOMTFileReader::processMOMVersion        },
 };
 
-// Also below the model; together they make one point of contact.
+// A part of the point of contact: such elements stand below the model too, and together they make one contact.
 struct DtOmtContactItem
 {
     const char* keyword;
@@ -126,7 +126,7 @@ inline constexpr DtOmtContactItem theContactItems[] = {
     {"POCEmail",         &DtOMTTreePOC::email       },
 };
 
-// Null for a keyword that no row has.
+// Finds the row of a keyword; null when no row has it.
 template <typename Row, std::size_t theCount>
 const Row* DtFindOmtItem(const Row (&rows)[theCount], const DtString& keyword)
 {
@@ -142,7 +142,7 @@ struct DtOmtHierarchy
 {
     const char* rootName;
     const char* rootDescription;
-    const char* kind; // of class, in warnings
+    const char* kind; // what warnings call one of its classes
     Class* (DtOMTTree::*root)() const;
     void (DtOMTTree::*setRoot)(Class*);
     void (DtOMTTree::*add)(Class*);

@@ -10,6 +10,11 @@
 // hierarchies may take a step of the program's stack for each level.
 //
 // All classes are added before the first is asked for. Owns no class.
+//
+// The depth of a class is worked out once. A walk goes up to a class whose depth is known or to one without a
+// superclass, and then back down, where each class is one deeper than the one above it. Classes can name each other in
+// a ring. So the walk marks each class it passes as out of reach: it ends where it meets its own mark, and the mark
+// stays for all classes of the ring and below it.
 template <typename Class>
 class DtOmtSuperclasses
 {

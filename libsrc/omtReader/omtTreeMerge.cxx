@@ -4,7 +4,7 @@
 
 namespace
 {
-// What differs between the two hierarchies.
+// What the merge of object classes and that of interaction classes do not have in common, for DtClassMerger.
 struct DtObjectKind
 {
     using Class = DtObjectClassFedNode;
@@ -33,6 +33,9 @@ struct DtInteractionKind
 
 // Merges one class with all below it, depth first. The classes on the way down stand in a list of steps and not on the
 // program's stack, so that no depth exhausts it.
+//
+// Each step pairs a class of the other tree with its counterpart in this one, found or new. A new class hangs under its
+// parent only when all below it are merged: until then its full name is that of its source, whose parent it still has.
 template <typename Kind>
 class DtClassMerger
 {

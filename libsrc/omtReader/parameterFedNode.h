@@ -3,7 +3,8 @@
 
 #include "omtReader/datatypeFedNode.h"
 
-// One parameter of an interaction class. Its parent is the class.
+// One parameter of an interaction class (IEEE 1516.2-2010, clause 4.5). Its parent is the class. All texts stay as they
+// are in the file.
 class DtParameterFedNode : public DtDatatypeFedNode
 {
 public:

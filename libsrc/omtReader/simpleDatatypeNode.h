@@ -3,7 +3,8 @@
 
 #include "omtReader/omtNode.h"
 
-// A simple datatype: a scalar over a representation.
+// A simple datatype (IEEE 1516.2-2010, clause 4.13): a scalar in one of the basic data representations. Units, accuracy
+// and resolution are texts for people.
 class DtSimpleDatatypeNode : public DtOMTNode
 {
 public:

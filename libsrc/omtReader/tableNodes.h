@@ -3,7 +3,8 @@
 
 #include "omtReader/omtDatatypeNode.h"
 
-// Rows of the small tables of a model: plain records, whose texts stay as they are in the file.
+// The rows of the small tables of a model (IEEE 1516.2-2010, clauses 4.6 to 4.12): plain records, whose texts stay as
+// they are in the file.
 
 // A switch. The note of "automaticResignAction" is the action.
 class DtBoolAttrNode : public DtOMTNode
@@ -16,7 +17,7 @@ private:
     bool myIsEnabled = false;
 };
 
-// A transportation.
+// A way of transporting updates, reliable or not.
 class DtDescriptionNode : public DtOMTNode
 {
 public:
@@ -30,6 +31,7 @@ private:
     DtString myReliable;
 };
 
+// A dimension, along which federates tell the regions of their interest.
 class DtDimensionNode : public DtOMTDatatypeNode
 {
 public:

@@ -18,7 +18,7 @@ private:
     DtString myDescription;
 };
 
-// A variant record; its datatype is that of the discriminant. Owns its alternatives.
+// A variant record (IEEE 1516.2-2010, clause 4.13); its datatype is that of the discriminant. Owns its alternatives.
 class DtVariantDatatypeNode : public DtOMTDatatypeNode
 {
 public:

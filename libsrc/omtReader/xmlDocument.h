@@ -31,19 +31,20 @@ private:
     int myLine = 0;
 };
 
-// What every parse of a model or of a part of one asks of the parser: no network, no entity replaced and so none
-// loaded, the usual limits on depth and size, short texts kept small.
+// Options that every parse of a model passes to the parser: no network, no entity replaced and so none loaded, the
+// usual limits on depth and size, short texts kept small.
 extern const int theXmlParseOptions;
 
-// The document of a plain file, null when there is no such file or it is malformed. Nothing else is opened: no URL,
-// device, FIFO or directory, and compressed content is not unpacked.
+// Each gives the document that it parses, null when that is malformed or, of a file, when there is none. Nothing but a
+// plain file is opened: no URL, device, FIFO or directory, and compressed content is not unpacked.
 DtXmlDocument DtParseXmlFile(const char* name);
 DtXmlDocument DtParseXmlDescriptor(int descriptor, const char* name);
 DtXmlDocument DtParseXmlBuffer(const char* buffer, int size);
 
-// A descriptor of the plain file for reading, -1 when there is none. The caller closes it.
+// Opens a plain file for reading. The caller closes the descriptor, which is -1 when there is no such file.
 int DtOpenPlainFile(const char* name);
-// The stream that reads from it; null, and the descriptor closed, when there can be none.
+// Turns the descriptor into a stream, which owns it then. When there can be none, the descriptor is closed and the
+// answer is null.
 FILE* DtStreamOf(int descriptor);
 
 // The element behind an iterator step: `node` itself when it is an element, else the next sibling that is one.
@@ -51,8 +52,9 @@ xmlNode* DtElementFrom(xmlNode* node);
 bool DtHasXmlName(const xmlNode* node, const char* name);
 // First child element of that name, null if none.
 xmlNode* DtFirstXmlChild(const xmlNode* parent, const char* name);
-// Text of the first of these siblings that is no comment or processing instruction; null when there is none or it is no
-// text. A reference to an entity counts as none: a few bytes could stand for any amount of text.
+// The text of the first of these siblings that is no comment or processing instruction; null when there is none or when
+// it is something else than text. A reference to an entity is not looked into: a few bytes could stand for any amount
+// of text.
 const xmlChar* DtXmlText(const xmlNode* first);
 
 // The child elements of an element: for (xmlNode* child : DtXmlElements(parent)).

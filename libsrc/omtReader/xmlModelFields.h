@@ -3,8 +3,8 @@
 
 #include "omtReader/xmlModelReader.h"
 
-// Where the values of each construct of the XML forms go. The members of a construct, which are constructs of their
-// own, are not in here.
+// Tables that tell where each value of a construct goes in the tree. The members of a construct, which are constructs
+// of their own, are not in here.
 struct DtXmlModelFields : DtXmlModelNames
 {
     template <typename Node>
@@ -105,7 +105,7 @@ struct DtXmlModelFields : DtXmlModelNames
         {attrSemantics,      &DtEnumeratedDatatypeNode::setDescription   },
     };
 
-    // Of "value" and "values" the one that comes later stays.
+    // A file may have "value" and "values"; the one that comes later in it stays.
     static constexpr DtXmlField<DtEnumerationNode> theEnumeratorFields[] = {
         {attrName,   &DtEnumerationNode::setEnum, DtXmlBothForms, nullptr                     },
         {attrValue,  nullptr,                     DtXmlBothForms, setNumber<DtEnumerationNode>},

@@ -112,7 +112,7 @@ protected:
         DtString text;
     };
     using Values = std::vector<Value>;
-    // The operation that reads each child element of a name.
+    // Names the operation that reads each child element of a name.
     template <typename Reader>
     struct Construct
     {
@@ -122,9 +122,12 @@ protected:
 
     DtXMLModelReader(DtExerciseConn* connection, const Format& format) : myFormat(format), myConnection(connection) {}
 
-    // What may be values of the construct that the element holds, in their order; empty ones too.
+    // Lists the texts in an element that may be values of its construct, in the order of the file and with the empty
+    // ones; which of them are values is told by the fields.
     virtual Values valuesOf(xmlNode* node) = 0;
 
+    // Give each child element that the constructs, or the one element name, tell of to its operation, in the order of
+    // the file.
     template <typename Reader, std::size_t theCount>
     void dispatch(xmlNode* node, const Construct<Reader> (&constructs)[theCount], DtOMTTree* tree);
     template <typename Reader, typename Target>
@@ -132,23 +135,24 @@ protected:
 
     // Adds the point of contact that the element holds.
     void readPoc(xmlNode* node, DtOMTTree* tree);
+    // Sets the fields of the target whose values the element has.
     template <typename Node, std::size_t theCount>
     void readFields(xmlNode* node, const DtXmlField<Node> (&fields)[theCount], Node& target);
     template <typename Node, std::size_t theCount>
     std::unique_ptr<Node> readItem(xmlNode* node, const DtXmlField<Node> (&fields)[theCount]);
-    // Null, with a warning, when the item has no name.
+    // The answer is null, with a warning, when the item has no name.
     template <typename Node, std::size_t theCount>
     std::unique_ptr<Node> readNamedItem(xmlNode* node, const DtXmlField<Node> (&fields)[theCount], const char* element,
                                         const char* what = attrName);
-    // Null, with a warning, when the name is there and empty.
+    // The answer is null, with a warning, when the name is there and empty.
     template <typename Node, std::size_t theCount>
     std::unique_ptr<Node> readMember(xmlNode* node, const DtXmlField<Node> (&fields)[theCount], const char* element);
 
 private:
-    // The words of one hierarchy in warnings, and its names.
+    // What sets one of the two hierarchies apart: the names in the file and the words of warnings.
     struct Hierarchy
     {
-        const char* element;   // of a class
+        const char* element;   // name of the element that holds a class
         const char* kind;      // "object" or "interaction"
         const char* root;      // name that the top class has to have
         const char* wrongKind; // as in Format

@@ -1,21 +1,21 @@
 #include "registerTest.h"
 
-#include "generatorFixture.h"
+#include "envWriterFixture.h"
 
-#include "fileGenerator/omtProject.h"
 #include "foundation/exception.h"
 
 #include <QtCore/QRegularExpression>
 #include <QtTest/QtTest>
 
 // The driver: what a run writes, in which order, and under which names.
-class TestOmtEnvWriter : public QObject
+class TestOmtEnvWriter : public QObject, private DtEnvWriterFixture
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void init();
-    void cleanup();
+    void init() { open(); }
+    void cleanup() { close(); }
+
     void emptySelectionStillGivesTheFixedFiles();
     void runWithoutTreeIsAWrongCallingOrder();
     void runSetsModelNameAndBaseName();
@@ -82,16 +82,6 @@ private Q_SLOTS:
     void errorsSettingReachesTheWriters();
     void cyclicModelIsGenerated();
     void manyClassesAreGenerated();
-
-private:
-    int run(const char* model = "model.xml");
-    void select(const std::vector<const char*>& objects, const std::vector<const char*>& interactions = {});
-    bool isListed(const char* name) const { return myWriter->fileList().count(name) != 0; }
-
-    std::unique_ptr<DtGeneratorFixture> myFixture;
-    std::unique_ptr<DtTestModel> myModel;
-    std::unique_ptr<DtOmtProject> myProject;
-    std::unique_ptr<DtOMTEnvWriter> myWriter;
 };
 
 namespace
@@ -109,42 +99,6 @@ const char* const theDatatypeTemplates[] = {"subTemplates/complexTypesHeader.tlt
                                             "subTemplates/variantRecordsHeader.tlt",
                                             "subTemplates/variantRecordsSource.tlt"};
 } // namespace
-
-void TestOmtEnvWriter::init()
-{
-    myFixture = std::make_unique<DtGeneratorFixture>();
-    myModel = std::make_unique<DtTestModel>();
-    myProject = std::make_unique<DtOmtProject>();
-    myWriter = std::make_unique<DtOMTEnvWriter>();
-    myWriter->setOmtTree(myModel->tree());
-    myWriter->setHlaVersion(DtHla1516e);
-    myWriter->setOmtProject(myProject.get());
-}
-
-void TestOmtEnvWriter::cleanup()
-{
-    myWriter.reset();
-    myProject.reset();
-    myModel.reset();
-    myFixture.reset();
-}
-
-int TestOmtEnvWriter::run(const char* model)
-{
-    DtDataTypeMapper::instance()->populateFromOmtTree(myModel->tree());
-    return myWriter->writeFile(model);
-}
-
-// Puts classes of the model into project and selection.
-void TestOmtEnvWriter::select(const std::vector<const char*>& objects, const std::vector<const char*>& interactions)
-{
-    for (const char* name : objects)
-        myProject->addObject(name, false, "");
-    for (const char* name : interactions)
-        myProject->addInteraction(name, false, "");
-    myWriter->setObjectsToGenerate(myProject->getObjects());
-    myWriter->setInteractionsToGenerate(myProject->getInteractions());
-}
 
 void TestOmtEnvWriter::emptySelectionStillGivesTheFixedFiles()
 {

@@ -1,0 +1,130 @@
+#include "registerTest.h"
+
+#include "envWriterFixture.h"
+
+#include <QtTest/QtTest>
+
+// The driver and its enumerations: which are in their common file, and what the mapper knows of them.
+class TestOmtEnvWriterEnumerations : public QObject, private DtEnvWriterFixture
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init() { open(); }
+    void cleanup() { close(); }
+
+    void enumerationsFileHoldsUsedUnmappedOnly();
+    void enumerationSizeComesFromItsRepresentation_data();
+    void enumerationSizeComesFromItsRepresentation();
+    void enumerationIsKnownToTheMapper();
+    void enumerationsFileIsWrittenWhenEmpty();
+};
+
+namespace
+{
+const QByteArray theEnumTemplate =
+    "<#Enumeration><!EnumerationName!>(<#EnumerationField><!EnumerationFieldName!>=<!EnumerationFieldValue!>,<#>)<#>";
+} // namespace
+
+void TestOmtEnvWriterEnumerations::enumerationsFileHoldsUsedUnmappedOnly()
+{
+    myModel->addObject("HLAobjectRoot.Tank");
+    myModel->addAttribute("HLAobjectRoot.Tank", "deOne", "DeUsedEnum8");
+    myModel->addAttribute("HLAobjectRoot.Tank", "deTwo", "DeMappedEnum8");
+    for (const char* name : {"DeUsedEnum8", "DeMappedEnum8", "DeUnusedEnum8"})
+        myModel->addEnumeration(name, "HLAoctet",
+                                {
+                                    {"red",   4 },
+                                    {"green", -1}
+        });
+    DtDataTypeMapper::instance()->addMapping("DeMappedEnum8", "bool");
+    myFixture->writeTemplate("enums.tlt", theEnumTemplate);
+    select({"HLAobjectRoot.Tank"});
+    run();
+    QCOMPARE(myFixture->output("DataTypes/modelEnums.h"), QString("DtDeUsedEnum8(red=4,green=-1,)"));
+    QVERIFY(isListed("DataTypes/modelEnums.h"));
+}
+
+void TestOmtEnvWriterEnumerations::enumerationSizeComesFromItsRepresentation_data()
+{
+    QTest::addColumn<QString>("name");
+    QTest::addColumn<QString>("representation");
+    QTest::addColumn<QString>("size");
+    QTest::addColumn<QString>("type");
+    QTest::newRow("signed") << "DeEnumA"
+                            << "DeInt16"
+                            << "16"
+                            << "DtU16";
+    QTest::newRow("unsigned") << "DeEnumB"
+                              << "DeU64"
+                              << "64"
+                              << "DtU64";
+    QTest::newRow("through a simple type") << "DeEnumC"
+                                           << "DeSimpleU8"
+                                           << "8"
+                                           << "DtU8";
+    QTest::newRow("by the name") << "DeEnum8"
+                                 << "DeNothing"
+                                 << "8"
+                                 << "DtU8";
+    QTest::newRow("none at all") << "DeKind"
+                                 << "DeNothing"
+                                 << "32"
+                                 << "DtDeKind";
+    QTest::newRow("no number in the type") << "DeFloatKind"
+                                           << "DeFloat"
+                                           << "32"
+                                           << "DtFloat32";
+}
+
+void TestOmtEnvWriterEnumerations::enumerationSizeComesFromItsRepresentation()
+{
+    QFETCH(QString, name);
+    QFETCH(QString, representation);
+    QFETCH(QString, size);
+    QFETCH(QString, type);
+    DtDataTypeMapper& mapper = *DtDataTypeMapper::instance();
+    mapper.addMapping("DeInt16", "DtInt16");
+    mapper.addMapping("DeU64", "DtU64");
+    mapper.addMapping("DeU8", "DtU8");
+    mapper.addMapping("DeFloat", "DtFloat32");
+    mapper.addSimpleTypeToRepresentationMapping("DeSimpleU8", "DeU8");
+    myModel->addObject("HLAobjectRoot.Tank");
+    myModel->addAttribute("HLAobjectRoot.Tank", "deKindOfIt", qPrintable(name));
+    myModel->addEnumeration(qPrintable(name), qPrintable(representation),
+                            {
+                                {"one", 1}
+    });
+    select({"HLAobjectRoot.Tank"});
+    run();
+    QCOMPARE(QString(mapper.enumerationSize(qPrintable(name)).c_str()), size);
+    QCOMPARE(QString(mapper.repForEnumName(qPrintable(name)).c_str()), type);
+}
+
+void TestOmtEnvWriterEnumerations::enumerationIsKnownToTheMapper()
+{
+    DtOMTEnvWriter::setPrefixName("x");
+    myModel->addObject("HLAobjectRoot.Tank");
+    myModel->addAttribute("HLAobjectRoot.Tank", "deColour", "deColourKind");
+    myModel->addEnumeration("deColourKind", "DeNothing",
+                            {
+                                {"red", 1}
+    });
+    select({"HLAobjectRoot.Tank"});
+    run();
+    const DtDataTypeMapper& mapper = *DtDataTypeMapper::instance();
+    QVERIFY(mapper.isEnumeration("deColourKind"));
+    QCOMPARE(mapper.quorvexType("deColourKind"), DtString("DtDeColourKind"));
+    QCOMPARE(mapper.repForEnumName("deColourKind"), DtString("DtXdeColourKind"));
+    QCOMPARE(DtDatatypeClassNames::instance().enumerationRepresentation("deColourKind"), DtString("DeNothing"));
+}
+
+void TestOmtEnvWriterEnumerations::enumerationsFileIsWrittenWhenEmpty()
+{
+    myFixture->writeTemplate("enums.tlt", "none" + theEnumTemplate);
+    run();
+    QCOMPARE(myFixture->output("DataTypes/modelEnums.h"), QString("none"));
+}
+
+QX_REGISTER_TEST(TestOmtEnvWriterEnumerations)
+#include "testOmtEnvWriterEnumerations.moc"

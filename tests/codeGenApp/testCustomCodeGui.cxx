@@ -2,13 +2,7 @@
 
 #include "registerTest.h"
 
-#include "codeGenApp/codeEditor.h"
-#include "codeGenApp/customCodeGui.h"
-#include "codeGenApp/listViewManager.h"
-#include "dialogWatch.h"
-#include "fileGenerator/omtProject.h"
-#include "scratchProgram.h"
-#include "smallModels.h"
+#include "customCodeFixture.h"
 
 namespace
 {
@@ -35,53 +29,19 @@ private:
     QStringList mySeen;
 };
 
-QByteArray enumerationText(const QByteArray& name, const QByteArray& representation)
-{
-    return element("enumeratedData", element("name", name) + element("representation", representation) +
-                                         element("enumerator", element("name", "Off") + element("value", "0")) +
-                                         element("enumerator", element("name", "Lit") + element("value", "1")));
-}
-
-// Two branches with a class of one name, an enumeration, and one that is predefined as a boolean.
-QByteArray modelText()
-{
-    QByteArray text = moduleText(
-        objectText("Ship", attributeText("Heading", "HLAfloat64BE") + attributeText("lamp", "LampState") +
-                               attributeText("default", "Knots") + attributeText("Manned", "HLAboolean") +
-                               objectText("Tug", attributeText("Pull"))) +
-            objectText("Shore", objectText("Tug", attributeText("Rope"))),
-        interactionText("Call", parameterText("Text", "HLAASCIIstring") + parameterText("Lamp", "LampState")));
-    const QByteArray types = element(
-        "dataTypes",
-        element("basicDataRepresentations",
-                element("basicData", element("name", "HLAoctet") + element("size", "8") + element("endian", "Big"))) +
-            element("simpleDataTypes",
-                    element("simpleData", element("name", "Knots") + element("representation", "HLAfloat32BE"))) +
-            element("enumeratedDataTypes",
-                    enumerationText("LampState", "HLAoctet") + enumerationText("HLAboolean", "HLAinteger32BE")));
-    return text.replace("</objectModel>", types + "</objectModel>");
-}
-
-DtOmtProject::DtCodingPair coding(const DtOmtProject& project, const char* key)
-{
-    DtOmtProject::DtCodingPair pair("none", "none");
-    project.customCodingsFromName(key, pair);
-    return pair;
-}
-
 QString printed(const DtOmtProject::DtCodingPair& pair)
 {
     return QString::fromUtf8((pair.first + "|" + pair.second).c_str());
 }
 } // namespace
 
-class TestCustomCodeGui : public QObject
+class TestCustomCodeGui : public QObject, private DtCustomCodeFixture
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void init();
-    void cleanup();
+    void init() { openProgram(); }
+    void cleanup() { closeProgram(); }
 
     void windowHasItsTexts();
     void windowBlocksMainWindowAndDeletesItself();
@@ -146,96 +106,13 @@ private Q_SLOTS:
     void saveButtonWorksByMouseAndKey();
 
 private:
-    QTreeWidgetItem* rightItem(const char* path) const;
-    void open(const char* path);
-    void select(int row) { list().setCurrentItem(list().topLevelItem(row)); }
-    template <class Widget>
-    Widget& find(const char* name) const
-    {
-        auto* const widget = myGui->findChild<Widget*>(name);
-        if (widget == nullptr)
-            qFatal("no %s", name);
-        return *widget;
-    }
-    QTreeWidget& list() const { return find<QTreeWidget>("myItemList"); }
-    CodeEditor& encoder() const { return find<CodeEditor>("myEncEditor"); }
-    CodeEditor& decoder() const { return find<CodeEditor>("myDecEditor"); }
-    QTabWidget& tabs() const { return find<QTabWidget>("myTabs"); }
-    QString currentTab() const { return tabs().tabText(tabs().currentIndex()); }
-    QString rows() const;
-    QString marks() const;
-    void save() { myGui->slot_saveButtonClicked(); }
-    DtOmtProject& project() const { return *myWindow->omtProject(); }
     QString decoded(const char* line) const
     {
         DtString text(line);
         myGui->decodeFileLine(text);
         return QString::fromUtf8(text.c_str());
     }
-
-    std::unique_ptr<DtScratchProgram> myProgram;
-    std::unique_ptr<DtCodeGenAppGui> myWindow;
-    QPointer<DtCustomCodeGui> myGui;
 };
-
-void TestCustomCodeGui::init()
-{
-    myProgram = std::make_unique<DtScratchProgram>();
-    QDir().mkpath(myProgram->path("models"));
-    myWindow = myProgram->makeWindow();
-    myWindow->preferences()->setIncludeStandardMIM(false);
-    myWindow->newOmtProject(DtFilename(myProgram->bytes(myProgram->path("models/p.qxproj"))));
-    QCOMPARE(myWindow->loadFile(myProgram->model("m.xml", modelText()), ""), 1);
-    myWindow->addAllObjectInteractions();
-}
-
-void TestCustomCodeGui::cleanup()
-{
-    delete myGui;
-    myWindow.reset();
-    myProgram.reset();
-}
-
-// The item at the end of a path of names, from the top item down.
-QTreeWidgetItem* TestCustomCodeGui::rightItem(const char* path) const
-{
-    const QStringList names = QString(path).split('.');
-    QTreeWidgetItem* item =
-        myWindow->listViewManager()->rightListView()->findItems(names.first(), Qt::MatchExactly).value(0);
-    for (const QString& name : names.mid(1))
-    {
-        QTreeWidgetItem* next = nullptr;
-        for (int row = 0; item != nullptr && row < item->childCount(); ++row)
-            next = item->child(row)->text(0) == name ? item->child(row) : next;
-        item = next;
-    }
-    if (item == nullptr)
-        qFatal("no %s", path);
-    return item;
-}
-
-void TestCustomCodeGui::open(const char* path)
-{
-    delete myGui;
-    myGui = new DtCustomCodeGui(qApp, rightItem(path), myWindow.get());
-}
-
-QString TestCustomCodeGui::rows() const
-{
-    QStringList texts;
-    for (int row = 0; row < list().topLevelItemCount(); ++row)
-        texts += list().topLevelItem(row)->text(0) + " " + list().topLevelItem(row)->text(1);
-    return texts.join('\n');
-}
-
-// A star for each row that has one, a dot for each that has none.
-QString TestCustomCodeGui::marks() const
-{
-    QString text;
-    for (int row = 0; row < list().topLevelItemCount(); ++row)
-        text += list().topLevelItem(row)->text(0).startsWith('*') ? '*' : '.';
-    return text;
-}
 
 void TestCustomCodeGui::windowHasItsTexts()
 {
@@ -349,7 +226,7 @@ void TestCustomCodeGui::itemMayGoWhileWindowIsOpen()
     select(0);
     encoder().insertPlainText("x");
     save();
-    QVERIFY(coding(project(), "HLAobjectRoot.Ship.Heading").first.startsWith("x"));
+    QVERIFY(coding("HLAobjectRoot.Ship.Heading").first.startsWith("x"));
 }
 
 void TestCustomCodeGui::opensOnInstructions()
@@ -693,7 +570,7 @@ void TestCustomCodeGui::saveStoresBothTextsOfCurrentItem()
     decoder().selectAll();
     decoder().insertPlainText("dec");
     save();
-    QCOMPARE(printed(coding(project(), "HLAobjectRoot.Ship.Heading")), QString("enc\n|dec"));
+    QCOMPARE(printed(coding("HLAobjectRoot.Ship.Heading")), QString("enc\n|dec"));
     QCOMPARE(marks(), QString("...."));
     QVERIFY(!myGui->hasUnsavedEdits());
     QCOMPARE(encoder().text(), QString("enc\n"));
@@ -709,7 +586,7 @@ void TestCustomCodeGui::saveLeavesEditsOfOtherItems()
     save();
     QCOMPARE(marks(), QString("*..."));
     QCOMPARE(project().customCodings().size(), std::size_t(1));
-    QVERIFY(coding(project(), "HLAobjectRoot.Ship.lamp").first.startsWith("two"));
+    QVERIFY(coding("HLAobjectRoot.Ship.lamp").first.startsWith("two"));
 }
 
 void TestCustomCodeGui::saveOfUntouchedItemStoresItsTexts()
@@ -717,7 +594,7 @@ void TestCustomCodeGui::saveOfUntouchedItemStoresItsTexts()
     open("Interactions.Call");
     select(0);
     save();
-    const DtOmtProject::DtCodingPair pair = coding(project(), "HLAinteractionRoot.Call.Text");
+    const DtOmtProject::DtCodingPair pair = coding("HLAinteractionRoot.Call.Text");
     QCOMPARE(printed(pair), encoder().text() + "|" + decoder().text());
     QVERIFY(encoder().text().contains("interaction.text()"));
 }
@@ -813,8 +690,8 @@ void TestCustomCodeGui::closeAndSaveStoresEveryEditedItem()
     const AnswerQuestion question(QMessageBox::Save);
     QVERIFY(myGui->close());
     QCOMPARE(project().customCodings().size(), std::size_t(2));
-    QVERIFY(coding(project(), "HLAobjectRoot.Ship.Heading").first.startsWith("edit0"));
-    QVERIFY(coding(project(), "HLAobjectRoot.Ship.default").first.startsWith("edit2"));
+    QVERIFY(coding("HLAobjectRoot.Ship.Heading").first.startsWith("edit0"));
+    QVERIFY(coding("HLAobjectRoot.Ship.default").first.startsWith("edit2"));
     const QByteArray file = readTextFile(myProgram->path("models/p.qxproj"));
     QVERIFY(file.contains("edit0") && file.contains("edit2"));
 }
@@ -872,8 +749,8 @@ void TestCustomCodeGui::textsSurviveSaveAndLoad()
         save();
         myWindow->loadOmtProject(DtFilename(myProgram->bytes(myProgram->path("models/p.qxproj"))));
         QVERIFY(myWindow->omtProject() != nullptr);
-        QCOMPARE(QByteArray(coding(project(), theKey).first.c_str()), text);
-        QCOMPARE(QByteArray(coding(project(), theKey).second.c_str()), text);
+        QCOMPARE(QByteArray(coding(theKey).first.c_str()), text);
+        QCOMPARE(QByteArray(coding(theKey).second.c_str()), text);
     }
 }
 
@@ -899,9 +776,9 @@ void TestCustomCodeGui::lineEndsOfEditedTextStay()
     select(1);
     select(0);
     save();
-    QCOMPARE(QByteArray(coding(project(), theKey).first.c_str()), edited);
+    QCOMPARE(QByteArray(coding(theKey).first.c_str()), edited);
     myWindow->loadOmtProject(DtFilename(myProgram->bytes(myProgram->path("models/p.qxproj"))));
-    QCOMPARE(QByteArray(coding(project(), theKey).first.c_str()), edited);
+    QCOMPARE(QByteArray(coding(theKey).first.c_str()), edited);
 }
 
 void TestCustomCodeGui::emptyTextIsStored()
@@ -912,7 +789,7 @@ void TestCustomCodeGui::emptyTextIsStored()
     QTest::keyClick(&encoder(), Qt::Key_Delete);
     QCOMPARE(marks(), QString("*..."));
     save();
-    QCOMPARE(coding(project(), "HLAobjectRoot.Ship.Heading").first, DtString());
+    QCOMPARE(coding("HLAobjectRoot.Ship.Heading").first, DtString());
 }
 
 void TestCustomCodeGui::contextMenuLeadsToTexts()

@@ -8,13 +8,20 @@
 #include "scratchProgram.h"
 #include "smallModels.h"
 
-// The custom code window over a project with a small model.
+// The custom code window over a project with a small model. The tests of a class share a copy of the program's data;
+// one that changes the data opens the program on data of its own.
 class DtCustomCodeFixture
 {
 protected:
-    void openProgram()
+    void openProgram() { openProgramOn(std::make_unique<DtScratchProgram>(myTree)); }
+    void openProgramOnOwnData()
     {
-        myProgram = std::make_unique<DtScratchProgram>();
+        closeProgram();
+        openProgramOn(std::make_unique<DtScratchProgram>());
+    }
+    void openProgramOn(std::unique_ptr<DtScratchProgram> program)
+    {
+        myProgram = std::move(program);
         QDir().mkpath(myProgram->path("models"));
         myWindow = myProgram->makeWindow();
         myWindow->preferences()->setIncludeStandardMIM(false);
@@ -90,6 +97,7 @@ protected:
         return pair;
     }
 
+    DtScratchTree myTree;
     std::unique_ptr<DtScratchProgram> myProgram;
     std::unique_ptr<DtCodeGenAppGui> myWindow;
     QPointer<DtCustomCodeGui> myGui;

@@ -7,50 +7,26 @@
 #include "fileGenerator/dataTypeMapper.h"
 #include "fileGenerator/fileWriter.h"
 #include "fileGenerator/omtEnvWriter.h"
-#include "testSupport.h"
+#include "scratchData.h"
 
-#include <QtCore/QDirIterator>
-#include <QtCore/QTemporaryDir>
-#include <QtTest/QtTest>
 #include <QtWidgets/QtWidgets>
 
 #include <functional>
 #include <memory>
 #include <vector>
 
-inline void copyTree(const QString& from, const QString& to)
-{
-    QDir().mkpath(to);
-    for (QDirIterator each(from, QDir::Files | QDir::Dirs | QDir::NoDotAndDotDot | QDir::Hidden,
-                           QDirIterator::Subdirectories);
-         each.hasNext();)
-    {
-        each.next();
-        const QString target = to + "/" + QDir(from).relativeFilePath(each.filePath());
-        if (each.fileInfo().isDir())
-            QDir().mkpath(target);
-        else
-            writeTextFile(target, readTextFile(each.filePath())); // QFile::copy() waits for the disk
-    }
-}
-
-// A scratch copy of the program's data with a sibling "bin", which is the working directory while this lives.
+// A copy of the program's data with a sibling "bin", which is the working directory while this lives: one that the
+// tests of a class share, or one of its own for a test that changes them.
 //
 // Models and output go beside them: model() copies a model there, so that its project is written there too. The
 // class-wide settings of the writers and the mapper's tables are put back.
 class DtScratchProgram
 {
 public:
-    DtScratchProgram()
-    {
-        copyTree(QStringLiteral(QX_SOURCE_DIR "/data"), path("data"));
-        QFile::remove(path("data/config/customCodeGenConfig.xml"));
-        QDir().mkpath(path("bin"));
-        myWorkingDirectory = std::make_unique<DtInDirectory>(path("bin"));
-    }
+    explicit DtScratchProgram(const DtScratchTree& shared) : myData(shared) {}
+    DtScratchProgram() : myData(QStringList("")) {}
     ~DtScratchProgram()
     {
-        myWorkingDirectory.reset();
         DtOMTEnvWriter::setIncludeName(DtString());
         DtOMTEnvWriter::setPrefixName(DtString());
         DtOMTEnvWriter::setNamespaceName(DtString());
@@ -59,7 +35,7 @@ public:
         DtDataTypeMapper::instance()->clearMappings();
     }
 
-    QString path(const char* name) const { return myDirectory.path() + "/" + QString::fromLatin1(name); }
+    QString path(const char* name) const { return myData.path(name); }
     DtString bytes(const QString& name) const { return name.toUtf8().constData(); }
 
     // Writes a model of this text, or copies one, into "models/".
@@ -89,8 +65,7 @@ public:
     DtCodeGenInitializer& initializer() { return *myInitializers.back(); } // of the newest window
 
 private:
-    QTemporaryDir myDirectory;
-    std::unique_ptr<DtInDirectory> myWorkingDirectory;
+    DtScratchData myData;
     std::vector<std::unique_ptr<DtCodeGenInitializer>> myInitializers; // each as long as its window may live
 };
 
@@ -111,15 +86,6 @@ inline std::unique_ptr<DtCodeGenAppGui> runBatch(DtScratchProgram& program, cons
     window->setOutputDirectory(program.path("out/"));
     window->generateAllFiles();
     return window;
-}
-
-inline QStringList filesBelow(const QString& directory)
-{
-    QStringList names;
-    for (QDirIterator each(directory, QDir::Files | QDir::Hidden, QDirIterator::Subdirectories); each.hasNext();)
-        names += QDir(directory).relativeFilePath(each.next());
-    names.sort();
-    return names;
 }
 
 // The six modules of the large model, in merge order; empty when they are not there.

@@ -74,6 +74,8 @@ bool hasCMake()
     return isThere;
 }
 
+const QStringList theFolders = {"config", "images"};
+
 void writeDeployment(const DtScratchData& program, const QByteArray& elements)
 {
     writeTextFile(program.path("data/config/deployment.xml"),
@@ -86,7 +88,7 @@ class TestAboutBox : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void init() { myData = std::make_unique<DtScratchData>(QStringList{"config", "images"}); }
+    void init() { myData = std::make_unique<DtScratchData>(myTree); }
     void cleanup() { myData.reset(); }
 
     void titleNamesTheProduct();
@@ -115,6 +117,15 @@ private Q_SLOTS:
     void unchangedBuildInfoIsLeftAlone();
 
 private:
+    // For a test that changes the data.
+    const DtScratchData& ownData()
+    {
+        myData.reset();
+        myData = std::make_unique<DtScratchData>(theFolders);
+        return *myData;
+    }
+
+    DtScratchTree myTree{theFolders};
     std::unique_ptr<DtScratchData> myData;
 };
 
@@ -182,6 +193,7 @@ void TestAboutBox::imageIsTheSplash()
 
 void TestAboutBox::missingImageTakesNoRoom()
 {
+    ownData();
     const int height = DtAboutBox().sizeHint().height();
     const int image = QPixmap("../data/images/SplashScreen_Quorvex.jpg").height();
     QVERIFY(QFile::remove("../data/images/SplashScreen_Quorvex.jpg"));
@@ -190,9 +202,9 @@ void TestAboutBox::missingImageTakesNoRoom()
 
 void TestAboutBox::deploymentFillsInAddresses()
 {
-    writeDeployment(*myData, "<address>\n  Harbour Road 1\n  Smalltown\n</address><telephone>+1 2</telephone>"
-                             "<webAddress>https://support.example</webAddress>"
-                             "<mailAddress>help@support.example</mailAddress>");
+    writeDeployment(ownData(), "<address>\n  Harbour Road 1\n  Smalltown\n</address><telephone>+1 2</telephone>"
+                               "<webAddress>https://support.example</webAddress>"
+                               "<mailAddress>help@support.example</mailAddress>");
     DtAboutBox box;
     box.show();
     const QStringList texts = shownTexts(box);
@@ -207,7 +219,7 @@ void TestAboutBox::deploymentFillsInAddresses()
 
 void TestAboutBox::linksHaveColorOfTheirStyle()
 {
-    writeDeployment(*myData, "<webAddress>https://support.example</webAddress>");
+    writeDeployment(ownData(), "<webAddress>https://support.example</webAddress>");
     QWidget window;
     window.setStyleSheet("#AboutBoxHelpLink { color: #123456; }");
     window.show();
@@ -221,8 +233,8 @@ void TestAboutBox::linksHaveColorOfTheirStyle()
 
 void TestAboutBox::addressesAreNotTakenForMarkup()
 {
-    writeDeployment(*myData, "<address>&lt;b&gt;A&lt;/b&gt; &amp; B</address>"
-                             "<webAddress>https://a.example/?x=1&amp;y=\"2\"</webAddress>");
+    writeDeployment(ownData(), "<address>&lt;b&gt;A&lt;/b&gt; &amp; B</address>"
+                               "<webAddress>https://a.example/?x=1&amp;y=\"2\"</webAddress>");
     DtAboutBox box;
     box.show();
     for (const QLabel* label : box.findChildren<QLabel*>())
@@ -301,7 +313,7 @@ void TestAboutBox::brokenDeploymentFileIsToldAndEmpty()
 
 void TestAboutBox::unknownElementsOfDeploymentAreSkipped()
 {
-    writeDeployment(*myData, "<fax>3<number/></fax><telephone> 1 </telephone><versionPage>https://v</versionPage>");
+    writeDeployment(ownData(), "<fax>3<number/></fax><telephone> 1 </telephone><versionPage>https://v</versionPage>");
     QCOMPARE(DtDeployment::read().telephone, QString("1"));
     QCOMPARE(DtDeployment::read().versionPage, QString("https://v"));
 }

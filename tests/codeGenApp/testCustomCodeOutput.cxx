@@ -133,6 +133,9 @@ private Q_SLOTS:
     void everySavedTextReachesItsFunction();
     void oddTextReachesFileUnchanged();
     void exampleOfInstructionsWorks();
+
+private:
+    DtScratchTree myTree;
 };
 
 void TestCustomCodeOutput::defaultTextsAreWhatIsGenerated_data()
@@ -148,7 +151,7 @@ void TestCustomCodeOutput::defaultTextsAreWhatIsGenerated()
     QFETCH(FilesOf, files);
     std::map<QString, QString> plain, custom;
     {
-        DtScratchProgram program;
+        DtScratchProgram program(myTree);
         const std::vector<DtString> models = files(program);
         if (models.empty())
             return qInfo("no large model to generate from");
@@ -157,7 +160,7 @@ void TestCustomCodeOutput::defaultTextsAreWhatIsGenerated()
         generate(program, *window);
         custom = wireForms(codingSources(program));
     }
-    DtScratchProgram program;
+    DtScratchProgram program(myTree);
     const auto window = runBatch(program, files(program));
     plain = wireForms(codingSources(program));
     int compared = 0;
@@ -176,7 +179,7 @@ void TestCustomCodeOutput::defaultTextsAreWhatIsGenerated()
 
 void TestCustomCodeOutput::defaultTextsAreTheSameBehindAGeneration()
 {
-    DtScratchProgram program;
+    DtScratchProgram program(myTree);
     const auto window = selectAll(program, sampleFiles(program));
     const AllOffered before = allOffered(*window);
     generate(program, *window);
@@ -192,7 +195,7 @@ void TestCustomCodeOutput::defaultTextsAreTheSameBehindAGeneration()
 
 void TestCustomCodeOutput::defaultTextsCompile()
 {
-    DtScratchProgram program;
+    DtScratchProgram program(myTree);
     const auto window = selectAll(program, sampleFiles(program));
     storeAll(*window->omtProject(), allOffered(*window));
     generate(program, *window);
@@ -204,7 +207,7 @@ void TestCustomCodeOutput::defaultTextsCompile()
 
 void TestCustomCodeOutput::headersStandInGeneratedFiles()
 {
-    DtScratchProgram program;
+    DtScratchProgram program(myTree);
     const auto window = selectAll(program, sampleFiles(program));
     window->setClassPrefix("Port");
     const AllOffered offered = allOffered(*window);
@@ -217,7 +220,7 @@ void TestCustomCodeOutput::headersStandInGeneratedFiles()
 
 void TestCustomCodeOutput::everySavedTextReachesItsFunction()
 {
-    DtScratchProgram program;
+    DtScratchProgram program(myTree);
     const auto window = selectAll(program, sampleFiles(program));
     AllOffered offered = allOffered(*window);
     for (auto& [key, texts] : offered)
@@ -245,7 +248,7 @@ void TestCustomCodeOutput::oddTextReachesFileUnchanged()
 {
     const char theText[] =
         "\t// h\xc3\xa4ngt \xe6\xbc\xa2 <!Prefix!> <?exists a?> <#2>x<#>\r\n|not a bar\n\n  end // \"";
-    DtScratchProgram program;
+    DtScratchProgram program(myTree);
     const auto window = selectAll(
         program, {program.model("m.xml", moduleText(objectText("Ship", attributeText("Heading", "HLAfloat64BE"))))});
     window->omtProject()->addCustomCoding("HLAobjectRoot.Ship.Heading", {theText, ""});
@@ -287,7 +290,7 @@ const char theRoundTrip[] = "#include \"shipDecoderHLA.h\"\n#include \"shipEncod
 // A quarter turn goes out as 9000 hundredths of a degree and comes back.
 void TestCustomCodeOutput::exampleOfInstructionsWorks()
 {
-    DtScratchProgram program;
+    DtScratchProgram program(myTree);
     const auto window = selectAll(
         program, {program.model("m.xml", moduleText(objectText("Ship", attributeText("Heading", "HLAfloat64BE"))))});
     const DtOmtProject::DtCodingPair example(exampleOf("Encoding"), exampleOf("Decoding"));

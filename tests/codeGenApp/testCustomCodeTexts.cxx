@@ -180,6 +180,7 @@ void TestCustomCodeTexts::defaultTextFollowsDatatype()
 {
     QFETCH(QString, path);
     QFETCH(int, row);
+    openProgramOnOwnData();
     for (const char* kind : {"Encoder", "Decoder", "EnumEncoder", "EnumDecoder", "IntEncoder", "IntDecoder",
                              "EnumIntEncoder", "EnumIntDecoder"})
         writeTextFile(QString("../data/templates/customUITemplates/custom%1.tlt").arg(kind), kind);
@@ -201,6 +202,7 @@ void TestCustomCodeTexts::storedTextGoesAheadOfDefault()
 
 void TestCustomCodeTexts::missingTemplateIsToldAndEmpty()
 {
+    openProgramOnOwnData();
     QVERIFY(QFile::remove("../data/templates/customUITemplates/customEncoder.tlt"));
     open("Objects.Ship");
     DtCapture capture(DtWarn);
@@ -211,6 +213,7 @@ void TestCustomCodeTexts::missingTemplateIsToldAndEmpty()
 
 void TestCustomCodeTexts::blankLinesOfTemplateStay()
 {
+    openProgramOnOwnData();
     writeTextFile("../data/templates/customUITemplates/customEncoder.tlt", "\n\ta\n\n<!AttributeName!>\n\n");
     open("Objects.Ship");
     select(0);

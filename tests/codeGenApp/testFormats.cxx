@@ -188,7 +188,7 @@ private Q_SLOTS:
         if (!hasModels())
             return;
         const DtModelRun& expected = modelRuns()[static_cast<std::size_t>(index)];
-        DtScratchProgram program;
+        DtScratchProgram program(myTree);
         const DtCapture warnings(DtWarn);
         const auto window = run(program, QList<const char*>{expected.file});
         QVERIFY(window->isFileLoaded());
@@ -201,7 +201,7 @@ private Q_SLOTS:
     {
         if (!hasModels())
             return;
-        DtScratchProgram program;
+        DtScratchProgram program(myTree);
         QVERIFY(run(program, QList<const char*>{theLargeModel})->isFileLoaded());
         checkCompiles(program.path("out"));
     }
@@ -210,7 +210,7 @@ private Q_SLOTS:
     {
         if (!hasModels())
             return;
-        DtScratchProgram program;
+        DtScratchProgram program(myTree);
         const auto window = run(program, theRestaurant);
         QVERIFY(window->isFileLoaded());
         QCOMPARE(int(window->loadedFiles().size()), 3); // with the management model
@@ -223,7 +223,7 @@ private Q_SLOTS:
     {
         if (!hasModels())
             return;
-        DtScratchProgram program;
+        DtScratchProgram program(myTree);
         const auto window = run(program, QList<const char*>{theTextModel});
         QVERIFY(window->isFileLoaded());
         QStringList arrays;
@@ -249,7 +249,7 @@ private Q_SLOTS:
         for (const QList<const char*>& models : {QList<const char*>{theLargeModel}, QList<const char*>{theTextModel},
                                                  QList<const char*>(std::begin(theModules), std::end(theModules))})
         {
-            DtScratchProgram program;
+            DtScratchProgram program(myTree);
             QVERIFY(run(program, models)->isFileLoaded());
             files.push_back(filesOfClasses(program.path("out")));
         }
@@ -265,6 +265,9 @@ private Q_SLOTS:
             QCOMPARE(shared, classes);
         }
     }
+
+private:
+    DtScratchTree myTree;
 };
 
 QX_REGISTER_TEST(TestFormats)

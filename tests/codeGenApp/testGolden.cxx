@@ -173,6 +173,8 @@ private:
         for (const QString& name : QDir(theCases).entryList(QDir::Dirs | QDir::NoDotAndDotDot, QDir::Name))
             QTest::newRow(qPrintable(name)) << theCases + "/" + name;
     }
+
+    DtScratchTree myTree;
 };
 
 void TestGolden::identifiersAndDatesAreMasked()
@@ -211,7 +213,7 @@ void TestGolden::everyCaseIsComplete()
 void TestGolden::runGivesTheExpectedFiles()
 {
     QFETCH(QString, directory);
-    DtScratchProgram program;
+    DtScratchProgram program(myTree);
     QVERIFY(generate(program, directory, readOptions(directory + "/options")));
     const FileTexts actual = readFiles(program.path("out"));
     QVERIFY(!actual.empty());

@@ -119,6 +119,7 @@ private:
         return file.toStdString();
     }
 
+    DtScratchTree myTree{QStringList("images")};
     std::unique_ptr<DtScratchData> myData;
     std::unique_ptr<DtWidgetIconStyleManager> myManager;
     std::map<QIcon::Mode, QColor> myColors;
@@ -127,7 +128,7 @@ private:
 
 void TestIconStyleManager::init()
 {
-    myData = std::make_unique<DtScratchData>(QStringList{"images"});
+    myData = std::make_unique<DtScratchData>(myTree);
     myColors = {
         {QIcon::Active,   QColor(0xff0000)},
         {QIcon::Selected, QColor(0x00ff00)},

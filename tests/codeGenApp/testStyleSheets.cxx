@@ -389,7 +389,7 @@ void TestStyleSheets::imagesOfTheSheetsExist()
 void TestStyleSheets::qtTakesTheSheetWithoutWarning()
 {
     QFETCH(QString, mode);
-    const DtScratchData program({"config"});
+    const DtScratchData program(QStringList("config"));
     QCOMPARE(warningsOf(sheetText(mode).replace("$(APP_DIR)", "../data/config")), QStringList());
 }
 

@@ -117,7 +117,7 @@ class TestWholeRun : public QObject
 private Q_SLOTS:
     void sampleGivesEveryFileOnceAndCompiles()
     {
-        DtScratchProgram program;
+        DtScratchProgram program(myTree);
         const auto window = runBatch(program, {program.sampleModel()});
         QVERIFY(window->isFileLoaded());
         checkCounts(*window, program.path("out"));
@@ -133,7 +133,7 @@ private Q_SLOTS:
             qInfo("The large model is not here.");
             return;
         }
-        DtScratchProgram program;
+        DtScratchProgram program(myTree);
         std::vector<DtString> models;
         for (const QString& module : modules)
             models.push_back(program.copiedModel(module));
@@ -147,7 +147,7 @@ private Q_SLOTS:
 
     void namespacePrefixAndIncludeDirectoryCompile()
     {
-        DtScratchProgram program;
+        DtScratchProgram program(myTree);
         const DtString model = program.sampleModel();
         const auto window = program.makeWindow();
         window->newOmtProject(DtFilename(program.bytes(program.path("models/p.qxproj"))));
@@ -170,7 +170,7 @@ private Q_SLOTS:
 
     void errorsSwitchedOnStandForTheMarkedTypesOnly()
     {
-        DtScratchProgram program;
+        DtScratchProgram program(myTree);
         const DtString model = program.sampleModel();
         const auto window = program.makeWindow();
         window->newOmtProject(DtFilename(program.bytes(program.path("models/p.qxproj"))));
@@ -195,7 +195,7 @@ private Q_SLOTS:
             qInfo("Left to the full run, which sets QX_FULL.");
             return;
         }
-        DtScratchProgram program;
+        DtScratchProgram program(myTree);
         runBatch(program, {program.sampleModel()});
         const QString first = make(program.path("out"));
         QVERIFY2(QFile::exists(program.path("out/build/libsampleHLA.a")), qPrintable(first));
@@ -205,7 +205,7 @@ private Q_SLOTS:
 
     void secondRunLeavesEveryTimeStamp()
     {
-        DtScratchProgram program;
+        DtScratchProgram program(myTree);
         const DtString model = program.sampleModel();
         runBatch(program, {model});
         const QString probe = program.path("out/cpp\\vesselStateRepository.h");
@@ -220,7 +220,7 @@ private Q_SLOTS:
 
     void twoRunsWriteTheSameBytesButForIdentifiers()
     {
-        DtScratchProgram first;
+        DtScratchProgram first(myTree);
         runBatch(first, {first.sampleModel()});
         const QString kept = first.path("kept");
         QVERIFY(QDir().rename(first.path("out"), kept));
@@ -232,6 +232,9 @@ private Q_SLOTS:
                          withoutIdentifiers(readTextFile(first.path("out/") + name)),
                      qPrintable(name));
     }
+
+private:
+    DtScratchTree myTree;
 };
 
 QX_REGISTER_TEST(TestWholeRun)

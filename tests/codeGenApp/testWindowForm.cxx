@@ -252,6 +252,7 @@ private Q_SLOTS:
 
     void sheetsAreJoinedInOrderAndTheirVariablesResolved()
     {
+        openOnOwnData();
         writeTextFile(path("data/config/qt/DarkMode/00_common.qss"), "/* a $(APP_DIR) \xE4 */\n");
         writeTextFile(path("data/config/qt/DarkMode/01_qvx.qss"), "/* b $(APP_DIR)/x $(APP_DIR) */\n");
         myWindow->loadStylesheet(true);
@@ -261,6 +262,7 @@ private Q_SLOTS:
 
     void missingSheetsGiveNoneInSilence()
     {
+        openOnOwnData();
         QDir(path("data/config/qt")).removeRecursively();
         const DtCapture warnings(DtWarn);
         myWindow->loadStylesheet(true);

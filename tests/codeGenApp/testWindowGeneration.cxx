@@ -83,6 +83,7 @@ private:
     QStringList written() const { return filesBelow(myProgram->path("out")); }
     QByteArray output(const char* name) const { return readTextFile(myProgram->path("out/") + name); }
 
+    DtScratchTree myTree;
     std::unique_ptr<DtScratchProgram> myProgram;
     std::unique_ptr<DtCodeGenAppGui> myWindow;
     std::unique_ptr<DtDialogWatch> myDialogs;
@@ -90,7 +91,7 @@ private:
 private Q_SLOTS:
     void init()
     {
-        myProgram = std::make_unique<DtScratchProgram>();
+        myProgram = std::make_unique<DtScratchProgram>(myTree);
         QDir().mkpath(myProgram->path("models"));
         openWith([](DtCodeGenInitializer&) {});
         myDialogs = std::make_unique<DtDialogWatch>();

@@ -62,6 +62,7 @@ private:
     QString models(const QString& text) const { return QString(text).replace("%", myProgram->path("models/")); }
     void withoutMim() const { myWindow->preferences()->setIncludeStandardMIM(false); }
 
+    DtScratchTree myTree;
     std::unique_ptr<DtScratchProgram> myProgram;
     std::unique_ptr<DtCodeGenAppGui> myWindow;
     std::unique_ptr<DtDialogWatch> myDialogs;
@@ -69,7 +70,7 @@ private:
 private Q_SLOTS:
     void init()
     {
-        myProgram = std::make_unique<DtScratchProgram>();
+        myProgram = std::make_unique<DtScratchProgram>(myTree);
         QDir().mkpath(myProgram->path("models"));
         myWindow = myProgram->makeWindow();
         myDialogs = std::make_unique<DtDialogWatch>();

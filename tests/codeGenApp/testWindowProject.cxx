@@ -71,6 +71,7 @@ private:
         return (right ? manager.rightListView() : manager.leftListView())->topLevelItemCount();
     }
 
+    DtScratchTree myTree;
     std::unique_ptr<DtScratchProgram> myProgram;
     std::unique_ptr<DtCodeGenAppGui> myWindow;
     std::unique_ptr<DtDialogWatch> myDialogs;
@@ -78,7 +79,7 @@ private:
 private Q_SLOTS:
     void init()
     {
-        myProgram = std::make_unique<DtScratchProgram>();
+        myProgram = std::make_unique<DtScratchProgram>(myTree);
         QDir().mkpath(myProgram->path("work"));
         myWindow = myProgram->makeWindow();
         myDialogs = std::make_unique<DtDialogWatch>();

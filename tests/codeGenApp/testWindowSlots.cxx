@@ -300,6 +300,7 @@ private Q_SLOTS:
 
     void browserIsStartedWithThePageOfTheDeployment()
     {
+        openOnOwnData();
         writeTextFile(path("data/config/deployment.xml"),
                       "<deployment><versionPage>https://versions.example/list</versionPage></deployment>");
         writeTextFile(path("home/htmlview"), "#!/bin/sh\necho \"$#:$1\" > \"$QX_SEEN\"\n");
@@ -313,6 +314,7 @@ private Q_SLOTS:
 
     void missingBrowserIsTold()
     {
+        openOnOwnData();
         const DtWithEnvironment search("PATH", bytes("home").c_str());
         myWindow->launchUpdate();
         QCOMPARE(status(),

@@ -10,14 +10,20 @@
 
 #include <memory>
 
-// A window over a scratch copy of the program's data, with a user who answers its dialogs as told and a home of its own
-// for what the window remembers.
+// A window over a copy of the program's data, with a user who answers its dialogs as told and a home of its own for
+// what the window remembers. The tests of a class share the copy; one that changes the data opens on data of its own.
 class DtWindowFixture
 {
 protected:
-    void open()
+    void open() { openOn(std::make_unique<DtScratchProgram>(myTree)); }
+    void openOnOwnData()
     {
-        myProgram = std::make_unique<DtScratchProgram>();
+        close();
+        openOn(std::make_unique<DtScratchProgram>());
+    }
+    void openOn(std::unique_ptr<DtScratchProgram> program)
+    {
+        myProgram = std::move(program);
         for (const char* directory : {"models", "home", "out"})
             QDir().mkpath(myProgram->path(directory));
         myHome = std::make_unique<DtWithEnvironment>("XDG_CONFIG_HOME", bytes("home").c_str());
@@ -75,6 +81,7 @@ protected:
         return names.join(' ');
     }
 
+    DtScratchTree myTree;
     std::unique_ptr<DtScratchProgram> myProgram;
     std::unique_ptr<DtWithEnvironment> myHome;
     std::unique_ptr<DtDialogWatch> myDialogs;

@@ -68,10 +68,7 @@ BuildInfo runBuildInfo(const QString& source, const QProcessEnvironment& environ
 
 bool hasCMake()
 {
-    const bool isThere = !QStandardPaths::findExecutable("cmake").isEmpty();
-    if (!isThere)
-        qInfo("no cmake to run");
-    return isThere;
+    return !QStandardPaths::findExecutable("cmake").isEmpty();
 }
 
 const QStringList theFolders = {"config", "images"};
@@ -321,7 +318,7 @@ void TestAboutBox::unknownElementsOfDeploymentAreSkipped()
 void TestAboutBox::dateFollowsSourceDateEpoch()
 {
     if (!hasCMake())
-        return;
+        QSKIP("There is no cmake to run.");
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
     environment.insert("SOURCE_DATE_EPOCH", "1760572800");
     QCOMPARE(runBuildInfo(QX_SOURCE_DIR, environment).date, QString("Oct 16 2025"));
@@ -330,7 +327,7 @@ void TestAboutBox::dateFollowsSourceDateEpoch()
 void TestAboutBox::dateIsTodayOtherwise()
 {
     if (!hasCMake())
-        return;
+        QSKIP("There is no cmake to run.");
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
     environment.remove("SOURCE_DATE_EPOCH");
     const auto today = [] { return QLocale::c().toString(QDateTime::currentDateTimeUtc(), "MMM dd yyyy"); };
@@ -342,7 +339,7 @@ void TestAboutBox::dateIsTodayOtherwise()
 void TestAboutBox::revisionIsThatOfTheCheckout()
 {
     if (!hasCMake())
-        return;
+        QSKIP("There is no cmake to run.");
     QProcess git;
     git.start("git", {"-C", QX_SOURCE_DIR, "rev-parse", "--show-prefix", "HEAD"});
     const bool isCheckout = git.waitForFinished() && git.exitCode() == 0;
@@ -356,7 +353,7 @@ void TestAboutBox::revisionIsThatOfTheCheckout()
 void TestAboutBox::revisionIsUnknownOutsideOfACheckout()
 {
     if (!hasCMake())
-        return;
+        QSKIP("There is no cmake to run.");
     QTemporaryDir source;
     QCOMPARE(runBuildInfo(source.path(), QProcessEnvironment::systemEnvironment()).revision, QString("unknown"));
 }
@@ -365,7 +362,7 @@ void TestAboutBox::revisionIsUnknownOutsideOfACheckout()
 void TestAboutBox::revisionIsUnknownBelowAnotherCheckout()
 {
     if (!hasCMake())
-        return;
+        QSKIP("There is no cmake to run.");
     QCOMPARE(runBuildInfo(QX_SOURCE_DIR "/libsrc", QProcessEnvironment::systemEnvironment()).revision,
              QString("unknown"));
 }
@@ -373,7 +370,7 @@ void TestAboutBox::revisionIsUnknownBelowAnotherCheckout()
 void TestAboutBox::revisionIsUnknownWithoutGit()
 {
     if (!hasCMake())
-        return;
+        QSKIP("There is no cmake to run.");
     // As where there is none: it is found and does not run.
     QTemporaryDir directory;
     writeTextFile(directory.path() + "/git", "#!/bin/sh\nexit 127\n");
@@ -388,7 +385,7 @@ void TestAboutBox::revisionIsUnknownWithoutGit()
 void TestAboutBox::unchangedBuildInfoIsLeftAlone()
 {
     if (!hasCMake())
-        return;
+        QSKIP("There is no cmake to run.");
     const QStringList arguments = {"-DOUTPUT=info.h", "-DSOURCE_DIR=" QX_SOURCE_DIR, "-DVERSION=1.0", "-P",
                                    QX_SOURCE_DIR "/cmake/buildInfo.cmake"};
     QCOMPARE(QProcess::execute("cmake", arguments), 0);

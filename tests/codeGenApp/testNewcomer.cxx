@@ -236,10 +236,7 @@ private Q_SLOTS:
         QFETCH(QByteArray, unwanted);
         QFETCH(QByteArray, key);
         if (!QFile::exists(file))
-        {
-            qInfo("The published module is not there.");
-            return;
-        }
+            QSKIP("The published module is not there.");
         myWindow->manageIcons();
         show();
         startsWithAProject();

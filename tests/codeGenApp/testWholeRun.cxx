@@ -115,24 +115,29 @@ class TestWholeRun : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
+    void sampleGivesEveryFileOnceAndCompiles_data() { addCompilers(); }
     void sampleGivesEveryFileOnceAndCompiles()
     {
+        QFETCH(QString, compiler);
+        if (isLeftToFullRun(compiler))
+            QSKIP(theFullRunOnly);
         DtScratchProgram program(myTree);
         const auto window = runBatch(program, {program.sampleModel()});
         QVERIFY(window->isFileLoaded());
         checkCounts(*window, program.path("out"));
         checkTexts(program.path("out"));
-        checkCompiles(program.path("out"));
+        checkCompiles(program.path("out"), compiler);
     }
 
+    void largeModelGivesEveryFileOnceAndCompiles_data() { addCompilers(); }
     void largeModelGivesEveryFileOnceAndCompiles()
     {
+        QFETCH(QString, compiler);
+        if (isLeftToFullRun(compiler))
+            QSKIP(theFullRunOnly);
         const QStringList modules = largeModel();
         if (modules.isEmpty())
-        {
-            qInfo("The large model is not here.");
-            return;
-        }
+            QSKIP("The large model is not here.");
         DtScratchProgram program(myTree);
         std::vector<DtString> models;
         for (const QString& module : modules)
@@ -142,11 +147,15 @@ private Q_SLOTS:
         QCOMPARE(window->loadedFiles().size(), models.size() + 1); // and the standard management model behind them
         checkCounts(*window, program.path("out"));
         checkTexts(program.path("out"));
-        checkCompiles(program.path("out"));
+        checkCompiles(program.path("out"), compiler);
     }
 
+    void namespacePrefixAndIncludeDirectoryCompile_data() { addCompilers(); }
     void namespacePrefixAndIncludeDirectoryCompile()
     {
+        QFETCH(QString, compiler);
+        if (isLeftToFullRun(compiler))
+            QSKIP(theFullRunOnly);
         DtScratchProgram program(myTree);
         const DtString model = program.sampleModel();
         const auto window = program.makeWindow();
@@ -165,7 +174,7 @@ private Q_SLOTS:
         QVERIFY(readTextFile(program.path("out/cpp\\harbour/vesselStateRepository.h"))
                     .contains("DtQxVesselStateRepository"));
         checkTexts(program.path("out"));
-        checkCompiles(program.path("out"), "harbour");
+        checkCompiles(program.path("out"), compiler, "harbour");
     }
 
     void errorsSwitchedOnStandForTheMarkedTypesOnly()
@@ -181,7 +190,7 @@ private Q_SLOTS:
         window->preferences()->okButtonPressed();
         window->generateAllFiles();
         int count = 0;
-        const QString errors = compileAll(program.path("out"), "c++17", ".", count);
+        const QString errors = compileAll(program.path("out"), "c++17", ".", count, "g++");
         QVERIFY(errors.contains("#error"));
         for (const QString& line : errors.split('\n'))
             if (line.contains("error:"))
@@ -191,10 +200,7 @@ private Q_SLOTS:
     void makefileBuildsTheLibraryOnce()
     {
         if (!isFullRun())
-        {
-            qInfo("Left to the full run, which sets QX_FULL.");
-            return;
-        }
+            QSKIP(theFullRunOnly);
         DtScratchProgram program(myTree);
         runBatch(program, {program.sampleModel()});
         const QString first = make(program.path("out"));

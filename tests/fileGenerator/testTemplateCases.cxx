@@ -166,10 +166,7 @@ void TestTemplateCases::goldenCaseComesOutByteForByte()
     QFETCH(bool, generateErrors);
     const QString directory = QX_SHARED_DIR "/template-cases";
     if (name.isEmpty())
-    {
-        qInfo("No golden cases in %s", qPrintable(directory));
-        return;
-    }
+        QSKIP("The cases are not here.");
     const DtInDirectory inDirectory(directory);
     DtFileWriter::setGenerate64Bit(generate64Bit);
     DtFileWriter::setGenerateErrors(generateErrors);

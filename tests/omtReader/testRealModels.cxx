@@ -125,7 +125,8 @@ private Q_SLOTS:
     void nodesOfEachModelAreCounted_data()
     {
         QTest::addColumn<QString>("name");
-        QTest::newRow("none") << QString();
+        if (expectedCounts().isEmpty())
+            QTest::newRow("none") << QString();
         for (const QString& name : expectedCounts().keys())
             QTest::newRow(qPrintable(name)) << name;
     }
@@ -134,11 +135,7 @@ private Q_SLOTS:
     {
         QFETCH(QString, name);
         if (name.isEmpty())
-        {
-            if (expectedCounts().isEmpty())
-                qInfo("no real models here");
-            return;
-        }
+            QSKIP("The models are not here.");
         const DtCapture warnings(DtWarn);
         const std::unique_ptr<DtOMTTree> tree = readModel(QStringLiteral(QX_SHARED_DIR "/models/") + name);
         QVERIFY(tree != nullptr);
@@ -159,10 +156,7 @@ private Q_SLOTS:
         for (const char* module : theModules)
             files.emplace_back(modulePath(module).toUtf8().constData());
         if (!files.front().exists())
-        {
-            qInfo("no real models here");
-            return;
-        }
+            QSKIP("The models are not here.");
         DtXMLFileReader reader;
         const std::unique_ptr<DtOMTTree> tree(reader.readFiles(files, DtFomEvolved, nullptr));
         QVERIFY2(tree != nullptr, reader.getLastError());

@@ -285,9 +285,12 @@ private Q_SLOTS:
         QFETCH(QString, countKey);
         QFETCH(int, count);
         QCOMPARE(countOf(treeFacts(*readMim(theStandardMims[mim])), kind.toLatin1().constData()), count);
+        if (countKey.isEmpty())
+            return; // the file does not count these
         const QJsonObject facts = theStandardMims[mim].facts();
-        if (!facts.isEmpty() && !countKey.isEmpty())
-            QCOMPARE(facts["counts"].toObject()[countKey].toInt(-1), count);
+        if (facts.isEmpty())
+            QSKIP(theMissingFacts);
+        QCOMPARE(facts["counts"].toObject()[countKey].toInt(-1), count);
     }
 
     void holdsEveryFactInDocumentOrder_data() { addStandardMims(); }
@@ -296,7 +299,7 @@ private Q_SLOTS:
         QFETCH(int, mim);
         const QJsonObject facts = theStandardMims[mim].facts();
         if (facts.isEmpty())
-            return;
+            QSKIP(theMissingFacts);
         const QStringList expected = fileFacts(facts);
         const QStringList actual = treeFacts(*readMim(theStandardMims[mim]));
         for (int index = 0; index < qMin(expected.size(), actual.size()); ++index)

@@ -354,7 +354,7 @@ private Q_SLOTS:
         QVERIFY(theStandardMims[mim].text().startsWith(theXmlDeclaration));
         const QJsonObject file = theStandardMims[mim].facts()["file"].toObject();
         if (file.isEmpty())
-            return;
+            QSKIP(theMissingFacts);
         QCOMPARE(QString(theXmlDeclaration), file["xmlDeclaration"].toString());
         QCOMPARE(file["bom"], QJsonValue(false));
     }
@@ -371,8 +371,9 @@ private Q_SLOTS:
         QCOMPARE(text.count("\r\n"), hasCrLf ? text.count('\n') : 0);
         QCOMPARE(text.count('\r'), text.count("\r\n"));
         const QJsonObject facts = model.facts();
-        if (!facts.isEmpty())
-            QCOMPARE(facts["file"].toObject()["crlf"], QJsonValue(hasCrLf));
+        if (facts.isEmpty())
+            QSKIP(theMissingFacts);
+        QCOMPARE(facts["file"].toObject()["crlf"], QJsonValue(hasCrLf));
     }
 
     void lengthLeavesOutTheZeroBehindTheText_data() { addStandardMims(); }
@@ -392,8 +393,9 @@ private Q_SLOTS:
         const StandardMim& model = theStandardMims[mim];
         QCOMPARE(commentsOf(model).value(0), QString(model.attribution));
         const QJsonObject facts = model.facts();
-        if (!facts.isEmpty())
-            QCOMPARE(QString(model.attribution), facts["attribution"].toString());
+        if (facts.isEmpty())
+            QSKIP(theMissingFacts);
+        QCOMPARE(QString(model.attribution), facts["attribution"].toString());
     }
 
     void rootIsInTheNamespaceOfTheStandard_data() { addStandardMims(); }
@@ -408,7 +410,7 @@ private Q_SLOTS:
         QCOMPARE(root->ns->prefix, nullptr);
         const QJsonObject file = model.facts()["file"].toObject();
         if (file.isEmpty())
-            return;
+            QSKIP(theMissingFacts);
         QCOMPARE(toText(root->name), file["root"].toString());
         QCOMPARE(toText(root->ns->href), file["namespace"].toString());
     }
@@ -419,7 +421,7 @@ private Q_SLOTS:
         QFETCH(int, mim);
         const QJsonObject facts = theStandardMims[mim].facts();
         if (facts.isEmpty())
-            return;
+            QSKIP(theMissingFacts);
         const FactsOutline expected(facts);
         QCOMPARE(expected.unknownFacts(), QStringList());
         const Outline actual = outlineOf(theStandardMims[mim]);

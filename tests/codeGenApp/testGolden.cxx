@@ -3,6 +3,7 @@
 
 #include "registerTest.h"
 
+#include "fileGenerator/omtProject.h"
 #include "scratchProgram.h"
 
 #include <QtCore/QProcess>
@@ -91,8 +92,8 @@ Options readOptions(const QString& file)
 
 QString unknownOptions(const Options& options)
 {
-    static const QStringList theKeys = {"dis", "generate64Bit", "generateErrors", "include",
-                                        "mim", "model",         "namespace",      "prefix"};
+    static const QStringList theKeys = {"classes", "dis",   "generate64Bit", "generateErrors", "include",
+                                        "mim",     "model", "namespace",     "prefix"};
     QStringList unknown;
     for (const auto& [key, value] : options)
         if (!theKeys.contains(key))
@@ -134,7 +135,26 @@ std::vector<DtCodeGenAppGui::DtModelFile> copyModels(const DtScratchProgram& pro
     return models;
 }
 
-// False when the models could not be read.
+// All classes of the model, or those that the options name; false when there is no such class.
+bool selectClasses(DtCodeGenAppGui& window, const Options& options)
+{
+    window.addAllObjectInteractions();
+    if (options.count("classes") == 0)
+        return true;
+    QStringList wanted = options.at("classes").split(' ');
+    DtOmtProject& project = *window.omtProject();
+    const std::set<DtOmtObject> objects = project.getObjects();
+    for (const DtOmtObject& object : objects)
+        if (wanted.removeAll(QString::fromUtf8(object.fullName().c_str())) == 0)
+            project.removeObject(object);
+    const std::set<DtOmtInteraction> interactions = project.getInteractions();
+    for (const DtOmtInteraction& interaction : interactions)
+        if (wanted.removeAll(QString::fromUtf8(interaction.fullName().c_str())) == 0)
+            project.removeInteraction(interaction);
+    return wanted.isEmpty();
+}
+
+// False when the models could not be read, or a class is not there.
 bool generate(DtScratchProgram& program, const QString& caseDirectory, const Options& options)
 {
     const auto models = copyModels(program, caseDirectory, options);
@@ -143,7 +163,8 @@ bool generate(DtScratchProgram& program, const QString& caseDirectory, const Opt
     window->newOmtProject(DtFilename(program.bytes(program.path("models/case.qxproj"))));
     if (models.empty() || window->loadFiles(models) != 1)
         return false;
-    window->addAllObjectInteractions();
+    if (!selectClasses(*window, options))
+        return false;
     window->setOutputDirectory(program.path("out/"));
     if (options.count("include") > 0)
         window->setIncludeDirectory(options.at("include"));

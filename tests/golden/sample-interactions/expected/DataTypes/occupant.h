@@ -1,0 +1,113 @@
+#ifndef DT_DLL_CASE_DtOccupant_H
+#define DT_DLL_CASE_DtOccupant_H
+ 
+// Generated from case; the next generation writes it anew.
+ 
+#include <qx/opaqueValue.h>
+#include <qx/wireFormat.h>
+ 
+#include "dllExport.h"
+#include "DataTypes/caseEnums.h"
+#ifndef __has_include
+#include "DataTypes/shortText.h"
+#elif __has_include("DataTypes/shortText.h")
+#include "DataTypes/shortText.h"
+#endif
+#ifndef __has_include
+#include "DataTypes/cargo__Item.h"
+#elif __has_include("DataTypes/cargo__Item.h")
+#include "DataTypes/cargo__Item.h"
+#endif
+
+// A variant record: a discriminant and the alternative that it selects. Setting an alternative selects it.
+//
+// Its own operations take an argument or are templates, so that an alternative may bear any name.
+class DT_DLL_CASE DtOccupant
+{
+public:
+    typedef DtVesselState8 Discriminant;
+
+    DtOccupant();
+    bool operator==(const DtOccupant& other) const;
+    bool operator!=(const DtOccupant& other) const;
+ 
+    template <class Result = Discriminant>
+    Result discriminant() const
+    {
+        return Own.selector;
+    }
+    template <class Value>
+    void setDiscriminant(Value value)
+    {
+        Own.selector = value;
+    }
+    // The place of the selected alternative among those that have a value, from 0; -1 when none is selected.
+    template <class Result = int>
+    Result selected() const
+    {
+        return placeOf(Own.selector);
+    }
+ 
+    const DtShortText& ship() const { return Own.myShip; }
+    void setShip(const DtShortText& value)
+    {
+        Own.myShip = value;
+        select(0);
+    }
+    const DtFloat64& arrival() const { return Own.myArrival; }
+    void setArrival(const DtFloat64& value)
+    {
+        Own.myArrival = value;
+        select(1);
+    }
+    const DtCargo__Item& wreck() const { return Own.myWreck; }
+    void setWreck(const DtCargo__Item& value)
+    {
+        Own.myWreck = value;
+        select(2);
+    }
+
+    void encode(DtWireWriter& writer) const;
+    // False: the octets are no such record, and this one is as it was.
+    bool decode(DtWireReader& reader);
+    // Octets on the wire, from an offset of 0.
+    template <class Size = unsigned int>
+    Size netSize() const
+    {
+        return DtNetSizeOf(*this);
+    }
+    template <class Size = unsigned int>
+    static Size octetBoundary()
+    {
+        return octetBoundary(static_cast<const DtWireTrail*>(nullptr));
+    }
+    static unsigned int octetBoundary(const DtWireTrail* outer);
+ 
+private:
+    // How the record is coded. No accessor is called like this: the second letter would be a capital too.
+    struct Coding
+    {
+        static const DtAlternativeTable& places();
+        static DtVariantKind kind();
+        static DtWireForm discriminantForm();
+        static DtWireForm formOf(unsigned int alternative);
+        static unsigned int alternativeBoundary(const DtWireTrail* outer);
+    };
+ 
+    static int placeOf(const Discriminant& selector);
+    void select(unsigned int alternative);
+ 
+    // The values stand in a structure of their own, where no accessor can share their names.
+    struct OwnValues
+    {
+        Discriminant selector;
+        DtShortText myShip;
+        DtFloat64 myArrival;
+        DtCargo__Item myWreck;
+    };
+ 
+    OwnValues Own;
+};
+ 
+#endif
+

@@ -1,0 +1,39 @@
+#ifndef DT_DLL_CASE_DtWeight__Kg_H
+#define DT_DLL_CASE_DtWeight__Kg_H
+ 
+// Generated from case; the next generation writes it anew.
+ 
+#include <qx/wireFormat.h>
+ 
+#include "dllExport.h"
+ 
+// A simple datatype: one number under a name of its own.
+class DT_DLL_CASE DtWeight__Kg
+{
+public:
+    typedef DtU32 Number;
+
+    DtWeight__Kg() : myNumber() {}
+    DtWeight__Kg(Number number) : myNumber(number) {}
+ 
+    Number number() const { return myNumber; }
+    void setNumber(Number number) { myNumber = number; }
+    bool operator==(const DtWeight__Kg& other) const { return myNumber == other.myNumber; }
+    bool operator!=(const DtWeight__Kg& other) const { return !(*this == other); }
+ 
+    void encode(DtWireWriter& writer) const;
+    // False: the octets are no such number, and this one is as it was.
+    bool decode(DtWireReader& reader);
+    // Octets on the wire, from an offset of 0.
+    unsigned int netSize() const;
+    static unsigned int octetBoundary();
+ 
+private:
+    static unsigned int octets();
+    static bool isLittleEndian();
+ 
+    Number myNumber;
+};
+ 
+#endif
+

@@ -1,9 +1,0 @@
-// Generated from case; the next generation writes it anew.
- 
-#include "beaconPdu.h"
- 
-DtBeaconPdu::DtBeaconPdu()
-{
-    setHeader(DtNetBeaconPdu());
-}
-

@@ -3,7 +3,7 @@
 
 #include "fileGenerator/omtProject.h"
 #include "fileGenerator/outputTable.h"
-#include "fileGenerator/sharedNames.h"
+#include "fileGenerator/nameClashes.h"
 
 #include <functional>
 #include <list>

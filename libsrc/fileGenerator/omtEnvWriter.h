@@ -20,7 +20,7 @@ class DtOmtProject;
 class DtOMTTree;
 class DtFileGenerator;
 class DtHeldDatatypes;
-class DtSharedClassNames;
+class DtClassNameClashes;
 
 // Driver of the generation of C++: what is generated for a selection of classes, and in which order.
 //
@@ -149,7 +149,7 @@ private:
     template <typename Family>
     void writePair(typename Family::Node* node);
     template <typename Family>
-    void recordClassNames(DtSharedClassNames& shared, DtHeldDatatypes& held);
+    void recordClassNames(DtClassNameClashes& shared, DtHeldDatatypes& held);
     void recordAllClassNames();
     // Finds the datatypes whose class or enumeration would be called like a type of the toolkit.
     void recordNamesakes();

@@ -4,10 +4,10 @@
 #include "fileGenerator/complexDataTypeFileWriter.h"
 #include "fileGenerator/datatypeClassNames.h"
 #include "fileGenerator/fixedRecordsFileWriter.h"
+#include "fileGenerator/nameClashes.h"
 #include "fileGenerator/omtEnvWriter.h"
 #include "fileGenerator/omtProject.h"
 #include "fileGenerator/qtProgressMeter.h"
-#include "fileGenerator/sharedNames.h"
 #include "fileGenerator/simpleDataTypeFileWriter.h"
 #include "fileGenerator/toolkitNames.h"
 #include "fileGenerator/variantRecordFileWriter.h"
@@ -253,7 +253,7 @@ void DtOMTEnvWriter::writePair(typename Family::Node* node)
 
 // Asks for names in the order in which writing asks for them, so that long names get the same numbers.
 template <typename Family>
-void DtOMTEnvWriter::recordClassNames(DtSharedClassNames& shared, DtHeldDatatypes& held)
+void DtOMTEnvWriter::recordClassNames(DtClassNameClashes& shared, DtHeldDatatypes& held)
 {
     DtDatatypeClassNames& classNames = DtDatatypeClassNames::instance();
     for (auto node = Family::begin(tree()); node != Family::end(tree()); ++node)
@@ -272,7 +272,7 @@ void DtOMTEnvWriter::recordClassNames(DtSharedClassNames& shared, DtHeldDatatype
 
 void DtOMTEnvWriter::recordAllClassNames()
 {
-    DtSharedClassNames shared;
+    DtClassNameClashes shared;
     DtHeldDatatypes held;
     std::set<DtString> enumerations; // the enumerations header tells of those that are called alike
     for (auto node = tree().getEnumeratedDatatypeNodeList(); node != tree().getEnumeratedDatatypeEndNode(); ++node)

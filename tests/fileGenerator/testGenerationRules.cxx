@@ -6,7 +6,7 @@
 #include "generatorFixture.h"
 
 #include "fileGenerator/omtProject.h"
-#include "fileGenerator/sharedNames.h"
+#include "fileGenerator/nameClashes.h"
 
 #include <QtTest/QtTest>
 

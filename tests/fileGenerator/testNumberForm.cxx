@@ -3,7 +3,7 @@
 #include "fileGenerator/arrayDataTypeFileWriter.h"
 #include "fileGenerator/literalText.h"
 #include "fileGenerator/numberForm.h"
-#include "fileGenerator/sharedNames.h"
+#include "fileGenerator/nameClashes.h"
 #include "fileGenerator/simpleDataTypeFileWriter.h"
 #include "omtReader/arrayDatatypeNode.h"
 #include "omtReader/simpleDatatypeNode.h"
@@ -259,7 +259,7 @@ void TestNumberForm::firstOfAClassNameIsNamed()
 {
     const RunSettings settings;
     const DtCapture warnings(DtWarn);
-    DtSharedClassNames names;
+    DtClassNameClashes names;
     names.add("speed", "DtSpeed");
     names.add("speed", "DtSpeed");
     names.add("Other", "DtOther");

@@ -1,4 +1,4 @@
-#include "fileGenerator/sharedNames.h"
+#include "fileGenerator/nameClashes.h"
 
 #include "fileGenerator/cCompatibleName.h"
 #include "fileGenerator/classFileWriter.h"
@@ -24,7 +24,7 @@ bool isIdentifier(const DtString& name)
 
 } // namespace
 
-void DtSharedClassNames::add(const DtString& datatype, const DtString& className)
+void DtClassNameClashes::add(const DtString& datatype, const DtString& className)
 {
     if (!isIdentifier(className))
         DtWarn << "Warning: Datatype " << datatype << " is called " << className

@@ -1,5 +1,5 @@
-#ifndef FILE_GENERATOR_SHARED_NAMES_H
-#define FILE_GENERATOR_SHARED_NAMES_H
+#ifndef FILE_GENERATOR_NAME_CLASHES_H
+#define FILE_GENERATOR_NAME_CLASHES_H
 
 #include "foundation/string.h"
 
@@ -10,7 +10,7 @@
 // written all the same: what the warning names does not compile, or one of the two takes the other's place.
 
 // Datatypes that are called alike, as such that differ in the case of the first letter only.
-class DtSharedClassNames
+class DtClassNameClashes
 {
 public:
     void add(const DtString& datatype, const DtString& className);

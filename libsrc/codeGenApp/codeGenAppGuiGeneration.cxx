@@ -27,7 +27,6 @@ public:
     DtScriptRun(const DtString& directory, QApplication* application, QWidget* parent)
         : myOldDirectory(DtFileWriter::outputDirectory())
     {
-        DtFileWriter::setOutputDirectory(directory);
         DtQtProgressMeter::instance()->init(application, parent);
     }
     ~DtScriptRun()

@@ -5,7 +5,7 @@
 #include "fileGenerator/memberTypes.h"
 #include "fileGenerator/netTypeTraits.h"
 #include "fileGenerator/numberForm.h"
-#include "fileGenerator/omtEnvWriter.h"
+#include "fileGenerator/settings.h"
 #include "foundation/stringUtils.h"
 #include "omtReader/arrayDatatypeNode.h"
 
@@ -25,7 +25,7 @@ struct DtArrayDataTypeFileWriter::DtTokens
     static const DtTokenTable<Writer>& own()
     {
         static const DtTokenRow<Writer> theRows[] = {
-            {"<!ClassPrefix!>",       [](const Writer&) { return DtOMTEnvWriter::prefixName(); }                      },
+            {"<!ClassPrefix!>",       [](const Writer&) { return DtSettings::instance().cpp.prefixName; }             },
             {"<!ArrayElementCount!>", [](const Writer& w) { return DtString(elementCountOf(w.currentCardinality())); }},
             {"<!ArrayEncoding!>",     [](const Writer& w) { return w.currentEncoding(); }                             },
         };

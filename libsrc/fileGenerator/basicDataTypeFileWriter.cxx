@@ -1,7 +1,7 @@
 #include "fileGenerator/basicDataTypeFileWriter.h"
 
 #include "fileGenerator/cCompatibleName.h"
-#include "fileGenerator/omtEnvWriter.h"
+#include "fileGenerator/settings.h"
 #include "omtReader/basicDataRepresentationNode.h"
 
 static DtCCompatibleNames theNames;
@@ -20,7 +20,7 @@ struct DtBasicDataTypeFileWriter::DtTokens
     static const DtTokenTable<Writer>& own()
     {
         static const DtTokenRow<Writer> theRows[] = {
-            {"<!ClassPrefix!>", [](const Writer&) { return DtOMTEnvWriter::prefixName(); }                           },
+            {"<!ClassPrefix!>", [](const Writer&) { return DtSettings::instance().cpp.prefixName; }                  },
             {"<!size!>",        [](const Writer& w) { return DtString(w.basicInfo().first.toInt() / 8); }            },
             {"<!EndianMatch!>", [](const Writer& w) -> DtString { return w.basicInfo().second == "Big" ? "0" : "1"; }},
         };

@@ -5,7 +5,7 @@
 #include "fileGenerator/datatypeClassNames.h"
 #include "fileGenerator/namePattern.h"
 #include "fileGenerator/numberForm.h"
-#include "fileGenerator/omtEnvWriter.h"
+#include "fileGenerator/settings.h"
 #include "fileGenerator/toolkitLayouts.h"
 #include "fileGenerator/valueForm.h"
 #include "foundation/stringUtils.h"
@@ -114,11 +114,11 @@ DtString bareClassName(const DtString& className)
 
 DtString enumsHeader()
 {
-    DtFilename base(DtOMTEnvWriter::baseName());
+    DtFilename base(DtSettings::instance().cpp.baseName);
     base.stripPath();
     base.stripExtension();
-    return DtOMTEnvWriter::includePath() + DtReplaceAllSubstrings(DtReplaceAllSubstrings(base, "-", ""), ".", "") +
-           "Enums";
+    return DtSettings::instance().cpp.includePath() +
+           DtReplaceAllSubstrings(DtReplaceAllSubstrings(base, "-", ""), ".", "") + "Enums";
 }
 
 DtString withoutRoot(const DtString& name, std::string_view root, std::string_view standardRoot)
@@ -181,7 +181,7 @@ const DtClassFileWriter::DtTokens::Table& DtClassFileWriter::DtTokens::attribute
         {"<!AttributeSize!>",                     OF_ATTRIBUTE(decimal(mapper().sizeFromDataTypeName(tableName(a))))},
         {"<!AttributeBoundary!>",                 OF_ATTRIBUTE(decimal(mapper().boundaryFromDataTypeName(tableName(a))))},
         {"<!NumberOfAttribute!>",                 [](const Writer& w) { return DtString(w.myAttributeCounter); }},
-        {"<!Prefix!>",                            [](const Writer&) { return DtOMTEnvWriter::prefixName(); }},
+        {"<!Prefix!>",                            [](const Writer&) { return DtSettings::instance().cpp.prefixName; }},
         {"<!AttributeLocalNetType!>",             OF_ATTRIBUTE(withoutVector(a.netType()))},
         {"<!AttributeCastNetType!>",              OF_ATTRIBUTE(DtReplaceSubstring(a.netType(), "DtNet", "Dt"))},
         {"<!AttributeQuorvexNetType!>",           OF_ATTRIBUTE(mapper().isQuorvexNetType(a.netType()) ? a.netType() : DtString())},

@@ -3,7 +3,7 @@
 #include "fileGenerator/cCompatibleName.h"
 #include "fileGenerator/dataTypeMapper.h"
 #include "fileGenerator/datatypeClassNames.h"
-#include "fileGenerator/omtEnvWriter.h"
+#include "fileGenerator/settings.h"
 #include "foundation/stringUtils.h"
 #include "omtReader/omtNode.h"
 
@@ -12,7 +12,7 @@
 DtDataTypeFileWriter::DtDataTypeFileWriter(const DtString& fileName, const DtString& templateName,
                                            DtCCompatibleNames& names)
     : DtClassFileWriter(fileName, templateName),
-      myIsXmlModel(DtFilename(DtOMTEnvWriter::fomDefinitionFileName()).extension() == "xml"),
+      myIsXmlModel(DtFilename(DtSettings::instance().cpp.fomDefinitionFileName).extension() == "xml"),
       myNames(names)
 {
 }

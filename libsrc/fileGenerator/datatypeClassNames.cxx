@@ -1,7 +1,7 @@
 #include "fileGenerator/datatypeClassNames.h"
 
 #include "fileGenerator/cCompatibleName.h"
-#include "fileGenerator/omtEnvWriter.h"
+#include "fileGenerator/settings.h"
 #include "foundation/stringUtils.h"
 
 namespace
@@ -23,7 +23,7 @@ DtDatatypeClassNames& DtDatatypeClassNames::instance()
 
 DtString DtDatatypeClassNames::fileStem(const DtString& datatype, DtCCompatibleNames& names)
 {
-    return names.MakeCCompatibleString(DtFirstCharToLowerConditional(DtOMTEnvWriter::prefixName() + datatype));
+    return names.MakeCCompatibleString(DtFirstCharToLowerConditional(DtSettings::instance().cpp.prefixName + datatype));
 }
 
 DtString DtDatatypeClassNames::classNameOfStem(const DtString& stem)
@@ -60,7 +60,7 @@ DtString DtDatatypeClassNames::fileStemOf(const DtString& datatype) const
     if (name.isEmpty())
         return DtString();
     const DtString bare = name.stdString().substr(2);
-    const DtString modelName = DtOMTEnvWriter::prefixName() + datatype;
+    const DtString modelName = DtSettings::instance().cpp.prefixName + datatype;
     const bool startsSmall = !modelName.isEmpty() && DtToUpper(modelName[0]) != modelName[0];
     return startsSmall ? DtFirstCharToLower(bare) : DtFirstCharToLowerConditional(bare);
 }

@@ -3,16 +3,16 @@
 #include "fileGenerator/classFileWriter.h"
 #include "fileGenerator/exMakefileWriter.h"
 #include "fileGenerator/examplesProjWriter.h"
-#include "fileGenerator/omtEnvWriter.h"
 #include "fileGenerator/omtNode.h"
 #include "fileGenerator/relativePath.h"
+#include "fileGenerator/settings.h"
 #include "foundation/fileUtils.h"
 
 namespace
 {
 DtString libraryName()
 {
-    DtFilename base(DtOMTEnvWriter::baseName());
+    DtFilename base(DtSettings::instance().cpp.baseName);
     base.stripPath();
     base.stripExtension();
     return base;

@@ -1,9 +1,9 @@
 #ifndef FILE_GENERATOR_FILE_GENERATOR_H
 #define FILE_GENERATOR_FILE_GENERATOR_H
 
+#include "fileGenerator/nameClashes.h"
 #include "fileGenerator/omtProject.h"
 #include "fileGenerator/outputTable.h"
-#include "fileGenerator/nameClashes.h"
 
 #include <functional>
 #include <list>

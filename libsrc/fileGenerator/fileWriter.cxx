@@ -1,9 +1,9 @@
 #include "fileGenerator/fileWriter.h"
 
 #include "fileGenerator/dataTypeMapper.h"
-#include "fileGenerator/omtEnvWriter.h"
 #include "fileGenerator/qtProgressMeter.h"
 #include "fileGenerator/regularExpressionUtils.h"
+#include "fileGenerator/settings.h"
 #include "fileGenerator/templateBlock.h"
 #include "fileGenerator/templateFiles.h"
 #include "foundation/assertion.h"
@@ -22,7 +22,7 @@ constexpr int theMaximumBlockDepth = 1000;
 
 std::size_t pieceLimit()
 {
-    return static_cast<std::size_t>(std::max(2, DtOMTEnvWriter::maximumLineLength()) - 1);
+    return static_cast<std::size_t>(std::max(2, DtSettings::instance().cpp.maximumLineLength) - 1);
 }
 
 // True when the path that directory and name make together is not below the directory. What stands behind the last
@@ -57,7 +57,7 @@ DtString mapsRtiObjectIds()
 
 DtString typesHeader(const DtString& fomFileName)
 {
-    return DtOMTEnvWriter::includePath() + fomFileName + "Types.h";
+    return DtSettings::instance().cpp.includePath() + fomFileName + "Types.h";
 }
 
 std::string_view trimmedFront(std::string_view text)
@@ -167,9 +167,9 @@ void DtFileWriter::openOutput()
 {
     // Any name with these two characters counts as a header, "a.html" too.
     const bool isHeader = DtContainsSubstring(myFileName, ".h");
-    const DtString name = isHeader ? DtOMTEnvWriter::includePath() + myFileName : myFileName;
-    const DtString path = theOutputDirectory + name;
-    if (leavesDirectory(theOutputDirectory, name))
+    const DtString name = isHeader ? DtSettings::instance().cpp.includePath() + myFileName : myFileName;
+    const DtString path = outputDirectory() + name;
+    if (leavesDirectory(outputDirectory(), name))
     {
         DtWarn << "File " << path << " is not written: it is outside of the output directory." << std::endl;
         return;
@@ -258,17 +258,17 @@ const DtTokenTable<DtFileWriter>& DtFileWriter::baseTable()
     // Rows run top to bottom, and a later row sees what an earlier one put in. The last two are empty rather than "0",
     // so that "exists" tests them.
     static const DtTokenRow<DtFileWriter> theRows[] = {
-        {"<!mapRtiObjectIdToGlobalId!>", [](const auto&) { return mapsRtiObjectIds(); }                                   },
-        {"<!noDtDllExport!>",            [](const auto&) { return DtReplaceSubstring(theExportMacroName, "DT_DLL_", ""); }},
-        {"<!DllExport!>",                [](const auto&) { return theExportMacroName; }                                   },
-        {"<!BitCount!>",                 [](const auto&) { return DtString(theGenerate64Bit ? "64" : "32"); }             },
-        {"<!NamespaceName!>",            [](const auto&) { return DtOMTEnvWriter::namespaceName(); }                      },
-        {"<!FullFomFileName!>",          [](const auto&) { return DtOMTEnvWriter::fomDefinitionFileName(); }              },
-        {"<!FomFileName!>",              [](const auto& writer) { return DtString(writer.myFomFileName); }                },
-        {"<!FomFileNameTypesHeader!>",   [](const auto& writer) { return typesHeader(writer.myFomFileName); }             },
-        {"<!FomFileNameNoDash!>",        [](const auto& writer) { return DtString(writer.myFomFileNameNoDash); }          },
-        {"<!GenerateErrors!>",           [](const auto&) { return flag(theGenerateErrors); }                              },
-        {"<!UseDecodeIncludes!>",        [](const auto&) { return flag(theUseDecodeIncludes); }                           },
+        {"<!mapRtiObjectIdToGlobalId!>", [](const auto&) { return mapsRtiObjectIds(); }                                  },
+        {"<!noDtDllExport!>",            [](const auto&) { return DtReplaceSubstring(exportMacroName(), "DT_DLL_", ""); }},
+        {"<!DllExport!>",                [](const auto&) { return exportMacroName(); }                                   },
+        {"<!BitCount!>",                 [](const auto&) { return DtString(generate64Bit() ? "64" : "32"); }             },
+        {"<!NamespaceName!>",            [](const auto&) { return DtSettings::instance().cpp.namespaceName; }            },
+        {"<!FullFomFileName!>",          [](const auto&) { return DtSettings::instance().cpp.fomDefinitionFileName; }    },
+        {"<!FomFileName!>",              [](const auto& writer) { return DtString(writer.myFomFileName); }               },
+        {"<!FomFileNameTypesHeader!>",   [](const auto& writer) { return typesHeader(writer.myFomFileName); }            },
+        {"<!FomFileNameNoDash!>",        [](const auto& writer) { return DtString(writer.myFomFileNameNoDash); }         },
+        {"<!GenerateErrors!>",           [](const auto&) { return flag(generateErrors()); }                              },
+        {"<!UseDecodeIncludes!>",        [](const auto&) { return flag(useDecodeIncludes()); }                           },
     };
     static const DtTokenTable<DtFileWriter> theTable(theRows);
     return theTable;
@@ -300,9 +300,9 @@ void DtFileWriter::expandTokens(DtString& line, std::initializer_list<DtTokenSou
 // At the first line that is decoded, and not again once they are filled.
 void DtFileWriter::fillFomFileNames()
 {
-    if (myFomFileName.isEmpty() && !DtOMTEnvWriter::baseName().isEmpty())
+    if (myFomFileName.isEmpty() && !DtSettings::instance().cpp.baseName.isEmpty())
     {
-        DtFilename name(DtOMTEnvWriter::baseName());
+        DtFilename name(DtSettings::instance().cpp.baseName);
         name.stripPath();
         name.stripExtension();
         myFomFileName = DtReplaceAllSubstrings(DtReplaceAllSubstrings(name, "-", ""), ".", "");

@@ -1,6 +1,7 @@
 #ifndef FILE_GENERATOR_FILE_WRITER_H
 #define FILE_GENERATOR_FILE_WRITER_H
 
+#include "fileGenerator/settings.h"
 #include "fileGenerator/templateStream.h"
 #include "fileGenerator/tokenPass.h"
 #include "foundation/filePrinter.h"
@@ -63,19 +64,19 @@ public:
     void helperFileHandler(std::string& line, unsigned int start, std::istream& in, std::streampos& linePosition,
                            char delimiter, DtTemplateStream& file);
 
-    // Class-wide settings.
-    static void setOutputDirectory(const DtString& directory); // "source/" at start; ends in a separator
-    static const DtString& outputDirectory();
-    static void setExportMacroName(const DtString& name);
-    static const DtString& exportMacroName();
-    static void setGenerate64Bit(bool generate); // true at start
-    static bool generate64Bit();
-    static void setGenerateErrors(bool generate); // false at start
-    static bool generateErrors();
-    static void setUseDecodeIncludes(bool use); // false at start
-    static bool useDecodeIncludes();
-    static void setHlaVersion(DtHLAProtocolVersion version);
-    static DtHLAProtocolVersion hlaVersion();
+    // The settings of all writers. DtFileSettings tells what each is for.
+    static void setOutputDirectory(const DtString& directory) { settings().outputDirectory = directory; }
+    static const DtString& outputDirectory() { return settings().outputDirectory; }
+    static void setExportMacroName(const DtString& name) { settings().exportMacroName = name; }
+    static const DtString& exportMacroName() { return settings().exportMacroName; }
+    static void setGenerate64Bit(bool generate) { settings().generates64Bit = generate; }
+    static bool generate64Bit() { return settings().generates64Bit; }
+    static void setGenerateErrors(bool generate) { settings().generatesErrors = generate; }
+    static bool generateErrors() { return settings().generatesErrors; }
+    static void setUseDecodeIncludes(bool use) { settings().usesDecodeIncludes = use; }
+    static bool useDecodeIncludes() { return settings().usesDecodeIncludes; }
+    static void setHlaVersion(DtHLAProtocolVersion version) { settings().hlaVersion = version; }
+    static DtHLAProtocolVersion hlaVersion() { return settings().hlaVersion; }
 
     // The tokens that every writer knows.
     static const DtTokenIndex& baseTokenIndex();
@@ -102,6 +103,7 @@ protected:
     DtFilename myFomFileNameNoDash;
 
 private:
+    static DtFileSettings& settings() { return DtSettings::instance().files; }
     static const DtTokenTable<DtFileWriter>& baseTable();
 
     void openOutput();
@@ -120,13 +122,6 @@ private:
     bool myHasWarnedOfFiles = false;
     bool myHasWarnedOfBlocks = false;
     DtTokenValues<DtFileWriter> myBaseTokens;
-
-    static DtString theOutputDirectory;
-    static DtString theExportMacroName;
-    static bool theGenerate64Bit;
-    static bool theGenerateErrors;
-    static bool theUseDecodeIncludes;
-    static DtHLAProtocolVersion myHlaVersion;
 };
 
 #endif

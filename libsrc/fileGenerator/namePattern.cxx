@@ -1,6 +1,6 @@
 #include "fileGenerator/namePattern.h"
 
-#include "fileGenerator/omtEnvWriter.h"
+#include "fileGenerator/settings.h"
 #include "foundation/stringUtils.h"
 
 namespace
@@ -11,10 +11,10 @@ void appendValue(std::string& result, char letter, const DtPatternNames& names)
     switch (letter)
     {
     case 'P':
-        result += DtOMTEnvWriter::prefixName().stdString();
+        result += DtSettings::instance().cpp.prefixName.stdString();
         break;
     case 'C':
-        result += DtOMTEnvWriter::includePath().stdString();
+        result += DtSettings::instance().cpp.includePath().stdString();
         break;
     case 'N':
         result += names.name.stdString();

@@ -2,7 +2,6 @@
 
 #include "fileGenerator/dataTypeMapper.h"
 #include "fileGenerator/memberTypes.h"
-#include "fileGenerator/primitiveDataTypeFileWriter.h"
 #include "foundation/outputStream.h"
 #include "foundation/stringUtils.h"
 #include "omtReader/basicDataRepresentationNode.h"
@@ -103,12 +102,28 @@ bool isKnownByteOrder(const DtString& endian)
     return text.empty() || text == "big" || text == "little";
 }
 
+bool containsEither(const DtString& text, const char* part, const char* otherPart)
+{
+    return DtContainsSubstring(text, part) || DtContainsSubstring(text, otherPart);
+}
+
 bool isNumber(const std::string& text)
 {
     return !text.empty() && std::all_of(text.begin(), text.end(), DtIsDigit);
 }
 
 } // namespace
+
+bool isFloatRepresentation(const DtString& representation)
+{
+    return containsEither(representation, "Float", "float");
+}
+
+bool isSignedRepresentation(const DtString& representation)
+{
+    return containsEither(representation, "integer", "Integer") &&
+           !containsEither(representation, "unsigned", "Unsigned");
+}
 
 DtNumberForm numberFormOfRepresentation(const DtString& representation)
 {

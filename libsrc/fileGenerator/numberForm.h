@@ -15,6 +15,11 @@ struct DtNumberForm
     bool isLittleEndian = false;
 };
 
+// What the name of a representation tells. "Float" makes a fraction; a sign comes with "integer" where no "unsigned"
+// stands in the name.
+bool isFloatRepresentation(const DtString& representation);
+bool isSignedRepresentation(const DtString& representation);
+
 // Of a basic representation, or of a name that a ready-made type stands for. Size and byte order come from the model's
 // table; where it has no entry, from the type and the end of the name. A byte order that the model leaves out is little
 // for names that end in "LE" and big for all others; "Big" and "Little" count in any case and with blanks around, and

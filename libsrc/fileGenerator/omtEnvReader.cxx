@@ -1,6 +1,7 @@
 #include "fileGenerator/omtEnvReader.h"
 
-#include "fileGenerator/omtEnvWriter.h"
+#include "fileGenerator/settings.h"
+
 #include "foundation/exception.h"
 #include "foundation/outputStream.h"
 #include "omtReader/interactionClassFedNode.h"
@@ -111,7 +112,7 @@ DtOMTTree* DtOMTEnvReader::readFile(const DtFilename& file, bool& ok)
     else if (extension == "xml")
     {
         DtXMLFileReader reader;
-        reader.includeMIM(DtOMTEnvWriter::includeMIM());
+        reader.includeMIM(DtSettings::instance().cpp.includesMim);
         myTree = readXmlFile(reader, file);
     }
     else

@@ -150,11 +150,11 @@ int DtOMTEnvWriter::writeFile(const DtString& fomName)
 
 void DtOMTEnvWriter::startRun(const DtString& fomName)
 {
-    theFomDefinitionFileName = fomName;
+    settings().fomDefinitionFileName = fomName;
     myUsedDatatypes.clear();
     if (myHlaVersion == DtHla13)
         closure().insertAllArrays();
-    theBaseName = modelBase();
+    settings().baseName = modelBase();
     DtDatatypeClassNames::instance().clear();
     DtCodedDataTypeFileWriter::resetPlusAttributeCounts();
     mapper().forgetNonEncodeableDataTypes();
@@ -196,14 +196,14 @@ bool DtOMTEnvWriter::writeSelectedClasses()
 DtString DtOMTEnvWriter::modelBase() const
 {
     const DtString projectBase = myProject != nullptr ? myProject->baseName() : DtString();
-    return projectBase.isEmpty() ? theFomDefinitionFileName : projectBase;
+    return projectBase.isEmpty() ? settings().fomDefinitionFileName : projectBase;
 }
 
 void DtOMTEnvWriter::compileExportMacroName()
 {
-    DtString name = withoutDashesAndDots(withoutPathAndExtension(theBaseName));
+    DtString name = withoutDashesAndDots(withoutPathAndExtension(settings().baseName));
     name.toUpper();
-    warnOfBaseName(withoutPathAndExtension(theBaseName), name);
+    warnOfBaseName(withoutPathAndExtension(settings().baseName), name);
     DtFileWriter::setExportMacroName(DtString("DT_DLL_") + name);
 }
 

@@ -3,6 +3,7 @@
 
 #include "fileGenerator/omtInteraction.h"
 #include "fileGenerator/omtObject.h"
+#include "fileGenerator/settings.h"
 #include "foundation/fomType.h"
 #include "foundation/string.h"
 #include "omtReader/datatypeFedNode.h"
@@ -97,26 +98,27 @@ public:
     const std::set<DtString>& fileList() const { return myFileList; }
     const std::set<DtString>& usedDatatypes() const { return myUsedDatatypes; }
 
-    // Class-wide settings of a run, read by every writer.
-    static void setMaximumLineLength(int length); // 300 at start; bytes, the terminating NUL included
-    static int maximumLineLength();
-    static void setMIMincluded(bool included); // true at start
-    static bool MIMincluded();
+    // The settings of this road. DtSettings tells what each is for; writers read them there.
+    static void setMaximumLineLength(int length) { settings().maximumLineLength = length; }
+    static int maximumLineLength() { return settings().maximumLineLength; }
+    static void setMIMincluded(bool included) { settings().includesMim = included; }
+    static bool MIMincluded() { return settings().includesMim; }
     static bool includeMIM() { return MIMincluded(); }
-    static void setNamespaceName(const DtString& name);
-    static const DtString& namespaceName();
-    static void setIncludeName(const DtString& name);
-    static const DtString& includeName();
-    static void setPrefixName(const DtString& name);
-    static const DtString& prefixName();
-    static void setFomDefinitionFileName(const DtString& name);
-    static const DtString& fomDefinitionFileName();
-    static void setBaseName(const DtString& name);
-    static const DtString& baseName();
-    // The include name and a separator, or empty when there is no include name.
-    static DtString includePath();
+    static void setNamespaceName(const DtString& name) { settings().namespaceName = name; }
+    static const DtString& namespaceName() { return settings().namespaceName; }
+    static void setIncludeName(const DtString& name) { settings().includeName = name; }
+    static const DtString& includeName() { return settings().includeName; }
+    static void setPrefixName(const DtString& name) { settings().prefixName = name; }
+    static const DtString& prefixName() { return settings().prefixName; }
+    static void setFomDefinitionFileName(const DtString& name) { settings().fomDefinitionFileName = name; }
+    static const DtString& fomDefinitionFileName() { return settings().fomDefinitionFileName; }
+    static void setBaseName(const DtString& name) { settings().baseName = name; }
+    static const DtString& baseName() { return settings().baseName; }
+    static DtString includePath() { return settings().includePath(); }
 
 private:
+    static DtRoadSettings& settings() { return DtSettings::instance().cpp; }
+
     void startRun(const DtString& fomName);
     void makeDirectories() const;
     void writeExportHeader();
@@ -173,14 +175,6 @@ private:
     int myNextPduKind = 0;
     DtOmtProject* myProject = nullptr;
     DtHLAProtocolVersion myHlaVersion = DtHlaUnknown;
-
-    static int theMaximumLineLength;
-    static bool myMIMincluded;
-    static DtString theNamespaceName;
-    static DtString theIncludeName;
-    static DtString thePrefixName;
-    static DtString theFomDefinitionFileName;
-    static DtString theBaseName;
 };
 
 #endif

@@ -34,12 +34,12 @@ DtOMTTree& DtOMTWriter::tree() const
 bool DtOMTWriter::writeFile(const DtString& fomName, const DtString& commandFile)
 {
     tree();
-    theFomDefinitionFileName = fomName;
+    settings().fomDefinitionFileName = fomName;
     myUsedDatatypes.clear();
     if (myHlaVersion == DtHla13)
         closure().insertAllArrays();
     const DtString projectBase = myProject != nullptr ? myProject->baseName() : DtString();
-    theBaseName = projectBase.isEmpty() ? fomName : projectBase;
+    settings().baseName = projectBase.isEmpty() ? fomName : projectBase;
     checkUsedSubDatatypesFiles();
     warnOfByteOrders(tree());
     myNextPduKind = myFirstPduKind;

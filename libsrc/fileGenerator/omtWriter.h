@@ -5,6 +5,7 @@
 #include "fileGenerator/mapSubstitute.h"
 #include "fileGenerator/omtInteraction.h"
 #include "fileGenerator/omtObject.h"
+#include "fileGenerator/settings.h"
 #include "foundation/fomType.h"
 #include "foundation/string.h"
 #include "omtReader/datatypeFedNode.h"
@@ -136,23 +137,25 @@ public:
     // Every key that the context can hold, list by list, in the order in which they are put in.
     static std::vector<DtContextKey> contextKeys();
 
-    // Class-wide settings of a run; those of DtOMTEnvWriter are others.
-    static void setMaximumLineLength(int length) { theMaximumLineLength = length; } // 300 at start
-    static int maximumLineLength() { return theMaximumLineLength; }
-    static void setMIMincluded(bool included) { myMIMincluded = included; } // true at start
-    static bool MIMincluded() { return myMIMincluded; }
-    static void setNamespaceName(const DtString& name) { theNamespaceName = name; }
-    static const DtString& namespaceName() { return theNamespaceName; }
-    static void setIncludeName(const DtString& name) { theIncludeName = name; }
-    static const DtString& includeName() { return theIncludeName; }
-    static void setPrefixName(const DtString& name) { thePrefixName = name; }
-    static const DtString& prefixName() { return thePrefixName; }
-    static void setFomDefinitionFileName(const DtString& name) { theFomDefinitionFileName = name; }
-    static const DtString& fomDefinitionFileName() { return theFomDefinitionFileName; }
-    static void setBaseName(const DtString& name) { theBaseName = name; }
-    static const DtString& baseName() { return theBaseName; }
+    // The settings of this road; those of DtOMTEnvWriter are others. DtSettings tells what each is for.
+    static void setMaximumLineLength(int length) { settings().maximumLineLength = length; }
+    static int maximumLineLength() { return settings().maximumLineLength; }
+    static void setMIMincluded(bool included) { settings().includesMim = included; }
+    static bool MIMincluded() { return settings().includesMim; }
+    static void setNamespaceName(const DtString& name) { settings().namespaceName = name; }
+    static const DtString& namespaceName() { return settings().namespaceName; }
+    static void setIncludeName(const DtString& name) { settings().includeName = name; }
+    static const DtString& includeName() { return settings().includeName; }
+    static void setPrefixName(const DtString& name) { settings().prefixName = name; }
+    static const DtString& prefixName() { return settings().prefixName; }
+    static void setFomDefinitionFileName(const DtString& name) { settings().fomDefinitionFileName = name; }
+    static const DtString& fomDefinitionFileName() { return settings().fomDefinitionFileName; }
+    static void setBaseName(const DtString& name) { settings().baseName = name; }
+    static const DtString& baseName() { return settings().baseName; }
 
 private:
+    static DtRoadSettings& settings() { return DtSettings::instance().scripts; }
+
     using Words = std::vector<DtString>;
     struct Command;
 
@@ -208,14 +211,6 @@ private:
     bool myHasMetLimit = false;                                  // in this run of the top file
     bool myHasWarnedOfLimit = false;
     std::set<DtString> myReportedLines; // commands without their arguments
-
-    inline static int theMaximumLineLength = 300;
-    inline static bool myMIMincluded = true;
-    inline static DtString theNamespaceName;
-    inline static DtString theIncludeName;
-    inline static DtString thePrefixName;
-    inline static DtString theFomDefinitionFileName;
-    inline static DtString theBaseName;
 };
 
 #endif

@@ -242,7 +242,7 @@ void DtOMTWriter::buildContext()
     myBoundaries = std::make_unique<DtDatatypeBoundaries>(tree());
     for (const DtContextGroup& group : theGroups)
         DtPutList(myContext, group.countKey, group.listKey, std::unique_ptr<DtMapSubstitute>((this->*group.make)()));
-    theFomDefinitionFileName = fedNameOf(theFomDefinitionFileName);
+    settings().fomDefinitionFileName = fedNameOf(settings().fomDefinitionFileName);
     DtPutRows(theSettings, *this, *this, myContext);
     addUUIDs(&myContext);
     for (const char* key : theProductIdentifiers)

@@ -2,7 +2,7 @@
 
 #include "fileGenerator/dataTypeMapper.h"
 #include "fileGenerator/numberForm.h"
-#include "fileGenerator/omtEnvWriter.h"
+#include "fileGenerator/settings.h"
 #include "foundation/stringUtils.h"
 #include "omtReader/omtNode.h"
 
@@ -32,11 +32,6 @@ const DtPrimitiveRow theFloats = {"DtFloat", "DtFloat", "DtFloat32", "DtFloat64"
 const DtPrimitiveRow theSigned = {"DtInt8", "DtInt16", "DtInt32", "DtInt64", "DtInt64"};
 const DtPrimitiveRow theUnsigned = {"DtU8", "DtU16", "DtU32", "DtU64", "DtU8"}; // and all that is no number
 
-bool containsEither(const DtString& text, const char* part, const char* otherPart)
-{
-    return DtContainsSubstring(text, part) || DtContainsSubstring(text, otherPart);
-}
-
 const DtPrimitiveRow& rowFor(const DtString& representation)
 {
     if (isFloatRepresentation(representation))
@@ -45,17 +40,6 @@ const DtPrimitiveRow& rowFor(const DtString& representation)
 }
 
 } // namespace
-
-bool isFloatRepresentation(const DtString& representation)
-{
-    return containsEither(representation, "Float", "float");
-}
-
-bool isSignedRepresentation(const DtString& representation)
-{
-    return containsEither(representation, "integer", "Integer") &&
-           !containsEither(representation, "unsigned", "Unsigned");
-}
 
 DtString primitiveType(const DtString& representation, int bits)
 {
@@ -99,7 +83,7 @@ void DtPrimitiveDataTypeFileWriter::compilePrimitive(DtOMTNode* node, const DtSt
         return;
     const DtDataTypeMapper& mapper = *DtDataTypeMapper::instance();
     const DtString& name = node->getName();
-    const DtString prefixed = DtOMTEnvWriter::prefixName() + name;
+    const DtString prefixed = DtSettings::instance().cpp.prefixName + name;
     myIncludeFiles.push_back(DtFirstCharToLowerConditional(prefixed));
     DtAttribute number(identifier(name), "Dt" + prefixed);
     number.setCardinality(mapper.cardinalityOfArrayType(name));

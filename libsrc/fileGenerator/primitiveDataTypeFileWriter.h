@@ -25,7 +25,5 @@ private:
 // The number for a representation of that many bits. An unknown signed size widens to 64 bits, an unknown unsigned one
 // falls to 8; "Float" is tested first.
 DtString primitiveType(const DtString& representation, int bits);
-bool isFloatRepresentation(const DtString& representation);
-bool isSignedRepresentation(const DtString& representation);
 
 #endif

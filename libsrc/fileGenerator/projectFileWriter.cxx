@@ -1,6 +1,7 @@
 #include "fileGenerator/projectFileWriter.h"
 
-#include "fileGenerator/omtEnvWriter.h"
+#include "fileGenerator/settings.h"
+
 #include "foundation/filename.h"
 #include "foundation/stringUtils.h"
 
@@ -122,7 +123,7 @@ void DtProjectFileWriter::writeMultipleTimes(const DtString& header, std::istrea
     const DtFileLoop* loop = findLoop(header);
     if (loop == nullptr)
         return DtFileWriter::writeMultipleTimes(header, body);
-    const DtString prefix = loop->withIncludePath ? DtOMTEnvWriter::includePath() : DtString();
+    const DtString prefix = loop->withIncludePath ? DtSettings::instance().cpp.includePath() : DtString();
     const std::streampos start = body.tellg();
     for (const DtString& file : myFileList)
     {

@@ -1,7 +1,7 @@
 #include "fileGenerator/solutionsFileWriter.h"
 
 #include "fileGenerator/cCompatibleName.h"
-#include "fileGenerator/omtEnvWriter.h"
+#include "fileGenerator/settings.h"
 #include "foundation/filename.h"
 
 namespace
@@ -10,7 +10,7 @@ DtCCompatibleNames theNames;
 
 DtString projectBase()
 {
-    DtFilename base(DtOMTEnvWriter::baseName());
+    DtFilename base(DtSettings::instance().cpp.baseName);
     base.stripPath();
     base.stripExtension();
     return base;

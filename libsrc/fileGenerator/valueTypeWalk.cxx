@@ -1,7 +1,7 @@
 #include "fileGenerator/valueTypeWalk.h"
 
 #include "fileGenerator/dataTypeMapper.h"
-#include "fileGenerator/omtEnvWriter.h"
+#include "fileGenerator/settings.h"
 #include "foundation/filename.h"
 #include "foundation/outputStream.h"
 
@@ -10,7 +10,7 @@ namespace
 // The old text format has no tables of datatypes to walk.
 bool modelHasDatatypeTables()
 {
-    return DtFilename(DtOMTEnvWriter::fomDefinitionFileName()).extension() == "xml";
+    return DtFilename(DtSettings::instance().cpp.fomDefinitionFileName).extension() == "xml";
 }
 
 void warnUnknownType(const DtString& datatype)

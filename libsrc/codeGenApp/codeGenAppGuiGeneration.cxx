@@ -12,6 +12,7 @@
 #include "fileGenerator/qtProgressMeter.h"
 #include "foundation/filePrinter.h"
 #include "foundation/outputStream.h"
+#include "foundation/restored.h"
 #include "omtReader/omtTree.h"
 
 #include <QtWidgets/QApplication>
@@ -25,20 +26,16 @@ class DtScriptRun
 {
 public:
     DtScriptRun(const DtString& directory, QApplication* application, QWidget* parent)
-        : myOldDirectory(DtFileWriter::outputDirectory())
+        : myDirectory(DtSettings::instance().files.outputDirectory, directory)
     {
         DtQtProgressMeter::instance()->init(application, parent);
     }
-    ~DtScriptRun()
-    {
-        DtFileWriter::setOutputDirectory(myOldDirectory);
-        DtQtProgressMeter::instance()->reset();
-    }
+    ~DtScriptRun() { DtQtProgressMeter::instance()->reset(); }
     DtScriptRun(const DtScriptRun&) = delete;
     DtScriptRun& operator=(const DtScriptRun&) = delete;
 
 private:
-    DtString myOldDirectory;
+    const DtRestored<DtString> myDirectory;
 };
 
 // The class-wide settings of one road's writer; each road has its own.

@@ -8,6 +8,7 @@
 #include "fileGenerator/templateFiles.h"
 #include "foundation/assertion.h"
 #include "foundation/fileUtils.h"
+#include "foundation/restored.h"
 #include "foundation/stringUtils.h"
 
 #include <algorithm>
@@ -108,19 +109,6 @@ const DtVerb theVerbs[] = {
     {"lessthan",    true,  [](const DtString& left,  const DtString& right) { return left.toInt() < right.toInt(); }},
     {"equals",      true,  [](const DtString& left,  const DtString& right) { return left == right; }               },
     {"notequals",   true,  [](const DtString& left,  const DtString& right) { return left != right; }               },
-};
-
-// A value that is put back when a block is left, also by an exception.
-class DtDeeper
-{
-public:
-    explicit DtDeeper(int& depth) : myDepth(++depth) {}
-    ~DtDeeper() { --myDepth; }
-    DtDeeper(const DtDeeper&) = delete;
-    DtDeeper& operator=(const DtDeeper&) = delete;
-
-private:
-    int& myDepth;
 };
 
 // The file of a file block is open while this lives; nothing for an inline block, whose file name is empty.
@@ -344,7 +332,7 @@ void DtFileWriter::expandBlock(const DtString& header, DtTemplateStream& body, c
         warnOnce(myHasWarnedOfBlocks, "Template blocks are nested too deep; the innermost are left out.");
         return;
     }
-    const DtDeeper deeper(myBlockDepth);
+    const DtRestored deeper(myBlockDepth, myBlockDepth + 1);
     const DtInsideFile inside(myOpenFiles, body.fileName());
     body.seekg(0); // fails for a file that could not be opened, and nothing is read from it then
     if (delimiter == '#')

@@ -1,5 +1,6 @@
 #include "fileGenerator/universalFileWriter.h"
 
+#include "foundation/restored.h"
 #include "foundation/stringUtils.h"
 
 #include <string_view>
@@ -7,21 +8,6 @@
 
 namespace
 {
-// Puts a value back when it goes.
-template <typename T>
-class DtKept
-{
-public:
-    explicit DtKept(T& variable) : myVariable(variable), myValue(variable) {}
-    ~DtKept() { myVariable = myValue; }
-    DtKept(const DtKept&) = delete;
-    DtKept& operator=(const DtKept&) = delete;
-
-private:
-    T& myVariable;
-    const T myValue;
-};
-
 // What stands between "<!" and the next "!>" behind it, again and again; an opening that nothing closes is the last.
 template <typename Take>
 void forEachName(std::string_view line, Take take)
@@ -102,9 +88,9 @@ void DtUniversalFileWriter::writeMultipleTimes(const DtString& header, std::istr
     const DtMapSubstitute* map = lookupMap(header);
     if (map == nullptr)
         return;
-    const DtKept<bool> first(myIsFirst);
-    const DtKept<bool> last(myIsLast);
-    const DtKept<int> index(myIndex);
+    const DtRestored first(myIsFirst);
+    const DtRestored last(myIsLast);
+    const DtRestored index(myIndex);
     enter(header);
     const std::streampos position = body.tellg();
     const std::size_t total = map->size();

@@ -2,25 +2,13 @@
 
 #include "foundation/fileUtils.h"
 #include "foundation/outputStream.h"
+#include "foundation/restored.h"
 
 #include <algorithm>
 #include <cstdlib>
 
 namespace
 {
-// Raises the level for as long as it lives.
-class DtAtNotifyLevel
-{
-public:
-    explicit DtAtNotifyLevel(int level) : mySaved(DtNotifyLevel) { DtNotifyLevel = level; }
-    ~DtAtNotifyLevel() { DtNotifyLevel = mySaved; }
-    DtAtNotifyLevel(const DtAtNotifyLevel&) = delete;
-    DtAtNotifyLevel& operator=(const DtAtNotifyLevel&) = delete;
-
-private:
-    int mySaved;
-};
-
 constexpr int theInfoLevel = 3;
 constexpr int theFailureLevel = 4;
 } // namespace
@@ -29,7 +17,7 @@ namespace DtCmdLine
 {
 void StdOutput::usage(CmdLineInterface& commandLine)
 {
-    const DtAtNotifyLevel level(theInfoLevel);
+    const DtRestored level(DtNotifyLevel, theInfoLevel);
     DtInfo << std::endl << "USAGE: " << std::endl << std::endl;
     _shortUsage(commandLine, DtInfo);
     DtInfo << std::endl << "Where: " << std::endl;
@@ -38,13 +26,13 @@ void StdOutput::usage(CmdLineInterface& commandLine)
 
 void StdOutput::version(CmdLineInterface& commandLine)
 {
-    const DtAtNotifyLevel level(theInfoLevel);
+    const DtRestored level(DtNotifyLevel, theInfoLevel);
     DtInfo << commandLine.getProgramName() << " version: " << commandLine.getVersion() << std::endl;
 }
 
 void StdOutput::failure(CmdLineInterface& commandLine, ArgException& exception)
 {
-    const DtAtNotifyLevel level(theFailureLevel);
+    const DtRestored level(DtNotifyLevel, theFailureLevel);
     DtWarn << "PARSE ERROR: " << exception.argId() << std::endl
            << "             " << exception.error() << std::endl
            << std::endl
@@ -158,7 +146,7 @@ int CmdLine::claim(int& index, std::vector<std::string>& arguments)
 void CmdLine::leave(int exitCode)
 {
     {
-        const DtAtNotifyLevel level(theInfoLevel);
+        const DtRestored level(DtNotifyLevel, theInfoLevel);
         if (myPause)
         {
             DtInfo << "Press any key to continue" << std::endl;

@@ -27,11 +27,7 @@ public:
     DtScratchProgram() : myData(QStringList("")) {}
     ~DtScratchProgram()
     {
-        DtOMTEnvWriter::setIncludeName(DtString());
-        DtOMTEnvWriter::setPrefixName(DtString());
-        DtOMTEnvWriter::setNamespaceName(DtString());
-        DtOMTEnvWriter::setMIMincluded(true);
-        DtFileWriter::setOutputDirectory("source/");
+        DtSettings::instance() = DtSettings(); // the window under test has set them, as at the start of a program
         DtDataTypeMapper::instance()->clearMappings();
     }
 

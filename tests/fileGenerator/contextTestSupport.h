@@ -81,15 +81,6 @@ public:
         DtOMTWriter::setIncludeName("");
         DtOMTWriter::setPrefixName("");
     }
-    ~DtContextFixture()
-    {
-        DtOMTWriter::setNamespaceName(myNamespace);
-        DtOMTWriter::setIncludeName(myInclude);
-        DtOMTWriter::setPrefixName(myPrefix);
-        DtOMTWriter::setFomDefinitionFileName(myFomName);
-        DtOMTWriter::setBaseName(myBaseName);
-    }
-
     // The tree of a model text, by the reader of its format.
     std::unique_ptr<DtOMTTree> read(const QByteArray& model, const char* name = "model.xml") const
     {
@@ -99,22 +90,14 @@ public:
     }
     static std::unique_ptr<DtOMTTree> read(const QString& path)
     {
-        const bool hasMim = DtOMTEnvWriter::MIMincluded();
-        DtOMTEnvWriter::setMIMincluded(false); // the tests' own classes and datatypes are enough
+        // The tests' own classes and datatypes are enough.
+        const DtRestored hasMim(DtSettings::instance().cpp.includesMim, false);
         bool isGood = false;
         DtOMTEnvReader reader;
         std::unique_ptr<DtOMTTree> tree(reader.readFile(DtFilename(path.toUtf8().constData()), isGood));
-        DtOMTEnvWriter::setMIMincluded(hasMim);
         return isGood ? std::move(tree) : nullptr;
     }
     void writeData(const QString& name, const QByteArray& text) const { writeTextFile(scratch("data/" + name), text); }
-
-private:
-    const DtString myNamespace = DtOMTWriter::namespaceName();
-    const DtString myInclude = DtOMTWriter::includeName();
-    const DtString myPrefix = DtOMTWriter::prefixName();
-    const DtString myFomName = DtOMTWriter::fomDefinitionFileName();
-    const DtString myBaseName = DtOMTWriter::baseName();
 };
 
 // A module of the 2010 form with this content.

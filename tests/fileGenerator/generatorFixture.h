@@ -8,6 +8,7 @@
 #include "fileGenerator/fileWriter.h"
 #include "fileGenerator/omtEnvWriter.h"
 #include "fileGenerator/qtProgressMeter.h"
+#include "foundation/restored.h"
 #include "omtReader/omtTree.h"
 
 #include <QtCore/QDirIterator>
@@ -37,13 +38,6 @@ public:
         DtQtProgressMeter::instance()->reset();
         DtDatatypeClassNames::instance().clear();
         DtDataTypeMapper::instance()->clearMappings();
-        DtOMTEnvWriter::setBaseName(myBaseName);
-        DtOMTEnvWriter::setFomDefinitionFileName(myFomName);
-        DtOMTEnvWriter::setIncludeName(myIncludeName);
-        DtOMTEnvWriter::setPrefixName(myPrefixName);
-        DtFileWriter::setGenerateErrors(myGenerateErrors);
-        DtFileWriter::setExportMacroName(myExportMacro);
-        DtFileWriter::setOutputDirectory(myOutputDirectory);
     }
     DtGeneratorFixture(const DtGeneratorFixture&) = delete;
     DtGeneratorFixture& operator=(const DtGeneratorFixture&) = delete;
@@ -81,13 +75,7 @@ private:
     }
 
     QTemporaryDir myScratch;
-    DtString myOutputDirectory = DtFileWriter::outputDirectory();
-    DtString myExportMacro = DtFileWriter::exportMacroName();
-    bool myGenerateErrors = DtFileWriter::generateErrors();
-    DtString myPrefixName = DtOMTEnvWriter::prefixName();
-    DtString myIncludeName = DtOMTEnvWriter::includeName();
-    DtString myFomName = DtOMTEnvWriter::fomDefinitionFileName();
-    DtString myBaseName = DtOMTEnvWriter::baseName();
+    const DtRestored<DtSettings> mySettings{DtSettings::instance()};
     DtInDirectory myInBin;
 };
 

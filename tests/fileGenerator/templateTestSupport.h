@@ -5,6 +5,7 @@
 #include "fileGenerator/fileWriter.h"
 #include "fileGenerator/omtEnvWriter.h"
 #include "fileGenerator/qtProgressMeter.h"
+#include "foundation/restored.h"
 #include "testSupport.h"
 
 #include <QtWidgets/QApplication>
@@ -55,32 +56,10 @@ private:
 class DtWriterSettings
 {
 public:
-    ~DtWriterSettings()
-    {
-        DtFileWriter::setOutputDirectory(myDirectory);
-        DtFileWriter::setExportMacroName(myMacro);
-        DtFileWriter::setGenerate64Bit(myGenerates64Bit);
-        DtFileWriter::setGenerateErrors(myGeneratesErrors);
-        DtFileWriter::setUseDecodeIncludes(myUsesIncludes);
-        DtOMTEnvWriter::setMaximumLineLength(myLineLength);
-        DtOMTEnvWriter::setNamespaceName(myNamespace);
-        DtOMTEnvWriter::setIncludeName(myInclude);
-        DtOMTEnvWriter::setFomDefinitionFileName(myFomFile);
-        DtOMTEnvWriter::setBaseName(myBaseName);
-        DtDataTypeMapper::instance()->setMapRtiObjectIdToGlobalId(myMapsIds);
-    }
+    ~DtWriterSettings() { DtDataTypeMapper::instance()->setMapRtiObjectIdToGlobalId(myMapsIds); }
 
 private:
-    const DtString myDirectory = DtFileWriter::outputDirectory();
-    const DtString myMacro = DtFileWriter::exportMacroName();
-    const bool myGenerates64Bit = DtFileWriter::generate64Bit();
-    const bool myGeneratesErrors = DtFileWriter::generateErrors();
-    const bool myUsesIncludes = DtFileWriter::useDecodeIncludes();
-    const int myLineLength = DtOMTEnvWriter::maximumLineLength();
-    const DtString myNamespace = DtOMTEnvWriter::namespaceName();
-    const DtString myInclude = DtOMTEnvWriter::includeName();
-    const DtString myFomFile = DtOMTEnvWriter::fomDefinitionFileName();
-    const DtString myBaseName = DtOMTEnvWriter::baseName();
+    const DtRestored<DtSettings> mySettings{DtSettings::instance()};
     const bool myMapsIds = DtDataTypeMapper::instance()->mapRtiObjectIdToGlobalId();
 };
 

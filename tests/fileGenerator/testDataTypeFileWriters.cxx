@@ -620,10 +620,12 @@ void TestDataTypeFileWriters::knownTokensOfTheFamilies()
         }
         return tokens.join(' ');
     };
-    QCOMPARE(own(SimpleProbe("", "")), QString("<!MyHeaderInclude!> <!ClassIdentifier!> <!LocalTypeIsNotEncodeable!> <!NumberType!>"));
-    QCOMPARE(own(BasicProbe("", "")),
-             QString("<!MyHeaderInclude!> <!ClassIdentifier!> <!LocalTypeIsNotEncodeable!> <!NumberType!> <!BasicSize!> "
-                     "<!ClassPrefix!> <!size!> <!EndianMatch!>"));
+    QCOMPARE(own(SimpleProbe("", "")),
+             QString("<!MyHeaderInclude!> <!ClassIdentifier!> <!LocalTypeIsNotEncodeable!> <!NumberType!>"));
+    QCOMPARE(
+        own(BasicProbe("", "")),
+        QString("<!MyHeaderInclude!> <!ClassIdentifier!> <!LocalTypeIsNotEncodeable!> <!NumberType!> <!BasicSize!> "
+                "<!ClassPrefix!> <!size!> <!EndianMatch!>"));
     QCOMPARE(own(ArrayProbe("", "")),
              QString("<!MyHeaderInclude!> <!ClassIdentifier!> <!LocalTypeIsNotEncodeable!> <!MyEncoding!> "
                      "<!ClassPrefix!> <!ArrayElementCount!> <!ArrayEncoding!> <!TokenCardinality!>"));

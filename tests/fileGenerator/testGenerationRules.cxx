@@ -5,8 +5,8 @@
 
 #include "generatorFixture.h"
 
-#include "fileGenerator/omtProject.h"
 #include "fileGenerator/nameClashes.h"
+#include "fileGenerator/omtProject.h"
 
 #include <QtTest/QtTest>
 

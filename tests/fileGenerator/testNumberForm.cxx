@@ -2,8 +2,8 @@
 
 #include "fileGenerator/arrayDataTypeFileWriter.h"
 #include "fileGenerator/literalText.h"
-#include "fileGenerator/numberForm.h"
 #include "fileGenerator/nameClashes.h"
+#include "fileGenerator/numberForm.h"
 #include "fileGenerator/simpleDataTypeFileWriter.h"
 #include "omtReader/arrayDatatypeNode.h"
 #include "omtReader/simpleDatatypeNode.h"

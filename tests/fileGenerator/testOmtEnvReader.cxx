@@ -4,6 +4,7 @@
 #include "fileGenerator/omtEnvReader.h"
 #include "fileGenerator/omtEnvWriter.h"
 #include "foundation/exception.h"
+#include "foundation/restored.h"
 #include "omtReader/omtTree.h"
 
 #include <QtCore/QTemporaryDir>
@@ -11,6 +12,7 @@
 #include <QtWidgets/QTreeWidget>
 
 #include <memory>
+#include <optional>
 #include <sstream>
 
 namespace
@@ -135,20 +137,20 @@ private:
 
     std::unique_ptr<QTemporaryDir> myDirectory;
     std::vector<std::unique_ptr<DtOMTTree>> myTrees;
-    bool myOldMim = true;
+    std::optional<DtRestored<DtSettings>> mySettings;
 };
 
 void TestOmtEnvReader::init()
 {
     myDirectory = std::make_unique<QTemporaryDir>();
     QVERIFY(myDirectory->isValid());
-    myOldMim = DtOMTEnvWriter::MIMincluded();
+    mySettings.emplace(DtSettings::instance());
     DtOMTEnvWriter::setMIMincluded(false);
 }
 
 void TestOmtEnvReader::cleanup()
 {
-    DtOMTEnvWriter::setMIMincluded(myOldMim);
+    mySettings.reset();
     myTrees.clear();
 }
 

@@ -732,16 +732,17 @@ void TestRecordFileWriters::knownTokensOfTheRecords()
             tokens << text(writer.knownTokens()[static_cast<std::size_t>(i)]);
         return tokens.join(' ');
     };
-    QCOMPARE(own(FixedProbe("", ""), 6),
-             QString("<!MyHeaderInclude!> <!ClassIdentifier!> <!LocalTypeIsNotEncodeable!> <!ClassNetName!> <!NetTypeIsVariableSize!> "
-                     "<!NetTypeIsVariantRecord!>"));
+    QCOMPARE(own(FixedProbe("", ""), 6), QString("<!MyHeaderInclude!> <!ClassIdentifier!> <!LocalTypeIsNotEncodeable!> "
+                                                 "<!ClassNetName!> <!NetTypeIsVariableSize!> "
+                                                 "<!NetTypeIsVariantRecord!>"));
     QCOMPARE(own(VariantProbe("", ""), 10),
-             QString("<!MyHeaderInclude!> <!ClassIdentifier!> <!LocalTypeIsNotEncodeable!> <!ClassNetName!> <!ClassDiscriminantName!> "
+             QString("<!MyHeaderInclude!> <!ClassIdentifier!> <!LocalTypeIsNotEncodeable!> <!ClassNetName!> "
+                     "<!ClassDiscriminantName!> "
                      "<!ClassDiscriminantType!> <!ClassEncoding!> <!AlternativeSelector!> "
                      "<!CurrentDiscriminantEnumerator!> <!NetTypeIsVariantRecord!>"));
-    QCOMPARE(own(ComplexProbe("", ""), 7),
-             QString("<!MyHeaderInclude!> <!ClassIdentifier!> <!ArrayFileToInclude!> <!DatatypeArrayName!> <!NonDtDatatypeArrayName!> "
-                     "<!IsBasicType!> <!OctetBoundary!>"));
+    QCOMPARE(own(ComplexProbe("", ""), 7), QString("<!MyHeaderInclude!> <!ClassIdentifier!> <!ArrayFileToInclude!> "
+                                                   "<!DatatypeArrayName!> <!NonDtDatatypeArrayName!> "
+                                                   "<!IsBasicType!> <!OctetBoundary!>"));
 }
 
 QX_REGISTER_TEST(TestRecordFileWriters)

@@ -5,6 +5,7 @@
 #include "fileGenerator/dataTypeMapper.h"
 #include "fileGenerator/datatypeClassNames.h"
 #include "fileGenerator/omtEnvWriter.h"
+#include "foundation/restored.h"
 #include "testSupport.h"
 
 #include <QtCore/QTemporaryDir>
@@ -58,15 +59,7 @@ public:
         DtOMTEnvWriter::setBaseName("");
         DtOMTEnvWriter::setFomDefinitionFileName("model.xml");
     }
-    ~RunSettings()
-    {
-        clearTables();
-        DtFileWriter::setOutputDirectory(myOutputDirectory);
-        DtOMTEnvWriter::setPrefixName(myPrefix);
-        DtOMTEnvWriter::setIncludeName(myInclude);
-        DtOMTEnvWriter::setBaseName(myBase);
-        DtOMTEnvWriter::setFomDefinitionFileName(myFom);
-    }
+    ~RunSettings() { clearTables(); }
     RunSettings(const RunSettings&) = delete;
     RunSettings& operator=(const RunSettings&) = delete;
 
@@ -79,11 +72,7 @@ private:
     }
 
     QTemporaryDir myDirectory;
-    const DtString myOutputDirectory = DtFileWriter::outputDirectory();
-    const DtString myPrefix = DtOMTEnvWriter::prefixName();
-    const DtString myInclude = DtOMTEnvWriter::includeName();
-    const DtString myBase = DtOMTEnvWriter::baseName();
-    const DtString myFom = DtOMTEnvWriter::fomDefinitionFileName();
+    const DtRestored<DtSettings> mySettings{DtSettings::instance()};
 };
 
 inline QString text(const DtString& string)

@@ -212,6 +212,7 @@ const DtClassFileWriter::DtTokens::Table& DtClassFileWriter::DtTokens::attribute
         {"<!AttributeElementCount!>",             OF_ATTRIBUTE(DtString(valueFormOf(a).count))},
         {"<!AttributeOctets!>",                   OF_ATTRIBUTE(DtString(valueFormOf(a).number.octets))},
         {"<!AttributeIsLittleEndian!>",           OF_ATTRIBUTE(valueFormOf(a).number.isLittleEndian ? "1" : "0")},
+        {"<!AttributeHasNoClass!>",               OF_ATTRIBUTE(flag(hasNoClass(a)))},
         {"<!AttributeTypeIdentifier!>",           OF_ATTRIBUTE(typeIdentifier(a))},
         {"<!AttributeIsNamesake!>",               OF_ATTRIBUTE(flag(DtDatatypeClassNames::instance().isNamesake(a.datatype())))},
         {"<!AttributeLayout!>",                   OF_ATTRIBUTE(valueFormOf(a).layout)},

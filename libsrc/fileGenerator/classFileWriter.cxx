@@ -99,6 +99,15 @@ DtValueForm valueFormOf(const DtAttribute& attribute)
                        DtToolkitLayouts::instance().of(attribute.datatype()));
 }
 
+// Whether nothing stands for the datatype in C++: no type of the toolkit, no enumeration, and no class. The wire type
+// of a class is the class's name with "DtNet", so it is the model's name that stays where there is no class.
+bool hasNoClass(const DtAttribute& attribute)
+{
+    const bool isKnown = mapper().isNonEncodeableDataType(attribute.type()) || attribute.isEnumeration() ||
+                         isString(attribute) || mapper().boundaryFromDataTypeName(tableName(attribute)) != 0;
+    return !isKnown && attribute.netType() == attribute.nonVectorType();
+}
+
 // The C++ name of the attribute's type.
 DtString typeIdentifier(const DtAttribute& attribute)
 {

@@ -1,0 +1,89 @@
+#include "registerTest.h"
+
+#include <QtTest/QtTest>
+
+#include <map>
+#include <set>
+
+namespace
+{
+const QString theTemplates = QStringLiteral(QX_SOURCE_DIR "/data/templates/");
+constexpr int theBlockLength = 15; // lines that make two places a repetition
+
+QByteArray contentOf(const QString& file)
+{
+    QFile input(file);
+    return input.open(QIODevice::ReadOnly) ? input.readAll() : QByteArray();
+}
+
+// The templates of C++ by their paths below data/templates: those of projects and makefiles, of the scripts and of the
+// custom code window are others.
+std::map<QString, QList<QByteArray>> cppTemplates()
+{
+    static const QRegularExpression theOthers(
+        QStringLiteral("^(project|solution|talkExProj|listenExProj|makefile|exMakefile|exampleProject)"));
+    std::map<QString, QList<QByteArray>> templates;
+    for (const char* directory : {"", "subTemplates/"})
+        for (const QString& name : QDir(theTemplates + directory).entryList({"*.tlt"}, QDir::Files))
+            if (!theOthers.match(name).hasMatch())
+                templates[directory + name] = contentOf(theTemplates + directory + name).split('\n');
+    return templates;
+}
+
+QByteArray blockAt(const QList<QByteArray>& lines, int start)
+{
+    return lines.mid(start, theBlockLength).join('\n');
+}
+} // namespace
+
+class TestTemplateSharing : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void fewLinesStandInASecondTemplate()
+    {
+        const std::map<QString, QList<QByteArray>> templates = cppTemplates();
+        QVERIFY(templates.size() > 60);
+        std::map<QByteArray, std::set<QString>> places;
+        for (const auto& [name, lines] : templates)
+            for (int start = 0; start + theBlockLength <= lines.size(); ++start)
+                places[blockAt(lines, start)].insert(name);
+        int count = 0, shared = 0;
+        for (const auto& [name, lines] : templates)
+        {
+            std::set<int> repeated;
+            for (int start = 0; start + theBlockLength <= lines.size(); ++start)
+                for (int line = 0; places[blockAt(lines, start)].size() > 1 && line < theBlockLength; ++line)
+                    repeated.insert(start + line);
+            count += lines.size();
+            shared += static_cast<int>(repeated.size());
+        }
+        QVERIFY2(shared * 100 < count * 12, qPrintable(QStringLiteral("%1 of %2 lines").arg(shared).arg(count)));
+    }
+
+    // A blank line of a template becomes a line with a blank, one of an included file would stay empty; and a line feed
+    // at the end would come out as a line of its own.
+    void includedFilesHaveBlanksInBlankLines_data()
+    {
+        QTest::addColumn<QString>("name");
+        static const QRegularExpression theInclude(QStringLiteral("subTemplates/(\\w+\\.tlt)[#?]"));
+        std::set<QString> included;
+        for (const auto& [name, lines] : cppTemplates())
+            for (auto each = theInclude.globalMatch(QString::fromUtf8(lines.join('\n'))); each.hasNext();)
+                included.insert(each.next().captured(1));
+        QVERIFY(included.size() > 15);
+        for (const QString& name : included)
+            QTest::newRow(qPrintable(name)) << name;
+    }
+    void includedFilesHaveBlanksInBlankLines()
+    {
+        QFETCH(QString, name);
+        const QByteArray text = contentOf(theTemplates + "subTemplates/" + name);
+        QVERIFY(!text.isEmpty());
+        QVERIFY(!text.contains("\n\n") && !text.startsWith('\n'));
+    }
+};
+
+QX_REGISTER_TEST(TestTemplateSharing)
+#include "testTemplateSharing.moc"

@@ -59,7 +59,7 @@ private Q_SLOTS:
             count += lines.size();
             shared += static_cast<int>(repeated.size());
         }
-        QVERIFY2(shared * 100 < count * 12, qPrintable(QStringLiteral("%1 of %2 lines").arg(shared).arg(count)));
+        QVERIFY2(shared * 100 < count * 10, qPrintable(QStringLiteral("%1 of %2 lines").arg(shared).arg(count)));
     }
 
     // A blank line of a template becomes a line with a blank, one of an included file would stay empty; and a line feed

@@ -7,7 +7,7 @@
 
 namespace
 {
-struct DtSettings
+struct DtChosenSettings
 {
     const char* name;
     const char* prefix;
@@ -19,7 +19,7 @@ struct DtSettings
     bool errors;
 };
 
-const DtSettings theSettings[] = {
+const DtChosenSettings theSettings[] = {
     {"none",              "",   "",     "",        false, false, true,  false},
     {"prefix",            "Qx", "",     "",        false, false, true,  false},
     {"namespace",         "",   "port", "",        false, false, true,  false},
@@ -31,7 +31,7 @@ const DtSettings theSettings[] = {
     {"all",               "Qx", "port", "harbour", true,  true,  false, true },
 };
 
-void generate(DtScratchProgram& program, const DtSettings& settings)
+void generate(DtScratchProgram& program, const DtChosenSettings& settings)
 {
     const auto window = program.makeWindow(
         [&settings](DtCodeGenInitializer& initializer)
@@ -70,7 +70,7 @@ void bridge(const QString& directory)
 
 // What the compiler says of the files of one protocol. The examples of objects are for both, those of interactions for
 // HLA alone.
-QString errorsOf(const QString& output, const DtSettings& settings, bool isDis)
+QString errorsOf(const QString& output, const DtChosenSettings& settings, bool isDis)
 {
     QTemporaryDir stage;
     QStringList names = layOut(output, stage.path());
@@ -120,7 +120,7 @@ private Q_SLOTS:
     void outputCompiles()
     {
         QFETCH(int, index);
-        const DtSettings& settings = theSettings[index];
+        const DtChosenSettings& settings = theSettings[index];
         DtScratchProgram program;
         generate(program, settings);
         const QString output = program.path("out");

@@ -2,7 +2,8 @@
  
 #include "DataTypes/cargo__Item.h"
 
-DtCargo__Item::DtCargo__Item() : Own()
+DtCargo__Item::DtCargo__Item()
+    : Own()
 {
 }
  

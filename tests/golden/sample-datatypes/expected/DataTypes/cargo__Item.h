@@ -57,7 +57,7 @@ public:
  
 private:
     static DtWireForm formOf(unsigned int field);
- 
+
     // The values stand in a structure of their own, where no accessor can share their names.
     struct OwnValues
     {

@@ -2,7 +2,8 @@
  
 #include "DataTypes/clockTime.h"
 
-DtClockTime::DtClockTime() : Own()
+DtClockTime::DtClockTime()
+    : Own()
 {
 }
  

@@ -2,7 +2,8 @@
  
 #include "DataTypes/geoPoint.h"
 
-DtGeoPoint::DtGeoPoint() : Own()
+DtGeoPoint::DtGeoPoint()
+    : Own()
 {
 }
  

@@ -7,9 +7,11 @@
 #include "codeGenApp/compiledOutput.h"
 #include "codeGenApp/scriptRun.h"
 #include "codeGenApp/smallModels.h"
+#include "valuePrinters.h"
 
 #include <QtCore/QXmlStreamReader>
 
+#include <optional>
 #include <set>
 
 // Attributes are called P0, P1 and so on; these are their datatypes, with the cardinality where HLA 1.3 gives one that
@@ -51,13 +53,13 @@ inline QStringList datatypesIn(const QStringList& files)
     return names;
 }
 
-// A module for modules that define these.
-inline DtProbedModel probeModule(const QStringList& datatypes)
+// A module for modules that define these, in the form of the same year.
+inline DtProbedModel probeModule(const QStringList& datatypes, const QByteArray& year)
 {
     QByteArray attributes;
     for (int index = 0; index < datatypes.size(); ++index)
         attributes += attributeText("P" + QByteArray::number(index), datatypes[index].toHtmlEscaped().toUtf8());
-    return {moduleText(objectText("Probe", attributes)), datatypes};
+    return {moduleText(objectText("Probe", attributes), QByteArray(), year), datatypes};
 }
 
 // The same as part of a model in the older XML format.
@@ -111,11 +113,14 @@ inline DtProbedModel withTextProbe(QByteArray model)
 class DtBothSides
 {
 public:
-    // Of modules.
-    explicit DtBothSides(const QStringList& files)
+    // Of modules; the probe has attributes of further datatypes too, which the standard model defines or nobody.
+    explicit DtBothSides(const QStringList& files, const QStringList& furtherDatatypes = QStringList())
     {
         std::vector<DtString> models = copiedModels(myProgram, files);
-        const DtProbedModel module = probeModule(datatypesIn(files));
+        QStringList datatypes = datatypesIn(files) + furtherDatatypes;
+        datatypes.removeDuplicates();
+        const bool isOf2025 = readTextFile(files.front()).contains("IEEE1516-2025");
+        const DtProbedModel module = probeModule(datatypes, isOf2025 ? "2025" : "2010");
         models.push_back(myProgram.model("probe.xml", module.text));
         generate(models, module.datatypes);
     }
@@ -137,23 +142,28 @@ public:
     // The classes that the generator warned of: they hold several open arrays and have no encoding.
     const QStringList& classesWithoutEncoding() const { return myClassesWithoutEncoding; }
 
-    // Empty when the generated code has become a program.
+    // Of loading and generating.
+    const QString& warnings() const { return myWarnings; }
+    // The generated header that defines this class, if one does.
+    QByteArray headerOf(const QByteArray& className) const
+    {
+        for (const QString& file : headers())
+            if (const QByteArray text = readTextFile(path() + "/" + file); text.contains(" " + className + "\n{"))
+                return text;
+        return {};
+    }
+
+    // Empty when the generated code has become a program. Compiles once.
     QString compile() const
     {
-        QByteArray unit, probes;
-        const QRegularExpression sources("^(DataTypes/.*|probe(En|De)coderHLA|probeStateRepository)\\.cxx$");
-        for (const QString& file : filesBelow(path()).filter(sources))
-            unit += "#include \"" + file.toUtf8() + "\"\n";
-        for (int index = 0; index < myDatatypes.size(); ++index)
-            probes += "PROBE(P" + QByteArray::number(index) + ")\n";
-        writeTextFile(path() + "/probes.h", probes);
-        writeTextFile(path() + "/unit.cpp", unit + "#include \"crossDriver.cxx\"\n");
-        const DtPythonRun run = runProgram("g++", {"-std=c++17", "-Wall", "-Wextra", "-Werror", "-I.",
-                                                   "-I" QX_SOURCE_DIR "/tests/generated",
-                                                   "-I" QX_SOURCE_DIR "/toolkit/include", "unit.cpp", "-o", "driver"});
-        return run.isGood() ? QString() : run.output.left(4000);
+        if (!myErrors)
+            myErrors = compilerErrors();
+        return *myErrors;
     }
+    // What comes back of octets.
     DtPythonRun driver(const QByteArray& lines) const { return runProgram(path() + "/driver", {}, lines); }
+    // What the accessors give of them.
+    DtPythonRun valuesOf(const QByteArray& lines) const { return runProgram(path() + "/driver", {"values"}, lines); }
     // What an object as it starts does not encode, or does not take back, by datatype; and how many it encodes.
     QStringList start() const
     {
@@ -166,6 +176,23 @@ public:
 
 private:
     QString path() const { return myStage.path(); }
+    QStringList headers() const { return filesBelow(path()).filter(QRegularExpression("^DataTypes/.*\\.h$")); }
+    QString compilerErrors() const
+    {
+        QByteArray unit, probes;
+        const QRegularExpression sources("^(DataTypes/.*|probe(En|De)coderHLA|probeStateRepository)\\.cxx$");
+        for (const QString& file : filesBelow(path()).filter(sources))
+            unit += "#include \"" + file.toUtf8() + "\"\n";
+        for (int index = 0; index < myDatatypes.size(); ++index)
+            probes += QByteArray("PROBE(P%1, p%1)\n").replace("%1", QByteArray::number(index));
+        writeTextFile(path() + "/probes.h", probes);
+        writeTextFile(path() + "/printers.h", printersFor(path(), headers()));
+        writeTextFile(path() + "/unit.cpp", unit + "#include \"crossDriver.cxx\"\n");
+        const DtPythonRun run = runProgram("g++", {"-std=c++17", "-Wall", "-Wextra", "-Werror", "-I.",
+                                                   "-I" QX_SOURCE_DIR "/tests/generated",
+                                                   "-I" QX_SOURCE_DIR "/toolkit/include", "unit.cpp", "-o", "driver"});
+        return run.isGood() ? QString() : run.output.left(4000);
+    }
     DtPythonRun runProgram(const QString& program, const QStringList& arguments,
                            const QByteArray& input = QByteArray()) const
     {
@@ -185,8 +212,9 @@ private:
         switchOnScripts(myProgram, {"genCpp.txt", "genPython.txt"});
         const DtCapture warnings(DtWarn);
         runBatch(myProgram, models);
+        myWarnings = warnings.text();
         const QRegularExpression refusal("Cannot encode/decode data type (\\w+)\\.");
-        for (auto each = refusal.globalMatch(warnings.text()); each.hasNext();)
+        for (auto each = refusal.globalMatch(myWarnings); each.hasNext();)
             myClassesWithoutEncoding += each.next().captured(1);
         myClassesWithoutEncoding.sort();
         for (const QString& file : filesBelow(myProgram.path("out")))
@@ -198,9 +226,28 @@ private:
     }
 
     QStringList myDatatypes;
+    QString myWarnings;
     QStringList myClassesWithoutEncoding;
+    mutable std::optional<QString> myErrors; // of the compiler, when it has run
     DtScratchProgram myProgram;
     QTemporaryDir myStage;
 };
+
+// Of a list of vectors.
+inline QStringList datatypesOfVectors(const QString& file)
+{
+    QStringList names;
+    for (const QString& line : QString::fromUtf8(readTextFile(file)).split('\n', Qt::SkipEmptyParts))
+        names += line.section(" | ", 0, 0);
+    names.removeDuplicates();
+    return names;
+}
+
+// What the generated C++ makes of the octets of the vectors, and behind it what its accessors give.
+inline QByteArray answersTo(const DtBothSides& sides, const QString& vectors)
+{
+    const QByteArray lines = sides.python({"octets", vectors}).output.toUtf8();
+    return (sides.driver(lines).output + sides.valuesOf(lines).output).toUtf8();
+}
 
 #endif

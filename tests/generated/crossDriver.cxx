@@ -2,9 +2,11 @@
 // octets, decodes the octets, encodes what has come of them and prints the line with these octets, or with the reason
 // for a refusal.
 //
-// With an argument it reads nothing: it prints the attributes that an object as it starts refuses to encode, and those
-// whose own encoding it does not take back, with the reasons; and how many it encodes all the same.
+// With the argument "values" it prints what the octets are decoded to, by the accessors of the generated classes. With
+// "start" it reads nothing: it prints the attributes that an object as it starts refuses to encode, and those whose own
+// encoding it does not take back, with the reasons; and how many it encodes all the same.
 
+#include "printers.h"
 #include "probeDecoderHLA.h"
 #include "probeEncoderHLA.h"
 
@@ -17,14 +19,14 @@
 namespace
 {
 // The coders keep the reason for a refusal to themselves, so their operations are asked for it one by one. probes.h has
-// a line PROBE(name) for each attribute.
+// a line PROBE(name, accessor) for each attribute.
 struct DtOpenDecoder : DtProbeDecoder
 {
     static std::string refusal(const std::string& name, const DtValueBuffer& octets)
     {
         typedef bool (*Decode)(DtProbeStateRepository&, DtWireReader&);
         static const std::map<std::string, Decode> theOperations = {
-#define PROBE(name) {#name, &DtOpenDecoder::decode##name},
+#define PROBE(name, accessor) {#name, &DtOpenDecoder::decode##name},
 #include "probes.h"
 #undef PROBE
         };
@@ -40,7 +42,7 @@ struct DtOpenEncoder : DtProbeEncoder
     {
         typedef bool (*Encode)(const DtProbeStateRepository&, DtWireWriter&);
         static const std::map<std::string, Encode> theOperations = {
-#define PROBE(name) {#name, &DtOpenEncoder::encode##name},
+#define PROBE(name, accessor) {#name, &DtOpenEncoder::encode##name},
 #include "probes.h"
 #undef PROBE
         };
@@ -83,6 +85,26 @@ std::string thereAndBack(const std::string& name, const DtValueBuffer& octets)
     return hexOf(given[name]);
 }
 
+std::string valueText(const std::string& name, const DtProbeStateRepository& state)
+{
+    typedef std::string (*Print)(const DtProbeStateRepository&);
+    static const std::map<std::string, Print> thePrinters = {
+#define PROBE(name, accessor) {#name, [](const DtProbeStateRepository& probe) { return printed(probe.accessor()); }},
+#include "probes.h"
+#undef PROBE
+    };
+    return thePrinters.at(name)(state);
+}
+
+std::string decodedValue(const std::string& name, const DtValueBuffer& octets)
+{
+    static const DtProbeDecoder theDecoder;
+    DtProbeStateRepository state;
+    DtAttributeValues taken;
+    taken[name] = octets;
+    return theDecoder.decode(taken, state) ? valueText(name, state) : DtOpenDecoder::refusal(name, octets);
+}
+
 void printStart()
 {
     const DtProbeStateRepository state;
@@ -101,14 +123,17 @@ void printStart()
 }
 } // namespace
 
-int main(int argc, char**)
+int main(int argc, char** argv)
 {
-    if (argc > 1)
+    const std::string mode = argc > 1 ? argv[1] : "";
+    const bool isForValues = mode == "values";
+    if (mode == "start")
         printStart();
-    for (std::string line; argc == 1 && std::getline(std::cin, line);)
+    for (std::string line; mode != "start" && std::getline(std::cin, line);)
     {
         const std::size_t blank = line.find(' ');
         const std::string name = line.substr(0, blank);
-        std::puts((name + ' ' + thereAndBack(name, octetsOf(line.substr(blank + 1)))).c_str());
+        const DtValueBuffer octets = octetsOf(line.substr(blank + 1));
+        std::puts((name + ' ' + (isForValues ? decodedValue(name, octets) : thereAndBack(name, octets))).c_str());
     }
 }

@@ -4,7 +4,12 @@
     crossValues.py values COUNT          random values of each attribute of Probe: its name and the octets
     crossValues.py back COUNT CLASS...   compares such lines, from the standard input, with the octets and the values;
                                          C++ classes that have no encoding have to be refused, by these names
+    crossValues.py read COUNT CLASS...   compares what the accessors gave of such octets, a line each, with the values
     crossValues.py vectors FILE          encodes, decodes and cuts off the values of a list of vectors
+    crossValues.py octets FILE           each vector as its attribute of Probe and the octets, then these cut off behind
+                                         each octet, and with one more
+    crossValues.py answers FILE          compares what comes back of these lines, from the standard input, with the
+                                         octets, and what the accessors give, in as many lines again, with the values
 """
 
 import itertools
@@ -13,6 +18,7 @@ import random
 import sys
 
 import model_codec as codec
+import printedValues
 
 
 def probes():
@@ -88,6 +94,33 @@ def check_back(count, classes, lines):
     return lines + ["%d values" % number]
 
 
+def check_read(count, classes, lines):
+    """A line for each datatype of which a value is read wrongly; and how many values there are."""
+    wrong, number = {}, 0
+    for asked, line in itertools.zip_longest(values(count), lines):
+        if asked is None or line is None:
+            wrong["number of lines"] = "another one"
+            break
+        member, value = asked
+        datatype, content = codec.DATATYPES[member.datatype], codec.plain(member.datatype, value)
+        if not (classes and first_of(classes, datatype, content)):
+            found = read_fault(member, content, line)
+            if found:
+                wrong.setdefault(member.datatype, found)
+        number += 1
+    return ["wrong %s: %s" % fault for fault in wrong.items()] + ["%d values" % number]
+
+
+def read_fault(member, value, line):
+    """What is wrong with the line that was printed for a value in plain form; empty when nothing is."""
+    name, _, text = line.rstrip("\n").partition(" ")
+    if name != member.name:
+        return "the line of " + name
+    if not text or text.startswith("refused"):
+        return text or "no value"
+    return printedValues.fault(codec.DATATYPES[member.datatype], value, json.loads(text))
+
+
 def as_given(value, given):
     """A value in the words of a vector: characters and octets as numbers where these are so."""
     if isinstance(value, dict) and isinstance(given, dict):
@@ -120,19 +153,55 @@ def vector_faults(name, value, octets):
         yield "is taken with an octet too many"
 
 
-def check_vectors(file):
-    count = 0
-    faults = []
+def vectors(file):
+    """Datatype, value and octets of each line."""
     with open(file, encoding="utf-8") as lines:
         for line in lines:
             name, value, digits = line.rstrip("\n").split(" | ")
-            count += 1
-            try:
-                found = list(vector_faults(name, json.loads(value), bytes.fromhex(digits)))
-            except codec.CodecError as error:
-                found = [str(error)]
-            faults += ["%s %s %s" % (name, value, fault) for fault in found]
+            yield name, json.loads(value), bytes.fromhex(digits)
+
+
+def check_vectors(file):
+    count = 0
+    faults = []
+    for name, value, octets in vectors(file):
+        count += 1
+        try:
+            found = list(vector_faults(name, value, octets))
+        except codec.CodecError as error:
+            found = [str(error)]
+        faults += ["%s %s %s" % (name, json.dumps(value), fault) for fault in found]
     return faults, count
+
+
+def asked_octets(file):
+    """Attribute, value and octets of a vector, and the octets that a line asks for: all, too few, too many."""
+    members = {member.datatype: member for member in probes()}
+    for name, value, octets in vectors(file):
+        for length in [len(octets)] + list(range(len(octets))):
+            yield members[name], value, octets, octets[:length]
+        yield members[name], value, octets, octets + b"\x5a"
+
+
+def check_answers(file, lines):
+    """A line for each wrong answer; and how many vectors there are."""
+    asked = list(asked_octets(file))
+    if len(lines) != 2 * len(asked):
+        return ["wrong number of lines: %d" % len(lines)]
+    wrong, count = [], 0
+    for (member, value, octets, part), answer, line in zip(asked, lines, lines[len(asked):]):
+        about = "%s %s" % (member.datatype, octets.hex())
+        answer = answer.partition(" ")[2].rstrip("\n")
+        if part == octets:
+            count += 1
+            found = read_fault(member, value, line)
+            if answer != octets.hex():
+                wrong.append("wrong %s: comes back as %s" % (about, answer))
+            if found:
+                wrong.append("wrong %s: %s" % (about, found))
+        elif not answer.startswith("refused") and not codec.DATATYPES[member.datatype].is_open:
+            wrong.append("wrong %s: taken with %d octets" % (about, len(part)))
+    return wrong + ["%d vectors" % count]
 
 
 def main(command, *arguments):
@@ -143,6 +212,12 @@ def main(command, *arguments):
                  for member, value in values(int(arguments[0]))]
     elif command == "back":
         lines = check_back(int(arguments[0]), arguments[1:], sys.stdin)
+    elif command == "read":
+        lines = check_read(int(arguments[0]), arguments[1:], sys.stdin)
+    elif command == "octets":
+        lines = ["%s %s" % (member.name, part.hex()) for member, _, _, part in asked_octets(arguments[0])]
+    elif command == "answers":
+        lines = check_answers(arguments[0], list(sys.stdin))
     else:
         faults, count = check_vectors(arguments[0])
         lines = ["wrong " + fault for fault in faults] + ["%d vectors, %d failures" % (count, len(faults))]

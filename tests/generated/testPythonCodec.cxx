@@ -10,7 +10,10 @@
 namespace
 {
 const QString theDirectory = QStringLiteral(QX_SOURCE_DIR "/tests/generated");
-const QStringList theRefusedOfTheManagementModel = {"DtHLAhandleList"}; // which the modules are merged with
+const QString theVectors = theDirectory + "/wireVectors.txt";
+// Of the management models, which the modules are merged with.
+const QStringList theRefusedOfTheManagementModel = {"DtHLAhandleList"};
+const QStringList theRefusedOf2025 = {"DtHLAattributeHandleList", "DtHLAinteractionClassHandleList"};
 
 // What becomes of values of the datatypes of a model.
 struct DtExpectedAnswers
@@ -59,12 +62,24 @@ void checkStart(const DtBothSides& sides, const DtExpectedAnswers& expected)
     QCOMPARE(sorted(lines), sorted(expected.notAtTheStart + QStringList{encoded}));
 }
 
+// What the accessors of the generated code give of the octets are the values that these were made of.
+void checkRead(const DtBothSides& sides, const DtExpectedAnswers& expected, const QString& count,
+               const QByteArray& values)
+{
+    const DtPythonRun driver = sides.valuesOf(values);
+    QCOMPARE(driver.exitCode, 0);
+    const DtPythonRun read = sides.python(QStringList{"read", count} + expected.classesRefused, driver.output.toUtf8());
+    QVERIFY2(sorted(faultyDatatypes(read)) == sorted(expected.differentInCxx), qPrintable(read.output.left(4000)));
+    QVERIFY2(read.output.endsWith(QStringLiteral("%1 values\n").arg(values.count('\n'))),
+             qPrintable(read.output.right(1000)));
+}
+
 // Values of the codec come back from the generated code as the same octets and as the same values, but for those that
 // hold what has no encoding there: these are refused for that reason.
 void checkThereAndBack(const DtBothSides& sides, const DtExpectedAnswers& expected, int count)
 {
-    QCOMPARE(sides.python({"refused"}).output.split('\n', Qt::SkipEmptyParts), expected.notInPython);
-    QCOMPARE(sides.classesWithoutEncoding(), expected.classesRefused);
+    QCOMPARE(sides.python({"refused"}).output.trimmed(), expected.notInPython.join('\n'));
+    QCOMPARE(sides.classesWithoutEncoding().join('\n'), expected.classesRefused.join('\n'));
     const QString errors = sides.compile();
     QVERIFY2(errors.isEmpty(), qPrintable(errors));
     checkStart(sides, expected);
@@ -80,6 +95,7 @@ void checkThereAndBack(const DtBothSides& sides, const DtExpectedAnswers& expect
     const int datatypes = sides.datatypes().size() - expected.notInPython.size();
     const QString total = QStringLiteral("%1 values").arg(datatypes * count);
     QVERIFY2(back.output.endsWith(total + '\n'), qPrintable(back.output.right(1000)));
+    checkRead(sides, expected, number, values.output.toUtf8());
     qInfo("%s of %d datatypes", qPrintable(total), datatypes);
 }
 
@@ -100,7 +116,8 @@ class TestPythonCodec : public QObject
 private Q_SLOTS:
     void initTestCase()
     {
-        mySample = std::make_unique<DtBothSides>(QStringList{QStringLiteral(QX_SOURCE_DIR "/data/samples/sample.xml")});
+        mySample = std::make_unique<DtBothSides>(QStringList{QStringLiteral(QX_SOURCE_DIR "/data/samples/sample.xml")},
+                                                 datatypesOfVectors(theVectors));
     }
     void cleanupTestCase() { mySample.reset(); }
 
@@ -108,11 +125,22 @@ private Q_SLOTS:
     {
         if (!hasPython())
             return;
-        const DtPythonRun run = mySample->python({"vectors", theDirectory + "/wireVectors.txt"});
+        const DtPythonRun run = mySample->python({"vectors", theVectors});
         QVERIFY2(run.isGood(), qPrintable(run.output.left(4000)));
-        const int count = readTextFile(theDirectory + "/wireVectors.txt").count('\n');
+        const int count = readTextFile(theVectors).count('\n');
         QVERIFY(count >= 120);
         QCOMPARE(run.output, QStringLiteral("%1 vectors, 0 failures\n").arg(count));
+    }
+
+    void everyVectorIsReadByTheAccessors()
+    {
+        if (!hasPython())
+            return;
+        const QString errors = mySample->compile();
+        QVERIFY2(errors.isEmpty(), qPrintable(errors));
+        const DtPythonRun run = mySample->python({"answers", theVectors}, answersTo(*mySample, theVectors));
+        QVERIFY2(run.isGood(), qPrintable(run.output.left(4000)));
+        QCOMPARE(run.output, QStringLiteral("%1 vectors\n").arg(readTextFile(theVectors).count('\n')));
     }
 
     void faultyVectorsAreNoticed_data()
@@ -218,6 +246,47 @@ private Q_SLOTS:
         expected.classesRefused = theRefusedOfTheManagementModel;
         if (!largeModel().isEmpty() && isFullRunWith(largeModel().front()))
             checkThereAndBack(DtBothSides(largeModel()), expected, 1000);
+    }
+
+    // The smaller models: modules that go together, and models of older formats, which stand alone. Those of NETN use
+    // datatypes of modules that there are in the form of 2010 only.
+    void valuesOfFurtherModelsGoThereAndBack_data()
+    {
+        QTest::addColumn<QStringList>("files");
+        QTest::addColumn<QStringList>("notInPython");
+        QTest::addColumn<QStringList>("notAtTheStart");
+        const QStringList none;
+        QTest::newRow("Restaurant") << words("1516-2010/RestaurantFOMmodule.xml") << none << none;
+        QTest::newRow("sine") << words("1516-2010/SineExample.xml") << none << none;
+        QTest::newRow("Restaurant 2025") << words("1516-2025/RestaurantFOMmodule-2025.xml "
+                                                  "1516-2025/RestaurantExtensionFOMmodule-2025.xml")
+                                         << none << none;
+        QTest::newRow("NETN") << words("1516-2025/NETN-BASE.xml 1516-2025/NETN-MRM.xml")
+                              << words("QuantityInt32 AggregateStateFormationEnum32 DamageStatusEnum32 "
+                                       "ArrayOfSupplyStatus LocationStructArray ArrayOfResourceStatus LocationStruct "
+                                       "GeodeticCircle SupplyStatusStruct ResourceStatusStruct")
+                              << QStringList{"GeodeticCircle refused: the model does not define the datatype",
+                                             "LocationStruct refused: the model does not define the datatype"};
+        QTest::newRow("two levels") << words("1516-2000/TwoLevelClasses.xml") << none << none;
+        QTest::newRow("Restaurant, text") << words("omt13/Restaurant_converted.omt") << none << none;
+    }
+    void valuesOfFurtherModelsGoThereAndBack()
+    {
+        QFETCH(QStringList, files);
+        QFETCH(QStringList, notInPython);
+        QFETCH(QStringList, notAtTheStart);
+        DtExpectedAnswers expected;
+        expected.notInPython = notInPython;
+        expected.notAtTheStart = notAtTheStart;
+        for (QString& file : files)
+            file.prepend(QStringLiteral(QX_SHARED_DIR "/models/"));
+        if (!isFullRunWith(files.front()))
+            return;
+        const bool isOf2025 = files.front().contains("/1516-2025/");
+        const bool isOfModules = isOf2025 || files.front().contains("/1516-2010/");
+        if (isOfModules)
+            expected.classesRefused = isOf2025 ? theRefusedOf2025 : theRefusedOfTheManagementModel;
+        checkThereAndBack(isOfModules ? DtBothSides(files) : DtBothSides(files.front()), expected, 1000);
     }
 
     // What ends with an array without length stands where it cannot in four datatypes. Four more hold several open

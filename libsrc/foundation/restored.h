@@ -11,9 +11,9 @@ class DtRestored
 {
 public:
     explicit DtRestored(Value& variable) : myVariable(variable), myOldValue(variable) {}
-    // Gives the variable another value for the time being.
+    // Gives the variable another value for the time being, which may be the variable itself.
     template <typename NewValue>
-    DtRestored(Value& variable, NewValue&& value) : myVariable(variable), myOldValue(std::move(variable))
+    DtRestored(Value& variable, NewValue&& value) : myVariable(variable), myOldValue(variable)
     {
         myVariable = std::forward<NewValue>(value);
     }

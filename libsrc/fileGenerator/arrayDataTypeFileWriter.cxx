@@ -11,13 +11,15 @@
 
 static DtCCompatibleNames theNames;
 
+static const char theEncodingToken[] = "<!MyEncoding!>";
+
 struct DtArrayDataTypeFileWriter::DtTokens
 {
     using Writer = DtArrayDataTypeFileWriter;
     static const DtTokenTable<Writer>& encoding()
     {
         static const DtTokenRow<Writer> theRows[] = {
-            {"<!MyEncoding!>", [](const Writer& w) { return w.encodingName(); }},
+            {theEncodingToken, [](const Writer& w) { return w.encodingOrToken(); }},
         };
         static const DtTokenTable<Writer> theTable(theRows);
         return theTable;
@@ -37,15 +39,21 @@ struct DtArrayDataTypeFileWriter::DtTokens
         static const DtTokenRow<Writer> theRows[] = {
             {"<!TokenCardinality!>", [](const Writer&) { return DtString("-1"); }},
         };
-        static const DtTokenTable<Writer> theTable(theRows);
+        static const DtTokenTable<Writer> theTable(theRows, [](const Writer& w)
+                                                   { return DtContainsSubstring(w.myOriginalName, "HLAtoken"); });
         return theTable;
     }
 };
 
 DtArrayDataTypeFileWriter::DtArrayDataTypeFileWriter(const DtString& fileName, const DtString& templateName,
                                                      const DtString& encoding)
-    : DtCodedDataTypeFileWriter(fileName, templateName, theNames), myEncoding(encoding)
+    : DtCodedDataTypeFileWriter(fileName, templateName, theNames),
+      myEncoding(encoding),
+      myEncodingTokens(DtTokens::encoding(), this, DtTokenMemory::OneLine),
+      myOwnTokens(DtTokens::own(), this, DtTokenMemory::OneLine),
+      myTokenArrayTokens(DtTokens::ofTokenArray(), this, DtTokenMemory::OneLine)
 {
+    myTokenChain.putAhead({&myEncodingTokens, &myOwnTokens, &myTokenArrayTokens});
 }
 
 void DtArrayDataTypeFileWriter::compileAttributes(DtArrayDatatypeNode* node, DtOMTTree* tree)
@@ -57,27 +65,6 @@ void DtArrayDataTypeFileWriter::compileAttributes(DtArrayDatatypeNode* node, DtO
         makeMember(identifier(name), node->getDatatype(), node->getCardinality())};
     registerNetTypeTraits(name, DtDataTypeMapper::instance()->quorvexType(name), members, tree);
     addCompiled(node, members);
-}
-
-void DtArrayDataTypeFileWriter::decodeOwnTokens(DtString& line)
-{
-    DtTokenValues<DtArrayDataTypeFileWriter> encoding(DtTokens::encoding(), this);
-    DtTokenValues<DtArrayDataTypeFileWriter> own(DtTokens::own(), this);
-    DtTokenValues<DtArrayDataTypeFileWriter> ofTokenArray(DtTokens::ofTokenArray(), this);
-    const bool hasEncoding = !encodingName().isEmpty();
-    if (!hasEncoding && DtContainsSubstring(line, "<!MyEncoding!>"))
-        DtWarn << "Warning: Cannot find cardinality of " << myClassName << std::endl;
-    const bool isTokenArray = DtContainsSubstring(myOriginalName, "HLAtoken");
-    DtExpandTokens(line, {hasEncoding ? &encoding : nullptr, &own, isTokenArray ? &ofTokenArray : nullptr});
-    DtCodedDataTypeFileWriter::decodeOwnTokens(line);
-}
-
-std::vector<const DtTokenIndex*> DtArrayDataTypeFileWriter::ownTokens() const
-{
-    std::vector<const DtTokenIndex*> tokens = DtCodedDataTypeFileWriter::ownTokens();
-    tokens.insert(tokens.end(),
-                  {&DtTokens::encoding().index(), &DtTokens::own().index(), &DtTokens::ofTokenArray().index()});
-    return tokens;
 }
 
 DtString DtArrayDataTypeFileWriter::encodingName() const
@@ -100,6 +87,16 @@ DtString DtArrayDataTypeFileWriter::encodingName() const
     default:
         return DtString();
     }
+}
+
+// The token stays in a line where nothing tells the encoding.
+DtString DtArrayDataTypeFileWriter::encodingOrToken() const
+{
+    const DtString name = encodingName();
+    if (!name.isEmpty())
+        return name;
+    DtWarn << "Warning: Cannot find cardinality of " << myClassName << std::endl;
+    return theEncodingToken;
 }
 
 const DtArrayDatatypeNode* DtArrayDataTypeFileWriter::currentNode() const

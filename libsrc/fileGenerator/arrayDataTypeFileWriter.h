@@ -16,21 +16,22 @@ public:
 
     virtual void compileAttributes(DtArrayDatatypeNode* node, DtOMTTree* tree);
 
-protected:
-    void decodeOwnTokens(DtString& line) override;
-    std::vector<const DtTokenIndex*> ownTokens() const override;
-
 private:
     struct DtTokens;
 
     // The given encoding, or else that of the kind of the array that is current or the first; empty when there is none.
     DtString encodingName() const;
+    DtString encodingOrToken() const; // after a warning, the token
     // The array that is current, or the first; null when there is none.
     const DtArrayDatatypeNode* currentNode() const;
     DtString currentCardinality() const;
     DtString currentEncoding() const; // as the model names it
 
     DtString myEncoding;
+
+    DtTokenValues<DtArrayDataTypeFileWriter> myEncodingTokens;
+    DtTokenValues<DtArrayDataTypeFileWriter> myOwnTokens;
+    DtTokenValues<DtArrayDataTypeFileWriter> myTokenArrayTokens;
 };
 
 #endif

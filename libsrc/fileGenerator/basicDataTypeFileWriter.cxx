@@ -14,7 +14,7 @@ struct DtBasicDataTypeFileWriter::DtTokens
         static const DtTokenRow<Writer> theRows[] = {
             {"<!BasicSize!>", [](const Writer& w) { return w.sizeOfAttribute(); }},
         };
-        static const DtTokenTable<Writer> theTable(theRows);
+        static const DtTokenTable<Writer> theTable(theRows, [](const Writer& w) { return hasCurrentAttribute(w); });
         return theTable;
     }
     static const DtTokenTable<Writer>& own()
@@ -30,28 +30,16 @@ struct DtBasicDataTypeFileWriter::DtTokens
 };
 
 DtBasicDataTypeFileWriter::DtBasicDataTypeFileWriter(const DtString& fileName, const DtString& templateName)
-    : DtPrimitiveDataTypeFileWriter(fileName, templateName, theNames)
+    : DtPrimitiveDataTypeFileWriter(fileName, templateName, theNames),
+      myMemberTokens(DtTokens::ofAttribute(), this, DtTokenMemory::OneLine),
+      myOwnTokens(DtTokens::own(), this, DtTokenMemory::OneLine)
 {
+    myTokenChain.putAhead({&myMemberTokens, &myOwnTokens});
 }
 
 void DtBasicDataTypeFileWriter::compileAttributes(DtBasicDataRepresentationNode* node)
 {
     compilePrimitive(node, node->getName());
-}
-
-void DtBasicDataTypeFileWriter::decodeOwnTokens(DtString& line)
-{
-    DtTokenValues<DtBasicDataTypeFileWriter> ofAttribute(DtTokens::ofAttribute(), this);
-    DtTokenValues<DtBasicDataTypeFileWriter> own(DtTokens::own(), this);
-    DtExpandTokens(line, {currentAttribute() != nullptr ? &ofAttribute : nullptr, &own});
-    DtPrimitiveDataTypeFileWriter::decodeOwnTokens(line);
-}
-
-std::vector<const DtTokenIndex*> DtBasicDataTypeFileWriter::ownTokens() const
-{
-    std::vector<const DtTokenIndex*> tokens = DtPrimitiveDataTypeFileWriter::ownTokens();
-    tokens.insert(tokens.end(), {&DtTokens::ofAttribute().index(), &DtTokens::own().index()});
-    return tokens;
 }
 
 DtDataTypeMapper::DtBasicTypeInfo DtBasicDataTypeFileWriter::basicInfo() const

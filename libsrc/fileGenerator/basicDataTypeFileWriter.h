@@ -14,16 +14,15 @@ public:
 
     virtual void compileAttributes(DtBasicDataRepresentationNode* node);
 
-protected:
-    void decodeOwnTokens(DtString& line) override;
-    std::vector<const DtTokenIndex*> ownTokens() const override;
-
 private:
     struct DtTokens;
 
     // Size and byte order of the basic type that is current, or else of the first one compiled.
     DtDataTypeMapper::DtBasicTypeInfo basicInfo() const;
     DtString sizeOfAttribute() const;
+
+    DtTokenValues<DtBasicDataTypeFileWriter> myMemberTokens;
+    DtTokenValues<DtBasicDataTypeFileWriter> myOwnTokens;
 };
 
 #endif

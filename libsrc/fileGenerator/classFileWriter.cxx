@@ -137,12 +137,6 @@ DtString withoutRoot(const DtString& name, std::string_view root, std::string_vi
     return name.startsWith(DtString(std::string(standardRoot))) ? withoutPrefix(name, standardRoot) : name;
 }
 
-void addTokens(std::vector<DtString>& tokens, const DtTokenIndex& index)
-{
-    for (int row = 0; row < index.size(); ++row)
-        tokens.emplace_back(std::string(index.token(row)));
-}
-
 } // namespace
 
 // Rows run top to bottom, and a later row sees what an earlier one put in: their order shows in the output.
@@ -226,7 +220,7 @@ const DtClassFileWriter::DtTokens::Table& DtClassFileWriter::DtTokens::attribute
         {"<!AttributeIsNamesake!>",               OF_ATTRIBUTE(flag(DtDatatypeClassNames::instance().isNamesake(a.datatype())))},
         {"<!AttributeLayout!>",                   OF_ATTRIBUTE(valueFormOf(a).layout)},
     };
-    static const Table theTable(theRows);
+    static const Table theTable(theRows, [](const Writer& w) { return w.myCurrentAttribute != nullptr; });
     return theTable;
 }
 
@@ -295,7 +289,7 @@ const DtClassFileWriter::DtTokens::Table& DtClassFileWriter::DtTokens::modules()
         {"<!FedFileName!>", [](const Writer& w) { return w.myOmtProject.fomDefFiles().front().first; }},
         {"<!FomModule!>",   [](const Writer& w) { return w.myCurrentFomModule; }},
     };
-    static const Table theTable(theRows);
+    static const Table theTable(theRows, [](const Writer& w) { return !w.myOmtProject.fomDefFiles().empty(); });
     return theTable;
 }
 
@@ -305,7 +299,7 @@ const DtClassFileWriter::DtTokens::Table& DtClassFileWriter::DtTokens::encoding(
         {"<!AttributeEncoding!>",     OF_ATTRIBUTE(encodingOf(a))},
         {"<!AttributeWireEncoding!>", OF_ATTRIBUTE(valueFormOf(a).encoding)},
     };
-    static const Table theTable(theRows);
+    static const Table theTable(theRows, [](const Writer& w) { return w.myCurrentAttribute != nullptr; });
     return theTable;
 }
 // clang-format on
@@ -333,6 +327,7 @@ DtClassFileWriter::DtClassFileWriter(const DtString& fileName, const DtString& t
       myModuleTokens(DtTokens::modules(), this),
       myEncodingToken(DtTokens::encoding(), this)
 {
+    myTokenChain.putAhead({&myBoundaryToken, &myAttributeTokens, &myClassTokens, &myModuleTokens, &myEncodingToken});
 }
 
 DtClassFileWriter::~DtClassFileWriter() = default;
@@ -341,10 +336,7 @@ void DtClassFileWriter::decodeFileLine(DtString& line)
 {
     if (!myLongNamesAreNumbered)
         numberLongNames();
-    const bool hasAttribute = myCurrentAttribute != nullptr;
-    const bool hasModules = !myOmtProject.fomDefFiles().empty();
-    expandTokens(line, {&myBoundaryToken, hasAttribute ? &myAttributeTokens : nullptr, &myClassTokens,
-                        hasModules ? &myModuleTokens : nullptr, hasAttribute ? &myEncodingToken : nullptr});
+    DtFileWriter::decodeFileLine(line);
 }
 
 void DtClassFileWriter::writeMultipleTimes(const DtString& loopName, std::istream& stream)
@@ -472,16 +464,6 @@ DtString DtClassFileWriter::identifierOf(const DtString& name)
 DtAccessorNames DtClassFileWriter::accessorNamesOf(const DtString& attribute, DtCCompatibleNames& names)
 {
     return {lowerAttributeName(attribute, names), upperAttributeName(attribute, names)};
-}
-
-std::vector<DtString> DtClassFileWriter::knownTokens() const
-{
-    std::vector<DtString> tokens;
-    for (const DtTokenSource* source : std::initializer_list<const DtTokenSource*>{
-             &myBoundaryToken, &myAttributeTokens, &myClassTokens, &myModuleTokens, &myEncodingToken})
-        addTokens(tokens, source->index());
-    addTokens(tokens, baseTokenIndex());
-    return tokens;
 }
 
 void DtClassFileWriter::setCurrentAttribute(const DtAttribute* attribute)

@@ -30,8 +30,8 @@ public:
     DtClassFileWriter(const DtString& fileName, const DtString& templateName);
     ~DtClassFileWriter() override;
 
-    // Replaces the tokens in the order of the tables; a value that holds a token of a later row is expanded too.
-    // Attribute tokens stay in the line while no attribute is current.
+    // Gives long names their numbers ahead of the pass. Attribute tokens stay in the line while no attribute is
+    // current.
     void decodeFileLine(DtString& line) override;
     // Knows "IncludeFiles", "NamesakeIncludeFiles" (the headers of generated types that are called like types of the
     // toolkit), "Attributes" (which must not stand inside itself) and "FomModules".
@@ -67,8 +67,6 @@ public:
     static DtString identifierOf(const DtString& name);
     // Long names are numbered by the caller's names: only a template line numbers those of generated code.
     static DtAccessorNames accessorNamesOf(const DtString& attribute, DtCCompatibleNames& names);
-    // Every token that the writer replaces, in the order of replacement; those of DtFileWriter come last.
-    virtual std::vector<DtString> knownTokens() const;
 
 protected:
     // The attribute whose tokens are replaced, one of myAttributes; null outside the "Attributes" loop.

@@ -20,6 +20,13 @@ struct DtCodedDataTypeFileWriter::DtTokens
     }
 };
 
+DtCodedDataTypeFileWriter::DtCodedDataTypeFileWriter(const DtString& fileName, const DtString& templateName,
+                                                     DtCCompatibleNames& names)
+    : DtDataTypeFileWriter(fileName, templateName, names), myOwnTokens(DtTokens::own(), this, DtTokenMemory::OneLine)
+{
+    myTokenChain.putAhead({&myOwnTokens});
+}
+
 void DtCodedDataTypeFileWriter::determineDecodeability()
 {
     const DtString className = myClassName;
@@ -63,17 +70,6 @@ int DtCodedDataTypeFileWriter::addTypeFromArrayTypeList(const DtEnvObject* entry
 void DtCodedDataTypeFileWriter::resetPlusAttributeCounts()
 {
     myPlusAttributeCounts.clear();
-}
-
-void DtCodedDataTypeFileWriter::decodeOwnTokens(DtString& line)
-{
-    DtTokenValues<DtCodedDataTypeFileWriter> own(DtTokens::own(), this);
-    DtExpandTokens(line, {&own});
-}
-
-std::vector<const DtTokenIndex*> DtCodedDataTypeFileWriter::ownTokens() const
-{
-    return {&DtTokens::own().index()};
 }
 
 // One value has room for a single length on the wire. A type can be marked and warned about for both causes; those that

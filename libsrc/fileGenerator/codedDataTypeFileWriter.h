@@ -15,7 +15,7 @@ class DtEnvObject;
 class DtCodedDataTypeFileWriter : public DtDataTypeFileWriter
 {
 public:
-    using DtDataTypeFileWriter::DtDataTypeFileWriter;
+    DtCodedDataTypeFileWriter(const DtString& fileName, const DtString& templateName, DtCCompatibleNames& names);
 
     // Goes through the compiled datatypes, warns about those that cannot be encoded and marks them in the mapper.
     void determineDecodeability() override;
@@ -26,10 +26,6 @@ public:
 
     static void resetPlusAttributeCounts();
 
-protected:
-    void decodeOwnTokens(DtString& line) override;
-    std::vector<const DtTokenIndex*> ownTokens() const override;
-
 private:
     struct DtTokens;
 
@@ -37,6 +33,8 @@ private:
     static int plusCount(const DtString& type);
 
     static std::map<DtString, int> myPlusAttributeCounts; // class name to open attributes, nested ones included
+
+    DtTokenValues<DtCodedDataTypeFileWriter> myOwnTokens;
 };
 
 #endif

@@ -86,14 +86,17 @@ struct DtComplexDataTypeFileWriter::DtTokens
              [](const Writer& w) -> DtString { return isBasicType(*w.currentAttribute()) ? "1" : ""; }                  },
             {"<!OctetBoundary!>",          [](const Writer& w) { return boundaryOf(*w.currentAttribute()); }            },
         };
-        static const DtTokenTable<Writer> theTable(theRows);
+        static const DtTokenTable<Writer> theTable(theRows, [](const Writer& w) { return hasCurrentAttribute(w); });
         return theTable;
     }
 };
 
 DtComplexDataTypeFileWriter::DtComplexDataTypeFileWriter(const DtString& fileName, const DtString& templateName)
-    : DtDataTypeFileWriter(fileName, templateName, theNames)
+    : DtDataTypeFileWriter(fileName, templateName, theNames),
+      myOwnTokens(DtTokens::own(), this, DtTokenMemory::OneLine),
+      myMemberTokens(DtTokens::ofAttribute(), this, DtTokenMemory::OneLine)
 {
+    myTokenChain.putAhead({&myOwnTokens, &myMemberTokens});
 }
 
 void DtComplexDataTypeFileWriter::writeMultipleTimes(const DtString& loopName, std::istream& stream)
@@ -133,18 +136,6 @@ void DtComplexDataTypeFileWriter::compileArrayIncludeList()
         }
     }
     myArrayIncludeFiles.unique();
-}
-
-void DtComplexDataTypeFileWriter::decodeOwnTokens(DtString& line)
-{
-    DtTokenValues<DtComplexDataTypeFileWriter> own(DtTokens::own(), this);
-    DtTokenValues<DtComplexDataTypeFileWriter> ofAttribute(DtTokens::ofAttribute(), this);
-    DtExpandTokens(line, {&own, currentAttribute() != nullptr ? &ofAttribute : nullptr});
-}
-
-std::vector<const DtTokenIndex*> DtComplexDataTypeFileWriter::ownTokens() const
-{
-    return {&DtTokens::own().index(), &DtTokens::ofAttribute().index()};
 }
 
 void DtComplexDataTypeFileWriter::writeArrayIncludeFiles(std::istream& stream)

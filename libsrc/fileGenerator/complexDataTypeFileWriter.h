@@ -21,10 +21,6 @@ public:
     // Fills the list of the "ArrayIncludeFiles" loop in component order, dropping neighbours that are alike.
     virtual void compileArrayIncludeList();
 
-protected:
-    void decodeOwnTokens(DtString& line) override;
-    std::vector<const DtTokenIndex*> ownTokens() const override;
-
 private:
     struct DtTokens;
 
@@ -33,6 +29,9 @@ private:
 
     std::list<DtString> myArrayIncludeFiles;
     DtString myCurrentArrayInclude;
+
+    DtTokenValues<DtComplexDataTypeFileWriter> myOwnTokens;
+    DtTokenValues<DtComplexDataTypeFileWriter> myMemberTokens;
 };
 
 #endif

@@ -3,9 +3,6 @@
 
 #include "fileGenerator/recordWriter.h"
 
-// Puts the hand-written text for a member into a line, or empties the condition when there is none (a null text): then
-// the output token stays, for the template's conditional to leave out.
-void DtReplaceCustomGeneration(DtString& line, const DtString* text);
 // The lines of a file, each with a line end; empty when it cannot be read.
 DtString DtCustomGenerationText(const DtString& fileName);
 
@@ -17,25 +14,12 @@ template <const DtWriterRow& theRow, typename Holder, DtString DtOmtProject::DtC
 class DtCustomGenerationWriter : public DtRecordWriter<theRow, Holder>
 {
 public:
-    using DtRecordWriter<theRow, Holder>::DtRecordWriter;
-
-    void decodeFileLine(DtString& line) override
+    DtCustomGenerationWriter(const DtString& fileName, const DtString& templateName,
+                             const typename Holder::Record& record)
+        : DtRecordWriter<theRow, Holder>(fileName, templateName, record),
+          myCustomTokens(table(), this, DtTokenMemory::OneLine)
     {
-        DtRecordWriter<theRow, Holder>::decodeFileLine(line);
-        const DtAttribute* attribute = this->currentAttribute();
-        if (attribute == nullptr || line.findString("<!CUSTOMGENERATION") >= line.length())
-            return;
-        const DtString key = this->record().fullName() + "." + this->member(attribute->name()).name();
-        DtOmtProject::DtCodingPair coding;
-        const bool isCustom = this->omtProject().customCodingsFromName(key, coding);
-        DtReplaceCustomGeneration(line, isCustom ? &(coding.*theText) : nullptr);
-    }
-
-    std::vector<DtString> knownTokens() const override
-    {
-        std::vector<DtString> tokens = DtRecordWriter<theRow, Holder>::knownTokens();
-        tokens.insert(tokens.end(), {"<!CUSTOMGENERATION!>", "<!CUSTOMGENERATIONOUTPUT!>"});
-        return tokens;
+        this->myTokenChain.putBehind(myCustomTokens);
     }
 
     // Text of the file that the member's record names. For users of the class; generation takes the project's text.
@@ -43,6 +27,45 @@ public:
     {
         return DtCustomGenerationText(this->member(attribute.name()).customGenerationRef());
     }
+
+private:
+    using Writer = DtCustomGenerationWriter;
+
+    // Without a text of the project, the token of the output stays, for the template's conditional to leave out.
+    static const DtTokenTable<Writer>& table()
+    {
+        static const DtTokenRow<Writer> theRows[] = {
+            {"<!CUSTOMGENERATION!>", [](const Writer& w) { return DtString(w.hasCustomText() ? "1" : ""); }},
+            {theOutputToken,
+             [](const Writer& w) { return w.hasCustomText() ? w.customText() : DtString(theOutputToken); } },
+        };
+        static const DtTokenTable<Writer> theTable(theRows,
+                                                   [](const Writer& w) { return w.currentAttribute() != nullptr; });
+        return theTable;
+    }
+    bool findText(DtString& text) const
+    {
+        const DtString key = this->record().fullName() + "." + this->member(this->currentAttribute()->name()).name();
+        DtOmtProject::DtCodingPair coding;
+        const bool isCustom = this->omtProject().customCodingsFromName(key, coding);
+        text = coding.*theText;
+        return isCustom;
+    }
+    bool hasCustomText() const
+    {
+        DtString text;
+        return findText(text);
+    }
+    DtString customText() const
+    {
+        DtString text;
+        findText(text);
+        return text;
+    }
+
+    static constexpr const char* theOutputToken = "<!CUSTOMGENERATIONOUTPUT!>";
+
+    DtTokenValues<Writer> myCustomTokens;
 };
 
 #endif

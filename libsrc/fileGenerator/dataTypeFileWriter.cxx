@@ -9,23 +9,28 @@
 
 #include <algorithm>
 
+struct DtDataTypeFileWriter::DtTokens
+{
+    using Writer = DtDataTypeFileWriter;
+    static const DtTokenTable<Writer>& head()
+    {
+        static const DtTokenRow<Writer> theRows[] = {
+            {"<!MyHeaderInclude!>", [](const Writer& w) { return w.myFileStem + ".h"; }},
+            {"<!ClassIdentifier!>", [](const Writer& w) { return w.classIdentifier(); }},
+        };
+        static const DtTokenTable<Writer> theTable(theRows);
+        return theTable;
+    }
+};
+
 DtDataTypeFileWriter::DtDataTypeFileWriter(const DtString& fileName, const DtString& templateName,
                                            DtCCompatibleNames& names)
     : DtClassFileWriter(fileName, templateName),
       myIsXmlModel(DtFilename(DtSettings::instance().cpp.fomDefinitionFileName).extension() == "xml"),
-      myNames(names)
+      myNames(names),
+      myHeadTokens(DtTokens::head(), this, DtTokenMemory::OneLine)
 {
-}
-
-void DtDataTypeFileWriter::decodeFileLine(DtString& line)
-{
-    if (DtHasToken(line))
-    {
-        line = DtReplaceAllSubstrings(line, "<!MyHeaderInclude!>", myFileStem + ".h");
-        line = DtReplaceAllSubstrings(line, "<!ClassIdentifier!>", classIdentifier());
-        decodeOwnTokens(line);
-    }
-    DtClassFileWriter::decodeFileLine(line);
+    myTokenChain.putAhead({&myHeadTokens});
 }
 
 void DtDataTypeFileWriter::writeMultipleTimes(const DtString& loopName, std::istream& stream)
@@ -55,30 +60,8 @@ void DtDataTypeFileWriter::compileIncludeList()
     myIncludeFiles.unique();
 }
 
-std::vector<DtString> DtDataTypeFileWriter::knownTokens() const
-{
-    std::vector<DtString> tokens = {"<!MyHeaderInclude!>", "<!ClassIdentifier!>"};
-    for (const DtTokenIndex* index : ownTokens())
-    {
-        for (int row = 0; row < index->size(); ++row)
-            tokens.emplace_back(std::string(index->token(row)));
-    }
-    const std::vector<DtString> ofClass = DtClassFileWriter::knownTokens();
-    tokens.insert(tokens.end(), ofClass.begin(), ofClass.end());
-    return tokens;
-}
-
 void DtDataTypeFileWriter::determineDecodeability()
 {
-}
-
-void DtDataTypeFileWriter::decodeOwnTokens(DtString& /*line*/)
-{
-}
-
-std::vector<const DtTokenIndex*> DtDataTypeFileWriter::ownTokens() const
-{
-    return {};
 }
 
 bool DtDataTypeFileWriter::isCompiled(const DtOMTNode& node) const

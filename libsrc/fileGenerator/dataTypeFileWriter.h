@@ -22,20 +22,17 @@ public:
     // names: the identifier names of the family's own source file.
     DtDataTypeFileWriter(const DtString& fileName, const DtString& templateName, DtCCompatibleNames& names);
 
-    void decodeFileLine(DtString& line) override;
     void writeMultipleTimes(const DtString& loopName, std::istream& stream) override;
     // The headers of the members of all compiled datatypes, without those of the datatypes themselves.
     void compileIncludeList() override;
-    std::vector<DtString> knownTokens() const override;
     // Finds the compiled datatypes that no encoder can be written for and marks them in the mapper. Here: none.
     virtual void determineDecodeability();
 
 protected:
     using DtCompiledDatatype = std::pair<DtOMTNode*, std::vector<DtAttribute>>;
 
-    // Own tokens of a family, ahead of the class pass; called for lines that hold "<!" only.
-    virtual void decodeOwnTokens(DtString& line);
-    virtual std::vector<const DtTokenIndex*> ownTokens() const;
+    // While one is, the tokens of members count.
+    static bool hasCurrentAttribute(const DtDataTypeFileWriter& writer) { return writer.currentAttribute() != nullptr; }
     // Is the target name among those already compiled?
     bool isCompiled(const DtOMTNode& node) const;
     void addCompiled(DtOMTNode* node, std::vector<DtAttribute> attributes);
@@ -51,12 +48,15 @@ protected:
     bool myIsXmlModel;
 
 private:
+    struct DtTokens;
+
     void writeClassDatatypes(std::istream& stream);
     // The C++ name of the current class.
     DtString classIdentifier() const;
     bool isOwnClass(const DtString& type) const;
 
     DtCCompatibleNames& myNames;
+    DtTokenValues<DtDataTypeFileWriter> myHeadTokens;
 };
 
 #endif

@@ -85,16 +85,51 @@ void warnOfUnfit(const DtEnumeration& enumeration, const DtNumberForm& form)
 
 } // namespace
 
-DtEnumerationFileWriter::DtEnumerationFileWriter(const DtString& fileName)
-    : DtFileWriter(fileName, "../data/templates/enums.tlt")
+struct DtEnumerationFileWriter::DtTokens
 {
-}
+    using Writer = DtEnumerationFileWriter;
+    static DtString flag(bool isSet) { return isSet ? "1" : "0"; }
+    static const DtTokenTable<Writer>& ofEnumeration()
+    {
+        static const DtTokenRow<Writer> theRows[] = {
+            {"<!EnumerationName!>",           [](const Writer& w) { return w.createEnumerationName(*w.myCurrentEnumeration); }},
+            {"<!EnumerationTypeName!>",       [](const Writer& w) { return w.currentNames().type; }                           },
+            {"<!EnumerationIsRepeated!>",
+             [](const Writer& w) { return DtString(w.currentNames().isRepeated ? "1" : ""); }                                 },
+            {"<!EnumerationOctets!>",         [](const Writer& w) { return DtString(w.currentNames().numberForm.octets); }    },
+            {"<!EnumerationIsSigned!>",       [](const Writer& w) { return flag(w.currentNames().numberForm.isSigned); }      },
+            {"<!EnumerationIsLittleEndian!>",
+             [](const Writer& w) { return flag(w.currentNames().numberForm.isLittleEndian); }                                 },
+        };
+        static const DtTokenTable<Writer> theTable(theRows,
+                                                   [](const Writer& w) { return w.myCurrentEnumeration != nullptr; });
+        return theTable;
+    }
+    static const DtTokenTable<Writer>& ofField()
+    {
+        static const DtTokenRow<Writer> theRows[] = {
+            {"<!EnumerationFieldName!>",
+             [](const Writer& w)
+             {
+                 const DtString enumeration = w.createEnumerationName(*w.myCurrentEnumeration);
+                 return w.createEnumerationValueName(enumeration, *w.myCurrentValue);
+             }                                                                                                      },
+            {"<!EnumerationFieldIdentifier!>", [](const Writer& w) { return w.currentIdentifier(); }                },
+            {"<!EnumerationFieldText!>",       [](const Writer& w) { return literalText(w.myCurrentValue->name()); }},
+            {"<!EnumerationFieldValue!>",      [](const Writer& w) { return w.myCurrentValue->val(); }              },
+        };
+        static const DtTokenTable<Writer> theTable(theRows,
+                                                   [](const Writer& w) { return w.myCurrentValue != nullptr; });
+        return theTable;
+    }
+};
 
-void DtEnumerationFileWriter::decodeFileLine(DtString& line)
+DtEnumerationFileWriter::DtEnumerationFileWriter(const DtString& fileName)
+    : DtFileWriter(fileName, "../data/templates/enums.tlt"),
+      myEnumerationTokens(DtTokens::ofEnumeration(), this),
+      myFieldTokens(DtTokens::ofField(), this)
 {
-    if (DtHasToken(line))
-        decodeEnumerationTokens(line);
-    DtFileWriter::decodeFileLine(line);
+    myTokenChain.putAhead({&myEnumerationTokens, &myFieldTokens});
 }
 
 void DtEnumerationFileWriter::writeMultipleTimes(const DtString& loopName, std::istream& stream)
@@ -160,14 +195,6 @@ DtString DtEnumerationFileWriter::cleanedValueName(const DtString& name)
     return result;
 }
 
-std::vector<DtString> DtEnumerationFileWriter::knownTokens()
-{
-    return {"<!EnumerationName!>",      "<!EnumerationTypeName!>",        "<!EnumerationIsRepeated!>",
-            "<!EnumerationOctets!>",    "<!EnumerationIsSigned!>",        "<!EnumerationIsLittleEndian!>",
-            "<!EnumerationFieldName!>", "<!EnumerationFieldIdentifier!>", "<!EnumerationFieldText!>",
-            "<!EnumerationFieldValue!>"};
-}
-
 DtEnumerationFileWriter::DtNames DtEnumerationFileWriter::makeNames(const DtEnumeration& enumeration)
 {
     DtNames names;
@@ -191,32 +218,14 @@ DtEnumerationFileWriter::DtNames DtEnumerationFileWriter::makeNames(const DtEnum
     return names;
 }
 
-void DtEnumerationFileWriter::decodeEnumerationTokens(DtString& line) const
+const DtEnumerationFileWriter::DtNames& DtEnumerationFileWriter::currentNames() const
 {
-    if (myCurrentEnumeration == nullptr)
-        return;
-    const DtNames& names = myNames[static_cast<std::size_t>(myCurrentEnumeration - myEnumerations.data())];
-    const DtNumberForm& form = names.numberForm;
-    line = DtReplaceAllSubstrings(line, "<!EnumerationName!>", createEnumerationName(*myCurrentEnumeration));
-    line = DtReplaceAllSubstrings(line, "<!EnumerationTypeName!>", names.type);
-    line = DtReplaceAllSubstrings(line, "<!EnumerationIsRepeated!>", names.isRepeated ? "1" : "");
-    line = DtReplaceAllSubstrings(line, "<!EnumerationOctets!>", DtString(form.octets));
-    line = DtReplaceAllSubstrings(line, "<!EnumerationIsSigned!>", form.isSigned ? "1" : "0");
-    line = DtReplaceAllSubstrings(line, "<!EnumerationIsLittleEndian!>", form.isLittleEndian ? "1" : "0");
-    if (myCurrentEnumerationValue != nullptr)
-        decodeValueTokens(line, *myCurrentEnumeration, names);
+    return myNames[static_cast<std::size_t>(myCurrentEnumeration - myEnumerations.data())];
 }
 
-void DtEnumerationFileWriter::decodeValueTokens(DtString& line, const DtEnumeration& enumeration,
-                                                const DtNames& names) const
+const DtString& DtEnumerationFileWriter::currentIdentifier() const
 {
-    const DtEnumerationValue& value = *myCurrentEnumerationValue;
-    const auto place = static_cast<std::size_t>(&value - enumeration.vals().data());
-    const DtString name = createEnumerationValueName(createEnumerationName(enumeration), value);
-    line = DtReplaceAllSubstrings(line, "<!EnumerationFieldName!>", name);
-    line = DtReplaceAllSubstrings(line, "<!EnumerationFieldIdentifier!>", names.identifiers[place]);
-    line = DtReplaceAllSubstrings(line, "<!EnumerationFieldText!>", literalText(value.name()));
-    line = DtReplaceAllSubstrings(line, "<!EnumerationFieldValue!>", value.val());
+    return currentNames().identifiers[static_cast<std::size_t>(myCurrentValue - myCurrentEnumeration->vals().data())];
 }
 
 void DtEnumerationFileWriter::writeEnumerations(std::istream& stream)
@@ -225,6 +234,7 @@ void DtEnumerationFileWriter::writeEnumerations(std::istream& stream)
     for (const DtEnumeration& enumeration : myEnumerations)
     {
         myCurrentEnumeration = &enumeration;
+        myEnumerationTokens.clear();
         writeBodyFrom(stream, start);
     }
     myCurrentEnumeration = nullptr;
@@ -238,8 +248,9 @@ void DtEnumerationFileWriter::writeFields(std::istream& stream)
     const std::streampos start = stream.tellg();
     for (const DtEnumerationValue& value : myCurrentEnumeration->vals())
     {
-        myCurrentEnumerationValue = &value;
+        myCurrentValue = &value;
+        myFieldTokens.clear();
         writeBodyFrom(stream, start);
     }
-    myCurrentEnumerationValue = nullptr;
+    myCurrentValue = nullptr;
 }

@@ -50,7 +50,6 @@ class DtEnumerationFileWriter : public DtFileWriter
 public:
     explicit DtEnumerationFileWriter(const DtString& fileName);
 
-    void decodeFileLine(DtString& line) override;
     // Knows "Enumeration" and, inside it, "EnumerationField".
     void writeMultipleTimes(const DtString& loopName, std::istream& stream) override;
 
@@ -64,10 +63,10 @@ public:
 
     // The enumerator's name without / # - < > and &.
     static DtString cleanedValueName(const DtString& name);
-    // The tokens that this class adds to those of its base.
-    static std::vector<DtString> knownTokens();
 
 private:
+    struct DtTokens;
+
     // What an enumeration is called in generated code.
     struct DtNames
     {
@@ -78,16 +77,18 @@ private:
     };
 
     DtNames makeNames(const DtEnumeration& enumeration);
-    void decodeEnumerationTokens(DtString& line) const;
-    void decodeValueTokens(DtString& line, const DtEnumeration& enumeration, const DtNames& names) const;
+    const DtNames& currentNames() const;       // while an enumeration is current
+    const DtString& currentIdentifier() const; // while an enumerator is
     void writeEnumerations(std::istream& stream);
     void writeFields(std::istream& stream);
 
     std::vector<DtEnumeration> myEnumerations;
-    const DtEnumeration* myCurrentEnumeration = nullptr;           // null outside "Enumeration"
-    const DtEnumerationValue* myCurrentEnumerationValue = nullptr; // null outside "EnumerationField"
-    std::vector<DtNames> myNames;                                  // of the enumerations, in their order
+    const DtEnumeration* myCurrentEnumeration = nullptr; // null outside "Enumeration"
+    const DtEnumerationValue* myCurrentValue = nullptr;  // null outside "EnumerationField"
+    std::vector<DtNames> myNames;                        // of the enumerations, in their order
     std::set<DtString> myTypeNames;
+    DtTokenValues<DtEnumerationFileWriter> myEnumerationTokens;
+    DtTokenValues<DtEnumerationFileWriter> myFieldTokens;
 };
 
 #endif

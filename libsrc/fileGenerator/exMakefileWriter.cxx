@@ -3,6 +3,7 @@
 DtExamplesMakefileWriter::DtExamplesMakefileWriter(const DtString& fileName)
     : DtFileWriter(fileName, "../data/templates/exMakefile.tlt"), myTokens(table(), this)
 {
+    myTokenChain.putAhead({&myTokens});
 }
 
 const DtTokenTable<DtExamplesMakefileWriter>& DtExamplesMakefileWriter::table()
@@ -14,16 +15,6 @@ const DtTokenTable<DtExamplesMakefileWriter>& DtExamplesMakefileWriter::table()
     };
     static const DtTokenTable<DtExamplesMakefileWriter> theTable(theRows);
     return theTable;
-}
-
-std::vector<DtString> DtExamplesMakefileWriter::knownTokens()
-{
-    return {"<!LibName!>", "<!GenerateDis!>"};
-}
-
-void DtExamplesMakefileWriter::decodeFileLine(DtString& line)
-{
-    expandTokens(line, {&myTokens});
 }
 
 void DtExamplesMakefileWriter::setLibraryName(const DtString& name)

@@ -11,13 +11,8 @@ class DtExamplesMakefileWriter : public DtFileWriter
 public:
     explicit DtExamplesMakefileWriter(const DtString& fileName);
 
-    void decodeFileLine(DtString& line) override;
-
     virtual void setLibraryName(const DtString& name);
     virtual void setGenerateDis(bool generate);
-
-    // The tokens that this class adds to those of its base.
-    static std::vector<DtString> knownTokens();
 
 private:
     static const DtTokenTable<DtExamplesMakefileWriter>& table();

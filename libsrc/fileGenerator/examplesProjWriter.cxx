@@ -6,6 +6,7 @@ DtExamplesProjectFileWriter::DtExamplesProjectFileWriter(const DtString& fileNam
       myNode(withIdentifiers(node)),
       myTokens(table(), this)
 {
+    myTokenChain.putAhead({&myTokens});
 }
 
 const DtOmtNode& DtExamplesProjectFileWriter::withIdentifiers(const DtOmtNode& node)
@@ -26,20 +27,6 @@ const DtTokenTable<DtExamplesProjectFileWriter>& DtExamplesProjectFileWriter::ta
     };
     static const DtTokenTable<DtExamplesProjectFileWriter> theTable(theRows);
     return theTable;
-}
-
-std::vector<DtString> DtExamplesProjectFileWriter::knownTokens()
-{
-    std::vector<DtString> tokens;
-    tokens.reserve(static_cast<std::size_t>(table().index().size()));
-    for (int row = 0; row < table().index().size(); ++row)
-        tokens.emplace_back(std::string(table().index().token(row)));
-    return tokens;
-}
-
-void DtExamplesProjectFileWriter::decodeFileLine(DtString& line)
-{
-    expandTokens(line, {&myTokens});
 }
 
 void DtExamplesProjectFileWriter::setLibraryName(const DtString& name)

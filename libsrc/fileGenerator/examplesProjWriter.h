@@ -14,13 +14,8 @@ public:
     // here if it has none yet. Its name goes into the file as it is, so a renamed class has its model name there.
     DtExamplesProjectFileWriter(const DtString& fileName, const DtString& templateName, const DtOmtNode& node);
 
-    void decodeFileLine(DtString& line) override;
-
     virtual void setLibraryName(const DtString& name);
     virtual void setGenerateDis(bool generate);
-
-    // The tokens that this class adds to those of its base.
-    static std::vector<DtString> knownTokens();
 
 private:
     static const DtTokenTable<DtExamplesProjectFileWriter>& table();

@@ -136,8 +136,11 @@ void DtFileWriter::DtFileCloser::operator()(FILE* file) const
 }
 
 DtFileWriter::DtFileWriter(const DtString& fileName, const DtString& templateName)
-    : myFileName(fileName), myStream(&myStreamBuffer, DtNotifyLevel, 1, nullptr), myBaseTokens(baseTable(), this)
+    : myFileName(fileName),
+      myStream(&myStreamBuffer, DtNotifyLevel, 1, nullptr),
+      myBaseTokens(baseTable(), this, DtTokenMemory::OneLine)
 {
+    myTokenChain.putAhead({&myBaseTokens});
     if (myFileName.isEmpty())
         return;
     openOutput();
@@ -262,27 +265,15 @@ const DtTokenTable<DtFileWriter>& DtFileWriter::baseTable()
     return theTable;
 }
 
-const DtTokenIndex& DtFileWriter::baseTokenIndex()
-{
-    return baseTable().index();
-}
-
 void DtFileWriter::decodeFileLine(DtString& line)
 {
     expandTokens(line, {});
 }
 
-void DtFileWriter::expandTokens(DtString& line, std::initializer_list<DtTokenSource*> sources)
+void DtFileWriter::expandTokens(DtString& line, std::initializer_list<DtTokenSource*> further)
 {
     fillFomFileNames();
-    if (!DtHasToken(line))
-        return;
-    constexpr std::size_t maximumLinks = 16;
-    DT_ASSERT(sources.size() < maximumLinks);
-    DtTokenSource* chain[maximumLinks];
-    *std::copy(sources.begin(), sources.end(), chain) = &myBaseTokens;
-    myBaseTokens.clear();
-    DtExpandTokens(line, chain, sources.size() + 1);
+    myTokenChain.expand(line, further);
 }
 
 // At the first line that is decoded, and not again once they are filled.

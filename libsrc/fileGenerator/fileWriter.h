@@ -24,7 +24,7 @@
 //
 // The scan is line-oriented: blocks are found by text search in pieces of at most maximumLineLength() - 1 bytes, bodies
 // are taken out raw and scanned again by writeFileStream() for each expansion. A derived writer changes three things
-// only: the tokens (decodeFileLine), the loops (writeMultipleTimes) and the conditions (writeConditional).
+// only: the tokens (tokenChain), the loops (writeMultipleTimes) and the conditions (writeConditional).
 //
 // One object, one output file: construct, writeFile() once, destroy, which closes the output. The class-wide settings
 // are set before the writers of a run are made.
@@ -46,7 +46,7 @@ public:
     virtual void writeFile();
     // Scans the stream to its end and writes the expansion to myStream. Called again for every body.
     virtual void writeFileStream(std::istream& in);
-    // Replaces the tokens of the line. A derived writer replaces its own and then calls this one, or expandTokens().
+    // Replaces the tokens of the line, along the chain.
     virtual void decodeFileLine(DtString& line);
     // The stream stands on the opening; the whole block is taken and expanded.
     virtual void handleForLoop(std::istream& in);
@@ -78,13 +78,13 @@ public:
     static void setHlaVersion(DtHLAProtocolVersion version) { settings().hlaVersion = version; }
     static DtHLAProtocolVersion hlaVersion() { return settings().hlaVersion; }
 
-    // The tokens that every writer knows.
-    static const DtTokenIndex& baseTokenIndex();
+    // What the writer replaces, in the order of replacement; last the tokens that every writer has, and behind these
+    // what is put in as it is.
+    const DtTokenChain& tokenChain() const { return myTokenChain; }
 
 protected:
-    // For a derived decodeFileLine: the given sources, then the tokens of this class, in one go. Null ones are left
-    // out.
-    void expandTokens(DtString& line, std::initializer_list<DtTokenSource*> sources);
+    // For a line with tokens of its own, ahead of the chain.
+    void expandTokens(DtString& line, std::initializer_list<DtTokenSource*> further);
     // Back to the position, with a clean state, and once through writeFileStream().
     void writeBodyFrom(std::istream& body, std::streampos position);
 
@@ -101,6 +101,7 @@ protected:
     DtOutputStream myStream; // all generated text goes here
     DtFilename myFomFileName;
     DtFilename myFomFileNameNoDash;
+    DtTokenChain myTokenChain; // a derived class adds its sources in its constructor
 
 private:
     static DtFileSettings& settings() { return DtSettings::instance().files; }

@@ -56,14 +56,17 @@ struct DtFixedRecordFileWriter::DtTokens
             {"<!NetTypeIsVariantRecord!>",
              [](const Writer& w) -> DtString { return holdsVariantRecord(*w.currentAttribute()) ? "1" : ""; }},
         };
-        static const DtTokenTable<Writer> theTable(theRows);
+        static const DtTokenTable<Writer> theTable(theRows, [](const Writer& w) { return hasCurrentAttribute(w); });
         return theTable;
     }
 };
 
 DtFixedRecordFileWriter::DtFixedRecordFileWriter(const DtString& fileName, const DtString& templateName)
-    : DtCodedDataTypeFileWriter(fileName, templateName, theNames)
+    : DtCodedDataTypeFileWriter(fileName, templateName, theNames),
+      myOwnTokens(DtTokens::own(), this, DtTokenMemory::OneLine),
+      myMemberTokens(DtTokens::ofAttribute(), this, DtTokenMemory::OneLine)
 {
+    myTokenChain.putAhead({&myOwnTokens, &myMemberTokens});
 }
 
 void DtFixedRecordFileWriter::compileAttributes(DtFixedDatatypeNode* node, DtOMTTree* tree)
@@ -76,19 +79,4 @@ void DtFixedRecordFileWriter::compileAttributes(DtFixedDatatypeNode* node, DtOMT
     const DtString& name = node->getName();
     registerNetTypeTraits(name, DtDataTypeMapper::instance()->quorvexType(name), members, tree);
     addCompiled(node, members);
-}
-
-void DtFixedRecordFileWriter::decodeOwnTokens(DtString& line)
-{
-    DtTokenValues<DtFixedRecordFileWriter> own(DtTokens::own(), this);
-    DtTokenValues<DtFixedRecordFileWriter> ofAttribute(DtTokens::ofAttribute(), this);
-    DtExpandTokens(line, {&own, currentAttribute() != nullptr ? &ofAttribute : nullptr});
-    DtCodedDataTypeFileWriter::decodeOwnTokens(line);
-}
-
-std::vector<const DtTokenIndex*> DtFixedRecordFileWriter::ownTokens() const
-{
-    std::vector<const DtTokenIndex*> tokens = DtCodedDataTypeFileWriter::ownTokens();
-    tokens.insert(tokens.end(), {&DtTokens::own().index(), &DtTokens::ofAttribute().index()});
-    return tokens;
 }

@@ -14,12 +14,11 @@ public:
 
     virtual void compileAttributes(DtFixedDatatypeNode* node, DtOMTTree* tree);
 
-protected:
-    void decodeOwnTokens(DtString& line) override;
-    std::vector<const DtTokenIndex*> ownTokens() const override;
-
 private:
     struct DtTokens;
+
+    DtTokenValues<DtFixedRecordFileWriter> myOwnTokens;
+    DtTokenValues<DtFixedRecordFileWriter> myMemberTokens;
 };
 
 #endif

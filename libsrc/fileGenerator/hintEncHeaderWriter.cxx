@@ -1,19 +1,20 @@
 #include "fileGenerator/hintEncHeaderWriter.h"
 
-#include "foundation/stringUtils.h"
-
-void DtHlaInteractionEncoderHeaderWriter::decodeFileLine(DtString& line)
+DtHlaInteractionEncoderHeaderWriter::DtHlaInteractionEncoderHeaderWriter(const DtString& fileName,
+                                                                         const DtString& templateName,
+                                                                         const DtOmtInteraction& interaction)
+    : DtRecordWriter(fileName, templateName, interaction), myNoGenToken(table(), this, DtTokenMemory::OneLine)
 {
-    DtRecordWriter::decodeFileLine(line);
-    if (currentAttribute() == nullptr || !DtContainsSubstring(line, "<!NOGEN!>"))
-        return;
-    const bool isLeftOut = member(currentAttribute()->name()).noGen();
-    line = DtReplaceAllSubstrings(line, "<!NOGEN!>", isLeftOut ? "1" : "");
+    myTokenChain.putBehind(myNoGenToken);
 }
 
-std::vector<DtString> DtHlaInteractionEncoderHeaderWriter::knownTokens() const
+const DtTokenTable<DtHlaInteractionEncoderHeaderWriter>& DtHlaInteractionEncoderHeaderWriter::table()
 {
-    std::vector<DtString> tokens = DtRecordWriter::knownTokens();
-    tokens.emplace_back("<!NOGEN!>");
-    return tokens;
+    using Writer = const DtHlaInteractionEncoderHeaderWriter&;
+    static const DtTokenRow<DtHlaInteractionEncoderHeaderWriter> theRows[] = {
+        {"<!NOGEN!>", [](Writer w) { return DtString(w.member(w.currentAttribute()->name()).noGen() ? "1" : ""); }},
+    };
+    static const DtTokenTable<DtHlaInteractionEncoderHeaderWriter> theTable(
+        theRows, [](Writer w) { return w.currentAttribute() != nullptr; });
+    return theTable;
 }

@@ -15,9 +15,13 @@ class DtHlaInteractionEncoderHeaderWriter
     : public DtRecordWriter<theHlaInteractionEncoderHeaderRow, DtInteractionHolder>
 {
 public:
-    using DtRecordWriter::DtRecordWriter;
-    void decodeFileLine(DtString& line) override;
-    std::vector<DtString> knownTokens() const override;
+    DtHlaInteractionEncoderHeaderWriter(const DtString& fileName, const DtString& templateName,
+                                        const DtOmtInteraction& interaction);
+
+private:
+    static const DtTokenTable<DtHlaInteractionEncoderHeaderWriter>& table();
+
+    DtTokenValues<DtHlaInteractionEncoderHeaderWriter> myNoGenToken;
 };
 
 #endif

@@ -19,6 +19,7 @@ DtMakefileWriter::DtMakefileWriter(const DtString& fileName, const std::set<DtSt
       myFileList(fileList),
       myTokens(table(), this)
 {
+    myTokenChain.putAhead({&myTokens});
 }
 
 DtMakefileWriter::~DtMakefileWriter() = default;
@@ -42,20 +43,6 @@ const DtTokenTable<DtMakefileWriter>& DtMakefileWriter::table()
     };
     static const DtTokenTable<DtMakefileWriter> theTable(theRows);
     return theTable;
-}
-
-std::vector<DtString> DtMakefileWriter::knownTokens()
-{
-    std::vector<DtString> tokens;
-    tokens.reserve(static_cast<std::size_t>(table().index().size()));
-    for (int row = 0; row < table().index().size(); ++row)
-        tokens.emplace_back(std::string(table().index().token(row)));
-    return tokens;
-}
-
-void DtMakefileWriter::decodeFileLine(DtString& line)
-{
-    expandTokens(line, {&myTokens});
 }
 
 void DtMakefileWriter::setLibraryName(const DtString& name)

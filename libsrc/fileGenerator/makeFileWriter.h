@@ -19,13 +19,9 @@ public:
     ~DtMakefileWriter() override;
 
     void writeFile() override; // the makefile first, then the lists
-    void decodeFileLine(DtString& line) override;
 
     virtual void setLibraryName(const DtString& name);
     virtual void setGenerateDis(bool generate);
-
-    // The tokens that this class adds to those of its base.
-    static std::vector<DtString> knownTokens();
 
 private:
     static const DtTokenTable<DtMakefileWriter>& table();

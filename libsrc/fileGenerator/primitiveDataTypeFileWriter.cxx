@@ -15,7 +15,7 @@ struct DtPrimitiveDataTypeFileWriter::DtTokens
             {"<!NumberType!>",
              [](const Writer& w) { return numberTypeOf(numberFormOf(w.currentAttribute()->datatype())); }},
         };
-        static const DtTokenTable<Writer> theTable(theRows);
+        static const DtTokenTable<Writer> theTable(theRows, [](const Writer& w) { return hasCurrentAttribute(w); });
         return theTable;
     }
 };
@@ -59,22 +59,16 @@ DtString primitiveType(const DtString& representation, int bits)
     }
 }
 
+DtPrimitiveDataTypeFileWriter::DtPrimitiveDataTypeFileWriter(const DtString& fileName, const DtString& templateName,
+                                                             DtCCompatibleNames& names)
+    : DtCodedDataTypeFileWriter(fileName, templateName, names),
+      myMemberTokens(DtTokens::ofAttribute(), this, DtTokenMemory::OneLine)
+{
+    myTokenChain.putAhead({&myMemberTokens});
+}
+
 void DtPrimitiveDataTypeFileWriter::compileIncludeList()
 {
-}
-
-void DtPrimitiveDataTypeFileWriter::decodeOwnTokens(DtString& line)
-{
-    DtTokenValues<DtPrimitiveDataTypeFileWriter> ofAttribute(DtTokens::ofAttribute(), this);
-    DtExpandTokens(line, {currentAttribute() != nullptr ? &ofAttribute : nullptr});
-    DtCodedDataTypeFileWriter::decodeOwnTokens(line);
-}
-
-std::vector<const DtTokenIndex*> DtPrimitiveDataTypeFileWriter::ownTokens() const
-{
-    std::vector<const DtTokenIndex*> tokens = DtCodedDataTypeFileWriter::ownTokens();
-    tokens.push_back(&DtTokens::ofAttribute().index());
-    return tokens;
 }
 
 void DtPrimitiveDataTypeFileWriter::compilePrimitive(DtOMTNode* node, const DtString& representation)

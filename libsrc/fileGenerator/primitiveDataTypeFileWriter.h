@@ -7,7 +7,7 @@
 class DtPrimitiveDataTypeFileWriter : public DtCodedDataTypeFileWriter
 {
 public:
-    using DtCodedDataTypeFileWriter::DtCodedDataTypeFileWriter;
+    DtPrimitiveDataTypeFileWriter(const DtString& fileName, const DtString& templateName, DtCCompatibleNames& names);
 
     // Adds nothing: the own header, entered by the compilation, is the whole list.
     void compileIncludeList() override;
@@ -15,11 +15,11 @@ public:
 protected:
     // One member named like the datatype; its datatype's datatype is the number it holds.
     void compilePrimitive(DtOMTNode* node, const DtString& representation);
-    void decodeOwnTokens(DtString& line) override;
-    std::vector<const DtTokenIndex*> ownTokens() const override;
 
 private:
     struct DtTokens;
+
+    DtTokenValues<DtPrimitiveDataTypeFileWriter> myMemberTokens;
 };
 
 // The number for a representation of that many bits. An unknown signed size widens to 64 bits, an unknown unsigned one

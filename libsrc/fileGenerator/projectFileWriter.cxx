@@ -74,9 +74,10 @@ DtProjectFileWriter::DtProjectFileWriter(const DtString& fileName, const std::se
     : DtFileWriter(fileName, templateOf(compiler)),
       myDllExport(DtReplaceSubstring(exportMacroName(), "DT_DLL_", "") + "_EXPORTS"),
       myFileList(fileList),
-      myFileTokens(fileTable()),
+      myFileTokens(fileTable(), this),
       myProjectTokens(projectTable(), this)
 {
+    myTokenChain.putAhead({&myFileTokens, &myProjectTokens});
 }
 
 const DtTokenTable<DtProjectFileWriter>& DtProjectFileWriter::fileTable()
@@ -86,7 +87,8 @@ const DtTokenTable<DtProjectFileWriter>& DtProjectFileWriter::fileTable()
         {"<!FileName!>",     [](Writer w) { return w.myCurrentFile; }                                        },
         {"<!DatatypeFile!>", [](Writer w) { return flag(DtContainsSubstring(w.myCurrentFile, "DataTypes")); }},
     };
-    static const DtTokenTable<DtProjectFileWriter> theTable(theRows);
+    static const DtTokenTable<DtProjectFileWriter> theTable(theRows,
+                                                            [](Writer w) { return !w.myCurrentFile.isEmpty(); });
     return theTable;
 }
 
@@ -100,22 +102,6 @@ const DtTokenTable<DtProjectFileWriter>& DtProjectFileWriter::projectTable()
     };
     static const DtTokenTable<DtProjectFileWriter> theTable(theRows);
     return theTable;
-}
-
-std::vector<DtString> DtProjectFileWriter::knownTokens()
-{
-    std::vector<DtString> tokens;
-    for (const auto* table : {&fileTable(), &projectTable()})
-    {
-        for (int row = 0; row < table->index().size(); ++row)
-            tokens.emplace_back(std::string(table->index().token(row)));
-    }
-    return tokens;
-}
-
-void DtProjectFileWriter::decodeFileLine(DtString& line)
-{
-    expandTokens(line, {myCurrentFile.isEmpty() ? nullptr : &myFileTokens, &myProjectTokens});
 }
 
 void DtProjectFileWriter::writeMultipleTimes(const DtString& header, std::istream& body)
@@ -138,7 +124,7 @@ void DtProjectFileWriter::writeMultipleTimes(const DtString& header, std::istrea
 void DtProjectFileWriter::setCurrentFile(const DtString& name)
 {
     myCurrentFile = name;
-    myFileTokens.setContext(this);
+    myFileTokens.clear();
 }
 
 void DtProjectFileWriter::setProjectName(const DtString& name)

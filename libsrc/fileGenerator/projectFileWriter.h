@@ -15,15 +15,11 @@ public:
     // compiler: 4 to 9 pick the project template of one suite and word size, any other value the plain one.
     DtProjectFileWriter(const DtString& fileName, const std::set<DtString>& fileList, int compiler);
 
-    void decodeFileLine(DtString& line) override;
     // Loops: Files (every name), FilesH (headers, the include path in front), FilesCXX (sources).
     void writeMultipleTimes(const DtString& header, std::istream& body) override;
 
     virtual void setProjectName(const DtString& name);
     virtual void setGenerateDis(bool generate);
-
-    // The tokens that this class adds to those of its base.
-    static std::vector<DtString> knownTokens();
 
 private:
     static const DtTokenTable<DtProjectFileWriter>& fileTable();
@@ -35,7 +31,7 @@ private:
     DtString myDllExport; // stem of the export macro with "_EXPORTS" behind it
     bool myGenerateDis = false;
     const std::set<DtString>& myFileList;
-    DtTokenValues<DtProjectFileWriter> myFileTokens; // without context outside the loops
+    DtTokenValues<DtProjectFileWriter> myFileTokens; // not active outside the loops
     DtTokenValues<DtProjectFileWriter> myProjectTokens;
 };
 

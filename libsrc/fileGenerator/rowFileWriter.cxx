@@ -1,10 +1,13 @@
 #include "fileGenerator/rowFileWriter.h"
 
-#include "foundation/stringUtils.h"
+#include <map>
+#include <string_view>
+#include <utility>
 
 DtRowFileWriterBase::DtRowFileWriterBase(const DtWriterRow& row, const DtString& fileName, const DtString& templateName)
-    : DtClassFileWriter(fileName, templateName), myRow(row)
+    : DtClassFileWriter(fileName, templateName), myRow(row), myOwnValues(row)
 {
+    myTokenChain.putAhead({&myOwnValues});
     obtainOwnValues();
 }
 
@@ -35,26 +38,6 @@ void DtRowFileWriterBase::setFullClassName(const DtString& name)
     obtainOwnValues();
 }
 
-void DtRowFileWriterBase::decodeFileLine(DtString& line)
-{
-    if (DtHasToken(line))
-    {
-        for (std::size_t i = 0; i < myOwnValues.size(); ++i)
-            line = DtReplaceAllSubstrings(line, myRow.ownTokens[i].token, myOwnValues[i]);
-    }
-    DtClassFileWriter::decodeFileLine(line);
-}
-
-std::vector<DtString> DtRowFileWriterBase::knownTokens() const
-{
-    std::vector<DtString> tokens;
-    for (std::size_t i = 0; i < myOwnValues.size(); ++i)
-        tokens.emplace_back(myRow.ownTokens[i].token);
-    const std::vector<DtString> ofClass = DtClassFileWriter::knownTokens();
-    tokens.insert(tokens.end(), ofClass.begin(), ofClass.end());
-    return tokens;
-}
-
 bool DtRowFileWriterBase::isTop() const
 {
     return myParentClassName == (myRow.tree == DtClassTree::Object ? "ObjectRoot" : "InteractionRoot");
@@ -67,11 +50,26 @@ DtString DtRowFileWriterBase::fill(const char* pattern) const
 
 void DtRowFileWriterBase::obtainOwnValues()
 {
-    myOwnValues.clear();
+    std::vector<DtString> values;
     for (const DtOwnToken& own : myRow.ownTokens)
     {
-        if (own.token == nullptr)
-            return;
-        myOwnValues.push_back(fill(own.topValue != nullptr && isTop() ? own.topValue : own.value));
+        if (own.token != nullptr)
+            values.push_back(fill(own.topValue != nullptr && isTop() ? own.topValue : own.value));
     }
+    myOwnValues.set(std::move(values));
+}
+
+const DtTokenIndex& DtRowFileWriterBase::DtOwnValues::indexOf(const DtWriterRow& row)
+{
+    static std::map<const DtWriterRow*, DtTokenIndex> theIndexes;
+    const auto known = theIndexes.find(&row);
+    if (known != theIndexes.end())
+        return known->second;
+    std::vector<std::string_view> tokens;
+    for (const DtOwnToken& own : row.ownTokens)
+    {
+        if (own.token != nullptr)
+            tokens.emplace_back(own.token);
+    }
+    return theIndexes.emplace(&row, DtTokenIndex(std::move(tokens))).first->second;
 }

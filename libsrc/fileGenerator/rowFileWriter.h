@@ -55,17 +55,36 @@ public:
     void setClassName(const DtString& name) override;
     void setParentClassName(const DtString& name) override;
     void setFullClassName(const DtString& name) override;
-    void decodeFileLine(DtString& line) override;
-    std::vector<DtString> knownTokens() const override;
 
 private:
+    // Values that are worked out by the setters.
+    class DtOwnValues : public DtTokenSource
+    {
+    public:
+        explicit DtOwnValues(const DtWriterRow& row) : DtTokenSource(indexOf(row)) {}
+        void set(std::vector<DtString> values)
+        {
+            myValues = std::move(values);
+            clear();
+        }
+
+    protected:
+        DtString workOut(int row) const override { return myValues[static_cast<std::size_t>(row)]; }
+
+    private:
+        // One for each row, as long as the program runs: rows are constants.
+        static const DtTokenIndex& indexOf(const DtWriterRow& row);
+
+        std::vector<DtString> myValues; // in the order of the row's tokens
+    };
+
     bool isTop() const;
     DtString fill(const char* pattern) const;
     void obtainOwnValues();
 
     const DtWriterRow& myRow;
     DtString myGivenName;
-    std::vector<DtString> myOwnValues; // in the order of the row's tokens
+    DtOwnValues myOwnValues;
 };
 
 // A type of its own for each row: using DtFooFileWriter = DtRowFileWriter<theFooRow>;

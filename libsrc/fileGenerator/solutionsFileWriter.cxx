@@ -20,19 +20,6 @@ DtString identifier(const DtOmtNode& record)
 {
     return theNames.MakeCCompatibleString(record.name());
 }
-
-void appendTokens(const DtTokenIndex& index, std::vector<DtString>& tokens)
-{
-    for (int row = 0; row < index.size(); ++row)
-        tokens.emplace_back(std::string(index.token(row)));
-}
-
-// A source is part of the chain while it has a record.
-template <typename Record>
-DtTokenSource* active(DtTokenValues<Record>& values)
-{
-    return values.context() != nullptr ? &values : nullptr;
-}
 } // namespace
 
 DtSolutionsFileWriter::DtSolutionsFileWriter(const DtString& fileName, const DtString& templateName)
@@ -42,6 +29,7 @@ DtSolutionsFileWriter::DtSolutionsFileWriter(const DtString& fileName, const DtS
       myCurrentInteraction(interactionTable()),
       myProjectTokens(projectTable(), this)
 {
+    myTokenChain.putAhead({&myCurrentObject, &myCurrentInteraction, &myProjectTokens});
 }
 
 const DtTokenTable<DtOmtObject>& DtSolutionsFileWriter::objectTable()
@@ -73,20 +61,6 @@ const DtTokenTable<DtSolutionsFileWriter>& DtSolutionsFileWriter::projectTable()
     };
     static const DtTokenTable<DtSolutionsFileWriter> theTable(theRows);
     return theTable;
-}
-
-std::vector<DtString> DtSolutionsFileWriter::knownTokens()
-{
-    std::vector<DtString> tokens;
-    appendTokens(objectTable().index(), tokens);
-    appendTokens(interactionTable().index(), tokens);
-    appendTokens(projectTable().index(), tokens);
-    return tokens;
-}
-
-void DtSolutionsFileWriter::decodeFileLine(DtString& line)
-{
-    expandTokens(line, {active(myCurrentObject), active(myCurrentInteraction), &myProjectTokens});
 }
 
 void DtSolutionsFileWriter::writeMultipleTimes(const DtString& header, std::istream& body)

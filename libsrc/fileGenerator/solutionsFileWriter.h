@@ -16,7 +16,6 @@ class DtSolutionsFileWriter : public DtFileWriter
 public:
     DtSolutionsFileWriter(const DtString& fileName, const DtString& templateName);
 
-    void decodeFileLine(DtString& line) override;
     // Loops: Objects and Interactions, one pass a record. A record whose full name is its name has no parent path and
     // no project in the solution, so it gets no pass.
     void writeMultipleTimes(const DtString& header, std::istream& body) override;
@@ -24,9 +23,6 @@ public:
     virtual void setObjects(const std::set<DtOmtObject>& objects);
     virtual void setInteractions(const std::set<DtOmtInteraction>& interactions);
     virtual void setProjectName(const DtString& name);
-
-    // The tokens that this class adds to those of its base.
-    static std::vector<DtString> knownTokens();
 
 private:
     static const DtTokenTable<DtOmtObject>& objectTable();

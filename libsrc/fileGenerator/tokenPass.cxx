@@ -1,5 +1,7 @@
 #include "fileGenerator/tokenPass.h"
 
+#include "foundation/assertion.h"
+
 #include <algorithm>
 #include <cstring>
 #include <string>
@@ -173,6 +175,47 @@ void DtExpandTokens(DtString& line, DtTokenSource* const* chain, std::size_t cou
 void DtExpandTokens(DtString& line, std::initializer_list<DtTokenSource*> chain)
 {
     DtExpandTokens(line, chain.begin(), chain.size());
+}
+
+void DtTokenChain::putAhead(std::initializer_list<DtTokenSource*> sources)
+{
+    std::vector<DtLink> links;
+    for (DtTokenSource* source : sources)
+        links.push_back({source, true});
+    myLinks.insert(myLinks.begin(), links.begin(), links.end());
+}
+
+void DtTokenChain::putBehind(DtTokenSource& source)
+{
+    myLinks.push_back({&source, false});
+}
+
+std::vector<DtString> DtTokenChain::tokens() const
+{
+    std::vector<DtString> tokens;
+    for (const DtLink& link : myLinks)
+        for (int row = 0; row < link.source->index().size(); ++row)
+            tokens.emplace_back(std::string(link.source->index().token(row)));
+    return tokens;
+}
+
+void DtTokenChain::expand(DtString& line, std::initializer_list<DtTokenSource*> further) const
+{
+    if (!DtHasToken(line))
+        return;
+    constexpr std::size_t mostLinks = 24;
+    DT_ASSERT(further.size() + myLinks.size() <= mostLinks);
+    DtTokenSource* active[mostLinks];
+    DtTokenSource** end = std::copy(further.begin(), further.end(), active);
+    for (const DtLink& link : myLinks)
+    {
+        if (!link.source->isActive())
+            continue;
+        if (link.source->memory() == DtTokenMemory::OneLine)
+            link.source->clear();
+        *end++ = link.source;
+    }
+    DtExpandTokens(line, active, static_cast<std::size_t>(end - active));
 }
 
 void DtExpandTokensInOrder(DtString& line, DtTokenSource* const* chain, std::size_t count)

@@ -13,7 +13,7 @@
 //
 // A table is an array of rows: the text of a token and a function that works its value out from a context (a writer, an
 // attribute, ...). A DtTokenTable is built once over the array, with an index by text; a DtTokenValues binds the table
-// to one context and remembers the values. DtExpandTokens() takes a chain of those.
+// to one context and remembers the values. A DtTokenChain puts those in the order of replacement.
 //
 //     const DtTokenRow<DtAttribute> theAttributeRows[] = {
 //         {"<!AttributeType!>", [](const DtAttribute& a) { return a.type(); }},
@@ -24,7 +24,9 @@
 //         return theTable;
 //     }
 //     DtTokenValues<DtAttribute> values(attributeTable(), &attribute);
-//     DtExpandTokens(line, {&values, &classValues});
+//     DtTokenChain chain;
+//     chain.putAhead({&values, &classValues});
+//     chain.expand(line);
 
 // One row. The token is written with its brackets, "<!Name!>", and holds neither "<!" nor "!>" inside.
 template <class Context>
@@ -52,18 +54,31 @@ private:
     std::vector<int> mySlots; // open addressing, a power of two; -1 is free
 };
 
+// How long the values of a source are remembered.
+enum class DtTokenMemory
+{
+    UntilCleared, // whoever changes what they are made of clears them
+    OneLine       // they follow from something that nobody announces
+};
+
 // One link of a chain: a table's index with the values of one context.
 //
 // A value is worked out when it is first asked for and kept until clear(), which costs next to nothing.
 class DtTokenSource
 {
 public:
-    explicit DtTokenSource(const DtTokenIndex& index) : myIndex(&index) {}
+    explicit DtTokenSource(const DtTokenIndex& index, DtTokenMemory memory = DtTokenMemory::UntilCleared)
+        : myIndex(&index), myMemory(memory)
+    {
+    }
     virtual ~DtTokenSource() = default;
     DtTokenSource(const DtTokenSource&) = delete;
     DtTokenSource& operator=(const DtTokenSource&) = delete;
 
     const DtTokenIndex& index() const { return *myIndex; }
+    DtTokenMemory memory() const { return myMemory; }
+    // Whether its tokens are replaced at present. They stay in the text while they are not.
+    virtual bool isActive() const { return true; }
     // Valid until clear().
     const DtString& value(int row);
     // Forgets all values: the context, or something that values are made of, is another one now.
@@ -82,21 +97,27 @@ private:
     };
 
     const DtTokenIndex* myIndex;
+    DtTokenMemory myMemory;
     std::vector<Entry> myEntries; // made at first use
     std::uint64_t myGeneration = 1;
 };
 
-// Rows with their index. The array has to outlive it.
+// Rows with their index, and when they count: always, or while a condition on the context holds. The array has to
+// outlive it.
 template <class Context>
 class DtTokenTable
 {
 public:
+    using Condition = bool (*)(const Context& context);
+
     template <std::size_t N>
-    explicit DtTokenTable(const DtTokenRow<Context> (&rows)[N]) : myRows(rows), myIndex(tokensOf(rows, N))
+    explicit DtTokenTable(const DtTokenRow<Context> (&rows)[N], Condition condition = nullptr)
+        : myRows(rows), myIndex(tokensOf(rows, N)), myCondition(condition)
     {
     }
 
     const DtTokenIndex& index() const { return myIndex; }
+    bool counts(const Context& context) const { return myCondition == nullptr || myCondition(context); }
     DtString value(int row, const Context& context) const { return myRows[row].value(context); }
 
 private:
@@ -110,17 +131,20 @@ private:
 
     const DtTokenRow<Context>* myRows;
     DtTokenIndex myIndex;
+    Condition myCondition;
 };
 
-// A table bound to one context. Neither is owned; a source without a context must not be part of a chain.
+// A table bound to one context. Neither is owned; without a context it is not active.
 template <class Context>
 class DtTokenValues : public DtTokenSource
 {
 public:
-    explicit DtTokenValues(const DtTokenTable<Context>& table, const Context* context = nullptr)
-        : DtTokenSource(table.index()), myTable(&table), myContext(context)
+    explicit DtTokenValues(const DtTokenTable<Context>& table, const Context* context = nullptr,
+                           DtTokenMemory memory = DtTokenMemory::UntilCleared)
+        : DtTokenSource(table.index(), memory), myTable(&table), myContext(context)
     {
     }
+    bool isActive() const override { return myContext != nullptr && myTable->counts(*myContext); }
 
     // Binds to another context, or to the same one after it has changed, and forgets all values.
     void setContext(const Context* context)
@@ -152,6 +176,35 @@ void DtExpandTokens(DtString& line, std::initializer_list<DtTokenSource*> chain)
 
 // The passes one after the other, always.
 void DtExpandTokensInOrder(DtString& line, DtTokenSource* const* chain, std::size_t count);
+
+// The tokens of a writer: its sources in the order of replacement.
+//
+// A chain is made up in the constructors of a writer, each class putting its own sources ahead of those of its base,
+// and does not change afterwards: two writers of one class have the same tokens in the same order. Sources are not
+// owned.
+class DtTokenChain
+{
+public:
+    struct DtLink
+    {
+        DtTokenSource* source;
+        bool isScannedAgain; // whether later links replace tokens in what it puts in
+    };
+
+    // In front of all that are there, in this order.
+    void putAhead(std::initializer_list<DtTokenSource*> sources);
+    // Behind all that are there. Nothing looks for tokens in what it puts in.
+    void putBehind(DtTokenSource& source);
+
+    const std::vector<DtLink>& links() const { return myLinks; }
+    // Every token, in the order of replacement.
+    std::vector<DtString> tokens() const;
+    // Replaces the tokens of the active sources, those of further sources ahead of them.
+    void expand(DtString& line, std::initializer_list<DtTokenSource*> further = {}) const;
+
+private:
+    std::vector<DtLink> myLinks;
+};
 
 // Makes the text the content of the target, whose memory is used again where it suffices.
 void DtAssignText(DtString& target, std::string_view text);

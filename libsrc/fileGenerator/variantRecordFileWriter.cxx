@@ -40,7 +40,7 @@ struct DtVariantRecordFileWriter::DtTokens
             {"<!CurrentDiscriminantEnumerator!>", currentEnumerator},
             {"<!NetTypeIsVariantRecord!>",        isVariantRecord  },
         };
-        static const DtTokenTable<Writer> theTable(theRows);
+        static const DtTokenTable<Writer> theTable(theRows, [](const Writer& w) { return hasCurrentAttribute(w); });
         return theTable;
     }
 };
@@ -69,8 +69,12 @@ bool hasVariantMember(const DtString& datatype)
 }
 
 DtVariantRecordFileWriter::DtVariantRecordFileWriter(const DtString& fileName, const DtString& templateName)
-    : DtCodedDataTypeFileWriter(fileName, templateName, theNames), myDiscriminant("", "DtInt32")
+    : DtCodedDataTypeFileWriter(fileName, templateName, theNames),
+      myDiscriminant("", "DtInt32"),
+      myOwnTokens(DtTokens::own(), this, DtTokenMemory::OneLine),
+      myMemberTokens(DtTokens::ofAttribute(), this, DtTokenMemory::OneLine)
 {
+    myTokenChain.putAhead({&myOwnTokens, &myMemberTokens});
 }
 
 void DtVariantRecordFileWriter::writeMultipleTimes(const DtString& loopName, std::istream& stream)
@@ -157,21 +161,6 @@ void DtVariantRecordFileWriter::addEnumerators(const DtDataTypeMapper::DtVariant
                 (member++)->setDiscriminantValue(alternative.enumerator);
         }
     }
-}
-
-void DtVariantRecordFileWriter::decodeOwnTokens(DtString& line)
-{
-    DtTokenValues<DtVariantRecordFileWriter> own(DtTokens::own(), this);
-    DtTokenValues<DtVariantRecordFileWriter> ofAttribute(DtTokens::ofAttribute(), this);
-    DtExpandTokens(line, {&own, currentAttribute() != nullptr ? &ofAttribute : nullptr});
-    DtCodedDataTypeFileWriter::decodeOwnTokens(line);
-}
-
-std::vector<const DtTokenIndex*> DtVariantRecordFileWriter::ownTokens() const
-{
-    std::vector<const DtTokenIndex*> tokens = DtCodedDataTypeFileWriter::ownTokens();
-    tokens.insert(tokens.end(), {&DtTokens::own().index(), &DtTokens::ofAttribute().index()});
-    return tokens;
 }
 
 void DtVariantRecordFileWriter::setDiscriminant(const DtString& name, const DtString& type, const DtOMTTree* tree)

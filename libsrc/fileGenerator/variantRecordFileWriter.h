@@ -31,10 +31,6 @@ public:
     // Copies the enumerators of the record to the members of the compiled datatypes that carry its alternatives.
     virtual void addEnumerators(const DtDataTypeMapper::DtVariantRecordStruct& record);
 
-protected:
-    void decodeOwnTokens(DtString& line) override;
-    std::vector<const DtTokenIndex*> ownTokens() const override;
-
 private:
     struct DtTokens;
 
@@ -50,6 +46,9 @@ private:
     bool myHasFittingDiscriminant = true;
     std::vector<DtString> myValuelessSelectors; // of the datatype compiled last
     DtString myCurrentSelector;                 // inside "ValuelessAlternatives"
+
+    DtTokenValues<DtVariantRecordFileWriter> myOwnTokens;
+    DtTokenValues<DtVariantRecordFileWriter> myMemberTokens;
 };
 
 // False for an alternative without a value: no datatype, "NA" or "N/A".

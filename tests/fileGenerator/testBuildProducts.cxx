@@ -276,9 +276,11 @@ void TestBuildProducts::solutionWithoutRecordsHasNoPass()
 
 void TestBuildProducts::knownTokensAreThoseThatAreReplaced()
 {
-    QCOMPARE(DtProjectFileWriter::knownTokens().size(), std::size_t(5));
-    QCOMPARE(DtMakefileWriter::knownTokens().size(), std::size_t(2));
-    const std::vector<DtString> tokens = DtSolutionsFileWriter::knownTokens();
+    const std::size_t base = DtFileWriter("", "").tokenChain().tokens().size();
+    QCOMPARE(base, std::size_t(11));
+    QCOMPARE(DtProjectFileWriter("", {}, 9).tokenChain().tokens().size(), base + 5);
+    QCOMPARE(DtMakefileWriter("", {}).tokenChain().tokens().size(), base + 2);
+    const std::vector<DtString> tokens = DtSolutionsFileWriter("", "").tokenChain().tokens();
     QVERIFY(std::find(tokens.begin(), tokens.end(), DtString("<!UUID2!>")) != tokens.end());
     QVERIFY(std::find(tokens.begin(), tokens.end(), DtString("<!ProjectName!>")) != tokens.end());
 }

@@ -845,7 +845,7 @@ void TestClassFileWriter::knownTokensAreAllReplaced()
     ship.writer.setOmtProject(projectWith({"a.xml"}));
     const DtAttribute attribute = speedAttribute();
     ship.writer.setCurrentAttribute(&attribute);
-    const std::vector<DtString> tokens = ship.writer.knownTokens();
+    const std::vector<DtString> tokens = ship.writer.tokenChain().tokens();
     QCOMPARE(tokens.size(), std::size_t(1 + 39 + 48 + 1 + 2 + 2 + 11));
     for (const DtString& token : tokens)
         QVERIFY2(!ship.writer.decode(token).contains("<!"), token.c_str());
@@ -886,7 +886,7 @@ void TestClassFileWriter::rowTokensComeFirst()
     writer.setRootName("Fire");
     writer.setFullClassName("A<!SrMethod!>");
     QCOMPARE(writer.decode("<!ClassName!>"), QString("AfireStateRep"));
-    QCOMPARE(text(writer.knownTokens().front()), QString("<!Cb!>"));
+    QCOMPARE(text(writer.tokenChain().tokens().front()), QString("<!Cb!>"));
 }
 
 void TestClassFileWriter::rowOfTheObjectTreeCutsTheObjectRoot()

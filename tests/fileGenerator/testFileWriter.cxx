@@ -339,8 +339,8 @@ void TestFileWriter::everyBaseTokenHasItsValue()
     DtFileWriter::setGenerate64Bit(false);
     DtFileWriter::setGenerateErrors(true);
     std::string text;
-    for (int row = 0; row < DtFileWriter::baseTokenIndex().size(); ++row)
-        text += std::string(DtFileWriter::baseTokenIndex().token(row)) + ";";
+    for (const DtString& token : DtMemoryWriter().tokenChain().tokens())
+        text += token.stdString() + ";";
     QCOMPARE(expand(text), std::string("1;DEMO;DT_DLL_DEMO;32;sim;dir/my-model.v2.xml;mymodelv2;inc/mymodelv2Types.h;"
                                        "mymodelv2;1;;"));
     DtDataTypeMapper::instance()->setMapRtiObjectIdToGlobalId(false);

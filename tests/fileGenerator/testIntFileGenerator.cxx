@@ -510,7 +510,7 @@ void TestIntFileGenerator::nameHelpersGiveTheFileNames()
 
 void TestIntFileGenerator::knownTokensHoldNoGen()
 {
-    const std::vector<DtString> tokens = DtHlaInteractionEncoderHeaderWriter("", "", fire()).knownTokens();
+    const std::vector<DtString> tokens = DtHlaInteractionEncoderHeaderWriter("", "", fire()).tokenChain().tokens();
     QVERIFY(std::find(tokens.begin(), tokens.end(), DtString("<!NOGEN!>")) != tokens.end());
     QVERIFY(std::find(tokens.begin(), tokens.end(), DtString("<!InteractionName!>")) != tokens.end());
 }

@@ -869,7 +869,7 @@ void TestObjFileGenerator::nameHelpersGiveTheFileNames()
 
 void TestObjFileGenerator::knownTokensHoldCustomGeneration()
 {
-    const std::vector<DtString> tokens = DtHlaObjectEncoderSourceWriter("", "", tank()).knownTokens();
+    const std::vector<DtString> tokens = DtHlaObjectEncoderSourceWriter("", "", tank()).tokenChain().tokens();
     QVERIFY(std::find(tokens.begin(), tokens.end(), DtString("<!CUSTOMGENERATIONOUTPUT!>")) != tokens.end());
     QVERIFY(std::find(tokens.begin(), tokens.end(), DtString("<!ClassName!>")) != tokens.end());
 }

@@ -60,35 +60,27 @@ Names namesOf(const std::vector<DtString>& tokens)
     return names;
 }
 
-void addBaseTokens(Names& names)
-{
-    const DtTokenIndex& index = DtFileWriter::baseTokenIndex();
-    for (int row = 0; row < index.size(); ++row)
-        names.insert(QString::fromStdString(std::string(index.token(row))));
-}
-
 // The tokens of a writer that is no class writer: those that a loop sets are named here, all others are free.
-DtTemplateRules rulesOf(const std::vector<DtString>& tokens, const std::map<QString, Names>& loops)
+DtTemplateRules rulesOf(const DtFileWriter& writer, const std::map<QString, Names>& loops)
 {
     DtTemplateRules rules;
-    rules.freeTokens = namesOf(tokens);
+    rules.freeTokens = namesOf(writer.tokenChain().tokens());
     rules.loops = loops;
     for (const auto& [loop, ofLoop] : loops)
         for (const QString& token : ofLoop)
             rules.freeTokens.erase(token);
-    addBaseTokens(rules.freeTokens);
     return rules;
 }
 
 DtTemplateRules baseRules()
 {
-    return rulesOf({}, {});
+    return rulesOf(DtFileWriter("", ""), {});
 }
 
 DtTemplateRules enumRules()
 {
     DtTemplateRules rules =
-        rulesOf(DtEnumerationFileWriter::knownTokens(),
+        rulesOf(DtEnumerationFileWriter(""),
                 {
                     {"Enumeration",
                      {"<!EnumerationName!>", "<!EnumerationTypeName!>", "<!EnumerationIsRepeated!>",
@@ -106,35 +98,34 @@ DtTemplateRules enumRules()
 DtTemplateRules projectRules()
 {
     const Names ofFile = {"<!FileName!>", "<!DatatypeFile!>"};
-    return rulesOf(DtProjectFileWriter::knownTokens(),
-                   {
-                       {"Files",    ofFile},
-                       {"FilesH",   ofFile},
-                       {"FilesCXX", ofFile}
-    });
+    return rulesOf(DtProjectFileWriter("",
+                                       {
+    },
+                                       9),
+                   {{"Files", ofFile}, {"FilesH", ofFile}, {"FilesCXX", ofFile}});
 }
 
 DtTemplateRules makefileRules()
 {
-    return rulesOf(DtMakefileWriter::knownTokens(), {});
+    const RunSettings settings; // the writer opens two lists of files
+    return rulesOf(DtMakefileWriter("", {}), {});
 }
 
 DtTemplateRules exampleMakefileRules()
 {
-    return rulesOf(DtExamplesMakefileWriter::knownTokens(), {});
+    return rulesOf(DtExamplesMakefileWriter(""), {});
 }
 
 DtTemplateRules exampleProjectRules()
 {
-    return rulesOf(DtExamplesProjectFileWriter::knownTokens(), {});
+    return rulesOf(DtExamplesProjectFileWriter("", "", DtOmtObject()), {});
 }
 
 DtTemplateRules solutionRules()
 {
-    return rulesOf(DtSolutionsFileWriter::knownTokens(),
-                   {
-                       {"Objects",      {"<!Object!>", "<!UUID1!>", "<!UUID2!>"}     },
-                       {"Interactions", {"<!Interaction!>", "<!UUID1!>", "<!UUID2!>"}}
+    return rulesOf(DtSolutionsFileWriter("", ""), {
+                                                      {"Objects",      {"<!Object!>", "<!UUID1!>", "<!UUID2!>"}     },
+                                                      {"Interactions", {"<!Interaction!>", "<!UUID1!>", "<!UUID2!>"}}
     });
 }
 
@@ -216,7 +207,7 @@ DtTemplateRules classRules()
     const auto probe = makeProbe<Writer>();
     probe->setOriginalName("HLAtoken"); // an array of tokens has a token more
     probe->setOmtProject(askedProject());
-    const Names known = namesOf(probe->knownTokens());
+    const Names known = namesOf(probe->tokenChain().tokens());
     DtTemplateRules rules;
     rules.freeTokens = replacedTokens(*probe, known);
     const DtAttribute attribute("x", "DtInt32");

@@ -2,7 +2,8 @@
 # Builds and runs all tests, under AddressSanitizer and UndefinedBehaviorSanitizer.
 #   ./test.sh             what continuous integration runs; ends with the skipped tests and the summary of ctest
 #   ./test.sh --lint      clang-format and clang-tidy over the sources
-#   ./test.sh --full      all tests and what takes minutes: clang++ and make on what was generated
+#   ./test.sh --full      all tests and what takes minutes: the program built by clang++, and clang++ and make on what
+#                         was generated
 set -eu
 
 top=$(cd "$(dirname "${BASH_SOURCE[0]}")" && pwd)
@@ -44,6 +45,8 @@ case ${1-} in
     --lint) lint ;;
     --full)
         "$top/.ci/setup" clang
+        cmake --preset clang
+        cmake --build --preset clang
         export QX_FULL=1
         run_tests
         ;;

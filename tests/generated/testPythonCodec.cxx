@@ -3,7 +3,7 @@
 
 #include "registerTest.h"
 
-#include "bothSides.h"
+#include "thereAndBack.h"
 
 #include <memory>
 
@@ -11,102 +11,6 @@ namespace
 {
 const QString theDirectory = QStringLiteral(QX_SOURCE_DIR "/tests/generated");
 const QString theVectors = theDirectory + "/wireVectors.txt";
-// Of the management models, which the modules are merged with.
-const QStringList theRefusedOfTheManagementModel = {"DtHLAhandleList"};
-const QStringList theRefusedOf2025 = {"DtHLAattributeHandleList", "DtHLAinteractionClassHandleList"};
-
-// What becomes of values of the datatypes of a model.
-struct DtExpectedAnswers
-{
-    QStringList notInPython = {};    // without an encoding in the codec, so that there are no values
-    QStringList classesRefused = {}; // C++ classes without an encoding
-    QStringList holdingThese = {};   // datatypes with values that hold such a class
-    QStringList notAtTheStart = {};  // what an object as it starts does not encode, or does not take back
-    QStringList differentInCxx = {}; // datatypes with another form there
-};
-
-QStringList words(const char* text)
-{
-    return QString::fromLatin1(text).split(' ');
-}
-
-// The rest of those lines that begin so.
-QStringList linesBehind(const QString& start, const QString& text)
-{
-    QStringList lines;
-    for (const QString& line : text.split('\n'))
-        if (line.startsWith(start))
-            lines += line.mid(start.size());
-    return lines;
-}
-
-QStringList faultyDatatypes(const DtPythonRun& back)
-{
-    QStringList names;
-    for (const QString& fault : linesBehind("wrong ", back.output))
-        names += fault.section(": ", 0, 0);
-    return names;
-}
-
-QString sorted(QStringList lines)
-{
-    lines.sort();
-    return lines.join('\n');
-}
-
-void checkStart(const DtBothSides& sides, const DtExpectedAnswers& expected)
-{
-    const QStringList lines = sides.start();
-    const int refused = lines.filter(" refused: ").size() - lines.filter(" not taken back, ").size();
-    const QString encoded = QStringLiteral("%1 encoded").arg(sides.datatypes().size() - refused);
-    QCOMPARE(sorted(lines), sorted(expected.notAtTheStart + QStringList{encoded}));
-}
-
-// What the accessors of the generated code give of the octets are the values that these were made of.
-void checkRead(const DtBothSides& sides, const DtExpectedAnswers& expected, const QString& count,
-               const QByteArray& values)
-{
-    const DtPythonRun driver = sides.valuesOf(values);
-    QCOMPARE(driver.exitCode, 0);
-    const DtPythonRun read = sides.python(QStringList{"read", count} + expected.classesRefused, driver.output.toUtf8());
-    QVERIFY2(sorted(faultyDatatypes(read)) == sorted(expected.differentInCxx), qPrintable(read.output.left(4000)));
-    QVERIFY2(read.output.endsWith(QStringLiteral("%1 values\n").arg(values.count('\n'))),
-             qPrintable(read.output.right(1000)));
-}
-
-// Values of the codec come back from the generated code as the same octets and as the same values, but for those that
-// hold what has no encoding there: these are refused for that reason.
-void checkThereAndBack(const DtBothSides& sides, const DtExpectedAnswers& expected, int count)
-{
-    QCOMPARE(sides.python({"refused"}).output.trimmed(), expected.notInPython.join('\n'));
-    QCOMPARE(sides.classesWithoutEncoding().join('\n'), expected.classesRefused.join('\n'));
-    const QString errors = sides.compile();
-    QVERIFY2(errors.isEmpty(), qPrintable(errors));
-    checkStart(sides, expected);
-    const QString number = QString::number(count);
-    const DtPythonRun values = sides.python({"values", number});
-    QVERIFY2(values.isGood(), qPrintable(values.output.right(2000)));
-    const DtPythonRun driver = sides.driver(values.output.toUtf8());
-    QCOMPARE(driver.exitCode, 0);
-    const DtPythonRun back =
-        sides.python(QStringList{"back", number} + expected.classesRefused, driver.output.toUtf8());
-    QVERIFY2(sorted(faultyDatatypes(back)) == sorted(expected.differentInCxx), qPrintable(back.output.left(4000)));
-    QCOMPARE(sorted(linesBehind("refused ", back.output)), sorted(expected.holdingThese));
-    const int datatypes = sides.datatypes().size() - expected.notInPython.size();
-    const QString total = QStringLiteral("%1 values").arg(datatypes * count);
-    QVERIFY2(back.output.endsWith(total + '\n'), qPrintable(back.output.right(1000)));
-    checkRead(sides, expected, number, values.output.toUtf8());
-    qInfo("%s of %d datatypes", qPrintable(total), datatypes);
-}
-
-bool isFullRunWith(const QString& model)
-{
-    if (!isFullRun())
-        qInfo("Left to the full run, which sets QX_FULL.");
-    else if (!QFile::exists(model))
-        qInfo("The model is not here.");
-    return isFullRun() && QFile::exists(model) && hasPython();
-}
 } // namespace
 
 class TestPythonCodec : public QObject
@@ -246,47 +150,6 @@ private Q_SLOTS:
         expected.classesRefused = theRefusedOfTheManagementModel;
         if (!largeModel().isEmpty() && isFullRunWith(largeModel().front()))
             checkThereAndBack(DtBothSides(largeModel()), expected, 1000);
-    }
-
-    // The smaller models: modules that go together, and models of older formats, which stand alone. Those of NETN use
-    // datatypes of modules that there are in the form of 2010 only.
-    void valuesOfFurtherModelsGoThereAndBack_data()
-    {
-        QTest::addColumn<QStringList>("files");
-        QTest::addColumn<QStringList>("notInPython");
-        QTest::addColumn<QStringList>("notAtTheStart");
-        const QStringList none;
-        QTest::newRow("Restaurant") << words("1516-2010/RestaurantFOMmodule.xml") << none << none;
-        QTest::newRow("sine") << words("1516-2010/SineExample.xml") << none << none;
-        QTest::newRow("Restaurant 2025") << words("1516-2025/RestaurantFOMmodule-2025.xml "
-                                                  "1516-2025/RestaurantExtensionFOMmodule-2025.xml")
-                                         << none << none;
-        QTest::newRow("NETN") << words("1516-2025/NETN-BASE.xml 1516-2025/NETN-MRM.xml")
-                              << words("QuantityInt32 AggregateStateFormationEnum32 DamageStatusEnum32 "
-                                       "ArrayOfSupplyStatus LocationStructArray ArrayOfResourceStatus LocationStruct "
-                                       "GeodeticCircle SupplyStatusStruct ResourceStatusStruct")
-                              << QStringList{"GeodeticCircle refused: the model does not define the datatype",
-                                             "LocationStruct refused: the model does not define the datatype"};
-        QTest::newRow("two levels") << words("1516-2000/TwoLevelClasses.xml") << none << none;
-        QTest::newRow("Restaurant, text") << words("omt13/Restaurant_converted.omt") << none << none;
-    }
-    void valuesOfFurtherModelsGoThereAndBack()
-    {
-        QFETCH(QStringList, files);
-        QFETCH(QStringList, notInPython);
-        QFETCH(QStringList, notAtTheStart);
-        DtExpectedAnswers expected;
-        expected.notInPython = notInPython;
-        expected.notAtTheStart = notAtTheStart;
-        for (QString& file : files)
-            file.prepend(QStringLiteral(QX_SHARED_DIR "/models/"));
-        if (!isFullRunWith(files.front()))
-            return;
-        const bool isOf2025 = files.front().contains("/1516-2025/");
-        const bool isOfModules = isOf2025 || files.front().contains("/1516-2010/");
-        if (isOfModules)
-            expected.classesRefused = isOf2025 ? theRefusedOf2025 : theRefusedOfTheManagementModel;
-        checkThereAndBack(isOfModules ? DtBothSides(files) : DtBothSides(files.front()), expected, 1000);
     }
 
     // What ends with an array without length stands where it cannot in four datatypes. Four more hold several open

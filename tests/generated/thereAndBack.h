@@ -15,7 +15,6 @@ struct DtExpectedAnswers
     QStringList classesRefused = {}; // C++ classes without an encoding
     QStringList holdingThese = {};   // datatypes with values that hold such a class
     QStringList notAtTheStart = {};  // what an object as it starts does not encode, or does not take back
-    QStringList differentInCxx = {}; // datatypes with another form there
 };
 
 inline QStringList words(const char* text)
@@ -64,7 +63,7 @@ inline void checkRead(const DtBothSides& sides, const DtExpectedAnswers& expecte
     QCOMPARE(driver.exitCode, 0);
     const DtPythonRun read =
         sides.python(QStringList{"read", number} + expected.classesRefused, driver.output.toUtf8());
-    QVERIFY2(sorted(faultyDatatypes(read)) == sorted(expected.differentInCxx), qPrintable(read.output.left(4000)));
+    QVERIFY2(faultyDatatypes(read).isEmpty(), qPrintable(read.output.left(4000)));
     const int datatypes = sides.datatypes().size() - expected.notInPython.size();
     const QString total = QStringLiteral("%1 values").arg(datatypes * count);
     QVERIFY2(read.output.endsWith(total + '\n'), qPrintable(read.output.right(1000)));
@@ -86,7 +85,7 @@ inline void checkThereAndBack(const DtBothSides& sides, const DtExpectedAnswers&
     QCOMPARE(driver.exitCode, 0);
     const DtPythonRun back =
         sides.python(QStringList{"back", number} + expected.classesRefused, driver.output.toUtf8());
-    QVERIFY2(sorted(faultyDatatypes(back)) == sorted(expected.differentInCxx), qPrintable(back.output.left(4000)));
+    QVERIFY2(faultyDatatypes(back).isEmpty(), qPrintable(back.output.left(4000)));
     QCOMPARE(sorted(linesBehind("refused ", back.output)), sorted(expected.holdingThese));
     const int datatypes = sides.datatypes().size() - expected.notInPython.size();
     const QString total = QStringLiteral("%1 values").arg(datatypes * count);

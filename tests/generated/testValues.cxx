@@ -160,7 +160,7 @@ void TestValues::pythonGivesTheOctetsAndValues()
 {
     QFETCH(QString, model);
     if (!hasPython())
-        return;
+        QSKIP(theMissingPython);
     const DtPythonRun run = sidesOf(model).python({"vectors", fileOf(model, ".txt")});
     QVERIFY2(run.isGood(), told(run).constData());
     QCOMPARE(run.output, QStringLiteral("%1 vectors, 0 failures\n").arg(countOfVectors(model)));
@@ -170,7 +170,7 @@ void TestValues::cxxGivesTheOctetsAndValues()
 {
     QFETCH(QString, model);
     if (!hasPython())
-        return;
+        QSKIP(theMissingPython);
     const DtBothSides& sides = sidesOf(model);
     const QString errors = sides.compile();
     QVERIFY2(errors.isEmpty(), qPrintable(errors));
@@ -183,7 +183,7 @@ void TestValues::randomValuesGoThereAndBack()
 {
     QFETCH(QString, model);
     if (!hasPython())
-        return;
+        QSKIP(theMissingPython);
     const DtBothSides& sides = sidesOf(model);
     QVERIFY2(sides.compile().isEmpty(), qPrintable(sides.compile()));
     const QString count = isFullRun() ? "1000" : "50";
@@ -212,7 +212,7 @@ void TestValues::wrongValuesAreNoticed()
     QFETCH(QString, instead);
     QFETCH(QString, fault);
     if (!hasPython())
-        return;
+        QSKIP(theMissingPython);
     const DtBothSides& sides = sidesOf("usual");
     QStringList lines = QString::fromUtf8(usualAnswers()).split('\n');
     int changed = 0;
@@ -233,7 +233,7 @@ void TestValues::wrongValuesAreNoticed()
 void TestValues::wrongOctetsAreNoticed()
 {
     if (!hasPython())
-        return;
+        QSKIP(theMissingPython);
     const DtBothSides& sides = sidesOf("usual");
     const QString attribute = sides.attributeOf("EntityTypeStruct");
     QString lines = QString::fromUtf8(usualAnswers());
@@ -250,7 +250,7 @@ void TestValues::wrongOctetsAreNoticed()
 void TestValues::structureWithAMemberMoreIsRefused()
 {
     if (!hasPython())
-        return;
+        QSKIP(theMissingPython);
     const DtBothSides& sides = sidesOf("memberMore");
     QVERIFY2(sides.compile().isEmpty(), qPrintable(sides.compile()));
     const QByteArray lines = sides.python({"octets", fileOf("memberMore", ".txt")}).output.toUtf8();

@@ -94,13 +94,16 @@ inline void checkThereAndBack(const DtBothSides& sides, const DtExpectedAnswers&
     qInfo("%s of %d datatypes", qPrintable(total), datatypes);
 }
 
-inline bool isFullRunWith(const QString& model)
+// Why a test of this model is skipped; empty when it is not.
+inline QByteArray lackOf(const QString& model)
 {
-    if (!isFullRun())
-        qInfo("Left to the full run, which sets QX_FULL.");
-    else if (!QFile::exists(model))
-        qInfo("The model is not here.");
-    return isFullRun() && QFile::exists(model) && hasPython();
+    if (!QFile::exists(model))
+        return "The model is not here.";
+    return hasPython() ? "" : theMissingPython;
+}
+inline QByteArray lackOfFullRunWith(const QString& model)
+{
+    return isFullRun() ? lackOf(model) : "Left to the full run, which sets QX_FULL.";
 }
 
 #endif

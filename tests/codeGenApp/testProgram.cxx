@@ -353,12 +353,17 @@ void TestProgram::withoutDisplayAMissingConditionEndsTheRun_data()
 {
     QTest::addColumn<QByteArray>("start");
     QTest::addColumn<QByteArray>("condition");
-    QTest::newRow("no output directory") << QByteArray("no output directory")
-                                         << QByteArray("no output directory was given");
-    QTest::newRow("empty output directory")
-        << QByteArray("empty output directory") << QByteArray("no output directory was given");
-    QTest::newRow("no model") << QByteArray("no model")
-                              << QByteArray("no model file was given and no project is valid");
+    const struct
+    {
+        const char* name;
+        QByteArray start, condition;
+    } theRows[] = {
+        {"no output directory",    "no output directory",    "no output directory was given"                  },
+        {"empty output directory", "empty output directory", "no output directory was given"                  },
+        {"no model",               "no model",               "no model file was given and no project is valid"},
+    };
+    for (const auto& row : theRows)
+        QTest::newRow(row.name) << row.start << row.condition;
 }
 
 void TestProgram::withoutDisplayAMissingConditionEndsTheRun()

@@ -112,21 +112,19 @@ void TestAttribute::variantCondition_data()
     QTest::addColumn<QString>("cardinality");
     QTest::addColumn<QString>("discriminant");
     QTest::addColumn<QString>("value");
-    QTest::newRow("condition") << "0-1(Kind=2)"
-                               << "Kind"
-                               << "2";
-    QTest::newRow("blanks") << "0-1 ( Kind Of = Two 2 )"
-                            << "KindOf"
-                            << "Two2";
-    QTest::newRow("last parenthesis") << "0-1(a(b(Kind=2)))"
-                                      << "Kind"
-                                      << "2";
-    QTest::newRow("no parenthesis") << "0-1=x"
-                                    << "0-1"
-                                    << "x";
-    QTest::newRow("empty sides") << "0-1(=)"
-                                 << ""
-                                 << "";
+    const struct
+    {
+        const char* name;
+        QString cardinality, discriminant, value;
+    } theRows[] = {
+        {"condition",        "0-1(Kind=2)",             "Kind",   "2"   },
+        {"blanks",           "0-1 ( Kind Of = Two 2 )", "KindOf", "Two2"},
+        {"last parenthesis", "0-1(a(b(Kind=2)))",       "Kind",   "2"   },
+        {"no parenthesis",   "0-1=x",                   "0-1",    "x"   },
+        {"empty sides",      "0-1(=)",                  "",       ""    },
+    };
+    for (const auto& row : theRows)
+        QTest::newRow(row.name) << row.cardinality << row.discriminant << row.value;
 }
 
 void TestAttribute::variantCondition()
@@ -165,28 +163,25 @@ void TestAttribute::netTypeOfPlainTypes_data()
 {
     QTest::addColumn<QString>("type");
     QTest::addColumn<QString>("netType");
-    QTest::newRow("bool") << "bool"
-                          << "DtNetBoolean";
-    QTest::newRow("string") << "DtString"
-                            << "DtString";
-    QTest::newRow("time") << "DtHlaLogicalTime"
-                          << "DtHlaLogicalTime";
-    QTest::newRow("interval") << "DtHlaLogicalTimeInterval"
-                              << "DtHlaLogicalTimeInterval";
-    QTest::newRow("designator") << "DtGlobalObjectDesignator"
-                                << "DtGlobalObjectDesignator";
-    QTest::newRow("vector") << "DtVector"
-                            << "DtNetVector64";
-    QTest::newRow("orientation") << "DtTaitBryan"
-                                 << "DtNetEulerAngles";
-    QTest::newRow("integer") << "DtU16"
-                             << "DtNetU16";
-    QTest::newRow("class") << "DtFooDtBar"
-                           << "DtNetFooDtBar";
-    QTest::newRow("std vector") << "std::vector<DtFoo>"
-                                << "std::vector<DtNetFoo>";
-    QTest::newRow("raw name") << "Foo"
-                              << "Foo";
+    const struct
+    {
+        const char* name;
+        QString type, netType;
+    } theRows[] = {
+        {"bool",        "bool",                     "DtNetBoolean"            },
+        {"string",      "DtString",                 "DtString"                },
+        {"time",        "DtHlaLogicalTime",         "DtHlaLogicalTime"        },
+        {"interval",    "DtHlaLogicalTimeInterval", "DtHlaLogicalTimeInterval"},
+        {"designator",  "DtGlobalObjectDesignator", "DtGlobalObjectDesignator"},
+        {"vector",      "DtVector",                 "DtNetVector64"           },
+        {"orientation", "DtTaitBryan",              "DtNetEulerAngles"        },
+        {"integer",     "DtU16",                    "DtNetU16"                },
+        {"class",       "DtFooDtBar",               "DtNetFooDtBar"           },
+        {"std vector",  "std::vector<DtFoo>",       "std::vector<DtNetFoo>"   },
+        {"raw name",    "Foo",                      "Foo"                     },
+    };
+    for (const auto& row : theRows)
+        QTest::newRow(row.name) << row.type << row.netType;
 }
 
 void TestAttribute::netTypeOfPlainTypes()
@@ -276,36 +271,24 @@ void TestAttribute::netSizeString_data()
     QTest::addColumn<QString>("type");
     QTest::addColumn<QString>("cardinality");
     QTest::addColumn<QString>("expected");
-    QTest::newRow("string") << "DtString"
-                            << "1"
-                            << "myMark.length() + 1";
-    QTest::newRow("strings") << "DtString"
-                             << "3"
-                             << "3 * myMark.length() + 1";
-    QTest::newRow("designator") << "DtGlobalObjectDesignator"
-                                << "1"
-                                << "myMark.length() + 1";
-    QTest::newRow("integer") << "DtU16"
-                             << "1"
-                             << "sizeof(DtNetU16)";
-    QTest::newRow("integers") << "DtU16"
-                              << "4"
-                              << "4 * sizeof(DtNetU16)";
-    QTest::newRow("known without initial value") << "DtEntityType"
-                                                 << "1"
-                                                 << "sizeof(DtNetEntityType)";
-    QTest::newRow("enumeration by its initial value") << "AttrKindEnum"
-                                                      << "1"
-                                                      << "sizeof(DtNetU32)";
-    QTest::newRow("class") << "DtFoo"
-                           << "1"
-                           << "myMark.netSize()";
-    QTest::newRow("classes") << "DtFoo"
-                             << "2"
-                             << "2 * myMark[0].netSize()";
-    QTest::newRow("open array") << "DtFoo"
-                                << "0+"
-                                << "myMark.netSize()";
+    const struct
+    {
+        const char* name;
+        QString type, cardinality, expected;
+    } theRows[] = {
+        {"string",                           "DtString",                 "1",  "myMark.length() + 1"    },
+        {"strings",                          "DtString",                 "3",  "3 * myMark.length() + 1"},
+        {"designator",                       "DtGlobalObjectDesignator", "1",  "myMark.length() + 1"    },
+        {"integer",                          "DtU16",                    "1",  "sizeof(DtNetU16)"       },
+        {"integers",                         "DtU16",                    "4",  "4 * sizeof(DtNetU16)"   },
+        {"known without initial value",      "DtEntityType",             "1",  "sizeof(DtNetEntityType)"},
+        {"enumeration by its initial value", "AttrKindEnum",             "1",  "sizeof(DtNetU32)"       },
+        {"class",                            "DtFoo",                    "1",  "myMark.netSize()"       },
+        {"classes",                          "DtFoo",                    "2",  "2 * myMark[0].netSize()"},
+        {"open array",                       "DtFoo",                    "0+", "myMark.netSize()"       },
+    };
+    for (const auto& row : theRows)
+        QTest::newRow(row.name) << row.type << row.cardinality << row.expected;
 }
 
 void TestAttribute::netSizeString()

@@ -45,28 +45,25 @@ void TestCCompatibleName::specialCharactersBecomeUnderscores_data()
 {
     QTest::addColumn<QString>("name");
     QTest::addColumn<QString>("expected");
-    QTest::newRow("plain") << "Plain9_"
-                           << "Plain9_";
-    QTest::newRow("empty") << ""
-                           << "";
-    QTest::newRow("slash and point") << "a/b.c"
-                                     << "a__b__c";
-    QTest::newRow("hash") << "a#b"
-                          << "a__b";
-    QTest::newRow("ampersand") << "a&b"
-                               << "a__b";
-    QTest::newRow("hyphen") << "a-b"
-                            << "a__b";
-    QTest::newRow("blank") << "a b"
-                           << "a__b";
-    QTest::newRow("angle brackets") << "a<b>"
-                                    << "a_b_";
-    QTest::newRow("parentheses") << "a(b)"
-                                 << "a_b_";
-    QTest::newRow("all") << "/#&-. ()<>"
-                         << "________________";
-    QTest::newRow("others stay") << "a,b[1]:+"
-                                 << "a,b[1]:+";
+    const struct
+    {
+        const char* tag;
+        QString name, expected;
+    } theRows[] = {
+        {"plain",           "Plain9_",    "Plain9_"         },
+        {"empty",           "",           ""                },
+        {"slash and point", "a/b.c",      "a__b__c"         },
+        {"hash",            "a#b",        "a__b"            },
+        {"ampersand",       "a&b",        "a__b"            },
+        {"hyphen",          "a-b",        "a__b"            },
+        {"blank",           "a b",        "a__b"            },
+        {"angle brackets",  "a<b>",       "a_b_"            },
+        {"parentheses",     "a(b)",       "a_b_"            },
+        {"all",             "/#&-. ()<>", "________________"},
+        {"others stay",     "a,b[1]:+",   "a,b[1]:+"        },
+    };
+    for (const auto& row : theRows)
+        QTest::newRow(row.tag) << row.name << row.expected;
 }
 
 void TestCCompatibleName::specialCharactersBecomeUnderscores()

@@ -426,26 +426,24 @@ void TestClassFileWriter::attributeNames_data()
 {
     QTest::addColumn<QString>("name");
     QTest::addColumn<QString>("expected");
-    QTest::newRow("plain") << "Speed"
-                           << "speed Speed Speed";
-    QTest::newRow("keyword of both lists") << "class"
-                                           << "theClass TheClass _class";
-    QTest::newRow("keyword in capitals at the start") << "Template"
-                                                      << "theTemplate TheTemplate Template";
-    QTest::newRow("keyword of the language only") << "int"
-                                                  << "theInt TheInt int";
-    QTest::newRow("word of the table only") << "lock"
-                                            << "_lock Lock _lock";
-    QTest::newRow("word of the table by its lowering") << "Lock"
-                                                       << "_lock Lock Lock";
-    QTest::newRow("capitals") << "HLAid"
-                              << "HLAid HLAid HLAid";
-    QTest::newRow("slash and point") << "a/b.c"
-                                     << "a__b__c A__b__c a__b__c";
-    QTest::newRow("angle brackets") << "Of<x>"
-                                    << "of_x_ Of_x_ Of_x_";
-    QTest::newRow("empty") << ""
-                           << "  ";
+    const struct
+    {
+        const char* tag;
+        QString name, expected;
+    } theRows[] = {
+        {"plain",                             "Speed",    "speed Speed Speed"               },
+        {"keyword of both lists",             "class",    "theClass TheClass _class"        },
+        {"keyword in capitals at the start",  "Template", "theTemplate TheTemplate Template"},
+        {"keyword of the language only",      "int",      "theInt TheInt int"               },
+        {"word of the table only",            "lock",     "_lock Lock _lock"                },
+        {"word of the table by its lowering", "Lock",     "_lock Lock Lock"                 },
+        {"capitals",                          "HLAid",    "HLAid HLAid HLAid"               },
+        {"slash and point",                   "a/b.c",    "a__b__c A__b__c a__b__c"         },
+        {"angle brackets",                    "Of<x>",    "of_x_ Of_x_ Of_x_"               },
+        {"empty",                             "",         "  "                              },
+    };
+    for (const auto& row : theRows)
+        QTest::newRow(row.tag) << row.name << row.expected;
 }
 
 void TestClassFileWriter::attributeNames()
@@ -480,27 +478,21 @@ void TestClassFileWriter::encodingRules_data()
     QTest::addColumn<QString>("datatype");
     QTest::addColumn<QString>("encoding");
     QTest::addColumn<QString>("expected");
-    QTest::newRow("of the datatype") << "CfwArray"
-                                     << "Own"
-                                     << "CfwArrayEncoding";
-    QTest::newRow("of the attribute") << "CfwOther"
-                                      << "Own"
-                                      << "Own";
-    QTest::newRow("object id") << "RTIobjectId"
-                               << "Own"
-                               << "RPRnullTerminatedArray";
-    QTest::newRow("object id, other spelling") << "RTIObjectId"
-                                               << ""
-                                               << "RPRnullTerminatedArray";
-    QTest::newRow("none") << "CfwOther"
-                          << ""
-                          << "HLAvariableArray";
-    QTest::newRow("no datatype") << ""
-                                 << "Own"
-                                 << "Own";
-    QTest::newRow("nothing") << ""
-                             << ""
-                             << "HLAvariableArray";
+    const struct
+    {
+        const char* name;
+        QString datatype, encoding, expected;
+    } theRows[] = {
+        {"of the datatype",           "CfwArray",    "Own", "CfwArrayEncoding"      },
+        {"of the attribute",          "CfwOther",    "Own", "Own"                   },
+        {"object id",                 "RTIobjectId", "Own", "RPRnullTerminatedArray"},
+        {"object id, other spelling", "RTIObjectId", "",    "RPRnullTerminatedArray"},
+        {"none",                      "CfwOther",    "",    "HLAvariableArray"      },
+        {"no datatype",               "",            "Own", "Own"                   },
+        {"nothing",                   "",            "",    "HLAvariableArray"      },
+    };
+    for (const auto& row : theRows)
+        QTest::newRow(row.name) << row.datatype << row.encoding << row.expected;
 }
 
 void TestClassFileWriter::encodingRules()
@@ -728,20 +720,21 @@ void TestClassFileWriter::objectRootIsCutAtTheStartOnly_data()
 {
     QTest::addColumn<QString>("name");
     QTest::addColumn<QString>("expected");
-    QTest::newRow("old root") << "ObjectRoot.A.B"
-                              << "A.B";
-    QTest::newRow("new root") << "HLAobjectRoot.A"
-                              << "A";
-    QTest::newRow("both") << "ObjectRoot.HLAobjectRoot.A"
-                          << "HLAobjectRoot.A";
-    QTest::newRow("further on") << "A.ObjectRoot.B"
-                                << "A.ObjectRoot.B";
-    QTest::newRow("no point") << "ObjectRoot"
-                              << "ObjectRoot";
-    QTest::newRow("interaction") << "InteractionRoot.A"
-                                 << "InteractionRoot.A";
-    QTest::newRow("none") << "A.B"
-                          << "A.B";
+    const struct
+    {
+        const char* tag;
+        QString name, expected;
+    } theRows[] = {
+        {"old root",    "ObjectRoot.A.B",             "A.B"              },
+        {"new root",    "HLAobjectRoot.A",            "A"                },
+        {"both",        "ObjectRoot.HLAobjectRoot.A", "HLAobjectRoot.A"  },
+        {"further on",  "A.ObjectRoot.B",             "A.ObjectRoot.B"   },
+        {"no point",    "ObjectRoot",                 "ObjectRoot"       },
+        {"interaction", "InteractionRoot.A",          "InteractionRoot.A"},
+        {"none",        "A.B",                        "A.B"              },
+    };
+    for (const auto& row : theRows)
+        QTest::newRow(row.tag) << row.name << row.expected;
 }
 
 void TestClassFileWriter::objectRootIsCutAtTheStartOnly()
@@ -754,14 +747,18 @@ void TestClassFileWriter::interactionRootIsCutAtTheStartOnly_data()
 {
     QTest::addColumn<QString>("name");
     QTest::addColumn<QString>("expected");
-    QTest::newRow("old root") << "InteractionRoot.A.B"
-                              << "A.B";
-    QTest::newRow("new root") << "HLAinteractionRoot.A"
-                              << "A";
-    QTest::newRow("further on") << "A.InteractionRoot.B"
-                                << "A.InteractionRoot.B";
-    QTest::newRow("object") << "ObjectRoot.A"
-                            << "ObjectRoot.A";
+    const struct
+    {
+        const char* tag;
+        QString name, expected;
+    } theRows[] = {
+        {"old root",   "InteractionRoot.A.B",  "A.B"                },
+        {"new root",   "HLAinteractionRoot.A", "A"                  },
+        {"further on", "A.InteractionRoot.B",  "A.InteractionRoot.B"},
+        {"object",     "ObjectRoot.A",         "ObjectRoot.A"       },
+    };
+    for (const auto& row : theRows)
+        QTest::newRow(row.tag) << row.name << row.expected;
 }
 
 void TestClassFileWriter::interactionRootIsCutAtTheStartOnly()

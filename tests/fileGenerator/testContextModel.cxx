@@ -667,13 +667,19 @@ void TestContextModel::variantsTellTheirPadding_data()
     QTest::addColumn<QByteArray>("discriminant");
     QTest::addColumn<QByteArray>("alternative");
     QTest::addColumn<QString>("values");
-    QTest::newRow("greater alternative") << QByteArray("Int32") << QByteArray("Int64")
-                                         << "VariantBoundary=4 VariantPadding=4";
-    QTest::newRow("equal") << QByteArray("Int32") << QByteArray("Int32") << "VariantBoundary=4 VariantPadding=4";
-    QTest::newRow("smaller alternative") << QByteArray("Int64") << QByteArray("HLAoctet")
-                                         << "VariantBoundary=8 VariantPadding=8";
-    QTest::newRow("much greater") << QByteArray("HLAoctet") << QByteArray("Int64")
-                                  << "VariantBoundary=1 VariantPadding=7";
+    const struct
+    {
+        const char* name;
+        QByteArray discriminant, alternative;
+        QString values;
+    } theRows[] = {
+        {"greater alternative", "Int32",    "Int64",    "VariantBoundary=4 VariantPadding=4"},
+        {"equal",               "Int32",    "Int32",    "VariantBoundary=4 VariantPadding=4"},
+        {"smaller alternative", "Int64",    "HLAoctet", "VariantBoundary=8 VariantPadding=8"},
+        {"much greater",        "HLAoctet", "Int64",    "VariantBoundary=1 VariantPadding=7"},
+    };
+    for (const auto& row : theRows)
+        QTest::newRow(row.name) << row.discriminant << row.alternative << row.values;
 }
 
 void TestContextModel::variantsTellTheirPadding()
@@ -794,18 +800,20 @@ void TestContextModel::omtNameBecomesFed_data()
 {
     QTest::addColumn<QString>("name");
     QTest::addColumn<QString>("fed");
-    QTest::newRow("small") << "a/old.omt"
-                           << "a/old.fed";
-    QTest::newRow("capital") << "Old.OMT"
-                             << "Old.fed";
-    QTest::newRow("mixed") << "x.y.oMt"
-                           << "x.y.fed";
-    QTest::newRow("nothing else") << ".omt"
-                                  << ".fed";
-    QTest::newRow("another ending") << "old.omt.xml"
-                                    << "old.omt.xml";
-    QTest::newRow("no dot") << "omt"
-                            << "omt";
+    const struct
+    {
+        const char* tag;
+        QString name, fed;
+    } theRows[] = {
+        {"small",          "a/old.omt",   "a/old.fed"  },
+        {"capital",        "Old.OMT",     "Old.fed"    },
+        {"mixed",          "x.y.oMt",     "x.y.fed"    },
+        {"nothing else",   ".omt",        ".fed"       },
+        {"another ending", "old.omt.xml", "old.omt.xml"},
+        {"no dot",         "omt",         "omt"        },
+    };
+    for (const auto& row : theRows)
+        QTest::newRow(row.tag) << row.name << row.fed;
 }
 
 void TestContextModel::omtNameBecomesFed()

@@ -239,16 +239,19 @@ void TestContextTypes::enumerationWithoutTypeTakesAnotherBySize_data()
 {
     QTest::addColumn<QString>("representation");
     QTest::addColumn<QString>("type");
-    QTest::newRow("octet") << "8 bits"
-                           << "Simple32";
-    QTest::newRow("two octets") << "16"
-                                << "Simple64";
-    QTest::newRow("four octets") << "32"
-                                 << "Basic64";
-    QTest::newRow("eight octets") << "64"
-                                  << "other";
-    QTest::newRow("any other size") << "24"
-                                    << "Basic64";
+    const struct
+    {
+        const char* name;
+        QString representation, type;
+    } theRows[] = {
+        {"octet",          "8 bits", "Simple32"},
+        {"two octets",     "16",     "Simple64"},
+        {"four octets",    "32",     "Basic64" },
+        {"eight octets",   "64",     "other"   },
+        {"any other size", "24",     "Basic64" },
+    };
+    for (const auto& row : theRows)
+        QTest::newRow(row.name) << row.representation << row.type;
 }
 
 void TestContextTypes::enumerationWithoutTypeTakesAnotherBySize()
@@ -276,22 +279,22 @@ void TestContextTypes::memberOfOtherKinds_data()
 {
     QTest::addColumn<QString>("name");
     QTest::addColumn<QString>("kind");
-    QTest::newRow("array") << "An Array"
-                           << "Array";
-    QTest::newRow("fixed") << "A Record"
-                           << "FixedRec";
-    QTest::newRow("complex") << "A Complex"
-                             << "ComplexRec";
-    QTest::newRow("variant") << "A Variant"
-                             << "VariantRec";
-    QTest::newRow("basic") << "Basic32"
-                           << "Unknown";
-    QTest::newRow("nothing") << "No Type"
-                             << "Unknown";
-    QTest::newRow("array goes first") << "All"
-                                      << "Array";
-    QTest::newRow("fixed goes ahead of complex") << "Two"
-                                                 << "FixedRec";
+    const struct
+    {
+        const char* tag;
+        QString name, kind;
+    } theRows[] = {
+        {"array",                       "An Array",  "Array"     },
+        {"fixed",                       "A Record",  "FixedRec"  },
+        {"complex",                     "A Complex", "ComplexRec"},
+        {"variant",                     "A Variant", "VariantRec"},
+        {"basic",                       "Basic32",   "Unknown"   },
+        {"nothing",                     "No Type",   "Unknown"   },
+        {"array goes first",            "All",       "Array"     },
+        {"fixed goes ahead of complex", "Two",       "FixedRec"  },
+    };
+    for (const auto& row : theRows)
+        QTest::newRow(row.tag) << row.name << row.kind;
 }
 
 void TestContextTypes::memberOfOtherKinds()

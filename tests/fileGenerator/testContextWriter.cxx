@@ -175,23 +175,22 @@ void TestContextWriter::tokensAreReplacedInTheOrderOfTheLine_data()
 {
     QTest::addColumn<QString>("line");
     QTest::addColumn<QString>("expansion");
-    QTest::newRow("value on the line is replaced in turn") << "<!A!> <!B!>"
-                                                           << "b b";
-    QTest::newRow("but not one that came before") << "<!B!> <!A!>"
-                                                  << "b <!B!>";
-    QTest::newRow("unless it comes again") << "<!B!> <!A!> <!B!>"
-                                           << "b b b";
-    QTest::newRow("value that is not on the line stays") << "<!A!>"
-                                                         << "<!B!>";
-    QTest::newRow("chain") << "<!C!> <!A!> <!B!>"
-                           << "b b b";
-    QTest::newRow("value that names itself ends") << "<!Self!>"
-                                                  << "<!Self!>";
-    QTest::newRow("and grows with each repeat") << "<!Self2!><!Self2!>"
-                                                << "<!Self2!><!Self2!><!Self2!><!Self2!>"
-                                                   "<!Self2!><!Self2!><!Self2!><!Self2!>";
-    QTest::newRow("halves that join") << "<!Half!>B!> <!B!>"
-                                      << "b b";
+    const struct
+    {
+        const char* name;
+        QString line, expansion;
+    } theRows[] = {
+        {"value on the line is replaced in turn", "<!A!> <!B!>",        "b b"                           },
+        {"but not one that came before",          "<!B!> <!A!>",        "b <!B!>"                       },
+        {"unless it comes again",                 "<!B!> <!A!> <!B!>",  "b b b"                         },
+        {"value that is not on the line stays",   "<!A!>",              "<!B!>"                         },
+        {"chain",                                 "<!C!> <!A!> <!B!>",  "b b b"                         },
+        {"value that names itself ends",          "<!Self!>",           "<!Self!>"                      },
+        {"and grows with each repeat",            "<!Self2!><!Self2!>", QString("<!Self2!>").repeated(8)},
+        {"halves that join",                      "<!Half!>B!> <!B!>",  "b b"                           },
+    };
+    for (const auto& row : theRows)
+        QTest::newRow(row.name) << row.line << row.expansion;
 }
 
 void TestContextWriter::tokensAreReplacedInTheOrderOfTheLine()

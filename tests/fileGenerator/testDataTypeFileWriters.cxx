@@ -253,24 +253,21 @@ void TestDataTypeFileWriters::basicTokens_data()
     QTest::addColumn<QString>("size");
     QTest::addColumn<QString>("endian");
     QTest::addColumn<QString>("expected"); // in the class, then in the attribute
-    QTest::newRow("big") << "32"
-                         << "Big"
-                         << "Pre 4 0 <!BasicSize!>|Pre 4 0 32";
-    QTest::newRow("little") << "16"
-                            << "Little"
-                            << "Pre 2 1 <!BasicSize!>|Pre 2 1 16";
-    QTest::newRow("no endian") << "8"
-                               << ""
-                               << "Pre 1 1 <!BasicSize!>|Pre 1 1 8";
-    QTest::newRow("other case") << "64"
-                                << "big"
-                                << "Pre 8 1 <!BasicSize!>|Pre 8 1 64";
-    QTest::newRow("no whole bytes") << "12"
-                                    << "Big"
-                                    << "Pre 1 0 <!BasicSize!>|Pre 1 0 12";
-    QTest::newRow("no size") << ""
-                             << "Big"
-                             << "Pre 0 0 <!BasicSize!>|Pre 0 0 ";
+    const struct
+    {
+        const char* name;
+        QString size, endian;
+        QString expected;
+    } theRows[] = {
+        {"big",            "32", "Big",    "Pre 4 0 <!BasicSize!>|Pre 4 0 32"},
+        {"little",         "16", "Little", "Pre 2 1 <!BasicSize!>|Pre 2 1 16"},
+        {"no endian",      "8",  "",       "Pre 1 1 <!BasicSize!>|Pre 1 1 8" },
+        {"other case",     "64", "big",    "Pre 8 1 <!BasicSize!>|Pre 8 1 64"},
+        {"no whole bytes", "12", "Big",    "Pre 1 0 <!BasicSize!>|Pre 1 0 12"},
+        {"no size",        "",   "Big",    "Pre 0 0 <!BasicSize!>|Pre 0 0 "  },
+    };
+    for (const auto& row : theRows)
+        QTest::newRow(row.name) << row.size << row.endian << row.expected;
 }
 
 void TestDataTypeFileWriters::basicTokens()
@@ -345,21 +342,19 @@ void TestDataTypeFileWriters::encodingOfAnArray_data()
     QTest::addColumn<QString>("encoding");
     QTest::addColumn<QString>("cardinality");
     QTest::addColumn<QString>("expected");
-    QTest::newRow("1") << "HLAfixedArray"
-                       << "3"
-                       << "HLAfixedArray";
-    QTest::newRow("4") << "RPRnullTerminatedArray"
-                       << "Dynamic"
-                       << "HLAnullTerminatedArray";
-    QTest::newRow("8") << "RPRlengthlessArray"
-                       << "Dynamic"
-                       << "HLAlengthlessVarArray";
-    QTest::newRow("10") << "HLAvariableArray"
-                        << "Dynamic"
-                        << "HLAvariableArray";
-    QTest::newRow("own encoding with a length") << "Custom"
-                                                << "4"
-                                                << "HLAfixedArray";
+    const struct
+    {
+        const char* name;
+        QString encoding, cardinality, expected;
+    } theRows[] = {
+        {"1",                          "HLAfixedArray",          "3",       "HLAfixedArray"         },
+        {"4",                          "RPRnullTerminatedArray", "Dynamic", "HLAnullTerminatedArray"},
+        {"8",                          "RPRlengthlessArray",     "Dynamic", "HLAlengthlessVarArray" },
+        {"10",                         "HLAvariableArray",       "Dynamic", "HLAvariableArray"      },
+        {"own encoding with a length", "Custom",                 "4",       "HLAfixedArray"         },
+    };
+    for (const auto& row : theRows)
+        QTest::newRow(row.name) << row.encoding << row.cardinality << row.expected;
 }
 
 void TestDataTypeFileWriters::encodingOfAnArray()
@@ -563,15 +558,17 @@ void TestDataTypeFileWriters::predefinedArrayEntry_data()
     QTest::addColumn<QString>("element");
     QTest::addColumn<QString>("cardinality");
     QTest::addColumn<QString>("expected");
-    QTest::newRow("mapped element") << "DwPreMapped"
-                                    << "4"
-                                    << "DtU8 4";
-    QTest::newRow("simple element") << "DwPreOver"
-                                    << "Dynamic"
-                                    << "DtU8 0+";
-    QTest::newRow("unknown element") << "DwPreNone"
-                                     << "1"
-                                     << " 1";
+    const struct
+    {
+        const char* name;
+        QString element, cardinality, expected;
+    } theRows[] = {
+        {"mapped element",  "DwPreMapped", "4",       "DtU8 4" },
+        {"simple element",  "DwPreOver",   "Dynamic", "DtU8 0+"},
+        {"unknown element", "DwPreNone",   "1",       " 1"     },
+    };
+    for (const auto& row : theRows)
+        QTest::newRow(row.name) << row.element << row.cardinality << row.expected;
 }
 
 void TestDataTypeFileWriters::predefinedArrayEntry()

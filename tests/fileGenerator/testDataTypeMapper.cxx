@@ -264,20 +264,20 @@ void TestDataTypeMapper::initialAndSampleValues_data()
 {
     QTest::addColumn<QString>("initial");
     QTest::addColumn<QString>("sample");
-    for (const char* type : {"DtU32", "DtU64", "DtU16", "DtInt16", "DtInt32", "DtInt64", "DtU8"})
-        QTest::newRow(type) << "0"
-                            << "32";
-    for (const char* type : {"DtFloat32", "DtFloat64"})
-        QTest::newRow(type) << "0.0"
-                            << "7.02";
-    QTest::newRow("bool") << "false"
-                          << "true";
-    for (const char* type : {"DtString", "DtGlobalObjectDesignator", "std::vector<DtU8>"})
-        QTest::newRow(type) << ""
-                            << "\"name\"";
-    for (const char* type : {"DtInt8", "DtVector", "Other", ""})
-        QTest::newRow(type) << ""
-                            << "";
+    const struct
+    {
+        QString initial, sample;
+        std::vector<const char*> types;
+    } theRows[] = {
+        {"0",     "32",       {"DtU32", "DtU64", "DtU16", "DtInt16", "DtInt32", "DtInt64", "DtU8"}},
+        {"0.0",   "7.02",     {"DtFloat32", "DtFloat64"}                                          },
+        {"false", "true",     {"bool"}                                                            },
+        {"",      "\"name\"", {"DtString", "DtGlobalObjectDesignator", "std::vector<DtU8>"}       },
+        {"",      "",         {"DtInt8", "DtVector", "Other", ""}                                 },
+    };
+    for (const auto& row : theRows)
+        for (const char* type : row.types)
+            QTest::newRow(type) << row.initial << row.sample;
 }
 
 void TestDataTypeMapper::initialAndSampleValues()

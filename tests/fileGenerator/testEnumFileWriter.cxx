@@ -94,24 +94,20 @@ void TestEnumFileWriter::sizeComesFromTheName_data()
     QTest::addColumn<QString>("name");
     QTest::addColumn<QString>("size");
     QTest::addColumn<QString>("representation");
-    QTest::newRow("32") << "EnumAEnum32"
-                        << "32"
-                        << "DtU32";
-    QTest::newRow("last Enum counts") << "EnumBEnum8Enum64"
-                                      << "64"
-                                      << "DtU64";
-    QTest::newRow("odd size") << "EnumCEnum12"
-                              << "12"
-                              << "DtU16";
-    QTest::newRow("no Enum, all digits") << "16"
-                                         << "16"
-                                         << "DtU16";
-    QTest::newRow("hexadecimal is a number") << "EnumDEnum0x20"
-                                             << "0x20"
-                                             << "DtU16";
-    QTest::newRow("text behind the number") << "EnumEEnum8bit"
-                                            << "8bit"
-                                            << "DtU8";
+    const struct
+    {
+        const char* tag;
+        QString name, size, representation;
+    } theRows[] = {
+        {"32",                      "EnumAEnum32",      "32",   "DtU32"},
+        {"last Enum counts",        "EnumBEnum8Enum64", "64",   "DtU64"},
+        {"odd size",                "EnumCEnum12",      "12",   "DtU16"},
+        {"no Enum, all digits",     "16",               "16",   "DtU16"},
+        {"hexadecimal is a number", "EnumDEnum0x20",    "0x20", "DtU16"},
+        {"text behind the number",  "EnumEEnum8bit",    "8bit", "DtU8" },
+    };
+    for (const auto& row : theRows)
+        QTest::newRow(row.tag) << row.name << row.size << row.representation;
 }
 
 void TestEnumFileWriter::sizeComesFromTheName()
@@ -148,20 +144,21 @@ void TestEnumFileWriter::representationOfASize_data()
 {
     QTest::addColumn<QString>("size");
     QTest::addColumn<QString>("expected");
-    QTest::newRow("8") << "8"
-                       << "DtU8";
-    QTest::newRow("16") << "16"
-                        << "DtU16";
-    QTest::newRow("32") << "32"
-                        << "DtU32";
-    QTest::newRow("64") << "64"
-                        << "DtU64";
-    QTest::newRow("24") << "24"
-                        << "DtU16";
-    QTest::newRow("abc") << "abc"
-                         << "DtU16";
-    QTest::newRow("empty") << ""
-                           << "DtU16";
+    const struct
+    {
+        const char* name;
+        QString size, expected;
+    } theRows[] = {
+        {"8",     "8",   "DtU8" },
+        {"16",    "16",  "DtU16"},
+        {"32",    "32",  "DtU32"},
+        {"64",    "64",  "DtU64"},
+        {"24",    "24",  "DtU16"},
+        {"abc",   "abc", "DtU16"},
+        {"empty", "",    "DtU16"},
+    };
+    for (const auto& row : theRows)
+        QTest::newRow(row.name) << row.size << row.expected;
 }
 
 void TestEnumFileWriter::representationOfASize()
@@ -175,16 +172,19 @@ void TestEnumFileWriter::valueNamesLoseSpecialCharacters_data()
 {
     QTest::addColumn<QString>("name");
     QTest::addColumn<QString>("expected");
-    QTest::newRow("plain") << "Sea_1"
-                           << "Sea_1";
-    QTest::newRow("hyphen") << "F-16"
-                            << "F16";
-    QTest::newRow("all") << "a/b#c-d<e>f&g"
-                         << "abcdefg";
-    QTest::newRow("others stay") << "[A .. B], C"
-                                 << "[A .. B], C";
-    QTest::newRow("nothing left") << "--"
-                                  << "";
+    const struct
+    {
+        const char* tag;
+        QString name, expected;
+    } theRows[] = {
+        {"plain",        "Sea_1",         "Sea_1"      },
+        {"hyphen",       "F-16",          "F16"        },
+        {"all",          "a/b#c-d<e>f&g", "abcdefg"    },
+        {"others stay",  "[A .. B], C",   "[A .. B], C"},
+        {"nothing left", "--",            ""           },
+    };
+    for (const auto& row : theRows)
+        QTest::newRow(row.tag) << row.name << row.expected;
 }
 
 void TestEnumFileWriter::valueNamesLoseSpecialCharacters()
@@ -241,24 +241,22 @@ void TestEnumFileWriter::numberFormIsGivenOrGuessed_data()
     QTest::addColumn<QString>("value");
     QTest::addColumn<int>("octets");
     QTest::addColumn<QString>("expected");
-    QTest::newRow("given") << "EnumPEnum32"
-                           << "16"
-                           << "1" << 3 << "3 1 1";
-    QTest::newRow("size") << "EnumQEnum32"
-                          << "16"
-                          << "1" << 0 << "2 0 0";
-    QTest::newRow("name") << "EnumRKind8"
-                          << ""
-                          << "1" << 0 << "1 0 0";
-    QTest::newRow("nothing") << "EnumSKind"
-                             << ""
-                             << "1" << 0 << "4 0 0";
-    QTest::newRow("negative number") << "EnumTKind"
-                                     << ""
-                                     << "-1" << 0 << "4 1 0";
-    QTest::newRow("odd number in the name") << "EnumUKind1234"
-                                            << ""
-                                            << "1" << 0 << "4 0 0";
+    const struct
+    {
+        const char* tag;
+        QString name, size, value;
+        int octets;
+        QString expected;
+    } theRows[] = {
+        {"given",                  "EnumPEnum32",   "16", "1",  3, "3 1 1"},
+        {"size",                   "EnumQEnum32",   "16", "1",  0, "2 0 0"},
+        {"name",                   "EnumRKind8",    "",   "1",  0, "1 0 0"},
+        {"nothing",                "EnumSKind",     "",   "1",  0, "4 0 0"},
+        {"negative number",        "EnumTKind",     "",   "-1", 0, "4 1 0"},
+        {"odd number in the name", "EnumUKind1234", "",   "1",  0, "4 0 0"},
+    };
+    for (const auto& row : theRows)
+        QTest::newRow(row.tag) << row.name << row.size << row.value << row.octets << row.expected;
 }
 
 void TestEnumFileWriter::numberFormIsGivenOrGuessed()

@@ -254,19 +254,23 @@ void TestFileWriter::warningsOfBrokenBlocks_data()
     QTest::addColumn<QString>("text");
     QTest::addColumn<QString>("warning");
     const QString problem = "Problem Handling For Loop in line: ";
-    QTest::newRow("header without an end") << "a<#2" << problem + "<#2";
-    QTest::newRow("header of some lines without an end") << "a<?x\nb <!" << problem + "b <!";
-    QTest::newRow("header up to a last line feed") << "a<#2\n" << problem;
-    QTest::newRow("path without an end") << "a<#2#f" << problem + "<#2#f";
-    QTest::newRow("path of two lines without an end") << "a<#2#f\ng" << problem + "g";
-    QTest::newRow("body without an end gives none") << "a<#2>f"
-                                                    << "";
-    QTest::newRow("missing file gives none") << "a<#2#none#>"
-                                             << "";
-    QTest::newRow("unknown token gives none") << "a<!None!>"
-                                              << "";
-    QTest::newRow("unknown verb gives none") << "<?first 1>a<?>"
-                                             << "";
+    const struct
+    {
+        const char* name;
+        QString text, warning;
+    } theRows[] = {
+        {"header without an end",               "a<#2",           problem + "<#2"  },
+        {"header of some lines without an end", "a<?x\nb <!",     problem + "b <!" },
+        {"header up to a last line feed",       "a<#2\n",         problem          },
+        {"path without an end",                 "a<#2#f",         problem + "<#2#f"},
+        {"path of two lines without an end",    "a<#2#f\ng",      problem + "g"    },
+        {"body without an end gives none",      "a<#2>f",         ""               },
+        {"missing file gives none",             "a<#2#none#>",    ""               },
+        {"unknown token gives none",            "a<!None!>",      ""               },
+        {"unknown verb gives none",             "<?first 1>a<?>", ""               },
+    };
+    for (const auto& row : theRows)
+        QTest::newRow(row.name) << row.text << row.warning;
 }
 
 void TestFileWriter::warningsOfBrokenBlocks()
@@ -573,54 +577,27 @@ void TestFileWriter::pathOutsideIsNotWritten_data()
     QTest::addColumn<QString>("include");
     QTest::addColumn<QString>("name");
     QTest::addColumn<QString>("written"); // empty: not
-    QTest::newRow("parent") << "out/"
-                            << ""
-                            << "../a.txt"
-                            << "";
-    QTest::newRow("parent in the middle") << "out/"
-                                          << ""
-                                          << "x/../../a.txt"
-                                          << "";
-    QTest::newRow("parent that comes back") << "out/"
-                                            << ""
-                                            << "x/../a.txt"
-                                            << "out/a.txt";
-    QTest::newRow("include directory") << "out/"
-                                       << ".."
-                                       << "a.h"
-                                       << "";
-    QTest::newRow("sibling with the same start") << "out/"
-                                                 << ""
-                                                 << "../out2/a.txt"
-                                                 << "";
-    QTest::newRow("absolute name") << "out/"
-                                   << ""
-                                   << "/a.txt"
-                                   << "";
-    QTest::newRow("two dots in a name") << "out/"
-                                        << ""
-                                        << "a..b.txt"
-                                        << "out/a..b.txt";
-    QTest::newRow("component that begins with two dots") << "out/"
-                                                         << ""
-                                                         << "..a/b.txt"
-                                                         << "out/..a/b.txt";
-    QTest::newRow("working directory") << ""
-                                       << ""
-                                       << "../a.txt"
-                                       << "";
-    QTest::newRow("inside of the working directory") << "./"
-                                                     << ""
-                                                     << "x/a.txt"
-                                                     << "x/a.txt";
-    QTest::newRow("directory above") << "sub/../../"
-                                     << ""
-                                     << "../a.txt"
-                                     << "";
-    QTest::newRow("name that completes two dots") << "out/."
-                                                  << ""
-                                                  << "./a.txt"
-                                                  << "";
+    const struct
+    {
+        const char* tag;
+        QString directory, include, name;
+        QString written;
+    } theRows[] = {
+        {"parent",                              "out/",       "",   "../a.txt",      ""             },
+        {"parent in the middle",                "out/",       "",   "x/../../a.txt", ""             },
+        {"parent that comes back",              "out/",       "",   "x/../a.txt",    "out/a.txt"    },
+        {"include directory",                   "out/",       "..", "a.h",           ""             },
+        {"sibling with the same start",         "out/",       "",   "../out2/a.txt", ""             },
+        {"absolute name",                       "out/",       "",   "/a.txt",        ""             },
+        {"two dots in a name",                  "out/",       "",   "a..b.txt",      "out/a..b.txt" },
+        {"component that begins with two dots", "out/",       "",   "..a/b.txt",     "out/..a/b.txt"},
+        {"working directory",                   "",           "",   "../a.txt",      ""             },
+        {"inside of the working directory",     "./",         "",   "x/a.txt",       "x/a.txt"      },
+        {"directory above",                     "sub/../../", "",   "../a.txt",      ""             },
+        {"name that completes two dots",        "out/.",      "",   "./a.txt",       ""             },
+    };
+    for (const auto& row : theRows)
+        QTest::newRow(row.tag) << row.directory << row.include << row.name << row.written;
 }
 
 void TestFileWriter::pathOutsideIsNotWritten()

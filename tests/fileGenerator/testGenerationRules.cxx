@@ -343,18 +343,20 @@ void TestGenerationRules::ringThroughAPredefinedTypeEnds_data()
 {
     QTest::addColumn<QString>("predefined");
     QTest::addColumn<QString>("written");
-    QTest::newRow("none") << ""
-                          << "Array Record Simple Variant";
-    // The family of simple types asks for replacements only.
-    QTest::newRow("simple") << "Simple"
-                            << "Array Record Simple Variant";
-    // A simple type over a predefined one is replaced by it.
-    QTest::newRow("array") << "Array"
-                           << "Record Variant";
-    QTest::newRow("record") << "Record"
-                            << "Array Simple Variant";
-    QTest::newRow("variant") << "Variant"
-                             << "Array Record Simple";
+    // The family of simple types asks for replacements only; a simple type over a predefined one is replaced by it.
+    const struct
+    {
+        const char* name;
+        QString predefined, written;
+    } theRows[] = {
+        {"none",    "",        "Array Record Simple Variant"},
+        {"simple",  "Simple",  "Array Record Simple Variant"},
+        {"array",   "Array",   "Record Variant"             },
+        {"record",  "Record",  "Array Simple Variant"       },
+        {"variant", "Variant", "Array Record Simple"        },
+    };
+    for (const auto& row : theRows)
+        QTest::newRow(row.name) << row.predefined << row.written;
 }
 
 void TestGenerationRules::ringThroughAPredefinedTypeEnds()
@@ -516,13 +518,19 @@ void TestGenerationRules::baseNameThatIsNoIdentifierIsTold_data()
 {
     QTest::addColumn<QByteArray>("file");
     QTest::addColumn<QString>("warning");
-    QTest::newRow("blank") << QByteArray("my model.xml")
-                           << "Warning: my model is called MY MODEL in C++, which is no identifier.\n";
-    QTest::newRow("digit") << QByteArray("models/1st.xml")
-                           << "Warning: 1st is called 1ST in C++, which is no identifier.\n";
-    QTest::newRow("ampersand") << QByteArray("R&D.xml")
-                               << "Warning: R&D is called R&D in C++, which is no identifier.\n";
-    QTest::newRow("plain") << QByteArray("my_model-2.xml") << "";
+    const struct
+    {
+        const char* name;
+        QByteArray file;
+        QString warning;
+    } theRows[] = {
+        {"blank",     "my model.xml",   "Warning: my model is called MY MODEL in C++, which is no identifier.\n"},
+        {"digit",     "models/1st.xml", "Warning: 1st is called 1ST in C++, which is no identifier.\n"          },
+        {"ampersand", "R&D.xml",        "Warning: R&D is called R&D in C++, which is no identifier.\n"          },
+        {"plain",     "my_model-2.xml", ""                                                                      },
+    };
+    for (const auto& row : theRows)
+        QTest::newRow(row.name) << row.file << row.warning;
 }
 
 void TestGenerationRules::baseNameThatIsNoIdentifierIsTold()

@@ -299,42 +299,24 @@ void TestIntFileGenerator::valueTypes_data()
     QTest::addColumn<QString>("type");
     QTest::addColumn<QString>("cardinality");
     QTest::addColumn<QString>("warning");
-    QTest::newRow("unknown, with a warning") << "IgUnknown"
-                                             << "IgUnknown"
-                                             << "1"
-                                             << "Warning: Cannot determine type: IgUnknown.\n";
-    QTest::newRow("simple over mapped") << "IgSimple"
-                                        << "DtU32"
-                                        << "1"
-                                        << "";
-    QTest::newRow("simple over simple") << "IgSimpleOfSimple"
-                                        << "DtU32"
-                                        << "1"
-                                        << "";
-    QTest::newRow("simple over unknown") << "IgLoneSimple"
-                                         << "IgUnknown"
-                                         << "1"
-                                         << "Warning: Cannot determine type: IgUnknown.\n";
-    QTest::newRow("array of mapped") << "IgArray"
-                                     << "DtU32"
-                                     << "7"
-                                     << "";
-    QTest::newRow("open array of mapped") << "IgOpenArray"
-                                          << "DtU32"
-                                          << "0+"
-                                          << "";
-    QTest::newRow("array of simple over mapped") << "IgArrayOfSimple"
-                                                 << "DtU32"
-                                                 << "5"
-                                                 << "";
-    QTest::newRow("array of simple without target") << "IgArrayOfLoneSimple"
-                                                    << ""
-                                                    << "4"
-                                                    << "";
-    QTest::newRow("array of unknown") << "IgArrayOfUnknown"
-                                      << ""
-                                      << "3"
-                                      << "";
+    const QString unknown("Warning: Cannot determine type: IgUnknown.\n");
+    const struct
+    {
+        const char* name;
+        QString datatype, type, cardinality, warning;
+    } theRows[] = {
+        {"unknown, with a warning",        "IgUnknown",           "IgUnknown", "1",  unknown},
+        {"simple over mapped",             "IgSimple",            "DtU32",     "1",  ""     },
+        {"simple over simple",             "IgSimpleOfSimple",    "DtU32",     "1",  ""     },
+        {"simple over unknown",            "IgLoneSimple",        "IgUnknown", "1",  unknown},
+        {"array of mapped",                "IgArray",             "DtU32",     "7",  ""     },
+        {"open array of mapped",           "IgOpenArray",         "DtU32",     "0+", ""     },
+        {"array of simple over mapped",    "IgArrayOfSimple",     "DtU32",     "5",  ""     },
+        {"array of simple without target", "IgArrayOfLoneSimple", "",          "4",  ""     },
+        {"array of unknown",               "IgArrayOfUnknown",    "",          "3",  ""     },
+    };
+    for (const auto& row : theRows)
+        QTest::newRow(row.name) << row.datatype << row.type << row.cardinality << row.warning;
 }
 
 void TestIntFileGenerator::valueTypes()

@@ -218,34 +218,21 @@ void TestMemberTypes::classNameFollowsTheFileStem_data()
     QTest::addColumn<QString>("name");
     QTest::addColumn<QString>("stem");
     QTest::addColumn<QString>("className");
-    QTest::newRow("plain") << ""
-                           << "Marking"
-                           << "marking"
-                           << "DtMarking";
-    QTest::newRow("prefix") << "Pre"
-                            << "Marking"
-                            << "preMarking"
-                            << "DtPreMarking";
-    QTest::newRow("capitals") << ""
-                              << "HLAid"
-                              << "HLAid"
-                              << "DtHLAid";
-    QTest::newRow("small first letter") << ""
-                                        << "xPosition"
-                                        << "xPosition"
-                                        << "DtXPosition";
-    QTest::newRow("no identifier") << ""
-                                   << "A-b/c"
-                                   << "a__b__c"
-                                   << "DtA__b__c";
-    QTest::newRow("table word") << ""
-                                << "Class"
-                                << "_class"
-                                << "Dt_class";
-    QTest::newRow("one letter") << ""
-                                << "X"
-                                << "x"
-                                << "DtX";
+    const struct
+    {
+        const char* tag;
+        QString prefix, name, stem, className;
+    } theRows[] = {
+        {"plain",              "",    "Marking",   "marking",    "DtMarking"   },
+        {"prefix",             "Pre", "Marking",   "preMarking", "DtPreMarking"},
+        {"capitals",           "",    "HLAid",     "HLAid",      "DtHLAid"     },
+        {"small first letter", "",    "xPosition", "xPosition",  "DtXPosition" },
+        {"no identifier",      "",    "A-b/c",     "a__b__c",    "DtA__b__c"   },
+        {"table word",         "",    "Class",     "_class",     "Dt_class"    },
+        {"one letter",         "",    "X",         "x",          "DtX"         },
+    };
+    for (const auto& row : theRows)
+        QTest::newRow(row.tag) << row.prefix << row.name << row.stem << row.className;
 }
 
 void TestMemberTypes::classNameFollowsTheFileStem()
@@ -281,30 +268,22 @@ void TestMemberTypes::arrayKindsOfVariableSize_data()
     QTest::addColumn<QString>("encoding");
     QTest::addColumn<QString>("cardinality");
     QTest::addColumn<QString>("expected");
-    QTest::newRow("fixed (1)") << "HLAfixedArray"
-                               << "3"
-                               << "";
-    QTest::newRow("bounds (2)") << "HLAfixedArray"
-                                << "[1..3]"
-                                << "";
-    QTest::newRow("terminated (4)") << "HLAnullTerminatedArray"
-                                    << "Dynamic"
-                                    << "variable";
-    QTest::newRow("padded (5)") << "HLApaddingTo32Array"
-                                << "Dynamic"
-                                << "variable";
-    QTest::newRow("bits (7)") << "HLAbitArray"
-                              << "8"
-                              << "";
-    QTest::newRow("lengthless (8)") << "HLAlengthlessVarArray"
-                                    << "Dynamic"
-                                    << "variable";
-    QTest::newRow("dimensions (9)") << "HLAfixedArray"
-                                    << "2,3"
-                                    << "";
-    QTest::newRow("variable (10)") << "HLAvariableArray"
-                                   << "Dynamic"
-                                   << "variable";
+    const struct
+    {
+        const char* name;
+        QString encoding, cardinality, expected;
+    } theRows[] = {
+        {"fixed (1)",      "HLAfixedArray",          "3",       ""        },
+        {"bounds (2)",     "HLAfixedArray",          "[1..3]",  ""        },
+        {"terminated (4)", "HLAnullTerminatedArray", "Dynamic", "variable"},
+        {"padded (5)",     "HLApaddingTo32Array",    "Dynamic", "variable"},
+        {"bits (7)",       "HLAbitArray",            "8",       ""        },
+        {"lengthless (8)", "HLAlengthlessVarArray",  "Dynamic", "variable"},
+        {"dimensions (9)", "HLAfixedArray",          "2,3",     ""        },
+        {"variable (10)",  "HLAvariableArray",       "Dynamic", "variable"},
+    };
+    for (const auto& row : theRows)
+        QTest::newRow(row.name) << row.encoding << row.cardinality << row.expected;
 }
 
 void TestMemberTypes::arrayKindsOfVariableSize()

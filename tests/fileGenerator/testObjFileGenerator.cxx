@@ -225,61 +225,33 @@ void TestObjFileGenerator::writerNames_data()
     QTest::addColumn<QString>("templateName");
     QTest::addColumn<QString>("file");
     QTest::addColumn<QString>("className");
-    QTest::newRow("encoder header") << "hobjEncHeader.tlt"
-                                    << "tankEncoderHLA.h"
-                                    << "DtTankEncoder";
-    QTest::newRow("encoder source") << "hobjEncSource.tlt"
-                                    << "tankEncoderHLA.cxx"
-                                    << "DtTankEncoder";
-    QTest::newRow("state source") << "stateRepSource.tlt"
-                                  << "tankStateRepository.cxx"
-                                  << "DtTankStateRepository";
-    QTest::newRow("state header") << "stateRepHeader.tlt"
-                                  << "tankStateRepository.h"
-                                  << "DtTankStateRepository";
-    QTest::newRow("publisher header") << "hpubHeader.tlt"
-                                      << "tankPublisherHLA.h"
-                                      << "DtTankPublisher";
-    QTest::newRow("publisher source") << "hpubSource.tlt"
-                                      << "tankPublisherHLA.cxx"
-                                      << "DtTankPublisher";
-    QTest::newRow("object header") << "hrefObjHeader.tlt"
-                                   << "reflectedTankHLA.h"
-                                   << "DtReflectedTank";
-    QTest::newRow("object source") << "hrefObjSource.tlt"
-                                   << "reflectedTankHLA.cxx"
-                                   << "DtReflectedTank";
-    QTest::newRow("list header") << "hrefListHeader.tlt"
-                                 << "reflectedTankListHLA.h"
-                                 << "DtReflectedTankList";
-    QTest::newRow("list source") << "hrefListSource.tlt"
-                                 << "reflectedTankListHLA.cxx"
-                                 << "DtReflectedTankList";
-    QTest::newRow("decoder header") << "hobjDecHeader.tlt"
-                                    << "tankDecoderHLA.h"
-                                    << "DtTankDecoder";
-    QTest::newRow("decoder source") << "hobjDecSource.tlt"
-                                    << "tankDecoderHLA.cxx"
-                                    << "DtTankDecoder";
     // The front header of the list is named like the publisher.
-    QTest::newRow("list front") << "refListHeader.tlt"
-                                << "reflectedTankList.h"
-                                << "DtTankPublisher";
-    QTest::newRow("publisher front") << "pubHeader.tlt"
-                                     << "tankPublisher.h"
-                                     << "Tank";
-    QTest::newRow("object front") << "refObjHeader.tlt"
-                                  << "reflectedTank.h"
-                                  << "DtTankReflectedObject";
-    QTest::newRow("DIS publisher") << "dpubHeader.tlt"
-                                   << "tankPublisherDIS.h"
-                                   << "DtTankPublisher";
-    QTest::newRow("DIS publisher source") << "dpubSource.tlt"
-                                          << "tankPublisherDIS.cxx"
-                                          << "DtTankPublisher";
-    QTest::newRow("DIS encoder") << "dobjEncHeader.tlt"
-                                 << "tankEncoderDIS.h"
-                                 << "Tank";
+    const struct
+    {
+        const char* name;
+        QString templateName, file, className;
+    } theRows[] = {
+        {"encoder header",       "hobjEncHeader.tlt",  "tankEncoderHLA.h",         "DtTankEncoder"        },
+        {"encoder source",       "hobjEncSource.tlt",  "tankEncoderHLA.cxx",       "DtTankEncoder"        },
+        {"state source",         "stateRepSource.tlt", "tankStateRepository.cxx",  "DtTankStateRepository"},
+        {"state header",         "stateRepHeader.tlt", "tankStateRepository.h",    "DtTankStateRepository"},
+        {"publisher header",     "hpubHeader.tlt",     "tankPublisherHLA.h",       "DtTankPublisher"      },
+        {"publisher source",     "hpubSource.tlt",     "tankPublisherHLA.cxx",     "DtTankPublisher"      },
+        {"object header",        "hrefObjHeader.tlt",  "reflectedTankHLA.h",       "DtReflectedTank"      },
+        {"object source",        "hrefObjSource.tlt",  "reflectedTankHLA.cxx",     "DtReflectedTank"      },
+        {"list header",          "hrefListHeader.tlt", "reflectedTankListHLA.h",   "DtReflectedTankList"  },
+        {"list source",          "hrefListSource.tlt", "reflectedTankListHLA.cxx", "DtReflectedTankList"  },
+        {"decoder header",       "hobjDecHeader.tlt",  "tankDecoderHLA.h",         "DtTankDecoder"        },
+        {"decoder source",       "hobjDecSource.tlt",  "tankDecoderHLA.cxx",       "DtTankDecoder"        },
+        {"list front",           "refListHeader.tlt",  "reflectedTankList.h",      "DtTankPublisher"      },
+        {"publisher front",      "pubHeader.tlt",      "tankPublisher.h",          "Tank"                 },
+        {"object front",         "refObjHeader.tlt",   "reflectedTank.h",          "DtTankReflectedObject"},
+        {"DIS publisher",        "dpubHeader.tlt",     "tankPublisherDIS.h",       "DtTankPublisher"      },
+        {"DIS publisher source", "dpubSource.tlt",     "tankPublisherDIS.cxx",     "DtTankPublisher"      },
+        {"DIS encoder",          "dobjEncHeader.tlt",  "tankEncoderDIS.h",         "Tank"                 },
+    };
+    for (const auto& row : theRows)
+        QTest::newRow(row.name) << row.templateName << row.file << row.className;
 }
 
 void TestObjFileGenerator::writerNames()
@@ -566,36 +538,24 @@ void TestObjFileGenerator::valueTypes_data()
     QTest::addColumn<QString>("datatype");
     QTest::addColumn<QString>("type");
     QTest::addColumn<QString>("cardinality");
-    QTest::newRow("unknown, in silence") << "OgUnknown"
-                                         << "OgUnknown"
-                                         << "1";
-    QTest::newRow("simple over mapped") << "OgSimple"
-                                        << "DtU32"
-                                        << "1";
-    QTest::newRow("simple over simple") << "OgSimpleOfSimple"
-                                        << "DtU32"
-                                        << "1";
-    QTest::newRow("simple over unknown") << "OgLoneSimple"
-                                         << "OgUnknown"
-                                         << "1";
-    QTest::newRow("array of mapped") << "OgArray"
-                                     << "DtU32"
-                                     << "7";
-    QTest::newRow("open array of mapped") << "OgOpenArray"
-                                          << "DtU32"
-                                          << "0+";
-    QTest::newRow("array of simple over mapped") << "OgArrayOfSimple"
-                                                 << "DtU32"
-                                                 << "5";
-    QTest::newRow("array of simple without target") << "OgArrayOfLoneSimple"
-                                                    << "OgArrayOfLoneSimple"
-                                                    << "4";
-    QTest::newRow("array of unknown") << "OgArrayOfUnknown"
-                                      << "OgArrayOfUnknown"
-                                      << "3";
-    QTest::newRow("simple over array of unknown") << "OgSimpleOfArray"
-                                                  << "OgArrayOfUnknown"
-                                                  << "3";
+    const struct
+    {
+        const char* name;
+        QString datatype, type, cardinality;
+    } theRows[] = {
+        {"unknown, in silence",            "OgUnknown",           "OgUnknown",           "1" },
+        {"simple over mapped",             "OgSimple",            "DtU32",               "1" },
+        {"simple over simple",             "OgSimpleOfSimple",    "DtU32",               "1" },
+        {"simple over unknown",            "OgLoneSimple",        "OgUnknown",           "1" },
+        {"array of mapped",                "OgArray",             "DtU32",               "7" },
+        {"open array of mapped",           "OgOpenArray",         "DtU32",               "0+"},
+        {"array of simple over mapped",    "OgArrayOfSimple",     "DtU32",               "5" },
+        {"array of simple without target", "OgArrayOfLoneSimple", "OgArrayOfLoneSimple", "4" },
+        {"array of unknown",               "OgArrayOfUnknown",    "OgArrayOfUnknown",    "3" },
+        {"simple over array of unknown",   "OgSimpleOfArray",     "OgArrayOfUnknown",    "3" },
+    };
+    for (const auto& row : theRows)
+        QTest::newRow(row.name) << row.datatype << row.type << row.cardinality;
 }
 
 void TestObjFileGenerator::valueTypes()
@@ -686,14 +646,18 @@ void TestObjFileGenerator::cycleOfDatatypesEndsSilently_data()
 {
     QTest::addColumn<QString>("datatype");
     QTest::addColumn<QString>("type");
-    QTest::newRow("simple over itself") << "OgSelf"
-                                        << "OgSelf";
-    QTest::newRow("two simple types") << "OgPing"
-                                      << "OgPing";
-    QTest::newRow("array of itself") << "OgSelfArray"
-                                     << "OgSelfArray";
-    QTest::newRow("array of a simple type over the array") << "OgRing"
-                                                           << "OgRing";
+    const struct
+    {
+        const char* name;
+        QString datatype, type;
+    } theRows[] = {
+        {"simple over itself",                    "OgSelf",      "OgSelf"     },
+        {"two simple types",                      "OgPing",      "OgPing"     },
+        {"array of itself",                       "OgSelfArray", "OgSelfArray"},
+        {"array of a simple type over the array", "OgRing",      "OgRing"     },
+    };
+    for (const auto& row : theRows)
+        QTest::newRow(row.name) << row.datatype << row.type;
 }
 
 void TestObjFileGenerator::cycleOfDatatypesEndsSilently()

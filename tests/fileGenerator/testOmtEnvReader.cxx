@@ -218,11 +218,19 @@ void TestOmtEnvReader::causeOfAnUnreadOmtFileIsTold_data()
 {
     QTest::addColumn<QByteArray>("text");
     QTest::addColumn<QString>("cause");
-    QTest::newRow("empty") << QByteArray() << "OMT Input file is empty\n";
-    QTest::newRow("no model") << QByteArray("(a) (b)") << "Could not find ObjectModel tag\n";
-    QTest::newRow("no list") << QByteArray("(ObjectModel . a)") << "Could not find ObjectModel tree\n";
-    QTest::newRow("malformed") << QByteArray("(ObjectModel (Class (Name \"Ship\") (ID . 1)))")
-                               << "Badly formatted ID in Class Ship\n";
+    const struct
+    {
+        const char* name;
+        QByteArray text;
+        QString cause;
+    } theRows[] = {
+        {"empty",     "",                                               "OMT Input file is empty\n"         },
+        {"no model",  "(a) (b)",                                        "Could not find ObjectModel tag\n"  },
+        {"no list",   "(ObjectModel . a)",                              "Could not find ObjectModel tree\n" },
+        {"malformed", "(ObjectModel (Class (Name \"Ship\") (ID . 1)))", "Badly formatted ID in Class Ship\n"},
+    };
+    for (const auto& row : theRows)
+        QTest::newRow(row.name) << row.text << row.cause;
 }
 
 void TestOmtEnvReader::causeOfAnUnreadOmtFileIsTold()

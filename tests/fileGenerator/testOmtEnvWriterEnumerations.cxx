@@ -51,30 +51,20 @@ void TestOmtEnvWriterEnumerations::enumerationSizeComesFromItsRepresentation_dat
     QTest::addColumn<QString>("representation");
     QTest::addColumn<QString>("size");
     QTest::addColumn<QString>("type");
-    QTest::newRow("signed") << "DeEnumA"
-                            << "DeInt16"
-                            << "16"
-                            << "DtU16";
-    QTest::newRow("unsigned") << "DeEnumB"
-                              << "DeU64"
-                              << "64"
-                              << "DtU64";
-    QTest::newRow("through a simple type") << "DeEnumC"
-                                           << "DeSimpleU8"
-                                           << "8"
-                                           << "DtU8";
-    QTest::newRow("by the name") << "DeEnum8"
-                                 << "DeNothing"
-                                 << "8"
-                                 << "DtU8";
-    QTest::newRow("none at all") << "DeKind"
-                                 << "DeNothing"
-                                 << "32"
-                                 << "DtDeKind";
-    QTest::newRow("no number in the type") << "DeFloatKind"
-                                           << "DeFloat"
-                                           << "32"
-                                           << "DtFloat32";
+    const struct
+    {
+        const char* tag;
+        QString name, representation, size, type;
+    } theRows[] = {
+        {"signed",                "DeEnumA",     "DeInt16",    "16", "DtU16"    },
+        {"unsigned",              "DeEnumB",     "DeU64",      "64", "DtU64"    },
+        {"through a simple type", "DeEnumC",     "DeSimpleU8", "8",  "DtU8"     },
+        {"by the name",           "DeEnum8",     "DeNothing",  "8",  "DtU8"     },
+        {"none at all",           "DeKind",      "DeNothing",  "32", "DtDeKind" },
+        {"no number in the type", "DeFloatKind", "DeFloat",    "32", "DtFloat32"},
+    };
+    for (const auto& row : theRows)
+        QTest::newRow(row.tag) << row.name << row.representation << row.size << row.type;
 }
 
 void TestOmtEnvWriterEnumerations::enumerationSizeComesFromItsRepresentation()

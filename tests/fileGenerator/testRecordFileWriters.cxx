@@ -399,16 +399,19 @@ void TestRecordFileWriters::enumeratorIsCleanedLikeInTheHeader_data()
 {
     QTest::addColumn<QString>("enumerator");
     QTest::addColumn<QString>("expected");
-    QTest::newRow("plain") << "Sea"
-                           << "Sea";
-    QTest::newRow("special characters") << "F-16 <a/b#c&d>"
-                                        << "F16 abcd";
-    QTest::newRow("digit") << "3D"
-                           << "3D";
-    QTest::newRow("keyword") << "class"
-                             << "class";
-    QTest::newRow("list and range") << "A-1, [B .. C-2]"
-                                    << "A1, [B .. C2]";
+    const struct
+    {
+        const char* name;
+        QString enumerator, expected;
+    } theRows[] = {
+        {"plain",              "Sea",             "Sea"          },
+        {"special characters", "F-16 <a/b#c&d>",  "F16 abcd"     },
+        {"digit",              "3D",              "3D"           },
+        {"keyword",            "class",           "class"        },
+        {"list and range",     "A-1, [B .. C-2]", "A1, [B .. C2]"},
+    };
+    for (const auto& row : theRows)
+        QTest::newRow(row.name) << row.enumerator << row.expected;
 }
 
 void TestRecordFileWriters::enumeratorIsCleanedLikeInTheHeader()
@@ -594,24 +597,23 @@ void TestRecordFileWriters::arrayNames_data()
 {
     QTest::addColumn<QString>("cardinality");
     QTest::addColumn<QString>("expected");
-    QTest::newRow("one") << "1"
-                         << "";
-    QTest::newRow("one with a type") << "1 (Type)"
-                                     << "";
-    QTest::newRow("fixed") << "10"
-                           << "DtRwFooFixedArray10";
-    QTest::newRow("no number") << "Dynamic"
-                               << "DtRwFooFixedArrayDynamic";
-    QTest::newRow("terminated") << "1+"
-                                << "DtRwFooNullTerminatedArray";
-    QTest::newRow("padded") << "%8"
-                            << "DtRwFooPaddingTo32Array";
-    QTest::newRow("range") << "1-4"
-                           << "";
-    QTest::newRow("conditional") << "(k=1)"
-                                 << "";
-    QTest::newRow("optional") << "(k)"
-                              << "";
+    const struct
+    {
+        const char* name;
+        QString cardinality, expected;
+    } theRows[] = {
+        {"one",             "1",        ""                          },
+        {"one with a type", "1 (Type)", ""                          },
+        {"fixed",           "10",       "DtRwFooFixedArray10"       },
+        {"no number",       "Dynamic",  "DtRwFooFixedArrayDynamic"  },
+        {"terminated",      "1+",       "DtRwFooNullTerminatedArray"},
+        {"padded",          "%8",       "DtRwFooPaddingTo32Array"   },
+        {"range",           "1-4",      ""                          },
+        {"conditional",     "(k=1)",    ""                          },
+        {"optional",        "(k)",      ""                          },
+    };
+    for (const auto& row : theRows)
+        QTest::newRow(row.name) << row.cardinality << row.expected;
 }
 
 void TestRecordFileWriters::arrayNames()

@@ -51,21 +51,22 @@ void TestFilename::partsOfANameAreTakenApart_data()
     QTest::addColumn<QByteArray>("file");
     QTest::addColumn<QByteArray>("stem");
     QTest::addColumn<QByteArray>("extension");
-    QTest::newRow("plain") << QByteArray("a.xml") << QByteArray("") << QByteArray("a.xml") << QByteArray("a")
-                           << QByteArray("xml");
-    QTest::newRow("with a path") << QByteArray("x/y/a.xml") << QByteArray("x/y/") << QByteArray("a.xml")
-                                 << QByteArray("x/y/a") << QByteArray("xml");
-    QTest::newRow("last of two extensions")
-        << QByteArray("a.b.c") << QByteArray("") << QByteArray("a.b.c") << QByteArray("a.b") << QByteArray("c");
-    QTest::newRow("dot in the directory only")
-        << QByteArray("a.d/b") << QByteArray("a.d/") << QByteArray("b") << QByteArray("a.d/b") << QByteArray("");
-    QTest::newRow("parent directory") << QByteArray("../b") << QByteArray("../") << QByteArray("b")
-                                      << QByteArray("../b") << QByteArray("");
-    QTest::newRow("dot at the end") << QByteArray("a.") << QByteArray("") << QByteArray("a.") << QByteArray("a")
-                                    << QByteArray("");
-    QTest::newRow("directory") << QByteArray("d/") << QByteArray("d/") << QByteArray("") << QByteArray("d/")
-                               << QByteArray("");
-    QTest::newRow("empty") << QByteArray("") << QByteArray("") << QByteArray("") << QByteArray("") << QByteArray("");
+    const struct
+    {
+        const char* name;
+        QByteArray path, directory, file, stem, extension;
+    } theRows[] = {
+        {"plain",                     "a.xml",     "",     "a.xml", "a",     "xml"},
+        {"with a path",               "x/y/a.xml", "x/y/", "a.xml", "x/y/a", "xml"},
+        {"last of two extensions",    "a.b.c",     "",     "a.b.c", "a.b",   "c"  },
+        {"dot in the directory only", "a.d/b",     "a.d/", "b",     "a.d/b", ""   },
+        {"parent directory",          "../b",      "../",  "b",     "../b",  ""   },
+        {"dot at the end",            "a.",        "",     "a.",    "a",     ""   },
+        {"directory",                 "d/",        "d/",   "",      "d/",    ""   },
+        {"empty",                     "",          "",     "",      "",      ""   },
+    };
+    for (const auto& row : theRows)
+        QTest::newRow(row.name) << row.path << row.directory << row.file << row.stem << row.extension;
 }
 
 void TestFilename::partsOfANameAreTakenApart()

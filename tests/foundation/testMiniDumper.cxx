@@ -42,10 +42,18 @@ void TestMiniDumper::reportsAndTakesTheDefaultAction_data()
 {
     QTest::addColumn<int>("signal");
     QTest::addColumn<QByteArray>("text");
-    QTest::newRow("segmentation fault") << SIGSEGV
-                                        << QByteArray("CodeGen: caught signal 11 (SIGSEGV, segmentation fault)\n");
-    QTest::newRow("abort") << SIGABRT << QByteArray("CodeGen: caught signal 6 (SIGABRT, aborted)\n");
-    QTest::newRow("arithmetic") << SIGFPE << QByteArray("CodeGen: caught signal 8 (SIGFPE, arithmetic exception)\n");
+    const struct
+    {
+        const char* name;
+        int signal;
+        QByteArray text;
+    } theRows[] = {
+        {"segmentation fault", SIGSEGV, "CodeGen: caught signal 11 (SIGSEGV, segmentation fault)\n"},
+        {"abort",              SIGABRT, "CodeGen: caught signal 6 (SIGABRT, aborted)\n"            },
+        {"arithmetic",         SIGFPE,  "CodeGen: caught signal 8 (SIGFPE, arithmetic exception)\n"},
+    };
+    for (const auto& row : theRows)
+        QTest::newRow(row.name) << row.signal << row.text;
 }
 
 void TestMiniDumper::reportsAndTakesTheDefaultAction()

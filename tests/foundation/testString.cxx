@@ -228,13 +228,23 @@ void TestString::snipsTheFront_data()
     QTest::addColumn<char>("character");
     QTest::addColumn<bool>("toLast");
     QTest::addColumn<QByteArray>("expected");
-    QTest::newRow("prefix of a class") << QByteArray("DtFoo") << 't' << false << QByteArray("Foo");
-    QTest::newRow("no such letter") << QByteArray("Foo") << 't' << false << QByteArray("Foo");
-    QTest::newRow("through the first letter, whatever it is")
-        << QByteArray("Entity") << 't' << false << QByteArray("ity");
-    QTest::newRow("to the last") << QByteArray("a.b.c") << '.' << true << QByteArray("c");
-    QTest::newRow("absent, last") << QByteArray("abc") << '.' << true << QByteArray("abc");
-    QTest::newRow("at the end") << QByteArray("abc.") << '.' << false << QByteArray("");
+    const struct
+    {
+        const char* name;
+        QByteArray text;
+        char character;
+        bool toLast;
+        QByteArray expected;
+    } theRows[] = {
+        {"prefix of a class",                        "DtFoo",  't', false, "Foo"},
+        {"no such letter",                           "Foo",    't', false, "Foo"},
+        {"through the first letter, whatever it is", "Entity", 't', false, "ity"},
+        {"to the last",                              "a.b.c",  '.', true,  "c"  },
+        {"absent, last",                             "abc",    '.', true,  "abc"},
+        {"at the end",                               "abc.",   '.', false, ""   },
+    };
+    for (const auto& row : theRows)
+        QTest::newRow(row.name) << row.text << row.character << row.toLast << row.expected;
 }
 
 void TestString::snipsTheFront()

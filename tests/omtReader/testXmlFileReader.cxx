@@ -445,10 +445,19 @@ private Q_SLOTS:
         QTest::addColumn<int>("version");
         QTest::addColumn<QString>("onlyThere"); // an enumerated datatype
         QTest::addColumn<QString>("notThere");
-        QTest::newRow("2010") << QByteArray("IEEE1516-2010") << 3 << "HLAsynchPointStatus"
-                              << "HLAsyncPointStatus";
-        QTest::newRow("2025") << QByteArray("IEEE1516-2025") << 4 << "HLAsyncPointStatus"
-                              << "HLAsynchPointStatus";
+        const struct
+        {
+            const char* name;
+            QByteArray space;
+            int version;
+            QString onlyThere;
+            QString notThere;
+        } theRows[] = {
+            {"2010", "IEEE1516-2010", 3, "HLAsynchPointStatus", "HLAsyncPointStatus" },
+            {"2025", "IEEE1516-2025", 4, "HLAsyncPointStatus",  "HLAsynchPointStatus"},
+        };
+        for (const auto& row : theRows)
+            QTest::newRow(row.name) << row.space << row.version << row.onlyThere << row.notThere;
     }
     void standardModelIsThatOfTheFormat()
     {

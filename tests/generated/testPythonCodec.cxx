@@ -137,10 +137,8 @@ private Q_SLOTS:
     {
         const QString file = QStringLiteral(QX_SHARED_DIR "/models/omt13/RPR_v2.0_excerpt.omt");
         DtExpectedAnswers expected;
-        if (!QFile::exists(file))
-            qInfo("The model is not here.");
-        else if (!hasPython())
-            QSKIP(theMissingPython);
+        if (const QByteArray lack = lackOf(file); !lack.isEmpty())
+            QSKIP(lack.constData());
         checkThereAndBack(DtBothSides(file), expected, isFullRun() ? 1000 : 50);
     }
 

@@ -13,6 +13,29 @@ static DtCCompatibleNames theNames;
 
 static const char theEncodingToken[] = "<!MyEncoding!>";
 
+// The encoding that the kind of an array tells by itself; empty when it tells none.
+static DtString encodingOf(DtArrayCardinality kind)
+{
+    switch (kind)
+    {
+    case DtArrayFixed:
+        return "HLAfixedArray";
+    case DtArrayNullTerminated:
+        return "HLAnullTerminatedArray";
+    case DtArrayLengthless:
+        return "HLAlengthlessVarArray";
+    case DtArrayVariable:
+        return "HLAvariableArray";
+    case DtArrayNotDerived:
+    case DtArrayBounded:
+    case DtArrayPadded:
+    case DtArrayOfBits:
+    case DtArrayMultiDim:
+        break;
+    }
+    return DtString();
+}
+
 struct DtArrayDataTypeFileWriter::DtTokens
 {
     using Writer = DtArrayDataTypeFileWriter;
@@ -74,19 +97,7 @@ DtString DtArrayDataTypeFileWriter::encodingName() const
     const DtArrayDatatypeNode* node = currentNode();
     if (node == nullptr)
         return DtString();
-    switch (node->getCardinalityType())
-    {
-    case 1:
-        return "HLAfixedArray";
-    case 4:
-        return "HLAnullTerminatedArray";
-    case 8:
-        return "HLAlengthlessVarArray";
-    case 10:
-        return "HLAvariableArray";
-    default:
-        return DtString();
-    }
+    return encodingOf(static_cast<DtArrayCardinality>(node->getCardinalityType()));
 }
 
 // The token stays in a line where nothing tells the encoding.

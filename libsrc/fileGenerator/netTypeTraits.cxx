@@ -11,6 +11,26 @@
 namespace
 {
 
+// True when the kind of an array leaves its size open. A bounded array counts as one of fixed size.
+bool isOpen(DtArrayCardinality kind)
+{
+    switch (kind)
+    {
+    case DtArrayNullTerminated:
+    case DtArrayPadded:
+    case DtArrayLengthless:
+    case DtArrayVariable:
+        return true;
+    case DtArrayNotDerived:
+    case DtArrayFixed:
+    case DtArrayBounded:
+    case DtArrayOfBits:
+    case DtArrayMultiDim:
+        break;
+    }
+    return false;
+}
+
 // Walks everything that a datatype is made of, each datatype once. A work list, so that neither cycles nor long chains
 // of types do harm.
 class DtTraitSearch
@@ -70,17 +90,8 @@ private:
 
     void visitArray(const DtArrayDatatypeNode& array)
     {
-        switch (array.getCardinalityType())
-        {
-        case 4:
-        case 5:
-        case 8:
-        case 10:
+        if (isOpen(static_cast<DtArrayCardinality>(array.getCardinalityType())))
             myIsVariable = true;
-            break;
-        default:
-            break;
-        }
         add(array.getDatatype());
     }
 

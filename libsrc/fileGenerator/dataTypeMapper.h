@@ -10,6 +10,25 @@
 
 class DtOMTTree;
 
+// Who knows what of a datatype. The mapper keeps the tables; the files beside it answer from these or from the tree:
+//   which type of C++ stands for it             dataTypeMapper     quorvexType(): what is mapped, and nothing else
+//     ... as the type of a record's member      memberTypes        memberType(): also below simple types, and classes
+//     ... as that of an attribute or parameter  valueTypeWalk      also over arrays, with their cardinality
+//   which class and file this run generates     datatypeClassNames
+//   its name as an identifier                   cCompatibleName
+//   whether the toolkit has that name already   toolkitNames
+//   which other datatypes it needs              datatypeClosure
+//   what its chain of representations ends at   memberTypes        lastRepresentation(), by the mapper's tables
+//                                               datatypeShape      belowSimpleTypes(), by the tree
+//   boundary and size, as templates ask         dataTypeMapper
+//   boundary, as command files ask              datatypeBoundaries
+//   octets and byte order of a number           numberForm
+//   whether its net type has a variable size    netTypeTraits      tells the mapper, which answers templates
+//   which numbers it lies as on the wire        datatypeShape
+//   how it lies where a toolkit type stands     toolkitLayouts
+//   what generated code tells of it on the wire valueForm          encoding, count, number and layout together
+// An attribute (attribute.h) gathers the answers for one member on its way into a template.
+
 // Knows what a datatype of the model becomes in generated code. One object for the whole process.
 //
 // Local types are value types of the toolkit, such as DtU32; net types are its types with a fixed wire encoding, such

@@ -112,9 +112,8 @@ void DtComplexDataTypeFileWriter::compileAttributes(DtComplexDatatypeNode* node)
     if (isCompiled(*node))
         return;
     std::vector<DtAttribute> members;
-    for (auto component = node->getComponentNodeList(); component != node->getComponentNodeEnd(); ++component)
-        members.push_back(
-            makeMember((*component)->getName(), (*component)->getDatatype(), (*component)->getCardinality()));
+    for (const DtComplexComponentNode* component : node->components())
+        members.push_back(makeMember(component->getName(), component->getDatatype(), component->getCardinality()));
     addCompiled(node, members);
 }
 

@@ -462,17 +462,15 @@ void DtDataTypeMapper::setMapRtiObjectIdToGlobalId(bool isMapped)
 void DtDataTypeMapper::addBasicTypes(DtOMTTree* tree)
 {
     bool hasCommonInteger = false;
-    for (auto each = tree->getBasicDataRepresentationNodeList(); each != tree->getBasicDataRepresentationEndNode();
-         ++each)
+    for (const DtBasicDataRepresentationNode* node : tree->basicDataRepresentations())
     {
-        const DtBasicDataRepresentationNode& node = **each;
-        const DtString& name = node.getName();
+        const DtString& name = node->getName();
         // The interpretation is a text for people, so the replacement is empty unless it happens to name a mapped type.
         if (hasMapping(name))
-            addToBeReplacedItem(name, DtReplaceInfo(quorvexType(node.getInterpretation()), name));
+            addToBeReplacedItem(name, DtReplaceInfo(quorvexType(node->getInterpretation()), name));
         hasCommonInteger = hasCommonInteger || DtContainsSubstring(name, theCommonInteger);
-        addBasicTypeInfoMapping(name, DtBasicTypeInfo(node.getSize(), node.getEndian()));
-        const unsigned int octets = node.getSize().toUInt() >> 3;
+        addBasicTypeInfoMapping(name, DtBasicTypeInfo(node->getSize(), node->getEndian()));
+        const unsigned int octets = node->getSize().toUInt() >> 3;
         addDataTypeNameToBoundary(name, octets);
         addDataTypeNameToSize(name, octets);
     }
@@ -482,10 +480,10 @@ void DtDataTypeMapper::addBasicTypes(DtOMTTree* tree)
 
 void DtDataTypeMapper::addSimpleTypes(DtOMTTree* tree)
 {
-    for (auto each = tree->getSimpleDatatypeNodeList(); each != tree->getSimpleDatatypeEndNode(); ++each)
+    for (const DtSimpleDatatypeNode* node : tree->simpleDatatypes())
     {
-        const DtString& name = (*each)->getName();
-        const DtString& representation = (*each)->getRepresentation();
+        const DtString& name = node->getName();
+        const DtString& representation = node->getRepresentation();
         if (hasMapping(representation))
             addToBeReplacedItem(name, DtReplaceInfo(quorvexType(representation), representation));
         addSimpleTypeToRepresentationMapping(name, representation);
@@ -495,32 +493,30 @@ void DtDataTypeMapper::addSimpleTypes(DtOMTTree* tree)
 
 void DtDataTypeMapper::addArrayTypes(DtOMTTree* tree)
 {
-    for (auto each = tree->getArrayDatatypeNodeList(); each != tree->getArrayDatatypeEndNode(); ++each)
+    for (const DtArrayDatatypeNode* node : tree->arrayDatatypes())
     {
-        const DtArrayDatatypeNode& node = **each;
-        const DtString& name = node.getName();
-        addArrayTypeToRepresentationMapping(name, node.getDatatype());
-        if (!node.getDatatype().isEmpty())
-            addDatatypeToEncodingMapping(name, node.getEncoding());
-        addArrayTypeToCardinalityMapping(name, node.getCardinality());
-        takeOverLayout(name, node.getDatatype()); // the size of one element
+        const DtString& name = node->getName();
+        addArrayTypeToRepresentationMapping(name, node->getDatatype());
+        if (!node->getDatatype().isEmpty())
+            addDatatypeToEncodingMapping(name, node->getEncoding());
+        addArrayTypeToCardinalityMapping(name, node->getCardinality());
+        takeOverLayout(name, node->getDatatype()); // the size of one element
     }
 }
 
 void DtDataTypeMapper::addVariantTypes(DtOMTTree* tree)
 {
-    for (auto each = tree->getVariantDatatypeNodeList(); each != tree->getVariantDatatypeEndNode(); ++each)
+    for (const DtVariantDatatypeNode* node : tree->variantDatatypes())
     {
-        const DtVariantDatatypeNode& node = **each;
-        const DtString& name = node.getName();
-        DtVariantRecordStruct record = {node.getDiscriminant(), node.getDatatype(), {}};
-        addDatatypeToDiscriminantMapping(name, node.getDatatype());
+        const DtString& name = node->getName();
+        DtVariantRecordStruct record = {node->getDiscriminant(), node->getDatatype(), {}};
+        addDatatypeToDiscriminantMapping(name, node->getDatatype());
         // By the name of the discriminant's field, not by its type: 0 unless a type of that name exists.
-        unsigned int boundary = boundaryFromDataTypeName(node.getDiscriminant());
-        for (auto part = node.getComponentNodeList(); part != node.getComponentNodeEnd(); ++part)
+        unsigned int boundary = boundaryFromDataTypeName(node->getDiscriminant());
+        for (const DtAlternativeComponentNode* part : node->components())
         {
-            record.alternatives.push_back({(*part)->getEnumerator(), (*part)->getName(), (*part)->getDatatype()});
-            boundary = std::max(boundary, boundaryFromDataTypeName((*part)->getDatatype()));
+            record.alternatives.push_back({part->getEnumerator(), part->getName(), part->getDatatype()});
+            boundary = std::max(boundary, boundaryFromDataTypeName(part->getDatatype()));
         }
         addDataTypeNameToBoundary(name, boundary);
         addDatatypeToVariantDataMapping(name, record);
@@ -529,14 +525,14 @@ void DtDataTypeMapper::addVariantTypes(DtOMTTree* tree)
 
 void DtDataTypeMapper::addComplexTypes(DtOMTTree* tree)
 {
-    for (auto each = tree->getComplexDatatypeNodeList(); each != tree->getComplexDatatypeEndNode(); ++each)
-        addRecord(**each);
+    for (const DtComplexDatatypeNode* node : tree->complexDatatypes())
+        addRecord(*node);
 }
 
 void DtDataTypeMapper::addFixedTypes(DtOMTTree* tree)
 {
-    for (auto each = tree->getFixedDatatypeNodeList(); each != tree->getFixedDatatypeEndNode(); ++each)
-        addRecord(**each);
+    for (const DtFixedDatatypeNode* node : tree->fixedDatatypes())
+        addRecord(*node);
 }
 
 template <typename Node>
@@ -544,10 +540,10 @@ void DtDataTypeMapper::addRecord(const Node& node)
 {
     unsigned int boundary = 0;
     unsigned int size = 0;
-    for (auto part = node.getComponentNodeList(); part != node.getComponentNodeEnd(); ++part)
+    for (const auto* part : node.components())
     {
-        const DtString& datatype = (*part)->getDatatype();
-        addMapping((*part)->getName(), datatype);
+        const DtString& datatype = part->getDatatype();
+        addMapping(part->getName(), datatype);
         size += sizeFromDataTypeName(datatype); // without gaps; a component of unknown size counts as nothing
         boundary = std::max(boundary, boundaryFromDataTypeName(datatype));
     }

@@ -86,8 +86,8 @@ DtDatatypeBoundaries::Link DtDatatypeBoundaries::linkOf(const DtString& name) co
     if (const DtArrayDatatypeNode* array = myTree.getArrayDatatypeNode(name))
         return {false, 0, array->getDatatype(), array->getEncoding() == "HLAvariableArray"};
     const DtFixedDatatypeNode* fixed = myTree.getFixedDatatypeNode(name);
-    if (fixed != nullptr && fixed->getComponentNodeList() != fixed->getComponentNodeEnd())
-        return {false, 0, (*fixed->getComponentNodeList())->getDatatype(), false};
+    if (fixed != nullptr && !fixed->components().empty())
+        return {false, 0, fixed->components().front()->getDatatype(), false};
     if (const DtVariantDatatypeNode* variant = myTree.getVariantDatatypeNode(name))
         return {false, 0, variant->getDatatype(), false};
     return {};

@@ -67,9 +67,9 @@ private:
     DtDatatypeShape ofRecord(const Record& record, int depth)
     {
         DtDatatypeShape shape;
-        for (auto each = record.getComponentNodeList(); each != record.getComponentNodeEnd(); ++each)
+        for (const auto* component : record.components())
         {
-            if (!append(shape, ofComponent(**each, depth)))
+            if (!append(shape, ofComponent(*component, depth)))
                 break;
         }
         return shape;

@@ -74,8 +74,8 @@ void DtFixedRecordFileWriter::compileAttributes(DtFixedDatatypeNode* node, DtOMT
     if (isCompiled(*node))
         return;
     std::vector<DtAttribute> members;
-    for (auto field = node->getComponentNodeList(); field != node->getComponentNodeEnd(); ++field)
-        members.push_back(fieldMember(**field));
+    for (const DtFieldComponentNode* field : node->components())
+        members.push_back(fieldMember(*field));
     const DtString& name = node->getName();
     registerNetTypeTraits(name, DtDataTypeMapper::instance()->quorvexType(name), members, tree);
     addCompiled(node, members);

@@ -98,8 +98,8 @@ private:
     template <typename Record>
     void addComponents(const Record& record)
     {
-        for (auto component = record.getComponentNodeList(); component != record.getComponentNodeEnd(); ++component)
-            add((*component)->getDatatype());
+        for (const auto* component : record.components())
+            add(component->getDatatype());
     }
 
     const DtOMTTree& myTree;

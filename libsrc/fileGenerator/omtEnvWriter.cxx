@@ -231,12 +231,12 @@ void DtOMTEnvWriter::generateEnumerationsFile()
 {
     const DtString base = withoutDashesAndDots(withoutPathAndExtension(modelBase()));
     DtEnumerationFileWriter writer(DtString("DataTypes") + DtFilename::separator() + base + "Enums.h");
-    for (auto node = tree().getEnumeratedDatatypeNodeList(); node != tree().getEnumeratedDatatypeEndNode(); ++node)
+    for (DtEnumeratedDatatypeNode* node : tree().enumeratedDatatypes())
     {
         // Also of those that a ready-made type stands for: it does not tell how long the number is.
-        DtDatatypeClassNames::instance().addEnumeration((*node)->getName(), (*node)->getRepresentation());
-        if (isGenerated(**node))
-            addEnumeration(**node, writer);
+        DtDatatypeClassNames::instance().addEnumeration(node->getName(), node->getRepresentation());
+        if (isGenerated(*node))
+            addEnumeration(*node, writer);
     }
     addToFileList(writer.fileName());
     writer.writeFile();
@@ -250,8 +250,8 @@ bool DtOMTEnvWriter::isGenerated(const DtEnumeratedDatatypeNode& node) const
 void DtOMTEnvWriter::addEnumeration(DtEnumeratedDatatypeNode& node, DtEnumerationFileWriter& writer)
 {
     std::vector<DtEnumerationValue> values;
-    for (auto value = node.getEnumerationNodeList(); value != node.getEnumerationNodeEnd(); ++value)
-        values.emplace_back((*value)->getEnum(), DtString((*value)->getNumber()));
+    for (const DtEnumerationNode* value : node.enumerators())
+        values.emplace_back(value->getEnum(), DtString(value->getNumber()));
     const DtString& name = node.getName();
     DtEnumeration enumeration(name, values);
 

@@ -73,8 +73,8 @@ template <typename Record>
 std::vector<DtString> componentNames(const Record& record)
 {
     std::vector<DtString> names;
-    for (auto component = record.getComponentNodeList(); component != record.getComponentNodeEnd(); ++component)
-        names.push_back((*component)->getName());
+    for (const auto* component : record.components())
+        names.push_back(component->getName());
     return names;
 }
 
@@ -82,8 +82,8 @@ template <typename Record>
 std::vector<DtString> componentDatatypes(const Record& record)
 {
     std::vector<DtString> datatypes;
-    for (auto component = record.getComponentNodeList(); component != record.getComponentNodeEnd(); ++component)
-        datatypes.push_back((*component)->getDatatype());
+    for (const auto* component : record.components())
+        datatypes.push_back(component->getDatatype());
     return datatypes;
 }
 
@@ -93,20 +93,19 @@ struct DtComplexFamily : DtDatatypeFamily<DtComplexDatatypeNode, DtComplexDataTy
     static constexpr const char* source = "../data/templates/subTemplates/complexTypesSource.tlt";
     static constexpr bool stopsOnCancel = false;
 
-    static auto begin(const DtOMTTree& tree) { return tree.getComplexDatatypeNodeList(); }
-    static auto end(const DtOMTTree& tree) { return tree.getComplexDatatypeEndNode(); }
+    static const std::list<Node*>& nodes(const DtOMTTree& tree) { return tree.complexDatatypes(); }
     static void nameFurther(const Node& node, DtCCompatibleNames&)
     {
-        for (auto component = node.getComponentNodeList(); component != node.getComponentNodeEnd(); ++component)
-            DtOMTEnvWriter::componentArrayName(**component);
+        for (const auto* component : node.components())
+            DtOMTEnvWriter::componentArrayName(*component);
     }
     static std::vector<DtString> memberNames(const Node& node) { return componentNames(node); }
     static std::vector<DtString> memberDatatypes(const Node& node)
     {
         std::vector<DtString> datatypes;
-        for (auto component = node.getComponentNodeList(); component != node.getComponentNodeEnd(); ++component)
-            if (DtOMTEnvWriter::componentArrayName(**component).isEmpty())
-                datatypes.push_back((*component)->getDatatype());
+        for (const auto* component : node.components())
+            if (DtOMTEnvWriter::componentArrayName(*component).isEmpty())
+                datatypes.push_back(component->getDatatype());
         return datatypes;
     }
     static void finish(Node* node, DtOMTEnvWriter& driver) { driver.checkComplexForArrayType(node); }
@@ -117,8 +116,7 @@ struct DtBasicFamily : DtDatatypeFamily<DtBasicDataRepresentationNode, DtBasicDa
     static constexpr const char* header = "../data/templates/subTemplates/basicTypesHeader.tlt";
     static constexpr const char* source = "../data/templates/subTemplates/basicTypesSource.tlt";
 
-    static auto begin(const DtOMTTree& tree) { return tree.getBasicDataRepresentationNodeList(); }
-    static auto end(const DtOMTTree& tree) { return tree.getBasicDataRepresentationEndNode(); }
+    static const std::list<Node*>& nodes(const DtOMTTree& tree) { return tree.basicDataRepresentations(); }
 };
 
 struct DtSimpleFamily : DtDatatypeFamily<DtSimpleDatatypeNode, DtSimpleDataTypeFileWriter>
@@ -126,8 +124,7 @@ struct DtSimpleFamily : DtDatatypeFamily<DtSimpleDatatypeNode, DtSimpleDataTypeF
     static constexpr const char* header = "../data/templates/subTemplates/simpleTypesHeader.tlt";
     static constexpr const char* source = "../data/templates/subTemplates/simpleTypesSource.tlt";
 
-    static auto begin(const DtOMTTree& tree) { return tree.getSimpleDatatypeNodeList(); }
-    static auto end(const DtOMTTree& tree) { return tree.getSimpleDatatypeEndNode(); }
+    static const std::list<Node*>& nodes(const DtOMTTree& tree) { return tree.simpleDatatypes(); }
     // A mapping of its own does not matter here.
     static bool isReplaced(const DtString& name) { return DtDataTypeMapper::instance()->isToBeReplaced(name); }
     static void prepare(Writer& writer, const DtDatatypeItem& item, DtCCompatibleNames&)
@@ -142,8 +139,7 @@ struct DtArrayFamily : DtDatatypeFamily<DtArrayDatatypeNode, DtArrayDataTypeFile
     static constexpr const char* header = "../data/templates/arrayHeaderByEncoding.tlt";
     static constexpr const char* source = "../data/templates/arraySourceByEncoding.tlt";
 
-    static auto begin(const DtOMTTree& tree) { return tree.getArrayDatatypeNodeList(); }
-    static auto end(const DtOMTTree& tree) { return tree.getArrayDatatypeEndNode(); }
+    static const std::list<Node*>& nodes(const DtOMTTree& tree) { return tree.arrayDatatypes(); }
     static Writer make(const DtString& fileName, const char* templateName, const DtDatatypeItem& item)
     {
         return Writer(fileName, templateName, item.encoding);
@@ -163,8 +159,7 @@ struct DtFixedRecordFamily : DtDatatypeFamily<DtFixedDatatypeNode, DtFixedRecord
     static constexpr const char* header = "../data/templates/subTemplates/fixedRecordsHeader.tlt";
     static constexpr const char* source = "../data/templates/subTemplates/fixedRecordsSource.tlt";
 
-    static auto begin(const DtOMTTree& tree) { return tree.getFixedDatatypeNodeList(); }
-    static auto end(const DtOMTTree& tree) { return tree.getFixedDatatypeEndNode(); }
+    static const std::list<Node*>& nodes(const DtOMTTree& tree) { return tree.fixedDatatypes(); }
     static std::vector<DtString> memberNames(const Node& node) { return componentNames(node); }
     static std::vector<DtString> memberDatatypes(const Node& node) { return componentDatatypes(node); }
 };
@@ -174,14 +169,13 @@ struct DtVariantRecordFamily : DtDatatypeFamily<DtVariantDatatypeNode, DtVariant
     static constexpr const char* header = "../data/templates/subTemplates/variantRecordsHeader.tlt";
     static constexpr const char* source = "../data/templates/subTemplates/variantRecordsSource.tlt";
 
-    static auto begin(const DtOMTTree& tree) { return tree.getVariantDatatypeNodeList(); }
-    static auto end(const DtOMTTree& tree) { return tree.getVariantDatatypeEndNode(); }
+    static const std::list<Node*>& nodes(const DtOMTTree& tree) { return tree.variantDatatypes(); }
     static std::vector<DtString> memberNames(const Node& node)
     {
         std::vector<DtString> names;
-        for (auto part = node.getComponentNodeList(); part != node.getComponentNodeEnd(); ++part)
-            if (hasVariantMember((*part)->getDatatype()))
-                names.push_back((*part)->getName());
+        for (const DtAlternativeComponentNode* part : node.components())
+            if (hasVariantMember(part->getDatatype()))
+                names.push_back(part->getName());
         return names;
     }
     static std::vector<DtString> memberDatatypes(const Node& node) { return componentDatatypes(node); }
@@ -217,14 +211,14 @@ bool DtOMTEnvWriter::isWanted(const DtString& name) const
 template <typename Family>
 void DtOMTEnvWriter::writeFamily()
 {
-    for (auto node = Family::begin(tree()); node != Family::end(tree()); ++node)
+    for (typename Family::Node* node : Family::nodes(tree()))
     {
         if (Family::stopsOnCancel && isCancelled())
             return;
-        if (!isWanted<Family>((*node)->getName()))
+        if (!isWanted<Family>(node->getName()))
             continue;
-        writePair<Family>(*node);
-        Family::finish(*node, *this);
+        writePair<Family>(node);
+        Family::finish(node, *this);
     }
 }
 
@@ -256,17 +250,17 @@ template <typename Family>
 void DtOMTEnvWriter::recordClassNames(DtClassNameClashes& shared, DtHeldDatatypes& held)
 {
     DtDatatypeClassNames& classNames = DtDatatypeClassNames::instance();
-    for (auto node = Family::begin(tree()); node != Family::end(tree()); ++node)
+    for (typename Family::Node* node : Family::nodes(tree()))
     {
-        const DtString name = (*node)->getName();
+        const DtString name = node->getName();
         if (!isWanted<Family>(name) || classNames.contains(name))
             continue;
         const DtString stem = DtDatatypeClassNames::fileStem(name, names());
         classNames.add(name, DtDatatypeClassNames::classNameOfStem(stem));
         shared.add(name, classNames.className(name));
-        held.add(name, Family::memberDatatypes(**node));
-        warnOfMemberNames(name, Family::memberNames(**node));
-        Family::nameFurther(**node, names());
+        held.add(name, Family::memberDatatypes(*node));
+        warnOfMemberNames(name, Family::memberNames(*node));
+        Family::nameFurther(*node, names());
     }
 }
 
@@ -275,9 +269,9 @@ void DtOMTEnvWriter::recordAllClassNames()
     DtClassNameClashes shared;
     DtHeldDatatypes held;
     std::set<DtString> enumerations; // the enumerations header tells of those that are called alike
-    for (auto node = tree().getEnumeratedDatatypeNodeList(); node != tree().getEnumeratedDatatypeEndNode(); ++node)
+    for (const DtEnumeratedDatatypeNode* node : tree().enumeratedDatatypes())
     {
-        const DtString& name = (*node)->getName();
+        const DtString& name = node->getName();
         if (myUsedDatatypes.count(name) == 0 || !DtDataTypeMapper::instance()->isEnumeration(name))
             continue;
         const DtString type = DtClassFileWriter::identifierOf(DtDataTypeMapper::instance()->quorvexType(name));

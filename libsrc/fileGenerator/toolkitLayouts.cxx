@@ -335,11 +335,11 @@ private:
     template <typename Record>
     DtArrayText onlyField(const Record& record)
     {
-        const auto first = record.getComponentNodeList();
-        if (first == record.getComponentNodeEnd() || std::next(first) != record.getComponentNodeEnd())
+        if (record.components().size() != 1)
             return {};
-        const DtArrayText array = arrayOf(**first);
-        return array.element.isEmpty() ? run((*first)->getDatatype()) : array;
+        const auto* field = record.components().front();
+        const DtArrayText array = arrayOf(*field);
+        return array.element.isEmpty() ? run(field->getDatatype()) : array;
     }
     DtArrayText usual(const DtString& name) const
     {

@@ -111,15 +111,15 @@ void DtVariantRecordFileWriter::compileAttributes(DtVariantDatatypeNode* node, D
     setDiscriminant(node->getDiscriminant(), node->getDatatype(), tree);
     myValuelessSelectors.clear();
     std::vector<DtAttribute> members;
-    for (auto alternative = node->getComponentNodeList(); alternative != node->getComponentNodeEnd(); ++alternative)
+    for (const DtAlternativeComponentNode* alternative : node->components())
     {
-        if (!hasVariantMember((*alternative)->getDatatype()))
+        if (!hasVariantMember(alternative->getDatatype()))
         {
-            myValuelessSelectors.push_back((*alternative)->getEnumerator());
+            myValuelessSelectors.push_back(alternative->getEnumerator());
             continue;
         }
-        members.push_back(makeMember((*alternative)->getName(), (*alternative)->getDatatype(), "0-1"));
-        members.back().setDiscriminantValue((*alternative)->getEnumerator());
+        members.push_back(makeMember(alternative->getName(), alternative->getDatatype(), "0-1"));
+        members.back().setDiscriminantValue(alternative->getEnumerator());
     }
     const DtString& name = node->getName();
     registerNetTypeTraits(name, DtDataTypeMapper::instance()->quorvexType(name), members, tree);

@@ -1,6 +1,6 @@
 #include "fileGenerator/datatypeBoundaries.h"
 
-#include "omtReader/omtTree.h"
+#include "omtReader/visitDatatype.h"
 
 #include <algorithm>
 #include <vector>
@@ -77,18 +77,29 @@ int DtDatatypeBoundaries::of(const DtString& name)
 
 DtDatatypeBoundaries::Link DtDatatypeBoundaries::linkOf(const DtString& name) const
 {
-    if (const DtBasicDataRepresentationNode* basic = myTree.getBasicDataRepresentationNode(name))
-        return {true, basic->getSize().toInt() / 8, DtString(), false};
-    if (const DtSimpleDatatypeNode* simple = myTree.getSimpleDatatypeNode(name))
-        return {false, 0, simple->getRepresentation(), false};
-    if (const DtEnumeratedDatatypeNode* enumerated = myTree.getEnumeratedDatatypeNode(name))
-        return {false, 0, enumerated->getRepresentation(), false};
-    if (const DtArrayDatatypeNode* array = myTree.getArrayDatatypeNode(name))
-        return {false, 0, array->getDatatype(), array->getEncoding() == "HLAvariableArray"};
-    const DtFixedDatatypeNode* fixed = myTree.getFixedDatatypeNode(name);
-    if (fixed != nullptr && !fixed->components().empty())
-        return {false, 0, fixed->components().front()->getDatatype(), false};
-    if (const DtVariantDatatypeNode* variant = myTree.getVariantDatatypeNode(name))
-        return {false, 0, variant->getDatatype(), false};
-    return {};
+    const auto through = [](const DtString& next) { return Link{false, 0, next, false}; };
+    // A record that says nothing of a boundary leaves a variant record of the same name to tell it.
+    const auto throughVariant = [&]
+    {
+        const DtVariantDatatypeNode* variant = myTree.getVariantDatatypeNode(name);
+        return variant != nullptr ? through(variant->getDatatype()) : Link();
+    };
+    return visitDatatype(
+        myTree, name,
+        DtVisitor{[](const DtBasicDataRepresentationNode& basic) {
+                      return Link{true, basic.getSize().toInt() / 8, DtString(), false};
+                  },
+                  [&](const DtSimpleDatatypeNode& simple) { return through(simple.getRepresentation()); },
+                  [&](const DtEnumeratedDatatypeNode& enumerated) { return through(enumerated.getRepresentation()); },
+                  [](const DtArrayDatatypeNode& array) {
+                      return Link{false, 0, array.getDatatype(), array.getEncoding() == "HLAvariableArray"};
+                  },
+                  [&](const DtFixedDatatypeNode& record)
+                  {
+                      const auto& fields = record.components();
+                      return fields.empty() ? throughVariant() : through(fields.front()->getDatatype());
+                  },
+                  [&](const DtComplexDatatypeNode&) { return throughVariant(); },
+                  [&](const DtVariantDatatypeNode& variant) { return through(variant.getDatatype()); },
+                  [](DtUnknownDatatype) { return Link(); }});
 }

@@ -65,13 +65,6 @@ void insertDatatypes(const Members& members, std::set<DtString>& datatypes)
     }
 }
 
-template <typename Record>
-void appendComponents(const Record& record, std::vector<DtString>& datatypes)
-{
-    for (const auto* component : record.components())
-        datatypes.push_back(component->getDatatype());
-}
-
 // Neither an optional component nor one that depends on another, nor a single value.
 bool hasArray(const DtComplexComponentNode& component)
 {
@@ -131,13 +124,13 @@ std::vector<DtString> DtDatatypeClosure::subDatatypes(const DtString& name) cons
     if (const DtArrayDatatypeNode* array = myTree->getArrayDatatypeNode(name))
         datatypes.push_back(array->getDatatype());
     else if (const DtFixedDatatypeNode* fixed = myTree->getFixedDatatypeNode(name))
-        appendComponents(*fixed, datatypes);
+        datatypes = componentDatatypes(*fixed);
     else if (const DtComplexDatatypeNode* complex = myTree->getComplexDatatypeNode(name))
-        appendComponents(*complex, datatypes);
+        datatypes = componentDatatypes(*complex);
     else if (const DtVariantDatatypeNode* variant = myTree->getVariantDatatypeNode(name))
     {
+        datatypes = componentDatatypes(*variant);
         datatypes.push_back(variant->getDatatype());
-        appendComponents(*variant, datatypes);
     }
     if (const DtSimpleDatatypeNode* simple = myTree->getSimpleDatatypeNode(name))
         datatypes.push_back(simple->getRepresentation());

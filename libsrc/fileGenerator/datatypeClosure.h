@@ -15,6 +15,16 @@ class DtComplexDatatypeNode;
 class DtOMTTree;
 struct DtArrayShape;
 
+// The datatypes of a record's components, in order, each as often as it comes. Without the discriminant of a variant.
+template <typename Record>
+std::vector<DtString> componentDatatypes(const Record& record)
+{
+    std::vector<DtString> datatypes;
+    for (const auto* component : record.components())
+        datatypes.push_back(component->getDatatype());
+    return datatypes;
+}
+
 // The datatypes that a selection of classes uses, and the arrays that cardinalities imply without a declaration.
 //
 // Both drivers of generation share this. It works on the tree and on the set of used datatypes of its driver and owns

@@ -1,7 +1,7 @@
 #include "fileGenerator/datatypeShape.h"
 
 #include "foundation/stringUtils.h"
-#include "omtReader/omtTree.h"
+#include "omtReader/visitDatatype.h"
 
 #include <algorithm>
 #include <set>
@@ -170,10 +170,7 @@ DtNumberForm numberOf(const DtString& datatype, const DtOMTTree& tree)
     DtString name = belowSimpleTypes(datatype, tree);
     if (const DtEnumeratedDatatypeNode* enumeration = tree.getEnumeratedDatatypeNode(name))
         name = belowSimpleTypes(enumeration->getRepresentation(), tree);
-    if (tree.getArrayDatatypeNode(name) != nullptr || tree.getFixedDatatypeNode(name) != nullptr ||
-        tree.getVariantDatatypeNode(name) != nullptr || tree.getComplexDatatypeNode(name) != nullptr)
-        return {};
-    return numberFormOfRepresentation(name);
+    return isComposite(tree, name) ? DtNumberForm() : numberFormOfRepresentation(name);
 }
 
 DtArrayLength lengthOfArray(const DtString& encoding, int elementCount)

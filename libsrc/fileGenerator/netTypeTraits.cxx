@@ -3,8 +3,9 @@
 #include "fileGenerator/attribute.h"
 #include "fileGenerator/dataTypeMapper.h"
 #include "fileGenerator/datatypeClassNames.h"
+#include "fileGenerator/datatypeClosure.h"
 #include "foundation/stringUtils.h"
-#include "omtReader/omtTree.h"
+#include "omtReader/visitDatatype.h"
 
 #include <set>
 
@@ -70,22 +71,24 @@ private:
             myIsVariable = true;
     }
 
+    // All that bears the name counts.
     void visitStructure(const DtString& datatype)
     {
-        if (const DtSimpleDatatypeNode* simple = myTree.getSimpleDatatypeNode(datatype))
-            add(simple->getRepresentation());
-        if (const DtArrayDatatypeNode* array = myTree.getArrayDatatypeNode(datatype))
-            visitArray(*array);
-        if (const DtFixedDatatypeNode* record = myTree.getFixedDatatypeNode(datatype))
-            addComponents(*record);
-        if (const DtComplexDatatypeNode* record = myTree.getComplexDatatypeNode(datatype))
-            addComponents(*record);
-        if (const DtVariantDatatypeNode* record = myTree.getVariantDatatypeNode(datatype))
-        {
-            myHasVariant = true;
-            add(record->getDatatype());
-            addComponents(*record);
-        }
+        visitEachDatatype(myTree, datatype,
+                          DtVisitor{[](const DtBasicDataRepresentationNode&) {},
+                                    [this](const DtSimpleDatatypeNode& simple) { add(simple.getRepresentation()); },
+                                    [](const DtEnumeratedDatatypeNode&) {},
+                                    [this](const DtArrayDatatypeNode& array) { visitArray(array); },
+                                    [this](const DtFixedDatatypeNode& record) { addComponents(record); },
+                                    [this](const DtComplexDatatypeNode& record) { addComponents(record); },
+                                    [this](const DtVariantDatatypeNode& record) { visitVariant(record); }});
+    }
+
+    void visitVariant(const DtVariantDatatypeNode& record)
+    {
+        myHasVariant = true;
+        add(record.getDatatype());
+        addComponents(record);
     }
 
     void visitArray(const DtArrayDatatypeNode& array)
@@ -98,8 +101,8 @@ private:
     template <typename Record>
     void addComponents(const Record& record)
     {
-        for (const auto* component : record.components())
-            add(component->getDatatype());
+        for (const DtString& datatype : componentDatatypes(record))
+            add(datatype);
     }
 
     const DtOMTTree& myTree;

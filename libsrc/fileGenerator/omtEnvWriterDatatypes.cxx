@@ -3,6 +3,7 @@
 #include "fileGenerator/cCompatibleName.h"
 #include "fileGenerator/complexDataTypeFileWriter.h"
 #include "fileGenerator/datatypeClassNames.h"
+#include "fileGenerator/datatypeClosure.h"
 #include "fileGenerator/fixedRecordsFileWriter.h"
 #include "fileGenerator/nameClashes.h"
 #include "fileGenerator/omtEnvWriter.h"
@@ -12,14 +13,7 @@
 #include "fileGenerator/toolkitNames.h"
 #include "fileGenerator/variantRecordFileWriter.h"
 #include "foundation/stringUtils.h"
-#include "omtReader/arrayDatatypeNode.h"
-#include "omtReader/basicDataRepresentationNode.h"
-#include "omtReader/complexDatatypeNode.h"
-#include "omtReader/enumeratedDatatypeNode.h"
-#include "omtReader/fixedDatatypeNode.h"
-#include "omtReader/omtTree.h"
-#include "omtReader/simpleDatatypeNode.h"
-#include "omtReader/variantDatatypeNode.h"
+#include "omtReader/visitDatatype.h"
 
 #include <algorithm>
 #include <type_traits>
@@ -76,15 +70,6 @@ std::vector<DtString> componentNames(const Record& record)
     for (const auto* component : record.components())
         names.push_back(component->getName());
     return names;
-}
-
-template <typename Record>
-std::vector<DtString> componentDatatypes(const Record& record)
-{
-    std::vector<DtString> datatypes;
-    for (const auto* component : record.components())
-        datatypes.push_back(component->getDatatype());
-    return datatypes;
 }
 
 struct DtComplexFamily : DtDatatypeFamily<DtComplexDatatypeNode, DtComplexDataTypeFileWriter>
@@ -291,12 +276,7 @@ bool DtOMTEnvWriter::getsClass(const DtString& datatype) const
 {
     if (tree().getSimpleDatatypeNode(datatype) != nullptr)
         return isWanted<DtSimpleFamily>(datatype);
-    const bool isDefined =
-        tree().getEnumeratedDatatypeNode(datatype) != nullptr ||
-        tree().getBasicDataRepresentationNode(datatype) != nullptr ||
-        tree().getArrayDatatypeNode(datatype) != nullptr || tree().getFixedDatatypeNode(datatype) != nullptr ||
-        tree().getVariantDatatypeNode(datatype) != nullptr || tree().getComplexDatatypeNode(datatype) != nullptr;
-    return isDefined && isWanted<DtArrayFamily>(datatype);
+    return isDefined(tree(), datatype) && isWanted<DtArrayFamily>(datatype);
 }
 
 // In a namespace, a generated type may be called like one of the toolkit that generated code never speaks of.

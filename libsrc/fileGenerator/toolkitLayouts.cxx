@@ -4,7 +4,7 @@
 #include "fileGenerator/datatypeShape.h"
 #include "foundation/outputStream.h"
 #include "foundation/stringUtils.h"
-#include "omtReader/omtTree.h"
+#include "omtReader/visitDatatype.h"
 
 #include <algorithm>
 
@@ -61,14 +61,6 @@ const DtToolkitRow* rowOf(const DtString& type)
     const auto* found = std::find_if(std::begin(theTypes), std::end(theTypes),
                                      [&type](const DtToolkitRow& row) { return type == row.type; });
     return found != std::end(theTypes) ? found : nullptr;
-}
-
-bool isDefined(const DtString& name, const DtOMTTree& tree)
-{
-    return tree.getBasicDataRepresentationNode(name) != nullptr || tree.getSimpleDatatypeNode(name) != nullptr ||
-           tree.getEnumeratedDatatypeNode(name) != nullptr || tree.getArrayDatatypeNode(name) != nullptr ||
-           tree.getFixedDatatypeNode(name) != nullptr || tree.getVariantDatatypeNode(name) != nullptr ||
-           tree.getComplexDatatypeNode(name) != nullptr;
 }
 
 bool isUpper(char character)
@@ -258,8 +250,7 @@ DtToolkitLayout layoutOfNumber(const DtString& datatype, const DtToolkitRow& row
     DtToolkitLayout layout;
     const DtNumberForm form = numberOf(datatype, tree);
     const DtString name = belowSimpleTypes(datatype, tree);
-    if (tree.getArrayDatatypeNode(name) != nullptr || tree.getFixedDatatypeNode(name) != nullptr ||
-        tree.getVariantDatatypeNode(name) != nullptr || tree.getComplexDatatypeNode(name) != nullptr)
+    if (isComposite(tree, name))
         layout.difference = "is no number";
     else if (form.octets != 0 && !fits(form, row.isFloat))
         layout.difference = row.isFloat ? "is no floating-point number of 4 or 8 octets" : "is no whole number";
@@ -344,7 +335,7 @@ private:
     DtArrayText usual(const DtString& name) const
     {
         for (const DtUsualText& row : theUsualTexts)
-            if (name == row.name && !isDefined(name, myTree))
+            if (name == row.name && !isDefined(myTree, name))
                 return {row.element, row.encoding, -1};
         return {};
     }
@@ -411,7 +402,7 @@ DtString toolkitTypeOf(const DtString& datatype, const DtOMTTree& tree)
 DtToolkitLayout toolkitLayoutOf(const DtString& datatype, const DtString& toolkitType, const DtOMTTree& tree)
 {
     const DtToolkitRow* row = rowOf(toolkitType);
-    if (row == nullptr || !isDefined(datatype, tree))
+    if (row == nullptr || !isDefined(tree, datatype))
         return {};
     DtToolkitLayout layout = layoutOfRow(datatype, *row, tree);
     if (!layout.difference.isEmpty())

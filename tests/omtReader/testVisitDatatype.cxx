@@ -118,6 +118,57 @@ private Q_SLOTS:
             QCOMPARE(visited(tree, name), QByteArray("unknown"));
     }
 
+    void eachFamilyThatKnowsANameIsVisitedInOrder()
+    {
+        DtOMTTree tree;
+        for (const char* family : {"variant", "array", "simple"})
+            add(tree, family, "Shared");
+        add(tree, "fixed", "Other");
+        QByteArrayList met;
+        const auto visit = [&](const char* name)
+        {
+            met.clear();
+            visitEachDatatype(tree, name,
+                              DtVisitor{[&](const DtBasicDataRepresentationNode&) { met += "basic"; },
+                                        [&](const DtSimpleDatatypeNode&) { met += "simple"; },
+                                        [&](const DtEnumeratedDatatypeNode&) { met += "enumerated"; },
+                                        [&](const DtArrayDatatypeNode&) { met += "array"; },
+                                        [&](const DtFixedDatatypeNode&) { met += "fixed"; },
+                                        [&](const DtComplexDatatypeNode&) { met += "complex"; },
+                                        [&](const DtVariantDatatypeNode&) { met += "variant"; }});
+            return met;
+        };
+        QCOMPARE(visit("Shared"), (QByteArrayList{"simple", "array", "variant"}));
+        QCOMPARE(visit("Other"), QByteArrayList{"fixed"});
+        QCOMPARE(visit("None"), QByteArrayList());
+    }
+
+    void nameOfAnyFamilyIsDefined()
+    {
+        for (const char* family : theFamilies)
+        {
+            DtOMTTree tree;
+            QVERIFY(!isDefined(tree, "Known"));
+            add(tree, family, "Known");
+            QVERIFY2(isDefined(tree, "Known"), family);
+            QVERIFY(!isDefined(tree, "None"));
+        }
+    }
+
+    void arraysAndRecordsAreComposite()
+    {
+        for (const char* family : theFamilies)
+        {
+            DtOMTTree tree;
+            add(tree, family, "Known");
+            const bool isExpected = !QByteArrayList{"basic", "simple", "enumerated"}.contains(family);
+            QVERIFY2(isComposite(tree, "Known") == isExpected, family);
+            add(tree, "fixed", "Known"); // a second meaning counts too
+            QVERIFY2(isComposite(tree, "Known"), family);
+            QVERIFY(!isComposite(tree, "None"));
+        }
+    }
+
     void visitorKeepsItsState()
     {
         struct Counter
@@ -138,6 +189,8 @@ private Q_SLOTS:
         QVERIFY(theAnswersAreComplete<DtVisitorOfAnyNode>);
         QVERIFY(!theAnswersAreComplete<DtVisitorWithoutArrays>);
         QVERIFY(!theAnswersAreComplete<DtVisitorOfKnownOnly>);
+        QVERIFY(theFamiliesAreComplete<DtVisitorOfKnownOnly>);
+        QVERIFY(!theFamiliesAreComplete<DtVisitorWithoutArrays>);
     }
 };
 

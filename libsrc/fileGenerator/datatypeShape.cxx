@@ -4,7 +4,6 @@
 #include "omtReader/visitDatatype.h"
 
 #include <algorithm>
-#include <set>
 
 namespace
 {
@@ -151,18 +150,20 @@ DtDatatypeShape shapeOf(const DtString& datatype, const DtOMTTree& tree, std::si
     return DtShapeWalk(tree, mostParts).run(datatype);
 }
 
+DtRepresentationChain simpleTypesBelow(const DtString& datatype, const DtOMTTree& tree)
+{
+    return followRepresentations(datatype,
+                                 [&tree](const DtString& name)
+                                 {
+                                     const DtSimpleDatatypeNode* simple = tree.getSimpleDatatypeNode(name);
+                                     return simple != nullptr ? simple->getRepresentation() : DtString();
+                                 });
+}
+
 DtString belowSimpleTypes(const DtString& datatype, const DtOMTTree& tree)
 {
-    std::set<DtString> visited;
-    DtString name = datatype;
-    while (visited.insert(name).second)
-    {
-        const DtSimpleDatatypeNode* simple = tree.getSimpleDatatypeNode(name);
-        if (simple == nullptr || simple->getRepresentation().isEmpty())
-            return name;
-        name = simple->getRepresentation();
-    }
-    return datatype;
+    const DtRepresentationChain chain = simpleTypesBelow(datatype, tree);
+    return chain.isRing ? datatype : chain.names.back();
 }
 
 DtNumberForm numberOf(const DtString& datatype, const DtOMTTree& tree)

@@ -2,6 +2,7 @@
 #define FILE_GENERATOR_DATATYPE_SHAPE_H
 
 #include "fileGenerator/numberForm.h"
+#include "fileGenerator/representationWalk.h"
 #include "foundation/string.h"
 
 #include <vector>
@@ -30,7 +31,10 @@ struct DtDatatypeShape
 // The shape of a datatype. One with more than mostParts numbers is at fault, and so is one that holds itself.
 DtDatatypeShape shapeOf(const DtString& datatype, const DtOMTTree& tree, std::size_t mostParts);
 
-// The datatype that a chain of simple types ends at, the datatype itself included.
+// The chain of simple types that begins with the datatype, by the tree; it ends with what is no simple type.
+DtRepresentationChain simpleTypesBelow(const DtString& datatype, const DtOMTTree& tree);
+
+// The last of that chain, or the datatype itself when the chain is a ring.
 DtString belowSimpleTypes(const DtString& datatype, const DtOMTTree& tree);
 
 // The number that a datatype is, looked up below simple types and enumerations; without octets when it is none.

@@ -4,6 +4,7 @@
 #include "fileGenerator/dataTypeMapper.h"
 #include "fileGenerator/memberTypes.h"
 #include "fileGenerator/netTypeTraits.h"
+#include "fileGenerator/representationWalk.h"
 #include "foundation/stringUtils.h"
 #include "omtReader/fixedDatatypeNode.h"
 
@@ -16,11 +17,13 @@ namespace
 DtString encodingOfText(const DtString& datatype)
 {
     const DtDataTypeMapper& mapper = *DtDataTypeMapper::instance();
-    std::set<DtString> visited;
-    DtString name = datatype;
-    while (!name.isEmpty() && mapper.encOfDatatype(name).isEmpty() && visited.insert(name).second)
-        name = mapper.repOfSimpleType(name);
-    return mapper.encOfDatatype(name);
+    const auto below = [&mapper](const DtString& name) { return mapper.repOfSimpleType(name); };
+    for (const DtString& name : followRepresentations(datatype, below).names)
+    {
+        if (!mapper.encOfDatatype(name).isEmpty())
+            return mapper.encOfDatatype(name);
+    }
+    return DtString();
 }
 
 DtAttribute fieldMember(const DtFieldComponentNode& field)

@@ -2,8 +2,7 @@
 
 #include "fileGenerator/dataTypeMapper.h"
 #include "fileGenerator/datatypeClassNames.h"
-
-#include <set>
+#include "fileGenerator/representationWalk.h"
 
 namespace
 {
@@ -12,13 +11,11 @@ namespace
 DtString mappedRepresentation(const DtString& datatype)
 {
     const DtDataTypeMapper& mapper = *DtDataTypeMapper::instance();
-    std::set<DtString> visited = {datatype};
-    DtString name = mapper.repOfSimpleType(datatype);
-    while (!name.isEmpty() && visited.insert(name).second)
+    const auto below = [&mapper](const DtString& name) { return mapper.repOfSimpleType(name); };
+    for (const DtString& name : followRepresentations(datatype, below).names)
     {
-        if (!mapper.quorvexType(name).isEmpty())
+        if (name != datatype && !mapper.quorvexType(name).isEmpty())
             return mapper.quorvexType(name);
-        name = mapper.repOfSimpleType(name);
     }
     return DtString();
 }
@@ -57,15 +54,10 @@ DtString memberType(const DtString& datatype)
 
 DtString lastRepresentation(const DtString& datatype)
 {
-    std::set<DtString> visited = {datatype};
-    DtString last;
-    for (DtString next = representationOf(datatype); !next.isEmpty(); next = representationOf(last))
-    {
-        if (!visited.insert(next).second)
-            return datatype;
-        last = next;
-    }
-    return last;
+    const DtRepresentationChain chain = followRepresentations(datatype, representationOf);
+    if (chain.isRing)
+        return datatype;
+    return chain.names.size() > 1 ? chain.names.back() : DtString();
 }
 
 DtAttribute makeMember(const DtString& name, const DtString& datatype, const DtString& cardinality)

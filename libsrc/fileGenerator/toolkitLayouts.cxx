@@ -384,15 +384,11 @@ DtToolkitLayout layoutOfRow(const DtString& datatype, const DtToolkitRow& row, c
 // The type that stands for a datatype, or for the first of the representations below it that is mapped.
 DtString toolkitTypeOf(const DtString& datatype, const DtOMTTree& tree)
 {
-    std::set<DtString> visited;
-    DtString name = datatype;
-    while (!name.isEmpty() && visited.insert(name).second)
+    for (const DtString& name : simpleTypesBelow(datatype, tree).names)
     {
         const DtString& type = DtDataTypeMapper::instance()->quorvexType(name);
-        if (!type.isEmpty())
+        if (!name.isEmpty() && !type.isEmpty())
             return type;
-        const DtSimpleDatatypeNode* simple = tree.getSimpleDatatypeNode(name);
-        name = simple != nullptr ? simple->getRepresentation() : DtString();
     }
     return DtString();
 }

@@ -3,6 +3,7 @@
 #include "fileGenerator/dataTypeMapper.h"
 #include "fileGenerator/qtProgressMeter.h"
 #include "fileGenerator/regularExpressionUtils.h"
+#include "fileGenerator/relativePath.h"
 #include "fileGenerator/settings.h"
 #include "fileGenerator/templateBlock.h"
 #include "fileGenerator/templateFiles.h"
@@ -24,26 +25,6 @@ constexpr int theMaximumBlockDepth = 1000;
 std::size_t pieceLimit()
 {
     return static_cast<std::size_t>(std::max(2, DtSettings::instance().cpp.maximumLineLength) - 1);
-}
-
-// True when the path that directory and name make together is not below the directory. What stands behind the last
-// separator of the directory's text is part of the names in it. An absolute name is never below.
-bool leavesDirectory(const DtString& directory, const DtString& name)
-{
-    DtFilename parent(directory);
-    parent.stripFilename();
-    if (name.startsWith("/") && parent.length() == directory.length())
-        return true;
-    const DtString path = directory + name;
-    if (path.stdString().find("..", parent.length()) == theNowhere)
-        return false;
-    const std::string root = DtFilename::normalized(parent).stdString();
-    const std::string start = root.empty() || root == "/" ? root : root + "/";
-    const std::string normal = DtFilename::normalized(path).stdString();
-    if (normal.compare(0, start.size(), start) != 0)
-        return true;
-    const std::string rest = normal.substr(start.size());
-    return rest == ".." || rest.compare(0, 3, "../") == 0;
 }
 
 DtString flag(bool isSet)
@@ -160,7 +141,7 @@ void DtFileWriter::openOutput()
     const bool isHeader = DtContainsSubstring(myFileName, ".h");
     const DtString name = isHeader ? DtSettings::instance().cpp.includePath() + myFileName : myFileName;
     const DtString path = outputDirectory() + name;
-    if (leavesDirectory(outputDirectory(), name))
+    if (!staysBelow(name, outputDirectory()))
     {
         DtWarn << "File " << path << " is not written: it is outside of the output directory." << std::endl;
         return;

@@ -1,13 +1,11 @@
 #ifndef FILE_GENERATOR_RELATIVE_PATH_H
 #define FILE_GENERATOR_RELATIVE_PATH_H
 
-#include "foundation/filename.h"
+#include "foundation/string.h"
 
-// False for a path that leads away from the directory it is joined to: nothing is made there.
-inline bool staysBelow(const DtString& path)
-{
-    const DtString normal = DtFilename::normalized(path);
-    return !DtFilename(path).isAbsolute() && normal != ".." && !normal.startsWith("../");
-}
+// False when the path that directory and name make together leads away from the directory: nothing is made there. What
+// stands behind the last separator of the directory's text is part of the names in it; an empty one is the directory
+// that the name is joined to later. An absolute name is never below.
+bool staysBelow(const DtString& name, const DtString& directory = DtString());
 
 #endif

@@ -67,6 +67,11 @@ DtInteractionFileGenerator::DtInteractionFileGenerator(const DtString& name, std
 
 DtInteractionFileGenerator::~DtInteractionFileGenerator() = default;
 
+int DtInteractionFileGenerator::fileCount(bool generateDis)
+{
+    return countOutputs(theOutputs, generateDis);
+}
+
 void DtInteractionFileGenerator::generateFiles()
 {
     if (runWriters() && myGenerateExamples && myExamplesCreator != nullptr)

@@ -16,6 +16,9 @@ public:
                                bool generateDis, const DtOmtInteraction& interaction, DtOmtProject project);
     ~DtInteractionFileGenerator() override;
 
+    // The number of files of a class, without its examples.
+    static int fileCount(bool generateDis);
+
     void generateFiles() override;
     void addAttribute(const DtString& name, const DtString& datatype, const DtString& cardinality) override;
     // Differs from the objects' in its failures: a datatype without any representation is warned about, and an array

@@ -92,6 +92,11 @@ DtObjectFileGenerator::DtObjectFileGenerator(const DtString& name, std::set<DtSt
 
 DtObjectFileGenerator::~DtObjectFileGenerator() = default;
 
+int DtObjectFileGenerator::fileCount(bool generateDis)
+{
+    return countOutputs(theOutputs, generateDis);
+}
+
 void DtObjectFileGenerator::createExamples(const DtString& name, const DtOmtObject& object)
 {
     myExamplesCreator = std::make_unique<DtExamplesCreator>(name, myOmtProject, object);

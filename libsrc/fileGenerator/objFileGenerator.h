@@ -17,6 +17,9 @@ public:
                           const DtOmtObject& object, DtOmtProject project);
     ~DtObjectFileGenerator() override;
 
+    // The number of files of a class, without its examples.
+    static int fileCount(bool generateDis);
+
     void generateFiles() override;
     void addAttribute(const DtString& name, const DtString& datatype, const DtString& cardinality) override;
     void determineValueType(const DtString& datatype, DtString& cardinality, DtString& type) override;

@@ -27,6 +27,12 @@
 
 namespace
 {
+// What the progress meter counts for what no table lists: header and source of a datatype, the examples of a class, and
+// the files of the whole run. The last two are shares of the meter, not numbers of files.
+constexpr int theFilesOfDatatype = 2;
+constexpr int theMeasureOfExample = 12;
+constexpr int theMeasureOfRun = 16;
+
 DtDataTypeMapper& mapper()
 {
     return *DtDataTypeMapper::instance();
@@ -209,10 +215,9 @@ void DtOMTEnvWriter::compileExportMacroName()
 
 void DtOMTEnvWriter::setTotalProgress()
 {
-    const int filesPerObject = myGenerateDis ? 28 : 12;
-    const int filesPerInteraction = myGenerateDis ? 10 : 6;
-    const int filesPerExample = myGenerateExamples ? 12 : 0;
-    const int fixedFiles = 16;
+    const int perObject = DtObjectFileGenerator::fileCount(myGenerateDis);
+    const int perInteraction = DtInteractionFileGenerator::fileCount(myGenerateDis);
+    const int perExample = myGenerateExamples ? theMeasureOfExample : 0;
     int datatypes = 0;
     for (const DtString& name : myUsedDatatypes)
     {
@@ -222,9 +227,9 @@ void DtOMTEnvWriter::setTotalProgress()
     }
     const int objects = static_cast<int>(myObjectsToGenerate.size());
     const int interactions = static_cast<int>(myInteractionsToGenerate.size());
-    DtQtProgressMeter::instance()->setTotalMeasure(fixedFiles + 2 * datatypes +
-                                                   (filesPerObject + filesPerExample) * objects +
-                                                   (filesPerInteraction + filesPerExample) * interactions);
+    DtQtProgressMeter::instance()->setTotalMeasure(theMeasureOfRun + theFilesOfDatatype * datatypes +
+                                                   (perObject + perExample) * objects +
+                                                   (perInteraction + perExample) * interactions);
 }
 
 void DtOMTEnvWriter::generateEnumerationsFile()

@@ -3,6 +3,8 @@
 
 #include "fileGenerator/classFileWriter.h"
 
+#include <algorithm>
+#include <iterator>
 #include <memory>
 #include <type_traits>
 
@@ -25,6 +27,14 @@ struct DtOutputRow
                                                const Record& record);
     DtWanted wanted;
 };
+
+// The number of files that a table gives a class.
+template <typename Table>
+int countOutputs(const Table& table, bool generateDis)
+{
+    const auto counts = [generateDis](const auto& row) { return generateDis || row.wanted == DtWanted::Always; };
+    return static_cast<int>(std::count_if(std::begin(table), std::end(table), counts));
+}
 
 // Makes a writer, which gets the selection record when its constructor takes one.
 template <typename Writer, typename Record>

@@ -127,6 +127,7 @@ void TestIntFileGenerator::interactionHasSixFiles()
     DtInteractionFileGenerator("FireInter", files, false, false, fire(), DtOmtProject()).generateFiles();
     QCOMPARE(files.size(), std::size_t(6));
     QCOMPARE(myFixture->outputs(), sorted(hlaFiles()));
+    QCOMPARE(DtInteractionFileGenerator::fileCount(false), 6);
 }
 
 void TestIntFileGenerator::interactionHasTenFilesWithDis()
@@ -135,6 +136,7 @@ void TestIntFileGenerator::interactionHasTenFilesWithDis()
     DtInteractionFileGenerator("FireInter", files, false, true, fire(), DtOmtProject()).generateFiles();
     QCOMPARE(files.size(), std::size_t(10));
     QCOMPARE(myFixture->outputs(), sorted(theFiles));
+    QCOMPARE(DtInteractionFileGenerator::fileCount(true), 10);
 }
 
 void TestIntFileGenerator::everyFileComesFromItsTemplate_data()

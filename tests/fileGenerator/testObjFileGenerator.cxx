@@ -161,6 +161,7 @@ void TestObjFileGenerator::classHasTwelveFiles()
     DtObjectFileGenerator("Tank", files, false, false, tank(), noProject()).generateFiles();
     QCOMPARE(listed(files), sorted(theHlaFiles));
     QCOMPARE(myFixture->outputs(), sorted(theHlaFiles));
+    QCOMPARE(DtObjectFileGenerator::fileCount(false), 12);
 }
 
 void TestObjFileGenerator::classHasTwentyEightFilesWithDis()
@@ -169,6 +170,7 @@ void TestObjFileGenerator::classHasTwentyEightFilesWithDis()
     DtObjectFileGenerator("Tank", files, false, true, tank(), noProject()).generateFiles();
     QCOMPARE(files.size(), std::size_t(28));
     QCOMPARE(myFixture->outputs(), sorted(theHlaFiles + theDisFiles));
+    QCOMPARE(DtObjectFileGenerator::fileCount(true), 28);
 }
 
 void TestObjFileGenerator::everyFileComesFromItsTemplate_data()

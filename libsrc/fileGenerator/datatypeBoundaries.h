@@ -17,7 +17,19 @@ class DtOMTTree;
 //   variant record          that of the discriminant
 //   anything else           1, also a record without fields and a name met again on the way
 //
-// Boundaries are remembered: the tree, which is not owned, must not change while this lives.
+// The idea: each datatype takes its boundary from one other at most, so the datatypes form chains. A look-up follows
+// the chain down to a datatype that has a value of its own or is known already, and then goes back up, where each
+// variable array raises the value to 4 at least and every datatype on the way is remembered. It is a loop, not a
+// recursion, as a model may have chains longer than the stack is deep.
+//
+// What always holds: a remembered boundary is the one that any other look-up would find, in whichever order the
+// datatypes are asked for.
+//
+// The trap is a ring, a chain that comes back to a datatype met on the way. Worked out on the way back alone, the
+// boundaries would depend on where the ring was entered. All its datatypes lie on every way around it, so they share
+// one boundary: 4 when there is a variable array among them, 1 otherwise.
+//
+// The tree is not owned and must not change while this lives.
 class DtDatatypeBoundaries
 {
 public:
@@ -26,7 +38,7 @@ public:
     int of(const DtString& name);
 
 private:
-    // What a datatype takes its boundary from: another one, or nothing, and then the value stands here.
+    // A datatype takes its boundary from the next one, or else it is the end of its chain and has the value itself.
     struct Link
     {
         bool isEnd = true;

@@ -7,6 +7,24 @@
 #include <memory>
 #include <vector>
 
+// How a block is read.
+//
+// The idea: the cursor stands on the "<" of an opening. Its header is read line by line until it ends, then the writer
+// takes the body, from the character behind the header, out of the same line and the lines that follow. The line in
+// which the header ends and the place where that line begins are kept for it: lines are views that the next read ends,
+// so the line is a copy, and the way back to any character of it is to move to the start of the line and skip.
+//
+// What always holds: while a line is looked at, linePosition is where it begins in the stream. It is taken ahead of the
+// read, for a read that reaches the end of the text sets a flag under which no position is told any more. Line feeds
+// between the lines of a header go; those of a body are part of it.
+//
+// The trap is what ends a header. The first delimiter does, and so does a ">", but tokens in a header have brackets of
+// their own: "<?exists <!Name!>>" ends at its last ">". So the "<" that are open are counted, through all lines, and a
+// ">" ends the header only when none is. A delimiter ends it whatever is open: no token of a header may hold it.
+//
+// Bodies hold blocks, which are read in the same way while the outer ones are still in use, so there is one working
+// memory for each depth.
+
 namespace
 {
 // Working memory by depth, for all writers of the process.

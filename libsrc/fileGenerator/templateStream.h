@@ -10,6 +10,18 @@
 #include <string_view>
 
 // Template text in memory as a standard input stream, and quick reading from it.
+//
+// The idea: templates are read whole and expanded in memory, but the loops and conditions of the writers take any
+// standard stream, and they go back to positions in it. So the text lies in a stream buffer of its own, and the scanner
+// reads through a cursor, which looks at the characters of that buffer in place, without a copy and without a call for
+// each. On a stream of another kind the cursor uses the stream's own operations.
+//
+// What always holds: on both ways the cursor leaves the position and the state flags as the operations of the stream
+// would have left them. It reads in place only while the flags are good, so the two ways differ in speed alone.
+//
+// The traps: a piece is valid until the next reading operation. One that reaches the end of the text sets the end flag
+// although it has been read, and an empty one sets the fail flag, as std::istream::get does. A position asked for while
+// a flag is set is -1, so positions are taken ahead of the read, and the state is cleared ahead of a move.
 
 // Input buffer over text that somebody else holds. Closed, it behaves like a file that could not be opened: nothing to
 // read, and every seek fails.
@@ -25,7 +37,7 @@ public:
     std::streamoff position() const { return myIsOpen ? gptr() - eback() : -1; }
     // False, with nothing changed, when there is no such position.
     bool moveTo(std::streamoff position);
-    // At most up to the end of the text.
+    // The caller does not skip beyond the end of the text.
     void skip(std::ptrdiff_t count) { setg(eback(), gptr() + count, egptr()); }
 
 protected:
@@ -46,7 +58,7 @@ public:
 
     // These start at the front of the text, with no state flag set.
     void open(std::string text);
-    // On text shared with others; a null pointer leaves the stream closed.
+    // The text is shared with others; a null pointer leaves the stream closed.
     void open(std::shared_ptr<const std::string> text);
     // Every read and seek fails from here on.
     void close();

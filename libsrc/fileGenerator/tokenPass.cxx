@@ -6,6 +6,24 @@
 #include <cstring>
 #include <string>
 
+// How a line is expanded.
+//
+// The rule is that of ordered passes: each row in turn replaces its token all over the line, so a row sees what the
+// rows ahead of it have put in. Taken literally that is a search of the line for every row, some hundred of them, and
+// nearly every line holds two or three tokens whose values hold none.
+//
+// The idea: one scan looks each token of the line up by its text and puts its value in. The outcome is that of the
+// passes as long as no pass could have found a token that did not stand in the line, be it in a value, be it where the
+// end of one piece meets the start of another.
+//
+// What always holds: a token begins with "<!", and an opening that anything could come of is still there when the scan
+// is done. So the openings of the outcome are counted; unless they are just those of the unknown tokens, which stay,
+// what the scan made is thrown away and the passes do the work. The passes are always right, the scan is quick.
+//
+// The traps: an opening inside a token, or one without an end, has the scan give up at once, since the passes might
+// find their token from either. And values are worked out in the order in which tokens are met, which is not that of
+// the rows: a value whose working out has an effect has to be worked out ahead, see workOutAll().
+
 namespace
 {
 constexpr std::size_t theNowhere = std::string_view::npos;

@@ -30,7 +30,7 @@ public:
     // The model's datatype; endianness and wire type follow it.
     virtual void setDatatype(const DtString& name);
     virtual const DtString& datatype() const;
-    // What the datatype itself is built on.
+    // The datatype that the datatype itself is built on.
     virtual void setDatatypeDatatype(const DtString& name);
     virtual const DtString& datatypeDatatype() const;
     virtual void setEncoding(const DtString& encoding);

@@ -5,7 +5,7 @@
 
 #include <vector>
 
-// What stands under a key of the model's context.
+// The form of what stands under a key of the model's context.
 enum class DtKeyForm
 {
     Plain, // a number or a fixed word

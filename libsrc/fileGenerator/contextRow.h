@@ -11,7 +11,7 @@
 
 // Tables of the keys that the entries of a list have, and what fills entries by them.
 
-// Nothing when the key is left out.
+// The value of a key in an entry; it is empty when the entry does not have the key.
 using DtContextValue = std::optional<DtString>;
 
 // One row: the key, how its value is got from a node of the model, and what else is put in beside it.

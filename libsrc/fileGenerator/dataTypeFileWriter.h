@@ -33,7 +33,7 @@ protected:
 
     // While one is, the tokens of members count.
     static bool hasCurrentAttribute(const DtDataTypeFileWriter& writer) { return writer.currentAttribute() != nullptr; }
-    // Is the target name among those already compiled?
+    // True when the target name is among those already compiled.
     bool isCompiled(const DtOMTNode& node) const;
     void addCompiled(DtOMTNode* node, std::vector<DtAttribute> attributes);
     // Makes class name and attributes those of the compiled datatype. No attribute is current then.

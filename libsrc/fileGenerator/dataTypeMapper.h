@@ -100,10 +100,10 @@ public:
     virtual void addNonEncodeableDataType(const DtString& name);
     // Also true for a std::vector of such a type; one level of vector is looked through.
     virtual bool isNonEncodeableDataType(const DtString& name) const;
-    // At the start of a run: generation marks these types, and a second run gives what the first one gave.
+    // A run calls this at its start: generation marks these types, and a second run gives what the first one gave.
     void forgetNonEncodeableDataTypes() { myNonEncodeableDataTypes.clear(); }
 
-    // In octets; 0 when unknown.
+    // Boundaries and sizes are in octets; those of unknown types are 0.
     virtual void addDataTypeNameToBoundary(const DtString& name, unsigned int boundary);
     virtual const DtNumberMap& dataTypeNameToBoundary() const;
     virtual unsigned int boundaryFromDataTypeName(const DtString& name) const;

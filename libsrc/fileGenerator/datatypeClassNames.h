@@ -7,7 +7,8 @@
 
 class DtCCompatibleNames;
 
-// What the present run generates for the model's datatypes, known before the first datatype file is written.
+// The names of what the present run generates for the model's datatypes, known before the first datatype file is
+// written.
 //
 // A datatype's members can have types whose own turn comes later; their class names are needed at once, while the
 // mapper learns each name only in its turn. The driver clears this at the start of a run and fills it ahead of the
@@ -20,7 +21,7 @@ public:
 
     // File name without directory and extension: the prefix and the name, first letter lowered, as an identifier.
     static DtString fileStem(const DtString& datatype, DtCCompatibleNames& names);
-    // "Dt" and the stem with a capital.
+    // The name of the class: "Dt" and the stem with a capital.
     static DtString classNameOfStem(const DtString& stem);
 
     void clear();

@@ -34,9 +34,10 @@ class DtDatatypeClosure
 public:
     DtDatatypeClosure(DtOMTTree* tree, std::set<DtString>& used, DtCCompatibleNames& names);
 
-    // Every array of the tree, as models of HLA 1.3 need them.
+    // Inserts every array of the tree, as models of HLA 1.3 need them.
     void insertAllArrays();
-    // What the members of these classes need, directly or through other datatypes, and what the set holds already.
+    // Inserts the datatypes that the members of these classes and the datatypes of the set need, directly or through
+    // others.
     void complete(const std::set<DtOmtObject>& objects, const std::set<DtOmtInteraction>& interactions);
 
     // Make up the arrays of the classes' members and map the members' names to them. Nothing without a tree.

@@ -40,7 +40,7 @@ DtString belowSimpleTypes(const DtString& datatype, const DtOMTTree& tree);
 // The number that a datatype is, looked up below simple types and enumerations; without octets when it is none.
 DtNumberForm numberOf(const DtString& datatype, const DtOMTTree& tree);
 
-// What the encoding and the cardinality of an array come to, as the wire layer of the toolkit reads them.
+// The length of an array, as the wire layer of the toolkit takes it from the encoding and the cardinality.
 enum class DtArrayLength
 {
     Fixed, // a number of elements that the model gives

@@ -67,7 +67,7 @@ public:
 private:
     struct DtTokens;
 
-    // What an enumeration is called in generated code.
+    // The names that an enumeration has in generated code.
     struct DtNames
     {
         DtString type;

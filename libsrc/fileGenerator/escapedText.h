@@ -12,8 +12,8 @@ struct DtSafeForms
     explicit DtSafeForms(const DtString& text);
 
     DtString html; // for XML text and for attributes, line ends and tabs included
-    // For a string in double quotes of C, Python or JSON, without the quotes. "<!" comes as "\u003c!", which C knows
-    // from C++11 on.
+    // Text for a string in double quotes of C, Python or JSON, without the quotes. "<!" comes as "\u003c!", which C
+    // knows from C++11 on.
     DtString quoted;
 };
 

@@ -78,14 +78,14 @@ public:
     static void setHlaVersion(DtHLAProtocolVersion version) { settings().hlaVersion = version; }
     static DtHLAProtocolVersion hlaVersion() { return settings().hlaVersion; }
 
-    // What the writer replaces, in the order of replacement; last the tokens that every writer has, and behind these
-    // what is put in as it is.
+    // The tokens that the writer replaces, in the order of replacement. Those that every writer has come last, and only
+    // tokens whose values are put in as they are stand behind these.
     const DtTokenChain& tokenChain() const { return myTokenChain; }
 
 protected:
-    // For a line with tokens of its own, ahead of the chain.
+    // Replaces further tokens, which the line alone has, ahead of those of the chain.
     void expandTokens(DtString& line, std::initializer_list<DtTokenSource*> further);
-    // Back to the position, with a clean state, and once through writeFileStream().
+    // Sets the body back to the position, with a clean state, and runs it once through writeFileStream().
     void writeBodyFrom(std::istream& body, std::streampos position);
 
     struct DtFileCloser

@@ -3,7 +3,7 @@
 
 #include "foundation/string.h"
 
-// What the letters of a name pattern stand for. Holds no copies: made on the spot for one call.
+// The names that the letters of a name pattern stand for. Holds no copies: made on the spot for one call.
 //   %P class prefix     %N class's short name     %n the same with its first letter lowered
 //   %C include path     %Q parent's short name    %q the same with its first letter lowered
 //   %K generated class's name     %U full class name     %F output file without its extension

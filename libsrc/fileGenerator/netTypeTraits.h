@@ -13,8 +13,8 @@ class DtOMTTree;
 // The tree answers, whatever has been generated so far: families and their order make no difference.
 
 void registerNetTypeTraits(const DtString& datatype, const DtString& netType, const DtOMTTree* tree);
-// For a datatype and for those of its members that get a class in this run. className: the generated class, whose net
-// type is the name with "DtNet" for "Dt".
+// Registers a datatype and those of its members that get a class in this run. className is the generated class, whose
+// net type has "DtNet" for "Dt".
 void registerNetTypeTraits(const DtString& datatype, const DtString& className, const std::vector<DtAttribute>& members,
                            const DtOMTTree* tree);
 

@@ -15,17 +15,17 @@ struct DtNumberForm
     bool isLittleEndian = false;
 };
 
-// What the name of a representation tells. "Float" makes a fraction; a sign comes with "integer" where no "unsigned"
-// stands in the name.
+// These ask what the name of a representation tells. "Float" makes a fraction; a sign comes with "integer" where no
+// "unsigned" stands in the name.
 bool isFloatRepresentation(const DtString& representation);
 bool isSignedRepresentation(const DtString& representation);
 
-// Of a basic representation, or of a name that a ready-made type stands for. Size and byte order come from the model's
-// table; where it has no entry, from the type and the end of the name. A byte order that the model leaves out is little
-// for names that end in "LE" and big for all others; "Big" and "Little" count in any case and with blanks around, and
-// any other text is big.
+// The form of a basic representation, or of a name that a ready-made type stands for. Size and byte order come from the
+// model's table; where it has no entry, from the type and the end of the name. A byte order that the model leaves out
+// is little for names that end in "LE" and big for all others; "Big" and "Little" count in any case and with blanks
+// around, and any other text is big.
 DtNumberForm numberFormOfRepresentation(const DtString& representation);
-// Of the last representation below a datatype, or of the datatype itself when nothing is below it.
+// The form of the last representation below a datatype, or of the datatype itself when nothing is below it.
 DtNumberForm numberFormOf(const DtString& datatype);
 // The C++ number that holds every value of the form; "DtU8" for an unknown one.
 DtString numberTypeOf(const DtNumberForm& form);

@@ -5,7 +5,7 @@
 
 #include <set>
 
-// What chosen object and interaction classes have in common: the set of their members.
+// The base of chosen object and interaction classes, which holds the set of their members.
 template <typename Member>
 class DtOmtClass : public DtOmtNode
 {

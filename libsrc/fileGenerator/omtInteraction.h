@@ -12,7 +12,7 @@ public:
     virtual const std::set<DtOmtParameter>& parameters() const { return myMembers; }
     // Changes nothing when a parameter of that name is there.
     virtual void addParameter(const DtOmtParameter& parameter) { myMembers.insert(parameter); }
-    // For an unknown name a new record with that name, so noGen is false and there is no rename.
+    // An unknown name gives a new record with that name, so noGen is false and there is no rename.
     virtual DtOmtParameter getParameterFromName(const DtString& name) const
     {
         return memberFromName(name, &DtOmtParameter::setOwningInteraction);

@@ -3,7 +3,7 @@
 
 #include "fileGenerator/omtNode.h"
 
-// What attributes and parameters of a selection have in common: whether and how code is generated for one.
+// The base of the attributes and parameters of a selection, which tells whether and how code is generated for one.
 //
 // The set of a class is ordered by the name alone. Two members with one name and different owners are not equal, but
 // neither stands before the other, so a set keeps the one that came first. The accessors are those of the derived

@@ -14,10 +14,10 @@ class DtOmtNode
 public:
     virtual ~DtOmtNode();
 
-    // For a class the dotted path from the root, which orders the sets; for an attribute or parameter its plain name.
+    // A class has the dotted path from the root, which orders the sets; an attribute or parameter has its plain name.
     virtual void setFullName(DtString fullName);
     virtual DtString fullName() const;
-    // For a class the short name that no other class of the project has; for an attribute or parameter its plain name.
+    // A class has a short name that no other class of the project has; an attribute or parameter has its plain name.
     virtual void setName(DtString name);
     virtual DtString name() const;
     virtual void setShouldRename(bool shouldRename); // false at first

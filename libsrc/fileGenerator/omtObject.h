@@ -12,7 +12,7 @@ public:
     virtual void addAttribute(const DtOmtAttribute& attribute) { myMembers.insert(attribute); }
     virtual void setAttributes(const std::set<DtOmtAttribute>& attributes) { myMembers = attributes; }
     virtual const std::set<DtOmtAttribute>& attributes() const { return myMembers; }
-    // For an unknown name a new record with that name, so noGen is false and there is no rename.
+    // An unknown name gives a new record with that name, so noGen is false and there is no rename.
     virtual DtOmtAttribute getAttributeFromName(const DtString& name) const
     {
         return memberFromName(name, &DtOmtAttribute::setOwningObject);

@@ -96,7 +96,7 @@ public:
     virtual DtString getUniqueName(const DtString& name);
     // Alignment of a datatype in octets, by the rules of DtDatatypeBoundaries.
     virtual int getBoundary(const DtString& name);
-    // What a member of this datatype needs to know of it, under keys that begin with the prefix.
+    // Adds what a member of this datatype needs to know of it, under keys that begin with the prefix.
     virtual void getType(const DtString& prefix, const DtString& datatype, DtMapSubstitute* context);
 
     // The lists of the context, new at every call. The caller owns them.

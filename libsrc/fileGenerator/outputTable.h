@@ -8,7 +8,7 @@
 #include <memory>
 #include <type_traits>
 
-// When a row of a table of output files counts.
+// The condition under which a row of a table of output files counts.
 enum class DtWanted
 {
     Always,

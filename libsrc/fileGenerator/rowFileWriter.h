@@ -23,7 +23,7 @@ enum class DtClassTree
     Interaction // top classes have the parent "InteractionRoot"
 };
 
-// What the full class name is stored as.
+// The form in which the full class name is stored.
 enum class DtFullName
 {
     AsGiven,
@@ -45,7 +45,7 @@ struct DtWriterRow
     std::array<DtOwnToken, 4> ownTokens = {}; // replaced ahead of the class pass, in order
 };
 
-// What the writers over a row share. Own values are worked out by the setters of the names, so prefix and include path
+// The base of all writers over a row. Own values are worked out by the setters of the names, so prefix and include path
 // have to stand before the names are set.
 class DtRowFileWriterBase : public DtClassFileWriter
 {

@@ -12,12 +12,12 @@ class DtOMTTree;
 // How a datatype lies on the wire for which a type of the toolkit stands, by what the model itself says of it.
 struct DtToolkitLayout
 {
-    // Of a text or a time: the encoding of the array that the model defines, its number of elements (-1 when open), and
-    // the number that an element is. Empty, and without octets, for all other types.
+    // A text or a time has the encoding of the array that the model defines, its number of elements (-1 when open), and
+    // the number that an element is. For all other types the encoding is empty, and the element has no octets.
     DtString encoding;
     int count = -1;
     DtNumberForm element;
-    // Of a record: the last argument of its wire form, as templates write it, with a comma ahead.
+    // A record has the last argument of its wire form, as templates write it, with a comma ahead.
     DtString argument;
     // Why the toolkit's type cannot hold the values of the datatype, as the rest of a sentence behind "it"; empty when
     // it can. The argument then makes generated code refuse the values.

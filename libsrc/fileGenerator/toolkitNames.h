@@ -6,9 +6,9 @@
 // The names that the toolkit's public headers declare. A generated type must not be called like one of them: it would
 // not compile, or take its place without a word.
 
-// Whether the toolkit has a type, function or constant of this name.
+// True when the toolkit has a type, function or constant of this name.
 bool isToolkitName(const DtString& name);
-// Whether generated code itself speaks of it. Such a name cannot be a generated type even in a namespace of its own.
+// True when generated code itself uses the name. Such a name cannot be a generated type even in a namespace of its own.
 bool isToolkitNameInGeneratedCode(const DtString& name);
 
 #endif

@@ -48,7 +48,7 @@ private:
 
     DtMapSubstitute* myRootContext;
     std::vector<DtMapSubstitute*> myContextStack;
-    // Of the innermost loop; false and 0 outside of loops.
+    // These belong to the innermost loop; they are false and 0 outside of loops.
     bool myIsFirst = false;
     bool myIsLast = false;
     int myIndex = 0;

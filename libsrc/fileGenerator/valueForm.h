@@ -16,7 +16,7 @@ struct DtValueForm
     DtString layout; // of a record that a class of the toolkit stands for, with a comma ahead; may be empty
 };
 
-// Of a datatype with this encoding, by its layout where a type of the toolkit stands for it.
+// The form of a datatype with this encoding; the layout decides where a type of the toolkit stands for the datatype.
 DtValueForm valueFormOf(const DtString& datatype, const DtString& encoding, const DtToolkitLayout& layout);
 
 #endif

@@ -9,6 +9,7 @@
 #include "omtReader/enumeratedDatatypeNode.h"
 #include "omtReader/omtTree.h"
 
+#include <iterator>
 #include <set>
 
 namespace
@@ -24,42 +25,38 @@ bool isReserved(const DtString& name)
 }
 } // namespace
 
-struct DtCustomCodeTokens::DtRow
-{
-    const char* token;
-    DtString (*value)(const DtCustomCodeTokens& t);
-};
-
-#define VALUE(expression) [](const DtCustomCodeTokens& t [[maybe_unused]]) -> DtString { return expression; }
-
 // Rows run top to bottom, and a later row sees what an earlier one put in. The rows behind the prefix make up the form
 // on the wire, as the encoders and decoders have it.
-// clang-format off
-const DtCustomCodeTokens::DtRow DtCustomCodeTokens::theRows[] = {
-    {"<!AttributeDatatypeEnum!>",     VALUE(t.enumerationType())},
-    {"<!AttributeName!>",             VALUE(t.upperName())},
-    {"<!attributeName!>",             VALUE(t.lowerName())},
-    {"<!AttributeDatatype!>",         VALUE(identifier(t.myMember.datatype))},
-    {"<!EnumerationRep!>",            VALUE(t.enumerationRep())},
-    {"<!enumerationRep!>",            VALUE(DtFirstCharToLowerConditional(t.enumerationRep()))},
-    {"<!EncClassName!>",              VALUE(t.myMember.className + "Encoder")},
-    {"<!DecClassName!>",              VALUE(t.myMember.className + "Decoder")},
-    {"<!EncInterClassName!>",         VALUE(t.myMember.className + "InterEncoder")},
-    {"<!DecInterClassName!>",         VALUE(t.myMember.className + "InterDecoder")},
-    {"<!StateRepName!>",              VALUE(t.myMember.className + "StateRepository")},
-    {"<!InteractionName!>",           VALUE(t.myMember.className + "Inter")},
-    {"<!Prefix!>",                    VALUE(t.myPrefix)},
-    {"<!AttributeDatatypeDatatype!>", VALUE(identifier(t.lastRepresentation()))},
-    {"<!AttributeElementCount!>",     VALUE(DtString(t.valueForm().count))},
-    {"<!AttributeOctets!>",           VALUE(DtString(t.valueForm().number.octets))},
-    {"<!AttributeIsLittleEndian!>",   VALUE(t.valueForm().number.isLittleEndian ? "1" : "0")},
-    {"<!AttributeLayout!>",           VALUE(t.valueForm().layout)},
-    {"<!AttributeEncoding!>",         VALUE(t.encoding())},
-    {"<!AttributeWireEncoding!>",     VALUE(t.valueForm().encoding)},
-};
-// clang-format on
-
-#undef VALUE
+const DtTokenTable<DtCustomCodeTokens>& DtCustomCodeTokens::table()
+{
+    using Tokens = DtCustomCodeTokens;
+    // clang-format off
+    static const DtTokenRow<DtCustomCodeTokens> theRows[] = {
+        {"<!AttributeDatatypeEnum!>",     [](const Tokens& t) { return t.enumerationType(); }},
+        {"<!AttributeName!>",             [](const Tokens& t) { return t.upperName(); }},
+        {"<!attributeName!>",             [](const Tokens& t) { return t.lowerName(); }},
+        {"<!AttributeDatatype!>",         [](const Tokens& t) { return identifier(t.myMember.datatype); }},
+        {"<!EnumerationRep!>",            [](const Tokens& t) { return t.enumerationRep(); }},
+        {"<!enumerationRep!>",            [](const Tokens& t) { return DtFirstCharToLowerConditional(t.enumerationRep()); }},
+        {"<!EncClassName!>",              [](const Tokens& t) { return t.myMember.className + "Encoder"; }},
+        {"<!DecClassName!>",              [](const Tokens& t) { return t.myMember.className + "Decoder"; }},
+        {"<!EncInterClassName!>",         [](const Tokens& t) { return t.myMember.className + "InterEncoder"; }},
+        {"<!DecInterClassName!>",         [](const Tokens& t) { return t.myMember.className + "InterDecoder"; }},
+        {"<!StateRepName!>",              [](const Tokens& t) { return t.myMember.className + "StateRepository"; }},
+        {"<!InteractionName!>",           [](const Tokens& t) { return t.myMember.className + "Inter"; }},
+        {"<!Prefix!>",                    [](const Tokens& t) { return t.myPrefix; }},
+        {"<!AttributeDatatypeDatatype!>", [](const Tokens& t) { return identifier(t.lastRepresentation()); }},
+        {"<!AttributeElementCount!>",     [](const Tokens& t) { return DtString(t.valueForm().count); }},
+        {"<!AttributeOctets!>",           [](const Tokens& t) { return DtString(t.valueForm().number.octets); }},
+        {"<!AttributeIsLittleEndian!>",   [](const Tokens& t) -> DtString { return t.valueForm().number.isLittleEndian ? "1" : "0"; }},
+        {"<!AttributeLayout!>",           [](const Tokens& t) { return t.valueForm().layout; }},
+        {"<!AttributeEncoding!>",         [](const Tokens& t) { return t.encoding(); }},
+        {"<!AttributeWireEncoding!>",     [](const Tokens& t) { return t.valueForm().encoding; }},
+    };
+    // clang-format on
+    static const DtTokenTable<DtCustomCodeTokens> theTable(theRows);
+    return theTable;
+}
 
 DtCustomCodeTokens::DtCustomCodeTokens(const DtCustomCodeMember& member, const DtOMTTree* tree,
                                        const DtOmtProject* project, const DtString& prefix)
@@ -74,9 +71,9 @@ DtString DtCustomCodeTokens::identifier(const DtString& text)
 
 void DtCustomCodeTokens::expand(DtString& line) const
 {
-    for (const DtRow& row : theRows)
-        if (DtContainsSubstring(line, row.token))
-            line = DtReplaceAllSubstrings(line, row.token, row.value(*this));
+    DtTokenValues<DtCustomCodeTokens> values(table(), this);
+    DtTokenSource* const chain[] = {&values};
+    DtExpandTokensInOrder(line, chain, std::size(chain)); // long names get their numbers in the order of the rows
 }
 
 // The accessors of generated classes: a word of C++ gets an article in front.

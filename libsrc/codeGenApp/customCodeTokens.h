@@ -1,6 +1,7 @@
 #ifndef CODE_GEN_APP_CUSTOM_CODE_TOKENS_H
 #define CODE_GEN_APP_CUSTOM_CODE_TOKENS_H
 
+#include "fileGenerator/tokenPass.h"
 #include "fileGenerator/valueForm.h"
 
 class DtOMTTree;
@@ -33,8 +34,7 @@ public:
     bool isEnumeration() const { return isEnumeration(myMember.datatype); }
 
 private:
-    struct DtRow;
-    static const DtRow theRows[];
+    static const DtTokenTable<DtCustomCodeTokens>& table();
 
     bool isEnumeration(const DtString& datatype) const;
     DtString lowerName() const;

@@ -139,7 +139,86 @@ DtString withoutRoot(const DtString& name, std::string_view root, std::string_vi
 
 } // namespace
 
-// Rows run top to bottom, and a later row sees what an earlier one put in: their order shows in the output.
+// Rows run top to bottom, and a later row sees what an earlier one put in: their order shows in the output. The number
+// of the attribute stands between two tables that ask the attribute itself, so it has a table of its own.
+
+// clang-format off
+namespace
+{
+const DtTokenTable<DtAttribute>& sizeTable()
+{
+    static const DtTokenRow<DtAttribute> theRows[] = {
+        {"<!AttributeLocalType!>",                [](const DtAttribute& a) { return withoutVector(a.type()); }},
+        {"<!AttributeSize!>",                     [](const DtAttribute& a) { return decimal(mapper().sizeFromDataTypeName(tableName(a))); }},
+        {"<!AttributeBoundary!>",                 [](const DtAttribute& a) { return decimal(mapper().boundaryFromDataTypeName(tableName(a))); }},
+    };
+    static const DtTokenTable<DtAttribute> theTable(theRows);
+    return theTable;
+}
+
+const DtTokenTable<std::int32_t>& numberTable()
+{
+    static const DtTokenRow<std::int32_t> theRows[] = {
+        {"<!NumberOfAttribute!>", [](const std::int32_t& counter) { return DtString(counter); }},
+    };
+    static const DtTokenTable<std::int32_t> theTable(theRows);
+    return theTable;
+}
+
+const DtTokenTable<DtAttribute>& attributeTable()
+{
+    static const DtTokenRow<DtAttribute> theRows[] = {
+        {"<!Prefix!>",                            [](const DtAttribute&) { return DtSettings::instance().cpp.prefixName; }},
+        {"<!AttributeLocalNetType!>",             [](const DtAttribute& a) { return withoutVector(a.netType()); }},
+        {"<!AttributeCastNetType!>",              [](const DtAttribute& a) { return DtReplaceSubstring(a.netType(), "DtNet", "Dt"); }},
+        {"<!AttributeQuorvexNetType!>",           [](const DtAttribute& a) -> DtString { return mapper().isQuorvexNetType(a.netType()) ? a.netType() : DtString(); }},
+        {"<!attributeName!>",                     [](const DtAttribute& a) { return lowerAttributeName(a.name()); }},
+        {"<!AttributeName!>",                     [](const DtAttribute& a) { return upperAttributeName(a.name()); }},
+        {"<!ExactAttributeName!>",                [](const DtAttribute& a) { return identifier(a.name()); }},
+        {"<!AttributeNetType!>",                  [](const DtAttribute& a) { return a.netType(); }},
+        {"<!AttributeNetSizeString!>",            [](const DtAttribute& a) { return a.netSizeString(); }},
+        {"<!AttributeDatatype!>",                 [](const DtAttribute& a) { return identifier(a.type()); }},
+        {"<!AttributeFomDatatype!>",              [](const DtAttribute& a) { return identifier(a.datatype()); }},
+        {"<!AttributeDatatypeDatatype!>",         [](const DtAttribute& a) { return identifier(a.datatypeDatatype()); }},
+        {"<!IsFloat!>",                           [](const DtAttribute& a) -> DtString { return a.isFloat() ? "Float" : ""; }},
+        {"<!AttributeNumCardinality!>",           [](const DtAttribute& a) { return DtString(a.numericalCardinality()); }},
+        {"<!AttributeInitialValueFromLocalType!>", [](const DtAttribute& a) { return mapper().initialValueFromType(withoutVector(a.type())); }},
+        {"<!AttributeSampleValueFromType!>",      [](const DtAttribute& a) { return mapper().sampleValueFromType(a.type(), a.name()); }},
+        {"<!AttributeInitialValueFromType!>",     [](const DtAttribute& a) { return mapper().initialValueFromType(a.type()); }},
+        {"<!AttributeEnumerationSize!>",          [](const DtAttribute& a) { return mapper().enumerationSize(a.type()); }},
+        {"<!EnumerationRep!>",                    [](const DtAttribute& a) { return mapper().repForEnumName(tableName(a)); }},
+        {"<!enumerationRep!>",                    [](const DtAttribute& a) { return DtFirstCharToLowerConditional(mapper().repForEnumName(tableName(a))); }},
+        {"<!AttributeIsVariableSize!>",           [](const DtAttribute& a) { return flag(mapper().isVariableSizeNetType(a.netType())); }},
+        {"<!AttributeIsNotEncodeable!>",          [](const DtAttribute& a) { return flag(mapper().isNonEncodeableDataType(a.type())); }},
+        {"<!AttributeHasPlusCardinality!>",       [](const DtAttribute& a) { return flag(a.hasPlusCardinality()); }},
+        {"<!AttributeNetIsVariableSize!>",        [](const DtAttribute& a) { return flag(mapper().isVariableSizeNetType(a.netType())); }}, // both are in use
+        {"<!AttributeIsEnumeration!>",            [](const DtAttribute& a) { return flag(a.isEnumeration()); }},
+        {"<!AttributeIsString!>",                 [](const DtAttribute& a) { return flag(isString(a)); }},
+        {"<!AttributeIsVariant!>",                [](const DtAttribute& a) { return flag(a.isVariant()); }},
+        {"<!NonVectorDatatype!>",                 [](const DtAttribute& a) { return a.nonVectorType(); }},
+        {"<!AttributeElementCount!>",             [](const DtAttribute& a) { return DtString(valueFormOf(a).count); }},
+        {"<!AttributeOctets!>",                   [](const DtAttribute& a) { return DtString(valueFormOf(a).number.octets); }},
+        {"<!AttributeIsLittleEndian!>",           [](const DtAttribute& a) -> DtString { return valueFormOf(a).number.isLittleEndian ? "1" : "0"; }},
+        {"<!AttributeHasNoClass!>",               [](const DtAttribute& a) { return flag(hasNoClass(a)); }},
+        {"<!AttributeTypeIdentifier!>",           [](const DtAttribute& a) { return typeIdentifier(a); }},
+        {"<!AttributeIsNamesake!>",               [](const DtAttribute& a) { return flag(DtDatatypeClassNames::instance().isNamesake(a.datatype())); }},
+        {"<!AttributeLayout!>",                   [](const DtAttribute& a) { return valueFormOf(a).layout; }},
+    };
+    static const DtTokenTable<DtAttribute> theTable(theRows);
+    return theTable;
+}
+
+const DtTokenTable<DtAttribute>& encodingTable()
+{
+    static const DtTokenRow<DtAttribute> theRows[] = {
+        {"<!AttributeEncoding!>",     [](const DtAttribute& a) { return encodingOf(a); }},
+        {"<!AttributeWireEncoding!>", [](const DtAttribute& a) { return valueFormOf(a).encoding; }},
+    };
+    static const DtTokenTable<DtAttribute> theTable(theRows);
+    return theTable;
+}
+} // namespace
+
 struct DtClassFileWriter::DtTokens
 {
     using Writer = DtClassFileWriter;
@@ -147,137 +226,13 @@ struct DtClassFileWriter::DtTokens
     using Table = DtTokenTable<DtClassFileWriter>;
 
     static const Table& boundary();
-    static const Table& attribute();
-    static const Table& classNames();
     static const Table& modules();
-    static const Table& encoding();
-    static DtString fill(const Writer& writer, const char* pattern);
-    // The first pattern under "ObjectRoot", the second under any other parent.
-    static DtString fillByParent(const Writer& writer, const char* topPattern, const char* pattern);
 };
 
-// A row whose value is a name pattern, and one that has another pattern under the model's root.
-#define PATTERN(pattern) [](const Writer& w) { return fill(w, pattern); }
-#define BY_PARENT(topPattern, pattern) [](const Writer& w) { return fillByParent(w, topPattern, pattern); }
-// A row that asks the current attribute, called a.
-#define OF_ATTRIBUTE(expression)                                                                                       \
-    [](const Writer& w) -> DtString                                                                                    \
-    {                                                                                                                  \
-        const DtAttribute& a = *w.myCurrentAttribute;                                                                  \
-        return expression;                                                                                             \
-    }
-
-// clang-format off
 const DtClassFileWriter::DtTokens::Table& DtClassFileWriter::DtTokens::boundary()
 {
     static const Row theRows[] = {
         {"<!OctetBoundary!>", [](const Writer& w) { return decimal(mapper().boundaryFromDataTypeName(w.myOriginalName)); }},
-    };
-    static const Table theTable(theRows);
-    return theTable;
-}
-
-const DtClassFileWriter::DtTokens::Table& DtClassFileWriter::DtTokens::attribute()
-{
-    static const Row theRows[] = {
-        {"<!AttributeLocalType!>",                OF_ATTRIBUTE(withoutVector(a.type()))},
-        {"<!AttributeSize!>",                     OF_ATTRIBUTE(decimal(mapper().sizeFromDataTypeName(tableName(a))))},
-        {"<!AttributeBoundary!>",                 OF_ATTRIBUTE(decimal(mapper().boundaryFromDataTypeName(tableName(a))))},
-        {"<!NumberOfAttribute!>",                 [](const Writer& w) { return DtString(w.myAttributeCounter); }},
-        {"<!Prefix!>",                            [](const Writer&) { return DtSettings::instance().cpp.prefixName; }},
-        {"<!AttributeLocalNetType!>",             OF_ATTRIBUTE(withoutVector(a.netType()))},
-        {"<!AttributeCastNetType!>",              OF_ATTRIBUTE(DtReplaceSubstring(a.netType(), "DtNet", "Dt"))},
-        {"<!AttributeQuorvexNetType!>",           OF_ATTRIBUTE(mapper().isQuorvexNetType(a.netType()) ? a.netType() : DtString())},
-        {"<!attributeName!>",                     OF_ATTRIBUTE(lowerAttributeName(a.name()))},
-        {"<!AttributeName!>",                     OF_ATTRIBUTE(upperAttributeName(a.name()))},
-        {"<!ExactAttributeName!>",                OF_ATTRIBUTE(identifier(a.name()))},
-        {"<!AttributeNetType!>",                  OF_ATTRIBUTE(a.netType())},
-        {"<!AttributeNetSizeString!>",            OF_ATTRIBUTE(a.netSizeString())},
-        {"<!AttributeDatatype!>",                 OF_ATTRIBUTE(identifier(a.type()))},
-        {"<!AttributeFomDatatype!>",              OF_ATTRIBUTE(identifier(a.datatype()))},
-        {"<!AttributeDatatypeDatatype!>",         OF_ATTRIBUTE(identifier(a.datatypeDatatype()))},
-        {"<!IsFloat!>",                           OF_ATTRIBUTE(a.isFloat() ? "Float" : "")},
-        {"<!AttributeNumCardinality!>",           OF_ATTRIBUTE(DtString(a.numericalCardinality()))},
-        {"<!AttributeInitialValueFromLocalType!>", OF_ATTRIBUTE(mapper().initialValueFromType(withoutVector(a.type())))},
-        {"<!AttributeSampleValueFromType!>",      OF_ATTRIBUTE(mapper().sampleValueFromType(a.type(), a.name()))},
-        {"<!AttributeInitialValueFromType!>",     OF_ATTRIBUTE(mapper().initialValueFromType(a.type()))},
-        {"<!AttributeEnumerationSize!>",          OF_ATTRIBUTE(mapper().enumerationSize(a.type()))},
-        {"<!EnumerationRep!>",                    OF_ATTRIBUTE(mapper().repForEnumName(tableName(a)))},
-        {"<!enumerationRep!>",                    OF_ATTRIBUTE(DtFirstCharToLowerConditional(mapper().repForEnumName(tableName(a))))},
-        {"<!AttributeIsVariableSize!>",           OF_ATTRIBUTE(flag(mapper().isVariableSizeNetType(a.netType())))},
-        {"<!AttributeIsNotEncodeable!>",          OF_ATTRIBUTE(flag(mapper().isNonEncodeableDataType(a.type())))},
-        {"<!AttributeHasPlusCardinality!>",       OF_ATTRIBUTE(flag(a.hasPlusCardinality()))},
-        {"<!AttributeNetIsVariableSize!>",        OF_ATTRIBUTE(flag(mapper().isVariableSizeNetType(a.netType())))}, // both are in use
-        {"<!AttributeIsEnumeration!>",            OF_ATTRIBUTE(flag(a.isEnumeration()))},
-        {"<!AttributeIsString!>",                 OF_ATTRIBUTE(flag(isString(a)))},
-        {"<!AttributeIsVariant!>",                OF_ATTRIBUTE(flag(a.isVariant()))},
-        {"<!NonVectorDatatype!>",                 OF_ATTRIBUTE(a.nonVectorType())},
-        {"<!AttributeElementCount!>",             OF_ATTRIBUTE(DtString(valueFormOf(a).count))},
-        {"<!AttributeOctets!>",                   OF_ATTRIBUTE(DtString(valueFormOf(a).number.octets))},
-        {"<!AttributeIsLittleEndian!>",           OF_ATTRIBUTE(valueFormOf(a).number.isLittleEndian ? "1" : "0")},
-        {"<!AttributeHasNoClass!>",               OF_ATTRIBUTE(flag(hasNoClass(a)))},
-        {"<!AttributeTypeIdentifier!>",           OF_ATTRIBUTE(typeIdentifier(a))},
-        {"<!AttributeIsNamesake!>",               OF_ATTRIBUTE(flag(DtDatatypeClassNames::instance().isNamesake(a.datatype())))},
-        {"<!AttributeLayout!>",                   OF_ATTRIBUTE(valueFormOf(a).layout)},
-    };
-    static const Table theTable(theRows, [](const Writer& w) { return w.myCurrentAttribute != nullptr; });
-    return theTable;
-}
-
-// Header tokens carry no ".h" but for the two that show it, and no quotes but for those of base classes. No writer makes
-// a file with the letter "d" in front of the parent's name, as the last two rows give it.
-const DtClassFileWriter::DtTokens::Table& DtClassFileWriter::DtTokens::classNames()
-{
-    static const Row theRows[] = {
-        {"<!FileToInclude!>",            [](const Writer& w) { return identifier(w.myCurrentInclude) + ".h"; }},
-        {"<!ClassName!>",                [](const Writer& w) { return identifier(w.myClassName); }},
-        {"<!NonDtClassName!>",           [](const Writer& w) { return bareClassName(w.myClassName); }},
-        {"<!FileBase!>",                 PATTERN("%F")},
-        {"<!FileBaseHeader!>",           PATTERN("%C%F.h")},
-        {"<!BaseClassName!>",            [](const Writer& w) { return w.myBaseClassName; }},
-        {"<!BaseClassHeader!>",          [](const Writer& w) { return w.myBaseClassHeader; }},
-        {"<!FullClassName!>",            PATTERN("%U")},
-        {"<!SrHeader!>",                 PATTERN("%C%nStateRepository")},
-        {"<!SrMethod!>",                 PATTERN("%nStateRep")},
-        {"<!ShortSrMethod!>",            [](const Writer& w) { return DtString(fill(w, "%n").stdString().substr(0, 1)) + "sr"; }},
-        {"<!StateRepName!>",             PATTERN("Dt%P%NStateRepository")},
-        {"<!HEncHeader!>",               PATTERN("%C%nEncoderHLA")},
-        {"<!HDecHeader!>",               PATTERN("%C%nDecoderHLA")},
-        {"<!DEncHeader!>",               PATTERN("%C%nEncoderDIS")},
-        {"<!DDecHeader!>",               PATTERN("%C%nDecoderDIS")},
-        {"<!HlaPubHeader!>",             PATTERN("%C%nPublisherHLA")},
-        {"<!PubHeader!>",                PATTERN("%C%nPublisher")},
-        {"<!DisPubHeader!>",             PATTERN("%C%nPublisherDIS")},
-        {"<!PduHeader!>",                PATTERN("%C%NPdu")},
-        {"<!NetPduHeader!>",             PATTERN("%Cnet%NPdu")},
-        {"<!PduClassName!>",             PATTERN("Dt%P%NPdu")},
-        {"<!PublisherClassName!>",       PATTERN("Dt%P%NPublisher")},
-        {"<!DecoderClassName!>",         PATTERN("Dt%P%NDecoder")},
-        {"<!EncoderClassName!>",         PATTERN("Dt%P%NEncoder")},
-        {"<!InteractionClassName!>",     PATTERN("Dt%P%N")},
-        {"<!PduInteractionClassName!>",  PATTERN("Dt%P%NPdu")},
-        {"<!InteractionHeader!>",        PATTERN("%C%nHLA")},
-        {"<!ClassCbName!>",              PATTERN("%KCb")},
-        {"<!PduKind!>",                  [](const Writer& w) { return DtString(w.myPduKind); }},
-        {"<!ReflectedListClassName!>",   PATTERN("DtReflected%P%NList")},
-        {"<!ReflectedObjectClassName!>", PATTERN("DtReflected%P%N")},
-        {"<!ReflectedListHeader!>",      PATTERN("%Creflected%NList")},
-        {"<!HReflectedListHeader!>",     PATTERN("%Creflected%NListHLA")},
-        {"<!DReflectedListHeader!>",     PATTERN("%Creflected%NListDIS")},
-        {"<!ReflectedObjectHeader!>",    PATTERN("%Creflected%N")},
-        {"<!HReflectedObjectHeader!>",   PATTERN("%Creflected%NHLA")},
-        {"<!DReflectedObjectHeader!>",   PATTERN("%Creflected%NDIS")},
-        {"<!ClassCallbackFunction!>",    PATTERN("Dt%P%NCallbackFunction")},
-        {"<!NetPduClassName!>",          PATTERN("DtNet%P%NPdu")},
-        {"<!NetPduClassBase!>",          BY_PARENT("DtNetPduHeader", "DtNet%P%QPdu")},
-        {"<!NetPduClassBaseHeader!>",    BY_PARENT("<qx/packets/pduHeader.h>", "\"%Cnet%QPdu.h\"")},
-        {"<!ObjectPduBaseClass!>",       BY_PARENT("DtStateMsg", "Dt%P%QPdu")},
-        {"<!ObjectPduBaseClassHeader!>", BY_PARENT("<qx/stateMsg.h>", "\"%C%QPdu.h\"")},
-        {"<!BaseDecoderClassName!>",     BY_PARENT("DtStateDecoder", "Dt%P%QDecoder")},
-        {"<!BaseEncoderClassName!>",     BY_PARENT("DtStateEncoder", "Dt%P%QEncoder")},
-        {"<!BaseDecoderClassHeader!>",   BY_PARENT("<qx/stateDecoder.h>", "\"%Cd%qDecoder.h\"")},
-        {"<!BaseEncoderClassHeader!>",   BY_PARENT("<qx/stateEncoder.h>", "\"%Cd%qEncoder.h\"")},
-        {"<!EnumsHeader!>",              [](const Writer&) { return enumsHeader(); }},
     };
     static const Table theTable(theRows);
     return theTable;
@@ -293,41 +248,122 @@ const DtClassFileWriter::DtTokens::Table& DtClassFileWriter::DtTokens::modules()
     return theTable;
 }
 
-const DtClassFileWriter::DtTokens::Table& DtClassFileWriter::DtTokens::encoding()
+// One name: a name pattern, with another one under "ObjectRoot" where there is one, or a function that asks the writer.
+struct DtClassFileWriter::DtNameRow
 {
-    static const Row theRows[] = {
-        {"<!AttributeEncoding!>",     OF_ATTRIBUTE(encodingOf(a))},
-        {"<!AttributeWireEncoding!>", OF_ATTRIBUTE(valueFormOf(a).encoding)},
+    using Value = DtString (*)(const DtClassFileWriter& writer);
+
+    DtNameRow(const char* name, const char* text, const char* topText = nullptr)
+        : token(name), pattern(text), topPattern(topText)
+    {
+    }
+    DtNameRow(const char* name, Value function) : token(name), value(function) {}
+
+    const char* token;
+    const char* pattern = nullptr;
+    const char* topPattern = nullptr;
+    Value value = nullptr;
+};
+
+// Header tokens carry no ".h" but for the two that show it, and no quotes but for those of base classes. No writer makes
+// a file with the letter "d" in front of the parent's name, as the last two patterns give it.
+const std::vector<DtClassFileWriter::DtNameRow>& DtClassFileWriter::DtNameTokens::rows()
+{
+    using Writer = DtClassFileWriter;
+    static const std::vector<DtNameRow> theRows = {
+        {"<!FileToInclude!>",            [](const Writer& w) { return identifier(w.myCurrentInclude) + ".h"; }},
+        {"<!ClassName!>",                [](const Writer& w) { return identifier(w.myClassName); }},
+        {"<!NonDtClassName!>",           [](const Writer& w) { return bareClassName(w.myClassName); }},
+        {"<!FileBase!>",                 "%F"},
+        {"<!FileBaseHeader!>",           "%C%F.h"},
+        {"<!BaseClassName!>",            [](const Writer& w) { return w.myBaseClassName; }},
+        {"<!BaseClassHeader!>",          [](const Writer& w) { return w.myBaseClassHeader; }},
+        {"<!FullClassName!>",            "%U"},
+        {"<!SrHeader!>",                 "%C%nStateRepository"},
+        {"<!SrMethod!>",                 "%nStateRep"},
+        {"<!ShortSrMethod!>",            [](const Writer& w) { return DtString(w.fill("%n").stdString().substr(0, 1)) + "sr"; }},
+        {"<!StateRepName!>",             "Dt%P%NStateRepository"},
+        {"<!HEncHeader!>",               "%C%nEncoderHLA"},
+        {"<!HDecHeader!>",               "%C%nDecoderHLA"},
+        {"<!DEncHeader!>",               "%C%nEncoderDIS"},
+        {"<!DDecHeader!>",               "%C%nDecoderDIS"},
+        {"<!HlaPubHeader!>",             "%C%nPublisherHLA"},
+        {"<!PubHeader!>",                "%C%nPublisher"},
+        {"<!DisPubHeader!>",             "%C%nPublisherDIS"},
+        {"<!PduHeader!>",                "%C%NPdu"},
+        {"<!NetPduHeader!>",             "%Cnet%NPdu"},
+        {"<!PduClassName!>",             "Dt%P%NPdu"},
+        {"<!PublisherClassName!>",       "Dt%P%NPublisher"},
+        {"<!DecoderClassName!>",         "Dt%P%NDecoder"},
+        {"<!EncoderClassName!>",         "Dt%P%NEncoder"},
+        {"<!InteractionClassName!>",     "Dt%P%N"},
+        {"<!PduInteractionClassName!>",  "Dt%P%NPdu"},
+        {"<!InteractionHeader!>",        "%C%nHLA"},
+        {"<!ClassCbName!>",              "%KCb"},
+        {"<!PduKind!>",                  [](const Writer& w) { return DtString(w.myPduKind); }},
+        {"<!ReflectedListClassName!>",   "DtReflected%P%NList"},
+        {"<!ReflectedObjectClassName!>", "DtReflected%P%N"},
+        {"<!ReflectedListHeader!>",      "%Creflected%NList"},
+        {"<!HReflectedListHeader!>",     "%Creflected%NListHLA"},
+        {"<!DReflectedListHeader!>",     "%Creflected%NListDIS"},
+        {"<!ReflectedObjectHeader!>",    "%Creflected%N"},
+        {"<!HReflectedObjectHeader!>",   "%Creflected%NHLA"},
+        {"<!DReflectedObjectHeader!>",   "%Creflected%NDIS"},
+        {"<!ClassCallbackFunction!>",    "Dt%P%NCallbackFunction"},
+        {"<!NetPduClassName!>",          "DtNet%P%NPdu"},
+        {"<!NetPduClassBase!>",          "DtNet%P%QPdu", "DtNetPduHeader"},
+        {"<!NetPduClassBaseHeader!>",    "\"%Cnet%QPdu.h\"", "<qx/packets/pduHeader.h>"},
+        {"<!ObjectPduBaseClass!>",       "Dt%P%QPdu", "DtStateMsg"},
+        {"<!ObjectPduBaseClassHeader!>", "\"%C%QPdu.h\"", "<qx/stateMsg.h>"},
+        {"<!BaseDecoderClassName!>",     "Dt%P%QDecoder", "DtStateDecoder"},
+        {"<!BaseEncoderClassName!>",     "Dt%P%QEncoder", "DtStateEncoder"},
+        {"<!BaseDecoderClassHeader!>",   "\"%Cd%qDecoder.h\"", "<qx/stateDecoder.h>"},
+        {"<!BaseEncoderClassHeader!>",   "\"%Cd%qEncoder.h\"", "<qx/stateEncoder.h>"},
+        {"<!EnumsHeader!>",              [](const Writer&) { return enumsHeader(); }},
     };
-    static const Table theTable(theRows, [](const Writer& w) { return w.myCurrentAttribute != nullptr; });
-    return theTable;
+    return theRows;
 }
 // clang-format on
 
-#undef PATTERN
-#undef BY_PARENT
-#undef OF_ATTRIBUTE
-
-DtString DtClassFileWriter::DtTokens::fill(const Writer& w, const char* pattern)
+const DtTokenIndex& DtClassFileWriter::DtNameTokens::rowIndex()
 {
-    return fillPattern(pattern, {w.myRootName, w.myParentClassName, w.myClassName, w.myFullClassName, w.myFileStem});
+    static const DtTokenIndex theIndex = []
+    {
+        std::vector<std::string_view> tokens;
+        for (const DtNameRow& row : rows())
+            tokens.emplace_back(row.token);
+        return DtTokenIndex(std::move(tokens));
+    }();
+    return theIndex;
 }
 
-DtString DtClassFileWriter::DtTokens::fillByParent(const Writer& w, const char* topPattern, const char* pattern)
+DtString DtClassFileWriter::DtNameTokens::workOut(int row) const
 {
-    return fill(w, w.myParentClassName == "ObjectRoot" ? topPattern : pattern);
+    const DtNameRow& found = rows()[static_cast<std::size_t>(row)];
+    if (found.value != nullptr)
+        return found.value(myWriter);
+    const bool isTop = found.topPattern != nullptr && myWriter.myParentClassName == "ObjectRoot";
+    return myWriter.fill(isTop ? found.topPattern : found.pattern);
+}
+
+DtString DtClassFileWriter::fill(const char* pattern) const
+{
+    return fillPattern(pattern, {myRootName, myParentClassName, myClassName, myFullClassName, myFileStem});
 }
 
 DtClassFileWriter::DtClassFileWriter(const DtString& fileName, const DtString& templateName)
     : DtFileWriter(fileName, templateName),
       myOriginalName(0),
       myBoundaryToken(DtTokens::boundary(), this),
-      myAttributeTokens(DtTokens::attribute(), this),
-      myClassTokens(DtTokens::classNames(), this),
+      mySizeTokens(sizeTable()),
+      myNumberToken(numberTable()),
+      myAttributeTokens(attributeTable()),
+      myNameTokens(*this),
       myModuleTokens(DtTokens::modules(), this),
-      myEncodingToken(DtTokens::encoding(), this)
+      myEncodingTokens(encodingTable())
 {
-    myTokenChain.putAhead({&myBoundaryToken, &myAttributeTokens, &myClassTokens, &myModuleTokens, &myEncodingToken});
+    myTokenChain.putAhead({&myBoundaryToken, &mySizeTokens, &myNumberToken, &myAttributeTokens, &myNameTokens,
+                           &myModuleTokens, &myEncodingTokens});
 }
 
 DtClassFileWriter::~DtClassFileWriter() = default;
@@ -468,16 +504,17 @@ DtAccessorNames DtClassFileWriter::accessorNamesOf(const DtString& attribute, Dt
 
 void DtClassFileWriter::setCurrentAttribute(const DtAttribute* attribute)
 {
-    myCurrentAttribute = attribute;
-    myAttributeTokens.clear();
-    myEncodingToken.clear();
+    mySizeTokens.setContext(attribute);
+    myNumberToken.setContext(attribute != nullptr ? &myAttributeCounter : nullptr);
+    myAttributeTokens.setContext(attribute);
+    myEncodingTokens.setContext(attribute);
     myLongNamesAreNumbered = false;
 }
 
 void DtClassFileWriter::namesChanged()
 {
     myBoundaryToken.clear();
-    myClassTokens.clear();
+    myNameTokens.clear();
     myLongNamesAreNumbered = false;
 }
 
@@ -561,7 +598,7 @@ void DtClassFileWriter::setCurrentInclude(const DtString& include)
 void DtClassFileWriter::setAttributeCounter(int counter)
 {
     myAttributeCounter = counter;
-    myAttributeTokens.clear();
+    myNumberToken.clear();
 }
 
 bool DtClassFileWriter::hasLongNames() const
@@ -569,7 +606,7 @@ bool DtClassFileWriter::hasLongNames() const
     const auto isLong = [](const DtString& name) { return name.length() > theSafeLength; };
     if (isLong(myCurrentInclude) || isLong(myClassName))
         return true;
-    const DtAttribute* a = myCurrentAttribute;
+    const DtAttribute* a = currentAttribute();
     return a != nullptr &&
            (isLong(a->name()) || isLong(a->type()) || isLong(a->datatype()) || isLong(a->datatypeDatatype()));
 }
@@ -581,7 +618,10 @@ void DtClassFileWriter::numberLongNames()
     myLongNamesAreNumbered = true;
     if (!hasLongNames())
         return;
-    if (myCurrentAttribute != nullptr)
+    if (currentAttribute() != nullptr)
+    {
+        mySizeTokens.workOutAll();
         myAttributeTokens.workOutAll();
-    myClassTokens.workOutAll();
+    }
+    myNameTokens.workOutAll();
 }

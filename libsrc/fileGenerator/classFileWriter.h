@@ -70,7 +70,7 @@ public:
 
 protected:
     // The attribute whose tokens are replaced, one of myAttributes; null outside the "Attributes" loop.
-    const DtAttribute* currentAttribute() const { return myCurrentAttribute; }
+    const DtAttribute* currentAttribute() const { return myAttributeTokens.context(); }
     void setCurrentAttribute(const DtAttribute* attribute);
     // To be called behind every change of the names below that is not made by a setter of this class: their tokens are
     // worked out once.
@@ -94,7 +94,24 @@ protected:
     std::int32_t myAttributeCounter = 0;
 
 private:
-    struct DtTokens; // the tables
+    struct DtTokens; // the tables that ask the writer
+    struct DtNameRow;
+
+    // The names of the class, from a table of name patterns.
+    class DtNameTokens : public DtTokenSource
+    {
+    public:
+        explicit DtNameTokens(const DtClassFileWriter& writer) : DtTokenSource(rowIndex()), myWriter(writer) {}
+
+    protected:
+        DtString workOut(int row) const override;
+
+    private:
+        static const std::vector<DtNameRow>& rows();
+        static const DtTokenIndex& rowIndex();
+
+        const DtClassFileWriter& myWriter;
+    };
 
     void writeIncludeFiles(std::istream& stream);
     void writeNamesakeIncludeFiles(std::istream& stream);
@@ -103,15 +120,18 @@ private:
     void writeFomModules(std::istream& stream);
     void setCurrentInclude(const DtString& include);
     void setAttributeCounter(int counter);
+    DtString fill(const char* pattern) const; // with the names of this class
     bool hasLongNames() const;
     void numberLongNames();
 
-    const DtAttribute* myCurrentAttribute = nullptr;
     DtTokenValues<DtClassFileWriter> myBoundaryToken;
-    DtTokenValues<DtClassFileWriter> myAttributeTokens; // only while an attribute is current
-    DtTokenValues<DtClassFileWriter> myClassTokens;
-    DtTokenValues<DtClassFileWriter> myModuleTokens;  // only with a project that names modules
-    DtTokenValues<DtClassFileWriter> myEncodingToken; // only while an attribute is current
+    // The tables of the current attribute, which is their context: their tokens stay in the line while there is none.
+    DtTokenValues<DtAttribute> mySizeTokens;
+    DtTokenValues<std::int32_t> myNumberToken;
+    DtTokenValues<DtAttribute> myAttributeTokens;
+    DtNameTokens myNameTokens;
+    DtTokenValues<DtClassFileWriter> myModuleTokens; // only with a project that names modules
+    DtTokenValues<DtAttribute> myEncodingTokens;     // of the current attribute too
     bool myLongNamesAreNumbered = false;
 };
 

@@ -1,8 +1,8 @@
 #include "codeGenApp/customCodeTokens.h"
 
-#include "fileGenerator/cCompatibleName.h"
 #include "fileGenerator/classFileWriter.h"
 #include "fileGenerator/dataTypeMapper.h"
+#include "fileGenerator/memberTypes.h"
 #include "fileGenerator/omtProject.h"
 #include "fileGenerator/toolkitLayouts.h"
 #include "foundation/stringUtils.h"
@@ -18,11 +18,6 @@ const DtDataTypeMapper& mapper()
 {
     return *DtDataTypeMapper::instance();
 }
-
-bool isReserved(const DtString& name)
-{
-    return isCPlusPlusKeyword(DtFirstCharToLower(name));
-}
 } // namespace
 
 // Rows run top to bottom, and a later row sees what an earlier one put in. The rows behind the prefix make up the form
@@ -33,8 +28,8 @@ const DtTokenTable<DtCustomCodeTokens>& DtCustomCodeTokens::table()
     // clang-format off
     static const DtTokenRow<DtCustomCodeTokens> theRows[] = {
         {"<!AttributeDatatypeEnum!>",     [](const Tokens& t) { return t.enumerationType(); }},
-        {"<!AttributeName!>",             [](const Tokens& t) { return t.upperName(); }},
-        {"<!attributeName!>",             [](const Tokens& t) { return t.lowerName(); }},
+        {"<!AttributeName!>",             [](const Tokens& t) { return DtClassFileWriter::accessorNamesOf(t.myMember.name).setter; }},
+        {"<!attributeName!>",             [](const Tokens& t) { return DtClassFileWriter::accessorNamesOf(t.myMember.name).getter; }},
         {"<!AttributeDatatype!>",         [](const Tokens& t) { return identifier(t.myMember.datatype); }},
         {"<!EnumerationRep!>",            [](const Tokens& t) { return t.enumerationRep(); }},
         {"<!enumerationRep!>",            [](const Tokens& t) { return DtFirstCharToLowerConditional(t.enumerationRep()); }},
@@ -50,7 +45,7 @@ const DtTokenTable<DtCustomCodeTokens>& DtCustomCodeTokens::table()
         {"<!AttributeOctets!>",           [](const Tokens& t) { return DtString(t.valueForm().number.octets); }},
         {"<!AttributeIsLittleEndian!>",   [](const Tokens& t) -> DtString { return t.valueForm().number.isLittleEndian ? "1" : "0"; }},
         {"<!AttributeLayout!>",           [](const Tokens& t) { return t.valueForm().layout; }},
-        {"<!AttributeEncoding!>",         [](const Tokens& t) { return t.encoding(); }},
+        {"<!AttributeEncoding!>",         [](const Tokens& t) { return encodingOf(t.myMember.datatype, DtString()); }},
         {"<!AttributeWireEncoding!>",     [](const Tokens& t) { return t.valueForm().encoding; }},
     };
     // clang-format on
@@ -74,18 +69,6 @@ void DtCustomCodeTokens::expand(DtString& line) const
     DtTokenValues<DtCustomCodeTokens> values(table(), this);
     DtTokenSource* const chain[] = {&values};
     DtExpandTokensInOrder(line, chain, std::size(chain)); // long names get their numbers in the order of the rows
-}
-
-// The accessors of generated classes: a word of C++ gets an article in front.
-DtString DtCustomCodeTokens::lowerName() const
-{
-    return identifier(isReserved(myMember.name) ? "the" + DtFirstCharToUpper(myMember.name)
-                                                : DtFirstCharToLowerConditional(myMember.name));
-}
-
-DtString DtCustomCodeTokens::upperName() const
-{
-    return identifier((isReserved(myMember.name) ? "The" : "") + DtFirstCharToUpper(myMember.name));
 }
 
 // The mapper learns of an enumeration when it is generated, the tree has it from the start. A predefined type is none,
@@ -146,18 +129,9 @@ DtValueForm DtCustomCodeTokens::valueForm() const
     DtToolkitLayout layout;
     if (myTree != nullptr)
         layout = toolkitLayoutOf(datatype, mapper().quorvexType(datatype), *myTree);
-    DtValueForm form = valueFormOf(datatype, encoding(), layout);
+    DtValueForm form = valueFormOf(datatype, encodingOf(datatype, DtString()), layout);
     const DtString representation = lastRepresentation();
     if (layout.element.octets == 0)
         form.number = numberFormOfRepresentation(representation.isEmpty() ? datatype : representation);
     return form;
-}
-
-DtString DtCustomCodeTokens::encoding() const
-{
-    const DtString& known = mapper().encOfDatatype(myMember.datatype);
-    if (!known.isEmpty())
-        return known;
-    const bool isObjectId = myMember.datatype == "RTIobjectId" || myMember.datatype == "RTIObjectId";
-    return isObjectId ? "RPRnullTerminatedArray" : "HLAvariableArray";
 }

@@ -37,14 +37,11 @@ private:
     static const DtTokenTable<DtCustomCodeTokens>& table();
 
     bool isEnumeration(const DtString& datatype) const;
-    DtString lowerName() const;
-    DtString upperName() const;
     DtString enumerationType() const;
     DtString enumerationRep() const;
     DtString lastRepresentation() const;
     DtString nextRepresentation(const DtString& datatype) const;
     DtValueForm valueForm() const;
-    DtString encoding() const;
 
     const DtCustomCodeMember& myMember;
     const DtOMTTree* myTree;

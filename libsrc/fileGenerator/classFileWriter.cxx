@@ -3,6 +3,7 @@
 #include "fileGenerator/cCompatibleName.h"
 #include "fileGenerator/dataTypeMapper.h"
 #include "fileGenerator/datatypeClassNames.h"
+#include "fileGenerator/memberTypes.h"
 #include "fileGenerator/namePattern.h"
 #include "fileGenerator/numberForm.h"
 #include "fileGenerator/settings.h"
@@ -81,21 +82,9 @@ bool isString(const DtAttribute& attribute)
     return attribute.netType() == "DtString" || attribute.netType() == "DtGlobalObjectDesignator";
 }
 
-// Object identifiers are written as terminated text, whatever else is known of them; both spellings are in use.
-DtString encodingOf(const DtAttribute& attribute)
-{
-    const DtString& datatype = attribute.datatype();
-    const DtString& ofDatatype = datatype.isEmpty() ? DtString::nullString() : mapper().encOfDatatype(datatype);
-    if (!ofDatatype.isEmpty())
-        return ofDatatype;
-    if (datatype == "RTIobjectId" || datatype == "RTIObjectId")
-        return "RPRnullTerminatedArray";
-    return attribute.encoding().isEmpty() ? DtString("HLAvariableArray") : attribute.encoding();
-}
-
 DtValueForm valueFormOf(const DtAttribute& attribute)
 {
-    return valueFormOf(attribute.datatype(), encodingOf(attribute),
+    return valueFormOf(attribute.datatype(), encodingOf(attribute.datatype(), attribute.encoding()),
                        DtToolkitLayouts::instance().of(attribute.datatype()));
 }
 
@@ -211,7 +200,7 @@ const DtTokenTable<DtAttribute>& attributeTable()
 const DtTokenTable<DtAttribute>& encodingTable()
 {
     static const DtTokenRow<DtAttribute> theRows[] = {
-        {"<!AttributeEncoding!>",     [](const DtAttribute& a) { return encodingOf(a); }},
+        {"<!AttributeEncoding!>",     [](const DtAttribute& a) { return encodingOf(a.datatype(), a.encoding()); }},
         {"<!AttributeWireEncoding!>", [](const DtAttribute& a) { return valueFormOf(a).encoding; }},
     };
     static const DtTokenTable<DtAttribute> theTable(theRows);
@@ -495,6 +484,11 @@ void DtClassFileWriter::compileIncludeList()
 DtString DtClassFileWriter::identifierOf(const DtString& name)
 {
     return identifier(name);
+}
+
+DtAccessorNames DtClassFileWriter::accessorNamesOf(const DtString& attribute)
+{
+    return accessorNamesOf(attribute, theNames);
 }
 
 DtAccessorNames DtClassFileWriter::accessorNamesOf(const DtString& attribute, DtCCompatibleNames& names)

@@ -60,6 +60,16 @@ DtString lastRepresentation(const DtString& datatype)
     return chain.names.size() > 1 ? chain.names.back() : DtString();
 }
 
+DtString encodingOf(const DtString& datatype, const DtString& ofMember)
+{
+    const DtString& ofDatatype = DtDataTypeMapper::instance()->encOfDatatype(datatype);
+    if (!datatype.isEmpty() && !ofDatatype.isEmpty())
+        return ofDatatype;
+    if (datatype == "RTIobjectId" || datatype == "RTIObjectId")
+        return "RPRnullTerminatedArray";
+    return ofMember.isEmpty() ? DtString("HLAvariableArray") : ofMember;
+}
+
 DtAttribute makeMember(const DtString& name, const DtString& datatype, const DtString& cardinality)
 {
     DtAttribute member(name, memberType(datatype));

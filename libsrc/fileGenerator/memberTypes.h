@@ -14,6 +14,10 @@ DtString memberType(const DtString& datatype);
 // in none of them. Templates find the byte order and the kind of strings and booleans with it.
 DtString lastRepresentation(const DtString& datatype);
 
+// The encoding that the templates ask for of a value of this datatype: the mapper's; that of terminated text for object
+// identifiers, in both spellings; else the one that was set for the member, or that of a variable array.
+DtString encodingOf(const DtString& datatype, const DtString& ofMember);
+
 // A member with its cardinality, datatype, encoding and last representation set.
 DtAttribute makeMember(const DtString& name, const DtString& datatype, const DtString& cardinality);
 

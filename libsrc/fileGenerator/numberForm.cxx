@@ -155,11 +155,10 @@ DtString numberTypeOf(const DtNumberForm& form)
 void warnOfByteOrders(const DtOMTTree& tree)
 {
     static std::set<std::pair<DtString, DtString>> theTold;
-    for (auto each = tree.getBasicDataRepresentationNodeList(); each != tree.getBasicDataRepresentationEndNode();
-         ++each)
+    for (const DtBasicDataRepresentationNode* node : tree.basicDataRepresentations())
     {
-        const DtString& name = (*each)->getName();
-        const DtString& endian = (*each)->getEndian();
+        const DtString& name = node->getName();
+        const DtString& endian = node->getEndian();
         if (!isKnownByteOrder(endian) && theTold.emplace(name, endian).second)
             DtWarn << "Warning: The byte order of " << name << " is \"" << endian
                    << "\", which is neither Big nor Little. It is taken for Big.\n";

@@ -299,24 +299,20 @@ private Q_SLOTS:
         QTest::addColumn<QString>("type");
         QTest::addColumn<QString>("datatype");
         QTest::addColumn<QString>("difference");
-        QTest::newRow("whole") << "DtInt32"
-                               << "HLAinteger32BE"
-                               << "";
-        QTest::newRow("fraction") << "DtFloat32"
-                                  << "HLAfloat32BE"
-                                  << "";
-        QTest::newRow("other length") << "DtU32"
-                                      << "HLAoctet"
-                                      << "";
-        QTest::newRow("fraction for whole") << "DtU16"
-                                            << "HLAfloat32BE"
-                                            << "is no whole number";
-        QTest::newRow("whole for fraction") << "DtFloat64"
-                                            << "HLAoctet"
-                                            << "is no floating-point number of 4 or 8 octets";
-        QTest::newRow("record") << "DtU16"
-                                << "Pair"
-                                << "is no number";
+        struct DtRow
+        {
+            const char *name, *type, *datatype, *difference;
+        };
+        const DtRow theRows[] = {
+            {"whole",              "DtInt32",   "HLAinteger32BE", ""                                            },
+            {"fraction",           "DtFloat32", "HLAfloat32BE",   ""                                            },
+            {"other length",       "DtU32",     "HLAoctet",       ""                                            },
+            {"fraction for whole", "DtU16",     "HLAfloat32BE",   "is no whole number"                          },
+            {"whole for fraction", "DtFloat64", "HLAoctet",       "is no floating-point number of 4 or 8 octets"},
+            {"record",             "DtU16",     "Pair",           "is no number"                                },
+        };
+        for (const DtRow& row : theRows)
+            QTest::newRow(row.name) << row.type << row.datatype << row.difference;
     }
     void numbersStayNumbers()
     {

@@ -199,7 +199,8 @@ std::vector<int> componentsOf(const std::vector<DtShapePart>& parts, const DtToo
 
 DtString partText(const DtShapePart& part, int component)
 {
-    DtString text = "DtPart<" + DtString(component) + ", " + DtString(part.offset) + ", " + DtString(part.form.octets);
+    DtString text =
+        "DtWirePart<" + DtString(component) + ", " + DtString(part.offset) + ", " + DtString(part.form.octets);
     const bool isSigned = part.form.isSigned && !part.form.isFloat;
     if (isSigned || part.form.isLittleEndian)
         text += isSigned ? ", true" : ", false";
@@ -238,7 +239,7 @@ DtToolkitLayout layoutOfRecord(const DtString& datatype, const DtToolkitRow& row
     if (!layout.difference.isEmpty())
         return layout;
     const std::vector<int> components = componentsOf(shape.parts, row);
-    layout.argument = ",\n        &DtRecordOf<" + DtString(shape.boundary);
+    layout.argument = ",\n        &DtWireRecordOf<" + DtString(shape.boundary);
     for (std::size_t at = 0; at < shape.parts.size(); ++at)
         layout.argument += ", " + partText(shape.parts[at], components[at]);
     layout.argument += ">::theLayout";
@@ -402,7 +403,7 @@ DtToolkitLayout toolkitLayoutOf(const DtString& datatype, const DtString& toolki
         return {};
     DtToolkitLayout layout = layoutOfRow(datatype, *row, tree);
     if (!layout.difference.isEmpty())
-        layout.argument = ", &DtMisfit::theLayout";
+        layout.argument = ", &DtWireMisfit::theLayout";
     return layout;
 }
 

@@ -58,12 +58,12 @@ void addSimple(DtOMTTree& tree, const char* name, const char* representation)
     tree.addSimpleDatatypeNode(node);
 }
 
-// The arguments of DtRecordOf, or why there are none.
+// The arguments of DtWireRecordOf, or why there are none.
 QString layoutText(const DtToolkitLayout& layout)
 {
     if (!layout.difference.isEmpty())
         return layout.difference.c_str();
-    return QString(layout.argument.c_str()).section("DtRecordOf<", 1).section(">::theLayout", 0, 0);
+    return QString(layout.argument.c_str()).section("DtWireRecordOf<", 1).section(">::theLayout", 0, 0);
 }
 } // namespace
 
@@ -100,25 +100,25 @@ private Q_SLOTS:
         };
         const DtRow theRows[] = {
             {"usual",          "DtVector64",         "X:HLAfloat64BE Y:HLAfloat64BE Z:HLAfloat64BE",
-             "8, DtPart<0, 0, 8>, DtPart<1, 8, 8>, DtPart<2, 16, 8>"                                                                                   },
+             "8, DtWirePart<0, 0, 8>, DtWirePart<1, 8, 8>, DtWirePart<2, 16, 8>"                                                                       },
             {"little",         "DtVector32",         "XVelocity:HLAfloat32LE YVelocity:HLAfloat32LE Z:HLAfloat32LE",
-             "4, DtPart<0, 0, 4, false, true>, DtPart<1, 4, 4, false, true>, DtPart<2, 8, 4, false, true>"                                             },
+             "4, DtWirePart<0, 0, 4, false, true>, DtWirePart<1, 4, 4, false, true>, DtWirePart<2, 8, 4, false, true>"                                 },
             {"other order",    "DtVector64",         "Z:HLAfloat64BE X:HLAfloat64BE Y:HLAfloat64BE",
-             "8, DtPart<2, 0, 8>, DtPart<0, 8, 8>, DtPart<1, 16, 8>"                                                                                   },
+             "8, DtWirePart<2, 0, 8>, DtWirePart<0, 8, 8>, DtWirePart<1, 16, 8>"                                                                       },
             {"common end",     "DtVector64",         "Zpos:HLAfloat64BE Ypos:HLAfloat64BE Xpos:HLAfloat64BE",
-             "8, DtPart<2, 0, 8>, DtPart<1, 8, 8>, DtPart<0, 16, 8>"                                                                                   },
+             "8, DtWirePart<2, 0, 8>, DtWirePart<1, 8, 8>, DtWirePart<0, 16, 8>"                                                                       },
             {"common start",   "DtVector32",         "posz:HLAfloat32BE posx:HLAfloat32BE posy:HLAfloat32BE",
-             "4, DtPart<2, 0, 4>, DtPart<0, 4, 4>, DtPart<1, 8, 4>"                                                                                    },
+             "4, DtWirePart<2, 0, 4>, DtWirePart<0, 4, 4>, DtWirePart<1, 8, 4>"                                                                        },
             {"strange names",  "DtVector32",         "East:HLAfloat32BE North:HLAfloat32BE Up:HLAfloat32BE",
-             "4, DtPart<0, 0, 4>, DtPart<1, 4, 4>, DtPart<2, 8, 4>"                                                                                    },
+             "4, DtWirePart<0, 0, 4>, DtWirePart<1, 4, 4>, DtWirePart<2, 8, 4>"                                                                        },
             {"one strange",    "DtVector32",         "Up:HLAfloat32BE X:HLAfloat32BE Y:HLAfloat32BE",
-             "4, DtPart<2, 0, 4>, DtPart<0, 4, 4>, DtPart<1, 8, 4>"                                                                                    },
+             "4, DtWirePart<2, 0, 4>, DtWirePart<0, 4, 4>, DtWirePart<1, 8, 4>"                                                                        },
             {"padded",         "DtVector",           "X:HLAfloat32BE Y:HLAfloat64BE Z:HLAfloat32BE",
-             "8, DtPart<0, 0, 4>, DtPart<1, 8, 8>, DtPart<2, 16, 4>"                                                                                   },
+             "8, DtWirePart<0, 0, 4>, DtWirePart<1, 8, 8>, DtWirePart<2, 16, 4>"                                                                       },
             {"roll first",     "DtTaitBryan",        "Roll:HLAfloat32BE Pitch:HLAfloat32BE Yaw:HLAfloat32BE",
-             "4, DtPart<2, 0, 4>, DtPart<1, 4, 4>, DtPart<0, 8, 4>"                                                                                    },
+             "4, DtWirePart<2, 0, 4>, DtWirePart<1, 4, 4>, DtWirePart<0, 8, 4>"                                                                        },
             {"signed site",    "DtEntityIdentifier", "Site:HLAinteger16BE Application:HLAoctet Number:HLAoctet",
-             "2, DtPart<0, 0, 2, true>, DtPart<1, 2, 1>, DtPart<2, 3, 1>"                                                                              },
+             "2, DtWirePart<0, 0, 2, true>, DtWirePart<1, 2, 1>, DtWirePart<2, 3, 1>"                                                                  },
             {"one more",       "DtVector64",         "X:HLAfloat64BE Y:HLAfloat64BE Z:HLAfloat64BE W:HLAfloat64BE",
              "has 4 members in place of 3"                                                                                                             },
             {"one less",       "DtVector64",         "X:HLAfloat64BE Y:HLAfloat64BE",                                "has 2 members in place of 3"     },
@@ -172,9 +172,11 @@ private Q_SLOTS:
                       {"Extra",       "HLAoctet"           },
                       {"Specific",    "HLAoctet"           }
         });
-        QCOMPARE(layoutText(toolkitLayoutOf("EntityTypeStruct", "DtEntityType", *myTree)),
-                 QString("2, DtPart<4, 0, 1>, DtPart<0, 1, 1>, DtPart<2, 2, 2, false, true>, DtPart<3, 4, 1>, "
-                         "DtPart<1, 5, 1>, DtPart<6, 6, 1>, DtPart<5, 7, 1>"));
+        QCOMPARE(
+            layoutText(toolkitLayoutOf("EntityTypeStruct", "DtEntityType", *myTree)),
+            QString(
+                "2, DtWirePart<4, 0, 1>, DtWirePart<0, 1, 1>, DtWirePart<2, 2, 2, false, true>, DtWirePart<3, 4, 1>, "
+                "DtWirePart<1, 5, 1>, DtWirePart<6, 6, 1>, DtWirePart<5, 7, 1>"));
     }
 
     void recordsInRecordsCountByTheirNumbers()
@@ -190,15 +192,15 @@ private Q_SLOTS:
                       {"FederateIdentifier", "FederateIdentifierStruct"}
         });
         QCOMPARE(layoutText(toolkitLayoutOf("EntityIdentifierStruct", "DtEntityIdentifier", *myTree)),
-                 QString("2, DtPart<2, 0, 1>, DtPart<0, 2, 2>, DtPart<1, 4, 2>"));
+                 QString("2, DtWirePart<2, 0, 1>, DtWirePart<0, 2, 2>, DtWirePart<1, 4, 2>"));
     }
 
     void fixedArraysCountByTheirElements()
     {
         addArray(*myTree, "WorldLocationStruct", "HLAfloat64LE", "HLAfixedArray", "3");
-        QCOMPARE(
-            layoutText(toolkitLayoutOf("WorldLocationStruct", "DtVector64", *myTree)),
-            QString("8, DtPart<0, 0, 8, false, true>, DtPart<1, 8, 8, false, true>, DtPart<2, 16, 8, false, true>"));
+        QCOMPARE(layoutText(toolkitLayoutOf("WorldLocationStruct", "DtVector64", *myTree)),
+                 QString("8, DtWirePart<0, 0, 8, false, true>, DtWirePart<1, 8, 8, false, true>, DtWirePart<2, 16, 8, "
+                         "false, true>"));
     }
 
     void hugeArraysAndBranchingRecordsComeToAnEnd()
@@ -327,7 +329,7 @@ private Q_SLOTS:
         const DtToolkitLayout layout =
             toolkitLayoutOf(DtString(datatype.toStdString()), DtString(type.toStdString()), *myTree);
         QCOMPARE(QString(layout.difference.c_str()), difference);
-        QCOMPARE(QString(layout.argument.c_str()), QString(difference.isEmpty() ? "" : ", &DtMisfit::theLayout"));
+        QCOMPARE(QString(layout.argument.c_str()), QString(difference.isEmpty() ? "" : ", &DtWireMisfit::theLayout"));
     }
 
     void undefinedDatatypesAndTypesOfUsersSayNothing()

@@ -345,7 +345,10 @@ void TestBuildFiles::everythingIsBuiltByClang()
     output.generate({output.program().sampleModel()});
     const DtProgramRun run = output.make({"CXX=clang++"});
     QVERIFY2(run.exitCode == 0, qPrintable(run.output.right(4000)));
-    QVERIFY(programsOf(output).size() > 50);
+    const QStringList sources =
+        filesBelow(output.path()).filter(QRegularExpression("^cpp.Examples/.*/(talk|listen)\\.cxx$"));
+    QVERIFY(sources.size() > 20);
+    QCOMPARE(programsOf(output).filter(QRegularExpression("HLA$")).size(), sources.size());
 }
 
 QX_REGISTER_TEST(TestBuildFiles)

@@ -132,7 +132,11 @@ void TestNameClashes::datatypeThatIsCalledLikeTheToolkitsIsTold()
                                       records(record("Vector", {
                                                                    {"X", "HLAfloat64BE"}
     }))));
-    compareLines(output, {"Warning: Datatype Vector is called DtVector in C++, like a type of the toolkit."});
+    compareLines(output,
+                 {"Warning: Datatype Vector is called DtVectorType in C++: the toolkit has a DtVector of its own. "
+                  "A class prefix or a namespace gives generated code other names."});
+    const QString errors = compileErrors(output);
+    QVERIFY2(errors.isEmpty(), qPrintable(errors));
 }
 
 void TestNameClashes::membersThatAreCalledAlikeAreTold()

@@ -8,7 +8,7 @@
 #include <cstring>
 
 // One number of a record that a class of the toolkit stands for.
-struct DtPartForm
+struct DtWirePartForm
 {
     unsigned int component; // of the toolkit's class, from 0, in the order of its constructor's arguments
     unsigned int offset;    // in octets from the start of the record
@@ -19,46 +19,47 @@ struct DtPartForm
 
 // The parts of such a record in the order in which they lie on the wire. No parts: the model's datatype does not fit
 // into the toolkit's class, and its values are refused.
-struct DtRecordLayout
+struct DtWireRecordLayout
 {
     unsigned int boundary; // in octets
     unsigned int count;
-    const DtPartForm* parts;
+    const DtWirePartForm* parts;
 };
 
 // A part and a layout as generated code writes them:
 //
-//     &DtRecordOf<8, DtPart<2, 0, 8>, DtPart<1, 8, 8>, DtPart<0, 16, 8>>::theLayout // z, y and x, each of 8 octets
+//     &DtWireRecordOf<8, DtWirePart<2, 0, 8>, DtWirePart<1, 8, 8>, DtWirePart<0, 16, 8>>::theLayout // z, y and x, each
+//     of 8 octets
 template <unsigned int Component, unsigned int Offset, unsigned int Octets, bool Signed = false, bool Little = false>
-struct DtPart
+struct DtWirePart
 {
-    static constexpr DtPartForm form() { return {Component, Offset, Octets, Signed, Little}; }
+    static constexpr DtWirePartForm form() { return {Component, Offset, Octets, Signed, Little}; }
 };
 
 template <unsigned int Boundary, class... Parts>
-struct DtRecordOf
+struct DtWireRecordOf
 {
-    static const DtPartForm theParts[sizeof...(Parts)];
-    static const DtRecordLayout theLayout;
+    static const DtWirePartForm theParts[sizeof...(Parts)];
+    static const DtWireRecordLayout theLayout;
 };
 
 template <unsigned int Boundary, class... Parts>
-const DtPartForm DtRecordOf<Boundary, Parts...>::theParts[sizeof...(Parts)] = {Parts::form()...};
+const DtWirePartForm DtWireRecordOf<Boundary, Parts...>::theParts[sizeof...(Parts)] = {Parts::form()...};
 
 template <unsigned int Boundary, class... Parts>
-const DtRecordLayout DtRecordOf<Boundary, Parts...>::theLayout = {Boundary, sizeof...(Parts), theParts};
+const DtWireRecordLayout DtWireRecordOf<Boundary, Parts...>::theLayout = {Boundary, sizeof...(Parts), theParts};
 
 // The layout of what does not fit.
 template <unsigned int Boundary>
-struct DtRecordOf<Boundary>
+struct DtWireRecordOf<Boundary>
 {
-    static const DtRecordLayout theLayout;
+    static const DtWireRecordLayout theLayout;
 };
 
 template <unsigned int Boundary>
-const DtRecordLayout DtRecordOf<Boundary>::theLayout = {Boundary, 0, nullptr};
+const DtWireRecordLayout DtWireRecordOf<Boundary>::theLayout = {Boundary, 0, nullptr};
 
-typedef DtRecordOf<1> DtMisfit;
+typedef DtWireRecordOf<1> DtWireMisfit;
 
 // Names out of a model: the datatype, the last representation that it leads to, and the encoding of an array or record;
 // with them what the model's tables give for the number that the datatype ends at.
@@ -70,7 +71,7 @@ struct DtWireForm
 {
     constexpr DtWireForm(const char* datatypeName = "", const char* representationName = "",
                          const char* encodingName = "", int elementCount = -1, unsigned int numberOctets = 0,
-                         bool numberIsLittleEndian = false, const DtRecordLayout* recordLayout = nullptr)
+                         bool numberIsLittleEndian = false, const DtWireRecordLayout* recordLayout = nullptr)
         : datatype(datatypeName),
           representation(representationName),
           encoding(encodingName),
@@ -85,10 +86,10 @@ struct DtWireForm
     const char* datatype;
     const char* representation;
     const char* encoding;
-    int count;                    // elements of a fixed array, over all of its dimensions
-    unsigned int octets;          // length of the number, or of one element
-    bool isLittleEndian;          // counts together with octets only
-    const DtRecordLayout* layout; // of a toolkit class that holds a record; null: the usual one
+    int count;                        // elements of a fixed array, over all of its dimensions
+    unsigned int octets;              // length of the number, or of one element
+    bool isLittleEndian;              // counts together with octets only
+    const DtWireRecordLayout* layout; // of a toolkit class that holds a record; null: the usual one
 };
 
 // Length, sign and byte order of an integer that stands for an enumeration; 0 octets when nobody tells.

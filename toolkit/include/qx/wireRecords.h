@@ -6,17 +6,18 @@
 
 #include <qx/wireNumbers.h>
 
-// What DtRecordTraits asks of a class: the type and number of its components, the usual layout, the components of a
+// What DtWireRecordTraits asks of a class: the type and number of its components, the usual layout, the components of a
 // value, and the value of components; make answers false when a component is too large for the class.
 template <class Type>
-struct DtComponentsOf;
+struct DtWireComponentsOf;
 
 template <class Number, int Tag>
-struct DtComponentsOf<DtTriple<Number, Tag>>
+struct DtWireComponentsOf<DtTriple<Number, Tag>>
 {
     typedef Number Component;
-    typedef DtRecordOf<sizeof(Number), DtPart<0, 0, sizeof(Number)>, DtPart<1, sizeof(Number), sizeof(Number)>,
-                       DtPart<2, 2 * sizeof(Number), sizeof(Number)>>
+    typedef DtWireRecordOf<sizeof(Number), DtWirePart<0, 0, sizeof(Number)>,
+                           DtWirePart<1, sizeof(Number), sizeof(Number)>,
+                           DtWirePart<2, 2 * sizeof(Number), sizeof(Number)>>
         Usual;
     enum
     {
@@ -36,10 +37,10 @@ struct DtComponentsOf<DtTriple<Number, Tag>>
 };
 
 template <>
-struct DtComponentsOf<DtTaitBryan>
+struct DtWireComponentsOf<DtTaitBryan>
 {
     typedef DtFloat32 Component;
-    typedef DtRecordOf<4, DtPart<0, 0, 4>, DtPart<1, 4, 4>, DtPart<2, 8, 4>> Usual;
+    typedef DtWireRecordOf<4, DtWirePart<0, 0, 4>, DtWirePart<1, 4, 4>, DtWirePart<2, 8, 4>> Usual;
     enum
     {
         count = 3
@@ -58,11 +59,11 @@ struct DtComponentsOf<DtTaitBryan>
 };
 
 template <>
-struct DtComponentsOf<DtEntityType>
+struct DtWireComponentsOf<DtEntityType>
 {
     typedef DtU16 Component;
-    typedef DtRecordOf<2, DtPart<0, 0, 1>, DtPart<1, 1, 1>, DtPart<2, 2, 2>, DtPart<3, 4, 1>, DtPart<4, 5, 1>,
-                       DtPart<5, 6, 1>, DtPart<6, 7, 1>>
+    typedef DtWireRecordOf<2, DtWirePart<0, 0, 1>, DtWirePart<1, 1, 1>, DtWirePart<2, 2, 2>, DtWirePart<3, 4, 1>,
+                           DtWirePart<4, 5, 1>, DtWirePart<5, 6, 1>, DtWirePart<6, 7, 1>>
         Usual;
     enum
     {
@@ -86,10 +87,10 @@ struct DtComponentsOf<DtEntityType>
 };
 
 template <>
-struct DtComponentsOf<DtEntityIdentifier>
+struct DtWireComponentsOf<DtEntityIdentifier>
 {
     typedef DtU16 Component;
-    typedef DtRecordOf<2, DtPart<0, 0, 2>, DtPart<1, 2, 2>, DtPart<2, 4, 2>> Usual;
+    typedef DtWireRecordOf<2, DtWirePart<0, 0, 2>, DtWirePart<1, 2, 2>, DtWirePart<2, 4, 2>> Usual;
     enum
     {
         count = 3
@@ -108,15 +109,15 @@ struct DtComponentsOf<DtEntityIdentifier>
 };
 
 // A part that is a floating-point number, and one that is a whole number; components have no sign.
-inline void DtPutPart(DtWireWriter& writer, DtFloat64 component, const DtPartForm& part)
+inline void DtPutWirePart(DtWireWriter& writer, DtFloat64 component, const DtWirePartForm& part)
 {
     DtPutNumber(writer, component, part.octets, part.isLittleEndian);
 }
-inline void DtPutPart(DtWireWriter& writer, DtFloat32 component, const DtPartForm& part)
+inline void DtPutWirePart(DtWireWriter& writer, DtFloat32 component, const DtWirePartForm& part)
 {
     DtPutNumber(writer, component, part.octets, part.isLittleEndian);
 }
-inline void DtPutPart(DtWireWriter& writer, DtU16 component, const DtPartForm& part)
+inline void DtPutWirePart(DtWireWriter& writer, DtU16 component, const DtWirePartForm& part)
 {
     if (!DtFitsInto(component, part.isSigned, part.octets))
         return writer.refuse("the number is too large for its octets");
@@ -124,11 +125,11 @@ inline void DtPutPart(DtWireWriter& writer, DtU16 component, const DtPartForm& p
 }
 
 template <class Float>
-bool DtGetPart(DtWireReader& reader, Float& component, const DtPartForm& part)
+bool DtGetWirePart(DtWireReader& reader, Float& component, const DtWirePartForm& part)
 {
     return DtGetNumber(reader, component, part.octets, part.isLittleEndian);
 }
-inline bool DtGetPart(DtWireReader& reader, DtU16& component, const DtPartForm& part)
+inline bool DtGetWirePart(DtWireReader& reader, DtU16& component, const DtWirePartForm& part)
 {
     DtU64 bits = 0;
     if (!reader.getInteger(bits, part.octets, part.isLittleEndian, part.isSigned))
@@ -140,13 +141,13 @@ inline bool DtGetPart(DtWireReader& reader, DtU16& component, const DtPartForm& 
 }
 
 template <class Type>
-struct DtRecordTraits
+struct DtWireRecordTraits
 {
-    typedef DtComponentsOf<Type> Components;
+    typedef DtWireComponentsOf<Type> Components;
 
     static void encode(DtWireWriter& writer, const Type& value, const DtWireForm& form)
     {
-        const DtRecordLayout& layout = layoutOf(form);
+        const DtWireRecordLayout& layout = layoutOf(form);
         const std::size_t start = writer.offset();
         typename Components::Component components[Components::count];
         Components::take(value, components);
@@ -154,19 +155,19 @@ struct DtRecordTraits
         {
             while (writer.offset() < start + layout.parts[i].offset)
                 writer.putByte(0);
-            DtPutPart(writer, components[layout.parts[i].component], layout.parts[i]);
+            DtPutWirePart(writer, components[layout.parts[i].component], layout.parts[i]);
         }
     }
     static bool decode(DtWireReader& reader, Type& value, const DtWireForm& form)
     {
-        const DtRecordLayout& layout = layoutOf(form);
+        const DtWireRecordLayout& layout = layoutOf(form);
         const std::size_t start = reader.offset();
         typename Components::Component components[Components::count] = {};
         for (unsigned int i = 0; i < layout.count; ++i)
         {
-            const DtPartForm& part = layout.parts[i];
+            const DtWirePartForm& part = layout.parts[i];
             if (!reader.skip(start + part.offset - reader.offset()) ||
-                !DtGetPart(reader, components[part.component], part))
+                !DtGetWirePart(reader, components[part.component], part))
                 return false;
         }
         return Components::make(value, components) || reader.fail("the number is too large for its type");
@@ -174,26 +175,26 @@ struct DtRecordTraits
     static unsigned int boundary(const DtWireForm& form, const DtWireTrail*) { return layoutOf(form).boundary; }
 
 private:
-    static const DtRecordLayout& layoutOf(const DtWireForm& form)
+    static const DtWireRecordLayout& layoutOf(const DtWireForm& form)
     {
         return form.layout ? *form.layout : Components::Usual::theLayout;
     }
 };
 
 template <class Number, int Tag>
-struct DtWireTraits<DtTriple<Number, Tag>, void> : DtRecordTraits<DtTriple<Number, Tag>>
+struct DtWireTraits<DtTriple<Number, Tag>, void> : DtWireRecordTraits<DtTriple<Number, Tag>>
 {
 };
 template <>
-struct DtWireTraits<DtTaitBryan, void> : DtRecordTraits<DtTaitBryan>
+struct DtWireTraits<DtTaitBryan, void> : DtWireRecordTraits<DtTaitBryan>
 {
 };
 template <>
-struct DtWireTraits<DtEntityType, void> : DtRecordTraits<DtEntityType>
+struct DtWireTraits<DtEntityType, void> : DtWireRecordTraits<DtEntityType>
 {
 };
 template <>
-struct DtWireTraits<DtEntityIdentifier, void> : DtRecordTraits<DtEntityIdentifier>
+struct DtWireTraits<DtEntityIdentifier, void> : DtWireRecordTraits<DtEntityIdentifier>
 {
 };
 

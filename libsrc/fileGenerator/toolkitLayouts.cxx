@@ -135,6 +135,7 @@ int componentOf(const DtString& field, const DtToolkitRow& row)
 std::vector<DtString> withoutCommonEnds(const std::vector<DtShapePart>& parts)
 {
     std::vector<std::string> names;
+    names.reserve(parts.size());
     for (const DtShapePart& part : parts)
         names.push_back(part.name.stdString());
     const auto shares = [&names](std::size_t length, bool fromEnd)
@@ -156,6 +157,7 @@ std::vector<DtString> withoutCommonEnds(const std::vector<DtShapePart>& parts)
     while (shares(back, true))
         ++back;
     std::vector<DtString> rest;
+    rest.reserve(names.size());
     for (const std::string& name : names)
         rest.emplace_back(name.substr(0, name.size() - back));
     return rest;
@@ -165,6 +167,7 @@ std::vector<DtString> withoutCommonEnds(const std::vector<DtShapePart>& parts)
 std::vector<int> namedComponents(const std::vector<DtShapePart>& parts, const DtToolkitRow& row)
 {
     std::vector<int> components;
+    components.reserve(parts.size());
     for (const DtShapePart& part : parts)
         components.push_back(componentOf(part.name, row));
     if (std::any_of(components.begin(), components.end(), [](int component) { return component >= 0; }))

@@ -3,6 +3,7 @@
 #   ./run.sh              generates from the sample model into out/
 #   ./run.sh window       opens the window
 #   ./run.sh OPTIONS      hands the options to the program and ends with its exit code
+#   ./run.sh -q ...       any of these, without a word on what is installed, built and left to do
 # Paths after -O, -P and -F count from where the user stands, although the program runs in bin/.
 # QX_RUN_PROGRAM names, by an absolute path, a program to start in place of the one that is built here; nothing is
 # installed and built then.
@@ -11,14 +12,25 @@ set -eu
 here=$PWD
 top=$(cd "$(dirname "${BASH_SOURCE[0]}")" && pwd)
 
+export QX_QUIET=
+if [ "${1-}" = -q ]; then
+    QX_QUIET=1
+    shift
+fi
+
+say() { # text
+    [ -n "$QX_QUIET" ] || echo "$1" >&2
+}
+
 build() {
-    local log="${TMPDIR:-/tmp}/quorvex-build.$$.log"
-    "$top/.ci/setup"
+    local log="$top/build/run.log"
+    "$top/.ci/setup" || exit
+    mkdir -p "$top/build"
+    say "building, log in $log"
     (cd "$top" && cmake --preset release && cmake --build --preset release --target codeGen) >"$log" 2>&1 || {
         cat "$log" >&2
         exit 2
     }
-    rm -f "$log"
 }
 
 program=${QX_RUN_PROGRAM:-./codeGen}
@@ -41,21 +53,26 @@ letter() { # option name
 }
 
 arguments=()
+output= # the directory of the last -O, as the program gets it
 translate() {
-    local kind name
+    local kind name path
     while [ $# -gt 0 ]; do
         case $1 in
             --) arguments+=("$@"); return ;;
             "-O "* | "-P "* | "-F "* | "--outputDir "* | "--project "* | "--fomDefFile "*) # both in one argument
                 name=${1%% *}
-                arguments+=("$name $(absolute "$(letter "$name")" "${1#* }")")
+                path=$(absolute "$(letter "$name")" "${1#* }")
+                arguments+=("$name $path")
+                [ "$(letter "$name")" != O ] || output=$path
                 ;;
             *)
                 arguments+=("$1")
                 kind=$(letter "$1")
                 if [ -n "$kind" ] && [ $# -gt 1 ]; then
                     shift
-                    arguments+=("$(absolute "$kind" "$1")")
+                    path=$(absolute "$kind" "$1")
+                    arguments+=("$path")
+                    [ "$kind" != O ] || output=$path
                 elif [ $# -gt 1 ] && { [ "$1" = -I ] || [ "$1" = --includeDir ] || [ "$1" = -p ] || [ "$1" = --classPrefix ]; }; then
                     shift
                     arguments+=("$1")
@@ -69,7 +86,7 @@ translate() {
 if [ $# -eq 0 ]; then
     mkdir -p "$top/out/sample"
     cp "$top/data/samples/sample.xml" "$top/out/sample/"
-    arguments=(--generate --all --outputDir "$top/out/sample" --fomDefFile "$top/out/sample/sample.xml")
+    translate --generate --all --outputDir "$top/out/sample" --fomDefFile "$top/out/sample/sample.xml"
 elif [ "$1" = window ]; then
     shift
     translate "$@"
@@ -78,4 +95,18 @@ else
 fi
 mkdir -p "$top/bin"
 cd "$top/bin"
-exec "$program" ${arguments[@]+"${arguments[@]}"}
+code=0
+"$program" ${arguments[@]+"${arguments[@]}"} || code=$?
+
+# Below this directory the makefile finds the stand-in of the toolkit by itself.
+tell_output() {
+    local toolkit=' QX_DIR=/path/of/the/toolkit'
+    case $output in "$top"/*) toolkit= ;; esac
+    if [ -e "$output/cpp\\Makefile" ]; then
+        say "output in $output; next: cd $(printf %q "$output") && make -j$(nproc) -f 'cpp\\Makefile'$toolkit"
+    elif [ -d "$output" ]; then
+        say "output in $output"
+    fi
+}
+[ -z "$output" ] || tell_output
+exit "$code"

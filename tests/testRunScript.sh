@@ -93,6 +93,88 @@ expect noOptionsGenerateFromACopyOfTheSample --generate --all --outputDir "$work
 cmp "$work/top/out/sample/sample.xml" "$repository/data/samples/sample.xml" || fail sampleIsCopied
 [ "$(ls "$work/top/data/samples")" = sample.xml ] || fail sampleFolderStaysAsItIs
 
+# What the script itself says on standard error must be this line, nothing when it is empty.
+expect_word() { # test line
+    if [ "$2" = "$(cat "$work/word")" ]; then
+        echo "PASS: $1"
+    else
+        fail "$1: $(cat "$work/word")"
+    fi
+}
+
+mkdir -p "$user/built" "$user/other out"
+touch "$user/built/cpp\\Makefile"
+run -G -O built 2>"$work/word"
+expect_word endsWithOutputAndNextStep \
+    "output in $user/built; next: cd $user/built && make -j$(nproc) -f 'cpp\\Makefile' QX_DIR=/path/of/the/toolkit"
+run "-O other out" 2>"$work/word"
+expect_word outputWithoutMakefileHasNoNextStep "output in $user/other out"
+run -O gone 2>"$work/word"
+expect_word outputThatIsNotThereIsNotNamed ""
+run window 2>"$work/word"
+expect_word windowEndsWithoutAWord ""
+touch "$work/top/out/sample/cpp\\Makefile"
+run 2>"$work/word"
+expect_word sampleIsBuiltWithTheToolkitOfTheCheckout \
+    "output in $work/top/out/sample; next: cd $work/top/out/sample && make -j$(nproc) -f 'cpp\\Makefile'"
+run -q -G -O built 2>"$work/word"
+expect_word quietFirstWordKeepsTheWordBack ""
+expect quietFirstWordIsNotHandedOn -G -O "$user/built"
+run -G -q 2>"$work/word"
+expect quietElsewhereIsTheProgramsOwn -G -q
+
+# The set-up script with the commands of a machine on which "there" alone is installed, and what it must do and say.
+tools=$work/tools
+mkdir -p "$tools" "$work/top/.ci"
+cp "$repository/.ci/setup" "$work/top/.ci/"
+command_of_machine() { # name body
+    printf '#!/bin/bash\n%s\n' "$2" >"$tools/$1"
+    chmod +x "$tools/$1"
+}
+for name in bash cat dirname grep env mkdir; do ln -s "$(command -v $name)" "$tools/$name"; done
+command_of_machine dpkg-query 'echo look >>"$QX_NOTES"; [ "${*: -1}" = gone ] || echo "install ok installed"'
+command_of_machine apt-get 'echo "apt-get $*" >>"$QX_NOTES"'
+command_of_machine id 'echo "$QX_USER"'
+
+set_up() { # user packages
+    rm -f "$QX_NOTES"
+    touch "$QX_NOTES"
+    status=0
+    (cd "$user" && QX_USER=$1 PATH=$tools "$work/top/.ci/setup" "${@:2}") >"$work/word" 2>&1 || status=$?
+}
+
+# Word and notes must hold the texts; an empty one says nothing.
+expect_set_up() { # test status word notes
+    if [ "$2" = "$status" ] && [[ $(cat "$work/word") == *"$3"* && $(cat "$QX_NOTES") == *"$4"* ]]; then
+        echo "PASS: $1"
+    else
+        fail "$1: $status; $(cat "$work/word"); $(cat "$QX_NOTES")"
+    fi
+}
+
+set_up 1000 gone
+expect_set_up withoutSudoTheLineForAnAdministratorIsPrinted 1 \
+    'As root: apt-get update && apt-get install -y --no-install-recommends gone' look
+[ ! -e "$work/top/build/packages" ] || fail missingPackagesAreNotNoted
+set_up 0 gone
+expect_set_up missingPackagesAreInstalled 0 'installing gone' 'apt-get install -y --no-install-recommends gone'
+set_up 0 gone
+if [ "$status" = 0 ] && [ ! -s "$work/word" ] && [ ! -s "$QX_NOTES" ]; then
+    echo "PASS: notedPackagesAreNotLookedForAgain"
+else
+    fail notedPackagesAreNotLookedForAgain
+fi
+set_up 0 gone further
+expect_set_up furtherPackagesAreLookedFor 0 '' look
+[ "$(wc -l <"$QX_NOTES")" = 1 ] || fail onlyFurtherPackagesAreLookedFor
+rm -r "$work/top/build"
+touch "$work/top/build" # nowhere to note anything
+set_up 0 there
+expect_set_up noteThatCannotBeWrittenIsNoFault 0 '' look
+rm "$work/top/build"
+QX_QUIET=1 set_up 0 gone
+if grep -q installing "$work/word"; then fail quietSetUp; else echo "PASS: quietSetUp"; fi
+
 for code in 0 1 7; do
     given=0
     QX_CODE=$code run -G || given=$?

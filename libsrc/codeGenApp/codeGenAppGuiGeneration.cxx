@@ -21,7 +21,7 @@
 
 namespace
 {
-// Another output directory, and a progress meter, for as long as a script runs.
+// A progress meter for as long as a script runs.
 class DtScriptRun
 {
 public:

@@ -2,7 +2,7 @@
 
 #include "fileGenerator/dataTypeMapper.h"
 #include "fileGenerator/memberTypes.h"
-#include "fileGenerator/qtProgressMeter.h"
+#include "fileGenerator/progressMeter.h"
 #include "foundation/exception.h"
 
 DtFileGenerator::~DtFileGenerator() = default;
@@ -31,7 +31,7 @@ bool DtFileGenerator::runWriters()
     {
         writer->compileIncludeList();
         writer->writeFile();
-        if (DtQtProgressMeter::instance()->isCancelled())
+        if (DtProgressMeter::current()->isCancelled())
             return false;
     }
     return true;

@@ -1,7 +1,7 @@
 #include "fileGenerator/fileWriter.h"
 
 #include "fileGenerator/dataTypeMapper.h"
-#include "fileGenerator/qtProgressMeter.h"
+#include "fileGenerator/progressMeter.h"
 #include "fileGenerator/regularExpressionUtils.h"
 #include "fileGenerator/relativePath.h"
 #include "fileGenerator/settings.h"
@@ -164,11 +164,11 @@ void DtFileWriter::writeFile()
 {
     if (myTemplateFile == nullptr)
         return;
-    DtQtProgressMeter::instance()->setFileGenerated(myFileName);
+    DtProgressMeter::current()->setFileGenerated(myFileName);
     DtTemplateStream in;
     in.open(DtPreparedTemplateText(myTemplateFile.get(), pieceLimit()));
     writeFileStream(in);
-    DtQtProgressMeter::instance()->incrementCurrentMeasure(1);
+    DtProgressMeter::current()->incrementCurrentMeasure(1);
 }
 
 void DtFileWriter::writeFileStream(std::istream& in)

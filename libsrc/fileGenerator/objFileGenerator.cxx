@@ -10,7 +10,7 @@
 #include "fileGenerator/hrefListHeaderWriter.h"
 #include "fileGenerator/hrefListSourceWriter.h"
 #include "fileGenerator/hrefObjWriter.h"
-#include "fileGenerator/qtProgressMeter.h"
+#include "fileGenerator/progressMeter.h"
 #include "fileGenerator/refListHeaderWriter.h"
 #include "fileGenerator/refObjHeaderWriter.h"
 #include "fileGenerator/srHeaderFileWriter.h"
@@ -109,7 +109,7 @@ void DtObjectFileGenerator::generateFiles()
     if (!runWriters() || !myGenerateExamples || myExamplesCreator == nullptr)
         return;
     // The label is there for objects only.
-    DtQtProgressMeter::instance()->setLabel(DtString("Generating examples for: ") + myExamplesCreator->name());
+    DtProgressMeter::current()->setLabel(DtString("Generating examples for: ") + myExamplesCreator->name());
     myExamplesCreator->createObjectExamples();
 }
 

@@ -12,8 +12,8 @@
 #include "fileGenerator/numberForm.h"
 #include "fileGenerator/objFileGenerator.h"
 #include "fileGenerator/omtProject.h"
+#include "fileGenerator/progressMeter.h"
 #include "fileGenerator/projectFileWriter.h"
-#include "fileGenerator/qtProgressMeter.h"
 #include "fileGenerator/relativePath.h"
 #include "fileGenerator/solutionsFileWriter.h"
 #include "fileGenerator/toolkitLayouts.h"
@@ -40,7 +40,7 @@ DtDataTypeMapper& mapper()
 
 bool isCancelled()
 {
-    return DtQtProgressMeter::instance()->isCancelled();
+    return DtProgressMeter::current()->isCancelled();
 }
 
 DtString withoutPathAndExtension(const DtString& name)
@@ -227,9 +227,9 @@ void DtOMTEnvWriter::setTotalProgress()
     }
     const int objects = static_cast<int>(myObjectsToGenerate.size());
     const int interactions = static_cast<int>(myInteractionsToGenerate.size());
-    DtQtProgressMeter::instance()->setTotalMeasure(theMeasureOfRun + theFilesOfDatatype * datatypes +
-                                                   (perObject + perExample) * objects +
-                                                   (perInteraction + perExample) * interactions);
+    DtProgressMeter::current()->setTotalMeasure(theMeasureOfRun + theFilesOfDatatype * datatypes +
+                                                (perObject + perExample) * objects +
+                                                (perInteraction + perExample) * interactions);
 }
 
 void DtOMTEnvWriter::generateEnumerationsFile()

@@ -8,7 +8,7 @@
 #include "fileGenerator/nameClashes.h"
 #include "fileGenerator/omtEnvWriter.h"
 #include "fileGenerator/omtProject.h"
-#include "fileGenerator/qtProgressMeter.h"
+#include "fileGenerator/progressMeter.h"
 #include "fileGenerator/simpleDataTypeFileWriter.h"
 #include "fileGenerator/toolkitNames.h"
 #include "fileGenerator/variantRecordFileWriter.h"
@@ -183,7 +183,7 @@ struct DtVariantRecordFamily : DtDatatypeFamily<DtVariantDatatypeNode, DtVariant
 
 bool isCancelled()
 {
-    return DtQtProgressMeter::instance()->isCancelled();
+    return DtProgressMeter::current()->isCancelled();
 }
 } // namespace
 

@@ -2,7 +2,8 @@
 
 #include "fileGenerator/fileWriter.h"
 #include "fileGenerator/omtWriter.h"
-#include "fileGenerator/qtProgressMeter.h"
+#include "fileGenerator/progressMeter.h"
+#include "fileGenerator/settings.h"
 #include "fileGenerator/universalFileWriter.h"
 #include "foundation/assertion.h"
 #include "foundation/fileUtils.h"
@@ -78,9 +79,9 @@ DtString firstWord(DtString line)
     return line;
 }
 
-DtQtProgressMeter& meter()
+DtProgressMeter& meter()
 {
-    return *DtQtProgressMeter::instance();
+    return *DtProgressMeter::current();
 }
 } // namespace
 

@@ -2,7 +2,7 @@
 
 #include "fileGenerator/contextRow.h"
 #include "fileGenerator/omtWriter.h"
-#include "fileGenerator/qtProgressMeter.h"
+#include "fileGenerator/progressMeter.h"
 #include "omtReader/omtTree.h"
 
 #include <algorithm>
@@ -15,7 +15,7 @@ constexpr DtKeyForm Name = DtKeyForm::Name;
 
 bool isCancelled()
 {
-    return DtQtProgressMeter::instance()->isCancelled();
+    return DtProgressMeter::current()->isCancelled();
 }
 
 // The target type of the datatype that the getter gives.

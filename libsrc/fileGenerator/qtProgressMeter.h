@@ -1,6 +1,7 @@
 #ifndef FILE_GENERATOR_QT_PROGRESS_METER_H
 #define FILE_GENERATOR_QT_PROGRESS_METER_H
 
+#include "fileGenerator/progressMeter.h"
 #include "foundation/string.h"
 
 #include <QtCore/QElapsedTimer>
@@ -15,7 +16,7 @@
 // ahead of a run and reset() after it; the driver calls setTotalMeasure() and then the update operations, and polls
 // isCancelled(). A dialog that goes down with its parent counts as none. Label and value are set at every update, but
 // the dialog is painted every 20 ms at most.
-class DtQtProgressMeter
+class DtQtProgressMeter : public DtProgressMeter
 {
 public:
     static DtQtProgressMeter* instance();
@@ -35,8 +36,8 @@ public:
     // Stores application and parent (may be null) and clears the cancelled state.
     virtual void init(QApplication* application, QWidget* parent);
     // Deletes the dialog, if there is one.
-    virtual void reset();
-    virtual ~DtQtProgressMeter();
+    void reset() override;
+    ~DtQtProgressMeter() override;
     virtual void checkInitialized();
 
 private:

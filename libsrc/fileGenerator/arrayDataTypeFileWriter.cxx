@@ -6,10 +6,14 @@
 #include "fileGenerator/netTypeTraits.h"
 #include "fileGenerator/numberForm.h"
 #include "fileGenerator/settings.h"
+#include "foundation/perRun.h"
 #include "foundation/stringUtils.h"
 #include "omtReader/arrayDatatypeNode.h"
 
-static DtCCompatibleNames theNames;
+static DtCCompatibleNames& names()
+{
+    return DtPerRun<DtCCompatibleNames, class DtArrayDataTypeFileWriter>();
+}
 
 static const char theEncodingToken[] = "<!MyEncoding!>";
 
@@ -70,7 +74,7 @@ struct DtArrayDataTypeFileWriter::DtTokens
 
 DtArrayDataTypeFileWriter::DtArrayDataTypeFileWriter(const DtString& fileName, const DtString& templateName,
                                                      const DtString& encoding)
-    : DtCodedDataTypeFileWriter(fileName, templateName, theNames),
+    : DtCodedDataTypeFileWriter(fileName, templateName, names()),
       myEncoding(encoding),
       myEncodingTokens(DtTokens::encoding(), this, DtTokenMemory::OneLine),
       myOwnTokens(DtTokens::own(), this, DtTokenMemory::OneLine),

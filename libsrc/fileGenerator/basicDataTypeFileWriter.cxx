@@ -2,9 +2,13 @@
 
 #include "fileGenerator/cCompatibleName.h"
 #include "fileGenerator/settings.h"
+#include "foundation/perRun.h"
 #include "omtReader/basicDataRepresentationNode.h"
 
-static DtCCompatibleNames theNames;
+static DtCCompatibleNames& names()
+{
+    return DtPerRun<DtCCompatibleNames, class DtBasicDataTypeFileWriter>();
+}
 
 struct DtBasicDataTypeFileWriter::DtTokens
 {
@@ -30,7 +34,7 @@ struct DtBasicDataTypeFileWriter::DtTokens
 };
 
 DtBasicDataTypeFileWriter::DtBasicDataTypeFileWriter(const DtString& fileName, const DtString& templateName)
-    : DtPrimitiveDataTypeFileWriter(fileName, templateName, theNames),
+    : DtPrimitiveDataTypeFileWriter(fileName, templateName, names()),
       myMemberTokens(DtTokens::ofAttribute(), this, DtTokenMemory::OneLine),
       myOwnTokens(DtTokens::own(), this, DtTokenMemory::OneLine)
 {

@@ -4,9 +4,13 @@
 #include "fileGenerator/dataTypeMapper.h"
 #include "fileGenerator/datatypeClassNames.h"
 #include "fileGenerator/memberTypes.h"
+#include "foundation/perRun.h"
 #include "omtReader/complexDatatypeNode.h"
 
-static DtCCompatibleNames theNames;
+static DtCCompatibleNames& names()
+{
+    return DtPerRun<DtCCompatibleNames, class DtComplexDataTypeFileWriter>();
+}
 
 namespace
 {
@@ -51,7 +55,7 @@ DtString arrayName(const DtAttribute& attribute)
         return isSingle(attribute.cardinality()) ? DtString() : element + "FixedArray" + attribute.cardinality();
     case 1:
     {
-        const DtString name = theNames.MakeCCompatibleString(element + "VariableArray");
+        const DtString name = names().MakeCCompatibleString(element + "VariableArray");
         return DtDatatypeClassNames::instance().contains(name) ? name : DtString();
     }
     case 3:
@@ -92,7 +96,7 @@ struct DtComplexDataTypeFileWriter::DtTokens
 };
 
 DtComplexDataTypeFileWriter::DtComplexDataTypeFileWriter(const DtString& fileName, const DtString& templateName)
-    : DtDataTypeFileWriter(fileName, templateName, theNames),
+    : DtDataTypeFileWriter(fileName, templateName, names()),
       myOwnTokens(DtTokens::own(), this, DtTokenMemory::OneLine),
       myMemberTokens(DtTokens::ofAttribute(), this, DtTokenMemory::OneLine)
 {
@@ -153,5 +157,5 @@ void DtComplexDataTypeFileWriter::writeArrayIncludeFiles(std::istream& stream)
 DtString DtComplexDataTypeFileWriter::arrayStem(const DtAttribute& attribute) const
 {
     const DtString name = arrayName(attribute);
-    return name.isEmpty() ? name : DtDatatypeClassNames::fileStem(theNames.MakeCCompatibleString(name), theNames);
+    return name.isEmpty() ? name : DtDatatypeClassNames::fileStem(names().MakeCCompatibleString(name), names());
 }

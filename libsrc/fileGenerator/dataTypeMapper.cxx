@@ -158,8 +158,7 @@ const DtTypeValues* valuesOf(const DtString& type)
 
 DtDataTypeMapper* DtDataTypeMapper::instance()
 {
-    static DtDataTypeMapper theMapper;
-    return &theMapper;
+    return &DtPerRun<DtDataTypeMapper>();
 }
 
 DtDataTypeMapper::DtDataTypeMapper()

@@ -1,6 +1,7 @@
 #ifndef FILE_GENERATOR_DATA_TYPE_MAPPER_H
 #define FILE_GENERATOR_DATA_TYPE_MAPPER_H
 
+#include "foundation/perRun.h"
 #include "foundation/string.h"
 
 #include <map>
@@ -165,6 +166,9 @@ protected:
     DtDataTypeMapper();
 
 private:
+    template <typename Part, typename Key>
+    friend Part& DtPerRun();
+
     // Gives a type the boundary and size of another, as far as these are known.
     void takeOverLayout(const DtString& name, const DtString& from);
     template <typename Node>

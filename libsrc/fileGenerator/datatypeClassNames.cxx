@@ -2,6 +2,7 @@
 
 #include "fileGenerator/cCompatibleName.h"
 #include "fileGenerator/settings.h"
+#include "foundation/perRun.h"
 #include "foundation/stringUtils.h"
 
 namespace
@@ -17,8 +18,7 @@ const DtString& valueOrEmpty(const std::map<DtString, DtString>& map, const DtSt
 
 DtDatatypeClassNames& DtDatatypeClassNames::instance()
 {
-    static DtDatatypeClassNames theInstance;
-    return theInstance;
+    return DtPerRun<DtDatatypeClassNames>();
 }
 
 DtString DtDatatypeClassNames::fileStem(const DtString& datatype, DtCCompatibleNames& names)

@@ -5,10 +5,14 @@
 #include "fileGenerator/memberTypes.h"
 #include "fileGenerator/netTypeTraits.h"
 #include "fileGenerator/representationWalk.h"
+#include "foundation/perRun.h"
 #include "foundation/stringUtils.h"
 #include "omtReader/fixedDatatypeNode.h"
 
-static DtCCompatibleNames theNames;
+static DtCCompatibleNames& names()
+{
+    return DtPerRun<DtCCompatibleNames, class DtFixedRecordFileWriter>();
+}
 
 namespace
 {
@@ -65,7 +69,7 @@ struct DtFixedRecordFileWriter::DtTokens
 };
 
 DtFixedRecordFileWriter::DtFixedRecordFileWriter(const DtString& fileName, const DtString& templateName)
-    : DtCodedDataTypeFileWriter(fileName, templateName, theNames),
+    : DtCodedDataTypeFileWriter(fileName, templateName, names()),
       myOwnTokens(DtTokens::own(), this, DtTokenMemory::OneLine),
       myMemberTokens(DtTokens::ofAttribute(), this, DtTokenMemory::OneLine)
 {

@@ -2,6 +2,7 @@
 
 #include "fileGenerator/cCompatibleName.h"
 #include "fileGenerator/escapedText.h"
+#include "foundation/perRun.h"
 
 #include <algorithm>
 
@@ -12,8 +13,7 @@ constexpr std::size_t theLargestPlainMap = 128;
 
 DtCCompatibleNames& names()
 {
-    static DtCCompatibleNames theNames;
-    return theNames;
+    return DtPerRun<DtCCompatibleNames, DtMapSubstitute>();
 }
 } // namespace
 

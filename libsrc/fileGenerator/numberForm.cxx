@@ -3,6 +3,7 @@
 #include "fileGenerator/dataTypeMapper.h"
 #include "fileGenerator/memberTypes.h"
 #include "foundation/outputStream.h"
+#include "foundation/perRun.h"
 #include "foundation/stringUtils.h"
 #include "omtReader/basicDataRepresentationNode.h"
 #include "omtReader/omtTree.h"
@@ -154,12 +155,12 @@ DtString numberTypeOf(const DtNumberForm& form)
 
 void warnOfByteOrders(const DtOMTTree& tree)
 {
-    static std::set<std::pair<DtString, DtString>> theTold;
+    auto& told = DtPerRun<std::set<std::pair<DtString, DtString>>, class DtToldByteOrders>();
     for (const DtBasicDataRepresentationNode* node : tree.basicDataRepresentations())
     {
         const DtString& name = node->getName();
         const DtString& endian = node->getEndian();
-        if (!isKnownByteOrder(endian) && theTold.emplace(name, endian).second)
+        if (!isKnownByteOrder(endian) && told.emplace(name, endian).second)
             DtWarn << "Warning: The byte order of " << name << " is \"" << endian
                    << "\", which is neither Big nor Little. It is taken for Big.\n";
     }

@@ -19,6 +19,7 @@
 #include "fileGenerator/toolkitLayouts.h"
 #include "foundation/exception.h"
 #include "foundation/fileUtils.h"
+#include "foundation/perRun.h"
 #include "foundation/stringUtils.h"
 #include "omtReader/enumeratedDatatypeNode.h"
 #include "omtReader/interactionClassFedNode.h"
@@ -122,8 +123,7 @@ DtOMTEnvWriter::~DtOMTEnvWriter() = default;
 
 DtCCompatibleNames& DtOMTEnvWriter::names()
 {
-    static DtCCompatibleNames theNames;
-    return theNames;
+    return DtPerRun<DtCCompatibleNames, DtOMTEnvWriter>();
 }
 
 DtOMTTree& DtOMTEnvWriter::tree() const

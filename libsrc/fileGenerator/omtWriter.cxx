@@ -7,6 +7,8 @@
 #include "fileGenerator/numberForm.h"
 #include "fileGenerator/omtProject.h"
 #include "foundation/exception.h"
+#include "foundation/filename.h"
+#include "foundation/perRun.h"
 #include "omtReader/omtTree.h"
 
 DtOMTWriter::DtOMTWriter() = default;
@@ -15,8 +17,7 @@ DtOMTWriter::~DtOMTWriter() = default;
 
 DtCCompatibleNames& DtOMTWriter::names()
 {
-    static DtCCompatibleNames theNames;
-    return theNames;
+    return DtPerRun<DtCCompatibleNames, DtOMTWriter>();
 }
 
 DtString DtOMTWriter::identifierOf(const DtString& name)

@@ -3,6 +3,7 @@
 
 #include "foundation/filename.h"
 #include "foundation/fomType.h"
+#include "foundation/perRun.h"
 #include "foundation/string.h"
 
 // The class-wide settings of a run. Everybody who generates reads them here; DtOMTEnvWriter, DtOMTWriter and
@@ -43,11 +44,7 @@ struct DtSettings
     DtRoadSettings scripts;
     DtFileSettings files;
 
-    static DtSettings& instance()
-    {
-        static DtSettings theSettings;
-        return theSettings;
-    }
+    static DtSettings& instance() { return DtPerRun<DtSettings>(); }
 };
 
 #endif

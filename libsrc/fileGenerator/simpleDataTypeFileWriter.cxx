@@ -1,12 +1,16 @@
 #include "fileGenerator/simpleDataTypeFileWriter.h"
 
 #include "fileGenerator/cCompatibleName.h"
+#include "foundation/perRun.h"
 #include "omtReader/simpleDatatypeNode.h"
 
-static DtCCompatibleNames theNames;
+static DtCCompatibleNames& names()
+{
+    return DtPerRun<DtCCompatibleNames, class DtSimpleDataTypeFileWriter>();
+}
 
 DtSimpleDataTypeFileWriter::DtSimpleDataTypeFileWriter(const DtString& fileName, const DtString& templateName)
-    : DtPrimitiveDataTypeFileWriter(fileName, templateName, theNames)
+    : DtPrimitiveDataTypeFileWriter(fileName, templateName, names())
 {
 }
 

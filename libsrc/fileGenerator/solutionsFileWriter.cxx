@@ -3,10 +3,14 @@
 #include "fileGenerator/cCompatibleName.h"
 #include "fileGenerator/settings.h"
 #include "foundation/filename.h"
+#include "foundation/perRun.h"
 
 namespace
 {
-DtCCompatibleNames theNames;
+DtCCompatibleNames& names()
+{
+    return DtPerRun<DtCCompatibleNames, class DtSolutionsFileWriter>();
+}
 
 DtString projectBase()
 {
@@ -18,7 +22,7 @@ DtString projectBase()
 
 DtString identifier(const DtOmtNode& record)
 {
-    return theNames.MakeCCompatibleString(record.name());
+    return names().MakeCCompatibleString(record.name());
 }
 } // namespace
 

@@ -3,6 +3,7 @@
 #include "fileGenerator/dataTypeMapper.h"
 #include "fileGenerator/datatypeShape.h"
 #include "foundation/outputStream.h"
+#include "foundation/perRun.h"
 #include "foundation/stringUtils.h"
 #include "omtReader/visitDatatype.h"
 
@@ -412,8 +413,7 @@ DtToolkitLayout toolkitLayoutOf(const DtString& datatype, const DtString& toolki
 
 DtToolkitLayouts& DtToolkitLayouts::instance()
 {
-    static DtToolkitLayouts theInstance;
-    return theInstance;
+    return DtPerRun<DtToolkitLayouts>();
 }
 
 void DtToolkitLayouts::workOut(const DtOMTTree& tree, const std::set<DtString>& used)

@@ -7,11 +7,15 @@
 #include "fileGenerator/memberTypes.h"
 #include "fileGenerator/netTypeTraits.h"
 #include "fileGenerator/numberForm.h"
+#include "foundation/perRun.h"
 #include "foundation/stringUtils.h"
 #include "omtReader/omtTree.h"
 #include "omtReader/variantDatatypeNode.h"
 
-static DtCCompatibleNames theNames;
+static DtCCompatibleNames& names()
+{
+    return DtPerRun<DtCCompatibleNames, class DtVariantRecordFileWriter>();
+}
 
 struct DtVariantRecordFileWriter::DtTokens
 {
@@ -69,7 +73,7 @@ bool hasVariantMember(const DtString& datatype)
 }
 
 DtVariantRecordFileWriter::DtVariantRecordFileWriter(const DtString& fileName, const DtString& templateName)
-    : DtCodedDataTypeFileWriter(fileName, templateName, theNames),
+    : DtCodedDataTypeFileWriter(fileName, templateName, names()),
       myDiscriminant("", "DtInt32"),
       myOwnTokens(DtTokens::own(), this, DtTokenMemory::OneLine),
       myMemberTokens(DtTokens::ofAttribute(), this, DtTokenMemory::OneLine)

@@ -1,5 +1,6 @@
 #include "fileGenerator/fileWriter.h"
 
+#include "fileGenerator/dataFile.h"
 #include "fileGenerator/dataTypeMapper.h"
 #include "fileGenerator/progressMeter.h"
 #include "fileGenerator/regularExpressionUtils.h"
@@ -127,7 +128,7 @@ DtFileWriter::DtFileWriter(const DtString& fileName, const DtString& templateNam
     openOutput();
     myFileStem = DtRegularExpressionUtils::regExpReplace("\\..*", myFileName, "");
     if (templateName != DtString::nullString())
-        myTemplateFile.reset(DtFileOpen(templateName.c_str(), "r"));
+        myTemplateFile.reset(DtFileOpen(DtDataFile(templateName).c_str(), "r"));
 }
 
 DtFileWriter::~DtFileWriter()
@@ -386,7 +387,7 @@ void DtFileWriter::helperFileHandler(std::string& line, unsigned int start, std:
     cursor.skipCharacters(end + 2); // the character behind the delimiter, taken to be ">", goes in any case
     if (path.empty() || !mayOpen(path))
         return;
-    file.open(DtTemplateFileText(path));
+    file.open(DtTemplateFileText(DtDataFile(path)));
     file.setFileName(path);
 }
 

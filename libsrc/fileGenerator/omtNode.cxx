@@ -1,5 +1,8 @@
 #include "fileGenerator/omtNode.h"
 
+#include "fileGenerator/namedUuid.h"
+#include "fileGenerator/settings.h"
+
 #include <boost/uuid/random_generator.hpp>
 #include <boost/uuid/uuid_io.hpp>
 
@@ -47,8 +50,15 @@ DtString DtOmtNode::rename() const
 
 DtString DtOmtNode::uuid(unsigned int index) const
 {
-    boost::uuids::random_generator generator;
     while (myUuids.size() <= index)
-        myUuids.emplace_back(boost::uuids::to_string(generator()));
+        myUuids.push_back(newUuid());
     return myUuids[index];
+}
+
+DtString DtOmtNode::newUuid() const
+{
+    if (DtSettings::instance().files.makesNamedUuids)
+        return DtNamedUuid(myFullName + "#" + DtString(static_cast<unsigned int>(myUuids.size())));
+    boost::uuids::random_generator generator;
+    return boost::uuids::to_string(generator());
 }

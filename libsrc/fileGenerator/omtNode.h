@@ -25,7 +25,8 @@ public:
     // The user's replacement for the name; empty when there is none.
     virtual void setRename(DtString rename);
     virtual DtString rename() const;
-    // A random UUID as text, always the same for the same index of one record. Copies made later carry it along.
+    // A UUID as text, always the same for the same index of one record. Copies made later carry it along. It is random,
+    // or follows from the full name where the settings say so.
     virtual DtString uuid(unsigned int index) const;
 
     bool operator<(const DtOmtNode& other) const { return myFullName < other.myFullName; }
@@ -36,6 +37,9 @@ protected:
     bool myShouldRename = false;
     DtString myRename;
     mutable std::vector<DtString> myUuids; // as many as were asked for
+
+private:
+    DtString newUuid() const;
 };
 
 #endif

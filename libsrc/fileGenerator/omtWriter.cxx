@@ -44,7 +44,7 @@ bool DtOMTWriter::writeFile(const DtString& fomName, const DtString& commandFile
     checkUsedSubDatatypesFiles();
     warnOfByteOrders(tree());
     myNextPduKind = myFirstPduKind;
-    execCmdFile("../data/" + commandFile);
+    execCmdFile(DtFilename(commandFile).isAbsolute() ? commandFile : "../data/" + commandFile);
     return true;
 }
 

@@ -58,8 +58,8 @@ public:
     DtOMTWriter& operator=(const DtOMTWriter&) = delete;
     virtual ~DtOMTWriter();
 
-    // Runs the command file of that name in ../data for the model called fomName; always true, also when the user
-    // cancelled: what is written by then stays. Throws DtException without a tree.
+    // Runs the command file of that name in ../data, or of that absolute path, for the model called fomName; always
+    // true, also when the user cancelled: what is written by then stays. Throws DtException without a tree.
     virtual bool writeFile(const DtString& fomName, const DtString& commandFile);
     // Completes the set of used datatypes: what the selected classes need, directly or through other datatypes.
     virtual void checkUsedSubDatatypesFiles();

@@ -1,5 +1,6 @@
 // The command language of DtOMTWriter.
 
+#include "fileGenerator/dataFile.h"
 #include "fileGenerator/fileWriter.h"
 #include "fileGenerator/omtWriter.h"
 #include "fileGenerator/progressMeter.h"
@@ -109,7 +110,7 @@ void DtOMTWriter::runPass(const DtString& path, cmdLineProc handler)
 
 void DtOMTWriter::parseCommandFile(const DtString& path, cmdLineProc handler)
 {
-    const std::unique_ptr<FILE, DtFileCloser> file(DtFileOpen(path.c_str(), "r"));
+    const std::unique_ptr<FILE, DtFileCloser> file(DtFileOpen(DtDataFile(path).c_str(), "r"));
     if (file == nullptr)
     {
         DtWarn << "Cannot open command file " << path << std::endl; // the assertion does not name it
@@ -244,9 +245,10 @@ void DtOMTWriter::changeDirectory(const Words& words)
 {
     const DtString& word = words[1];
     DtString directory = mySavedOutputDirectory;
-    if (word == "$")
-        directory = theDataDirectory;
-    else if (word != "~")
+    const bool isData = word == "$";
+    if (isData && !DtSettings::instance().files.keepsToOutput)
+        directory = DtSettings::instance().files.dataDirectory;
+    else if (word != "~" && !isData)
     {
         directory = DtFileWriter::outputDirectory() + word + DtFilename::separator();
         DtMakeDirectory(directory);

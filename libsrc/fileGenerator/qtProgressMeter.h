@@ -22,19 +22,19 @@ public:
     static DtQtProgressMeter* instance();
 
     // Makes and shows a new dialog, with the current measure at 0. Throws DtException before init().
-    virtual void setTotalMeasure(int total);
-    virtual int totalMeasure();
+    void setTotalMeasure(int total) override;
+    int totalMeasure() override;
     // The next four throw DtException when there is no dialog.
-    virtual void setCurrentMeasure(int measure);
-    virtual int currentMeasure();
-    virtual void incrementCurrentMeasure(int step);
-    virtual void setLabel(const DtString& text);
-    virtual void setFileGenerated(const DtString& name);
+    void setCurrentMeasure(int measure) override;
+    int currentMeasure() override;
+    void incrementCurrentMeasure(int step) override;
+    void setLabel(const DtString& text) override;
+    void setFileGenerated(const DtString& name) override;
     // A pressed Cancel button shows here from the next update on, until init() or setIsCancelled(false).
-    virtual void setIsCancelled(bool isCancelled);
-    virtual bool isCancelled();
+    void setIsCancelled(bool isCancelled) override;
+    bool isCancelled() override;
     // Stores application and parent (may be null) and clears the cancelled state.
-    virtual void init(QApplication* application, QWidget* parent);
+    void init(QApplication* application, QWidget* parent) override;
     // Deletes the dialog, if there is one.
     void reset() override;
     ~DtQtProgressMeter() override;

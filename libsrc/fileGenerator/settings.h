@@ -6,6 +6,8 @@
 #include "foundation/perRun.h"
 #include "foundation/string.h"
 
+#include <vector>
+
 // The class-wide settings of a run. Everybody who generates reads them here; DtOMTEnvWriter, DtOMTWriter and
 // DtFileWriter have the operations that set them.
 
@@ -35,6 +37,15 @@ struct DtFileSettings
     bool generatesErrors = false; // a line that stops the compiler at each value without encoding
     bool usesDecodeIncludes = false;
     DtHLAProtocolVersion hlaVersion = DtHlaUnknown;
+    // Where the shipped templates and command files lie, with a separator at the end. They are named by paths that
+    // begin with "../data/", wherever that is.
+    DtString dataDirectory = "../data/";
+    // Directories whose files stand in for shipped templates of the same path below the templates, and for command
+    // files of the same name. The first one that has the file counts.
+    std::vector<DtString> templateDirectories;
+    bool keepsToOutput = false;      // command files write nothing to the data directory
+    bool namesHeadersAsUsed = false; // headers are called as they are included, whatever the tables of files say
+    bool makesNamedUuids = false;    // identifiers of projects follow from names, where they are random otherwise
 };
 
 // All of them. The two roads do not share theirs: what is set for one does not reach the other.

@@ -19,6 +19,7 @@ class DtCodeGenInitializer;
 class DtCustomCodeGui;
 class DtFedNode;
 class DtFindBar;
+class DtGenerationRun;
 class DtListViewManager;
 class DtOMTTree;
 class DtOmtProject;
@@ -178,9 +179,7 @@ private:
     DtFilename askForFile(const char* title, const char* filter);
     void showMessageBox(const DtString& text);
     void enableProjectActions(bool enabled);
-    void dumpParseTree();
-    void setUpWriters();
-    void runCppWriter();
+    DtGenerationRun generationRun();
 
     QApplication* myApplication;
     DtCodeGenInitializer& myInitializer;

@@ -1,0 +1,28 @@
+#ifndef CODE_GEN_APP_MODEL_LOADING_H
+#define CODE_GEN_APP_MODEL_LOADING_H
+
+#include "foundation/filename.h"
+#include "foundation/fomType.h"
+
+#include <memory>
+#include <vector>
+
+class DtOMTTree;
+
+// Puts the standard management model of the files' format behind them, unless one of them is one. For several files
+// that are read as one model; a single file has it ahead.
+void DtAddMimIfMissing(std::vector<DtFilename>& files);
+
+// A model that was read without a window.
+struct DtLoadedModel
+{
+    std::unique_ptr<DtOMTTree> tree; // null when the reading failed; the reason went to DtWarn
+    std::vector<DtFilename> files;   // as they were read, the management model among them where it was added
+    DtFomType type = DtFomUnknown;   // of the first of the given files
+};
+
+// Reads files as one model, as the window does, with the management model added if wanted. The mapper does not learn
+// the model's datatypes here.
+DtLoadedModel DtLoadModel(const std::vector<DtFilename>& files, bool includeMim);
+
+#endif

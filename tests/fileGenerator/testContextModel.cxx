@@ -118,6 +118,69 @@ const char theClasses[] =
     "<interactionClass><name>Whistle</name></interactionClass>"
     "</interactionClass></interactionClass></interactions>";
 
+// The keys of each list but the two identifiers at its end. "(Id)" is a text with an identifier beside it and "(t)" one
+// without; both have safe forms. "(l)" is a list.
+const char theRootKeys[] =
+    "NumRepresentations Representations(l) NumSimpleDatatypes SimpleDatatypes(l) NumComplexDatatypes "
+    "ComplexDatatypes(l) NumEnumerations Enumerations(l) NumArrays Arrays(l) NumFixedRecords FixedRecords(l) "
+    "NumVariantRecords VariantRecords(l) NumObjects Objects(l) NumInteractions Interactions(l) "
+    "FomDefinitionFileName(t) Namespace(t) Include(t) Prefix(t) BaseName(t) MIMincluded TemplateDir(t) "
+    "Language(t) Protocol SolutionUUID1 SolutionUUID2 ProjectUUID1 ProjectUUID2";
+const char theRepresentationsKeys[] =
+    "RepresentationName(t) RepresentationEncoding(t) RepresentationEndian(t) RepresentationInterpretation(t) "
+    "RepresentationNote(t) RepresentationSize(t) RepresentationBoundary RepresentationType(t)";
+const char theSimpleDatatypesKeys[] =
+    "SimpleName(t) SimpleType(t) SimpleRepresentation(t) SimpleBoundary SimpleUnits(t) SimpleAccuracy(t) "
+    "SimpleResolution(t) SimpleDescription(t)";
+const char theComplexDatatypesKeys[] = "ComplexName(Id) ComplexNote(t) NumComponents Components(l)";
+const char theComponentsKeys[] =
+    "ComponentName(Id) ComponentAccuracy(t) ComponentAccuracyCondition(t) ComponentCardinality(t) "
+    "ComponentCardinalityMaximum ComponentCardinalityMinimum ComponentCardinalityType "
+    "ComponentConditional(t) ComponentConditionalValue(t) ComponentNote(t) ComponentKind "
+    "ComponentRepresentation(t) ComponentType(t) ComponentIsSimple ComponentBoundary";
+const char theEnumerationsKeys[] =
+    "EnumerationName(Id) EnumerationDescription(t) EnumerationNote(t) EnumerationRepresentation(Id) "
+    "EnumerationBoundary EnumerationType(t) NumEnumerators Enumerators(l)";
+const char theArraysKeys[] =
+    "ArrayName(Id) ArrayEncoding(Id) ArrayDatatype(Id) ArrayCardinality(t) ArrayCardinalityMin "
+    "ArrayCardinalityMax ArrayDescription(t) ArrayNote(t) ArrayPadding ArrayKind ArrayRepresentation(t) "
+    "ArrayType(t) ArrayIsSimple ArrayBoundary";
+const char theFixedRecordsKeys[] =
+    "FixedRecName(Id) FixedRecEncoding(Id) FixedRecDescription(t) FixedRecNote(t) FixedBoundary NumFields "
+    "Fields(l)";
+const char theFieldsKeys[] =
+    "FieldName(Id) FieldDatatype(Id) FieldDescription(t) FieldNote(t) FieldKind FieldRepresentation(t) "
+    "FieldType(t) FieldIsSimple FieldBoundary";
+const char theVariantRecordsKeys[] =
+    "VariantName(Id) VariantEncoding(Id) VariantDiscriminant(Id) VariantDatatype(Id) VariantBoundary "
+    "VariantDescription(t) VariantNote(t) VariantPadding VariantKind VariantRepresentation(t) VariantType(t) "
+    "VariantIsSimple NumAlternatives Alternatives(l)";
+const char theAlternativesKeys[] =
+    "AlternativeName(Id) AlternativeEnumerator(Id) AlternativeDatatype(Id) AlternativeDescription(t) "
+    "AlternativeNote(t) AlternativeKind AlternativeRepresentation(t) AlternativeType(t) AlternativeIsSimple "
+    "AlternativeBoundary";
+const char theObjectsKeys[] =
+    "NumAttributes Attributes(l) ObjectFullName(t) ObjectName(Id) ObjectDescriptor(t) ObjectNote(t) "
+    "ObjectSharing(t) ObjectUniqueId(t) ObjectParentFullName(t) ObjectParentName(t) ObjectParentUniqueId(t)";
+const char theAttributesKeys[] =
+    "AttributeAccuracy(t) AttributeAccuracyCondition(t) AttributeCardinality(t) AttributeCardinalityMax "
+    "AttributeCardinalityMin AttributeCardinalityType AttributeDatatype(Id) AttributeDescription(t) "
+    "AttributeFullName(t) AttributeName(Id) AttributeNote(t) AttributeOrder(t) AttributeSharing(t) "
+    "AttributeTransferAccept(t) AttributeTransportation(t) AttributeUpdateCondition(t) "
+    "AttributeUpdateType(t) AttributeKind AttributeRepresentation(t) AttributeType(t) AttributeIsSimple "
+    "AttributeBoundary NumDimensions AttributeDimensions(l)";
+const char theInteractionsKeys[] =
+    "NumParameters Parameters(l) InteractionFullName(t) InteractionName(Id) InteractionDescriptor(t) "
+    "InteractionNote(t) InteractionSharing(t) InteractionOrder(t) InteractionTransportation(t) "
+    "InteractionUniqueId(t) NumDimensions InteractionDimensions(l) InteractionParentFullName(t) "
+    "InteractionParentName(t) InteractionParentUniqueId(t)";
+const char theParametersKeys[] =
+    "ParameterAccuracy(t) ParameterAccuracyCondition(t) ParameterCardinality(t) ParameterCardinalityMax "
+    "ParameterCardinalityMin ParameterCardinalityType ParameterDatatype(t) ParameterDescription(t) "
+    "ParameterFullName(t) ParameterName(t) ParameterNameId ParameterNote(t) ParameterOrder(t) "
+    "ParameterSharing(t) ParameterTransportation(t) ParameterKind ParameterRepresentation(t) "
+    "ParameterType(t) ParameterIsSimple ParameterBoundary";
+
 QByteArray objects(const QByteArray& content)
 {
     return "<objects><objectClass><name>HLAobjectRoot</name>" + content + "</objectClass></objects>";
@@ -204,90 +267,36 @@ void TestContextModel::setType(const char* name, const char* type)
     myWriter->executeCommandLine_prepare(DtString("setDatatype \"") + name + "\" \"" + type + "\"");
 }
 
-// "(Id)" is a text with an identifier beside it and "(t)" one without; both have safe forms. "(l)" is a list.
 void TestContextModel::keysAreThese_data()
 {
     QTest::addColumn<QString>("list");
     QTest::addColumn<QString>("keys");
-    QTest::newRow("root")
-        << ""
-        << "NumRepresentations Representations(l) NumSimpleDatatypes SimpleDatatypes(l) "
-           "NumComplexDatatypes ComplexDatatypes(l) NumEnumerations Enumerations(l) NumArrays Arrays(l) "
-           "NumFixedRecords FixedRecords(l) NumVariantRecords VariantRecords(l) NumObjects Objects(l) "
-           "NumInteractions Interactions(l) FomDefinitionFileName(t) Namespace(t) Include(t) Prefix(t) "
-           "BaseName(t) MIMincluded TemplateDir(t) Language(t) Protocol SolutionUUID1 SolutionUUID2 "
-           "ProjectUUID1 ProjectUUID2 UUID1 UUID2";
-    QTest::newRow("representations")
-        << "Representations"
-        << "RepresentationName(t) RepresentationEncoding(t) RepresentationEndian(t) RepresentationInterpretation(t) "
-           "RepresentationNote(t) RepresentationSize(t) RepresentationBoundary RepresentationType(t) UUID1 UUID2";
-    QTest::newRow("simple") << "SimpleDatatypes"
-                            << "SimpleName(t) SimpleType(t) SimpleRepresentation(t) SimpleBoundary SimpleUnits(t) "
-                               "SimpleAccuracy(t) SimpleResolution(t) SimpleDescription(t) UUID1 UUID2";
-    QTest::newRow("complex") << "ComplexDatatypes"
-                             << "ComplexName(Id) ComplexNote(t) NumComponents Components(l) UUID1 UUID2";
-    QTest::newRow("components") << "Components"
-                                << "ComponentName(Id) ComponentAccuracy(t) ComponentAccuracyCondition(t) "
-                                   "ComponentCardinality(t) ComponentCardinalityMaximum ComponentCardinalityMinimum "
-                                   "ComponentCardinalityType ComponentConditional(t) ComponentConditionalValue(t) "
-                                   "ComponentNote(t) ComponentKind ComponentRepresentation(t) ComponentType(t) "
-                                   "ComponentIsSimple ComponentBoundary UUID1 UUID2";
-    QTest::newRow("enumerations") << "Enumerations"
-                                  << "EnumerationName(Id) EnumerationDescription(t) EnumerationNote(t) "
-                                     "EnumerationRepresentation(Id) EnumerationBoundary EnumerationType(t) "
-                                     "NumEnumerators Enumerators(l) UUID1 UUID2";
-    QTest::newRow("enumerators") << "Enumerators"
-                                 << "EnumeratorName(Id) EnumeratorValue UUID1 UUID2";
-    QTest::newRow("arrays") << "Arrays"
-                            << "ArrayName(Id) ArrayEncoding(Id) ArrayDatatype(Id) ArrayCardinality(t) "
-                               "ArrayCardinalityMin ArrayCardinalityMax ArrayDescription(t) ArrayNote(t) ArrayPadding "
-                               "ArrayKind ArrayRepresentation(t) ArrayType(t) ArrayIsSimple ArrayBoundary UUID1 UUID2";
-    QTest::newRow("fixed") << "FixedRecords"
-                           << "FixedRecName(Id) FixedRecEncoding(Id) FixedRecDescription(t) FixedRecNote(t) "
-                              "FixedBoundary NumFields Fields(l) UUID1 UUID2";
-    QTest::newRow("fields") << "Fields"
-                            << "FieldName(Id) FieldDatatype(Id) FieldDescription(t) FieldNote(t) FieldKind "
-                               "FieldRepresentation(t) FieldType(t) FieldIsSimple FieldBoundary UUID1 UUID2";
-    QTest::newRow("variant") << "VariantRecords"
-                             << "VariantName(Id) VariantEncoding(Id) VariantDiscriminant(Id) VariantDatatype(Id) "
-                                "VariantBoundary VariantDescription(t) VariantNote(t) VariantPadding VariantKind "
-                                "VariantRepresentation(t) VariantType(t) VariantIsSimple NumAlternatives "
-                                "Alternatives(l) UUID1 UUID2";
-    QTest::newRow("alternatives")
-        << "Alternatives"
-        << "AlternativeName(Id) AlternativeEnumerator(Id) AlternativeDatatype(Id) AlternativeDescription(t) "
-           "AlternativeNote(t) AlternativeKind AlternativeRepresentation(t) AlternativeType(t) AlternativeIsSimple "
-           "AlternativeBoundary UUID1 UUID2";
-    QTest::newRow("objects") << "Objects"
-                             << "NumAttributes Attributes(l) ObjectFullName(t) ObjectName(Id) ObjectDescriptor(t) "
-                                "ObjectNote(t) ObjectSharing(t) ObjectUniqueId(t) ObjectParentFullName(t) "
-                                "ObjectParentName(t) ObjectParentUniqueId(t) UUID1 UUID2";
-    QTest::newRow("attributes")
-        << "Attributes"
-        << "AttributeAccuracy(t) AttributeAccuracyCondition(t) AttributeCardinality(t) AttributeCardinalityMax "
-           "AttributeCardinalityMin AttributeCardinalityType AttributeDatatype(Id) AttributeDescription(t) "
-           "AttributeFullName(t) AttributeName(Id) AttributeNote(t) AttributeOrder(t) AttributeSharing(t) "
-           "AttributeTransferAccept(t) AttributeTransportation(t) AttributeUpdateCondition(t) AttributeUpdateType(t) "
-           "AttributeKind AttributeRepresentation(t) AttributeType(t) AttributeIsSimple AttributeBoundary "
-           "NumDimensions "
-           "AttributeDimensions(l) UUID1 UUID2";
-    QTest::newRow("attribute dimensions") << "AttributeDimensions"
-                                          << "Dimension(t) UUID1 UUID2";
-    QTest::newRow("interactions")
-        << "Interactions"
-        << "NumParameters Parameters(l) InteractionFullName(t) InteractionName(Id) InteractionDescriptor(t) "
-           "InteractionNote(t) InteractionSharing(t) InteractionOrder(t) InteractionTransportation(t) "
-           "InteractionUniqueId(t) NumDimensions InteractionDimensions(l) InteractionParentFullName(t) "
-           "InteractionParentName(t) InteractionParentUniqueId(t) UUID1 UUID2";
-    QTest::newRow("parameters")
-        << "Parameters"
-        << "ParameterAccuracy(t) ParameterAccuracyCondition(t) ParameterCardinality(t) ParameterCardinalityMax "
-           "ParameterCardinalityMin ParameterCardinalityType ParameterDatatype(t) ParameterDescription(t) "
-           "ParameterFullName(t) ParameterName(t) ParameterNameId ParameterNote(t) ParameterOrder(t) "
-           "ParameterSharing(t) ParameterTransportation(t) ParameterKind ParameterRepresentation(t) ParameterType(t) "
-           "ParameterIsSimple ParameterBoundary UUID1 UUID2";
-    QTest::newRow("interaction dimensions") << "InteractionDimensions"
-                                            << "Dimension(t) UUID1 UUID2";
+    const struct
+    {
+        const char* name;
+        QString list, keys;
+    } theRows[] = {
+        {"root",                   "",                      theRootKeys                         },
+        {"representations",        "Representations",       theRepresentationsKeys              },
+        {"simple",                 "SimpleDatatypes",       theSimpleDatatypesKeys              },
+        {"complex",                "ComplexDatatypes",      theComplexDatatypesKeys             },
+        {"components",             "Components",            theComponentsKeys                   },
+        {"enumerations",           "Enumerations",          theEnumerationsKeys                 },
+        {"enumerators",            "Enumerators",           "EnumeratorName(Id) EnumeratorValue"},
+        {"arrays",                 "Arrays",                theArraysKeys                       },
+        {"fixed",                  "FixedRecords",          theFixedRecordsKeys                 },
+        {"fields",                 "Fields",                theFieldsKeys                       },
+        {"variant",                "VariantRecords",        theVariantRecordsKeys               },
+        {"alternatives",           "Alternatives",          theAlternativesKeys                 },
+        {"objects",                "Objects",               theObjectsKeys                      },
+        {"attributes",             "Attributes",            theAttributesKeys                   },
+        {"attribute dimensions",   "AttributeDimensions",   "Dimension(t)"                      },
+        {"interactions",           "Interactions",          theInteractionsKeys                 },
+        {"parameters",             "Parameters",            theParametersKeys                   },
+        {"interaction dimensions", "InteractionDimensions", "Dimension(t)"                      },
+    };
+    for (const auto& row : theRows)
+        QTest::newRow(row.name) << row.list << row.keys + " UUID1 UUID2";
 }
 
 void TestContextModel::keysAreThese()
@@ -619,15 +628,22 @@ void TestContextModel::arraysTellTheirPadding_data()
     QTest::addColumn<QByteArray>("datatype");
     QTest::addColumn<QByteArray>("encoding");
     QTest::addColumn<QString>("values");
-    QTest::newRow("large elements") << QByteArray("Int64") << QByteArray("HLAvariableArray")
-                                    << "ArrayPadding=4 ArrayBoundary=8 ArrayCardinalityMin=0 ArrayCardinalityMax=-1";
-    QTest::newRow("elements like the count")
-        << QByteArray("Int32") << QByteArray("HLAvariableArray")
-        << "ArrayPadding=none ArrayBoundary=4 ArrayCardinalityMin=0 ArrayCardinalityMax=-1";
-    QTest::newRow("octets") << QByteArray("HLAoctet") << QByteArray("HLAvariableArray")
-                            << "ArrayPadding=none ArrayBoundary=1 ArrayCardinalityMin=0 ArrayCardinalityMax=-1";
-    QTest::newRow("fixed") << QByteArray("Int64") << QByteArray("HLAfixedArray")
-                           << "ArrayPadding=none ArrayBoundary=8 ArrayCardinalityMin=5 ArrayCardinalityMax=5";
+    const struct
+    {
+        const char* name;
+        QByteArray datatype, encoding;
+        const char* padding;
+        int boundary, minimum, maximum;
+    } theRows[] = {
+        {"large elements",          "Int64",    "HLAvariableArray", "4",    8, 0, -1},
+        {"elements like the count", "Int32",    "HLAvariableArray", "none", 4, 0, -1},
+        {"octets",                  "HLAoctet", "HLAvariableArray", "none", 1, 0, -1},
+        {"fixed",                   "Int64",    "HLAfixedArray",    "none", 8, 5, 5 },
+    };
+    const QString values = "ArrayPadding=%1 ArrayBoundary=%2 ArrayCardinalityMin=%3 ArrayCardinalityMax=%4";
+    for (const auto& row : theRows)
+        QTest::newRow(row.name) << row.datatype << row.encoding
+                                << values.arg(row.padding).arg(row.boundary).arg(row.minimum).arg(row.maximum);
 }
 
 void TestContextModel::arraysTellTheirPadding()

@@ -237,12 +237,18 @@ void TestDataTypeMapper::boundariesOfLocalTypes_data()
 {
     QTest::addColumn<QByteArray>("names");
     QTest::addColumn<unsigned int>("boundary");
-    QTest::newRow("1") << QByteArray("DtU8 DtInt8 bool DtString DtGlobalObjectDesignator") << 1U;
-    QTest::newRow("2") << QByteArray("DtU16 DtInt16 DtEntityType DtEntityIdentifier") << 2U;
-    QTest::newRow("4") << QByteArray("DtU32 DtInt32 DtFloat32 DtVector32 DtVector DtTaitBryan DtHlaLogicalTime "
-                                     "DtHlaLogicalTimeInterval")
-                       << 4U;
-    QTest::newRow("8") << QByteArray("DtU64 DtInt64 DtFloat64 DtVector64") << 8U;
+    const struct
+    {
+        unsigned int boundary;
+        QByteArray names;
+    } theRows[] = {
+        {1, "DtU8 DtInt8 bool DtString DtGlobalObjectDesignator"                                               },
+        {2, "DtU16 DtInt16 DtEntityType DtEntityIdentifier"                                                    },
+        {4, "DtU32 DtInt32 DtFloat32 DtVector32 DtVector DtTaitBryan DtHlaLogicalTime DtHlaLogicalTimeInterval"},
+        {8, "DtU64 DtInt64 DtFloat64 DtVector64"                                                               },
+    };
+    for (const auto& row : theRows)
+        QTest::newRow(QByteArray::number(row.boundary).constData()) << row.names << row.boundary;
 }
 
 void TestDataTypeMapper::boundariesOfLocalTypes()

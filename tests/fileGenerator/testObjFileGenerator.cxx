@@ -91,6 +91,12 @@ const QStringList theDisTemplates = {
     "dobjDecSource.tlt",  "drefObjHeader.tlt", "drefObjSource.tlt", "drefListHeader.tlt",
     "drefListSource.tlt", "objPduHeader.tlt",  "objPduSource.tlt",  "netObjPduHeader.tlt"};
 
+// The file that the template is for.
+QString fileOf(const QString& templateName)
+{
+    return (theHlaFiles + theDisFiles).at((theHlaTemplates + theDisTemplates).indexOf(templateName));
+}
+
 QStringList sorted(QStringList names)
 {
     names.sort();
@@ -273,35 +279,31 @@ void TestObjFileGenerator::writerBases_data()
     QTest::addColumn<QString>("file");
     QTest::addColumn<QString>("top");
     QTest::addColumn<QString>("below");
-    QTest::newRow("encoder header") << "hobjEncHeader.tlt"
-                                    << "tankEncoderHLA.h"
-                                    << "DtHlaStateEncoder <qx/hlaStateEncoder.h>"
-                                    << "DtVehicleEncoder \"vehicleEncoderHLA.h\"";
-    QTest::newRow("encoder source") << "hobjEncSource.tlt"
-                                    << "tankEncoderHLA.cxx"
-                                    << "DtHlaStateEncoder "
-                                    << "DtVehicleEncoder ";
-    QTest::newRow("decoder header") << "hobjDecHeader.tlt"
-                                    << "tankDecoderHLA.h"
-                                    << "DtHlaStateDecoder <qx/hlaStateDecoder.h>"
-                                    << "DtVehicleDecoder \"vehicleDecoderHLA.h\"";
-    QTest::newRow("decoder source") << "hobjDecSource.tlt"
-                                    << "tankDecoderHLA.cxx"
-                                    << "DtHlaStateDecoder "
-                                    << "DtVehicleDecoder ";
-    QTest::newRow("state header") << "stateRepHeader.tlt"
-                                  << "tankStateRepository.h"
-                                  << "DtStateRepository <qx/stateRepository.h>"
-                                  << "DtVehicleStateRepository \"vehicleStateRepository.h\"";
-    QTest::newRow("state source") << "stateRepSource.tlt"
-                                  << "tankStateRepository.cxx"
-                                  << "DtStateRepository <qx/stateRepository.h>"
-                                  << "DtVehicleStateRepository \"vehicleStateRepository.h\"";
+    const QString encoder = "DtHlaStateEncoder <qx/hlaStateEncoder.h>";
+    const QString decoder = "DtHlaStateDecoder <qx/hlaStateDecoder.h>";
+    const QString state = "DtStateRepository <qx/stateRepository.h>";
+    const QString encoderBelow = "DtVehicleEncoder \"vehicleEncoderHLA.h\"";
+    const QString decoderBelow = "DtVehicleDecoder \"vehicleDecoderHLA.h\"";
+    const QString stateBelow = "DtVehicleStateRepository \"vehicleStateRepository.h\"";
+    const struct
+    {
+        const char* name;
+        QString templateName, file, top, below;
+    } theRows[] = {
+        {"encoder header", "hobjEncHeader.tlt",  "tankEncoderHLA.h",        encoder,              encoderBelow       },
+        {"encoder source", "hobjEncSource.tlt",  "tankEncoderHLA.cxx",      "DtHlaStateEncoder ", "DtVehicleEncoder "},
+        {"decoder header", "hobjDecHeader.tlt",  "tankDecoderHLA.h",        decoder,              decoderBelow       },
+        {"decoder source", "hobjDecSource.tlt",  "tankDecoderHLA.cxx",      "DtHlaStateDecoder ", "DtVehicleDecoder "},
+        {"state header",   "stateRepHeader.tlt", "tankStateRepository.h",   state,                stateBelow         },
+        {"state source",   "stateRepSource.tlt", "tankStateRepository.cxx", state,                stateBelow         },
+    };
+    for (const auto& row : theRows)
+        QTest::newRow(row.name) << row.templateName << row.file << row.top << row.below;
+    const QString none = " ";
     for (const QString name : {"hpubHeader.tlt tankPublisherHLA.h", "hrefObjHeader.tlt reflectedTankHLA.h",
                                "hrefListSource.tlt reflectedTankListHLA.cxx", "dpubHeader.tlt tankPublisherDIS.h",
                                "refListHeader.tlt reflectedTankList.h", "refObjHeader.tlt reflectedTank.h"})
-        QTest::newRow(qPrintable(name)) << name.section(' ', 0, 0) << name.section(' ', 1) << " "
-                                        << " ";
+        QTest::newRow(qPrintable(name)) << name.section(' ', 0, 0) << name.section(' ', 1) << none << none;
 }
 
 void TestObjFileGenerator::writerBases()
@@ -329,34 +331,26 @@ void TestObjFileGenerator::ownTokens_data()
     QTest::addColumn<QString>("file");
     QTest::addColumn<QString>("text");
     QTest::addColumn<QString>("expected");
-    QTest::newRow("object header") << "hrefObjHeader.tlt"
-                                   << "reflectedTankHLA.h"
-                                   << "<!ObjName!> <!CbName!>"
-                                   << "Tank DtXTankCallbackFunction";
-    QTest::newRow("object source") << "hrefObjSource.tlt"
-                                   << "reflectedTankHLA.cxx"
-                                   << "<!ObjName!> <!CbName!>"
-                                   << "Tank DtXTankCallbackFunction";
-    QTest::newRow("list header") << "hrefListHeader.tlt"
-                                 << "reflectedTankListHLA.h"
-                                 << "<!CbName!> <!ObjName!> <!RefObjName!> <!RefObjHeader!>"
-                                 << "DtXTankCallbackFunction Tank DtReflectedXTank kit/reflectedTankHLA.h";
-    QTest::newRow("list source") << "hrefListSource.tlt"
-                                 << "reflectedTankListHLA.cxx"
-                                 << "<!CbName!> <!ObjName!> <!RefObjName!> <!RefObjHeader!>"
-                                 << "DtXTankCallbackFunction Tank DtReflectedXTank <!RefObjHeader!>";
-    QTest::newRow("list front") << "refListHeader.tlt"
-                                << "reflectedTankList.h"
-                                << "<!HlaRefList!> <!DisRefList!>"
-                                << "reflectedTankListHLA reflectedTankListDIS";
-    QTest::newRow("object front") << "refObjHeader.tlt"
-                                  << "reflectedTank.h"
-                                  << "<!HlaRefObj!> <!DisRefObj!>"
-                                  << "reflectedTankHLA reflectedTankDIS";
-    QTest::newRow("publisher knows none") << "hpubHeader.tlt"
-                                          << "tankPublisherHLA.h"
-                                          << "<!ObjName!>"
-                                          << "<!ObjName!>";
+    const QString ofObject = "<!ObjName!> <!CbName!>";
+    const QString ofList = "<!CbName!> <!ObjName!> <!RefObjName!> <!RefObjHeader!>";
+    const QString ofListFront = "<!HlaRefList!> <!DisRefList!>";
+    const QString ofObjectFront = "<!HlaRefObj!> <!DisRefObj!>";
+    const QString listNames = "DtXTankCallbackFunction Tank DtReflectedXTank ";
+    const struct
+    {
+        const char* name;
+        QString templateName, text, expected;
+    } theRows[] = {
+        {"object header",        "hrefObjHeader.tlt",  ofObject,      "Tank DtXTankCallbackFunction"             },
+        {"object source",        "hrefObjSource.tlt",  ofObject,      "Tank DtXTankCallbackFunction"             },
+        {"list header",          "hrefListHeader.tlt", ofList,        listNames + "kit/reflectedTankHLA.h"       },
+        {"list source",          "hrefListSource.tlt", ofList,        listNames + "<!RefObjHeader!>"             },
+        {"list front",           "refListHeader.tlt",  ofListFront,   "reflectedTankListHLA reflectedTankListDIS"},
+        {"object front",         "refObjHeader.tlt",   ofObjectFront, "reflectedTankHLA reflectedTankDIS"        },
+        {"publisher knows none", "hpubHeader.tlt",     "<!ObjName!>", "<!ObjName!>"                              },
+    };
+    for (const auto& row : theRows)
+        QTest::newRow(row.name) << row.templateName << fileOf(row.templateName) << row.text << row.expected;
 }
 
 void TestObjFileGenerator::ownTokens()

@@ -341,21 +341,25 @@ void TestEnvXml::xmlTextDecodesStrictly_data()
 {
     QTest::addColumn<QByteArray>("text");
     QTest::addColumn<QByteArray>("expected");
-    QTest::newRow("ASCII") << QByteArray("a\tb\n") << QByteArray("a\tb\n");
-    QTest::newRow("valid") << QByteArray("\xc3\xa4\xf0\x9f\x98\x80") << QByteArray("\xc3\xa4\xf0\x9f\x98\x80");
-    QTest::newRow("overlong") << QByteArray("\xc0\xaf") << QByteArray("\xc3\x80\xc2\xaf");
-    QTest::newRow("overlong, three bytes") << QByteArray("\xe0\x80\xaf") << QByteArray("\xc3\xa0\xc2\x80\xc2\xaf");
-    QTest::newRow("overlong, four bytes")
-        << QByteArray("\xf0\x80\x80\xaf") << QByteArray("\xc3\xb0\xc2\x80\xc2\x80\xc2\xaf");
-    QTest::newRow("surrogate") << QByteArray("\xed\xa0\x80") << QByteArray("\xc3\xad\xc2\xa0\xc2\x80");
-    QTest::newRow("beyond the last") << QByteArray("\xf4\x90\x80\x80")
-                                     << QByteArray("\xc3\xb4\xc2\x90\xc2\x80\xc2\x80");
-    QTest::newRow("cut off") << QByteArray("a\xe2\x82") << QByteArray("a\xc3\xa2\xc2\x82");
-    QTest::newRow("lone continuation") << QByteArray("\x80") << QByteArray("\xc2\x80");
-    QTest::newRow("no character") << QByteArray("a\xef\xbf\xbe"
-                                                "b")
-                                  << QByteArray("ab");
-    QTest::newRow("control characters") << QByteArray("\x01\x7f") << QByteArray("\x7f");
+    const struct
+    {
+        const char* name;
+        QByteArray text, expected;
+    } theRows[] = {
+        {"ASCII",                 "a\tb\n",                   "a\tb\n"                          },
+        {"valid",                 "\xc3\xa4\xf0\x9f\x98\x80", "\xc3\xa4\xf0\x9f\x98\x80"        },
+        {"overlong",              "\xc0\xaf",                 "\xc3\x80\xc2\xaf"                },
+        {"overlong, three bytes", "\xe0\x80\xaf",             "\xc3\xa0\xc2\x80\xc2\xaf"        },
+        {"overlong, four bytes",  "\xf0\x80\x80\xaf",         "\xc3\xb0\xc2\x80\xc2\x80\xc2\xaf"},
+        {"surrogate",             "\xed\xa0\x80",             "\xc3\xad\xc2\xa0\xc2\x80"        },
+        {"beyond the last",       "\xf4\x90\x80\x80",         "\xc3\xb4\xc2\x90\xc2\x80\xc2\x80"},
+        {"cut off",               "a\xe2\x82",                "a\xc3\xa2\xc2\x82"               },
+        {"lone continuation",     "\x80",                     "\xc2\x80"                        },
+        {"no character",          "a\xef\xbf\xbez",           "az"                              },
+        {"control characters",    "\x01\x7f",                 "\x7f"                            },
+    };
+    for (const auto& row : theRows)
+        QTest::newRow(row.name) << row.text << row.expected;
 }
 
 void TestEnvXml::xmlTextDecodesStrictly()

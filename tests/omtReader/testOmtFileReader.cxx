@@ -118,15 +118,17 @@ private Q_SLOTS:
     {
         QTest::addColumn<QByteArray>("name");
         QTest::addColumn<QByteArray>("read");
-        QTest::newRow("Latin-1") << QByteArray("Fl\xe9"
-                                               "che")
-                                 << QByteArray("Fl\xc3\xa9"
-                                               "che");
-        QTest::newRow("UTF-8") << QByteArray("Fl\xc3\xa9"
-                                             "che")
-                               << QByteArray("Fl\xc3\xa9"
-                                             "che");
-        QTest::newRow("ASCII") << QByteArray("Fleche") << QByteArray("Fleche");
+        const struct
+        {
+            const char* name;
+            QByteArray text, read;
+        } theRows[] = {
+            {"Latin-1", "M\xe9tro",     "M\xc3\xa9tro"},
+            {"UTF-8",   "M\xc3\xa9tro", "M\xc3\xa9tro"},
+            {"ASCII",   "Metro",        "Metro"       },
+        };
+        for (const auto& row : theRows)
+            QTest::newRow(row.name) << row.text << row.read;
     }
     void textsAreTakenToUtf8()
     {

@@ -25,6 +25,111 @@ QString referencesOf(const QByteArray& reference)
         texts += toQt(entry.type) + "|" + toQt(entry.identification);
     return texts.join(';');
 }
+// A model's only datatype.
+QByteArray data(const QByteArray& kind, const QByteArray& content)
+{
+    const QByteArray group = kind == "basicData" ? QByteArray("basicDataRepresentations") : kind + "Types";
+    return "<dataTypes><" + group + "><" + kind + ">" + content + "</" + kind + "></" + group + "></dataTypes>";
+}
+
+// A section that holds one element without content.
+QByteArray sectionOf(const QByteArray& element)
+{
+    return "<" + element + "s><" + element + "/></" + element + "s>";
+}
+
+QString missing(const char* element, const char* what = "name")
+{
+    return QString("Warning: %1 definition was missing a %2\n").arg(element, what);
+}
+
+void addElementsWithoutTheirName()
+{
+    const QByteArray objectClasses = "<objectClass><name/><objectClass><name/></objectClass></objectClass>";
+    const QByteArray interactionClass = "<interactionClass><name/></interactionClass>";
+    const struct
+    {
+        const char* name;
+        QByteArray sections;
+        const char *element, *what;
+    } theRows[] = {
+        {"object class",      objects(objectClasses),                         "objectClass",      "name" },
+        {"attribute",         objects("<attribute><name/></attribute>"),      "attribute",        "name" },
+        {"interaction class", interactions(interactionClass),                 "interactionClass", "name" },
+        {"parameter",         interactions("<parameter><name/></parameter>"), "parameter",        "name" },
+        {"dimension",         sectionOf("dimension"),                         "dimension",        "name" },
+        {"synchronization",   sectionOf("synchronization"),                   "synchronization",  "label"},
+        {"updateRate",        sectionOf("updateRate"),                        "updateRate",       "name" },
+    };
+    for (const auto& row : theRows)
+        QTest::newRow(row.name) << row.sections << missing(row.element, row.what);
+}
+
+void addDatatypesWithoutTheirName()
+{
+    const struct
+    {
+        const char* name;
+        QByteArray kind, content;
+        const char* element;
+    } theRows[] = {
+        {"simpleData",        "simpleData",        "",                            "simpleData"           },
+        {"arrayData",         "arrayData",         "<name/>",                     "arrayData"            },
+        {"fixedRecordData",   "fixedRecordData",   "",                            "fixedRecordData"      },
+        {"field",             "fixedRecordData",   "<name>a</name><field/>",      "fixedRecordData field"},
+        {"basicData",         "basicData",         "",                            "basicData"            },
+        {"variantRecordData", "variantRecordData", "",                            "variantRecordData"    },
+        {"enumeratedData",    "enumeratedData",    "<enumerator/>",               "enumeratedData"       },
+        {"enumerator",        "enumeratedData",    "<name>a</name><enumerator/>", "enumerator"           },
+    };
+    for (const auto& row : theRows)
+        QTest::newRow(row.name) << data(row.kind, row.content) << missing(row.element);
+}
+
+// The section of interactions that is like this one of objects.
+QByteArray asInteractions(QByteArray objectSection)
+{
+    return objectSection.replace("object", "interaction");
+}
+
+void addFurtherWarnings()
+{
+    const QByteArray otherTop = "<objects><objectClass><name>X</name></objectClass></objects>";
+    const QByteArray root = "<objectClass><name>HLAobjectRoot</name></objectClass>";
+    const QByteArray rootBelow = "<objects><objectClass>" + root + "</objectClass></objects>";
+    const QByteArray twoTops = "<objects>" + root + "<objectClass/></objects>";
+    const QByteArray droppedTop = "<objects><objectClass><name/></objectClass></objects>";
+    const QByteArray alternative = data("variantRecordData", "<name>a</name><alternative/>");
+    const QByteArray others = sectionOf("note") + sectionOf("transportation") + "<tags><updateReflectTag/></tags>";
+    const QString noRoot("Warning: HLAobjectRoot is missing from 1516 Evolved XML file\n");
+    const QString noInteractionRoot("Warning: HLAinteractionRoot is missing from 1516 Evolved XML file\n");
+    // Tells of a wrong root of the objects too.
+    const QString wrongRoot("Warning: Interaction root is not \"HLAinteractionRoot\" in 1516 Evolved XML file\n");
+    const QString additional("Warning: Additional %1 node found at the root level when parsing 1516 Evolved XML file "
+                             "has been ignored.\n");
+    const struct
+    {
+        const char* name;
+        QByteArray sections;
+        QString expected;
+    } theRows[] = {
+        {"no classes",                   "<objects/><interactions/>",           noRoot + noInteractionRoot     },
+        {"other top class",              otherTop,                              noRoot                         },
+        {"other top interaction",        asInteractions(otherTop),              noInteractionRoot              },
+        {"wrong object root",            rootBelow,                             wrongRoot                      },
+        {"wrong interaction root",       asInteractions(rootBelow),             wrongRoot                      },
+        {"second object root",           twoTops,                               additional.arg("object")       },
+        {"second interaction root",      asInteractions(twoTops),               additional.arg("interaction")  },
+        {"second section of objects",    objects("") + objects(""),             wrongRoot                      },
+        {"dropped top class",            droppedTop,                            missing("objectClass") + noRoot},
+        {"class without a name element", objects("<objectClass/><attribute/>"), ""                             },
+        {"alternative",                  alternative,                           ""                             },
+        {"note, transportation and tag", others,                                ""                             },
+        {"no sections",                  "",                                    ""                             },
+    };
+    for (const auto& row : theRows)
+        QTest::newRow(row.name) << row.sections << row.expected;
+}
 } // namespace
 
 class TestXmlEvolvedFileReader : public QObject
@@ -145,75 +250,9 @@ private Q_SLOTS:
     {
         QTest::addColumn<QByteArray>("sections");
         QTest::addColumn<QString>("expected");
-        const auto data = [](const char* group, const char* item)
-        { return QByteArray("<dataTypes><") + group + ">" + item + "</" + group + "></dataTypes>"; };
-        const auto missing = [](const char* element, const char* what = "name")
-        { return QString("Warning: %1 definition was missing a %2\n").arg(element, what); };
-        const QString noRoot("Warning: HLAobjectRoot is missing from 1516 Evolved XML file\n");
-        const QString noInteractionRoot("Warning: HLAinteractionRoot is missing from 1516 Evolved XML file\n");
-        const QString wrongRoot("Warning: Interaction root is not \"HLAinteractionRoot\" in 1516 Evolved XML file\n");
-        const QByteArray nameless = "<name/>";
-
-        QTest::newRow("no classes") << QByteArray("<objects/><interactions/>") << noRoot + noInteractionRoot;
-        QTest::newRow("other top class") << QByteArray("<objects><objectClass><name>X</name></objectClass></objects>")
-                                         << noRoot;
-        QTest::newRow("wrong object root")
-            << QByteArray("<objects><objectClass><objectClass><name>HLAobjectRoot</name></objectClass></objectClass>"
-                          "</objects>")
-            << wrongRoot; // in the words of the interactions
-        QTest::newRow("wrong interaction root")
-            << QByteArray("<interactions><interactionClass><interactionClass><name>HLAinteractionRoot</name>"
-                          "</interactionClass></interactionClass></interactions>")
-            << wrongRoot;
-        QTest::newRow("second object root")
-            << QByteArray("<objects><objectClass><name>HLAobjectRoot</name></objectClass><objectClass/></objects>")
-            << QString("Warning: Additional object node found at the root level when parsing 1516 Evolved XML file "
-                       "has been ignored.\n");
-        QTest::newRow("second interaction root")
-            << QByteArray("<interactions><interactionClass><name>HLAinteractionRoot</name></interactionClass>"
-                          "<interactionClass/></interactions>")
-            << QString("Warning: Additional interaction node found at the root level when parsing 1516 Evolved XML "
-                       "file has been ignored.\n");
-        QTest::newRow("object class") << objects("<objectClass><name/><objectClass><name/></objectClass></objectClass>")
-                                      << missing("objectClass");
-        QTest::newRow("attribute") << objects("<attribute>" + nameless + "</attribute>") << missing("attribute");
-        QTest::newRow("interaction class")
-            << interactions("<interactionClass>" + nameless + "</interactionClass>") << missing("interactionClass");
-        QTest::newRow("parameter") << interactions("<parameter>" + nameless + "</parameter>") << missing("parameter");
-        QTest::newRow("class without a name element") << objects("<objectClass/><attribute/>") << QString();
-        QTest::newRow("simpleData") << data("simpleDataTypes", "<simpleData/>") << missing("simpleData");
-        QTest::newRow("arrayData") << data("arrayDataTypes", "<arrayData><name/></arrayData>") << missing("arrayData");
-        QTest::newRow("fixedRecordData") << data("fixedRecordDataTypes", "<fixedRecordData/>")
-                                         << missing("fixedRecordData");
-        QTest::newRow("field") << data("fixedRecordDataTypes", "<fixedRecordData><name>a</name><field/>"
-                                                               "</fixedRecordData>")
-                               << missing("fixedRecordData field");
-        QTest::newRow("basicData") << data("basicDataRepresentations", "<basicData/>") << missing("basicData");
-        QTest::newRow("variantRecordData")
-            << data("variantRecordDataTypes", "<variantRecordData/>") << missing("variantRecordData");
-        QTest::newRow("alternative") << data("variantRecordDataTypes", "<variantRecordData><name>a</name><alternative/>"
-                                                                       "</variantRecordData>")
-                                     << QString();
-        QTest::newRow("enumeratedData") << data("enumeratedDataTypes", "<enumeratedData><enumerator/></enumeratedData>")
-                                        << missing("enumeratedData");
-        QTest::newRow("enumerator") << data("enumeratedDataTypes", "<enumeratedData><name>a</name><enumerator/>"
-                                                                   "</enumeratedData>")
-                                    << missing("enumerator");
-        QTest::newRow("dimension") << QByteArray("<dimensions><dimension/></dimensions>") << missing("dimension");
-        QTest::newRow("synchronization") << QByteArray("<synchronizations><synchronization/></synchronizations>")
-                                         << missing("synchronization", "label");
-        QTest::newRow("dropped top class")
-            << QByteArray("<objects><objectClass><name/></objectClass></objects>") << missing("objectClass") + noRoot;
-        QTest::newRow("second section of objects") << objects("") + objects("") << wrongRoot;
-        QTest::newRow("other top interaction")
-            << QByteArray("<interactions><interactionClass><name>X</name></interactionClass></interactions>")
-            << noInteractionRoot;
-        QTest::newRow("no sections") << QByteArray() << QString();
-        QTest::newRow("updateRate") << QByteArray("<updateRates><updateRate/></updateRates>") << missing("updateRate");
-        QTest::newRow("note, transportation and tag")
-            << QByteArray("<notes><note/></notes><transportations><transportation/></transportations>"
-                          "<tags><updateReflectTag/></tags>")
-            << QString();
+        addElementsWithoutTheirName();
+        addDatatypesWithoutTheirName();
+        addFurtherWarnings();
     }
 
     void warnings()

@@ -45,14 +45,19 @@ void TestCustomCodeTexts::headerNamesFunction_data()
     QTest::addColumn<QString>("path");
     QTest::addColumn<QString>("encoder");
     QTest::addColumn<QString>("decoder");
-    QTest::newRow("object")
-        << "Objects.Ship"
-        << "bool DtShipEncoder::encodeHeading(const DtShipStateRepository& state, DtWireWriter& writer)"
-        << "bool DtShipDecoder::decodeHeading(DtShipStateRepository& state, DtWireReader& reader)";
-    QTest::newRow("interaction")
-        << "Interactions.Call"
-        << "bool DtCallInterEncoder::encodeText(const DtCallInter& interaction, DtWireWriter& writer)"
-        << "bool DtCallInterDecoder::decodeText(DtCallInter& interaction, DtWireReader& reader)";
+    const struct
+    {
+        const char* name;
+        QString path, coder, attribute, argument;
+    } theRows[] = {
+        {"object",      "Objects.Ship",      "DtShip",      "Heading", "DtShipStateRepository& state"},
+        {"interaction", "Interactions.Call", "DtCallInter", "Text",    "DtCallInter& interaction"    },
+    };
+    const QString encoder = "bool %1Encoder::encode%2(const %3, DtWireWriter& writer)";
+    const QString decoder = "bool %1Decoder::decode%2(%3, DtWireReader& reader)";
+    for (const auto& row : theRows)
+        QTest::newRow(row.name) << row.path << encoder.arg(row.coder, row.attribute, row.argument)
+                                << decoder.arg(row.coder, row.attribute, row.argument);
 }
 
 void TestCustomCodeTexts::headerNamesFunction()

@@ -222,12 +222,19 @@ private Q_SLOTS:
         QTest::addColumn<QByteArray>("wanted");
         QTest::addColumn<QByteArray>("unwanted");
         QTest::addColumn<QByteArray>("key");
-        QTest::newRow("sample") << QString(QX_SOURCE_DIR "/data/samples/sample.xml") << QByteArray("CargoShip")
-                                << QByteArray("Beacon")
-                                << QByteArray("HLAobjectRoot.PortEntity.Vessel.CargoShip.Draught");
-        QTest::newRow("published module")
-            << QString(QX_SHARED_DIR "/models/1516-2010/rpr2/RPR-Base_v2.0.xml") << QByteArray("EmbeddedSystem")
-            << QByteArray("BaseEntity") << QByteArray("HLAobjectRoot.EmbeddedSystem.RelativePosition");
+        const QString sample(QX_SOURCE_DIR "/data/samples/sample.xml");
+        const QString published(QX_SHARED_DIR "/models/1516-2010/rpr2/RPR-Base_v2.0.xml");
+        const struct
+        {
+            const char* name;
+            QString file;
+            QByteArray wanted, unwanted, attribute;
+        } theRows[] = {
+            {"sample",           sample,    "CargoShip",      "Beacon",     "PortEntity.Vessel.CargoShip.Draught"},
+            {"published module", published, "EmbeddedSystem", "BaseEntity", "EmbeddedSystem.RelativePosition"    },
+        };
+        for (const auto& row : theRows)
+            QTest::newRow(row.name) << row.file << row.wanted << row.unwanted << "HLAobjectRoot." + row.attribute;
     }
     void firstHour()
     {

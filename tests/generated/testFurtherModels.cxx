@@ -24,19 +24,28 @@ private Q_SLOTS:
         QTest::addColumn<QStringList>("files");
         QTest::addColumn<QStringList>("notInPython");
         QTest::addColumn<QStringList>("notAtTheStart");
+        const char* const restaurant2025 =
+            "1516-2025/RestaurantFOMmodule-2025.xml 1516-2025/RestaurantExtensionFOMmodule-2025.xml";
+        const QStringList notInPythonOfNetn = words(
+            "QuantityInt32 AggregateStateFormationEnum32 DamageStatusEnum32 ArrayOfSupplyStatus LocationStructArray "
+            "ArrayOfResourceStatus LocationStruct GeodeticCircle SupplyStatusStruct ResourceStatusStruct");
+        const QStringList refusedInNetn = {"GeodeticCircle refused: the model does not define the datatype",
+                                           "LocationStruct refused: the model does not define the datatype"};
         const QStringList none;
-        QTest::newRow("Restaurant") << words("1516-2010/RestaurantFOMmodule.xml") << none << none;
-        QTest::newRow("sine") << words("1516-2010/SineExample.xml") << none << none;
-        QTest::newRow("Restaurant, text") << words("omt13/Restaurant_converted.omt") << none << none;
-        QTest::newRow("Restaurant 2025") << words("1516-2025/RestaurantFOMmodule-2025.xml "
-                                                  "1516-2025/RestaurantExtensionFOMmodule-2025.xml")
-                                         << none << none;
-        QTest::newRow("NETN") << words("1516-2025/NETN-BASE.xml 1516-2025/NETN-MRM.xml")
-                              << words("QuantityInt32 AggregateStateFormationEnum32 DamageStatusEnum32 "
-                                       "ArrayOfSupplyStatus LocationStructArray ArrayOfResourceStatus LocationStruct "
-                                       "GeodeticCircle SupplyStatusStruct ResourceStatusStruct")
-                              << QStringList{"GeodeticCircle refused: the model does not define the datatype",
-                                             "LocationStruct refused: the model does not define the datatype"};
+        const struct
+        {
+            const char* name;
+            const char* files;
+            QStringList notInPython, notAtTheStart;
+        } theRows[] = {
+            {"Restaurant",       "1516-2010/RestaurantFOMmodule.xml",              none,              none         },
+            {"sine",             "1516-2010/SineExample.xml",                      none,              none         },
+            {"Restaurant, text", "omt13/Restaurant_converted.omt",                 none,              none         },
+            {"Restaurant 2025",  restaurant2025,                                   none,              none         },
+            {"NETN",             "1516-2025/NETN-BASE.xml 1516-2025/NETN-MRM.xml", notInPythonOfNetn, refusedInNetn},
+        };
+        for (const auto& row : theRows)
+            QTest::newRow(row.name) << words(row.files) << row.notInPython << row.notAtTheStart;
     }
     void valuesOfFurtherModelsGoThereAndBack()
     {

@@ -51,14 +51,21 @@ private Q_SLOTS:
     {
         QTest::addColumn<QByteArray>("vector");
         QTest::addColumn<QString>("fault");
-        QTest::newRow("octets") << QByteArray("ClockTime | {\"Hour\":6,\"Minute\":30,\"Second\":59} | 061e3c")
-                                << "gives 061e3b";
-        QTest::newRow("value") << QByteArray("Count8 | 1 | 02") << "is decoded to 2";
-        QTest::newRow("cut") << QByteArray(
-                                    "TideMark | {\"At\":{\"Hour\":0,\"Minute\":0,\"Second\":0},\"Level\":0} | 00")
-                             << "the value ends too early";
-        QTest::newRow("rest") << QByteArray("ClockTime | {\"Hour\":6,\"Minute\":30,\"Second\":59} | 061e3b00")
-                              << "1 octet too many";
+        const QByteArray clock = R"(ClockTime | {"Hour":6,"Minute":30,"Second":59} | )";
+        const QByteArray tide = R"(TideMark | {"At":{"Hour":0,"Minute":0,"Second":0},"Level":0} | )";
+        const struct
+        {
+            const char* name;
+            QByteArray vector;
+            QString fault;
+        } theRows[] = {
+            {"octets", clock + "061e3c",   "gives 061e3b"            },
+            {"value",  "Count8 | 1 | 02",  "is decoded to 2"         },
+            {"cut",    tide + "00",        "the value ends too early"},
+            {"rest",   clock + "061e3b00", "1 octet too many"        },
+        };
+        for (const auto& row : theRows)
+            QTest::newRow(row.name) << row.vector << row.fault;
     }
     void faultyVectorsAreNoticed()
     {

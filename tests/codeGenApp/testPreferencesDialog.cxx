@@ -125,31 +125,41 @@ private Q_SLOTS:
     void controlsHaveTheirTexts_data()
     {
         QTest::addColumn<QString>("toolTip");
-        QTest::newRow("Use Namespace")
-            << "Wrap all classes in a namespace. This is particularly useful if the Objects and Interaction names will "
-               "conflict with Quorvex's standard API";
-        QTest::newRow("Create Include Directory") << "";
-        QTest::newRow("Prefix Classnames") << "";
-        QTest::newRow("64-bit Linux Makefile") << "Generated Makefile supporting 64-bit architectures.\n"
-                                                  "If unselected, this will generate a 32-bit architecture.";
-        QTest::newRow("Generate Examples")
-            << "Generate simple talk/listen examples for each Object and Interaction class";
-        QTest::newRow("Map RTIObjectID to DtGlobalObjectDesignator")
-            << "Use the internal Quorvex concept of Global Object Designator for RTI Object names. Checking this will "
-               "produce an interface more consistant with the standard Quorvex API";
-        QTest::newRow("Generate #error for undecodable attributes")
-            << "Use #error in output whenever code can't be generated. If unset, use #include to a user generated "
-               "file. Unsetting this makes it easier to repeatedly generate code.";
-        QTest::newRow("Include HLA Standard MIM")
-            << "Decides whether the Code Generator includes the Standard HLA MIM file (HLAstandardMIM.xml). If an "
-               "HLA1516e FOM is selected, the HLA standard MIM will also be included in the project. This is true by "
-               "default.";
-        QTest::newRow("Generate DIS PDUs")
-            << "If checked, Experimental DIS PDUs will be created for each object and interaction. This is an "
-               "experimental feature and will likely not work for many object classes.";
-        QTest::newRow("Save Parse Tree")
-            << "If Checked, the internal parse tree of the FOM will be saved in the output directory. This is useful "
-               "for debugging if the FOM cannot be generated properly";
+        const QString ofNamespace = "Wrap all classes in a namespace. This is particularly useful if the Objects and "
+                                    "Interaction names will conflict with Quorvex's standard API";
+        const QString ofMakefile = "Generated Makefile supporting 64-bit architectures.\n"
+                                   "If unselected, this will generate a 32-bit architecture.";
+        const QString ofExamples = "Generate simple talk/listen examples for each Object and Interaction class";
+        const QString ofDesignator =
+            "Use the internal Quorvex concept of Global Object Designator for RTI Object names. Checking this will "
+            "produce an interface more consistant with the standard Quorvex API";
+        const QString ofError = "Use #error in output whenever code can't be generated. If unset, use #include to a "
+                                "user generated file. Unsetting this makes it easier to repeatedly generate code.";
+        const QString ofMim = "Decides whether the Code Generator includes the Standard HLA MIM file "
+                              "(HLAstandardMIM.xml). If an HLA1516e FOM is selected, the HLA standard MIM will also be "
+                              "included in the project. This is true by default.";
+        const QString ofPdus = "If checked, Experimental DIS PDUs will be created for each object and interaction. "
+                               "This is an experimental feature and will likely not work for many object classes.";
+        const QString ofParseTree = "If Checked, the internal parse tree of the FOM will be saved in the output "
+                                    "directory. This is useful for debugging if the FOM cannot be generated properly";
+        const struct
+        {
+            const char* name;
+            QString toolTip;
+        } theRows[] = {
+            {"Use Namespace",                               ofNamespace },
+            {"Create Include Directory",                    ""          },
+            {"Prefix Classnames",                           ""          },
+            {"64-bit Linux Makefile",                       ofMakefile  },
+            {"Generate Examples",                           ofExamples  },
+            {"Map RTIObjectID to DtGlobalObjectDesignator", ofDesignator},
+            {"Generate #error for undecodable attributes",  ofError     },
+            {"Include HLA Standard MIM",                    ofMim       },
+            {"Generate DIS PDUs",                           ofPdus      },
+            {"Save Parse Tree",                             ofParseTree },
+        };
+        for (const auto& row : theRows)
+            QTest::newRow(row.name) << row.toolTip;
     }
     void controlsHaveTheirTexts()
     {

@@ -462,27 +462,21 @@ private Q_SLOTS:
         QTest::addColumn<QString>("present"); // files in the scratch directory, each with a class of its own
         QTest::addColumn<QString>("location");
         QTest::addColumn<QString>("expected"); // directory of the file that is read
-        QTest::newRow("location") << "bin/sub/a.xml"
-                                  << "sub/"
-                                  << "sub/";
-        QTest::newRow("location wins over the working directory") << "bin/sub/a.xml bin/a.xml"
-                                                                  << "sub"
-                                                                  << "sub/";
-        QTest::newRow("location wins over the project") << "bin/sub/a.xml work/a.xml"
-                                                        << "sub"
-                                                        << "sub/";
-        QTest::newRow("working directory") << "bin/a.xml work/a.xml"
-                                           << "gone/"
-                                           << "";
-        QTest::newRow("beside the project") << "work/a.xml"
-                                            << "gone/"
-                                            << "%work/";
-        QTest::newRow("below RTI_CONFIG") << "search/a.xml"
-                                          << "gone/"
-                                          << "";
-        QTest::newRow("empty location") << "bin/a.xml"
-                                        << ""
-                                        << "";
+        const struct
+        {
+            const char* name;
+            QString present, location, expected;
+        } theRows[] = {
+            {"location",                                 "bin/sub/a.xml",            "sub/",  "sub/"  },
+            {"location wins over the working directory", "bin/sub/a.xml bin/a.xml",  "sub",   "sub/"  },
+            {"location wins over the project",           "bin/sub/a.xml work/a.xml", "sub",   "sub/"  },
+            {"working directory",                        "bin/a.xml work/a.xml",     "gone/", ""      },
+            {"beside the project",                       "work/a.xml",               "gone/", "%work/"},
+            {"below RTI_CONFIG",                         "search/a.xml",             "gone/", ""      },
+            {"empty location",                           "bin/a.xml",                "",      ""      },
+        };
+        for (const auto& row : theRows)
+            QTest::newRow(row.name) << row.present << row.location << row.expected;
     }
     void modelIsFoundByEachRoad()
     {

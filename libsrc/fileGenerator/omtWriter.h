@@ -167,7 +167,6 @@ private:
     // The command language, in omtWriterCommands.cxx.
     static const Command* findCommand(const DtString& line);
     void run(const Command& command, const DtString& line);
-    static bool isComplete(const Command& command, const Words& words);
     void reportIncomplete(const DtString& line); // once a run
     void runPass(const DtString& path, cmdLineProc handler);
     void includeFile(const DtString& line, cmdLineProc handler);
@@ -211,6 +210,7 @@ private:
     bool myHasMetLimit = false;                                  // in this run of the top file
     bool myHasWarnedOfLimit = false;
     std::set<DtString> myReportedLines; // commands without their arguments
+    std::set<DtString> myReportedFiles; // command files with carriage returns
 };
 
 #endif

@@ -58,16 +58,41 @@ private:
     const DtString myDirectory;
 };
 
-// The next piece of the file that holds a command; false at the end.
-bool readCommand(FILE* file, DtString& line)
+bool endsIn(const DtString& line, char character)
+{
+    return line.length() > 0 && line[line.length() - 1] == character;
+}
+
+// True when nothing is left of the line that was read last but its line feed.
+bool isAtLineEnd(FILE* file)
+{
+    const int next = std::fgetc(file);
+    std::ungetc(next, file);
+    return next == '\n' || next == EOF;
+}
+
+// Takes the line feed off a piece of the file, and one carriage return ahead of it; true when there was one. A piece
+// that is full may end between the two.
+bool takeOffLineEnd(DtString& line, FILE* file)
+{
+    const bool isWhole = endsIn(line, '\n');
+    if (isWhole)
+        line.snipBack('\n');
+    if (!endsIn(line, '\r') || !(isWhole || isAtLineEnd(file)))
+        return false;
+    line.snipBack('\r');
+    return true;
+}
+
+// The next piece of the file that holds a command; false at the end. Notes a carriage return at the end of a line.
+bool readCommand(FILE* file, DtString& line, bool& hasCarriageReturn)
 {
     char buffer[thePieceLength + 1];
     while (std::fgets(buffer, sizeof buffer, file) != nullptr)
     {
         line = buffer;
+        hasCarriageReturn = takeOffLineEnd(line, file) || hasCarriageReturn;
         line.chompFront();
-        if (line.length() > 0 && line[line.length() - 1] == '\n')
-            line.snipBack('\n');
         if (!line.isEmpty() && line[0] != '#')
             return true;
     }
@@ -91,6 +116,7 @@ void DtOMTWriter::execCmdFile(const DtString& path)
     mySavedOutputDirectory = DtFileWriter::outputDirectory();
     myHasWarnedOfLimit = false;
     myReportedLines.clear();
+    myReportedFiles.clear();
     myFileCount = 1;
     meter().reset();
     meter().setTotalMeasure(1);
@@ -117,8 +143,12 @@ void DtOMTWriter::parseCommandFile(const DtString& path, cmdLineProc handler)
         DT_ASSERT(false);
     }
     const DtInsideCommandFile inside(myOpenFiles, path, mySavedOutputDirectory);
-    for (DtString line; readCommand(file.get(), line) && !meter().isCancelled();)
+    bool hasCarriageReturn = false;
+    for (DtString line; readCommand(file.get(), line, hasCarriageReturn) && !meter().isCancelled();)
         (this->*handler)(line);
+    if (hasCarriageReturn && myReportedFiles.insert(path).second)
+        DtWarn << "Command file " << path << ": the carriage returns at the ends of its lines are left out."
+               << std::endl;
 }
 
 void DtOMTWriter::executeCommandLine_prepare(const DtString& line)
@@ -167,8 +197,10 @@ const DtOMTWriter::Command* DtOMTWriter::findCommand(const DtString& line)
 
 void DtOMTWriter::run(const Command& command, const DtString& line)
 {
-    const Words words = DtSplit(line, command.separator);
-    if (isComplete(command, words))
+    // Any number of blanks divides words. What stands in quotes may be empty.
+    const Words words =
+        DtSplit(line, command.separator, command.separator == ' ' ? DtEmptyPieces::Drop : DtEmptyPieces::Keep);
+    if (words.size() >= command.words)
         (this->*command.run)(words);
     else
         reportIncomplete(line);
@@ -180,20 +212,10 @@ void DtOMTWriter::reportIncomplete(const DtString& line)
         DtWarn << "Command without its arguments: " << line << std::endl;
 }
 
-// Two blanks in a row have an empty word between them, which is no argument. What stands in quotes may be empty.
-bool DtOMTWriter::isComplete(const Command& command, const Words& words)
-{
-    if (words.size() < command.words)
-        return false;
-    const auto end = words.begin() + static_cast<std::ptrdiff_t>(command.words);
-    return command.separator == '"' ||
-           std::none_of(words.begin(), end, [](const DtString& word) { return word.isEmpty(); });
-}
-
 void DtOMTWriter::includeFile(const DtString& line, cmdLineProc handler)
 {
-    const Words words = DtSplit(line, ' ');
-    if (words.size() < 2 || words[1].isEmpty())
+    const Words words = DtSplit(line, ' ', DtEmptyPieces::Drop);
+    if (words.size() < 2)
         reportIncomplete(line);
     else if (mayInclude(words[1]))
         parseCommandFile(words[1], handler);

@@ -29,8 +29,10 @@ private Q_SLOTS:
     void otherCommandsArePassedOver();
     void longLineIsTakenInPieces();
     void lastLineNeedsNoLineFeed();
-    void carriageReturnStaysInTheLine();
-    void wordsAreDividedBySingleBlanks();
+    void carriageReturnGoesWithTheLineFeed_data();
+    void carriageReturnGoesWithTheLineFeed();
+    void carriageReturnsAreToldOnceForAFile();
+    void wordsAreDividedByAnyNumberOfBlanks();
     void quotedTextsMayHoldBlanks();
     void beginTypesEmptiesEverything();
     void endTypesWithoutBeginAddsToTheContext();
@@ -293,19 +295,54 @@ void TestOmtWriter::lastLineNeedsNoLineFeed()
     QCOMPARE(toQt(myWriter->language()), QString("Ada"));
 }
 
-void TestOmtWriter::carriageReturnStaysInTheLine()
+void TestOmtWriter::carriageReturnGoesWithTheLineFeed_data()
 {
-    run("language Ada\r\n");
-    QCOMPARE(toQt(myWriter->language()), QString("Ada\r"));
+    QTest::addColumn<QByteArray>("commands");
+    QTest::addColumn<QString>("language");
+    QTest::newRow("line") << QByteArray("language Ada\r\n") << "Ada";
+    QTest::newRow("last line without line feed") << QByteArray("language Ada\r") << "Ada";
+    QTest::newRow("one of two") << QByteArray("language Ada\r\r\n") << "Ada\r";
+    QTest::newRow("in the middle") << QByteArray("language A\rda\n") << "A\rda";
+    QTest::newRow("at the end of a full piece") << "language Ada " + QByteArray(485, 'x') + "\r\n"
+                                                << "Ada";
+    QTest::newRow("ahead of the rest of a line") << "language " + QByteArray(489, 'x') + "\rlanguage Ada\n"
+                                                 << "Ada";
 }
 
-void TestOmtWriter::wordsAreDividedBySingleBlanks()
+void TestOmtWriter::carriageReturnGoesWithTheLineFeed()
+{
+    QFETCH(QByteArray, commands);
+    const DtCapture warnings(DtWarn);
+    run(commands);
+    QTEST(toQt(myWriter->language()), "language");
+    const bool isAtTheEnd = commands.endsWith("\r\n") || commands.endsWith("\r");
+    QCOMPARE(warnings.text().count("carriage return"), isAtTheEnd ? 1 : 0);
+    QVERIFY(myWriter->log.filter(QRegularExpression("^. language Ada.*x\r$")).isEmpty());
+}
+
+void TestOmtWriter::carriageReturnsAreToldOnceForAFile()
 {
     const DtCapture warnings(DtWarn);
-    run(QByteArray(theTypes) + "language Ada 95\nfile  a.txt root.tlt\nfile b.txt root.tlt \n");
+    myFixture->writeData("more.txt", "file b.txt root.tlt\r\nfile c.txt root.tlt \r\n");
+    run(QByteArray(theTypes).replace("\n", "\r\n") + "file a.txt root.tlt\r\ninclude ../data/more.txt\r\n");
+    QCOMPARE(myFixture->outputs(), QStringList({"a.txt", "b.txt", "c.txt"}));
+    QCOMPARE(toQt(*myWriter->typeOf("Float")), QString("float"));
+    QCOMPARE(warnings.text(),
+             QString("Command file ../data/script.txt: the carriage returns at the ends of its lines are left out.\n"
+                     "Command file ../data/more.txt: the carriage returns at the ends of its lines are left out.\n"));
+}
+
+void TestOmtWriter::wordsAreDividedByAnyNumberOfBlanks()
+{
+    const DtCapture warnings(DtWarn);
+    myFixture->writeData("more.txt", "file c.txt root.tlt\n");
+    run(QByteArray(theTypes) +
+        "language  Ada 95\nfile  a.txt   root.tlt\nfile b.txt  name.tlt   Objects|HLAobjectRoot.Ship "
+        " \ninclude  ../data/more.txt \n");
     QCOMPARE(toQt(myWriter->language()), QString("Ada"));
-    QCOMPARE(myFixture->outputs(), QStringList("b.txt"));
-    QCOMPARE(warnings.text(), QString("Command without its arguments: file  a.txt root.tlt\n"));
+    QCOMPARE(myFixture->outputs(), QStringList({"a.txt", "b.txt", "c.txt"}));
+    QCOMPARE(myFixture->output("b.txt"), QString("Ship"));
+    QCOMPARE(warnings.text(), QString());
 }
 
 void TestOmtWriter::quotedTextsMayHoldBlanks()

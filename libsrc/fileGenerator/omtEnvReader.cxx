@@ -26,15 +26,22 @@ DtOMTTree* reported(DtOMTTree* tree, const DtString& error)
     return nullptr;
 }
 
+DtOMTTree* reportedXml(DtOMTTree* tree, const DtXMLFileReader& reader)
+{
+    return reader.isErrorTold() ? tree : reported(tree, reader.getLastError());
+}
+
 DtOMTTree* readXmlFile(DtXMLFileReader& reader, const DtFilename& file)
 {
-    return reported(reader.readFile(file, nullptr), reader.getLastError());
+    DtOMTTree* const tree = reader.readFile(file, nullptr); // ahead of the look at its error
+    return reportedXml(tree, reader);
 }
 
 DtOMTTree* readXmlModules(const std::vector<DtFilename>& files, DtFomType type)
 {
     DtXMLFileReader reader;
-    return reported(reader.readFiles(files, type, nullptr), reader.getLastError());
+    DtOMTTree* const tree = reader.readFiles(files, type, nullptr);
+    return reportedXml(tree, reader);
 }
 
 DtOMTTree* readOmtFile(const DtFilename& file)

@@ -32,11 +32,13 @@ void DtXmlErrors::note(void* errors, xmlErrorPtr error)
     self.myLine = error->line;
 }
 
-void DtXmlErrors::report(const char* file)
+bool DtXmlErrors::report(const char* file)
 {
-    if (myCause.length() > 0)
+    const bool isMalformed = myCause.length() > 0;
+    if (isMalformed)
         DtWarn("%s:%d: %s\n", file, myLine, myCause.c_str());
     myCause = DtString();
+    return isMalformed;
 }
 
 int DtOpenPlainFile(const char* name)

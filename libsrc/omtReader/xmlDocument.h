@@ -19,8 +19,8 @@ public:
     DtXmlErrors(const DtXmlErrors&) = delete;
     DtXmlErrors& operator=(const DtXmlErrors&) = delete;
 
-    // Writes "file:line: cause" to DtWarn, once; nothing when no document was malformed.
-    void report(const char* file);
+    // Writes "file:line: cause" to DtWarn, once; nothing, and false, when no document was malformed.
+    bool report(const char* file);
 
 private:
     static void note(void* errors, xmlErrorPtr error);

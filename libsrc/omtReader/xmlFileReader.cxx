@@ -37,17 +37,23 @@ DtFedReadStatus parseStandardModel(DtFomType type, xmlDoc** document, DtString& 
 
 DtFedReadStatus DtXMLFileReader::parseFile(const char* name, xmlDoc** doc, DtString& error)
 {
+    bool isTold = false;
+    return parseFile(name, doc, error, isTold);
+}
+
+DtFedReadStatus DtXMLFileReader::parseFile(const char* name, xmlDoc** doc, DtString& error, bool& isTold)
+{
     DT_ASSERT_AS(*doc == nullptr, "NULL == *newXmlDocTree", __FILE__, __LINE__, __PRETTY_FUNCTION__);
     DT_ASSERT_AS(name != nullptr, "NULL != fedFileName", __FILE__, __LINE__, __PRETTY_FUNCTION__);
     DtXmlErrors errors;
     DtString path(name);
     DtXmlDocument document = DtParseXmlFile(path);
-    errors.report(path);
+    isTold = errors.report(path);
     if (document == nullptr)
     {
         path = DtFedReader::pathBelowRtiConfig(name);
         document = DtParseXmlFile(path);
-        errors.report(path);
+        isTold = errors.report(path) || isTold;
     }
     if (document == nullptr)
     {
@@ -55,6 +61,7 @@ DtFedReadStatus DtXMLFileReader::parseFile(const char* name, xmlDoc** doc, DtStr
         error += DtString("No such FED file: ") + name;
         return DtFedReadNotFound;
     }
+    isTold = false;
     DtVerbose("Reading FED file: %s\n", path.c_str());
     return acceptDocument(std::move(document),
                           "DtXmlFedReader:: Bad FED File.\n\tCould not find Document Root in FED File.\n", doc, error);
@@ -81,7 +88,8 @@ DtOMTTree* DtXMLFileReader::readFile(const DtFilename& file, DtExerciseConn* con
 {
     myConnection = connection;
     xmlDoc* parsed = nullptr;
-    if (!file.isUsable() || parseFile(file, &parsed, myLastError) != DtFedReadSuccess)
+    myIsErrorTold = false;
+    if (!file.isUsable() || parseFile(file, &parsed, myLastError, myIsErrorTold) != DtFedReadSuccess)
         return nullptr;
     DtXmlDocument document(parsed);
     try
@@ -118,6 +126,7 @@ std::unique_ptr<DtOMTTree> DtXMLFileReader::readModule(xmlNode* root, DtFomType 
 DtOMTTree* DtXMLFileReader::readFiles(const std::vector<DtFilename>& files, DtFomType type, DtExerciseConn* connection)
 {
     myConnection = connection;
+    myIsErrorTold = false;
     if (files.empty())
         return nullptr;
     auto tree = std::make_unique<DtOMTTree>();
@@ -144,7 +153,7 @@ bool DtXMLFileReader::mergeModule(DtOMTTree& tree, const DtFilename& file, DtFom
     xmlDoc* parsed = nullptr;
     const DtFedReadStatus status = file == DtFedReader::standardMimFileName(type)
                                        ? parseStandardModel(type, &parsed, myLastError)
-                                       : parseFile(file, &parsed, myLastError);
+                                       : parseFile(file, &parsed, myLastError, myIsErrorTold);
     return status == DtFedReadSuccess && mergeDocument(tree, DtXmlDocument(parsed), type);
 }
 

@@ -45,6 +45,9 @@ public:
     // Stays until it is cleared.
     virtual const DtString& getLastError() const { return myLastError; }
     virtual void clearLastError() { myLastError = DtString(); }
+    // True when the last read failed on a malformed file, of which DtWarn has told line and cause: the error, which
+    // counts such a file as missing, has nothing to add then.
+    bool isErrorTold() const { return myIsErrorTold; }
     virtual void includeMIM(bool include) { myIncludesMIM = include; }
     virtual bool MIMincluded() const { return myIncludesMIM; }
 
@@ -61,11 +64,13 @@ public:
     static bool isEvolvedFormat(xmlNode*& root);
 
 private:
+    static DtFedReadStatus parseFile(const char* name, xmlDoc** doc, DtString& error, bool& isTold);
     std::unique_ptr<DtOMTTree> readModule(xmlNode* root, DtFomType type);
     bool mergeModule(DtOMTTree& tree, const DtFilename& file, DtFomType type);
     bool mergeDocument(DtOMTTree& tree, DtXmlDocument document, DtFomType type);
 
     DtString myLastError;
+    bool myIsErrorTold = false;
     DtExerciseConn* myConnection = nullptr;
     std::vector<std::unique_ptr<DtOMTTree>> myModules;
     bool myIsFirstModule = true; // of the present list

@@ -11,6 +11,7 @@
 #include <QtTest/QtTest>
 #include <QtWidgets/QTreeWidget>
 
+#include <functional>
 #include <memory>
 #include <optional>
 #include <sstream>
@@ -90,7 +91,8 @@ private Q_SLOTS:
     void causeOfAnUnreadOmtFileIsTold_data();
     void causeOfAnUnreadOmtFileIsTold();
     void missingFileIsTold();
-    void malformedFileIsTold();
+    void malformedFileIsToldByItsFaultAlone();
+    void missingModuleBehindASoundOneIsTold();
     void failedReadKeepsMapsAndEmptiesTree();
     void secondReadReplacesTree();
 
@@ -256,14 +258,42 @@ void TestOmtEnvReader::missingFileIsTold()
     QCOMPARE(warnings.text(), QString("RTI_CONFIG environment variable unbound\nNo such FED file: missing.xml\n"));
 }
 
-void TestOmtEnvReader::malformedFileIsTold()
+void TestOmtEnvReader::malformedFileIsToldByItsFaultAlone()
 {
-    const DtCapture warnings(DtWarn);
+    const DtWithEnvironment unset("RTI_CONFIG", nullptr);
+    const DtFilename malformed = file("m.xml", model("<objects>"));
+    const QRegularExpression onlyFault(QStringLiteral("^[^\n]*m\\.xml:2: [^\n]+\n$"));
+    for (const auto& read :
+         std::initializer_list<std::function<DtOMTTree*(DtOMTEnvReader&, bool&)>>{
+             [&](DtOMTEnvReader&reader, bool&ok) { return reader.readFile(malformed, ok); },
+             [&](DtOMTEnvReader&reader, bool&ok) {
+                 return reader.readFiles({file("a.xml", model("")), malformed}, ok);
+             },
+             [&](DtOMTEnvReader&reader, bool&ok) { return reader.readMultipleFiles({malformed}, ok, DtFom1516); },
+             [&](DtOMTEnvReader&reader, bool&ok) { return reader.readMultipleFiles({malformed}, ok, DtFomEvolved); }})
+    {
+        const DtCapture warnings(DtWarn);
+        DtOMTEnvReader reader;
+        bool ok = true;
+        QVERIFY(read(reader, ok) == nullptr);
+        QVERIFY2(onlyFault.match(warnings.text()).hasMatch(), qPrintable(warnings.text()));
+    }
+}
+
+// The fault of the first read says nothing of the second.
+void TestOmtEnvReader::missingModuleBehindASoundOneIsTold()
+{
+    const DtWithEnvironment unset("RTI_CONFIG", nullptr);
     DtOMTEnvReader reader;
     bool ok = true;
-    QVERIFY(reader.readFile(file("m.xml", "<objectModel>"), ok) == nullptr);
-    QVERIFY(!ok);
-    QVERIFY(warnings.text().contains("No such FED file: "));
+    const DtFilename sound = file("a.xml", model(""));
+    {
+        const DtCapture warnings(DtWarn);
+        reader.readFiles({sound, file("m.xml", model("<objects>"))}, ok);
+    }
+    const DtCapture warnings(DtWarn);
+    QVERIFY(reader.readFiles({sound, DtFilename("missing.xml")}, ok) == nullptr);
+    QCOMPARE(warnings.text(), QString("RTI_CONFIG environment variable unbound\nNo such FED file: missing.xml\n"));
 }
 
 void TestOmtEnvReader::failedReadKeepsMapsAndEmptiesTree()

@@ -58,6 +58,11 @@ void DtCodeGenInitializer::readSettings()
     myIncludeStandardMIM = readFlag("includeStandardMIM");
 }
 
+void DtCodeGenInitializer::applySettings()
+{
+    readSettings();
+}
+
 bool DtCodeGenInitializer::readFlag(const DtString& name) const
 {
     return getVariableValue(name) == "true";

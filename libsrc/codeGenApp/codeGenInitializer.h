@@ -67,6 +67,8 @@ public:
     DtString getVariableValue(const DtEnvironment& env, const DtString& name, bool& found) const;
     bool setVariableValue(const DtString& name, const DtString& value); // in `user`, made when it is missing
     bool setVariableValue(const DtString& name, const DtString& value, DtEnvironment& env);
+    // Sets the fields from what stands in the store now, behind setVariableValue().
+    void applySettings();
 
 private:
     void readSettings();

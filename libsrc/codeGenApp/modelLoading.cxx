@@ -3,7 +3,6 @@
 #include "fileGenerator/omtEnvReader.h"
 #include "foundation/stringUtils.h"
 #include "omtReader/fedReader.h"
-#include "omtReader/omtTree.h"
 
 namespace
 {

@@ -3,11 +3,10 @@
 
 #include "foundation/filename.h"
 #include "foundation/fomType.h"
+#include "omtReader/omtTree.h"
 
 #include <memory>
 #include <vector>
-
-class DtOMTTree;
 
 // Puts the standard management model of the files' format behind them, unless one of them is one. For several files
 // that are read as one model; a single file has it ahead.

@@ -23,7 +23,9 @@
 #include <QtWidgets/QStatusBar>
 #include <QtWidgets/QToolBar>
 
+#include <cerrno>
 #include <cstdlib>
+#include <cstring>
 
 namespace
 {
@@ -90,7 +92,15 @@ void DtCodeGenAppGui::setUpLists()
 
 void DtCodeGenAppGui::saveConfiguration()
 {
-    myInitializer.saveConfigFile(theCustomConfigFile);
+    errno = 0;
+    if (!myInitializer.isSaved() || myInitializer.saveConfigFile(theCustomConfigFile))
+        return;
+    DtString text = DtString("The configuration could not be saved to ") + theCustomConfigFile;
+    if (errno != 0)
+        text += DtString(": ") + std::strerror(errno);
+    if (isVisible()) // else showStatus() writes it
+        DtWarn << text << std::endl;
+    showStatus(text);
 }
 
 QAction* DtCodeGenAppGui::addNamedAction(const char* text, const char* icon, const char* shortcut, const char* toolTip)

@@ -25,6 +25,7 @@ public:
     virtual bool saveConfigFile(const DtString& file);
     // Whether saveConfigFile() and that of later copies write; true at first.
     void setSaved(bool isSaved) { myIsSaved = isSaved; }
+    bool isSaved() const { return myIsSaved; }
 
     virtual void setLogFileName(const DtString& name);
     virtual const DtString& logFileName() const;

@@ -105,7 +105,10 @@ std::string linkTarget(const DtString& name)
 bool isReplaceable(const std::string& name)
 {
     struct stat status = {};
-    return lstat(name.c_str(), &status) == 0 ? S_ISREG(status.st_mode) : errno == ENOENT;
+    if (lstat(name.c_str(), &status) != 0)
+        return errno == ENOENT;
+    errno = S_ISDIR(status.st_mode) ? EISDIR : EINVAL;
+    return S_ISREG(status.st_mode);
 }
 
 mode_t modeFor(const std::string& name)
@@ -155,7 +158,9 @@ bool DtReplaceFile(const DtString& name, const std::string& text)
     const bool isWritten = writeAll(file.get(), text) && fsync(file.get()) == 0 && file.close();
     if (isWritten && rename(sibling.c_str(), target.c_str()) == 0)
         return true;
+    const int cause = errno;
     unlink(sibling.c_str());
+    errno = cause;
     return false;
 }
 

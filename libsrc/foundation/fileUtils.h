@@ -20,7 +20,7 @@ bool DtMakeDirectory(const DtFilename& directory);
 
 // Writes the file beside its old version, flushed and checked, and then renames it over that: a reader sees the old or
 // the new content, never a part. Links are followed and the mode of an existing file is kept. False on any failure, the
-// old file being untouched.
+// old file being untouched and errno telling the cause.
 bool DtReplaceFile(const DtString& name, const std::string& text);
 
 // Blocks the calling thread for that many seconds.

@@ -364,6 +364,37 @@ private Q_SLOTS:
         QVERIFY(readTextFile(path("data/config/customCodeGenConfig.xml")).contains("harbour"));
         QVERIFY(!filesBelow(path("home")).isEmpty()); // the window was closed, and noted its place
     }
+
+    void configurationThatCannotBeSavedIsTold_data()
+    {
+        QTest::addColumn<bool>("isVisible");
+        QTest::newRow("visible") << true;
+        QTest::newRow("not visible") << false;
+    }
+    void configurationThatCannotBeSavedIsTold()
+    {
+        QFETCH(bool, isVisible);
+        QDir().mkpath(path("data/config/customCodeGenConfig.xml")); // a directory in the way
+        if (isVisible)
+            show();
+        QString status;
+        QObject::connect(myWindow->statusBar(), &QStatusBar::messageChanged,
+                         [&status](const QString& text) { status = text; });
+        const DtCapture warnings(DtWarn);
+        myWindow.reset();
+        const QString text = "The configuration could not be saved to ../data/config/customCodeGenConfig.xml: "
+                             "Is a directory";
+        QCOMPARE(warnings.text(), text + "\n");
+        QCOMPARE(status, text);
+    }
+    void configurationThatIsNotToBeSavedIsNotTold()
+    {
+        myProgram->initializer().setSaved(false);
+        const DtCapture warnings(DtWarn);
+        myWindow.reset();
+        QCOMPARE(warnings.text(), QString());
+        QVERIFY(!QFile::exists(path("data/config/customCodeGenConfig.xml")));
+    }
 };
 
 QX_REGISTER_TEST(TestWindowSlots)

@@ -5,6 +5,7 @@
 
 #include <QtTest/QtTest>
 
+#include <cerrno>
 #include <sys/stat.h>
 
 class TestFileUtils : public QObject
@@ -28,6 +29,7 @@ private Q_SLOTS:
     void replaceFollowsALinkToAMissingFile();
     void replaceLeavesDevicesAndDirectoriesAlone();
     void failedReplaceLeavesNothingBehind();
+    void failedReplaceTellsTheCause();
     void linksInACircleFail();
     void sleepsAboutAsLongAsTold();
     void pollSeesAPressedKey();
@@ -198,6 +200,28 @@ void TestFileUtils::failedReplaceLeavesNothingBehind()
     QVERIFY(!DtReplaceFile("file/a", "x"));
     QCOMPARE(QDir(".").entryList(QDir::Files | QDir::Hidden), QStringList{"file"});
     QCOMPARE(readTextFile("file"), QByteArray("x"));
+}
+
+void TestFileUtils::failedReplaceTellsTheCause()
+{
+    QVERIFY(QDir().mkdir("directory"));
+    const auto causeFor = [](const char* name)
+    {
+        errno = 0;
+        return DtReplaceFile(name, "x") ? 0 : errno;
+    };
+    QCOMPARE(causeFor("directory"), EISDIR);
+    QCOMPARE(causeFor("missing/a"), ENOENT);
+    const DtChildResult result = runInChild(
+        []
+        {
+            const rlimit limit = {0, 0};
+            std::signal(SIGXFSZ, SIG_IGN);
+            setrlimit(RLIMIT_FSIZE, &limit);
+            _exit(DtReplaceFile("a", "x") ? 0 : errno);
+        });
+    QCOMPARE(result.exitCode, EFBIG);
+    QCOMPARE(QDir().entryList(QDir::Files), QStringList());
 }
 
 void TestFileUtils::linksInACircleFail()

@@ -18,6 +18,18 @@ void installCrashHandler()
         sigaction(signalNumber, &action, nullptr);
 }
 
+// A reader that goes away, and a limit on the size of files, make a write fail, which is told where it happens. They do
+// not end the run. With a handler, which SIG_IGN is not, the programs that are started from here have the defaults.
+void outliveFailedWrites()
+{
+    struct sigaction action = {};
+    action.sa_handler = [](int) {};
+    action.sa_flags = SA_RESTART;
+    sigemptyset(&action.sa_mask);
+    for (int signalNumber : {SIGPIPE, SIGXFSZ})
+        sigaction(signalNumber, &action, nullptr);
+}
+
 void runApplication(int argc, char** argv)
 {
     DtCodeGenerationApp application(argc, argv);
@@ -30,6 +42,7 @@ int main(int argc, char** argv)
 {
     DtMiniDumper::myApplicationName = "CodeGen";
     installCrashHandler();
+    outliveFailedWrites();
     try
     {
         runApplication(argc, argv);

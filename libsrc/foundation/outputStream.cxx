@@ -1,8 +1,10 @@
 #include "foundation/outputStream.h"
 
 #include <algorithm>
+#include <cerrno>
 #include <cstdarg>
 #include <cstdio>
+#include <cstring>
 #include <string>
 
 int DtNotifyLevel = 2;
@@ -87,19 +89,31 @@ namespace
 class DtConsolePrinter : public DtPrinter
 {
 public:
-    explicit DtConsolePrinter(FILE* file) : myFile(file) {}
-    void print(const char* text, std::size_t length) override { std::fwrite(text, 1, length, myFile); }
-    void flush() override { std::fflush(myFile); }
+    DtConsolePrinter(FILE* file, const char* name) : myFile(file), myName(name) {}
+    void print(const char* text, std::size_t length) override { check(std::fwrite(text, 1, length, myFile) == length); }
+    void flush() override { check(std::fflush(myFile) == 0); }
 
 private:
+    // Tells of the first failed write. That reaches whoever still listens, the log file or the other console stream.
+    void check(bool isWritten)
+    {
+        if (isWritten || myHasFailed)
+            return;
+        myHasFailed = true; // first: the text may come back through this very printer
+        DtWarn << "Cannot write to the standard " << myName << " stream: " << std::strerror(errno) << std::endl;
+    }
+
     FILE* myFile;
+    const char* myName;
+    bool myHasFailed = false;
 };
 
 // A stream with its buffer and console printer. Never destroyed, so that destructors of static objects can still
 // report.
 DtOutputStream& makeGlobalStream(int threshold, FILE* file)
 {
-    return *new DtOutputStream(new DtOutputStreamBuffer, DtNotifyLevel, threshold, new DtConsolePrinter(file));
+    const char* const name = file == stdout ? "output" : "error";
+    return *new DtOutputStream(new DtOutputStreamBuffer, DtNotifyLevel, threshold, new DtConsolePrinter(file, name));
 }
 } // namespace
 

@@ -275,6 +275,8 @@ private Q_SLOTS:
     void exceptionsAreReportedAndEndWithZero_data();
     void exceptionsAreReportedAndEndWithZero();
     void resultOfTheRunIsDropped();
+    void failedWriteEndsNoRun_data();
+    void failedWriteEndsNoRun();
     void fatalSignalsAreReported_data();
     void fatalSignalsAreReported();
 
@@ -554,6 +556,28 @@ void TestProgram::resultOfTheRunIsDropped()
     QVERIFY(start.finish());
     QCOMPARE(start.exitCode(), 0);
     QCOMPARE(start.errors(), QByteArray("destroyed\n"));
+}
+
+void TestProgram::failedWriteEndsNoRun_data()
+{
+    QTest::addColumn<QByteArray>("errors");
+    QTest::addColumn<QStringList>("files");
+    QTest::newRow("SIGPIPE") << QByteArray("Cannot write to the standard output stream: Broken pipe\nalive\n")
+                             << QStringList();
+    QTest::newRow("SIGXFSZ") << QByteArray("File too large\nCannot write file printed: File too large\n")
+                             << QStringList("printed");
+    QTest::newRow("programs") << QByteArray() << QStringList(); // each ended by its signal
+}
+
+void TestProgram::failedWriteEndsNoRun()
+{
+    QFETCH(QByteArray, errors);
+    DtStart start;
+    start.start(QX_MAIN_PROBE, {QString::fromLatin1(QTest::currentDataTag())});
+    QVERIFY(start.finish());
+    QCOMPARE(start.exitCode(), 0);
+    QCOMPARE(start.errors(), errors + "destroyed\n");
+    QTEST(filesBelow(start.path("bin")), "files");
 }
 
 void TestProgram::fatalSignalsAreReported_data()

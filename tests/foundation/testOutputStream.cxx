@@ -24,6 +24,8 @@ private Q_SLOTS:
     void globalStreamsShowFromTheirThreshold_data();
     void globalStreamsShowFromTheirThreshold();
     void infoGoesToStandardOutputTheOthersToStandardError();
+    void failedWriteToTheConsoleIsToldOnce();
+    void failedWriteOfWarningsIsToldToTheLog();
 };
 
 namespace
@@ -208,6 +210,43 @@ void TestOutputStream::infoGoesToStandardOutputTheOthersToStandardError()
         });
     QCOMPARE(result.output, QByteArray("info\n"));
     QCOMPARE(result.errors, QByteArray("fatal\nwarn\nverbose\ndebug\n"));
+}
+
+void TestOutputStream::failedWriteToTheConsoleIsToldOnce()
+{
+    if (!QFileInfo::exists("/dev/full"))
+        QSKIP("There is no /dev/full.");
+    const DtChildResult result = runInChild(
+        []
+        {
+            if (std::freopen("/dev/full", "w", stdout) == nullptr)
+                return;
+            DtNotifyLevel = 3;
+            DtInfo << "lost" << std::endl;
+            DtInfo << "lost too" << std::endl;
+        });
+    QCOMPARE(result.errors, QByteArray("Cannot write to the standard output stream: No space left on device\n"));
+}
+
+void TestOutputStream::failedWriteOfWarningsIsToldToTheLog()
+{
+    if (!QFileInfo::exists("/dev/full"))
+        QSKIP("There is no /dev/full.");
+    const DtChildResult result = runInChild(
+        []
+        {
+            DtTextPrinter log;
+            DtWarn.attachPrinter(&log);
+            if (std::freopen("/dev/full", "w", stderr) == nullptr)
+                return;
+            DtWarn << "one" << std::endl;
+            DtWarn << "two" << std::endl;
+            std::fputs(log.myText.constData(), stdout);
+            std::fflush(stdout);
+            DtWarn.detachPrinter(&log);
+        });
+    QCOMPARE(result.output,
+             QByteArray("one\nCannot write to the standard error stream: No space left on device\ntwo\n"));
 }
 
 QX_REGISTER_TEST(TestOutputStream)

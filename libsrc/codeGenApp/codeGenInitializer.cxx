@@ -23,7 +23,7 @@ int numberOf(const DtString& text)
 
 DtCodeGenInitializer::~DtCodeGenInitializer() = default;
 
-bool DtCodeGenInitializer::parseConfigFile(const DtString& file)
+bool DtCodeGenInitializer::takeStore(const DtString& file)
 {
     bool isGood = false;
     const DtEnvironment config = DtEnvXMLReader(true).readFile(file, &isGood);
@@ -32,6 +32,13 @@ bool DtCodeGenInitializer::parseConfigFile(const DtString& file)
     myConfig = config;
     myDefaults.setRoot(myConfig.getNamedList("defaults"));
     myUser.setRoot(myConfig.getNamedList("user"));
+    return true;
+}
+
+bool DtCodeGenInitializer::parseConfigFile(const DtString& file)
+{
+    if (!takeStore(file))
+        return false;
     readSettings();
     parseScripts();
     getVariableValue("encodeSizeInArrays"); // these two only for the warning when they are missing

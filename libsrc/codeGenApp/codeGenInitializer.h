@@ -21,6 +21,9 @@ public:
     // False, with every field as it was, when the file cannot be read. After a successful read a setting that the file
     // lacks is empty, 0 or false, whatever its compiled-in default, and named on DtWarn.
     virtual bool parseConfigFile(const DtString& file);
+    // Takes the content of the file for the store that is saved, with every field as it was. False when the file cannot
+    // be read.
+    bool takeStore(const DtString& file);
     // False when the file could not be written, or is not to be.
     virtual bool saveConfigFile(const DtString& file);
     // Whether saveConfigFile() and that of later copies write; true at first.

@@ -126,12 +126,15 @@ void DtCodeGenerationApp::readConfiguration()
     const bool isRead = myInitializer.parseConfigFile(isCustomized ? theCustomConfigFile : theDefaultConfigFile);
     if (isRead || !isCustomized)
         return;
-    // The end of the run writes this file anew.
+    // The end of the run writes this file anew, so that the next run finds the shipped settings. This one goes on with
+    // those that are compiled in, in which no script is switched on.
     const bool isKept = DtKeepFile(theCustomConfigFile);
     myInitializer.setSaved(isKept);
     DtWarn << "Cannot read " << theCustomConfigFile
-           << (isKept ? "; a copy of it is kept beside it." : "; no copy of it could be kept, so it stays as it is.")
-           << std::endl;
+           << (isKept ? "; a copy of it is kept beside it." : "; no copy of it could be kept, so it stays as it is.");
+    if (myInitializer.takeStore(theDefaultConfigFile) && isKept)
+        DtWarn << " This run has no scripts, the next one has the shipped settings.";
+    DtWarn << std::endl;
 }
 
 void DtCodeGenerationApp::openLogFile() const

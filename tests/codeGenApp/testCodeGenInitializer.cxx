@@ -59,6 +59,7 @@ private Q_SLOTS:
     void commentsSurviveSaving();
     void saveFailsWithoutADirectory();
     void nothingIsSavedWhenItIsNotToBe();
+    void storeOfAnotherFileIsSavedWithoutItsSettings();
     void copiesShareTheStore();
     void shippedConfigurationHoldsEveryKey();
     void shippedConfigurationIsValid();
@@ -716,6 +717,20 @@ void TestCodeGenInitializer::nothingIsSavedWhenItIsNotToBe()
     initializer.setSaved(true);
     QVERIFY(initializer.saveConfigFile("config.xml"));
     QVERIFY(readTextFile("config.xml").contains("value=\"Qx\""));
+}
+
+void TestCodeGenInitializer::storeOfAnotherFileIsSavedWithoutItsSettings()
+{
+    DtCodeGenInitializer initializer;
+    QVERIFY(!initializer.takeStore("missing.xml"));
+    QVERIFY(initializer.takeStore(QX_SOURCE_DIR "/data/config/codeGenConfig.xml"));
+    QVERIFY(initializer.scriptMap().empty());
+    initializer.setPrefixName("Qx");
+    QVERIFY(initializer.saveConfigFile("saved.xml"));
+    DtCodeGenInitializer next;
+    QVERIFY(next.parseConfigFile("saved.xml"));
+    QVERIFY(next.scriptMap().at("genCpp.txt"));
+    COMPARE_TEXT(next.prefixName(), "Qx");
 }
 
 void TestCodeGenInitializer::copiesShareTheStore()

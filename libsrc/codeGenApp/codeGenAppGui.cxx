@@ -373,7 +373,12 @@ void DtCodeGenAppGui::removeSelectedItems()
 
 void DtCodeGenAppGui::setOutputDirectory(const QString& directory)
 {
-    myOutputDir = directory.toUtf8().constData();
+    setOutputPath(directory.toUtf8().constData());
+}
+
+void DtCodeGenAppGui::setOutputPath(const DtString& directory)
+{
+    myOutputDir = directory;
     DtFileWriter::setOutputDirectory(myOutputDir);
 }
 

@@ -76,6 +76,7 @@ public:
     virtual void generateCppFiles();
     virtual void generateFile(const DtString& script);
     virtual void setOutputDirectory(const QString& directory); // has to end in a separator
+    void setOutputPath(const DtString& directory);             // the same, for names that no QString can hold
     virtual void setIncludeDirectory(const QString& directory);
     virtual void setClassPrefix(const QString& prefix);
     virtual void addAllObjectInteractions();

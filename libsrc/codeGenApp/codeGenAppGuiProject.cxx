@@ -11,6 +11,7 @@
 #include "fileGenerator/omtProject.h"
 #include "foundation/fileUtils.h"
 #include "foundation/outputStream.h"
+#include "foundation/xmlText.h"
 #include "omtReader/fedReader.h"
 #include "omtReader/omtTree.h"
 
@@ -35,6 +36,33 @@ bool canOpen(const DtFilename& path)
     FILE* const file = path.isRegularFile() ? DtFileOpen(path.c_str(), "rt") : nullptr;
     DtFileClose(file);
     return file != nullptr;
+}
+
+// The model as the project file names it, and as it was called when a part of that was no UTF-8: the project file,
+// which can hold nothing else, has such a part converted from Latin-1.
+std::vector<DtCodeGenAppGui::DtModelFile> spellings(const DtCodeGenAppGui::DtModelFile& model)
+{
+    const auto& [name, directory] = model;
+    return {
+        model,
+        {DtLatin1Text(name), directory              },
+        {name,               DtLatin1Text(directory)},
+        {DtLatin1Text(name), DtLatin1Text(directory)}
+    };
+}
+
+// A path to try, which need not exist.
+DtFilename whereModelIs(const DtCodeGenAppGui::DtModelFile& model, const DtFilename& projectFile)
+{
+    DtFilename path = model.second;
+    path.append(model.first);
+    DtFilename projectDirectory(projectFile);
+    projectDirectory.stripFilename();
+    if (!path.exists())
+        path = DtFilename::searchAlternatePath(model.first.c_str(), model.second.c_str());
+    if (!path.exists())
+        path = DtFilename::searchAlternatePath(model.first.c_str(), projectDirectory.c_str());
+    return path;
 }
 
 // The models with name and directory joined. Several models by bare name would come from the working directory, where
@@ -215,16 +243,12 @@ bool DtCodeGenAppGui::locateModels(const DtFilename& projectFile, std::vector<Dt
 
 bool DtCodeGenAppGui::locateModel(const DtModelFile& model, const DtFilename& projectFile, DtFilename& found)
 {
-    found = model.second;
-    found.append(model.first);
-    DtFilename projectDirectory(projectFile);
-    projectDirectory.stripFilename();
-    if (!found.exists())
-        found = DtFilename::searchAlternatePath(model.first.c_str(), model.second.c_str());
-    if (!found.exists())
-        found = DtFilename::searchAlternatePath(model.first.c_str(), projectDirectory.c_str());
-    if (findFile(found))
-        return true;
+    for (const DtModelFile& spelling : spellings(model))
+    {
+        found = whereModelIs(spelling, projectFile);
+        if (findFile(found))
+            return true;
+    }
     showMessageBox(model.first + " could not be found");
     found = askForFile("Open File", "Object Model Files (*.omt *.xml *.fdd)");
     return !found.isEmpty();

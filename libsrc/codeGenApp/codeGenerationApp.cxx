@@ -203,10 +203,9 @@ void DtCodeGenerationApp::applySelection()
         myGui->addAllObjectInteractions();
     if (myOutputDir.isSet())
     {
-        QString directory = QString::fromUtf8(myOutputDir.value().c_str());
-        if (!directory.endsWith('/') && !directory.endsWith('\\'))
-            directory += '/';
-        myGui->setOutputDirectory(directory);
+        const DtString& directory = myOutputDir.value();
+        const char last = directory.isEmpty() ? '\0' : directory[directory.length() - 1];
+        myGui->setOutputPath(last == '/' || last == '\\' ? directory : directory + "/");
     }
     if (myClassPrefix.isSet())
         myGui->setClassPrefix(QString::fromUtf8(myClassPrefix.value().c_str()));

@@ -71,6 +71,21 @@ DtString DtUtf8Text(const DtString& text)
     return isUtf8(text.stdString()) ? text : DtString(latin1ToUtf8(text.stdString()));
 }
 
+DtString DtLatin1Text(const DtString& text)
+{
+    const std::string& source = text.stdString();
+    std::string result;
+    for (std::string_view rest = source; !rest.empty();)
+    {
+        const DtCharacter character = decode(rest);
+        if (character.length == 0 || character.code > 0xff)
+            return text;
+        result += static_cast<char>(character.code);
+        rest.remove_prefix(character.length);
+    }
+    return DtString(result);
+}
+
 DtString DtXmlText(const DtString& text)
 {
     const DtString converted = DtUtf8Text(text);

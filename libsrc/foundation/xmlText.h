@@ -9,5 +9,8 @@ DtString DtXmlText(const DtString& text);
 
 // Gives the text in UTF-8: one that is not valid UTF-8 is taken as Latin-1 and converted.
 DtString DtUtf8Text(const DtString& text);
+// Gives the text in Latin-1, which takes that conversion back; one that is not UTF-8, or has characters beyond Latin-1,
+// stays as it is.
+DtString DtLatin1Text(const DtString& text);
 
 #endif

@@ -9,6 +9,7 @@
 
 #include <algorithm>
 #include <csignal>
+#include <filesystem>
 #include <map>
 #include <sys/resource.h>
 
@@ -71,10 +72,13 @@ public:
     DtStart() : myEnvironment(bareEnvironment(myDirectory.path())) {}
     ~DtStart()
     {
-        if (myProcess.state() == QProcess::NotRunning)
-            return;
-        myProcess.kill();
-        myProcess.waitForFinished(thePatience);
+        if (myProcess.state() != QProcess::NotRunning)
+        {
+            myProcess.kill();
+            myProcess.waitForFinished(thePatience);
+        }
+        std::error_code ignored;
+        std::filesystem::remove_all(myDirectory.path().toStdString(), ignored); // Qt does not find every name
     }
     DtStart(const DtStart&) = delete;
     DtStart& operator=(const DtStart&) = delete;
@@ -84,6 +88,8 @@ public:
     QByteArray file(const QString& name) const { return readTextFile(path(name)); }
     void write(const QString& name, const QByteArray& text) const { writeTextFile(path(name), text); }
     void setVariable(const char* name, const QString& value) { myEnvironment.insert(name, value); }
+    // A script for the shell that starts its arguments with further ones, which no QString can hold.
+    void setLauncher(const QByteArray& script) { write("launch.sh", script); }
 
     // A copy of the program's data, an empty bin/ and two models.
     void prepare() const
@@ -102,7 +108,10 @@ public:
         myProcess.setStandardInputFile(QProcess::nullDevice());
         myProcess.setStandardOutputFile(path("stdout"));
         myProcess.setStandardErrorFile(path("stderr"));
-        myProcess.start(QString::fromLatin1(program), options);
+        if (exists("launch.sh"))
+            myProcess.start("/bin/sh", QStringList({path("launch.sh"), program}) + options);
+        else
+            myProcess.start(QString::fromLatin1(program), options);
     }
     // False when the program did not come to its end by itself.
     bool finish()
@@ -180,6 +189,19 @@ void keepProjectOfLostModel(DtStart& start)
     start.write("models/lost.qxproj", projectOf("gone.xml", theBoatSelection));
 }
 
+// Names of files are bytes, which need not be the text of a QString.
+bool isFile(const DtStart& start, const char* name)
+{
+    return DtFilename((start.path(QString()).toStdString() + name).c_str()).isRegularFile();
+}
+
+void nameInLatin1(DtStart& start)
+{
+    std::string name = start.path("models/caf").toStdString() + "\xe9.xml";
+    QCOMPARE(rename(qPrintable(start.path("models/boat.xml")), name.c_str()), 0);
+    start.setLauncher("exec \"$@\" -O \"../out$(printf '\\351')\" -F \"../models/caf$(printf '\\351').xml\"\n");
+}
+
 struct DtStartRow
 {
     const char* name;
@@ -214,6 +236,7 @@ const DtStartRow theStarts[] = {
     {"unknown option",         changeNothing,          "-style fusion"                                                 },
     {"window",                 chooseOffscreen,        ""                                                              },
     {"broken configuration",   breakConfiguration,     "-G -A -O ../out -F ../models/boat.xml"                         },
+    {"names in Latin-1",       nameInLatin1,           "-G -A"                                                         },
 };
 
 QList<QByteArray> sortedLines(const QByteArray& text)
@@ -262,6 +285,7 @@ private Q_SLOTS:
     void withoutOptionsAndConfigurationTheProgramStarts();
     void projectThatCannotBeReadIsMadeAnew();
     void validProjectTakesNoFurtherModels();
+    void namesThatAreNotUtf8ReachTheDisk();
     void firstOfTwoModelsNamesTheProject();
     void modelIsSearchedBelowRtiConfig();
     void outputDirectoryMayEndInABackslash();
@@ -418,6 +442,15 @@ void TestProgram::validProjectTakesNoFurtherModels()
     QVERIFY(generatedBy(start).filter("aft").isEmpty());
     QCOMPARE(modelsOf(start.file("models/kept.qxproj")), QStringList("boat.xml"));
     QVERIFY(!start.exists("shelf/raft.qxproj"));
+}
+
+void TestProgram::namesThatAreNotUtf8ReachTheDisk()
+{
+    DtStart& start = at("names in Latin-1");
+    QVERIFY(start.finish());
+    QCOMPARE(start.exitCode(), 0);
+    QVERIFY2(isFile(start, "models/caf\xe9.qxproj"), start.errors().constData());
+    QVERIFY2(isFile(start, "out\xe9/cpp\\boatStateRepository.h"), start.errors().constData());
 }
 
 void TestProgram::firstOfTwoModelsNamesTheProject()

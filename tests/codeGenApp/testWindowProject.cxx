@@ -6,9 +6,12 @@
 #include "codeGenApp/listViewManager.h"
 #include "dialogWatch.h"
 #include "fileGenerator/omtProject.h"
+#include "foundation/fileUtils.h"
 #include "omtReader/omtTree.h"
 #include "scratchProgram.h"
 #include "smallModels.h"
+
+#include <filesystem>
 
 namespace
 {
@@ -433,6 +436,46 @@ private Q_SLOTS:
         myWindow->saveOmtProject();
         QCOMPARE(text("old.qxproj"), old);
         QCOMPARE(text("p.qxproj"), before);
+    }
+
+    // A project file holds names in UTF-8 alone, and takes others for Latin-1.
+    void modelsWithNamesInLatin1AreFoundAgain_data()
+    {
+        QTest::addColumn<QByteArray>("directory"); // beside the project
+        QTest::addColumn<QList<QByteArray>>("names");
+        QTest::newRow("name") << QByteArray("models/") << QList<QByteArray>{"caf\xe9.xml"};
+        QTest::newRow("directory") << QByteArray("d\xe9p\xf4t/") << QList<QByteArray>{"a.xml"};
+        QTest::newRow("both, in two encodings") << QByteArray("d\xc3\xa9p\xf4t/") << QList<QByteArray>{"caf\xe9.xml"};
+        QTest::newRow("two models") << QByteArray("models/") << QList<QByteArray>{"caf\xe9.xml", "th\xc3\xa9.xml"};
+    }
+    void modelsWithNamesInLatin1AreFoundAgain()
+    {
+        QFETCH(QByteArray, directory);
+        QFETCH(QList<QByteArray>, names);
+        myWindow->preferences()->setIncludeStandardMIM(false);
+        myWindow->newOmtProject(file("p.qxproj"));
+        std::vector<DtCodeGenAppGui::DtModelFile> models;
+        for (const QByteArray& name : names)
+        {
+            const DtFilename path((myProgram->path("work/").toUtf8() + directory + name).constData());
+            DtFilename parent(path);
+            parent.stripFilename();
+            QVERIFY(DtMakeDirectory(parent));
+            const QByteArray ship = "Ship" + QByteArray::number(int(models.size()));
+            QVERIFY(DtReplaceFile(path, moduleText(objectText(ship)).toStdString()));
+            models.emplace_back(path, "");
+        }
+        QCOMPARE(models.size() > 1 ? myWindow->loadFiles(models) : myWindow->loadFile(models.front().first, ""), 1);
+        const auto loaded = myWindow->loadedFiles();
+        myWindow->saveOmtProject();
+        const DtCapture warnings(DtWarn);
+        myWindow->loadOmtProject(file("p.qxproj"));
+        QCOMPARE(warnings.text(), QString());
+        QVERIFY(myWindow->isValidProject());
+        QVERIFY(myWindow->loadedFiles() == loaded);
+        for (std::size_t index = 0; index < models.size(); ++index)
+            QVERIFY(myWindow->tree()->getObjectClassNode("HLAobjectRoot.Ship" + DtString(int(index))) != nullptr);
+        std::filesystem::remove_all(myProgram->path("work").toStdString()); // Qt would not find all of it
     }
 
     void userGivesAnotherFileForAMissingModel()

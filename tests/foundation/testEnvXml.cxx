@@ -36,6 +36,7 @@ private Q_SLOTS:
     void writtenFileReadAndWrittenAgainIsTheSame();
     void dashesOfACommentAreSeparated();
     void textThatIsNotUtf8IsTakenAsLatin1();
+    void conversionFromLatin1CanBeTakenBack();
     void charactersThatXmlCannotHoldAreLeftOut();
     void namesThatAreNoXmlNamesAreRefused();
     void refusedTreeLeavesTheOldFile();
@@ -275,6 +276,14 @@ void TestEnvXml::textThatIsNotUtf8IsTakenAsLatin1()
     environment.addObject("n", "var")->setValue("gr\xfc\xdf");
     QVERIFY(write(environment, "a.xml"));
     COMPARE_TEXT(read("a.xml").getObject("n", "var")->value(), "gr\xc3\xbc\xc3\x9f");
+}
+
+void TestEnvXml::conversionFromLatin1CanBeTakenBack()
+{
+    const DtString latin1 = "caf\xe9 \x80\xff \xc3\xbc";
+    COMPARE_TEXT(DtLatin1Text(DtXmlText(latin1)), latin1.c_str());
+    for (const char* other : {"", "plain", "\xe9", "caf\xc3\xa9 \xe2\x82\xac"})
+        COMPARE_TEXT(DtLatin1Text(other), other);
 }
 
 void TestEnvXml::charactersThatXmlCannotHoldAreLeftOut()

@@ -51,6 +51,12 @@ bool chooseOffscreenWithoutDisplay()
     return true;
 }
 
+bool isUnseenPlatform()
+{
+    const QString platform = QGuiApplication::platformName();
+    return platform == QLatin1String("offscreen") || platform == QLatin1String("minimal");
+}
+
 struct DtSplashMessage
 {
     int pass;
@@ -103,8 +109,7 @@ DtCodeGenerationApp::DtCodeGenerationApp(int argc, char** argv)
     createApplication(argc, argv);
     createWindow();
     mySettings.parseCommandLine(argc, argv, false);
-    const bool isBatchAskedFor = missingOption() == nullptr && (myFomDefFile.isSet() || myProject.isSet());
-    myGui->setUnattended(myHasNoDisplay || isBatchAskedFor);
+    myGui->setUnattended(myHasNoDisplay || isBatchAskedFor());
     myGui->setValidProject(false);
     loadProject();
     loadModels();
@@ -222,6 +227,12 @@ const char* DtCodeGenerationApp::missingOption() const
     return nullptr;
 }
 
+// The command line asks for a batch run; whether there is one depends on what can be loaded.
+bool DtCodeGenerationApp::isBatchAskedFor() const
+{
+    return missingOption() == nullptr && (myFomDefFile.isSet() || myProject.isSet());
+}
+
 // The option "all" is no condition: without it a batch run generates what the project selects.
 const char* DtCodeGenerationApp::missingBatchCondition() const
 {
@@ -239,17 +250,20 @@ int DtCodeGenerationApp::run()
     return 0;
 }
 
+// A batch run that could not load its project ends on a platform whose windows nobody can see, also when that was not
+// chosen here.
 int DtCodeGenerationApp::runWindow()
 {
-    myGui->setUnattended(myHasNoDisplay); // from here on somebody can answer
+    const bool isUnseen = myHasNoDisplay || (isBatchAskedFor() && isUnseenPlatform());
+    myGui->setUnattended(isUnseen); // else somebody can answer from here on
     myGui->manageIcons();
-    if (!myHasNoDisplay)
+    if (!isUnseen)
     {
         myGui->keepPlace();
         myGui->show();
     }
     QCoreApplication::processEvents();
-    if (myHasNoDisplay)
+    if (isUnseen)
     {
         DtWarn << "No display to show the window on, and no batch run: " << missingBatchCondition() << "." << std::endl;
         QTimer::singleShot(0, myApplication, &QCoreApplication::quit);

@@ -26,7 +26,7 @@ public:
     DtCodeGenerationApp& operator=(const DtCodeGenerationApp&) = delete;
 
     // Generates and returns 0 when all a batch run needs was given; otherwise shows the window and returns the result
-    // of the event loop.
+    // of the event loop. Where nobody can see the window, a batch run whose loading failed ends with the reason.
     virtual int run();
 
 private:
@@ -40,6 +40,7 @@ private:
     // The first condition of a batch run that does not hold, null when all do.
     const char* missingBatchCondition() const;
     const char* missingOption() const; // among them, those that the command line alone decides
+    bool isBatchAskedFor() const;
     int runWindow();
 
     QApplication* myApplication = nullptr;

@@ -236,6 +236,7 @@ const DtStartRow theStarts[] = {
     {"unknown option",         changeNothing,          "-style fusion"                                                 },
     {"window",                 chooseOffscreen,        ""                                                              },
     {"broken configuration",   breakConfiguration,     "-G -A -O ../out -F ../models/boat.xml"                         },
+    {"empty project name",     chooseOffscreen,        "-G -A -O ../out -P "                                           },
     {"names in Latin-1",       nameInLatin1,           "-G -A"                                                         },
 };
 
@@ -285,6 +286,7 @@ private Q_SLOTS:
     void withoutOptionsAndConfigurationTheProgramStarts();
     void projectThatCannotBeReadIsMadeAnew();
     void validProjectTakesNoFurtherModels();
+    void failedLoadingBehindAnUnseenWindowEndsTheRun();
     void namesThatAreNotUtf8ReachTheDisk();
     void firstOfTwoModelsNamesTheProject();
     void modelIsSearchedBelowRtiConfig();
@@ -442,6 +444,18 @@ void TestProgram::validProjectTakesNoFurtherModels()
     QVERIFY(generatedBy(start).filter("aft").isEmpty());
     QCOMPARE(modelsOf(start.file("models/kept.qxproj")), QStringList("boat.xml"));
     QVERIFY(!start.exists("shelf/raft.qxproj"));
+}
+
+void TestProgram::failedLoadingBehindAnUnseenWindowEndsTheRun()
+{
+    DtStart& start = at("empty project name");
+    QVERIFY(start.finish());
+    QCOMPARE(start.exitCode(), 0);
+    const QByteArray errors = start.errors();
+    QVERIFY2(errors.endsWith("\nNo display to show the window on, and no batch run: no model file was given and no "
+                             "project is valid.\n"),
+             errors.constData());
+    QCOMPARE(filesBelow(start.path("bin")), QStringList());
 }
 
 void TestProgram::namesThatAreNotUtf8ReachTheDisk()

@@ -174,11 +174,27 @@ void DtCodeGenerationApp::loadProject()
     if (!myProject.isSet())
         return;
     const DtFilename file(myProject.value());
+    if (file.isEmpty())
+        DtWarn << "Option --project has an empty value, which names no project file." << std::endl;
     myGui->loadOmtProject(file);
     if (myGui->omtProject() != nullptr)
         return;
     DtWarn << "Error loading project file, creating a new project instead" << std::endl;
     myGui->newOmtProject(file);
+}
+
+// Reading names no single model that is missing.
+void DtCodeGenerationApp::reportMissingModels() const
+{
+    for (const DtString& name : myFomDefFile.values())
+    {
+        const DtFilename file(name);
+        if (file.isEmpty())
+            DtWarn << "Option --fomDefFile has an empty value, which names no model file." << std::endl;
+        else if (!myGui->findFile(file))
+            DtWarn << (file.exists() ? "Cannot open model file " : "There is no model file ") << file << "."
+                   << std::endl;
+    }
 }
 
 // A project that is valid brings its own models, and those of the command line are not looked at.
@@ -187,7 +203,8 @@ void DtCodeGenerationApp::loadModels()
     if (!myFomDefFile.isSet() || myGui->isValidProject())
         return;
     const std::vector<DtString>& files = myFomDefFile.values();
-    if (myGui->omtProject() == nullptr)
+    reportMissingModels();
+    if (myGui->omtProject() == nullptr && !files.front().isEmpty()) // the project would be called ".qxproj"
     {
         DtFilename project(files.front());
         project.setExtension("qxproj");

@@ -36,6 +36,7 @@ private:
     void createWindow();
     void loadProject();
     void loadModels();
+    void reportMissingModels() const;
     void applySelection();
     // The first condition of a batch run that does not hold, null when all do.
     const char* missingBatchCondition() const;

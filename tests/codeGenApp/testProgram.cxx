@@ -236,6 +236,7 @@ const DtStartRow theStarts[] = {
     {"unknown option",         changeNothing,          "-style fusion"                                                 },
     {"window",                 chooseOffscreen,        ""                                                              },
     {"broken configuration",   breakConfiguration,     "-G -A -O ../out -F ../models/boat.xml"                         },
+    {"missing models",         changeNothing,          "-G -A -O ../out -F  -F ../models/none.xml"                     },
     {"empty project name",     chooseOffscreen,        "-G -A -O ../out -P "                                           },
     {"names in Latin-1",       nameInLatin1,           "-G -A"                                                         },
 };
@@ -286,6 +287,7 @@ private Q_SLOTS:
     void withoutOptionsAndConfigurationTheProgramStarts();
     void projectThatCannotBeReadIsMadeAnew();
     void validProjectTakesNoFurtherModels();
+    void missingAndEmptyModelNamesAreTold();
     void failedLoadingBehindAnUnseenWindowEndsTheRun();
     void namesThatAreNotUtf8ReachTheDisk();
     void firstOfTwoModelsNamesTheProject();
@@ -446,12 +448,28 @@ void TestProgram::validProjectTakesNoFurtherModels()
     QVERIFY(!start.exists("shelf/raft.qxproj"));
 }
 
+void TestProgram::missingAndEmptyModelNamesAreTold()
+{
+    DtStart& start = at("missing models");
+    QVERIFY(start.finish());
+    QCOMPARE(start.exitCode(), 0);
+    const QByteArray errors = start.errors();
+    QVERIFY2(errors.startsWith("Option --fomDefFile has an empty value, which names no model file.\n"
+                               "There is no model file ../models/none.xml.\n"),
+             errors.constData());
+    QVERIFY2(errors.contains("\nError loading input file(s)\n"), errors.constData());
+    QCOMPARE(filesBelow(start.path("bin")), QStringList()); // no project without a name
+    QCOMPARE(filesBelow(start.path("models")), QStringList("boat.xml"));
+}
+
 void TestProgram::failedLoadingBehindAnUnseenWindowEndsTheRun()
 {
     DtStart& start = at("empty project name");
     QVERIFY(start.finish());
     QCOMPARE(start.exitCode(), 0);
     const QByteArray errors = start.errors();
+    QVERIFY2(errors.startsWith("Option --project has an empty value, which names no project file.\n"),
+             errors.constData());
     QVERIFY2(errors.endsWith("\nNo display to show the window on, and no batch run: no model file was given and no "
                              "project is valid.\n"),
              errors.constData());

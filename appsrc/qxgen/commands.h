@@ -1,0 +1,16 @@
+#ifndef QXGEN_COMMANDS_H
+#define QXGEN_COMMANDS_H
+
+#include "modelTools/toolFailure.h"
+
+#include <CLI/CLI.hpp>
+
+#include <functional>
+
+// What the chosen subcommand does, set while the command line is read.
+using DtCommandRun = std::function<DtExitCode()>;
+
+// Add a subcommand each, with its options. The run that it sets may refer to nothing but what it owns.
+void addGenerateCommand(CLI::App& program, DtCommandRun& run);
+
+#endif

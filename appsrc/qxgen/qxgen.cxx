@@ -1,0 +1,79 @@
+// The generator for builds and for people at a prompt: no window, no display.
+
+#include "commands.h"
+
+#include "modelTools/argumentFile.h"
+#include "modelTools/outputException.h"
+#include "modelTools/programVersion.h"
+
+#include <algorithm>
+#include <csignal>
+#include <iostream>
+#include <string>
+#include <vector>
+
+namespace
+{
+int end(DtExitCode code)
+{
+    return static_cast<int>(code);
+}
+
+int fail(DtExitCode code, const std::string& text)
+{
+    std::cerr << "qxgen: error: " << text << std::endl;
+    return end(code);
+}
+
+int runCommand(CLI::App& program, const DtCommandRun& run, std::vector<std::string> arguments)
+{
+    std::reverse(arguments.begin(), arguments.end()); // as the library wants them
+    try
+    {
+        program.parse(arguments);
+    }
+    catch (const CLI::ParseError& error) // help and version too
+    {
+        return program.exit(error) == 0 ? end(DtExitCode::Done) : end(DtExitCode::Usage);
+    }
+    const DtExitCode code = run();
+    if (!std::cout.flush())
+        return fail(DtExitCode::Unwritable, "standard output cannot be written.");
+    return end(code);
+}
+
+int runProgram(const std::vector<std::string>& arguments)
+{
+    CLI::App program("Generates C++ and other files from object models of the High Level Architecture.", "qxgen");
+    program.set_version_flag("--version", std::string("qxgen ") + DtProgramVersion());
+    program.require_subcommand(1);
+    program.footer("qxgen COMMAND --help tells of one command. @FILE stands for the arguments in a file, one a line.");
+    program.failure_message(CLI::FailureMessage::simple);
+    DtCommandRun run;
+    addGenerateCommand(program, run);
+    return runCommand(program, run, DtExpandedArguments(arguments));
+}
+} // namespace
+
+int main(int argc, char** argv)
+{
+    // A reader that goes away and a limit of file size show as failed writes, which are told.
+    std::signal(SIGPIPE, SIG_IGN);
+    std::signal(SIGXFSZ, SIG_IGN);
+    try
+    {
+        return runProgram({argv + 1, argv + argc});
+    }
+    catch (const DtToolFailure& failure)
+    {
+        return fail(failure.code(), failure.what());
+    }
+    catch (const DtOutputException& failure)
+    {
+        return fail(DtExitCode::Unwritable, failure.path().string() + ": " + failure.reason());
+    }
+    catch (const std::exception& error)
+    {
+        return fail(DtExitCode::Fault, std::string("this is a fault of the program: ") + error.what());
+    }
+}

@@ -1,0 +1,33 @@
+#ifndef MODEL_TOOLS_CONFIG_KEYS_H
+#define MODEL_TOOLS_CONFIG_KEYS_H
+
+#include <string>
+#include <vector>
+
+class DtCodeGenInitializer;
+
+// A key of the configuration that a run can be given with --set.
+struct DtConfigKey
+{
+    enum Kind
+    {
+        Text,
+        Identifier,   // of C++; may be empty
+        SubDirectory, // a relative path that stays below the output
+        Flag,         // true or false
+        Number        // 0 and above
+    };
+
+    const char* name;
+    Kind kind;
+    const char* refusal; // why it cannot be set here, null when it can
+};
+
+const std::vector<DtConfigKey>& DtConfigKeys();
+
+// Sets KEY=VALUE in the configuration, whose fields follow with applySettings(). Throws DtToolFailure (Usage), with the
+// nearest key or the values that there are, for a text without "=", an unknown or refused key, and a value of another
+// kind.
+void DtSetConfigKey(DtCodeGenInitializer& configuration, const std::string& assignment);
+
+#endif

@@ -1,0 +1,92 @@
+#ifndef MODEL_TOOLS_GENERATE_TOOL_H
+#define MODEL_TOOLS_GENERATE_TOOL_H
+
+#include "modelTools/diagnostics.h"
+#include "modelTools/modelGeneration.h"
+#include "modelTools/outputStage.h"
+#include "modelTools/toolFailure.h"
+
+#include <iosfwd>
+#include <string>
+#include <vector>
+
+enum class DtColor
+{
+    Auto, // on a terminal, unless NO_COLOR is set
+    Always,
+    Never
+};
+
+// How much is told on standard error beside diagnostics.
+enum class DtTelling
+{
+    Quiet,  // errors only
+    Normal, // diagnostics, and on a terminal what was done
+    Verbose // each file that changes, too
+};
+
+// What to do with the output.
+enum class DtOutputUse
+{
+    Commit,
+    DryRun, // list what a commit would change
+    Verify, // likewise, and end with Differs if anything would
+    List    // name all outputs
+};
+
+struct DtGenerateOptions
+{
+    DtGenerationRequest request;
+    std::string outputDirectory;
+    DtOutputUse use = DtOutputUse::Commit;
+    std::string depfile;
+    std::string stamp;
+    std::string report;
+    bool warningsAreErrors = false;
+    bool waitsForLock = true;
+    DtTelling telling = DtTelling::Normal;
+    DtColor color = DtColor::Auto;
+    DtDiagnosticFormat format = DtDiagnosticFormat::Text;
+};
+
+// The command that generates: makes the output of one run in a stage, checks it, and puts it into place as a whole, or
+// lists it. What was asked for goes to `out`, all else to `err`.
+class DtGenerateTool
+{
+public:
+    DtGenerateTool(const DtGenerateOptions& options, std::ostream& out, std::ostream& err);
+
+    // Throws DtToolFailure and DtOutputException. Diagnostics are told in any case.
+    DtExitCode run();
+
+    // The inputs of the last run, also of one that failed as far as it came.
+    const std::set<std::string>& inputs() const { return myInputs; }
+
+private:
+    struct DtCounts
+    {
+        std::size_t files = 0;
+        std::size_t written = 0;
+        std::size_t removed = 0;
+    };
+
+    DtExitCode runInto(DtOutputStage& stage);
+    void generate(DtOutputStage& stage, DtDiagnostics& diagnostics);
+    void checkOutput(const DtOutputStage& stage, DtDiagnostics& diagnostics) const;
+    DtExitCode listFiles(const DtOutputStage& stage) const;
+    DtExitCode listDifferences(DtOutputStage& stage) const;
+    DtCounts commit(DtOutputStage& stage, DtDiagnostics& diagnostics);
+    void tell(const DtDiagnostics& diagnostics) const;
+    void tellSummary(const DtCounts& counts) const;
+    void writeDependencies() const;
+    bool isColored() const;
+
+    DtGenerateOptions myOptions;
+    std::ostream& myOut;
+    std::ostream& myErr;
+    std::set<std::string> myInputs;
+    DtString myIncludePath; // of the generated headers
+    double myStart;         // seconds of a clock that does not jump
+};
+
+#endif

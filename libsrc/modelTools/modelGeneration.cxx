@@ -1,0 +1,327 @@
+#include "modelTools/modelGeneration.h"
+
+#include "codeGenApp/omtProjectXmlReader.h"
+#include "fileGenerator/dataFile.h"
+#include "fileGenerator/dataTypeMapper.h"
+#include "fileGenerator/fileWriter.h"
+#include "foundation/warningRules.h"
+#include "modelTools/classPattern.h"
+#include "modelTools/configKeys.h"
+#include "modelTools/nearNames.h"
+#include "modelTools/toolFailure.h"
+#include "omtReader/fedReader.h"
+#include "omtReader/omtTree.h"
+
+#include <algorithm>
+#include <system_error>
+
+namespace fs = std::filesystem;
+
+namespace
+{
+constexpr const char* theConfiguration = "config/codeGenConfig.xml";
+
+[[noreturn]] void fail(DtExitCode code, const std::string& text)
+{
+    throw DtToolFailure(code, text);
+}
+
+std::string absolutePath(const std::string& path)
+{
+    return fs::absolute(path).lexically_normal().string();
+}
+
+bool isFile(const std::string& path)
+{
+    std::error_code ignored;
+    return fs::is_regular_file(path, ignored);
+}
+
+DtString stem(const DtFilename& path)
+{
+    DtFilename name = DtFilename::stripPath(path);
+    name.stripExtension();
+    return name;
+}
+
+bool isMim(const DtString& name)
+{
+    return name == DtFedReader::standardMimFileName(DtFomEvolved);
+}
+
+// "genHtml.txt" for "html"; empty for what is no name of a script.
+std::string fileOfScript(const std::string& name)
+{
+    std::string file = name;
+    file.front() = static_cast<char>(std::toupper(static_cast<unsigned char>(file.front())));
+    return "gen" + file + ".txt";
+}
+
+// "html" for "genHtml.txt"; empty for any other file.
+std::string scriptOfFile(const std::string& file)
+{
+    const std::string start = "gen";
+    const std::string end = ".txt";
+    if (file.size() <= start.size() + end.size() || file.compare(0, start.size(), start) != 0 ||
+        file.compare(file.size() - end.size(), end.size(), end) != 0)
+        return std::string();
+    std::string name = file.substr(start.size(), file.size() - start.size() - end.size());
+    name.front() = static_cast<char>(std::tolower(static_cast<unsigned char>(name.front())));
+    return name;
+}
+} // namespace
+
+DtModelGeneration::DtModelGeneration(const DtGenerationRequest& request) : myRequest(request)
+{
+}
+
+void DtModelGeneration::load()
+{
+    setUpSettings();
+    readConfiguration();
+    readProject();
+    loadModels();
+    fillProject();
+    select();
+}
+
+void DtModelGeneration::setUpSettings()
+{
+    DtFileSettings& files = DtSettings::instance().files;
+    files.dataDirectory = DtString(myRequest.dataDirectory);
+    for (const std::string& directory : myRequest.templateDirectories)
+    {
+        std::error_code ignored;
+        if (!fs::is_directory(directory, ignored))
+            fail(DtExitCode::Unreadable, "there is no template directory " + directory + ".");
+        files.templateDirectories.emplace_back(absolutePath(directory));
+    }
+    files.keepsToOutput = true;
+    files.makesNamedUuids = true;
+}
+
+// Options come last, so that they win. The shipped configuration has examples on, which a build has no use for.
+void DtModelGeneration::readConfiguration()
+{
+    const bool isShipped = myRequest.configFile.empty();
+    const std::string file = isShipped ? myRequest.dataDirectory + theConfiguration : myRequest.configFile;
+    if (!isFile(file) || !myConfiguration.parseConfigFile(DtString(file)))
+        fail(DtExitCode::Unreadable, "the configuration " + file + " cannot be read.");
+    if (isShipped)
+        DtSetConfigKey(myConfiguration, "generateExamples=false");
+    for (const std::string& setting : myRequest.settings)
+        DtSetConfigKey(myConfiguration, setting);
+    myConfiguration.applySettings();
+}
+
+void DtModelGeneration::readProject()
+{
+    if (myRequest.project.empty())
+    {
+        myProject.initializePredefinedTypes();
+        return;
+    }
+    if (!isFile(myRequest.project))
+        fail(DtExitCode::Unreadable, "there is no project file " + myRequest.project + ".");
+    DtOmtProjectXmlReader reader{DtFilename(DtString(myRequest.project))};
+    reader.readXml(myProject);
+    if (!reader.hasFoundProject())
+        fail(DtExitCode::Unreadable, myRequest.project + " is no project file.");
+}
+
+void DtModelGeneration::loadModels()
+{
+    const std::vector<DtFilename> files = filesToLoad();
+    for (const DtFilename& file : files)
+        if (!isMim(file))
+            myModelFiles.push_back(absolutePath(file.stdString()));
+    const bool includeMim = myConfiguration.includeStandardMIM();
+    DtSettings::instance().cpp.includesMim = includeMim;
+    myModel = DtLoadModel(files, includeMim);
+    if (myModel.tree == nullptr)
+        fail(DtExitCode::Unreadable, "the model cannot be read: " + myModelFiles.front() +
+                                         (myModelFiles.size() > 1 ? " and the modules behind it." : "."));
+    DtDataTypeMapper& mapper = *DtDataTypeMapper::instance();
+    mapper.setPredefinedTypes(myProject.predefinedTypes());
+    mapper.populateFromOmtTree(myModel.tree.get());
+}
+
+std::vector<DtFilename> DtModelGeneration::filesToLoad()
+{
+    std::vector<DtFilename> files;
+    for (const std::string& model : myRequest.models)
+        files.push_back(findModel(model));
+    if (myRequest.models.empty())
+        for (const DtOmtProject::DtFilePair& model : myProject.fomDefFiles())
+            files.push_back(findProjectModel(model));
+    if (files.empty())
+        fail(DtExitCode::Usage, myRequest.project.empty() ? "no model is given." : "the project names no model.");
+    return files;
+}
+
+// The standard management model is part of the program.
+DtFilename DtModelGeneration::findModel(const std::string& name) const
+{
+    if (isFile(name))
+        return DtFilename(DtString(absolutePath(name)));
+    std::string places = "the working directory";
+    for (const std::string& directory : myRequest.modelPaths)
+    {
+        const std::string path = directory + "/" + name;
+        if (isFile(path))
+            return DtFilename(DtString(absolutePath(path)));
+        places += ", " + directory;
+    }
+    const DtString below = DtFedReader::pathBelowRtiConfig(name.c_str());
+    if (!below.isEmpty() && isFile(below.stdString()))
+        return DtFilename(DtString(absolutePath(below.stdString())));
+    if (isMim(DtString(name)))
+        return DtFilename(DtString(name));
+    fail(DtExitCode::Unreadable, "there is no model " + name + " in " + places +
+                                     " or below RTI_CONFIG. --model-path "
+                                     "names further directories.");
+}
+
+// Where it was when the project was saved, else beside the project, else where any model is looked for.
+DtFilename DtModelGeneration::findProjectModel(const DtOmtProject::DtFilePair& model) const
+{
+    const fs::path name(model.first.stdString());
+    const fs::path project = fs::absolute(myRequest.project).parent_path();
+    for (const fs::path& directory : {project / model.second.stdString(), project})
+        if (isFile((directory / name).string()))
+            return DtFilename(DtString(absolutePath((directory / name).string())));
+    return findModel(name.string());
+}
+
+bool DtModelGeneration::hasSetting(const std::string& key) const
+{
+    const auto setsKey = [&key](const std::string& setting)
+    { return setting.compare(0, key.size() + 1, key + "=") == 0; };
+    return std::any_of(myRequest.settings.begin(), myRequest.settings.end(), setsKey);
+}
+
+// What the window notes in a project when it saves it. Models stand without their directories, so that generated text
+// does not name these.
+void DtModelGeneration::fillProject()
+{
+    std::vector<DtOmtProject::DtFilePair> files;
+    for (const DtFilename& file : myModel.files)
+        if (myModelFiles.size() > 1 || !isMim(file)) // a single file stands alone, as in a project of the window
+            files.emplace_back(DtFilename::stripPath(file), DtString());
+    if (!myRequest.project.empty())
+    {
+        if (!hasSetting("includeName"))
+            myConfiguration.setIncludeName(myProject.includeDir());
+        if (!hasSetting("prefixName"))
+            myConfiguration.setPrefixName(myProject.classPrefix());
+    }
+    myProject.setFomDefFiles(files);
+    myProject.setIncludeDir(myConfiguration.includeName());
+    myProject.setClassPrefix(myConfiguration.prefixName());
+    if (!myRequest.name.empty())
+        myProject.setBaseName(DtString(myRequest.name));
+    else if (myProject.baseName().isEmpty())
+        myProject.setBaseName(
+            stem(DtFilename(DtString(myRequest.project.empty() ? myModelFiles.front() : myRequest.project))));
+}
+
+void DtModelGeneration::select()
+{
+    if (!myRequest.patterns.empty())
+        selectByPatterns();
+    else if (myProject.getObjects().empty() && myProject.getInteractions().empty())
+        selectByDefault();
+    else if (myRequest.withManagement)
+        DtSelectClasses(tree(), myProject, DtIsManagementClass);
+}
+
+// Classes that stay keep their renames and custom code.
+void DtModelGeneration::selectByPatterns()
+{
+    const std::set<DtString> wanted = DtClassesOfPatterns(tree(), myRequest.patterns, myRequest.withManagement);
+    const std::set<DtOmtObject> objects = myProject.getObjects();
+    for (const DtOmtObject& object : objects)
+        if (wanted.count(object.fullName()) == 0)
+            myProject.removeObject(object);
+    const std::set<DtOmtInteraction> interactions = myProject.getInteractions();
+    for (const DtOmtInteraction& interaction : interactions)
+        if (wanted.count(interaction.fullName()) == 0)
+            myProject.removeInteraction(interaction);
+    DtSelectClasses(tree(), myProject, [&wanted](const DtString& name) { return wanted.count(name) != 0; });
+}
+
+void DtModelGeneration::selectByDefault()
+{
+    const bool withManagement = myRequest.withManagement;
+    DtSelectClasses(tree(), myProject,
+                    [withManagement](const DtString& name) { return withManagement || !DtIsManagementClass(name); });
+}
+
+void DtModelGeneration::writeInto(const fs::path& directory)
+{
+    DtFileWriter::setOutputDirectory(DtString(directory.string() + "/"));
+    DtGenerationRun run(*myModel.tree, &myProject, DtFilename::stripPath(DtFilename(DtString(myModelFiles.front()))),
+                        DtGenerationOptions::of(myConfiguration), myRequest.layout);
+    for (const std::string& file : commandFiles())
+        run.run(DtString(file));
+}
+
+std::vector<std::string> DtModelGeneration::commandFiles() const
+{
+    std::vector<std::string> files;
+    for (const std::string& script : myRequest.scripts)
+        files.push_back(commandFile(script));
+    if (files.empty())
+        files.push_back(commandFile("cpp"));
+    std::sort(files.begin(), files.end());
+    files.erase(std::unique(files.begin(), files.end()), files.end());
+    return files;
+}
+
+// The C++ has no command file.
+std::string DtModelGeneration::commandFile(const std::string& script) const
+{
+    if (script.empty())
+        fail(DtExitCode::Usage, "--script needs a name.");
+    const std::string file = fileOfScript(script);
+    if (DtGenerationRun::isCpp(DtString(file)) || isFile(DtDataFile(DtString("../data/" + file)).stdString()))
+        return file;
+    if (isFile(script))
+        return absolutePath(script);
+    const std::vector<std::string> names = scriptNames(myRequest);
+    std::string known;
+    for (const std::string& name : names)
+        known += (known.empty() ? "" : ", ") + name;
+    fail(DtExitCode::Usage, "there is no script \"" + script + "\"." + DtNearNamesHint(script, names) +
+                                " Scripts are " + known + ", or paths of command files.");
+}
+
+std::vector<std::string> DtModelGeneration::scriptNames(const DtGenerationRequest& request)
+{
+    std::set<std::string> names = {"cpp"};
+    std::vector<std::string> directories = request.templateDirectories;
+    directories.push_back(request.dataDirectory);
+    for (const std::string& directory : directories)
+    {
+        std::error_code ignored;
+        for (const fs::directory_entry& entry : fs::directory_iterator(directory, ignored))
+        {
+            const std::string name = scriptOfFile(entry.path().filename().string());
+            if (!name.empty())
+                names.insert(name);
+        }
+    }
+    return {names.begin(), names.end()};
+}
+
+std::set<std::string> DtModelGeneration::inputs() const
+{
+    std::set<std::string> files(myModelFiles.begin(), myModelFiles.end());
+    for (const std::string& file : DtReadDataFiles())
+        files.insert(absolutePath(file));
+    const bool isShipped = myRequest.configFile.empty();
+    files.insert(absolutePath(isShipped ? myRequest.dataDirectory + theConfiguration : myRequest.configFile));
+    if (!myRequest.project.empty())
+        files.insert(absolutePath(myRequest.project));
+    return files;
+}

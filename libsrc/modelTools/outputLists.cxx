@@ -1,0 +1,46 @@
+#include "modelTools/outputLists.h"
+
+#include <algorithm>
+#include <fstream>
+#include <string_view>
+
+namespace
+{
+void appendLines(const std::filesystem::path& list, const std::string& start, std::vector<std::string>& paths)
+{
+    std::ifstream file(list);
+    for (std::string line; std::getline(file, line);)
+        if (!line.empty())
+            paths.push_back(start + line);
+}
+
+bool endsWith(std::string_view text, std::string_view end)
+{
+    return text.size() > end.size() && text.substr(text.size() - end.size()) == end;
+}
+
+bool startsWith(std::string_view text, std::string_view start)
+{
+    return text.substr(0, start.size()) == start;
+}
+} // namespace
+
+std::vector<std::string> DtListedOutputs(const std::filesystem::path& directory, const DtCppPaths& paths)
+{
+    std::vector<std::string> listed;
+    appendLines(directory / (paths.prefix + "Files-cc.txt"), paths.prefix, listed);
+    appendLines(directory / (paths.prefix + "Files-h.txt"), paths.prefix + paths.includePath, listed);
+    return listed;
+}
+
+std::vector<std::string> DtOutputsToList(const std::vector<std::string>& files, const DtCppPaths& paths)
+{
+    std::vector<std::string> wanted;
+    std::copy_if(files.begin(), files.end(), std::back_inserter(wanted),
+                 [&paths](const std::string& file)
+                 {
+                     return startsWith(file, paths.prefix) && !startsWith(file, paths.prefix + "Examples/") &&
+                            (endsWith(file, ".cxx") || endsWith(file, ".h"));
+                 });
+    return wanted;
+}

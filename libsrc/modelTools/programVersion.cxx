@@ -1,0 +1,6 @@
+#include "modelTools/programVersion.h"
+
+const char* DtProgramVersion()
+{
+    return QX_VERSION; // from the build
+}

@@ -17,6 +17,8 @@
 #include <QtWidgets/QPushButton>
 #include <QtWidgets/QSpinBox>
 
+#include <limits>
+
 namespace
 {
 // A dialog over a configuration of these texts.
@@ -283,6 +285,22 @@ private Q_SLOTS:
         QCOMPARE(preferences.dialog->firstPduKind(), 40000);
         QCOMPARE(preferences.initializer.firstPduKind(), 40000);
         QCOMPARE(preferences.initializer.scriptMap().at("genCpp.txt"), false);
+    }
+
+    void negativePduKindSurvivesOk()
+    {
+        for (const int kind : {-1, -40000, std::numeric_limits<int>::min()})
+        {
+            DtPreferences preferences;
+            preferences.initializer.setFirstPduKind(kind);
+            preferences.dialog = std::make_unique<DtPreferencesDialog>(preferences.initializer);
+            const QByteArray before = preferences.stored();
+            preferences.dialog->show();
+            preferences.dialog->okButtonPressed();
+            QCOMPARE(preferences.dialog->firstPduKind(), kind);
+            QCOMPARE(preferences.initializer.firstPduKind(), kind);
+            QCOMPARE(preferences.stored(), before);
+        }
     }
 
     void okWithoutAChangeLeavesTheStoreAlone()

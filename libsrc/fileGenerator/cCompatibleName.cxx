@@ -36,6 +36,11 @@ bool isTableWord(const DtString& text)
     return false;
 }
 
+DtString withoutTableWord(const DtString& name)
+{
+    return isTableWord(name) ? "_" + name : name;
+}
+
 const char* replacementFor(char character)
 {
     switch (character)
@@ -105,8 +110,12 @@ bool isCPlusPlusKeyword(const DtString& text)
 
 DtString DtCCompatibleNames::MakeCCompatibleString(const DtString& text)
 {
-    const DtString name = shortened(withoutSpecialCharacters(text));
-    return isTableWord(name) ? "_" + name : name;
+    return withoutTableWord(shortened(withoutSpecialCharacters(text)));
+}
+
+DtString DtCCompatibleNames::wholeIdentifier(const DtString& text)
+{
+    return withoutTableWord(withoutSpecialCharacters(text));
 }
 
 DtString DtCCompatibleNames::shortened(const DtString& name)

@@ -19,6 +19,8 @@ public:
     // The identifier form. Words of the table `keywords` get a leading underscore; that table is not the one of
     // isCPlusPlusKeyword.
     DtString MakeCCompatibleString(const DtString& text);
+    // The same at its whole length, which takes no number.
+    static DtString wholeIdentifier(const DtString& text);
 
 private:
     DtString shortened(const DtString& name);

@@ -97,10 +97,14 @@ bool hasNoClass(const DtAttribute& attribute)
     return !isKnown && attribute.netType() == attribute.nonVectorType();
 }
 
-// The C++ name of the attribute's type.
+// The C++ name of the attribute's type. That of an enumeration is never shortened: the enumerations header is written
+// ahead of the classes and takes no number of theirs.
 DtString typeIdentifier(const DtAttribute& attribute)
 {
-    return identifier(DtDatatypeClassNames::instance().identifierOf(attribute.datatype(), attribute.type()));
+    const DtString& datatype = attribute.datatype();
+    const DtString& name = DtDatatypeClassNames::instance().identifierOf(datatype, attribute.type());
+    const bool isEnumeration = mapper().isEnumeration(datatype) && mapper().quorvexType(datatype) == attribute.type();
+    return isEnumeration ? DtCCompatibleNames::wholeIdentifier(name) : identifier(name);
 }
 
 DtString bareClassName(const DtString& className)

@@ -1,6 +1,6 @@
 #include "fileGenerator/enumFileWriter.h"
 
-#include "fileGenerator/classFileWriter.h"
+#include "fileGenerator/cCompatibleName.h"
 #include "fileGenerator/dataTypeMapper.h"
 #include "fileGenerator/datatypeClassNames.h"
 #include "fileGenerator/literalText.h"
@@ -198,8 +198,8 @@ DtString DtEnumerationFileWriter::cleanedValueName(const DtString& name)
 DtEnumerationFileWriter::DtNames DtEnumerationFileWriter::makeNames(const DtEnumeration& enumeration)
 {
     DtNames names;
-    names.type = DtDatatypeClassNames::instance().identifierOf(
-        enumeration.name(), DtClassFileWriter::identifierOf(createEnumerationName(enumeration)));
+    names.type = DtCCompatibleNames::wholeIdentifier(
+        DtDatatypeClassNames::instance().identifierOf(enumeration.name(), createEnumerationName(enumeration)));
     names.isRepeated = !myTypeNames.insert(names.type).second;
     names.numberForm = enumeration.numberForm().octets > 0 ? enumeration.numberForm() : guessedForm(enumeration);
     if (names.isRepeated)

@@ -259,7 +259,7 @@ void DtOMTEnvWriter::recordAllClassNames()
         const DtString& name = node->getName();
         if (myUsedDatatypes.count(name) == 0 || !DtDataTypeMapper::instance()->isEnumeration(name))
             continue;
-        const DtString type = DtClassFileWriter::identifierOf(DtDataTypeMapper::instance()->quorvexType(name));
+        const DtString type = DtCCompatibleNames::wholeIdentifier(DtDataTypeMapper::instance()->quorvexType(name));
         if (enumerations.insert(type).second)
             shared.add(name, type);
     }

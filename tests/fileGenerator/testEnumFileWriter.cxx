@@ -1,3 +1,4 @@
+#include "fileGenerator/classFileWriter.h"
 #include "fileGenerator/enumFileWriter.h"
 #include "registerTest.h"
 #include "writerProbe.h"
@@ -45,6 +46,7 @@ private Q_SLOTS:
     void valueNamesLoseSpecialCharacters();
     void identifiersAreToldApart();
     void secondOfOneTypeNameIsMarked();
+    void longNameStaysAsItIs();
     void numberFormIsGivenOrGuessed_data();
     void numberFormIsGivenOrGuessed();
     void numberThatDoesNotFitIsTold_data();
@@ -232,6 +234,22 @@ void TestEnumFileWriter::secondOfOneTypeNameIsMarked()
     QCOMPARE(warnings.text(),
              QString("Warning: Enumeration EnumO-Enum8 is left out: another one is called DtEnumO__Enum8 too.\n"
                      "Warning: Enumeration EnumO__Enum8 is left out: another one is called DtEnumO__Enum8 too.\n"));
+}
+
+// A number belongs to the classes, whose lines come later.
+void TestEnumFileWriter::longNameStaysAsItIs()
+{
+    const RunSettings settings;
+    const std::string tail(150, 'e');
+    const auto numberOf = [&tail](const char* name)
+    { return text(DtClassFileWriter::identifierOf(name + tail)).mid(50).toInt(); };
+    const int first = numberOf("EnumFirst");
+    Probe writer("");
+    for (const std::string& name : {"o-" + tail, "O-" + tail, "p" + tail})
+        writer.addEnumeration(enumeration(name.c_str(), "8"));
+    QCOMPARE(writer.expand("<#Enumeration><!EnumerationTypeName!> <!EnumerationIsRepeated!>;<#>"),
+             QString("DtO__%1 ;DtO__%1 1;DtP%1 ;").arg(QString::fromStdString(tail)));
+    QCOMPARE(numberOf("EnumNext"), first + 1);
 }
 
 void TestEnumFileWriter::numberFormIsGivenOrGuessed_data()

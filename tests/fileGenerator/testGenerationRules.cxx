@@ -5,6 +5,7 @@
 
 #include "generatorFixture.h"
 
+#include "fileGenerator/classFileWriter.h"
 #include "fileGenerator/nameClashes.h"
 #include "fileGenerator/omtProject.h"
 
@@ -34,6 +35,7 @@ private Q_SLOTS:
     void ringThroughAPredefinedTypeEnds_data();
     void ringThroughAPredefinedTypeEnds();
     void longNamesOfEveryKindGiveFiles();
+    void enumerationsTakeNoNumbersAheadOfTheClasses();
     void predefinedTypesOfTheRunForgetComponents();
     void parentOutsideTheSelectionGivesItsUniqueName();
     void selectedParentIsNoMatterForAWarning();
@@ -431,6 +433,32 @@ void TestGenerationRules::longNamesOfEveryKindGiveFiles()
     QCOMPARE(myFixture->outputs().filter(QRegularExpression("^DataTypes/[BSARVC]{50}\\d+\\.(h|cxx)$")).size(), 14);
     QCOMPARE(myFixture->outputs().filter(QRegularExpression("O{50}\\d+")).size(), 12);
     QCOMPARE(myFixture->outputs().filter(QRegularExpression("I{50}\\d+Inter")).size(), 6);
+}
+
+// The numbers of shortened names are given in the order of the classes' lines. The enumerations header, which is
+// written ahead of them, calls an enumeration by its whole name, and so do the members of that type.
+void TestGenerationRules::enumerationsTakeNoNumbersAheadOfTheClasses()
+{
+    const std::string tail(150, 'e');
+    const DtString enumeration("GrEnum" + tail);
+    myFixture->writeTemplate("enums.tlt", "<#Enumeration><!EnumerationTypeName!><#>");
+    myFixture->writeTemplate("hobjEncHeader.tlt",
+                             "<#Attributes><!attributeName!> <!AttributeDatatype!> <!AttributeTypeIdentifier!><#>");
+    myModel->addBasic("Octet", "8");
+    myModel->addEnumeration(enumeration, "Octet",
+                            {
+                                {"One", 1}
+    });
+    addTank({
+        {"grMember" + tail, enumeration}
+    });
+    const int last = QString(DtClassFileWriter::identifierOf("GrLast" + tail).c_str()).mid(50).toInt();
+    QCOMPARE(run(), 1);
+    const QStringList names = myFixture->output("tankEncoderHLA.h").split(' ');
+    QCOMPARE(names.value(0), "grMember" + QString(42, 'e') + QString::number(last + 1));
+    QCOMPARE(names.value(1), "DtGrEnum" + QString(42, 'e') + QString::number(last + 2));
+    QCOMPARE(names.value(2), "DtGrEnum" + QString(150, 'e'));
+    QCOMPARE(myFixture->output("DataTypes/modelEnums.h"), names.value(2));
 }
 
 // The components of records are mapped by their names at load; generation starts from the project's types alone.

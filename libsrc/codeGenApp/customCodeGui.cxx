@@ -3,6 +3,7 @@
 #include "codeGenApp/codeGenAppGui.h"
 #include "codeGenApp/highlighter.h"
 #include "codeGenApp/preferencesDialog.h"
+#include "fileGenerator/classFileWriter.h"
 #include "foundation/fileUtils.h"
 #include "foundation/outputStream.h"
 #include "foundation/stringUtils.h"
@@ -65,7 +66,8 @@ DtCustomCodeGui::DtCustomCodeGui(QApplication* /*application*/, QTreeWidgetItem*
                                  QWidget* parent)
     : QWidget(parent != nullptr ? parent : mainWindow, Qt::Window),
       myMainWindow(mainWindow),
-      myForm(std::make_unique<Ui_QtCustomGenForm>())
+      myForm(std::make_unique<Ui_QtCustomGenForm>()),
+      myNames(DtClassFileWriter::namesSoFar())
 {
     prepareForm();
     populateListview(item);
@@ -175,7 +177,7 @@ DtString DtCustomCodeGui::className() const
         return record->rename();
     DtString name = record != nullptr ? record->name() : myClassFullName;
     name.snipFrontToLast('.');
-    return DtCustomCodeTokens::identifier(name);
+    return myNames.MakeCCompatibleString(name);
 }
 
 DtCustomCodeGui::DtMember* DtCustomCodeGui::memberOf(const QTreeWidgetItem* item)
@@ -215,7 +217,7 @@ bool DtCustomCodeGui::setCustomItemInProject(const DtString& key, const DtOmtPro
 DtCustomCodeTokens DtCustomCodeGui::tokensOf(const DtCustomCodeMember& member) const
 {
     return DtCustomCodeTokens(member, myMainWindow->tree(), myMainWindow->omtProject(),
-                              myMainWindow->preferences()->prefixName());
+                              myMainWindow->preferences()->prefixName(), myNames);
 }
 
 void DtCustomCodeGui::decodeFileLine(DtString& line) const

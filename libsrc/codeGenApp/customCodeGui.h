@@ -108,6 +108,9 @@ private:
     std::unique_ptr<Highlighter> myDecHighlighter;
     DtString myClassFullName;
     bool myIsInteraction = false;
+    // The window goes on with the numbers of the generated classes and takes none of them: these belong to the lines of
+    // the next generation.
+    mutable DtCCompatibleNames myNames;
     std::map<DtString, DtMember> myMembers; // by key
     QTreeWidgetItem* myCurrentItem = nullptr;
     bool myIsLoading = false; // while the program puts texts into the editors

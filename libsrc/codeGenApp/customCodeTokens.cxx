@@ -28,9 +28,9 @@ const DtTokenTable<DtCustomCodeTokens>& DtCustomCodeTokens::table()
     // clang-format off
     static const DtTokenRow<DtCustomCodeTokens> theRows[] = {
         {"<!AttributeDatatypeEnum!>",     [](const Tokens& t) { return t.enumerationType(); }},
-        {"<!AttributeName!>",             [](const Tokens& t) { return DtClassFileWriter::accessorNamesOf(t.myMember.name).setter; }},
-        {"<!attributeName!>",             [](const Tokens& t) { return DtClassFileWriter::accessorNamesOf(t.myMember.name).getter; }},
-        {"<!AttributeDatatype!>",         [](const Tokens& t) { return identifier(t.myMember.datatype); }},
+        {"<!AttributeName!>",             [](const Tokens& t) { return t.accessors().setter; }},
+        {"<!attributeName!>",             [](const Tokens& t) { return t.accessors().getter; }},
+        {"<!AttributeDatatype!>",         [](const Tokens& t) { return t.identifier(t.myMember.datatype); }},
         {"<!EnumerationRep!>",            [](const Tokens& t) { return t.enumerationRep(); }},
         {"<!enumerationRep!>",            [](const Tokens& t) { return DtFirstCharToLowerConditional(t.enumerationRep()); }},
         {"<!EncClassName!>",              [](const Tokens& t) { return t.myMember.className + "Encoder"; }},
@@ -40,7 +40,7 @@ const DtTokenTable<DtCustomCodeTokens>& DtCustomCodeTokens::table()
         {"<!StateRepName!>",              [](const Tokens& t) { return t.myMember.className + "StateRepository"; }},
         {"<!InteractionName!>",           [](const Tokens& t) { return t.myMember.className + "Inter"; }},
         {"<!Prefix!>",                    [](const Tokens& t) { return t.myPrefix; }},
-        {"<!AttributeDatatypeDatatype!>", [](const Tokens& t) { return identifier(t.lastRepresentation()); }},
+        {"<!AttributeDatatypeDatatype!>", [](const Tokens& t) { return t.identifier(t.lastRepresentation()); }},
         {"<!AttributeElementCount!>",     [](const Tokens& t) { return DtString(t.valueForm().count); }},
         {"<!AttributeOctets!>",           [](const Tokens& t) { return DtString(t.valueForm().number.octets); }},
         {"<!AttributeIsLittleEndian!>",   [](const Tokens& t) -> DtString { return t.valueForm().number.isLittleEndian ? "1" : "0"; }},
@@ -54,14 +54,14 @@ const DtTokenTable<DtCustomCodeTokens>& DtCustomCodeTokens::table()
 }
 
 DtCustomCodeTokens::DtCustomCodeTokens(const DtCustomCodeMember& member, const DtOMTTree* tree,
-                                       const DtOmtProject* project, const DtString& prefix)
-    : myMember(member), myTree(tree), myProject(project), myPrefix(prefix)
+                                       const DtOmtProject* project, const DtString& prefix, DtCCompatibleNames& names)
+    : myMember(member), myTree(tree), myProject(project), myPrefix(prefix), myNames(names)
 {
 }
 
-DtString DtCustomCodeTokens::identifier(const DtString& text)
+DtAccessorNames DtCustomCodeTokens::accessors() const
 {
-    return DtClassFileWriter::identifierOf(text);
+    return DtClassFileWriter::accessorNamesOf(myMember.name, myNames);
 }
 
 void DtCustomCodeTokens::expand(DtString& line) const
@@ -83,7 +83,8 @@ bool DtCustomCodeTokens::isEnumeration(const DtString& datatype) const
 
 DtString DtCustomCodeTokens::enumerationType() const
 {
-    return isEnumeration() ? identifier("Dt" + DtFirstCharToUpper(myMember.datatype)) : DtString();
+    const DtString type = "Dt" + DtFirstCharToUpper(myMember.datatype);
+    return isEnumeration() ? DtCCompatibleNames::wholeIdentifier(type) : DtString();
 }
 
 DtString DtCustomCodeTokens::enumerationRep() const

@@ -1,9 +1,11 @@
 #ifndef CODE_GEN_APP_CUSTOM_CODE_TOKENS_H
 #define CODE_GEN_APP_CUSTOM_CODE_TOKENS_H
 
+#include "fileGenerator/cCompatibleName.h"
 #include "fileGenerator/tokenPass.h"
 #include "fileGenerator/valueForm.h"
 
+struct DtAccessorNames;
 class DtOMTTree;
 class DtOmtProject;
 
@@ -18,24 +20,24 @@ struct DtCustomCodeMember
 // The values behind the tokens of the custom code templates, for one member.
 //
 // They are worked out from the model and the project, so they are the same before and after a generation, and what
-// they make up is what generation writes without custom code. All arguments must outlive the object; tree and project
-// may be null.
+// they make up is what generation writes without custom code. Long names get their numbers from the given names. All
+// arguments must outlive the object; tree and project may be null.
 class DtCustomCodeTokens
 {
 public:
     DtCustomCodeTokens(const DtCustomCodeMember& member, const DtOMTTree* tree, const DtOmtProject* project,
-                       const DtString& prefix);
+                       const DtString& prefix, DtCCompatibleNames& names);
 
     // Replaces every token of the line, in the order of the table; a token that is not in it stays.
     void expand(DtString& line) const;
-    // The form of a name in generated code.
-    static DtString identifier(const DtString& text);
     // Whether the member gets the templates of enumerations.
     bool isEnumeration() const { return isEnumeration(myMember.datatype); }
 
 private:
     static const DtTokenTable<DtCustomCodeTokens>& table();
 
+    DtString identifier(const DtString& text) const { return myNames.MakeCCompatibleString(text); }
+    DtAccessorNames accessors() const;
     bool isEnumeration(const DtString& datatype) const;
     DtString enumerationType() const;
     DtString enumerationRep() const;
@@ -47,6 +49,7 @@ private:
     const DtOMTTree* myTree;
     const DtOmtProject* myProject;
     const DtString& myPrefix;
+    DtCCompatibleNames& myNames;
 };
 
 #endif

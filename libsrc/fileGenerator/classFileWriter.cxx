@@ -490,9 +490,9 @@ DtString DtClassFileWriter::identifierOf(const DtString& name)
     return identifier(name);
 }
 
-DtAccessorNames DtClassFileWriter::accessorNamesOf(const DtString& attribute)
+DtCCompatibleNames DtClassFileWriter::namesSoFar()
 {
-    return accessorNamesOf(attribute, theNames);
+    return theNames;
 }
 
 DtAccessorNames DtClassFileWriter::accessorNamesOf(const DtString& attribute, DtCCompatibleNames& names)

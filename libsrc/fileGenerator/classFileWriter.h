@@ -65,9 +65,10 @@ public:
     virtual void compileIncludeList();
     // A name as an identifier of generated code, as the tokens of classes and attributes give it.
     static DtString identifierOf(const DtString& name);
-    // The accessors of an attribute as the tokens give them.
-    static DtAccessorNames accessorNamesOf(const DtString& attribute);
-    // Long names are numbered by the caller's names: only a template line numbers those of generated code.
+    // A copy of the short names that the tokens have given to long ones.
+    static DtCCompatibleNames namesSoFar();
+    // The accessors of an attribute as the tokens give them. Long names are numbered by the caller's names: only a
+    // template line numbers those of generated code.
     static DtAccessorNames accessorNamesOf(const DtString& attribute, DtCCompatibleNames& names);
 
 protected:

@@ -3,6 +3,7 @@
 #include "registerTest.h"
 
 #include "customCodeFixture.h"
+#include "fileGenerator/classFileWriter.h"
 
 class TestCustomCodeTexts : public QObject, private DtCustomCodeFixture
 {
@@ -19,6 +20,7 @@ private Q_SLOTS:
     void tokenHasItsValue();
     void tokensAreReplacedInOrder();
     void everyTokenOfTheTemplatesIsKnown();
+    void longNamesTakeNoNumbersOfTheGeneratedClasses();
     void nothingIsReplacedWithoutMember();
     void defaultTextFollowsDatatype_data();
     void defaultTextFollowsDatatype();
@@ -158,6 +160,38 @@ void TestCustomCodeTexts::everyTokenOfTheTemplatesIsKnown()
     QVERIFY(found.size() > 10);
     for (const QString& token : found)
         QVERIFY2(decoded(qPrintable(token)) != token, qPrintable(token));
+}
+
+// The window shows a long name with the number that it has or that is free, and leaves that free.
+void TestCustomCodeTexts::longNamesTakeNoNumbersOfTheGeneratedClasses()
+{
+    const QByteArray tail(150, 'e');
+    const QByteArray known = "known" + tail, first = "first" + tail, second = "second" + tail, type = "type" + tail;
+    const auto numberOf = [](const QByteArray& name)
+    { return QString::fromUtf8(DtClassFileWriter::identifierOf(name.constData()).c_str()).mid(50).toInt(); };
+    const int last = numberOf(known);
+    QCOMPARE(myWindow->loadFile(
+                 myProgram->model(
+                     "long.xml", moduleText(objectText("Pier", attributeText(known, type) + attributeText(first, type) +
+                                                                   attributeText(second, type)))),
+                 ""),
+             1);
+    myWindow->addAllObjectInteractions();
+    open("Objects.Pier");
+    QStringList shown;
+    for (int row = 0; row < 3; ++row)
+    {
+        select(row);
+        shown += decoded("<!attributeName!>");
+        QCOMPARE(decoded("<!attributeName!>"), shown.last());
+    }
+    shown += decoded("<!AttributeDatatype!>");
+    QCOMPARE(shown[0], "known" + QString(45, 'e') + QString::number(last));
+    QSet<int> numbers;
+    for (const QString& name : shown)
+        numbers += name.mid(50).toInt();
+    QCOMPARE(numbers, (QSet<int>{last, last + 1, last + 2, last + 3}));
+    QCOMPARE(numberOf("next" + tail), last + 1);
 }
 
 void TestCustomCodeTexts::nothingIsReplacedWithoutMember()

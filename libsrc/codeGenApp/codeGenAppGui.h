@@ -193,7 +193,7 @@ private:
     DtString myOutputDir;
     DtString myIncludeDir;
     DtString myClassPrefix;
-    DtString myFileName;
+    DtString myFileName; // of the model file as it was given, of the first of several
     bool myFileLoaded = false;
     bool myValidProject = false;
     DtFomType myFomType = DtFomUnknown;

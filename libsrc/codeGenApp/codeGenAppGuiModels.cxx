@@ -53,7 +53,7 @@ int DtCodeGenAppGui::loadFile(const DtString& path, const DtString& directory)
         return 0;
     }
     fillLists();
-    myFileName = file;
+    myFileName = path;
     setWindowTitle(QString::fromUtf8((theTitle + file).c_str()));
     myLoadedFiles.push_back(nameAndDirectory(file));
     return 1;

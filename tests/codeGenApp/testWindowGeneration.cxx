@@ -424,6 +424,25 @@ private Q_SLOTS:
         QCOMPARE(DtOMTEnvWriter::prefixName().c_str(), "");
     }
 
+    // The directory is looked into, and no part of the name.
+    void entryOfTheModelNamesItToTheWriters()
+    {
+        model();
+        myWindow->preferences()->setIncludeStandardMIM(false);
+        myWindow->newOmtProject(DtFilename(myProgram->bytes(myProgram->path("models/a.qxproj"))));
+        QCOMPARE(myWindow->loadFile("a.xml", myProgram->bytes(myProgram->path("models"))), 1);
+        QCOMPARE(myWindow->windowTitle(), "Quorvex Code Generator - " + myProgram->path("models/a.xml"));
+        myWindow->setOutputDirectory(myProgram->path("out/"));
+        writeScript("name.txt", "endTypes\n");
+        myWindow->generateCppFiles();
+        QCOMPARE(DtOMTEnvWriter::fomDefinitionFileName().c_str(), "a.xml");
+        myWindow->generateFile("name.txt");
+        QCOMPARE(DtOMTWriter::fomDefinitionFileName().c_str(), "a.xml");
+        QCOMPARE(myWindow->loadFile(myProgram->model("b.xml", moduleText(objectText("Tug"))), ""), 1);
+        myWindow->generateCppFiles();
+        QCOMPARE(QString(DtOMTEnvWriter::fomDefinitionFileName().c_str()), myProgram->path("models/b.xml"));
+    }
+
     void settingsReachTheWriters()
     {
         restartWith(

@@ -171,7 +171,6 @@ private:
     std::vector<DtFilename> filesToRead(const DtFilename& newFile, DtFomType type, bool addMim) const;
     void takeTree(DtOMTTree* tree);
     void fillLists();
-    void addMimIfMissing(std::vector<DtFilename>& files) const;
 
     bool readProject(DtFilename& path, bool& isSound);
     void forgetProject();

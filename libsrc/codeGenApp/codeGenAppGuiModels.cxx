@@ -34,6 +34,35 @@ DtString mimName(DtFomType type)
 {
     return DtFedReader::standardMimFileName(type);
 }
+
+// The standard management model is there without a file too.
+bool isMim(const DtFilename& file, DtFomType type)
+{
+    return DtContainsSubstring(file, mimName(type)) && (type != DtFomUnknown || !file.exists());
+}
+
+struct DtFileTypes
+{
+    DtFomType first = DtFomUnknown; // of the first file that has one; the management model's where there is no other
+    bool hasMim = false;
+};
+
+DtFileTypes typesOf(const std::vector<DtFilename>& files)
+{
+    DtFileTypes types;
+    DtFomType ofMim = DtFomUnknown;
+    for (const DtFilename& file : files)
+    {
+        const DtFomType type = DtFedReader::checkFomType(file, DtFedReader::openFedFile(file, false), false);
+        const bool isThisMim = isMim(file, type);
+        types.hasMim = types.hasMim || isThisMim;
+        DtFomType& kept = isThisMim ? ofMim : types.first;
+        kept = kept == DtFomUnknown ? type : kept;
+    }
+    if (types.first == DtFomUnknown)
+        types.first = ofMim;
+    return types;
+}
 } // namespace
 
 int DtCodeGenAppGui::loadFile(const DtString& path, const DtString& directory)
@@ -104,7 +133,9 @@ int DtCodeGenAppGui::loadFiles(const std::vector<DtModelFile>& models)
     files.reserve(models.size() + 1);
     for (const DtModelFile& model : models)
         files.push_back(DtFilename::searchAlternatePath(model.first.c_str(), model.second.c_str()));
-    addMimIfMissing(files);
+    const DtFileTypes types = typesOf(files);
+    if (myPreferences->includeStandardMIM() && !types.hasMim)
+        files.emplace_back(mimName(types.first == DtFomUnknown ? DtFomEvolved : types.first)); // ahead of a single one
     myReader = std::make_unique<DtOMTEnvReader>();
     bool ok = false;
     takeTree(myReader->readFiles(files, ok));
@@ -114,6 +145,7 @@ int DtCodeGenAppGui::loadFiles(const std::vector<DtModelFile>& models)
         return 0;
     }
     fillLists();
+    myFomType = types.first;
     myFileName = files.front();
     myLoadedFiles.clear();
     DtString title(theTitle);
@@ -124,24 +156,6 @@ int DtCodeGenAppGui::loadFiles(const std::vector<DtModelFile>& models)
     }
     setWindowTitle(QString::fromUtf8(title.c_str()));
     return 1;
-}
-
-// Several files at once have the standard management model behind them; a single one has it ahead.
-void DtCodeGenAppGui::addMimIfMissing(std::vector<DtFilename>& files) const
-{
-    if (!myPreferences->includeStandardMIM())
-        return;
-    DtFomType firstType = DtFomUnknown;
-    for (const DtFilename& file : files)
-    {
-        const DtFomType type = DtFedReader::checkFomType(file, DtFedReader::openFedFile(file, false), false);
-        const bool isMimName = DtContainsSubstring(file, mimName(type)) && !file.exists();
-        if (isMimName || (type != DtFomUnknown && DtContainsSubstring(file, mimName(type))))
-            return;
-        if (firstType == DtFomUnknown)
-            firstType = type;
-    }
-    files.emplace_back(mimName(firstType == DtFomUnknown ? DtFomEvolved : firstType));
 }
 
 // The lists show the old tree's classes, so they and the maps go with it.

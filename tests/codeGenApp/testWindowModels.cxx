@@ -200,7 +200,6 @@ private Q_SLOTS:
 
     void loadedManagementModelIsLeftOutOfAMerge()
     {
-        QCOMPARE(myWindow->loadFile(module("a.xml", "Ship"), ""), 1); // sets the format
         QCOMPARE(myWindow->loadFiles({
                      {module("a.xml", "Ship"), ""},
                      {module("b.xml", "Tug"),  ""}
@@ -211,17 +210,59 @@ private Q_SLOTS:
         QCOMPARE(loaded(*myWindow), models("a.xml|%\nb.xml|%\nHLAstandardMIM.xml|\nc.xml|%\n"));
     }
 
-    void severalFilesDoNotSetTheFormat()
+    void severalFilesSetTheFormat_data()
     {
+        QTest::addColumn<bool>("withMim");
+        QTest::addColumn<QByteArray>("year");
+        for (const bool withMim : {true, false})
+            for (const char* year : {"2010", "2025"})
+                QTest::addRow("%s%s", year, withMim ? " with the management model" : "") << withMim << QByteArray(year);
+    }
+    // Whatever was loaded before them.
+    void severalFilesSetTheFormat()
+    {
+        QFETCH(bool, withMim);
+        QFETCH(QByteArray, year);
+        const auto moduleOf = [this, &year](const char* file, const char* name)
+        { return myProgram->model(file, moduleText(objectText(name), QByteArray(), year)); };
+        myWindow->preferences()->setIncludeStandardMIM(withMim);
+        for (const QByteArray& earlier : {QByteArray(), QByteArray(theOmtText), QByteArray("no model")})
+        {
+            myWindow->closeOpenFiles();
+            if (!earlier.isEmpty())
+                myWindow->loadFile(myProgram->model("earlier.xml", earlier), "");
+            QCOMPARE(myWindow->loadFiles({
+                         {moduleOf("a.xml", "Ship"), ""},
+                         {moduleOf("b.xml", "Tug"),  ""}
+            }),
+                     1);
+            QCOMPARE(myWindow->loadFile(moduleOf("c.xml", "Buoy"), ""), 1);
+            QCOMPARE(leftObjects(*myWindow), QString("Ship Tug Buoy"));
+        }
+    }
+
+    void managementModelAheadDoesNotSetTheFormat()
+    {
+        writeTextFile("HLAstandardMIM.xml", moduleText(objectText("HLAmanager")));
         QCOMPARE(myWindow->loadFiles({
-                     {module("a.xml", "Ship"), ""},
-                     {module("b.xml", "Tug"),  ""}
+                     {"HLAstandardMIM.xml", ""},
+                     { module("a.xml",             "Ship"), ""}
         }),
                  1);
-        const DtString third = module("c.xml", "Buoy");
-        QCOMPARE(myWindow->loadFile(third, ""), 0);
-        QCOMPARE(status(), models("Error Loading File, Protocol of %c.xml does not match those currently loaded "
-                                  "a.xml b.xml HLAstandardMIM.xml"));
+        QCOMPARE(myWindow->loadFile(module("b.xml", "Tug"), ""), 1);
+        QCOMPARE(leftObjects(*myWindow), QString("Ship Tug"));
+    }
+
+    void severalFilesThatFailLeaveTheFormat()
+    {
+        QCOMPARE(myWindow->loadFile(module("a.xml", "Ship"), ""), 1);
+        QCOMPARE(myWindow->loadFiles({
+                     {myProgram->model("old.xml", the1516Text), ""},
+                     {module("b.xml",             "Tug"),       ""}
+        }),
+                 0);
+        QCOMPARE(myWindow->loadFile(module("c.xml", "Buoy"), ""), 1);
+        QCOMPARE(leftObjects(*myWindow), QString("Ship Buoy"));
     }
 
     void otherFormatIsRefusedAndNothingChanges_data()
@@ -282,15 +323,14 @@ private Q_SLOTS:
     void oldFormatsDoNotMerge()
     {
         const DtString old = myProgram->model("old.xml", the1516Text);
-        QCOMPARE(myWindow->loadFile(old, ""), 1); // sets the format, which several files leave as it is
         QCOMPARE(myWindow->loadFiles({
                      {module("a.xml", "Ship"), ""},
                      {module("b.xml", "Tug"),  ""}
         }),
                  1);
         QCOMPARE(myWindow->loadFile(old, ""), 0);
-        QCOMPARE(status(), models("Error Loading File, Cannot merge non HLA1516-2010 FOMs.  %old.xml cannot merge with "
-                                  "currently loaded a.xml b.xml HLAstandardMIM.xml"));
+        QCOMPARE(status(), models("Error Loading File, Protocol of %old.xml does not match those currently loaded "
+                                  "a.xml b.xml HLAstandardMIM.xml"));
         QCOMPARE(leftObjects(*myWindow), QString("Ship Tug HLAmanager"));
         QCOMPARE(myWindow->loadFiles({
                      {old,           ""},

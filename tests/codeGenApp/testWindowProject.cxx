@@ -261,6 +261,24 @@ private Q_SLOTS:
         QCOMPARE(text("p.qxproj"), saved);
     }
 
+    void reopenedProjectOfSeveralFilesTakesAFurtherOne()
+    {
+        myWindow->newOmtProject(file("p.qxproj"));
+        myWindow->loadFiles({
+            {module("a.xml", "Ship"), ""},
+            {module("b.xml", "Tug"),  ""}
+        });
+        myWindow->saveOmtProject();
+
+        myWindow = myProgram->makeWindow();
+        myWindow->loadOmtProject(file("p.qxproj"));
+        QCOMPARE(myWindow->loadFile(module("c.xml", "Buoy"), ""), 1);
+        QCOMPARE(status(), QString());
+        QVERIFY(myWindow->tree()->getObjectClassNode("HLAobjectRoot.Tug") != nullptr);
+        QVERIFY(myWindow->tree()->getObjectClassNode("HLAobjectRoot.Buoy") != nullptr);
+        QCOMPARE(myWindow->loadedFiles().size(), std::size_t(4));
+    }
+
     void loadTakesOverWhatTheProjectSays()
     {
         module("a.xml", "Ship");

@@ -67,7 +67,8 @@ public:
 
     // Gives the two middle buttons their icons.
     virtual void manageIcons();
-    // Reads one more model file beside those loaded; all files are read again and merged. 1 on success, else 0.
+    // Reads one more model file beside those loaded; all files are read again and merged. 1 on success, else 0. The
+    // right list shows the project's classes again then.
     virtual int loadFile(const DtString& path, const DtString& directory);
     // Reads these files as one model, in place of what was loaded. 1 on success, else 0.
     virtual int loadFiles(const std::vector<DtModelFile>& files);
@@ -171,9 +172,12 @@ private:
     std::vector<DtFilename> filesToRead(const DtFilename& newFile, DtFomType type, bool addMim) const;
     void takeTree(DtOMTTree* tree);
     void fillLists();
+    void showProjectAfterImport(bool isFurther);
+    void showProjectOnTheRight();
 
     bool readProject(DtFilename& path, bool& isSound);
     void forgetProject();
+    void loadModels(const std::vector<DtModelFile>& models);
     bool locateModels(const DtFilename& projectFile, std::vector<DtModelFile>& models);
     bool locateModel(const DtModelFile& model, const DtFilename& projectFile, DtFilename& found);
     DtFilename askForFile(const char* title, const char* filter);
@@ -195,6 +199,7 @@ private:
     DtString myFileName; // of the model file as it was given, of the first of several
     bool myFileLoaded = false;
     bool myValidProject = false;
+    bool myIsLoadingProject = false;
     DtFomType myFomType = DtFomUnknown;
     std::vector<DtModelFile> myLoadedFiles;
     DtString myBaseName;

@@ -73,6 +73,7 @@ int DtCodeGenAppGui::loadFile(const DtString& path, const DtString& directory)
     const bool addMim = myPreferences->includeStandardMIM() && type >= DtFomEvolved && myLoadedFiles.empty();
     if (!canMergeWithLoaded(path, type))
         return 0;
+    const bool isFurther = !myLoadedFiles.empty();
     myReader = std::make_unique<DtOMTEnvReader>();
     bool ok = false;
     takeTree(myReader->readMultipleFiles(filesToRead(file, type, addMim), ok, myFomType));
@@ -85,7 +86,27 @@ int DtCodeGenAppGui::loadFile(const DtString& path, const DtString& directory)
     myFileName = path;
     setWindowTitle(QString::fromUtf8((theTitle + file).c_str()));
     myLoadedFiles.push_back(nameAndDirectory(file));
+    showProjectAfterImport(isFurther);
     return 1;
+}
+
+// A project that is being loaded goes to the lists when that is done. The first model of an unseen window belongs to
+// the start of a run, which selects for itself.
+void DtCodeGenAppGui::showProjectAfterImport(bool isFurther)
+{
+    if (!myIsLoadingProject && (isFurther || isVisible()))
+        showProjectOnTheRight();
+}
+
+// The walk over the lists records superclasses that the project does not hold. A copy takes them, so that a class that
+// the user has removed stays out of the project.
+void DtCodeGenAppGui::showProjectOnTheRight()
+{
+    if (myProject == nullptr)
+        return;
+    DtOmtProject shown(*myProject);
+    putIntoUi(&shown);
+    myListViewManager->startAtTheTop();
 }
 
 // The first file decides the format; every further one has to have it, and only modules merge.
@@ -136,6 +157,7 @@ int DtCodeGenAppGui::loadFiles(const std::vector<DtModelFile>& models)
     const DtFileTypes types = typesOf(files);
     if (myPreferences->includeStandardMIM() && !types.hasMim)
         files.emplace_back(mimName(types.first == DtFomUnknown ? DtFomEvolved : types.first)); // ahead of a single one
+    const bool isFurther = !myLoadedFiles.empty();
     myReader = std::make_unique<DtOMTEnvReader>();
     bool ok = false;
     takeTree(myReader->readFiles(files, ok));
@@ -155,6 +177,7 @@ int DtCodeGenAppGui::loadFiles(const std::vector<DtModelFile>& models)
         title += "/" + DtFilename::stripPath(file); // ahead of the first name too
     }
     setWindowTitle(QString::fromUtf8(title.c_str()));
+    showProjectAfterImport(isFurther);
     return 1;
 }
 

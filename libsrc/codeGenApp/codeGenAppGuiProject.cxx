@@ -11,6 +11,7 @@
 #include "fileGenerator/omtProject.h"
 #include "foundation/fileUtils.h"
 #include "foundation/outputStream.h"
+#include "foundation/restored.h"
 #include "foundation/xmlText.h"
 #include "omtReader/fedReader.h"
 #include "omtReader/omtTree.h"
@@ -165,20 +166,27 @@ void DtCodeGenAppGui::loadOmtProject(const DtFilename& path)
             myProjectFile = oldFile; // the same project, read again: it can still be saved
         return;
     }
-    if (models.size() > 1)
-        loadFiles(joinedPaths(models));
-    else
-        loadFile(models.front().first, models.front().second);
+    loadModels(models);
     setValidProject(true);
     myPreferences->setIncludeDir(myProject->includeDir());
     myPreferences->setPrefix(myProject->classPrefix());
     DtOMTEnvWriter::setPrefixName(myPreferences->prefixName());
     putIntoUi(myProject.get());
+    myListViewManager->startAtTheTop();
     myBaseName = myProject->baseName();
     myLoadedFiles = models;
     myProjectFile = file;
     enableProjectActions(true);
     myOutputDir = DtString();
+}
+
+void DtCodeGenAppGui::loadModels(const std::vector<DtModelFile>& models)
+{
+    const DtRestored loading(myIsLoadingProject, true);
+    if (models.size() > 1)
+        loadFiles(joinedPaths(models));
+    else
+        loadFile(models.front().first, models.front().second);
 }
 
 // What the user chooses; empty after a cancel, and without a user.

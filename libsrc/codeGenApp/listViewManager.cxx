@@ -363,6 +363,15 @@ void DtListViewManager::reset()
     myRightChildren.clear();
 }
 
+void DtListViewManager::startAtTheTop() const
+{
+    for (QTreeWidget* list : {myLeftListView, myRightListView})
+        list->clearSelection();
+    if (myLeftListView->topLevelItemCount() > 0)
+        myLeftListView->setCurrentItem(myLeftListView->topLevelItem(0), 0, QItemSelectionModel::NoUpdate);
+    myLeftListView->setFocus(Qt::OtherFocusReason);
+}
+
 void DtListViewManager::findObjectsAndInteractions(std::vector<QTreeWidgetItem*>& found, bool rightList,
                                                    bool selectedOnly, DtOmtProject* project,
                                                    const DtItemMap& objectItems, const DtItemMap& interactionItems,

@@ -54,6 +54,8 @@ public:
     virtual void selectAll();
     // Clears both lists and empties the sets.
     virtual void reset();
+    // Selects nothing, and leads the keyboard to the first item of the left list.
+    void startAtTheTop() const;
     virtual void findObjectsAndInteractions(std::vector<QTreeWidgetItem*>& found, bool rightList, bool selectedOnly,
                                             DtOmtProject* project, const DtItemMap& objectItems,
                                             const DtItemMap& interactionItems, bool fromProject);

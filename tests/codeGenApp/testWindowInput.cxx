@@ -177,6 +177,51 @@ private Q_SLOTS:
         QCOMPARE(recorded(), QString("HLAobjectRoot.Ship"));
     }
 
+    void insertBehindALoadAddsNothing()
+    {
+        loadFleet();
+        itemOf(left(), "Pier")->setSelected(true);
+        pressOn(left(), Qt::Key_Insert);
+        myWindow->saveOmtProject();
+        show();
+        for (QTreeWidget* focused : {&left(), &right()})
+        {
+            focused->setFocus();
+            QTRY_VERIFY(focused->hasFocus());
+            myWindow->loadOmtProject(DtFilename(bytes("models/p.qxproj")));
+            QCOMPARE(left().selectedItems().size() + right().selectedItems().size(), 0);
+            QVERIFY(left().hasFocus());
+            QCOMPARE(left().currentItem()->text(0), QString("Objects"));
+            pressOn(left(), Qt::Key_Insert);
+            QCOMPARE(printList(right()), QString("Objects\n Pier\n"));
+            QCOMPARE(recorded(), QString("HLAobjectRoot.Pier"));
+        }
+        pressOn(left(), Qt::Key_Down); // the keyboard goes on from the top
+        QCOMPARE(left().selectedItems().size(), 1);
+    }
+
+    void insertBehindAnImportAddsNothing()
+    {
+        loadFleet();
+        itemOf(left(), "Pier")->setSelected(true);
+        pressOn(left(), Qt::Key_Insert);
+        show();
+        for (QTreeWidget* focused : {&left(), &right()})
+        {
+            focused->setFocus();
+            QTRY_VERIFY(focused->hasFocus());
+            QVERIFY(drop({module(focused == &left() ? "a.xml" : "b.xml", focused == &left() ? "Crane" : "Buoy")}));
+            QCOMPARE(left().selectedItems().size() + right().selectedItems().size(), 0);
+            QVERIFY(left().hasFocus() && left().currentItem() == left().topLevelItem(0));
+            pressOn(left(), Qt::Key_Insert);
+            QCOMPARE(printList(right()), QString("Objects\n Pier\n"));
+        }
+        QCOMPARE(recorded(), QString("HLAobjectRoot.Pier"));
+        itemOf(left(), "Buoy")->setSelected(true);
+        pressOn(left(), Qt::Key_Insert);
+        QCOMPARE(printList(right()), QString("Objects\n Pier\n Buoy\n"));
+    }
+
     void keysWorkInBothLists()
     {
         loadFleet();

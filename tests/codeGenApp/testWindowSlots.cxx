@@ -86,6 +86,38 @@ private Q_SLOTS:
         QCOMPARE(recorded(), QString());
     }
 
+    void importFillsTheRightListFromTheProject()
+    {
+        loadFleet();
+        for (const char* name : {"Ferry", "Signal"})
+            select(left(), name);
+        myWindow->addSelectedItems();
+        const QString classes = recorded();
+        QCOMPARE(myWindow->loadFile(myProgram->model("b.xml", moduleText(objectText("Pier"))), ""), 1);
+        QCOMPARE(printList(right()), QString("Objects\n Ship\n  Ferry\nInteractions\n Signal\n"));
+        QCOMPARE(recorded(), classes);
+        select(right(), "Ferry");
+        myWindow->removeSelectedItems();
+        QCOMPARE(recorded(), QString("HLAobjectRoot.Ship HLAinteractionRoot.Signal"));
+    }
+
+    // Removing "Ship" takes "Shipyard" out of the project too, by its text, and leaves it on the right.
+    void removedSuperclassStaysOutOfTheProjectAtAnImport()
+    {
+        loadModel(objectText("Ship") + objectText("Shipyard", objectText("Dock") + objectText("Slip")));
+        myWindow->addAllObjectInteractions();
+        select(right(), "Ship");
+        myWindow->removeSelectedItems();
+        select(right(), "Dock");
+        myWindow->removeSelectedItems();
+        select(left(), "Dock");
+        myWindow->addSelectedItems();
+        QCOMPARE(recorded(), QString("HLAobjectRoot.Shipyard.Dock"));
+        QCOMPARE(myWindow->loadFile(myProgram->model("b.xml", moduleText(objectText("Pier"))), ""), 1);
+        QCOMPARE(recorded(), QString("HLAobjectRoot.Shipyard.Dock"));
+        QCOMPARE(printList(right()), QString("Objects\n Shipyard\n  Dock\n"));
+    }
+
     // The entry of the menu that is made for the left list knows no classes.
     void additionPressedShowsWithoutRecording()
     {

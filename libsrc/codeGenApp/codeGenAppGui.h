@@ -68,7 +68,7 @@ public:
     // Gives the two middle buttons their icons.
     virtual void manageIcons();
     // Reads one more model file beside those loaded; all files are read again and merged. 1 on success, else 0. The
-    // right list shows the project's classes again then.
+    // right list shows the project's classes again then. After a failure a visible window has what it had before.
     virtual int loadFile(const DtString& path, const DtString& directory);
     // Reads these files as one model, in place of what was loaded. 1 on success, else 0.
     virtual int loadFiles(const std::vector<DtModelFile>& files);
@@ -170,8 +170,11 @@ private:
 
     bool canMergeWithLoaded(const DtString& path, DtFomType type);
     std::vector<DtFilename> filesToRead(const DtFilename& newFile, DtFomType type, bool addMim) const;
+    bool readTypedFiles(const std::vector<DtFilename>& files);
+    int failedLoad(); // 0, the answer of a load that fails
     void takeTree(DtOMTTree* tree);
     void fillLists();
+    void forgetFiles();
     void showProjectAfterImport(bool isFurther);
     void showProjectOnTheRight();
 
@@ -202,6 +205,7 @@ private:
     bool myIsLoadingProject = false;
     DtFomType myFomType = DtFomUnknown;
     std::vector<DtModelFile> myLoadedFiles;
+    std::vector<DtFilename> myReadFiles; // what the tree was read from, the management model included
     DtString myBaseName;
     DtFilename myProjectFile; // empty when no project is open
     DtItemMap myObjectItems;

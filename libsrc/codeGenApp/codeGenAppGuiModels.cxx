@@ -11,6 +11,8 @@
 #include "omtReader/fedReader.h"
 #include "omtReader/omtTree.h"
 
+#include <utility>
+
 namespace
 {
 const char theTitle[] = "Quorvex Code Generator - ";
@@ -74,20 +76,37 @@ int DtCodeGenAppGui::loadFile(const DtString& path, const DtString& directory)
     if (!canMergeWithLoaded(path, type))
         return 0;
     const bool isFurther = !myLoadedFiles.empty();
-    myReader = std::make_unique<DtOMTEnvReader>();
-    bool ok = false;
-    takeTree(myReader->readMultipleFiles(filesToRead(file, type, addMim), ok, myFomType));
-    if (!ok)
-    {
-        showStatus(theLoadFailure);
-        return 0;
-    }
-    fillLists();
+    if (!readTypedFiles(filesToRead(file, type, addMim)))
+        return failedLoad();
     myFileName = path;
     setWindowTitle(QString::fromUtf8((theTitle + file).c_str()));
     myLoadedFiles.push_back(nameAndDirectory(file));
     showProjectAfterImport(isFurther);
     return 1;
+}
+
+// Reads files of the present format into tree, maps and lists.
+bool DtCodeGenAppGui::readTypedFiles(const std::vector<DtFilename>& files)
+{
+    myReader = std::make_unique<DtOMTEnvReader>();
+    bool ok = false;
+    takeTree(myReader->readMultipleFiles(files, ok, myFomType));
+    if (!ok)
+        return false;
+    fillLists();
+    myReadFiles = files;
+    return true;
+}
+
+// Nobody looks at an unseen window, and its run ends without a model. In a visible one the user has what was there
+// before: it is read again, as it was read then.
+int DtCodeGenAppGui::failedLoad()
+{
+    showStatus(theLoadFailure);
+    const std::vector<DtFilename> files = std::exchange(myReadFiles, {});
+    if (isVisible() && !files.empty() && readTypedFiles(files))
+        showProjectOnTheRight();
+    return 0;
 }
 
 // A project that is being loaded goes to the lists when that is done. The first model of an unseen window belongs to
@@ -162,11 +181,9 @@ int DtCodeGenAppGui::loadFiles(const std::vector<DtModelFile>& models)
     bool ok = false;
     takeTree(myReader->readFiles(files, ok));
     if (!ok || myTree == nullptr) // the reader's answer is true whatever it read
-    {
-        showStatus(theLoadFailure);
-        return 0;
-    }
+        return failedLoad();
     fillLists();
+    myReadFiles = files;
     myFomType = types.first;
     myFileName = files.front();
     myLoadedFiles.clear();
@@ -204,13 +221,19 @@ void DtCodeGenAppGui::fillLists()
         myFindBar->refresh();
 }
 
-void DtCodeGenAppGui::closeOpenFiles()
+void DtCodeGenAppGui::forgetFiles()
 {
-    myFileLoaded = false;
     myObjectItems.clear();
     myInteractionItems.clear();
     myListViewManager->reset();
     myLoadedFiles.clear();
+    myReadFiles.clear();
+}
+
+void DtCodeGenAppGui::closeOpenFiles()
+{
+    myFileLoaded = false;
+    forgetFiles();
     setWindowTitle(QStringLiteral("Quorvex Code Generator - No File Loaded"));
     myProjectFile = DtString();
     myBaseName = DtString();

@@ -101,10 +101,7 @@ void DtCodeGenAppGui::newOmtProject(DtFilename path)
     myProjectFile = isKept ? path : DtFilename(); // without a copy nothing may be saved over it
     myProject = std::make_unique<DtOmtProject>();
     myProject->initializePredefinedTypes();
-    myObjectItems.clear();
-    myInteractionItems.clear();
-    myListViewManager->reset();
-    myLoadedFiles.clear();
+    forgetFiles();
     DtDataTypeMapper::instance()->setPredefinedTypes(myProject->predefinedTypes());
     myBaseName = stem(path);
     slot_saveOmtProject();
@@ -228,10 +225,7 @@ void DtCodeGenAppGui::forgetProject()
     myProject.reset();
     setValidProject(false);
     myProjectFile = DtString();
-    myLoadedFiles.clear();
-    myObjectItems.clear();
-    myInteractionItems.clear();
-    myListViewManager->reset();
+    forgetFiles();
 }
 
 // Finds every model file of the project. False when one is missing and the user gives no other for it.

@@ -5,6 +5,7 @@
 #include "codeGenApp/listViewManager.h"
 #include "dialogWatch.h"
 #include "omtReader/omtTree.h"
+#include "printedLists.h"
 #include "scratchProgram.h"
 #include "smallModels.h"
 
@@ -400,6 +401,86 @@ private Q_SLOTS:
         myWindow->addAllObjectInteractions();
         myWindow->generateAllFiles();
         QCOMPARE(status(), QString("No file loaded... Cannot generate files."));
+    }
+
+    void failedImportOfAVisibleWindowReadsTheLoadedFilesAgain_data()
+    {
+        QTest::addColumn<bool>("withMim");
+        QTest::addColumn<bool>("several");
+        QTest::newRow("one file") << false << false;
+        QTest::newRow("one file and the management model") << true << false;
+        QTest::newRow("several files") << false << true;
+        QTest::newRow("several files and the management model") << true << true;
+    }
+    void failedImportOfAVisibleWindowReadsTheLoadedFilesAgain()
+    {
+        QFETCH(bool, withMim);
+        QFETCH(bool, several);
+        myWindow->preferences()->setIncludeStandardMIM(withMim);
+        myWindow->newOmtProject(DtFilename(myProgram->bytes(myProgram->path("models/p.qxproj"))));
+        const DtString first = module("a.xml", "Ship");
+        const DtString second = module("b.xml", "Tug");
+        const int isLoaded = several ? myWindow->loadFiles({
+                                           {first,  ""},
+                                           {second, ""}
+        })
+                                     : myWindow->loadFile(first, "");
+        QCOMPARE(isLoaded, 1);
+        myWindow->addAllObjectInteractions();
+        const DtListViewManager& manager = *myWindow->listViewManager();
+        const QString left = printList(*manager.leftListView());
+        const QString right = printList(*manager.rightListView());
+        const QString title = myWindow->windowTitle();
+        const QString files = loaded(*myWindow);
+        myWindow->show();
+        // Of a module that is cut short the format is known, so it is read together with the others.
+        QCOMPARE(myWindow->loadFile(
+                     myProgram->model("bad.xml", moduleText(objectText("Buoy")).replace("</objectModel>", "")), ""),
+                 0);
+        QCOMPARE(status(), QString(theFailure));
+        QCOMPARE(printList(*manager.leftListView()), left);
+        QCOMPARE(printList(*manager.rightListView()), right);
+        QCOMPARE(manager.leftListView()->selectedItems().size(), 0);
+        QCOMPARE(myWindow->windowTitle(), title);
+        QCOMPARE(loaded(*myWindow), files);
+        QVERIFY(myWindow->tree() != nullptr && myWindow->tree()->getObjectClassNode("HLAobjectRoot.Ship") != nullptr);
+        myWindow->setOutputDirectory(myProgram->path("out/"));
+        myWindow->generateAllFiles();
+        QVERIFY(QFile::exists(myProgram->path("out/cpp\\shipStateRepository.h")));
+        QCOMPARE(myWindow->loadFile(module("c.xml", "Buoy"), ""), 1); // the next one is added as ever
+    }
+
+    void failedImportOfAnUnseenWindowLeavesNothing()
+    {
+        QCOMPARE(myWindow->loadFile(module("a.xml", "Ship"), ""), 1);
+        QCOMPARE(myWindow->loadFile(
+                     myProgram->model("bad.xml", moduleText(objectText("Buoy")).replace("</objectModel>", "")), ""),
+                 0);
+        QCOMPARE(status(), QString(theFailure));
+        QVERIFY(isEmpty(*myWindow));
+    }
+
+    void loadedFilesThatCannotBeReadAgainLeaveNothing()
+    {
+        const DtString first = module("a.xml", "Ship");
+        QCOMPARE(myWindow->loadFile(first, ""), 1);
+        myWindow->show();
+        writeTextFile(first.c_str(), moduleText(objectText("Ship")).left(150));
+        QCOMPARE(myWindow->loadFile(module("b.xml", "Tug"), ""), 0);
+        QCOMPARE(status(), QString(theFailure));
+        QVERIFY(isEmpty(*myWindow));
+        myWindow->generateAllFiles();
+        QCOMPARE(status(), QString("No file loaded... Cannot generate files."));
+    }
+
+    void closedFilesAreNotReadAgain()
+    {
+        QCOMPARE(myWindow->loadFile(module("a.xml", "Ship"), ""), 1);
+        myWindow->show();
+        myWindow->closeOpenFiles();
+        QCOMPARE(myWindow->loadFile(myProgram->model("bad.xml", "<objectModel"), ""), 0);
+        QVERIFY(isEmpty(*myWindow));
+        QCOMPARE(status(), QString(theFailure));
     }
 
     void causeOfAMalformedFileIsToldOnce_data()

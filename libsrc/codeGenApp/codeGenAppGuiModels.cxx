@@ -3,6 +3,7 @@
 #include "codeGenApp/codeGenAppGui.h"
 #include "codeGenApp/findBar.h"
 #include "codeGenApp/listViewManager.h"
+#include "codeGenApp/modelLoading.h"
 #include "codeGenApp/preferencesDialog.h"
 #include "fileGenerator/dataTypeMapper.h"
 #include "fileGenerator/omtEnvWriter.h"
@@ -35,35 +36,6 @@ DtCodeGenAppGui::DtModelFile nameAndDirectory(const DtFilename& path)
 DtString mimName(DtFomType type)
 {
     return DtFedReader::standardMimFileName(type);
-}
-
-// The standard management model is there without a file too.
-bool isMim(const DtFilename& file, DtFomType type)
-{
-    return DtContainsSubstring(file, mimName(type)) && (type != DtFomUnknown || !file.exists());
-}
-
-struct DtFileTypes
-{
-    DtFomType first = DtFomUnknown; // of the first file that has one; the management model's where there is no other
-    bool hasMim = false;
-};
-
-DtFileTypes typesOf(const std::vector<DtFilename>& files)
-{
-    DtFileTypes types;
-    DtFomType ofMim = DtFomUnknown;
-    for (const DtFilename& file : files)
-    {
-        const DtFomType type = DtFedReader::checkFomType(file, DtFedReader::openFedFile(file, false), false);
-        const bool isThisMim = isMim(file, type);
-        types.hasMim = types.hasMim || isThisMim;
-        DtFomType& kept = isThisMim ? ofMim : types.first;
-        kept = kept == DtFomUnknown ? type : kept;
-    }
-    if (types.first == DtFomUnknown)
-        types.first = ofMim;
-    return types;
 }
 } // namespace
 
@@ -173,9 +145,9 @@ int DtCodeGenAppGui::loadFiles(const std::vector<DtModelFile>& models)
     files.reserve(models.size() + 1);
     for (const DtModelFile& model : models)
         files.push_back(DtFilename::searchAlternatePath(model.first.c_str(), model.second.c_str()));
-    const DtFileTypes types = typesOf(files);
-    if (myPreferences->includeStandardMIM() && !types.hasMim)
-        files.emplace_back(mimName(types.first == DtFomUnknown ? DtFomEvolved : types.first)); // ahead of a single one
+    const DtModelFormats formats = DtFormatsOf(files);
+    if (myPreferences->includeStandardMIM())
+        DtAddMimIfMissing(files, formats); // ahead of a single one
     const bool isFurther = !myLoadedFiles.empty();
     myReader = std::make_unique<DtOMTEnvReader>();
     bool ok = false;
@@ -184,7 +156,7 @@ int DtCodeGenAppGui::loadFiles(const std::vector<DtModelFile>& models)
         return failedLoad();
     fillLists();
     myReadFiles = files;
-    myFomType = types.first;
+    myFomType = formats.first;
     myFileName = files.front();
     myLoadedFiles.clear();
     DtString title(theTitle);

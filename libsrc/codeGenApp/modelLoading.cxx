@@ -6,30 +6,38 @@
 
 namespace
 {
-DtFomType typeOf(const DtFilename& file)
-{
-    return DtFedReader::checkFomType(file, DtFedReader::openFedFile(file, false), false);
-}
-
 DtString mimName(DtFomType type)
 {
     return DtFedReader::standardMimFileName(type);
 }
+// The standard management model is there without a file too.
+bool isMim(const DtFilename& file, DtFomType type)
+{
+    return DtContainsSubstring(file, mimName(type)) && (type != DtFomUnknown || !file.exists());
+}
 } // namespace
 
-void DtAddMimIfMissing(std::vector<DtFilename>& files)
+DtModelFormats DtFormatsOf(const std::vector<DtFilename>& files)
 {
-    DtFomType firstType = DtFomUnknown;
+    DtModelFormats formats;
+    DtFomType ofMim = DtFomUnknown;
     for (const DtFilename& file : files)
     {
-        const DtFomType type = typeOf(file);
-        const bool isMimName = DtContainsSubstring(file, mimName(type)) && !file.exists();
-        if (isMimName || (type != DtFomUnknown && DtContainsSubstring(file, mimName(type))))
-            return;
-        if (firstType == DtFomUnknown)
-            firstType = type;
+        const DtFomType type = DtFedReader::checkFomType(file, DtFedReader::openFedFile(file, false), false);
+        const bool isThisMim = isMim(file, type);
+        formats.hasMim = formats.hasMim || isThisMim;
+        DtFomType& kept = isThisMim ? ofMim : formats.first;
+        kept = kept == DtFomUnknown ? type : kept;
     }
-    files.emplace_back(mimName(firstType == DtFomUnknown ? DtFomEvolved : firstType));
+    if (formats.first == DtFomUnknown)
+        formats.first = ofMim;
+    return formats;
+}
+
+void DtAddMimIfMissing(std::vector<DtFilename>& files, const DtModelFormats& formats)
+{
+    if (!formats.hasMim)
+        files.emplace_back(mimName(formats.first == DtFomUnknown ? DtFomEvolved : formats.first));
 }
 
 DtLoadedModel DtLoadModel(const std::vector<DtFilename>& files, bool includeMim)
@@ -38,20 +46,21 @@ DtLoadedModel DtLoadModel(const std::vector<DtFilename>& files, bool includeMim)
     if (files.empty())
         return model;
     model.files = files;
-    model.type = typeOf(files.front());
+    const DtModelFormats formats = DtFormatsOf(files);
+    model.type = formats.first;
     DtOMTEnvReader reader;
     bool ok = false;
     DtOMTTree* tree = nullptr;
     if (files.size() == 1)
     {
-        if (includeMim && model.type >= DtFomEvolved)
+        if (includeMim && model.type >= DtFomEvolved && !formats.hasMim)
             model.files.insert(model.files.begin(), mimName(model.type));
         tree = reader.readMultipleFiles(model.files, ok, model.type);
     }
     else
     {
         if (includeMim)
-            DtAddMimIfMissing(model.files);
+            DtAddMimIfMissing(model.files, formats);
         // The reader of several files asks for the extension of the first one, which of modules may also be "fdd".
         const bool isXml = files.front().extension() == "xml";
         tree = isXml ? reader.readFiles(model.files, ok) : reader.readMultipleFiles(model.files, ok, model.type);

@@ -9,6 +9,7 @@
 #include "fileGenerator/settings.h"
 #include "fileGenerator/toolkitLayouts.h"
 #include "fileGenerator/valueForm.h"
+#include "foundation/perRun.h"
 #include "foundation/stringUtils.h"
 
 #include <algorithm>
@@ -17,7 +18,11 @@
 namespace
 {
 
-DtCCompatibleNames theNames;
+// The numbers of long names, which all writers of classes share.
+DtCCompatibleNames& sharedNames()
+{
+    return DtPerRun<DtCCompatibleNames, DtClassFileWriter>();
+}
 
 // No identifier form of a name this short is over the limit of 100 characters: a character becomes two at most, and a
 // keyword gets three more in front.
@@ -30,7 +35,7 @@ const DtDataTypeMapper& mapper()
 
 DtString identifier(const DtString& text)
 {
-    return theNames.MakeCCompatibleString(text);
+    return sharedNames().MakeCCompatibleString(text);
 }
 
 DtString decimal(unsigned int number)
@@ -66,13 +71,13 @@ bool isReservedName(const DtString& name)
     return isCPlusPlusKeyword(DtFirstCharToLower(name));
 }
 
-DtString lowerAttributeName(const DtString& name, DtCCompatibleNames& names = theNames)
+DtString lowerAttributeName(const DtString& name, DtCCompatibleNames& names = sharedNames())
 {
     return names.MakeCCompatibleString(isReservedName(name) ? "the" + DtFirstCharToUpper(name)
                                                             : DtFirstCharToLowerConditional(name));
 }
 
-DtString upperAttributeName(const DtString& name, DtCCompatibleNames& names = theNames)
+DtString upperAttributeName(const DtString& name, DtCCompatibleNames& names = sharedNames())
 {
     return names.MakeCCompatibleString((isReservedName(name) ? "The" : "") + DtFirstCharToUpper(name));
 }
@@ -492,7 +497,7 @@ DtString DtClassFileWriter::identifierOf(const DtString& name)
 
 DtCCompatibleNames DtClassFileWriter::namesSoFar()
 {
-    return theNames;
+    return sharedNames();
 }
 
 DtAccessorNames DtClassFileWriter::accessorNamesOf(const DtString& attribute, DtCCompatibleNames& names)

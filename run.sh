@@ -3,6 +3,7 @@
 #   ./run.sh              generates from the sample model into out/
 #   ./run.sh window       opens the window
 #   ./run.sh OPTIONS      hands the options to the program and ends with its exit code
+#   ./run.sh qxgen ...    builds and runs the program for builds in its place, where the user stands
 #   ./run.sh -q ...       any of these, without a word on what is installed, built and left to do
 # Paths after -O, -P and -F count from where the user stands, although the program runs in bin/.
 # QX_RUN_PROGRAM names, by an absolute path, a program to start in place of the one that is built here; nothing is
@@ -22,19 +23,25 @@ say() { # text
     [ -n "$QX_QUIET" ] || echo "$1" >&2
 }
 
-build() {
+build() { # target
     local log="$top/build/run.log"
     "$top/.ci/setup" || exit
     mkdir -p "$top/build"
     say "building, log in $log"
-    (cd "$top" && cmake --preset release && cmake --build --preset release --target codeGen) >"$log" 2>&1 || {
+    (cd "$top" && cmake --preset release && cmake --build --preset release --target "$1") >"$log" 2>&1 || {
         cat "$log" >&2
         exit 2
     }
 }
 
+if [ "${1-}" = qxgen ]; then
+    shift
+    [ -n "${QX_RUN_PROGRAM-}" ] || build qxgen
+    exec "${QX_RUN_PROGRAM:-$top/bin/qxgen}" "$@"
+fi
+
 program=${QX_RUN_PROGRAM:-./codeGen}
-[ -n "${QX_RUN_PROGRAM-}" ] || build
+[ -n "${QX_RUN_PROGRAM-}" ] || build codeGen
 
 # A model that is not there stays as it is, so that the program can search for it.
 absolute() { # option value

@@ -36,11 +36,15 @@ run() { # options
     (cd "$user" && "$work/top/run.sh" "$@")
 }
 
-# What the program must have been given, one expected argument each.
+# What the program must have been given, one expected argument each, and where it must have stood.
 expect() { # test arguments
-    local test=$1 expected
-    shift
-    expected=$(printf '%s\n' "$work/top/bin"; for argument; do printf '<%s>\n' "$argument"; done)
+    expect_at "$work/top/bin" "$@"
+}
+
+expect_at() { # directory test arguments
+    local directory=$1 test=$2 expected
+    shift 2
+    expected=$(printf '%s\n' "$directory"; for argument; do printf '<%s>\n' "$argument"; done)
     if [ "$expected" = "$(cat "$QX_NOTES")" ]; then
         echo "PASS: $test"
     else
@@ -86,6 +90,11 @@ expect windowStartsWithoutOptions
 
 run window -F here.xml
 expect windowTakesOptions -F "$user/here.xml"
+
+run qxgen generate here.xml -o out
+expect_at "$user" qxgenRunsWhereTheUserStands generate here.xml -o out
+run -q qxgen --help
+expect_at "$user" qxgenMayBeQuiet --help
 
 run
 expect noOptionsGenerateFromACopyOfTheSample --generate --all --outputDir "$work/top/out/sample" \

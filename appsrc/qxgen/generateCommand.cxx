@@ -4,6 +4,10 @@
 
 #include "modelTools/dataDirectory.h"
 #include "modelTools/generateTool.h"
+#include "modelTools/inputWatch.h"
+#include "modelTools/outputException.h"
+
+#include <QtCore/QCoreApplication>
 
 #include <iostream>
 #include <map>
@@ -19,7 +23,7 @@ struct DtGenerateLine
     std::string prefix, includeDirectory, nameSpace;
     bool generatesDis = false, generatesExamples = false;
     bool isDryRun = false, isVerified = false, isListed = false;
-    bool isQuiet = false, isVerbose = false, fails = false;
+    bool isQuiet = false, isVerbose = false, fails = false, isWatching = false;
 };
 
 const std::map<std::string, DtCppLayout> theLayouts = {
@@ -101,6 +105,9 @@ void addOutputOptions(CLI::App& command, DtGenerateLine& line)
     command.add_option("--depfile", options.depfile, "Dependency file in the syntax of make; needs --stamp")
         ->type_name("FILE");
     command.add_option("--stamp", options.stamp, "Written when all is done")->type_name("FILE");
+    command.add_option("--report", options.report, "What the run has done, as JSON, or as a page if it ends in .html")
+        ->type_name("FILE");
+    command.add_flag("--watch", line.isWatching, "Again whenever an input changes; Ctrl-C ends it");
     command.add_flag("--no-wait", line.fails, "Fail when another run holds the output directory");
 }
 
@@ -132,6 +139,8 @@ void checkLine(const DtGenerateLine& line)
         refuse("no output directory is given; -o DIR names it.");
     if (line.isDryRun + line.isVerified + line.isListed > 1)
         refuse("--dry-run, --verify and --list exclude one another.");
+    if (line.isWatching && line.isDryRun + line.isVerified + line.isListed > 0)
+        refuse("--watch writes the output, so it goes with none of --dry-run, --verify and --list.");
     if (!options.depfile.empty() && options.stamp.empty())
         refuse("--depfile needs --stamp, which is its target.");
     if (line.isQuiet && line.isVerbose)
@@ -156,6 +165,41 @@ void addSettings(const CLI::App& command, DtGenerateLine& line)
     all.insert(all.begin(), settings.begin(), settings.end());
 }
 
+// One run. A watch goes on behind a failed one, so it ends here.
+void runWatched(DtGenerateTool& tool)
+{
+    try
+    {
+        tool.run();
+    }
+    catch (const DtToolFailure& failure)
+    {
+        std::cerr << "qxgen: error: " << failure.what() << std::endl;
+    }
+    catch (const DtOutputException& failure)
+    {
+        std::cerr << "qxgen: error: " << failure.path().string() << ": " << failure.reason() << std::endl;
+    }
+}
+
+[[noreturn]] DtExitCode watch(const DtGenerateOptions& options)
+{
+    int count = 1;
+    char name[] = "qxgen";
+    char* arguments[] = {name, nullptr};
+    const QCoreApplication application(count, arguments);
+    DtInputWatch inputs;
+    for (;;)
+    {
+        inputs.note();
+        DtGenerateTool tool(options, std::cout, std::cerr);
+        runWatched(tool);
+        inputs.add(tool.inputs()); // a failed run may have come to a few only
+        std::cerr << "qxgen: watching " << inputs.count() << " files" << std::endl;
+        inputs.waitForChange();
+    }
+}
+
 DtExitCode generate(const CLI::App& command, DtGenerateLine& line)
 {
     checkLine(line);
@@ -168,7 +212,7 @@ DtExitCode generate(const CLI::App& command, DtGenerateLine& line)
     options.telling = line.isQuiet ? DtTelling::Quiet : line.isVerbose ? DtTelling::Verbose : DtTelling::Normal;
     options.waitsForLock = !line.fails;
     options.request.dataDirectory = DtFindDataDirectory(line.dataDirectory);
-    return DtGenerateTool(options, std::cout, std::cerr).run();
+    return line.isWatching ? watch(options) : DtGenerateTool(options, std::cout, std::cerr).run();
 }
 } // namespace
 

@@ -53,7 +53,7 @@ void writeWhole(const std::string& path, const std::string& text)
 } // namespace
 
 DtGenerateTool::DtGenerateTool(const DtGenerateOptions& options, std::ostream& out, std::ostream& err)
-    : myOptions(options), myOut(out), myErr(err), myStart(DtSteadySeconds())
+    : myOptions(options), myOut(out), myErr(err), myStart(DtSteadySeconds()), myStepStart(myStart)
 {
 }
 
@@ -88,11 +88,14 @@ DtExitCode DtGenerateTool::runInto(DtOutputStage& stage)
         tell(diagnostics);
         throw;
     }
+    if (!myOptions.report.empty())
+        myReport.setFiles(stage.files(), stage.differences());
     const bool hasErrors = diagnostics.count(DtSeverity::Error) > 0;
     const bool hasFindings = myOptions.warningsAreErrors && diagnostics.count(DtSeverity::Warning) > 0;
     if (hasErrors || hasFindings)
     {
         tell(diagnostics);
+        writeReport(diagnostics);
         return DtExitCode::Findings;
     }
     if (myOptions.use == DtOutputUse::List)
@@ -106,7 +109,9 @@ DtExitCode DtGenerateTool::runInto(DtOutputStage& stage)
         return listDifferences(stage);
     }
     const DtCounts counts = commit(stage, diagnostics);
+    noteTime("commit");
     tell(diagnostics);
+    writeReport(diagnostics);
     writeDependencies();
     tellSummary(counts);
     return DtExitCode::Done;
@@ -123,7 +128,9 @@ void DtGenerateTool::generate(DtOutputStage& stage, DtDiagnostics& diagnostics)
     try
     {
         generation.load();
+        noteTime("load");
         generation.writeInto(stage.path());
+        noteTime("generate");
     }
     catch (...)
     {
@@ -131,6 +138,7 @@ void DtGenerateTool::generate(DtOutputStage& stage, DtDiagnostics& diagnostics)
         throw;
     }
     myInputs = generation.inputs();
+    myReport.setProject(generation.project());
     myIncludePath = DtSettings::instance().cpp.includePath();
     checkOutput(stage, diagnostics);
 }
@@ -237,6 +245,25 @@ void DtGenerateTool::writeDependencies() const
     }
     if (!myOptions.stamp.empty())
         writeWhole(myOptions.stamp, "");
+}
+
+// Of a run that changes nothing, because of what it has found, too.
+void DtGenerateTool::writeReport(const DtDiagnostics& diagnostics)
+{
+    if (myOptions.report.empty())
+        return;
+    myReport.outputDirectory = myOptions.outputDirectory;
+    myReport.setInputs(myInputs);
+    myReport.diagnostics = diagnostics.all();
+    myReport.times.emplace_back("total", DtSteadySeconds() - myStart);
+    writeWhole(myOptions.report, myReport.textFor(myOptions.report));
+}
+
+void DtGenerateTool::noteTime(const char* step)
+{
+    const double now = DtSteadySeconds();
+    myReport.times.emplace_back(step, now - myStepStart);
+    myStepStart = now;
 }
 
 bool DtGenerateTool::isColored() const

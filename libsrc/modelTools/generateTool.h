@@ -4,6 +4,7 @@
 #include "modelTools/diagnostics.h"
 #include "modelTools/modelGeneration.h"
 #include "modelTools/outputStage.h"
+#include "modelTools/runReport.h"
 #include "modelTools/toolFailure.h"
 
 #include <iosfwd>
@@ -79,6 +80,8 @@ private:
     void tell(const DtDiagnostics& diagnostics) const;
     void tellSummary(const DtCounts& counts) const;
     void writeDependencies() const;
+    void writeReport(const DtDiagnostics& diagnostics);
+    void noteTime(const char* step);
     bool isColored() const;
 
     DtGenerateOptions myOptions;
@@ -86,7 +89,9 @@ private:
     std::ostream& myErr;
     std::set<std::string> myInputs;
     DtString myIncludePath; // of the generated headers
-    double myStart;         // seconds of a clock that does not jump
+    DtRunReport myReport;
+    double myStart;     // seconds of a clock that does not jump
+    double myStepStart; // likewise
 };
 
 #endif

@@ -1,5 +1,6 @@
 #include "modelTools/inputWatch.h"
 
+#include <QtCore/QDir>
 #include <QtCore/QEventLoop>
 #include <QtCore/QFile>
 #include <QtCore/QFileInfo>

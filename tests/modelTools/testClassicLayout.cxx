@@ -3,6 +3,7 @@
 
 #include "registerTest.h"
 
+#include "fileGenerator/progressMeter.h"
 #include "modelTools/modelGeneration.h"
 #include "modelTools/toolFailure.h"
 #include "scratchProgram.h"

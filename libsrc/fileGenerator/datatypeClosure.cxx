@@ -4,7 +4,7 @@
 #include "fileGenerator/dataTypeMapper.h"
 #include "foundation/exception.h"
 #include "foundation/outputStream.h"
-#include "omtReader/omtTree.h"
+#include "omtReader/visitDatatype.h"
 
 #include <memory>
 
@@ -120,6 +120,7 @@ void DtDatatypeClosure::insertMemberDatatypes(const std::set<DtOmtObject>& objec
 // datatypes. An enumeration adds nothing.
 std::vector<DtString> DtDatatypeClosure::subDatatypes(const DtString& name) const
 {
+    static_assert(theFamilyCount == 7, "A new family of datatypes may be made of others");
     std::vector<DtString> datatypes;
     if (const DtArrayDatatypeNode* array = myTree->getArrayDatatypeNode(name))
         datatypes.push_back(array->getDatatype());

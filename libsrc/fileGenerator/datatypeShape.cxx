@@ -52,6 +52,7 @@ private:
     {
         if (depth > theMostDepth || ++mySteps > theMostSteps)
             return faulty("holds itself or too many records");
+        static_assert(theFamilyCount == 7, "A new family of datatypes may have components");
         const DtString name = belowSimpleTypes(datatype, myTree);
         if (const DtFixedDatatypeNode* record = myTree.getFixedDatatypeNode(name))
             return ofRecord(*record, depth);

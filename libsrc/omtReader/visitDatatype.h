@@ -32,6 +32,10 @@ inline constexpr std::tuple theDatatypeLookups{
     DtDatatypeLookup<DtVariantDatatypeNode>{&DtOMTTree::getVariantDatatypeNode},
 };
 
+// For the places that ask for the families themselves, in an order of their own: they state how many they know, so that
+// the compiler names them too when there is one more.
+inline constexpr std::size_t theFamilyCount = std::tuple_size_v<decltype(theDatatypeLookups)>;
+
 // What a visitor gets in place of a node for a name that no family knows.
 struct DtUnknownDatatype
 {

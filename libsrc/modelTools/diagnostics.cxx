@@ -126,5 +126,9 @@ void DtDiagnostics::take(const DtWarning& warning)
 {
     std::string text = withoutPrefix(warning.text.stdString(), "Warning: ");
     text.erase(text.find_last_not_of("\n ") + 1);
-    myDiagnostics.push_back({DtSeverity::Warning, {}, text, warning.rule.id, warning.subject});
+    DtDiagnostic diagnostic;
+    diagnostic.text = text;
+    diagnostic.rule = warning.rule.id;
+    diagnostic.subject = warning.subject;
+    myDiagnostics.push_back(std::move(diagnostic));
 }

@@ -31,14 +31,14 @@ bool isTerminal()
     return isatty(STDERR_FILENO) == 1;
 }
 
-DtDiagnostic errorAt(const std::string& path, const std::string& text, const char* rule)
+DtDiagnostic diagnosticAt(const std::string& path, DtSeverity severity, const std::string& text, const char* rule)
 {
-    DtDiagnostic error;
-    error.severity = DtSeverity::Error;
-    error.place.file = path;
-    error.text = text;
-    error.rule = rule;
-    return error;
+    DtDiagnostic diagnostic;
+    diagnostic.severity = severity;
+    diagnostic.place.file = path;
+    diagnostic.text = text;
+    diagnostic.rule = rule;
+    return diagnostic;
 }
 
 void writeWhole(const std::string& path, const std::string& text)
@@ -154,13 +154,13 @@ void DtGenerateTool::checkOutput(const DtOutputStage& stage, DtDiagnostics& diag
     const std::vector<std::string> listed = DtListedOutputs(stage.path(), paths);
     const auto search = [&tokens](const std::string&, const std::string& text) { return tokens.find(text); };
     for (const DtOutputProblem& problem : stage.check(search, listed))
-        diagnostics.add(errorAt(problem.path, problem.text(), "output-check"));
+        diagnostics.add(diagnosticAt(problem.path, DtSeverity::Error, problem.text(), "output-check"));
     if (listed.empty())
         return;
     const std::set<std::string> names(listed.begin(), listed.end());
     for (const std::string& file : DtOutputsToList(stage.files(), paths))
         if (names.count(file) == 0)
-            diagnostics.add(errorAt(file, "is in no list of files", "output-check"));
+            diagnostics.add(diagnosticAt(file, DtSeverity::Error, "is in no list of files", "output-check"));
 }
 
 DtExitCode DtGenerateTool::listFiles(const DtOutputStage& stage) const
@@ -188,15 +188,12 @@ DtGenerateTool::DtCounts DtGenerateTool::commit(DtOutputStage& stage, DtDiagnost
     DtCounts counts;
     counts.files = stage.files().size();
     if (!stage.manifestDamage().empty())
-        diagnostics.add({DtSeverity::Warning, {}, stage.manifestDamage(), "manifest-damaged", {}});
+        diagnostics.add(diagnosticAt("", DtSeverity::Warning, stage.manifestDamage(), "manifest-damaged"));
     for (const DtOutputChange& change : stage.differences())
     {
         const std::string path = (fs::path(myOptions.outputDirectory) / change.path).string();
         if (*change.notice() != '\0')
-            diagnostics.add({
-                DtSeverity::Warning, {path, 0, 0},
-                 change.notice(), "edited-by-hand", { }
-            });
+            diagnostics.add(diagnosticAt(path, DtSeverity::Warning, change.notice(), "edited-by-hand"));
         if (!change.changesFolder())
             continue;
         ++(change.kind == DtChangeKind::Removed ? counts.removed : counts.written);

@@ -4,6 +4,7 @@
 #include "foundation/envXmlReader.h"
 #include "foundation/envXmlWriter.h"
 #include "foundation/outputStream.h"
+#include "foundation/warningRules.h"
 
 #include <cstdlib>
 #include <utility>
@@ -47,7 +48,7 @@ bool DtCodeGenInitializer::parseConfigFile(const DtString& file)
     return true;
 }
 
-// A missing key is named on DtWarn, so the order shows.
+// A missing key is warned of, so the order shows.
 void DtCodeGenInitializer::readSettings()
 {
     myLogFileName = getVariableValue("logFileName");
@@ -294,7 +295,8 @@ DtString DtCodeGenInitializer::getVariableValue(const DtString& name) const
     if (!isFound)
         value = getVariableValue(myDefaults, name, isFound);
     if (!isFound)
-        DtWarn << "Initializer: no var found with name: " << name << std::endl;
+        DtTellWarning(DtRules::missingSetting, DtSubject::setting(name),
+                      "Initializer: no var found with name: " + name + "\n");
     return value;
 }
 
@@ -339,7 +341,8 @@ bool DtCodeGenInitializer::storeValue(std::shared_ptr<DtEnvValue> node, const Dt
         node = env.addAttribute("value", "", env.addObject(name, "var", env.root()));
     if (node == nullptr)
     {
-        DtWarn << "Initializer: Error creating var with name: " << name << std::endl;
+        DtTellWarning(DtRules::settingNotStored, DtSubject::setting(name),
+                      "Initializer: Error creating var with name: " + name + "\n");
         return false;
     }
     node->setValue(value);

@@ -8,6 +8,7 @@
 #include "fileGenerator/settings.h"
 #include "foundation/perRun.h"
 #include "foundation/stringUtils.h"
+#include "foundation/warningRules.h"
 #include "omtReader/arrayDatatypeNode.h"
 
 static DtCCompatibleNames& names()
@@ -110,7 +111,10 @@ DtString DtArrayDataTypeFileWriter::encodingOrToken() const
     const DtString name = encodingName();
     if (!name.isEmpty())
         return name;
-    DtWarn << "Warning: Cannot find cardinality of " << myClassName << std::endl;
+    const DtArrayDatatypeNode* node = currentNode();
+    DtTellWarning(DtRules::unknownCardinality,
+                  node != nullptr ? DtSubject::datatype(node->getName()) : DtSubject::none(),
+                  "Warning: Cannot find cardinality of " + myClassName + "\n");
     return theEncodingToken;
 }
 

@@ -2,7 +2,8 @@
 
 #include "fileGenerator/dataTypeMapper.h"
 #include "foundation/environment.h"
-#include "foundation/outputStream.h"
+#include "foundation/warningRules.h"
+#include "omtReader/omtNode.h"
 
 std::map<DtString, int> DtCodedDataTypeFileWriter::myPlusAttributeCounts;
 
@@ -34,7 +35,7 @@ void DtCodedDataTypeFileWriter::determineDecodeability()
     for (const DtCompiledDatatype& compiled : myCompiledDatatypes)
     {
         enterDatatype(compiled);
-        determineDecodeabilityOfClass();
+        determineDecodeabilityOfClass(DtSubject::datatype(compiled.first->getName()));
     }
     setCurrentClass(className, attributes);
 }
@@ -74,7 +75,7 @@ void DtCodedDataTypeFileWriter::resetPlusAttributeCounts()
 
 // One value has room for a single length on the wire. A type can be marked and warned about for both causes; those that
 // use it learn of it through the mapper.
-void DtCodedDataTypeFileWriter::determineDecodeabilityOfClass()
+void DtCodedDataTypeFileWriter::determineDecodeabilityOfClass(const DtSubject& subject)
 {
     DtDataTypeMapper& mapper = *DtDataTypeMapper::instance();
     int count = 0;
@@ -87,8 +88,9 @@ void DtCodedDataTypeFileWriter::determineDecodeabilityOfClass()
             ++count;
             if (plusCount(attribute.nonVectorType()) > 0)
             {
-                DtWarn << "Warning: Cannot encode/decode attributes of type: " << myClassName
-                       << ": contains a + attribute of a type that contains a + attribute.\n";
+                DtTellWarning(DtRules::noEncoding, subject,
+                              "Warning: Cannot encode/decode attributes of type: " + myClassName +
+                                  ": contains a + attribute of a type that contains a + attribute.\n");
                 mapper.addNonEncodeableDataType(myClassName);
             }
         }
@@ -97,7 +99,7 @@ void DtCodedDataTypeFileWriter::determineDecodeabilityOfClass()
     myPlusAttributeCounts[myClassName] = count;
     if (count < 2 && !isBad)
         return;
-    DtWarn << "Warning: Cannot encode/decode data type " << myClassName << ".\n";
+    DtTellWarning(DtRules::noEncoding, subject, "Warning: Cannot encode/decode data type " + myClassName + ".\n");
     mapper.addNonEncodeableDataType(myClassName);
 }
 

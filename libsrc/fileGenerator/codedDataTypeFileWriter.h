@@ -2,6 +2,7 @@
 #define FILE_GENERATOR_CODED_DATA_TYPE_FILE_WRITER_H
 
 #include "fileGenerator/dataTypeFileWriter.h"
+#include "foundation/warning.h"
 
 #include <map>
 
@@ -29,7 +30,7 @@ public:
 private:
     struct DtTokens;
 
-    void determineDecodeabilityOfClass();
+    void determineDecodeabilityOfClass(const DtSubject& subject);
     static int plusCount(const DtString& type);
 
     static std::map<DtString, int> myPlusAttributeCounts; // class name to open attributes, nested ones included

@@ -3,7 +3,7 @@
 #include "fileGenerator/cCompatibleName.h"
 #include "fileGenerator/dataTypeMapper.h"
 #include "foundation/exception.h"
-#include "foundation/outputStream.h"
+#include "foundation/warningRules.h"
 #include "omtReader/visitDatatype.h"
 
 #include <memory>
@@ -50,9 +50,11 @@ const DtArrayShape* findShape(const DtArrayShape (&shapes)[N], int cardinalityTy
     return nullptr;
 }
 
-void warnUnknownEncoding(const DtString& item, const DtString& cardinality)
+void warnUnknownEncoding(const DtSubject& subject, const DtString& item, const DtString& cardinality,
+                         const DtString& start = DtString())
 {
-    DtWarn << "Unknown Encoding for: " << item << "\nCardinality: " << cardinality;
+    DtTellWarning(DtRules::unknownCardinality, subject,
+                  start + "Unknown Encoding for: " + item + "\nCardinality: " + cardinality);
 }
 
 template <typename Members>
@@ -148,7 +150,7 @@ void DtDatatypeClosure::makeArraysOf(const std::set<DtOmtObject>& objects)
         for (const DtAttributeFedNode* attribute : node->getAttributes())
         {
             if (attribute != nullptr)
-                mapToArray(*attribute);
+                mapToArray(*attribute, DtSubject::objectClass(object.fullName()));
         }
     }
 }
@@ -164,20 +166,21 @@ void DtDatatypeClosure::makeArraysOf(const std::set<DtOmtInteraction>& interacti
         for (const DtParameterFedNode* parameter : node->getParameters())
         {
             if (parameter != nullptr)
-                mapToArray(*parameter);
+                mapToArray(*parameter, DtSubject::interactionClass(interaction.fullName()));
         }
     }
 }
 
 // The mapping is by the member's own name, whatever its class: the first member of a name decides for all of them.
-void DtDatatypeClosure::mapToArray(const DtDatatypeFedNode& member)
+void DtDatatypeClosure::mapToArray(const DtDatatypeFedNode& member, const DtSubject& owner)
 {
     const DtString& name = member.getName();
     const DtString& cardinality = member.getCardinality();
     DtDataTypeMapper& mapper = *DtDataTypeMapper::instance();
     if (cardinality == "1" || mapper.hasMapping(name))
         return;
-    const DtString array = makeArrayOf(name, cardinality, member.getCardinalityType(), member.getDatatype());
+    const DtString array =
+        makeArrayOf(owner.member(name), name, cardinality, member.getCardinalityType(), member.getDatatype());
     if (!array.isEmpty())
         mapper.addMapping(name, array);
 }
@@ -185,9 +188,15 @@ void DtDatatypeClosure::mapToArray(const DtDatatypeFedNode& member)
 DtString DtDatatypeClosure::makeArrayOf(const DtString& itemName, const DtString& cardinality,
                                         DtDatatypeFedNode::DtCardinalityType type, const DtString& datatype)
 {
+    return makeArrayOf(DtSubject::datatype(datatype), itemName, cardinality, type, datatype);
+}
+
+DtString DtDatatypeClosure::makeArrayOf(const DtSubject& subject, const DtString& itemName, const DtString& cardinality,
+                                        DtDatatypeFedNode::DtCardinalityType type, const DtString& datatype)
+{
     if (const DtArrayShape* shape = findShape(theMemberShapes, type))
         return addArray(*shape, cardinality, datatype);
-    warnUnknownEncoding(itemName, cardinality);
+    warnUnknownEncoding(subject, itemName, cardinality);
     return DtString();
 }
 
@@ -196,12 +205,17 @@ void DtDatatypeClosure::makeArraysOf(const DtComplexDatatypeNode& node)
     for (DtComplexComponentNode* component : node.components())
     {
         if (hasArray(*component))
-            makeArrayOf(*component);
+            makeArrayOf(DtSubject::field(component->getName(), node.getName()), *component);
     }
 }
 
-// The component itself stays as it is when an array is made: its writer finds the array by building the same name.
 void DtDatatypeClosure::makeArrayOf(DtComplexComponentNode& component)
+{
+    makeArrayOf(DtSubject::datatype(component.getDatatype()), component);
+}
+
+// The component itself stays as it is when an array is made: its writer finds the array by building the same name.
+void DtDatatypeClosure::makeArrayOf(const DtSubject& subject, DtComplexComponentNode& component)
 {
     const DtString cardinality = component.getCardinality();
     const int type = component.getCardinalityType();
@@ -210,13 +224,12 @@ void DtDatatypeClosure::makeArrayOf(DtComplexComponentNode& component)
         addArray(*shape, cardinality, component.getDatatype());
         return;
     }
-    // An alternative becomes a single value, and the warning for unknown encodings follows its own.
-    if (type == 2)
-    {
+    // An alternative becomes a single value, and its warning starts with that.
+    const bool isAlternative = type == 2;
+    if (isAlternative)
         component.setCardinality("1");
-        DtWarn << "Variant datatype" << component.getName();
-    }
-    warnUnknownEncoding(component.getName(), cardinality);
+    warnUnknownEncoding(subject, component.getName(), cardinality,
+                        isAlternative ? "Variant datatype" + component.getName() : DtString());
 }
 
 DtString DtDatatypeClosure::arrayNameOf(const DtComplexComponentNode& component, DtCCompatibleNames& names)

@@ -4,6 +4,7 @@
 #include "fileGenerator/omtInteraction.h"
 #include "fileGenerator/omtObject.h"
 #include "foundation/string.h"
+#include "foundation/warning.h"
 #include "omtReader/datatypeFedNode.h"
 
 #include <set>
@@ -55,7 +56,11 @@ public:
 private:
     void insertMemberDatatypes(const std::set<DtOmtObject>& objects, const std::set<DtOmtInteraction>& interactions);
     std::vector<DtString> subDatatypes(const DtString& name) const;
-    void mapToArray(const DtDatatypeFedNode& member);
+    void mapToArray(const DtDatatypeFedNode& member, const DtSubject& owner);
+    // The subject is what the array is made for.
+    void makeArrayOf(const DtSubject& subject, DtComplexComponentNode& component);
+    DtString makeArrayOf(const DtSubject& subject, const DtString& itemName, const DtString& cardinality,
+                         DtDatatypeFedNode::DtCardinalityType type, const DtString& datatype);
     DtString addArray(const DtArrayShape& shape, const DtString& cardinality, const DtString& datatype);
 
     DtOMTTree* myTree;

@@ -6,6 +6,7 @@
 #include "fileGenerator/literalText.h"
 #include "fileGenerator/regularExpressionUtils.h"
 #include "foundation/stringUtils.h"
+#include "foundation/warningRules.h"
 
 #include <cstdlib>
 
@@ -78,8 +79,9 @@ void warnOfUnfit(const DtEnumeration& enumeration, const DtNumberForm& form)
     for (const DtEnumerationValue& value : enumeration.vals())
     {
         if (!fits(value.val(), form))
-            DtWarn << "Warning: Enumerator " << value.name() << " of " << enumeration.name()
-                   << " does not fit into its representation.\n";
+            DtTellWarning(DtRules::unfitEnumerator, DtSubject::enumerator(value.name(), enumeration.name()),
+                          "Warning: Enumerator " + value.name() + " of " + enumeration.name() +
+                              " does not fit into its representation.\n");
     }
 }
 
@@ -203,8 +205,9 @@ DtEnumerationFileWriter::DtNames DtEnumerationFileWriter::makeNames(const DtEnum
     names.isRepeated = !myTypeNames.insert(names.type).second;
     names.numberForm = enumeration.numberForm().octets > 0 ? enumeration.numberForm() : guessedForm(enumeration);
     if (names.isRepeated)
-        DtWarn << "Warning: Enumeration " << enumeration.name() << " is left out: another one is called " << names.type
-               << " too.\n";
+        DtTellWarning(DtRules::leftOutEnumeration, DtSubject::datatype(enumeration.name()),
+                      "Warning: Enumeration " + enumeration.name() + " is left out: another one is called " +
+                          names.type + " too.\n");
     warnOfUnfit(enumeration, names.numberForm);
     std::set<DtString> used;
     for (const DtEnumerationValue& value : enumeration.vals())
@@ -212,8 +215,9 @@ DtEnumerationFileWriter::DtNames DtEnumerationFileWriter::makeNames(const DtEnum
         const DtString name = asIdentifier(createEnumerationValueName(names.type, value));
         names.identifiers.push_back(unusedName(name, used));
         if (names.identifiers.back() != name)
-            DtWarn << "Warning: Enumerator " << value.name() << " of " << enumeration.name() << " is called "
-                   << names.identifiers.back() << ": another one is called " << name << " too.\n";
+            DtTellWarning(DtRules::renamedEnumerator, DtSubject::enumerator(value.name(), enumeration.name()),
+                          "Warning: Enumerator " + value.name() + " of " + enumeration.name() + " is called " +
+                              names.identifiers.back() + ": another one is called " + name + " too.\n");
     }
     return names;
 }

@@ -42,9 +42,10 @@ public:
 
 protected:
     // Makes the writers of all wanted rows of a table, in order. Each file name enters the list ahead of its writer.
+    // owner: the class of the model.
     template <typename Table, typename Generator, typename Record>
     void createWriters(const Table& table, const Generator& generator, const DtString& name, const Record& record,
-                       bool generateDis, std::set<DtString>& fileList)
+                       const DtSubject& owner, bool generateDis, std::set<DtString>& fileList)
     {
         for (const auto& row : table)
         {
@@ -52,7 +53,7 @@ protected:
                 continue;
             const DtString fileName = (generator.*row.stem)(name) + row.ending;
             if (!fileList.insert(fileName).second)
-                warnOfFile(fileName);
+                warnOfFile(fileName, owner);
             myWriters.push_back(row.make(fileName, DtString("../data/templates/") + row.templateName, record));
         }
     }

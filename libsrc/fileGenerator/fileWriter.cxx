@@ -12,6 +12,7 @@
 #include "foundation/fileUtils.h"
 #include "foundation/restored.h"
 #include "foundation/stringUtils.h"
+#include "foundation/warningRules.h"
 
 #include <algorithm>
 
@@ -144,7 +145,8 @@ void DtFileWriter::openOutput()
     const DtString path = outputDirectory() + name;
     if (!staysBelow(name, outputDirectory()))
     {
-        DtWarn << "File " << path << " is not written: it is outside of the output directory." << std::endl;
+        DtTellWarning(DtRules::outsideOutput, DtSubject::file(path),
+                      "File " + path + " is not written: it is outside of the output directory.\n");
         return;
     }
     myPrinter = std::make_unique<DtFilePrinter>(path.c_str());
@@ -302,7 +304,8 @@ void DtFileWriter::expandBlock(const DtString& header, DtTemplateStream& body, c
 {
     if (myBlockDepth >= theMaximumBlockDepth)
     {
-        warnOnce(myHasWarnedOfBlocks, "Template blocks are nested too deep; the innermost are left out.");
+        warnOnce(myHasWarnedOfBlocks, body.fileName(),
+                 "Template blocks are nested too deep; the innermost are left out.");
         return;
     }
     const DtRestored deeper(myBlockDepth, myBlockDepth + 1);
@@ -398,14 +401,15 @@ bool DtFileWriter::mayOpen(const std::string& path)
     const bool isOpen = std::find(myOpenFiles.begin(), myOpenFiles.end(), path) != myOpenFiles.end();
     if (!isOpen || (myOpenFiles.size() < theMaximumFileDepth && !myHasWarnedOfFiles))
         return true;
-    warnOnce(myHasWarnedOfFiles, "Template file " + DtString(path) + " includes itself; left out at depth 64.");
+    warnOnce(myHasWarnedOfFiles, path, "Template file " + DtString(path) + " includes itself; left out at depth 64.");
     return false;
 }
 
-void DtFileWriter::warnOnce(bool& hasWarned, const DtString& text)
+void DtFileWriter::warnOnce(bool& hasWarned, const DtString& templateFile, const DtString& text)
 {
     if (!hasWarned)
-        DtWarn << text << std::endl;
+        DtTellWarning(DtRules::templateTooDeep,
+                      templateFile.isEmpty() ? DtSubject::none() : DtSubject::file(templateFile), text + "\n");
     hasWarned = true;
 }
 

@@ -115,7 +115,7 @@ private:
     void handleBlock(std::istream& in, char delimiter);
     void expandBlock(const DtString& header, DtTemplateStream& body, char delimiter);
     bool mayOpen(const std::string& path);
-    void warnOnce(bool& hasWarned, const DtString& text);
+    void warnOnce(bool& hasWarned, const DtString& templateFile, const DtString& text);
 
     DtString myLine;                      // the piece on its way out
     std::vector<std::string> myOpenFiles; // of the file blocks around the current position, outermost first

@@ -56,7 +56,8 @@ DtInteractionFileGenerator::DtInteractionFileGenerator(const DtString& name, std
 {
     const auto makeAll = [&]
     {
-        createWriters(theOutputs, *this, name, interaction, myGenerateDis, fileList);
+        createWriters(theOutputs, *this, name, interaction, DtSubject::interactionClass(interaction.fullName()),
+                      myGenerateDis, fileList);
         initializeWriters(name, myOmtProject);
         // The examples of an interaction are made for HLA only, whatever else is: nothing tells them of DIS.
         if (myGenerateExamples)

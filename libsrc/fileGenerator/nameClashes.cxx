@@ -2,8 +2,8 @@
 
 #include "fileGenerator/cCompatibleName.h"
 #include "fileGenerator/classFileWriter.h"
-#include "foundation/outputStream.h"
 #include "foundation/stringUtils.h"
+#include "foundation/warningRules.h"
 
 #include <algorithm>
 
@@ -27,12 +27,14 @@ bool isIdentifier(const DtString& name)
 void DtClassNameClashes::add(const DtString& datatype, const DtString& className)
 {
     if (!isIdentifier(className))
-        DtWarn << "Warning: Datatype " << datatype << " is called " << className
-               << " in C++, which is no identifier.\n";
+        DtTellWarning(DtRules::noIdentifier, DtSubject::datatype(datatype),
+                      "Warning: Datatype " + datatype + " is called " + className +
+                          " in C++, which is no identifier.\n");
     const auto [first, isNew] = myDatatypes.emplace(className, datatype);
     if (!isNew && first->second != datatype)
-        DtWarn << "Warning: Datatypes " << first->second << " and " << datatype << " are both called " << className
-               << " in C++.\n";
+        DtTellWarning(DtRules::nameClash, DtSubject::datatype(datatype),
+                      "Warning: Datatypes " + first->second + " and " + datatype + " are both called " + className +
+                          " in C++.\n");
 }
 
 void DtHeldDatatypes::add(const DtString& datatype, const std::vector<DtString>& members)
@@ -70,36 +72,43 @@ void DtHeldDatatypes::warn() const
     }
     for (const auto& [datatype, count] : counts)
         if (count != 0)
-            DtWarn << "Warning: Datatype " << datatype << " holds itself, or one that does, which no C++ class can.\n";
+            DtTellWarning(DtRules::recursiveDatatype, DtSubject::datatype(datatype),
+                          "Warning: Datatype " + datatype +
+                              " holds itself, or one that does, which no C++ class can.\n");
 }
 
 void warnOfNamesake(const DtString& datatype, const DtString& statedName, const DtString& identifier)
 {
-    DtWarn << "Warning: Datatype " << datatype << " is called " << identifier << " in C++: the toolkit has a "
-           << statedName << " of its own. A class prefix or a namespace gives generated code other names.\n";
+    DtTellWarning(DtRules::toolkitName, DtSubject::datatype(datatype),
+                  "Warning: Datatype " + datatype + " is called " + identifier + " in C++: the toolkit has a " +
+                      statedName + " of its own. A class prefix or a namespace gives generated code other names.\n");
 }
 
-void warnOfParent(const DtString& className, const DtString& parent, bool isSelected, const DtString& parentName)
+void warnOfParent(const DtSubject& subclass, const DtString& parent, bool isSelected, const DtString& parentName)
 {
     if (!isSelected)
-        DtWarn << "Warning: " << className << " needs the files of " << parent << ", which is not selected.\n";
+        DtTellWarning(DtRules::parentNotSelected, subclass,
+                      "Warning: " + subclass.name + " needs the files of " + parent + ", which is not selected.\n");
     if (!isIdentifier(parentName))
-        DtWarn << "Warning: " << className << " calls its parent " << parentName
-               << " in C++, which is no identifier.\n";
+        DtTellWarning(DtRules::noIdentifier, subclass,
+                      "Warning: " + subclass.name + " calls its parent " + parentName +
+                          " in C++, which is no identifier.\n");
 }
 
-void warnOfFile(const DtString& fileName)
+void warnOfFile(const DtString& fileName, const DtSubject& owner)
 {
-    DtWarn << "Warning: File " << fileName << " is written a second time: two classes are called alike in C++.\n";
+    DtTellWarning(DtRules::nameClash, owner,
+                  "Warning: File " + fileName + " is written a second time: two classes are called alike in C++.\n");
 }
 
 void warnOfBaseName(const DtString& base, const DtString& macroPart)
 {
     if (!isIdentifier(macroPart))
-        DtWarn << "Warning: " << base << " is called " << macroPart << " in C++, which is no identifier.\n";
+        DtTellWarning(DtRules::noIdentifier, DtSubject::none(),
+                      "Warning: " + base + " is called " + macroPart + " in C++, which is no identifier.\n");
 }
 
-void warnOfMemberNames(const DtString& owner, const std::vector<DtString>& names)
+void warnOfMemberNames(const DtSubject& owner, const std::vector<DtString>& names)
 {
     std::map<DtString, DtString> getters;
     std::map<DtString, DtString> setters;
@@ -110,10 +119,12 @@ void warnOfMemberNames(const DtString& owner, const std::vector<DtString>& names
         const auto [getter, isNewGetter] = getters.emplace(accessors.getter, name);
         const auto [setter, isNewSetter] = setters.emplace(accessors.setter, name);
         if (!isNewGetter || !isNewSetter)
-            DtWarn << "Warning: Members " << (isNewGetter ? setter : getter)->second << " and " << name << " of "
-                   << owner << " are called alike in C++.\n";
+            DtTellWarning(DtRules::nameClash, owner.member(name),
+                          "Warning: Members " + (isNewGetter ? setter : getter)->second + " and " + name + " of " +
+                              owner.name + " are called alike in C++.\n");
         else if (!isIdentifier(accessors.getter))
-            DtWarn << "Warning: Member " << name << " of " << owner << " is called " << accessors.getter
-                   << " in C++, which is no identifier.\n";
+            DtTellWarning(DtRules::noIdentifier, owner.member(name),
+                          "Warning: Member " + name + " of " + owner.name + " is called " + accessors.getter +
+                              " in C++, which is no identifier.\n");
     }
 }

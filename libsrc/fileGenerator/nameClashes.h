@@ -1,12 +1,12 @@
 #ifndef FILE_GENERATOR_NAME_CLASHES_H
 #define FILE_GENERATOR_NAME_CLASHES_H
 
-#include "foundation/string.h"
+#include "foundation/warning.h"
 
 #include <map>
 #include <vector>
 
-// Tells on the warning stream which names of a model cannot stand in C++ side by side, or not at all. The code is
+// Warns which names of a model cannot stand in C++ side by side, or not at all. The code is
 // written all the same: what the warning names does not compile, or one of the two takes the other's place.
 
 // Warns of datatypes whose classes are called alike, such as two that differ in the case of the first letter only.
@@ -38,16 +38,16 @@ void warnOfNamesake(const DtString& datatype, const DtString& statedName, const 
 
 // Warns of a class whose parent has no files that it could include: the parent was not selected, or its files bear
 // another name than the class includes.
-void warnOfParent(const DtString& className, const DtString& parent, bool isSelected, const DtString& parentName);
+void warnOfParent(const DtSubject& subclass, const DtString& parent, bool isSelected, const DtString& parentName);
 
-// Warns of a file that the run writes a second time, for another class of the same name.
-void warnOfFile(const DtString& fileName);
+// Warns of a file that the run writes a second time, for another class of the same name. owner: the later of the two.
+void warnOfFile(const DtString& fileName, const DtSubject& owner);
 
 // Warns when the name of the model or project, of which macros are made, gives no identifier.
 void warnOfBaseName(const DtString& base, const DtString& macroPart);
 
 // Warns of members of one class or record whose accessors are called alike, and of members whose names are no
 // identifiers.
-void warnOfMemberNames(const DtString& owner, const std::vector<DtString>& names);
+void warnOfMemberNames(const DtSubject& owner, const std::vector<DtString>& names);
 
 #endif

@@ -2,9 +2,9 @@
 
 #include "fileGenerator/dataTypeMapper.h"
 #include "fileGenerator/memberTypes.h"
-#include "foundation/outputStream.h"
 #include "foundation/perRun.h"
 #include "foundation/stringUtils.h"
+#include "foundation/warningRules.h"
 #include "omtReader/basicDataRepresentationNode.h"
 #include "omtReader/omtTree.h"
 
@@ -161,8 +161,9 @@ void warnOfByteOrders(const DtOMTTree& tree)
         const DtString& name = node->getName();
         const DtString& endian = node->getEndian();
         if (!isKnownByteOrder(endian) && told.emplace(name, endian).second)
-            DtWarn << "Warning: The byte order of " << name << " is \"" << endian
-                   << "\", which is neither Big nor Little. It is taken for Big.\n";
+            DtTellWarning(DtRules::unknownByteOrder, DtSubject::datatype(name),
+                          "Warning: The byte order of " + name + " is \"" + endian +
+                              "\", which is neither Big nor Little. It is taken for Big.\n");
     }
 }
 

@@ -82,7 +82,8 @@ DtObjectFileGenerator::DtObjectFileGenerator(const DtString& name, std::set<DtSt
 {
     const auto makeAll = [&]
     {
-        createWriters(theOutputs, *this, name, object, generateDis, fileList);
+        createWriters(theOutputs, *this, name, object, DtSubject::objectClass(object.fullName()), generateDis,
+                      fileList);
         if (myGenerateExamples)
             createExamples(name, object);
         initializeWriters(name, myOmtProject);

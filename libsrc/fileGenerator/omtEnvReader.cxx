@@ -3,7 +3,7 @@
 #include "fileGenerator/settings.h"
 
 #include "foundation/exception.h"
-#include "foundation/outputStream.h"
+#include "foundation/warningRules.h"
 #include "omtReader/interactionClassFedNode.h"
 #include "omtReader/objectClassFedNode.h"
 #include "omtReader/omtFileReader.h"
@@ -17,18 +17,18 @@ namespace
 {
 
 // Says why there is no tree; texts of the reader may lack their line end.
-DtOMTTree* reported(DtOMTTree* tree, const DtString& error)
+DtOMTTree* reported(DtOMTTree* tree, const DtString& error, const DtFilename& file)
 {
     if (tree != nullptr || error.isEmpty())
         return tree;
     const bool hasLineEnd = error[error.length() - 1] == '\n';
-    DtWarn("%s%s", error.c_str(), hasLineEnd ? "" : "\n");
+    DtTellWarning(DtRules::unreadableModel, DtSubject::file(file), error + (hasLineEnd ? "" : "\n"));
     return nullptr;
 }
 
 DtOMTTree* reportedXml(DtOMTTree* tree, const DtXMLFileReader& reader)
 {
-    return reader.isErrorTold() ? tree : reported(tree, reader.getLastError());
+    return reader.isErrorTold() ? tree : reported(tree, reader.getLastError(), reader.lastFile());
 }
 
 DtOMTTree* readXmlFile(DtXMLFileReader& reader, const DtFilename& file)
@@ -49,11 +49,11 @@ DtOMTTree* readOmtFile(const DtFilename& file)
     DtOMTFileReader reader;
     try
     {
-        return reported(reader.readFile(file, nullptr), reader.getLastError());
+        return reported(reader.readFile(file, nullptr), reader.getLastError(), file);
     }
     catch (const DtOMTReadException&)
     {
-        return reported(nullptr, reader.getLastError());
+        return reported(nullptr, reader.getLastError(), file);
     }
 }
 

@@ -316,17 +316,17 @@ bool DtOMTEnvWriter::hasFiles(const DtFedNode& parent) const
 
 // What both kinds of classes have in common, once their generator stands.
 template <typename Members>
-void DtOMTEnvWriter::generateClass(DtFileGenerator& generator, const DtString& name, const DtFedNode* parent,
+void DtOMTEnvWriter::generateClass(DtFileGenerator& generator, const DtSubject& owner, const DtFedNode* parent,
                                    const DtString& parentName, const Members& members)
 {
     generator.setPduKind(myNextPduKind++);
-    generator.setFullClassName(name);
+    generator.setFullClassName(owner.name);
     if (parent != nullptr)
     {
         generator.setParentClassName(parentName);
-        warnOfParent(name, parent->getFullName(), hasFiles(*parent), parentName);
+        warnOfParent(owner, parent->getFullName(), hasFiles(*parent), parentName);
     }
-    warnOfMemberNames(name, namesOf(members));
+    warnOfMemberNames(owner, namesOf(members));
     addMembers(generator, members);
     generator.generateFiles();
 }
@@ -346,8 +346,8 @@ void DtOMTEnvWriter::addObjectToFile(DtString name, std::set<DtString>& done)
                                     *record, myProject != nullptr ? *myProject : DtOmtProject());
     done.insert(name);
     const DtFedNode* parent = node->getParentObject();
-    generateClass(generator, name, parent, parent != nullptr ? objectParentName(*parent) : DtString(),
-                  node->getAttributes());
+    generateClass(generator, DtSubject::objectClass(name), parent,
+                  parent != nullptr ? objectParentName(*parent) : DtString(), node->getAttributes());
 }
 
 void DtOMTEnvWriter::addInteractionToFile(DtString name, std::set<DtString>& done)
@@ -366,8 +366,8 @@ void DtOMTEnvWriter::addInteractionToFile(DtString name, std::set<DtString>& don
                                          myProject != nullptr ? *myProject : DtOmtProject());
     done.insert(name);
     const DtFedNode* parent = node->getParentObject();
-    generateClass(generator, name, parent, parent != nullptr ? interactionParentName(*parent) : DtString(),
-                  node->getParameters());
+    generateClass(generator, DtSubject::interactionClass(name), parent,
+                  parent != nullptr ? interactionParentName(*parent) : DtString(), node->getParameters());
 }
 
 void DtOMTEnvWriter::writeProjectFiles()

@@ -6,6 +6,7 @@
 #include "fileGenerator/settings.h"
 #include "foundation/fomType.h"
 #include "foundation/string.h"
+#include "foundation/warning.h"
 #include "omtReader/datatypeFedNode.h"
 
 #include <set>
@@ -135,7 +136,7 @@ private:
     DtString objectParentName(const DtFedNode& parent) const;
     bool hasFiles(const DtFedNode& parent) const; // of this run, or of the toolkit
     template <typename Members>
-    void generateClass(DtFileGenerator& generator, const DtString& name, const DtFedNode* parent,
+    void generateClass(DtFileGenerator& generator, const DtSubject& owner, const DtFedNode* parent,
                        const DtString& parentName, const Members& members);
     DtString interactionParentName(const DtFedNode& parent) const;
 

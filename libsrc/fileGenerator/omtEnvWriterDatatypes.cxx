@@ -244,7 +244,7 @@ void DtOMTEnvWriter::recordClassNames(DtClassNameClashes& shared, DtHeldDatatype
         classNames.add(name, DtDatatypeClassNames::classNameOfStem(stem));
         shared.add(name, classNames.className(name));
         held.add(name, Family::memberDatatypes(*node));
-        warnOfMemberNames(name, Family::memberNames(*node));
+        warnOfMemberNames(DtSubject::datatype(name), Family::memberNames(*node));
         Family::nameFurther(*node, names());
     }
 }

@@ -10,6 +10,7 @@
 #include "foundation/fileUtils.h"
 #include "foundation/outputStream.h"
 #include "foundation/stringUtils.h"
+#include "foundation/warningRules.h"
 
 #include <algorithm>
 #include <cstdio>
@@ -139,7 +140,8 @@ void DtOMTWriter::parseCommandFile(const DtString& path, cmdLineProc handler)
     const std::unique_ptr<FILE, DtFileCloser> file(DtFileOpen(DtDataFile(path).c_str(), "r"));
     if (file == nullptr)
     {
-        DtWarn << "Cannot open command file " << path << std::endl; // the assertion does not name it
+        DtTellWarning(DtRules::unreadableCommandFile, DtSubject::file(path),
+                      "Cannot open command file " + path + "\n"); // the assertion does not name it
         DT_ASSERT(false);
     }
     const DtInsideCommandFile inside(myOpenFiles, path, mySavedOutputDirectory);
@@ -147,8 +149,8 @@ void DtOMTWriter::parseCommandFile(const DtString& path, cmdLineProc handler)
     for (DtString line; readCommand(file.get(), line, hasCarriageReturn) && !meter().isCancelled();)
         (this->*handler)(line);
     if (hasCarriageReturn && myReportedFiles.insert(path).second)
-        DtWarn << "Command file " << path << ": the carriage returns at the ends of its lines are left out."
-               << std::endl;
+        DtTellWarning(DtRules::carriageReturns, DtSubject::file(path),
+                      "Command file " + path + ": the carriage returns at the ends of its lines are left out.\n");
 }
 
 void DtOMTWriter::executeCommandLine_prepare(const DtString& line)
@@ -209,7 +211,9 @@ void DtOMTWriter::run(const Command& command, const DtString& line)
 void DtOMTWriter::reportIncomplete(const DtString& line)
 {
     if (myReportedLines.insert(line).second)
-        DtWarn << "Command without its arguments: " << line << std::endl;
+        DtTellWarning(DtRules::incompleteCommand,
+                      myOpenFiles.empty() ? DtSubject::none() : DtSubject::file(myOpenFiles.back()),
+                      "Command without its arguments: " + line + "\n");
 }
 
 void DtOMTWriter::includeFile(const DtString& line, cmdLineProc handler)
@@ -229,7 +233,8 @@ bool DtOMTWriter::mayInclude(const DtString& path)
     if (myOpenFiles.size() <= theMaximumDepth && !(isOpen && myHasMetLimit))
         return true;
     if (!myHasWarnedOfLimit)
-        DtWarn << "Command file " << path << " is included too deep; left out at depth 64." << std::endl;
+        DtTellWarning(DtRules::commandFileTooDeep, DtSubject::file(path),
+                      "Command file " + path + " is included too deep; left out at depth 64.\n");
     myHasMetLimit = true;
     myHasWarnedOfLimit = true;
     return false;

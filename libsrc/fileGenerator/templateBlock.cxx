@@ -1,7 +1,7 @@
 #include "fileGenerator/templateBlock.h"
 
 #include "fileGenerator/tokenPass.h"
-#include "foundation/outputStream.h"
+#include "foundation/warningRules.h"
 
 #include <algorithm>
 #include <memory>
@@ -77,7 +77,7 @@ bool DtTemplateBlock::acceptOpening() const
     const bool isLoop = delimiter == '#';
     if (isLoop && line.empty())
     {
-        DtWarn << "Problem Handling For Loop empty string." << std::endl;
+        DtTellWarning(DtRules::templateBlock, DtSubject::none(), "Problem Handling For Loop empty string.\n");
         return false;
     }
     const bool isOpening = line.size() >= 2 && line[0] == '<' && line[1] == delimiter;
@@ -141,5 +141,6 @@ DtBlockLease::~DtBlockLease()
 
 void DtWarnOfBlock(std::string_view line)
 {
-    DtWarn << "Problem Handling For Loop in line: " << line;
+    DtTellWarning(DtRules::templateBlock, DtSubject::none(),
+                  "Problem Handling For Loop in line: " + DtString(std::string(line)));
 }

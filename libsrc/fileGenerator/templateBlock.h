@@ -50,7 +50,7 @@ private:
     DtTemplateBlock* myBlock;
 };
 
-// "Problem Handling For Loop in line: " and the line, with no line end, on DtWarn. It stands for both kinds of block.
+// Warns with "Problem Handling For Loop in line: " and the line, with no line end. It stands for both kinds of block.
 void DtWarnOfBlock(std::string_view line);
 
 #endif

@@ -2,9 +2,9 @@
 
 #include "fileGenerator/dataTypeMapper.h"
 #include "fileGenerator/datatypeShape.h"
-#include "foundation/outputStream.h"
 #include "foundation/perRun.h"
 #include "foundation/stringUtils.h"
+#include "foundation/warningRules.h"
 #include "omtReader/visitDatatype.h"
 
 #include <algorithm>
@@ -424,8 +424,9 @@ void DtToolkitLayouts::workOut(const DtOMTTree& tree, const std::set<DtString>& 
         const DtString type = toolkitTypeOf(datatype, tree);
         DtToolkitLayout layout = toolkitLayoutOf(datatype, type, tree);
         if (!layout.difference.isEmpty())
-            DtWarn << "Warning: Datatype " << datatype << " does not fit into " << type << ", which stands for it: it "
-                   << layout.difference << ". Its values are refused.\n";
+            DtTellWarning(DtRules::toolkitTypeDiffers, DtSubject::datatype(datatype),
+                          "Warning: Datatype " + datatype + " does not fit into " + type +
+                              ", which stands for it: it " + layout.difference + ". Its values are refused.\n");
         myLayouts[datatype] = std::move(layout);
     }
 }

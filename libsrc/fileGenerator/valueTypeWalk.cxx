@@ -3,7 +3,7 @@
 #include "fileGenerator/dataTypeMapper.h"
 #include "fileGenerator/settings.h"
 #include "foundation/filename.h"
-#include "foundation/outputStream.h"
+#include "foundation/warningRules.h"
 
 namespace
 {
@@ -15,7 +15,8 @@ bool modelHasDatatypeTables()
 
 void warnUnknownType(const DtString& datatype)
 {
-    DtWarn << "Warning: Cannot determine type: " << datatype << ".\n";
+    DtTellWarning(DtRules::undeterminedType, DtSubject::datatype(datatype),
+                  "Warning: Cannot determine type: " + datatype + ".\n");
 }
 } // namespace
 

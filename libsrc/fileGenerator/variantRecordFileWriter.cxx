@@ -9,6 +9,7 @@
 #include "fileGenerator/numberForm.h"
 #include "foundation/perRun.h"
 #include "foundation/stringUtils.h"
+#include "foundation/warningRules.h"
 #include "omtReader/omtTree.h"
 #include "omtReader/variantDatatypeNode.h"
 
@@ -103,9 +104,17 @@ void DtVariantRecordFileWriter::determineDecodeability()
 {
     DtCodedDataTypeFileWriter::determineDecodeability();
     if (!myHasFittingDiscriminant)
-        DtWarn << "Warning: The discriminant of " << myClassName
-               << " is no number and no enumeration: " << myDiscriminant.datatype()
-               << ". A number of 32 bits stands for it.\n";
+        DtTellWarning(DtRules::unfitDiscriminant, discriminantSubject(),
+                      "Warning: The discriminant of " + myClassName + " is no number and no enumeration: " +
+                          myDiscriminant.datatype() + ". A number of 32 bits stands for it.\n");
+}
+
+// The discriminant is that of the datatype that was compiled last.
+DtSubject DtVariantRecordFileWriter::discriminantSubject() const
+{
+    if (myCompiledDatatypes.empty())
+        return DtSubject::none();
+    return DtSubject::field(myDiscriminant.name(), myCompiledDatatypes.back().first->getName());
 }
 
 void DtVariantRecordFileWriter::compileAttributes(DtVariantDatatypeNode* node, DtOMTTree* tree)

@@ -39,6 +39,7 @@ private:
     void writeValuelessAlternatives(std::istream& stream);
     DtString currentSelector() const;
     DtString currentEncoding() const;
+    DtSubject discriminantSubject() const;
 
     DtString myDiscriminantName;
     DtString myDiscriminantType;

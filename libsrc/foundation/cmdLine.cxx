@@ -3,9 +3,11 @@
 #include "foundation/fileUtils.h"
 #include "foundation/outputStream.h"
 #include "foundation/restored.h"
+#include "foundation/warningRules.h"
 
 #include <algorithm>
 #include <cstdlib>
+#include <sstream>
 
 namespace
 {
@@ -33,14 +35,16 @@ void StdOutput::version(CmdLineInterface& commandLine)
 void StdOutput::failure(CmdLineInterface& commandLine, ArgException& exception)
 {
     const DtRestored level(DtNotifyLevel, theFailureLevel);
-    DtWarn << "PARSE ERROR: " << exception.argId() << std::endl
-           << "             " << exception.error() << std::endl
-           << std::endl
-           << "Brief USAGE: " << std::endl;
-    _shortUsage(commandLine, DtWarn);
-    DtWarn << std::endl
-           << "For complete USAGE and HELP type: " << std::endl
-           << "   " << commandLine.getProgramName() << " --help" << std::endl;
+    std::ostringstream text;
+    text << "PARSE ERROR: " << exception.argId() << std::endl
+         << "             " << exception.error() << std::endl
+         << std::endl
+         << "Brief USAGE: " << std::endl;
+    _shortUsage(commandLine, text);
+    text << std::endl
+         << "For complete USAGE and HELP type: " << std::endl
+         << "   " << commandLine.getProgramName() << " --help" << std::endl;
+    DtTellWarning(DtRules::wrongCommandLine, DtSubject::none(), text.str());
 }
 
 void HelpVisitor::visit()

@@ -1,7 +1,7 @@
 #include "foundation/filePrinter.h"
 
 #include "foundation/fileUtils.h"
-#include "foundation/outputStream.h"
+#include "foundation/warningRules.h"
 
 #include <cerrno>
 #include <cstring>
@@ -119,5 +119,6 @@ void DtFilePrinter::writeIfChanged()
 
 void DtFilePrinter::reportFailure(const char* what)
 {
-    DtWarn << "Cannot " << what << " file " << myName << ": " << std::strerror(errno) << std::endl;
+    DtTellWarning(DtRules::outputNotWritten, DtSubject::file(myName),
+                  DtString("Cannot ") + what + " file " + myName + ": " + std::strerror(errno) + "\n");
 }

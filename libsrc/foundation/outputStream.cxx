@@ -1,5 +1,7 @@
 #include "foundation/outputStream.h"
 
+#include "foundation/warningRules.h"
+
 #include <algorithm>
 #include <cerrno>
 #include <cstdarg>
@@ -100,7 +102,8 @@ private:
         if (isWritten || myHasFailed)
             return;
         myHasFailed = true; // first: the text may come back through this very printer
-        DtWarn << "Cannot write to the standard " << myName << " stream: " << std::strerror(errno) << std::endl;
+        DtTellWarning(DtRules::streamNotWritten, DtSubject::none(),
+                      DtString("Cannot write to the standard ") + myName + " stream: " + std::strerror(errno) + "\n");
     }
 
     FILE* myFile;

@@ -7,6 +7,28 @@ namespace
 DtWarningTaker* theTaker = nullptr;
 }
 
+DtSubject DtSubject::member(const DtString& memberName) const
+{
+    switch (kind)
+    {
+    case ObjectClass:
+        return {Attribute, memberName, name};
+    case InteractionClass:
+        return {Parameter, memberName, name};
+    case Datatype:
+        return {Field, memberName, name};
+    case None:
+    case File:
+    case Attribute:
+    case Parameter:
+    case Field:
+    case Enumerator:
+    case Setting:
+        break;
+    }
+    return *this;
+}
+
 DtWarningTaker::DtWarningTaker() : myOuter(theTaker)
 {
     theTaker = this;

@@ -34,6 +34,14 @@ struct DtSubject
     static DtSubject none() { return {}; }
     static DtSubject file(const DtString& path) { return {File, path, {}}; }
     static DtSubject datatype(const DtString& name) { return {Datatype, name, {}}; }
+    static DtSubject objectClass(const DtString& fullName) { return {ObjectClass, fullName, {}}; }
+    static DtSubject interactionClass(const DtString& fullName) { return {InteractionClass, fullName, {}}; }
+    static DtSubject field(const DtString& name, const DtString& datatype) { return {Field, name, datatype}; }
+    static DtSubject enumerator(const DtString& name, const DtString& datatype) { return {Enumerator, name, datatype}; }
+    static DtSubject setting(const DtString& key) { return {Setting, key, {}}; }
+
+    // A member of this class or datatype: its attribute, parameter or field. What can have no members stands itself.
+    DtSubject member(const DtString& memberName) const;
 };
 
 struct DtWarning

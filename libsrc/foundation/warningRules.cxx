@@ -3,7 +3,18 @@
 const std::vector<const DtWarningRule*>& DtRules::all()
 {
     static const std::vector<const DtWarningRule*> theRules = {
-        &outputNotWritten,
+        &additionalRoot,      &carriageReturns,     &charactersLeftOut,
+        &commandFileTooDeep,  &duplicateEnumerator, &fileEndsEarly,
+        &incompleteCommand,   &leftOutEnumeration,  &missingName,
+        &missingRoot,         &missingSetting,      &nameClash,
+        &noEncoding,          &noIdentifier,        &outputNotWritten,
+        &outsideOutput,       &ownSuperclass,       &parentNotSelected,
+        &recursiveDatatype,   &renamedEnumerator,   &settingNotStored,
+        &streamNotWritten,    &templateBlock,       &templateTooDeep,
+        &tooManySuperclasses, &toolkitName,         &toolkitTypeDiffers,
+        &undeterminedType,    &unfitDiscriminant,   &unfitEnumerator,
+        &unknownByteOrder,    &unknownCardinality,  &unreadableCommandFile,
+        &unreadableModel,     &wrongCommandLine,    &wrongRoot,
     };
     return theRules;
 }

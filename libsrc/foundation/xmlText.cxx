@@ -1,6 +1,6 @@
 #include "foundation/xmlText.h"
 
-#include "foundation/outputStream.h"
+#include "foundation/warningRules.h"
 
 #include <libxml/chvalid.h>
 
@@ -99,6 +99,7 @@ DtString DtXmlText(const DtString& text)
         rest.remove_prefix(character.length);
     }
     if (result.size() != source.size())
-        DtWarn << "Characters that XML cannot hold are left out of: " << result << std::endl;
+        DtTellWarning(DtRules::charactersLeftOut, DtSubject::none(),
+                      "Characters that XML cannot hold are left out of: " + DtString(result) + "\n");
     return DtString(result);
 }

@@ -1,6 +1,6 @@
 #include "omtReader/enumeratedDatatypeNode.h"
 
-#include "foundation/outputStream.h"
+#include "foundation/warningRules.h"
 
 int DtEnumeratedDatatypeNode::defaultEnumerationSize = 2;
 
@@ -43,14 +43,16 @@ bool DtEnumeratedDatatypeNode::isDuplicate(const DtEnumerationNode& node) const
         return false;
     if (sameName != nullptr && (sameNumber == nullptr || sameName->order <= sameNumber->order))
     {
-        DtWarn("Duplicated enum name %s", node.getEnum().c_str());
+        DtTellWarning(DtRules::duplicateEnumerator, DtSubject::enumerator(node.getEnum(), getName()),
+                      "Duplicated enum name " + node.getEnum());
         return true;
     }
     // The number is not printed: it is how much of the text is left out at the start.
     static const DtString theText("Duplicated enum number ");
     const int number = node.getNumber();
     if (number >= 0 && number < static_cast<int>(theText.length()))
-        DtWarn("%s", theText.c_str() + number);
+        DtTellWarning(DtRules::duplicateEnumerator, DtSubject::enumerator(node.getEnum(), getName()),
+                      theText.c_str() + number);
     return true;
 }
 

@@ -1,7 +1,7 @@
 #include "omtReader/omtFileReader.h"
 
 #include "foundation/mtlReader.h"
-#include "foundation/outputStream.h"
+#include "foundation/warningRules.h"
 #include "foundation/xmlText.h"
 #include "omtReader/omtItems.h"
 #include "omtReader/omtSuperclasses.h"
@@ -59,7 +59,8 @@ Class* namedSuperclass(const Class& node, const DtOmtHierarchy<Class>& hierarchy
     Class* parent = (tree.*hierarchy.findByNumber)(node.getParentIdentifier());
     if (parent != &node)
         return parent;
-    DtWarn("Warning: %s %s names itself as its superclass\n", hierarchy.kind, node.getName().c_str());
+    DtTellWarning(DtRules::ownSuperclass, {hierarchy.subjectKind, node.getName(), {}},
+                  DtString("Warning: ") + hierarchy.kind + " " + node.getName() + " names itself as its superclass\n");
     return nullptr;
 }
 } // namespace
@@ -89,7 +90,8 @@ DtlObjPtr DtOMTFileReader::readObjectModel(const DtString& name, const DtlObjPtr
     const DtMtlBackslashEscapes escapes;
     const DtlObjPtr model = findObjectModel(*stream, env);
     if (stream->hasEndedEarly())
-        DtWarn("%s: the file ends within a list or a string\n", name.c_str());
+        DtTellWarning(DtRules::fileEndsEarly, DtSubject::file(name),
+                      name + ": the file ends within a list or a string\n");
     return model;
 }
 
@@ -297,7 +299,7 @@ void DtOMTFileReader::buildClassTree(const DtOmtHierarchy<Class>& hierarchy, DtO
     root->setIdentifier(0);
     (tree.*hierarchy.add)(root);
     (tree.*hierarchy.setRoot)(root);
-    DtOmtSuperclasses<Class> superclasses(hierarchy.kind);
+    DtOmtSuperclasses<Class> superclasses(hierarchy.kind, hierarchy.subjectKind);
     for (Class* each : classes)
         superclasses.add(each, namedSuperclass(*each, hierarchy, tree));
     for (Class* each : classes)

@@ -1,6 +1,7 @@
 #ifndef OMT_READER_OMT_ITEMS_H
 #define OMT_READER_OMT_ITEMS_H
 
+#include "foundation/warning.h"
 #include "omtReader/omtFileReader.h"
 
 // This header holds the keywords of the OMT text format. Only the reader of that format includes it.
@@ -143,6 +144,7 @@ struct DtOmtHierarchy
     const char* rootName;
     const char* rootDescription;
     const char* kind; // what warnings call one of its classes
+    DtSubject::Kind subjectKind;
     Class* (DtOMTTree::*root)() const;
     void (DtOMTTree::*setRoot)(Class*);
     void (DtOMTTree::*add)(Class*);
@@ -157,6 +159,7 @@ inline constexpr DtOmtHierarchy<DtObjectClassFedNode> theObjectHierarchy = {
     "ObjectRoot",
     "Predefined object root",
     "Class",
+    DtSubject::ObjectClass,
     &DtOMTTree::objectClassRoot,
     &DtOMTTree::setObjectClassRoot,
     &DtOMTTree::addObjectClassNode,
@@ -171,6 +174,7 @@ inline constexpr DtOmtHierarchy<DtInteractionClassFedNode> theInteractionHierarc
     "InteractionRoot",
     "Predefined Interaction Root",
     "Interaction",
+    DtSubject::InteractionClass,
     &DtOMTTree::interactionClassRoot,
     &DtOMTTree::setInteractionClassRoot,
     &DtOMTTree::addInteractionClassNode,

@@ -1,7 +1,7 @@
 #ifndef OMT_READER_OMT_SUPERCLASSES_H
 #define OMT_READER_OMT_SUPERCLASSES_H
 
-#include "foundation/outputStream.h"
+#include "foundation/warningRules.h"
 
 #include <unordered_map>
 #include <vector>
@@ -24,8 +24,8 @@ public:
         theLargestDepth = 256 // as deep as elements of the XML formats can be
     };
 
-    // kind: of the classes, for the warning.
-    explicit DtOmtSuperclasses(const char* kind) : myKind(kind) {}
+    // kind: what the warning calls a class.
+    DtOmtSuperclasses(const char* kind, DtSubject::Kind subjectKind) : myKind(kind), mySubjectKind(subjectKind) {}
 
     // Null for a class without a superclass.
     void add(Class* node, Class* superclass) { myLinks[node].superclass = superclass; }
@@ -74,8 +74,9 @@ private:
         Link& link = myLinks[&node];
         if (depth == theLargestDepth)
         {
-            DtWarn("Warning: %s %s has more than %d superclasses and is put under the root\n", myKind,
-                   node.getName().c_str(), depth - 1);
+            DtTellWarning(DtRules::tooManySuperclasses, {mySubjectKind, node.getName(), {}},
+                          DtString("Warning: ") + myKind + " " + node.getName() + " has more than " +
+                              DtString(depth - 1) + " superclasses and is put under the root\n");
             link.superclass = nullptr;
             depth = 0;
         }
@@ -83,6 +84,7 @@ private:
     }
 
     const char* myKind;
+    DtSubject::Kind mySubjectKind;
     std::unordered_map<const Class*, Link> myLinks;
 };
 

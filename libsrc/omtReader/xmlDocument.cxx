@@ -1,7 +1,7 @@
 #include "omtReader/xmlDocument.h"
 
 #include "foundation/filename.h"
-#include "foundation/outputStream.h"
+#include "foundation/warningRules.h"
 
 #include <libxml/parser.h>
 
@@ -36,7 +36,8 @@ bool DtXmlErrors::report(const char* file)
 {
     const bool isMalformed = myCause.length() > 0;
     if (isMalformed)
-        DtWarn("%s:%d: %s\n", file, myLine, myCause.c_str());
+        DtTellWarning(DtRules::unreadableModel, DtSubject::file(file),
+                      DtString(file) + ":" + DtString(myLine) + ": " + myCause + "\n");
     myCause = DtString();
     return isMalformed;
 }
@@ -63,9 +64,21 @@ FILE* DtStreamOf(int descriptor)
     return stream;
 }
 
+// The parser escapes the name that it keeps, such as blanks; warnings want it as it is.
 DtXmlDocument DtParseXmlDescriptor(int descriptor, const char* name)
 {
-    return DtXmlDocument(xmlReadFd(descriptor, name, nullptr, theXmlParseOptions));
+    DtXmlDocument document(xmlReadFd(descriptor, name, nullptr, theXmlParseOptions));
+    if (document == nullptr || (document->dict != nullptr && xmlDictOwns(document->dict, document->URL) != 0))
+        return document;
+    xmlFree(const_cast<xmlChar*>(document->URL));
+    document->URL = xmlStrdup(BAD_CAST name);
+    return document;
+}
+
+DtSubject DtXmlFileOf(const xmlNode* node)
+{
+    const bool hasFile = node->doc != nullptr && node->doc->URL != nullptr;
+    return hasFile ? DtSubject::file(reinterpret_cast<const char*>(node->doc->URL)) : DtSubject::none();
 }
 
 DtXmlDocument DtParseXmlFile(const char* name)

@@ -2,6 +2,7 @@
 #define OMT_READER_XML_DOCUMENT_H
 
 #include "foundation/string.h"
+#include "foundation/warning.h"
 #include "foundation/xmlDocumentOwner.h"
 
 #include <libxml/tree.h>
@@ -19,7 +20,7 @@ public:
     DtXmlErrors(const DtXmlErrors&) = delete;
     DtXmlErrors& operator=(const DtXmlErrors&) = delete;
 
-    // Writes "file:line: cause" to DtWarn, once; nothing, and false, when no document was malformed.
+    // Warns with "file:line: cause", once; nothing, and false, when no document was malformed.
     bool report(const char* file);
 
 private:
@@ -40,6 +41,9 @@ extern const int theXmlParseOptions;
 DtXmlDocument DtParseXmlFile(const char* name);
 DtXmlDocument DtParseXmlDescriptor(int descriptor, const char* name);
 DtXmlDocument DtParseXmlBuffer(const char* buffer, int size);
+
+// The file that the node was read from, for warnings; no subject when the document came from memory.
+DtSubject DtXmlFileOf(const xmlNode* node);
 
 // Opens a plain file for reading. The caller closes the descriptor, which is -1 when there is no such file.
 int DtOpenPlainFile(const char* name);

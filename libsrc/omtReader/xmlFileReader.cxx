@@ -88,6 +88,7 @@ DtOMTTree* DtXMLFileReader::readFile(const DtFilename& file, DtExerciseConn* con
 {
     myConnection = connection;
     xmlDoc* parsed = nullptr;
+    myLastFile = file;
     myIsErrorTold = false;
     if (!file.isUsable() || parseFile(file, &parsed, myLastError, myIsErrorTold) != DtFedReadSuccess)
         return nullptr;
@@ -151,6 +152,7 @@ DtOMTTree* DtXMLFileReader::readFiles(const std::vector<DtFilename>& files, DtFo
 bool DtXMLFileReader::mergeModule(DtOMTTree& tree, const DtFilename& file, DtFomType type)
 {
     xmlDoc* parsed = nullptr;
+    myLastFile = file;
     const DtFedReadStatus status = file == DtFedReader::standardMimFileName(type)
                                        ? parseStandardModel(type, &parsed, myLastError)
                                        : parseFile(file, &parsed, myLastError, myIsErrorTold);

@@ -17,7 +17,7 @@ class DtExerciseConn; // passed on and never looked into; callers give null
 // Front of the XML model formats: parses a document, finds out its format, hands the root element to the reader of that
 // format and merges modules with the standard management model, which is held inside the program.
 //
-// A failed read gives null, with the cause in getLastError(). What the parser says of a malformed file goes to DtWarn.
+// A failed read gives null, with the cause in getLastError(). What the parser says of a malformed file is warned of.
 // The trees of the modules that were merged stay with the reader; the result belongs to the caller.
 class DtXMLFileReader
 {
@@ -45,9 +45,11 @@ public:
     // Stays until it is cleared.
     virtual const DtString& getLastError() const { return myLastError; }
     virtual void clearLastError() { myLastError = DtString(); }
-    // True when the last read failed on a malformed file, of which DtWarn has told line and cause: the error, which
+    // True when the last read failed on a malformed file, of which a warning told line and cause: the error, which
     // counts such a file as missing, has nothing to add then.
     bool isErrorTold() const { return myIsErrorTold; }
+    // The file that was read last: when a read failed, the one at fault.
+    const DtFilename& lastFile() const { return myLastFile; }
     virtual void includeMIM(bool include) { myIncludesMIM = include; }
     virtual bool MIMincluded() const { return myIncludesMIM; }
 
@@ -71,6 +73,7 @@ private:
 
     DtString myLastError;
     bool myIsErrorTold = false;
+    DtFilename myLastFile;
     DtExerciseConn* myConnection = nullptr;
     std::vector<std::unique_ptr<DtOMTTree>> myModules;
     bool myIsFirstModule = true; // of the present list

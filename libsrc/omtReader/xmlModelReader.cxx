@@ -1,6 +1,6 @@
 #include "omtReader/xmlModelReader.h"
 
-#include "foundation/outputStream.h"
+#include "foundation/warningRules.h"
 #include "omtReader/xmlModelFields.h"
 
 #include <algorithm>
@@ -31,9 +31,10 @@ bool DtXMLModelReader::hasName(const Values& values)
                        [](const Value& value) { return std::strcmp(value.name, attrName) == 0; });
 }
 
-void DtXMLModelReader::warnOfMissing(const char* element, const char* what)
+void DtXMLModelReader::warnOfMissing(const xmlNode* node, const char* element, const char* what)
 {
-    DtWarn("Warning: %s definition was missing a %s\n", element, what);
+    DtTellWarning(DtRules::missingName, DtXmlFileOf(node),
+                  DtString("Warning: ") + element + " definition was missing a " + what + "\n");
 }
 
 DtString DtXMLModelReader::childNodeString(xmlAttr*& attribute)
@@ -61,19 +62,24 @@ void DtXMLModelReader::processHierarchy(xmlNode* parent, const Hierarchy& words,
         if (!DtHasXmlName(element, words.element))
             continue;
         if (hasTop)
-            DtWarn("Warning: Additional %s node found at the root level when parsing %s file has been ignored.\n",
-                   words.kind, myFormat.words);
+            DtTellWarning(DtRules::additionalRoot, DtXmlFileOf(parent),
+                          DtString("Warning: Additional ") + words.kind +
+                              " node found at the root level when parsing " + myFormat.words +
+                              " file has been ignored.\n");
         else
             top = process(element);
         hasTop = true;
     }
     const auto root = find(words.root);
     if (root == nullptr)
-        DtWarn("Warning: %s is missing from %s file\n", words.root, myFormat.words);
+        DtTellWarning(DtRules::missingRoot, DtXmlFileOf(parent),
+                      DtString("Warning: ") + words.root + " is missing from " + myFormat.words + " file\n");
     else if (root == top)
         setRoot(root);
     else
-        DtWarn("Warning: %s root is not \"%s\" in %s file\n", words.wrongKind, words.wrongRoot, myFormat.words);
+        DtTellWarning(DtRules::wrongRoot, DtXmlFileOf(parent),
+                      DtString("Warning: ") + words.wrongKind + " root is not \"" + words.wrongRoot + "\" in " +
+                          myFormat.words + " file\n");
 }
 
 void DtXMLModelReader::processObjects(xmlNode*& node, DtOMTTree* tree)

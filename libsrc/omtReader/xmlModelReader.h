@@ -171,7 +171,7 @@ private:
     static const DtString& nameOf(const DtOMTNode& node) { return node.getName(); }
     static const DtString& nameOf(const DtEnumerationNode& node) { return node.getEnum(); }
     static bool hasName(const Values& values);
-    static void warnOfMissing(const char* element, const char* what);
+    static void warnOfMissing(const xmlNode* node, const char* element, const char* what);
 
     Format myFormat;
     DtString myLastError;
@@ -235,7 +235,7 @@ std::unique_ptr<Node> DtXMLModelReader::readNamedItem(xmlNode* node, const DtXml
     auto item = readItem(node, fields);
     if (!nameOf(*item).isEmpty())
         return item;
-    warnOfMissing(element, what);
+    warnOfMissing(node, element, what);
     return nullptr;
 }
 
@@ -248,7 +248,7 @@ std::unique_ptr<Node> DtXMLModelReader::readMember(xmlNode* node, const DtXmlFie
     setFields(values, fields, *member);
     if (!member->getName().isEmpty() || !hasName(values))
         return member;
-    warnOfMissing(element, attrName);
+    warnOfMissing(node, element, attrName);
     return nullptr;
 }
 

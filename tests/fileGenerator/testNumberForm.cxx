@@ -276,15 +276,16 @@ void TestNumberForm::accessorsAreCompared()
 {
     const RunSettings settings;
     const DtCapture warnings(DtWarn);
-    warnOfMemberNames("Owner", {"Speed", "speedy", "class", "HLAx", "a-b"});
+    warnOfMemberNames(DtSubject::datatype("Owner"), {"Speed", "speedy", "class", "HLAx", "a-b"});
     QCOMPARE(warnings.text(), QString());
-    warnOfMemberNames("Owner", {"Speed", "speed", "HLAx", "hLAx", "class", "theClass", "a-b", "a__b"});
+    warnOfMemberNames(DtSubject::datatype("Owner"),
+                      {"Speed", "speed", "HLAx", "hLAx", "class", "theClass", "a-b", "a__b"});
     QCOMPARE(warnings.text(), QString("Warning: Members Speed and speed of Owner are called alike in C++.\n"
                                       "Warning: Members HLAx and hLAx of Owner are called alike in C++.\n"
                                       "Warning: Members class and theClass of Owner are called alike in C++.\n"
                                       "Warning: Members a-b and a__b of Owner are called alike in C++.\n"));
     const DtCapture further(DtWarn);
-    warnOfMemberNames("Owner", {"3D", "\xc3\xa4"});
+    warnOfMemberNames(DtSubject::datatype("Owner"), {"3D", "\xc3\xa4"});
     QCOMPARE(further.text().count("which is no identifier"), 2);
 }
 

@@ -118,8 +118,13 @@ std::size_t DtDiagnostics::count(DtSeverity severity) const
 void DtDiagnostics::findPlaces(const std::function<DtPlace(const DtSubject&)>& placeOf)
 {
     for (DtDiagnostic& diagnostic : myDiagnostics)
-        if (diagnostic.place.line == 0 && diagnostic.subject.kind != DtSubject::None)
-            diagnostic.place = placeOf(diagnostic.subject);
+    {
+        if (diagnostic.place.line != 0 || diagnostic.subject.kind == DtSubject::None)
+            continue;
+        const DtPlace place = placeOf(diagnostic.subject);
+        if (!place.file.empty())
+            diagnostic.place = place;
+    }
 }
 
 void DtDiagnostics::take(const DtWarning& warning)

@@ -3,6 +3,7 @@
 #include "fileGenerator/settings.h"
 #include "modelTools/depfile.h"
 #include "modelTools/leftoverTokens.h"
+#include "modelTools/modelPlaces.h"
 #include "modelTools/outputException.h"
 #include "modelTools/outputLists.h"
 #include "modelTools/outputLock.h"
@@ -85,9 +86,11 @@ DtExitCode DtGenerateTool::runInto(DtOutputStage& stage)
     }
     catch (...)
     {
+        findPlaces(diagnostics);
         tell(diagnostics);
         throw;
     }
+    findPlaces(diagnostics);
     if (!myOptions.report.empty())
         myReport.setFiles(stage.files(), stage.differences());
     const bool hasErrors = diagnostics.count(DtSeverity::Error) > 0;
@@ -134,13 +137,28 @@ void DtGenerateTool::generate(DtOutputStage& stage, DtDiagnostics& diagnostics)
     }
     catch (...)
     {
-        myInputs = generation.inputs();
+        noteInputs(generation);
         throw;
     }
-    myInputs = generation.inputs();
+    noteInputs(generation);
     myReport.setProject(generation.project());
     myIncludePath = DtSettings::instance().cpp.includePath();
     checkOutput(stage, diagnostics);
+}
+
+void DtGenerateTool::noteInputs(const DtModelGeneration& generation)
+{
+    myInputs = generation.inputs();
+    myModelFiles = generation.modelFiles();
+}
+
+// The models are read once more for this, so only for what somebody gets to see.
+void DtGenerateTool::findPlaces(DtDiagnostics& diagnostics) const
+{
+    if (myOptions.telling == DtTelling::Quiet && !myOptions.warningsAreErrors && myOptions.report.empty())
+        return;
+    DtModelPlaces places(myModelFiles);
+    diagnostics.findPlaces([&places](const DtSubject& subject) { return places.of(subject); });
 }
 
 // What is checked here is wrong in a template, if it is wrong at all; but a failed write of the system shows here too.

@@ -73,6 +73,8 @@ private:
 
     DtExitCode runInto(DtOutputStage& stage);
     void generate(DtOutputStage& stage, DtDiagnostics& diagnostics);
+    void noteInputs(const DtModelGeneration& generation);
+    void findPlaces(DtDiagnostics& diagnostics) const;
     void checkOutput(const DtOutputStage& stage, DtDiagnostics& diagnostics) const;
     DtExitCode listFiles(const DtOutputStage& stage) const;
     DtExitCode listDifferences(DtOutputStage& stage) const;
@@ -88,6 +90,7 @@ private:
     std::ostream& myOut;
     std::ostream& myErr;
     std::set<std::string> myInputs;
+    std::vector<std::string> myModelFiles;
     DtString myIncludePath; // of the generated headers
     DtRunReport myReport;
     double myStart;     // seconds of a clock that does not jump

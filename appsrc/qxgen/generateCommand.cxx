@@ -1,6 +1,7 @@
 // qxgen generate MODEL... -o DIR
 
 #include "commands.h"
+#include "options.h"
 
 #include "modelTools/dataDirectory.h"
 #include "modelTools/generateTool.h"
@@ -10,7 +11,6 @@
 #include <QtCore/QCoreApplication>
 
 #include <iostream>
-#include <map>
 #include <memory>
 
 namespace
@@ -26,18 +26,18 @@ struct DtGenerateLine
     bool isQuiet = false, isVerbose = false, fails = false, isWatching = false;
 };
 
-const std::map<std::string, DtCppLayout> theLayouts = {
+const DtChoices<DtCppLayout> theLayouts = {
     {"tree",    DtCppLayout::Tree   },
     {"classic", DtCppLayout::Classic},
 };
 
-const std::map<std::string, DtColor> theColors = {
+const DtChoices<DtColor> theColors = {
     {"auto",   DtColor::Auto  },
     {"always", DtColor::Always},
     {"never",  DtColor::Never },
 };
 
-const std::map<std::string, DtDiagnosticFormat> theFormats = {
+const DtChoices<DtDiagnosticFormat> theFormats = {
     {"text", DtDiagnosticFormat::Text},
     {"msvs", DtDiagnosticFormat::Msvs},
     {"json", DtDiagnosticFormat::Json},
@@ -51,17 +51,10 @@ void addModelOptions(CLI::App& command, DtGenerateLine& line)
         .add_option("--project", request.project,
                     "Project that gives selection, renames, custom code, and models if none are given")
         ->type_name("FILE.qxproj");
-    command
-        .add_option("--select", request.patterns,
-                    "Classes, by patterns such as Platform.* or *Collision*; !PATTERN takes away")
-        ->type_name("PATTERN")
-        ->expected(1)
-        ->take_all();
+    addRepeated(command, "--select", request.patterns, "PATTERN",
+                "Classes, by patterns such as Platform.* or *Collision*; !PATTERN takes away");
     command.add_flag("--with-management", request.withManagement, "Management classes too");
-    command.add_option("--model-path", request.modelPaths, "Where models are looked for, besides RTI_CONFIG")
-        ->type_name("DIR")
-        ->expected(1)
-        ->take_all();
+    addRepeated(command, "--model-path", request.modelPaths, "DIR", "Where models are looked for, besides RTI_CONFIG");
 }
 
 void addCodeOptions(CLI::App& command, DtGenerateLine& line)
@@ -75,22 +68,13 @@ void addCodeOptions(CLI::App& command, DtGenerateLine& line)
     command.add_option("--namespace", line.nameSpace, "Namespace around the code")->type_name("NAME");
     command.add_flag("--dis", line.generatesDis, "Code for DIS too");
     command.add_flag("--examples", line.generatesExamples, "Example programs too");
-    command.add_option("--set", request.settings, "Any key of the configuration")
-        ->type_name("KEY=VALUE")
-        ->expected(1)
-        ->take_all();
+    addRepeated(command, "--set", request.settings, "KEY=VALUE", "Any key of the configuration");
     command.add_option("--config", request.configFile, "Configuration in place of the shipped one")->type_name("FILE");
-    command.add_option("--script", request.scripts, "cpp (default), html, python, json, or a command file")
-        ->type_name("NAME")
-        ->expected(1)
-        ->take_all();
-    command.add_option("--template-dir", request.templateDirectories, "Its files stand in for shipped templates")
-        ->type_name("DIR")
-        ->expected(1)
-        ->take_all();
-    command.add_option("--layout", request.layout, "tree (default), or classic: names and bytes of codeGen")
-        ->transform(CLI::CheckedTransformer(theLayouts))
-        ->type_name("tree|classic");
+    addRepeated(command, "--script", request.scripts, "NAME", "cpp (default), html, python, json, or a command file");
+    addRepeated(command, "--template-dir", request.templateDirectories, "DIR",
+                "Its files stand in for shipped templates");
+    addChoice(command, "--layout", request.layout, theLayouts,
+              "tree (default), or classic: names and bytes of codeGen");
     command.add_option("--data-dir", line.dataDirectory, "Templates and configuration; else QX_DATA_DIR")
         ->type_name("DIR");
 }
@@ -117,12 +101,8 @@ void addTellingOptions(CLI::App& command, DtGenerateLine& line)
     command.add_flag("--werror", options.warningsAreErrors, "Warnings end with 3, and nothing is changed");
     command.add_flag("-q,--quiet", line.isQuiet, "Errors only");
     command.add_flag("-v,--verbose", line.isVerbose, "Each file that changes, too");
-    command.add_option("--color", options.color, "Colours in diagnostics")
-        ->transform(CLI::CheckedTransformer(theColors))
-        ->type_name("auto|always|never");
-    command.add_option("--format", options.format, "How diagnostics are written")
-        ->transform(CLI::CheckedTransformer(theFormats))
-        ->type_name("text|msvs|json");
+    addChoice(command, "--color", options.color, theColors, "Colours in diagnostics");
+    addChoice(command, "--format", options.format, theFormats, "How diagnostics are written");
 }
 
 [[noreturn]] void refuse(const std::string& text)

@@ -51,6 +51,7 @@ int runProgram(const std::vector<std::string>& arguments)
     program.failure_message(CLI::FailureMessage::simple);
     DtCommandRun run;
     addGenerateCommand(program, run);
+    addListCommand(program, run);
     return runCommand(program, run, DtExpandedArguments(arguments));
 }
 } // namespace

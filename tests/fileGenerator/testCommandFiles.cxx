@@ -2,80 +2,36 @@
 
 #include "registerTest.h"
 
+#include "scannedTemplate.h"
 #include "shippedScripts.h"
-#include "templateScanner.h"
 
-#include "fileGenerator/fileWriter.h"
-#include "fileGenerator/omtWriter.h"
+#include "fileGenerator/settings.h"
+#include "foundation/perRun.h"
+#include "modelTools/commandFileLint.h"
 
 #include <QtCore/QDirIterator>
 #include <QtTest/QtTest>
 
-#include <map>
-
 namespace
 {
-QString toText(const DtString& text)
+QStringList faultsOfCommands(const QString& script)
 {
-    return QString::fromStdString(text.stdString());
-}
-
-// A list of the context is a loop, and its keys are the tokens of that loop.
-void addKey(DtTemplateRules& rules, const DtContextKey& key)
-{
-    if (key.form == DtKeyForm::List)
-    {
-        rules.loops[toText(key.key)];
-        if (!key.list.isEmpty())
-            rules.parents[toText(key.key)] = toText(key.list);
-        return;
-    }
-    DtTemplateRules::Names& names = key.list.isEmpty() ? rules.freeTokens : rules.loops[toText(key.list)];
-    for (const DtString& spelling : key.spellings())
-        names.insert("<!" + toText(spelling) + "!>");
-}
-
-DtTemplateRules contextRules()
-{
-    DtTemplateRules rules;
-    rules.verbs = {"first", "notfirst", "last", "notlast"};
-    rules.hasCountedLoops = false;
-    rules.freeTokens = {"<!index0!>", "<!index1!>"};
-    for (const DtContextKey& key : DtOMTWriter::contextKeys())
-        addKey(rules, key);
-    return rules;
-}
-
-// Command to the number of its arguments, the least and the most.
-const std::map<QString, std::pair<int, int>> theCommands = {
-    {"beginTypes",  {0, 0}},
-    {"endTypes",    {0, 0}},
-    {"language",    {1, 1}},
-    {"templateDir", {1, 1}},
-    {"subdir",      {1, 1}},
-    {"file",        {2, 3}},
-    {"include",     {1, 1}},
-};
-
-bool isSound(const QString& command)
-{
-    static const QRegularExpression theType("^setDatatype \"[^\"]+\" \"[^\"]*\"$");
-    if (theType.match(command).hasMatch())
-        return true;
-    const QStringList words = command.split(' ');
-    const auto row = theCommands.find(words.front());
-    return row != theCommands.end() && words.size() > row->second.first && words.size() - 1 <= row->second.second &&
-           !words.contains(QString());
+    const DtRunScope scope;
+    DtSettings::instance().files.dataDirectory = DtString((shippedData() + "/").toStdString());
+    DtCommandFileLint lint;
+    lint.check((shippedData() + "/" + script).toStdString());
+    QStringList faults;
+    for (const DtDiagnostic& fault : lint.faults())
+        faults += QString::fromStdString(DtFormatted(fault, DtDiagnosticFormat::Text));
+    return faults;
 }
 
 QStringList scan(const QString& name, std::set<QString>& opened)
 {
-    const DtTemplateRules rules = contextRules();
-    DtTemplateScanner scanner(rules, shippedData());
-    const QStringList faults = scanner.scan(name, readTextFile(shippedData() + "/templates/" + name));
+    const DtScannedTemplate scanned(DtContextRules(), name);
     opened.insert(name);
-    opened.insert(scanner.includedFiles().begin(), scanner.includedFiles().end());
-    return faults;
+    opened.merge(scanned.includedNames());
+    return scanned.faults();
 }
 
 QStringList filesOf(const QString& directory)
@@ -99,8 +55,8 @@ private Q_SLOTS:
     {
         QFETCH(QString, script);
         QVERIFY(!templatesOf(script).isEmpty());
-        for (const QString& command : commandsOf(script))
-            QVERIFY2(isSound(command), qPrintable(command));
+        const QStringList faults = faultsOfCommands(script);
+        QVERIFY2(faults.isEmpty(), qPrintable(faults.join('\n')));
     }
 
     void configurationListsTheScriptAndLeavesItOff_data() { addScripts(); }
@@ -155,9 +111,8 @@ private Q_SLOTS:
     // A loop over a file needs a list here: the number that stands for it elsewhere is the name of no list.
     void scannerKnowsTheConditionsOfLoopsAndNoCountedLoop()
     {
-        const DtTemplateRules rules = contextRules();
-        const auto scan = [&](const QByteArray& text)
-        { return DtTemplateScanner(rules, shippedData()).scan("t", text).value(0); };
+        const auto scan = [](const QByteArray& text)
+        { return DtScannedTemplate(DtContextRules(), "t", text).faults().value(0); };
         QCOMPARE(scan("<#Objects><?notlast>,<?><!ObjectNameHtml!><#Attributes><!AttributeNameId!><#><#>"), QString());
         QCOMPARE(scan("<#2>x<#>"), QString("t:1: the writer does not know the loop 2"));
         QCOMPARE(scan("<!ObjectName!>"), QString("t:1: <!ObjectName!> has no value outside of its loop"));

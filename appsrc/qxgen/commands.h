@@ -12,6 +12,7 @@ using DtCommandRun = std::function<DtExitCode()>;
 
 // Add a subcommand each, with its options. The run that it sets may refer to nothing but what it owns.
 void addGenerateCommand(CLI::App& program, DtCommandRun& run);
+void addLintTemplatesCommand(CLI::App& program, DtCommandRun& run);
 void addListCommand(CLI::App& program, DtCommandRun& run);
 void addWindowCommand(CLI::App& program, DtCommandRun& run);
 

@@ -52,6 +52,7 @@ int runProgram(const std::vector<std::string>& arguments)
     DtCommandRun run;
     addGenerateCommand(program, run);
     addListCommand(program, run);
+    addLintTemplatesCommand(program, run);
     addWindowCommand(program, run);
     return runCommand(program, run, DtExpandedArguments(arguments));
 }

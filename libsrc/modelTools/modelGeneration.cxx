@@ -314,6 +314,15 @@ std::vector<std::string> DtModelGeneration::scriptNames(const DtGenerationReques
     return {names.begin(), names.end()};
 }
 
+std::vector<std::string> DtModelGeneration::scriptFiles(const DtGenerationRequest& request)
+{
+    std::vector<std::string> files;
+    for (const std::string& name : scriptNames(request))
+        if (!DtGenerationRun::isCpp(DtString(fileOfScript(name)))) // which has none
+            files.push_back(fileOfScript(name));
+    return files;
+}
+
 std::set<std::string> DtModelGeneration::inputs() const
 {
     std::set<std::string> files(myModelFiles.begin(), myModelFiles.end());

@@ -55,6 +55,8 @@ public:
 
     // The names of the scripts that are there: "cpp", and one for each command file "genXyz.txt".
     static std::vector<std::string> scriptNames(const DtGenerationRequest& request);
+    // The command files of these scripts, without their directories.
+    static std::vector<std::string> scriptFiles(const DtGenerationRequest& request);
 
 private:
     void readConfiguration();

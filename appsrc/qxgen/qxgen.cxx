@@ -14,6 +14,9 @@
 
 namespace
 {
+// No command for users, hence in no help; its words are taken as they are, files of arguments too.
+constexpr const char* theCompletionQuery = "complete";
+
 int end(DtExitCode code)
 {
     return static_cast<int>(code);
@@ -54,6 +57,9 @@ int runProgram(const std::vector<std::string>& arguments)
     addListCommand(program, run);
     addLintTemplatesCommand(program, run);
     addWindowCommand(program, run);
+    addCompletionCommand(program, run);
+    if (!arguments.empty() && arguments.front() == theCompletionQuery)
+        return end(printCompletions(program, {arguments.begin() + 1, arguments.end()}));
     return runCommand(program, run, DtExpandedArguments(arguments));
 }
 } // namespace

@@ -397,6 +397,17 @@ private Q_SLOTS:
         COMPARE_TEXT(models.of(DtSubject::objectClass("A")), "a.xml:6:2");
     }
 
+    void firstModelOfATextIsTheOneThatCounts()
+    {
+        DtPlacedModels models({
+            {"a.omt",
+             "(Other (Class (Name \"A\")))\n (ObjectModel (Class (Name \"B\")))\n(ObjectModel (Class (Name \"A\")))"},
+            {"b.omt", "(ObjectModel (Class (Name \"A\")))"                                                          }
+        });
+        COMPARE_TEXT(models.of(DtSubject::objectClass("B")), "a.omt:2:15");
+        COMPARE_TEXT(models.of(DtSubject::objectClass("A")), "b.omt:1:14");
+    }
+
     void malformedFileGivesThePlacesAheadOfTheFault()
     {
         DtPlacedModels models({

@@ -32,13 +32,13 @@ void addNamedUuids(DtMapSubstitute& map, const DtString& path)
 
 DtString DtNamedScriptWriter::makeUUID()
 {
-    return areNamed() ? DtNamedUuid("product#" + DtString(myCount++)) : DtOMTWriter::makeUUID();
+    return areNamed() ? DtNamedUuid(baseName() + "#product" + DtString(myCount++)) : DtOMTWriter::makeUUID();
 }
 
 void DtNamedScriptWriter::addUUIDs(DtMapSubstitute* map)
 {
     if (areNamed())
-        addNamedUuids(*map, "model");
+        addNamedUuids(*map, baseName());
     else
         DtOMTWriter::addUUIDs(map);
 }

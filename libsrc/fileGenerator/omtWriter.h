@@ -177,6 +177,7 @@ private:
     void setLanguage(const Words& words);
     void setTemplateDir(const Words& words);
     void changeDirectory(const Words& words);
+    bool leavesOutput(const DtString& directory) const;
     void writeTemplate(const Words& words);
 
     // The context, in omtWriterContext.cxx, omtWriterClasses.cxx and omtWriterDatatypes.cxx.

@@ -4,6 +4,7 @@
 #include "fileGenerator/fileWriter.h"
 #include "fileGenerator/omtWriter.h"
 #include "fileGenerator/progressMeter.h"
+#include "fileGenerator/relativePath.h"
 #include "fileGenerator/settings.h"
 #include "fileGenerator/universalFileWriter.h"
 #include "foundation/assertion.h"
@@ -142,6 +143,8 @@ void DtOMTWriter::parseCommandFile(const DtString& path, cmdLineProc handler)
     {
         DtTellWarning(DtRules::unreadableCommandFile, DtSubject::file(path),
                       "Cannot open command file " + path + "\n"); // the assertion does not name it
+        if (DtSettings::instance().files.keepsToOutput) // such a run has a stage to take away, and ends by the warning
+            return;
         DT_ASSERT(false);
     }
     const DtInsideCommandFile inside(myOpenFiles, path, mySavedOutputDirectory);
@@ -268,6 +271,13 @@ void DtOMTWriter::setTemplateDir(const Words& words)
     myTemplateDir = theDataDirectory + words[1];
 }
 
+// Asked by a run that keeps to its output, whose directories all begin with the one of its start.
+bool DtOMTWriter::leavesOutput(const DtString& directory) const
+{
+    const DtString below(directory.stdString().substr(mySavedOutputDirectory.length()));
+    return DtSettings::instance().files.keepsToOutput && !staysBelow(below, mySavedOutputDirectory);
+}
+
 void DtOMTWriter::changeDirectory(const Words& words)
 {
     const DtString& word = words[1];
@@ -278,6 +288,12 @@ void DtOMTWriter::changeDirectory(const Words& words)
     else if (word != "~" && !isData)
     {
         directory = DtFileWriter::outputDirectory() + word + DtFilename::separator();
+        if (leavesOutput(directory))
+        {
+            DtTellWarning(DtRules::outsideOutput, DtSubject::file(directory),
+                          "Directory " + directory + " is not entered: it is outside of the output directory.\n");
+            return;
+        }
         DtMakeDirectory(directory);
     }
     DtFileWriter::setOutputDirectory(directory);

@@ -43,9 +43,8 @@ struct DtFileSettings
     // Directories whose files stand in for shipped templates of the same path below the templates, and for command
     // files of the same name. The first one that has the file counts.
     std::vector<DtString> templateDirectories;
-    bool keepsToOutput = false;      // command files write nothing to the data directory
-    bool namesHeadersAsUsed = false; // headers are called as they are included, whatever the tables of files say
-    bool makesNamedUuids = false;    // identifiers of projects follow from names, where they are random otherwise
+    bool keepsToOutput = false;   // command files write nothing to the data directory
+    bool makesNamedUuids = false; // identifiers of projects follow from names, where they are random otherwise
 };
 
 // All of them. The two roads do not share theirs: what is set for one does not reach the other.

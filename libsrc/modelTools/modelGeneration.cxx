@@ -13,6 +13,7 @@
 #include "omtReader/omtTree.h"
 
 #include <algorithm>
+#include <string_view>
 #include <system_error>
 
 namespace fs = std::filesystem;
@@ -49,6 +50,19 @@ bool isMim(const DtString& name)
     return name == DtFedReader::standardMimFileName(DtFomEvolved);
 }
 
+// The name becomes part of names of files and of text; an empty one is none.
+bool isFileName(const std::string& name)
+{
+    constexpr std::size_t theLongestName = 100;
+    const auto isRefused = [](char each)
+    {
+        return static_cast<unsigned char>(each) < ' ' ||
+               std::string_view("/\\<>\"'$").find(each) != std::string_view::npos;
+    };
+    return name.size() <= theLongestName && name.compare(0, 1, ".") != 0 &&
+           std::none_of(name.begin(), name.end(), isRefused);
+}
+
 // "genHtml.txt" for "html"; empty for what is no name of a script.
 std::string fileOfScript(const std::string& name)
 {
@@ -77,6 +91,10 @@ DtModelGeneration::DtModelGeneration(const DtGenerationRequest& request) : myReq
 
 void DtModelGeneration::load()
 {
+    if (!isFileName(myRequest.name))
+        fail(DtExitCode::Usage, "\"" + myRequest.name +
+                                    "\" is no name for a library: it takes up to 100 characters that "
+                                    "files can have, without separators.");
     setUpSettings();
     readConfiguration();
     readProject();
@@ -135,6 +153,8 @@ void DtModelGeneration::loadModels()
     for (const DtFilename& file : files)
         if (!isMim(file))
             myModelFiles.push_back(absolutePath(file.stdString()));
+    if (myModelFiles.empty())
+        fail(DtExitCode::Usage, "the management model alone is no model; name a model file.");
     const bool includeMim = myConfiguration.includeStandardMIM();
     DtSettings::instance().cpp.includesMim = includeMim;
     myModel = DtLoadModel(files, includeMim);

@@ -29,7 +29,8 @@ std::vector<std::string> DtListedOutputs(const std::filesystem::path& directory,
 {
     std::vector<std::string> listed;
     appendLines(directory / (paths.prefix + "Files-cc.txt"), paths.prefix, listed);
-    appendLines(directory / (paths.prefix + "Files-h.txt"), paths.prefix + paths.includePath, listed);
+    const std::string headers = std::filesystem::path(paths.includePath).lexically_normal().string();
+    appendLines(directory / (paths.prefix + "Files-h.txt"), paths.prefix + headers, listed);
     return listed;
 }
 

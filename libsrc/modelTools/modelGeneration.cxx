@@ -158,6 +158,8 @@ void DtModelGeneration::loadModels()
     const bool includeMim = myConfiguration.includeStandardMIM();
     DtSettings::instance().cpp.includesMim = includeMim;
     myModel = DtLoadModel(files, includeMim);
+    if (myModel.tree == nullptr && myModel.type == DtFomUnknown)
+        DtFedReader::checkFomType(files.front()); // once more, to tell what is wrong
     if (myModel.tree == nullptr)
         fail(DtExitCode::Unreadable, "the model cannot be read: " + myModelFiles.front() +
                                          (myModelFiles.size() > 1 ? " and the modules behind it." : "."));

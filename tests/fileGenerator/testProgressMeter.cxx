@@ -63,7 +63,9 @@ private Q_SLOTS:
         DtNotingMeter meter;
         const DtProgressUse use(meter);
         {
-            DtFileWriter writer("a.txt", DtString());
+            const QString file = directory.filePath("t.tlt");
+            writeTextFile(file, "text\n");
+            DtFileWriter writer("a.txt", file.toUtf8().constData());
             writer.writeFile();
         }
         QCOMPARE(meter.names, QStringList("a.txt"));

@@ -23,7 +23,7 @@ struct DtGenerateLine
     std::string prefix, includeDirectory, nameSpace;
     bool generatesDis = false, generatesExamples = false;
     bool isDryRun = false, isVerified = false, isListed = false;
-    bool isQuiet = false, isVerbose = false, fails = false, isWatching = false;
+    bool isQuiet = false, isVerbose = false, doesNotWait = false, isWatching = false;
 };
 
 const DtChoices<DtCppLayout> theLayouts = {
@@ -92,7 +92,7 @@ void addOutputOptions(CLI::App& command, DtGenerateLine& line)
     command.add_option("--report", options.report, "What the run has done, as JSON, or as a page if it ends in .html")
         ->type_name("FILE");
     command.add_flag("--watch", line.isWatching, "Again whenever an input changes; Ctrl-C ends it");
-    command.add_flag("--no-wait", line.fails, "Fail when another run holds the output directory");
+    command.add_flag("--no-wait", line.doesNotWait, "Fail when another run holds the output directory");
 }
 
 void addTellingOptions(CLI::App& command, DtGenerateLine& line)
@@ -190,7 +190,7 @@ DtExitCode generate(const CLI::App& command, DtGenerateLine& line)
                   : line.isListed   ? DtOutputUse::List
                                     : DtOutputUse::Commit;
     options.telling = line.isQuiet ? DtTelling::Quiet : line.isVerbose ? DtTelling::Verbose : DtTelling::Normal;
-    options.waitsForLock = !line.fails;
+    options.waitsForLock = !line.doesNotWait;
     options.request.dataDirectory = DtFindDataDirectory(line.dataDirectory);
     return line.isWatching ? watch(options) : DtGenerateTool(options, std::cout, std::cerr).run();
 }

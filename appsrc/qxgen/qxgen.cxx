@@ -37,7 +37,9 @@ int runCommand(CLI::App& program, const DtCommandRun& run, std::vector<std::stri
     }
     catch (const CLI::ParseError& error) // help and version too
     {
-        return program.exit(error) == 0 ? end(DtExitCode::Done) : end(DtExitCode::Usage);
+        if (error.get_exit_code() == static_cast<int>(CLI::ExitCodes::Success))
+            return end(static_cast<DtExitCode>(program.exit(error)));
+        return fail(DtExitCode::Usage, error.what() + std::string(" --help tells more."));
     }
     const DtExitCode code = run();
     if (!std::cout.flush())
@@ -51,7 +53,6 @@ int runProgram(const std::vector<std::string>& arguments)
     program.set_version_flag("--version", std::string("qxgen ") + DtProgramVersion());
     program.require_subcommand(1);
     program.footer("qxgen COMMAND --help tells of one command. @FILE stands for the arguments in a file, one a line.");
-    program.failure_message(CLI::FailureMessage::simple);
     DtCommandRun run;
     addGenerateCommand(program, run);
     addListCommand(program, run);

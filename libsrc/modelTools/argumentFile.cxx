@@ -6,11 +6,16 @@
 
 namespace
 {
+[[noreturn]] void fail(const std::string& path)
+{
+    throw DtToolFailure(DtExitCode::Usage, "the file of arguments " + path + " cannot be read.");
+}
+
 void appendLines(const std::string& path, std::vector<std::string>& arguments)
 {
     std::ifstream file(path);
     if (!file)
-        throw DtToolFailure(DtExitCode::Usage, "the file of arguments " + path + " cannot be read.");
+        fail(path);
     for (std::string line; std::getline(file, line);)
     {
         if (!line.empty() && line.back() == '\r')
@@ -18,6 +23,8 @@ void appendLines(const std::string& path, std::vector<std::string>& arguments)
         if (!line.empty())
             arguments.push_back(line);
     }
+    if (file.bad()) // a directory can be opened
+        fail(path);
 }
 } // namespace
 

@@ -31,7 +31,7 @@ std::string checked(const std::string& directory, const char* source)
     if (!isDataDirectory(directory))
         throw DtToolFailure(DtExitCode::Unreadable, std::string(source) + " names " + directory +
                                                         ", which is no data directory: it has no " + theLandmark + ".");
-    return fs::absolute(directory).lexically_normal().string() + "/";
+    return (fs::absolute(directory) / "").lexically_normal().string();
 }
 } // namespace
 

@@ -115,6 +115,19 @@ std::size_t DtDiagnostics::count(DtSeverity severity) const
     return static_cast<std::size_t>(std::count_if(myDiagnostics.begin(), myDiagnostics.end(), isOfSeverity));
 }
 
+bool DtDiagnostics::makeErrors(const DtWarningRule& rule)
+{
+    bool hasFound = false;
+    for (DtDiagnostic& diagnostic : myDiagnostics)
+    {
+        if (diagnostic.rule != rule.id)
+            continue;
+        diagnostic.severity = DtSeverity::Error;
+        hasFound = true;
+    }
+    return hasFound;
+}
+
 void DtDiagnostics::findPlaces(const std::function<DtPlace(const DtSubject&)>& placeOf)
 {
     for (DtDiagnostic& diagnostic : myDiagnostics)

@@ -1,6 +1,8 @@
 #include "modelTools/generateTool.h"
 
 #include "fileGenerator/settings.h"
+#include "foundation/fileUtils.h"
+#include "foundation/warningRules.h"
 #include "modelTools/depfile.h"
 #include "modelTools/leftoverTokens.h"
 #include "modelTools/modelPlaces.h"
@@ -12,9 +14,8 @@
 #include "modelTools/steadyTime.h"
 #include "modelTools/terminalProgress.h"
 
-#include <QtCore/QSaveFile>
-
 #include <algorithm>
+#include <cerrno>
 #include <cstdio>
 #include <cstdlib>
 #include <filesystem>
@@ -32,6 +33,13 @@ bool isTerminal()
     return isatty(STDERR_FILENO) == 1;
 }
 
+// The lists of files of a model without classes are empty.
+bool isList(const std::string& path)
+{
+    const std::string name = path.substr(path.rfind('\\') + 1);
+    return name == "Files-cc.txt" || name == "Files-h.txt";
+}
+
 DtDiagnostic diagnosticAt(const std::string& path, DtSeverity severity, const std::string& text, const char* rule)
 {
     DtDiagnostic diagnostic;
@@ -42,14 +50,20 @@ DtDiagnostic diagnosticAt(const std::string& path, DtSeverity severity, const st
     return diagnostic;
 }
 
+// The path without links and detours, of a file that need not exist.
+std::string realPath(const std::string& path)
+{
+    std::error_code ignored;
+    return fs::weakly_canonical(fs::absolute(path), ignored).string();
+}
+
 void writeWhole(const std::string& path, const std::string& text)
 {
     std::error_code ignored;
     fs::create_directories(fs::absolute(path).parent_path(), ignored);
-    QSaveFile file(QString::fromLocal8Bit(path.c_str()));
-    const auto length = static_cast<qint64>(text.size());
-    if (!file.open(QIODevice::WriteOnly) || file.write(text.data(), length) != length || !file.commit())
-        throw DtOutputException(path, file.errorString().toStdString());
+    errno = 0;
+    if (!DtReplaceFile(DtString(path), text))
+        throw DtOutputException::ofSystem(path, "cannot be written");
 }
 } // namespace
 
@@ -60,29 +74,11 @@ DtGenerateTool::DtGenerateTool(const DtGenerateOptions& options, std::ostream& o
 
 DtExitCode DtGenerateTool::run()
 {
-    if (myOptions.use != DtOutputUse::Commit)
-    {
-        DtOutputStage stage(fs::path(myOptions.outputDirectory), DtProgramVersion());
-        return runInto(stage);
-    }
-    const auto notice = [this](const std::string& holder) {
-        myErr << "qxgen: waiting for the run of process " << holder << " in " << myOptions.outputDirectory << std::endl;
-    };
-    const DtOutputLock lock(myOptions.outputDirectory, myOptions.waitsForLock ? DtLockWait::Wait : DtLockWait::NoWait,
-                            notice);
-    const DtOutputRecovery recovery(lock);
-    if (recovery.hasFinishedCommit() && myOptions.telling != DtTelling::Quiet)
-        myErr << "qxgen: finished what an earlier run had begun in " << myOptions.outputDirectory << std::endl;
-    DtOutputStage stage(lock, DtProgramVersion());
-    return runInto(stage);
-}
-
-DtExitCode DtGenerateTool::runInto(DtOutputStage& stage)
-{
     DtDiagnostics diagnostics;
+    DtExitCode code = DtExitCode::Done;
     try
     {
-        generate(stage, diagnostics);
+        code = myOptions.use == DtOutputUse::Commit ? runLocked(diagnostics) : runCompared(diagnostics);
     }
     catch (...)
     {
@@ -90,34 +86,103 @@ DtExitCode DtGenerateTool::runInto(DtOutputStage& stage)
         tell(diagnostics);
         throw;
     }
-    findPlaces(diagnostics);
-    if (!myOptions.report.empty())
-        myReport.setFiles(stage.files(), stage.differences());
-    const bool hasErrors = diagnostics.count(DtSeverity::Error) > 0;
-    const bool hasFindings = myOptions.warningsAreErrors && diagnostics.count(DtSeverity::Warning) > 0;
-    if (hasErrors || hasFindings)
+    tell(diagnostics);
+    if (myReport.isCommitted)
+        tellSummary();
+    return code;
+}
+
+DtExitCode DtGenerateTool::runCompared(DtDiagnostics& diagnostics)
+{
+    const fs::path directory(myOptions.outputDirectory);
+    if (myOptions.use != DtOutputUse::List && DtOutputRecovery::isNeeded(directory))
+        diagnostics.add(diagnosticAt(directory.string(), DtSeverity::Note,
+                                     "an earlier run was cut off here; the next one that writes finishes it",
+                                     "recovery"));
+    DtOutputStage stage(directory, DtProgramVersion());
+    return runInto(stage, diagnostics);
+}
+
+DtExitCode DtGenerateTool::runLocked(DtDiagnostics& diagnostics)
+{
+    const std::unique_ptr<DtOutputLock> lock = takeLock();
+    const DtOutputRecovery recovery(*lock);
+    if (recovery.hasFinishedCommit() && myOptions.telling != DtTelling::Quiet)
+        myErr << "qxgen: finished what an earlier run had begun in " << myOptions.outputDirectory << std::endl;
+    for (const DtOutputChange& change : recovery.changes())
+        addNotice(change, diagnostics);
+    for (const std::string& notice : recovery.notices())
+        diagnostics.add(diagnosticAt("", DtSeverity::Warning, notice, "recovery"));
+    DtOutputStage stage(*lock, DtProgramVersion());
+    return runInto(stage, diagnostics);
+}
+
+// What is wrong with the command line or with an input goes ahead of an output that cannot be had.
+std::unique_ptr<DtOutputLock> DtGenerateTool::takeLock() const
+{
+    const auto notice = [this](const std::string& holder) {
+        myErr << "qxgen: waiting for the run of process " << holder << " in " << myOptions.outputDirectory << std::endl;
+    };
+    try
     {
-        tell(diagnostics);
-        writeReport(diagnostics);
-        return DtExitCode::Findings;
+        return std::make_unique<DtOutputLock>(myOptions.outputDirectory,
+                                              myOptions.waitsForLock ? DtLockWait::Wait : DtLockWait::NoWait, notice);
     }
-    if (myOptions.use == DtOutputUse::List)
+    catch (const DtOutputException&)
     {
-        tell(diagnostics);
-        return listFiles(stage);
+        DtModelGeneration(myOptions.request).load();
+        throw;
+    }
+}
+
+DtExitCode DtGenerateTool::runInto(DtOutputStage& stage, DtDiagnostics& diagnostics)
+{
+    generate(stage, diagnostics);
+    checkTargets(stage);
+    const DtExitCode faults = codeOfFaults(diagnostics);
+    if (faults == DtExitCode::Done && myOptions.use != DtOutputUse::List)
+        findEdits(stage, diagnostics);
+    findPlaces(diagnostics);
+    if (faults == DtExitCode::Done && !myOptions.report.empty())
+        myReport.setFiles(stage.files(), stage.differences());
+    const bool hasFindings = myOptions.warningsAreErrors && diagnostics.count(DtSeverity::Warning) > 0;
+    if (faults != DtExitCode::Done || hasFindings)
+    {
+        writeReport(diagnostics);
+        return faults != DtExitCode::Done ? faults : DtExitCode::Findings;
     }
     if (myOptions.use != DtOutputUse::Commit)
     {
-        tell(diagnostics);
-        return listDifferences(stage);
+        writeReport(diagnostics);
+        return myOptions.use == DtOutputUse::List ? listFiles(stage) : listDifferences(stage);
     }
-    const DtCounts counts = commit(stage, diagnostics);
+    commit(stage);
+    myReport.isCommitted = true;
     noteTime("commit");
-    tell(diagnostics);
     writeReport(diagnostics);
     writeDependencies();
-    tellSummary(counts);
     return DtExitCode::Done;
+}
+
+// Some warnings of the libraries mean that there is no whole output. They count as errors here, where it is put into
+// place as a whole or not at all.
+DtExitCode DtGenerateTool::codeOfFaults(DtDiagnostics& diagnostics)
+{
+    struct DtFaultRow
+    {
+        const DtWarningRule& rule;
+        DtExitCode code;
+    };
+    static const DtFaultRow theFaults[] = {
+        {DtRules::unreadableCommandFile, DtExitCode::Unreadable},
+        {DtRules::outputNotWritten,      DtExitCode::Unwritable},
+        {DtRules::outsideOutput,         DtExitCode::Unwritable},
+    };
+    DtExitCode code = diagnostics.count(DtSeverity::Error) > 0 ? DtExitCode::Findings : DtExitCode::Done;
+    for (const DtFaultRow& row : theFaults)
+        if (diagnostics.makeErrors(row.rule))
+            code = DtGraver(code, row.code);
+    return code;
 }
 
 void DtGenerateTool::generate(DtOutputStage& stage, DtDiagnostics& diagnostics)
@@ -164,21 +229,63 @@ void DtGenerateTool::findPlaces(DtDiagnostics& diagnostics) const
 // What is checked here is wrong in a template, if it is wrong at all; but a failed write of the system shows here too.
 void DtGenerateTool::checkOutput(const DtOutputStage& stage, DtDiagnostics& diagnostics) const
 {
-    std::vector<std::string> models = myOptions.request.models;
-    models.push_back(myOptions.request.project);
-    DtLeftoverTokens tokens(models);
+    std::vector<std::string> sources = myModelFiles;
+    sources.push_back(myOptions.request.project);
+    DtLeftoverTokens tokens(sources);
     const bool isClassic = myOptions.request.layout == DtCppLayout::Classic;
     const DtCppPaths paths = {isClassic ? "cpp\\" : "", myIncludePath.stdString()};
     const std::vector<std::string> listed = DtListedOutputs(stage.path(), paths);
     const auto search = [&tokens](const std::string&, const std::string& text) { return tokens.find(text); };
     for (const DtOutputProblem& problem : stage.check(search, listed))
-        diagnostics.add(diagnosticAt(problem.path, DtSeverity::Error, problem.text(), "output-check"));
+        if (problem.kind != DtProblemKind::EmptyFile || !isList(problem.path))
+            diagnostics.add(diagnosticAt(problem.path, DtSeverity::Error, problem.text(), "output-check"));
     if (listed.empty())
         return;
     const std::set<std::string> names(listed.begin(), listed.end());
     for (const std::string& file : DtOutputsToList(stage.files(), paths))
         if (names.count(file) == 0)
             diagnostics.add(diagnosticAt(file, DtSeverity::Error, "is in no list of files", "output-check"));
+}
+
+// The files beside the output must be neither inputs nor output, nor one another.
+void DtGenerateTool::checkTargets(const DtOutputStage& stage) const
+{
+    std::set<std::string> taken;
+    for (const std::string& input : myInputs)
+        taken.insert(realPath(input));
+    for (const std::string& file : stage.files())
+        taken.insert(realPath((fs::path(myOptions.outputDirectory) / file).string()));
+    for (const std::string& target : {myOptions.depfile, myOptions.stamp, myOptions.report})
+    {
+        const bool isReserved = fs::path(target).filename().string().compare(0, 7, ".qxgen-") == 0;
+        if (!target.empty() && (isReserved || !taken.insert(realPath(target)).second))
+            throw DtToolFailure(DtExitCode::Usage, target + " is an input, an output or a file of qxgen itself, and "
+                                                            "cannot be written for another purpose.");
+    }
+}
+
+// Ahead of the commit, since --werror prevents that.
+void DtGenerateTool::findEdits(DtOutputStage& stage, DtDiagnostics& diagnostics) const
+{
+    if (!stage.manifestDamage().empty())
+        diagnostics.add(diagnosticAt("", DtSeverity::Warning, stage.manifestDamage(), "manifest-damaged"));
+    std::set<std::string> inputs;
+    for (const std::string& input : myInputs)
+        inputs.insert(realPath(input));
+    for (const DtOutputChange& change : stage.differences())
+    {
+        const std::string path = (fs::path(myOptions.outputDirectory) / change.path).string();
+        if (inputs.count(realPath(path)) != 0)
+            throw DtOutputException(path, "is read by this run and cannot be one of its outputs");
+        addNotice(change, diagnostics);
+    }
+}
+
+void DtGenerateTool::addNotice(const DtOutputChange& change, DtDiagnostics& diagnostics) const
+{
+    const std::string path = (fs::path(myOptions.outputDirectory) / change.path).string();
+    if (*change.notice() != '\0')
+        diagnostics.add(diagnosticAt(path, DtSeverity::Warning, change.notice(), "edited-by-hand"));
 }
 
 DtExitCode DtGenerateTool::listFiles(const DtOutputStage& stage) const
@@ -201,25 +308,18 @@ DtExitCode DtGenerateTool::listDifferences(DtOutputStage& stage) const
     return differs && myOptions.use == DtOutputUse::Verify ? DtExitCode::Differs : DtExitCode::Done;
 }
 
-DtGenerateTool::DtCounts DtGenerateTool::commit(DtOutputStage& stage, DtDiagnostics& diagnostics)
+void DtGenerateTool::commit(DtOutputStage& stage)
 {
-    DtCounts counts;
-    counts.files = stage.files().size();
-    if (!stage.manifestDamage().empty())
-        diagnostics.add(diagnosticAt("", DtSeverity::Warning, stage.manifestDamage(), "manifest-damaged"));
+    myCounts.files = stage.files().size();
     for (const DtOutputChange& change : stage.differences())
     {
-        const std::string path = (fs::path(myOptions.outputDirectory) / change.path).string();
-        if (*change.notice() != '\0')
-            diagnostics.add(diagnosticAt(path, DtSeverity::Warning, change.notice(), "edited-by-hand"));
         if (!change.changesFolder())
             continue;
-        ++(change.kind == DtChangeKind::Removed ? counts.removed : counts.written);
+        ++(change.kind == DtChangeKind::Removed ? myCounts.removed : myCounts.written);
         if (myOptions.telling == DtTelling::Verbose)
             myErr << change.letter() << ' ' << change.path << '\n';
     }
     stage.commit();
-    return counts;
 }
 
 void DtGenerateTool::tell(const DtDiagnostics& diagnostics) const
@@ -231,14 +331,14 @@ void DtGenerateTool::tell(const DtDiagnostics& diagnostics) const
     myErr.flush();
 }
 
-void DtGenerateTool::tellSummary(const DtCounts& counts) const
+void DtGenerateTool::tellSummary() const
 {
     if (myOptions.telling == DtTelling::Quiet || (!isTerminal() && myOptions.telling != DtTelling::Verbose))
         return;
     char time[32];
     std::snprintf(time, sizeof time, "%.2f", DtSteadySeconds() - myStart);
-    myErr << counts.files << " files in " << myOptions.outputDirectory << ": " << counts.written << " written, "
-          << counts.removed << " removed, " << counts.files - counts.written << " unchanged (" << time << " s)"
+    myErr << myCounts.files << " files in " << myOptions.outputDirectory << ": " << myCounts.written << " written, "
+          << myCounts.removed << " removed, " << myCounts.files - myCounts.written << " unchanged (" << time << " s)"
           << std::endl;
 }
 
@@ -262,7 +362,7 @@ void DtGenerateTool::writeDependencies() const
         writeWhole(myOptions.stamp, "");
 }
 
-// Of a run that changes nothing, because of what it has found, too.
+// Of a run that changes nothing too, because of what it has found or because it was to list only.
 void DtGenerateTool::writeReport(const DtDiagnostics& diagnostics)
 {
     if (myOptions.report.empty())

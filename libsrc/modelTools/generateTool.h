@@ -8,8 +8,11 @@
 #include "modelTools/toolFailure.h"
 
 #include <iosfwd>
+#include <memory>
 #include <string>
 #include <vector>
+
+class DtOutputLock;
 
 enum class DtColor
 {
@@ -71,16 +74,23 @@ private:
         std::size_t removed = 0;
     };
 
-    DtExitCode runInto(DtOutputStage& stage);
+    DtExitCode runCompared(DtDiagnostics& diagnostics);
+    DtExitCode runLocked(DtDiagnostics& diagnostics);
+    std::unique_ptr<DtOutputLock> takeLock() const;
+    DtExitCode runInto(DtOutputStage& stage, DtDiagnostics& diagnostics);
+    static DtExitCode codeOfFaults(DtDiagnostics& diagnostics);
+    void checkTargets(const DtOutputStage& stage) const;
+    void addNotice(const DtOutputChange& change, DtDiagnostics& diagnostics) const;
     void generate(DtOutputStage& stage, DtDiagnostics& diagnostics);
     void noteInputs(const DtModelGeneration& generation);
     void findPlaces(DtDiagnostics& diagnostics) const;
     void checkOutput(const DtOutputStage& stage, DtDiagnostics& diagnostics) const;
+    void findEdits(DtOutputStage& stage, DtDiagnostics& diagnostics) const;
     DtExitCode listFiles(const DtOutputStage& stage) const;
     DtExitCode listDifferences(DtOutputStage& stage) const;
-    DtCounts commit(DtOutputStage& stage, DtDiagnostics& diagnostics);
+    void commit(DtOutputStage& stage);
     void tell(const DtDiagnostics& diagnostics) const;
-    void tellSummary(const DtCounts& counts) const;
+    void tellSummary() const;
     void writeDependencies() const;
     void writeReport(const DtDiagnostics& diagnostics);
     void noteTime(const char* step);
@@ -93,6 +103,7 @@ private:
     std::vector<std::string> myModelFiles;
     DtString myIncludePath; // of the generated headers
     DtRunReport myReport;
+    DtCounts myCounts;  // of the commit
     double myStart;     // seconds of a clock that does not jump
     double myStepStart; // likewise
 };

@@ -4,6 +4,7 @@
 #include "fileGenerator/dataFile.h"
 #include "fileGenerator/dataTypeMapper.h"
 #include "fileGenerator/fileWriter.h"
+#include "foundation/fileUtils.h"
 #include "foundation/warningRules.h"
 #include "modelTools/classPattern.h"
 #include "modelTools/configKeys.h"
@@ -15,6 +16,7 @@
 #include <algorithm>
 #include <string_view>
 #include <system_error>
+#include <unistd.h>
 
 namespace fs = std::filesystem;
 
@@ -43,6 +45,13 @@ DtString stem(const DtFilename& path)
     DtFilename name = DtFilename::stripPath(path);
     name.stripExtension();
     return name;
+}
+
+// Any file of XML could be read as one, and would give no setting its value.
+bool isConfiguration(const std::string& path)
+{
+    std::string text;
+    return DtReadFile(DtString(path), text) && text.find("<codeGenConfig") != std::string::npos;
 }
 
 bool isMim(const DtString& name)
@@ -123,7 +132,7 @@ void DtModelGeneration::readConfiguration()
 {
     const bool isShipped = myRequest.configFile.empty();
     const std::string file = isShipped ? myRequest.dataDirectory + theConfiguration : myRequest.configFile;
-    if (!isFile(file) || !myConfiguration.parseConfigFile(DtString(file)))
+    if (!isConfiguration(file) || !myConfiguration.parseConfigFile(DtString(file)))
         fail(DtExitCode::Unreadable, "the configuration " + file + " cannot be read.");
     if (isShipped)
         DtSetConfigKey(myConfiguration, "generateExamples=false");
@@ -286,6 +295,15 @@ void DtModelGeneration::writeInto(const fs::path& directory)
                         DtGenerationOptions::of(myConfiguration), myRequest.layout);
     for (const std::string& file : commandFiles())
         run.run(DtString(file));
+    checkTemplates();
+}
+
+// The writers leave out what they cannot read.
+void DtModelGeneration::checkTemplates()
+{
+    for (const std::string& file : DtReadDataFiles())
+        if (access(file.c_str(), R_OK) != 0)
+            fail(DtExitCode::Unreadable, "the template " + absolutePath(file) + " cannot be read.");
 }
 
 std::vector<std::string> DtModelGeneration::commandFiles() const
@@ -306,11 +324,11 @@ std::string DtModelGeneration::commandFile(const std::string& script) const
     if (script.empty())
         fail(DtExitCode::Usage, "--script needs a name.");
     const std::string file = fileOfScript(script);
-    if (DtGenerationRun::isCpp(DtString(file)) || isFile(DtDataFile(DtString("../data/" + file)).stdString()))
+    const std::vector<std::string> names = scriptNames(myRequest);
+    if (std::find(names.begin(), names.end(), scriptOfFile(file)) != names.end())
         return file;
     if (isFile(script))
         return absolutePath(script);
-    const std::vector<std::string> names = scriptNames(myRequest);
     std::string known;
     for (const std::string& name : names)
         known += (known.empty() ? "" : ", ") + name;

@@ -67,6 +67,7 @@ private:
     void selectByPatterns();
     void selectByDefault();
     void fillProject();
+    static void checkTemplates();
     std::vector<DtFilename> filesToLoad();
     DtFilename findModel(const std::string& name) const;
     DtFilename findProjectModel(const DtOmtProject::DtFilePair& model) const;
@@ -74,7 +75,7 @@ private:
     std::string commandFile(const std::string& script) const;
     std::vector<std::string> commandFiles() const;
 
-    DtRunScope myScope;                                // first, so that it goes last
+    DtRunScope myScope;                                 // first, so that it goes last
     const DtRestored<int> myNotifyLevel{DtNotifyLevel}; // which a configuration sets
     DtGenerationRequest myRequest;
     DtCodeGenInitializer myConfiguration;

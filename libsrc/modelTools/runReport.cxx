@@ -1,15 +1,17 @@
 #include "modelTools/runReport.h"
 
 #include "fileGenerator/omtProject.h"
+#include "foundation/fileUtils.h"
+#include "modelTools/outputManifest.h"
 #include "modelTools/programVersion.h"
 
-#include <QtCore/QCryptographicHash>
-#include <QtCore/QFile>
 #include <QtCore/QString>
 
 #include <nlohmann/json.hpp>
 
 #include <algorithm>
+#include <cctype>
+#include <filesystem>
 #include <map>
 
 namespace
@@ -18,9 +20,10 @@ using Json = nlohmann::ordered_json;
 
 std::string hashOf(const std::string& path)
 {
-    QFile file(QFile::decodeName(path.c_str()));
-    QCryptographicHash hash(QCryptographicHash::Sha256);
-    return file.open(QIODevice::ReadOnly) && hash.addData(&file) ? hash.result().toHex().toStdString() : std::string();
+    std::string content;
+    if (!DtReadFile(DtString(path), content))
+        return std::string();
+    return DtOutputManifest::entryOf(content).sha256;
 }
 
 // The name that the project gives a class; the part of its full name behind the last dot when it is not renamed.
@@ -137,6 +140,7 @@ std::string DtRunReport::json() const
     report["program"] = "qxgen";
     report["version"] = DtProgramVersion();
     report["output"] = outputDirectory;
+    report["committed"] = isCommitted;
     report["inputs"] = Json::array();
     for (const auto& [path, hash] : inputs)
         report["inputs"].push_back({
@@ -180,7 +184,8 @@ std::string DtRunReport::html() const
         "<!DOCTYPE html>\n<html lang=\"en\"><head><meta charset=\"utf-8\"><title>Generation report</title>"
         "<style>";
     text += std::string(theStyle) + "</style></head>\n<body>\n<h1>Generation report</h1>\n<table>\n";
-    text += row("Program", std::string("qxgen ") + DtProgramVersion()) + row("Output", outputDirectory);
+    text += row("Program", std::string("qxgen ") + DtProgramVersion()) +
+            row("Output", outputDirectory + (isCommitted ? "" : ", left as it was"));
     text += row("Object classes", number(objectClasses)) + row("Interaction classes", number(interactionClasses));
     for (const auto& [step, seconds] : times)
         text += row("Seconds, " + step, QString::number(seconds, 'f', 3).toStdString());
@@ -199,6 +204,8 @@ std::string DtRunReport::html() const
 
 std::string DtRunReport::textFor(const std::string& file) const
 {
-    const QString name = QFile::decodeName(file.c_str());
-    return name.endsWith(QStringLiteral("html"), Qt::CaseInsensitive) ? html() : json();
+    std::string kind = std::filesystem::path(file).extension().string();
+    std::transform(kind.begin(), kind.end(), kind.begin(),
+                   [](unsigned char letter) { return static_cast<char>(std::tolower(letter)); });
+    return kind == ".html" || kind == ".xhtml" ? html() : json();
 }

@@ -23,6 +23,7 @@ struct DtRunReport
 
     std::vector<std::pair<std::string, std::string>> inputs; // path and SHA-256
     std::string outputDirectory;
+    bool isCommitted = false;      // else the files are those that a commit would write and remove
     std::size_t objectClasses = 0; // selected ones, as the next
     std::size_t interactionClasses = 0;
     std::vector<std::string> written;

@@ -1,0 +1,300 @@
+// The output directory of qxgen generate is whole whatever happens, and nothing else is touched.
+
+#include "codeGenApp/omtProjectXmlWriter.h"
+#include "fileGenerator/omtProject.h"
+#include "qxgenProgram.h"
+#include "registerTest.h"
+#include "scratchData.h"
+
+#include <QtCore/QJsonDocument>
+
+namespace
+{
+constexpr int theKills = 50;
+
+// The small model with another class name, so that files come, go and change.
+std::string otherModel()
+{
+    std::string text = smallModel();
+    text.replace(text.find("Tanker"), 6, "Ferry");
+    text.replace(text.find("Speed"), 5, "Pace");
+    return text;
+}
+} // namespace
+
+class TestQxgenFolder : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init()
+    {
+        myFolder = std::make_unique<DtProgramFolder>(DtTestFolder::memory());
+        myFolder->write("models/small.xml", smallModel());
+    }
+
+    // Half of the kills are spread over the time of a run; half follow right behind the appearance of the journal,
+    // since the commit is a small part of that time.
+    void killedRunLeavesWholeFilesAndTheNextOneCompletesThem()
+    {
+        const DtContents versions[] = {outputOf(smallModel()), outputOf(otherModel())};
+        QVERIFY(differenceOf(versions[0], versions[1]) != "");
+        QCOMPARE(generate({}).code, 0);
+        const auto start = std::chrono::steady_clock::now();
+        QCOMPARE(generate({"--verify"}).code, 0);
+        const auto length = std::chrono::steady_clock::now() - start;
+        int interrupted = 0, behindJournal = 0;
+        for (int kill = 0; kill < theKills; ++kill)
+        {
+            const int next = kill % 2 == 0 ? 1 : 0;
+            myFolder->write("models/small.xml", next == 1 ? otherModel() : smallModel());
+            const pid_t program = myFolder->startGenerate({"models/small.xml", "-o", "out", "--stamp", "stamp"});
+            if (kill < theKills / 2)
+                std::this_thread::sleep_for(length * kill / (theKills / 2));
+            else
+                waitForJournal(program, kill);
+            ::kill(program, SIGKILL);
+            const int code = endOf(program);
+            QVERIFY2(code == 0 || code == 128 + SIGKILL, myFolder->errorsSoFar().c_str());
+            interrupted += code == 0 ? 0 : 1;
+            behindJournal += std::filesystem::exists(myFolder->path("out/.qxgen-journal.json")) ? 1 : 0;
+            QCOMPARE(std::filesystem::exists(myFolder->path("stamp")), code == 0);
+            COMPARE_TEXT(strangeFiles(versions[0], versions[1]), "");
+            QCOMPARE(generate({}).code, 0);
+            COMPARE_TEXT(differenceOf(versions[next], treeOf(myFolder->path("out"))), "");
+            COMPARE_TEXT(ownNames(myFolder->path("out")), ".qxgen-manifest.json");
+            std::filesystem::remove(myFolder->path("stamp"));
+        }
+        qInfo("%d of %d runs were killed, %d with a journal", interrupted, theKills, behindJournal);
+        QVERIFY(interrupted > theKills / 4);
+    }
+
+    void signalEndsARun_data()
+    {
+        QTest::addColumn<int>("signal");
+        QTest::addColumn<int>("code");
+        QTest::newRow("INT") << SIGINT << 130;
+        QTest::newRow("TERM") << SIGTERM << 143;
+    }
+    void signalEndsARun()
+    {
+        QFETCH(int, signal);
+        QFETCH(int, code);
+        const DtOutputLock lock(myFolder->path("out"));
+        const pid_t program = myFolder->startGenerate({"models/small.xml", "-o", "out"}); // waits for the lock
+        QVERIFY(comesTrue([this] { return contains(myFolder->errorsSoFar(), "waiting"); }));
+        kill(program, signal);
+        QCOMPARE(endOf(program), code);
+        COMPARE_TEXT(differenceOf({}, treeOf(myFolder->path("out"))), "");
+    }
+
+    void fullDiskLeavesTheOldOutput()
+    {
+        std::filesystem::create_directories(myFolder->path("disk"));
+        const DtTestMount disk("tmpfs", "tmpfs", myFolder->path("disk"), 0, "size=400k");
+        if (!disk.isMounted())
+            QSKIP(disk.why().c_str());
+        const auto generateThere = [this](const DtArguments& options)
+        {
+            DtArguments arguments = {"models/small.xml", "-o", "disk/out"};
+            arguments.insert(arguments.end(), options.begin(), options.end());
+            return myFolder->generate(arguments);
+        };
+        COMPARE_TEXT(textOf(generateThere({"--script", "json"})), "0\n--\n");
+        const DtContents before = treeOf(myFolder->path("disk/out"));
+        const DtProgramEnd end = generateThere({"--dis", "--examples", "--with-management"});
+        QCOMPARE(end.code, 5);
+        QVERIFY2(end.err.rfind("qxgen: error: disk/out", 0) == 0, end.err.c_str());
+        COMPARE_TEXT(differenceOf(before, treeOf(myFolder->path("disk/out"))), "");
+        COMPARE_TEXT(textOf(generateThere({"--script", "json"})), "0\n--\n");
+        COMPARE_TEXT(ownNames(myFolder->path("disk/out")), ".qxgen-manifest.json");
+    }
+
+    void readOnlyDirectoryEndsWith5()
+    {
+        QCOMPARE(generate({"--script", "json"}).code, 0);
+        const DtTestMount same("none", myFolder->path("out"), myFolder->path("out"), MS_BIND);
+        if (!same.isMounted())
+            QSKIP(same.why().c_str());
+        QVERIFY(same.makeReadOnly());
+        const DtProgramEnd end = generate({});
+        QCOMPARE(end.code, 5);
+        QVERIFY2(end.err.rfind("qxgen: error: out", 0) == 0 && contains(end.err, "Read-only file system"),
+                 end.err.c_str());
+        COMPARE_TEXT(textOf(generate({"--script", "json", "--verify"})), "0\n--\n"); // which writes nothing there
+    }
+
+    void twoRunsAtOnceGiveTheOutputOfTheLaterOne()
+    {
+        const DtContents small = outputOf(smallModel()), other = outputOf(otherModel());
+        myFolder->write("models/other.xml", otherModel());
+        for (int round = 0; round < 3; ++round)
+        {
+            const pid_t first = myFolder->startGenerate({"models/small.xml", "-o", "out"});
+            const pid_t second = myFolder->startGenerate({"models/other.xml", "--name", "small", "-o", "out"});
+            QCOMPARE(endOf(first), 0);
+            QCOMPARE(endOf(second), 0);
+            const DtContents result = treeOf(myFolder->path("out"));
+            QVERIFY2(result == small || result == other,
+                     (differenceOf(small, result) + "\n" + differenceOf(other, result)).c_str());
+            COMPARE_TEXT(ownNames(myFolder->path("out")), ".qxgen-manifest.json");
+        }
+    }
+
+    void heldDirectoryIsWaitedForUnlessForbidden()
+    {
+        auto lock = std::make_unique<DtOutputLock>(myFolder->path("out"));
+        const DtProgramEnd refused = generate({"--no-wait"});
+        QCOMPARE(refused.code, 5);
+        QVERIFY2(refused.err.rfind("qxgen: error: out", 0) == 0, refused.err.c_str());
+        const pid_t waiting = myFolder->startGenerate({"models/small.xml", "-o", "out"});
+        const std::string notice = "qxgen: waiting for the run of process " + std::to_string(getpid()) + " in out\n";
+        QVERIFY(comesTrue([&] { return contains(myFolder->errorsSoFar(), notice); }));
+        QVERIFY(!std::filesystem::exists(myFolder->path("out/Makefile")));
+        lock.reset();
+        COMPARE_TEXT(textOf(myFolder->end(waiting)), ("0\n--\n" + notice).c_str());
+        QVERIFY(std::filesystem::exists(myFolder->path("out/Makefile")));
+    }
+
+    void namesMayHoldAnyByte_data()
+    {
+        QTest::addColumn<QByteArray>("name");
+        const std::vector<const char*> names = {"with blank",    "quote'\"s", "M\xc3\xa4rz", "M\xe4rz",  "back\\slash",
+                                                "dollar$ #sign", "[a,b]",     "100%",        "a;b&c|d*", "\xff\xfe"};
+        for (std::size_t index = 0; index < names.size(); ++index)
+            QTest::addRow("%zu", index) << QByteArray(names[index]);
+    }
+    void namesMayHoldAnyByte()
+    {
+        QFETCH(QByteArray, name);
+        const std::string folder = name.toStdString();
+        const DtContents expected = outputOf(smallModel());
+        myFolder->write(folder + "/small.xml", smallModel());
+        const DtProgramEnd end =
+            myFolder->generate({folder + "/small.xml", "-o", folder + "/out", "--stamp", folder + "/stamp", "--depfile",
+                                folder + "/d", "--report", folder + "/report.json"});
+        COMPARE_TEXT(textOf(end), "0\n--\n");
+        COMPARE_TEXT(differenceOf(expected, treeOf(myFolder->path(folder + "/out"))), "");
+        for (const char* file : {"/stamp", "/d", "/report.json"})
+            QVERIFY2(std::filesystem::exists(myFolder->path(folder + file)), file);
+        QJsonParseError error;
+        QVERIFY(!QJsonDocument::fromJson(QByteArray(myFolder->text(folder + "/report.json").c_str()), &error).isNull());
+    }
+
+    void modelMayBeCalledAnything_data() { namesMayHoldAnyByte_data(); }
+    void modelMayBeCalledAnything()
+    {
+        QFETCH(QByteArray, name);
+        const std::string model = "models/" + name.toStdString() + ".xml";
+        myFolder->write(model, smallModel());
+        COMPARE_TEXT(textOf(myFolder->generate({model, "-o", "out"})), "0\n--\n");
+        COMPARE_TEXT(textOf(myFolder->generate({model, "-o", "out", "--verify"})), "0\n--\n");
+        QVERIFY(std::filesystem::exists(myFolder->path("out/bargeStateRepository.h")));
+    }
+
+    void modelsProjectAndTheirFoldersStayAsTheyAre()
+    {
+        DtOmtProject project;
+        project.addFomDefFile("small.xml", "");
+        project.addObject("HLAobjectRoot.Barge", true, "Vessel");
+        DtOmtProjectXmlWriter(project, DtFilename(DtString(myFolder->path("models/port.qxproj").native()))).writeXml();
+        const QString models = QString::fromStdString(myFolder->path("models").native());
+        const QMap<QString, QDateTime> entries = entriesBelow(models);
+        const DtContents contents = treeOf(myFolder->path("models"));
+        const auto folderTime = std::filesystem::last_write_time(myFolder->path("models"));
+        for (const char* option : {"--examples", "--list", "--verify", "--with-management"})
+        {
+            myFolder->generate({"models/small.xml", "-o", "out", option});
+            myFolder->generate({"--project", "models/port.qxproj", "-o", "out", option});
+        }
+        QVERIFY(std::filesystem::exists(myFolder->path("out/vesselStateRepository.h")));
+        QCOMPARE(entriesBelow(models), entries);
+        COMPARE_TEXT(differenceOf(contents, treeOf(myFolder->path("models"))), "");
+        QVERIFY(std::filesystem::last_write_time(myFolder->path("models")) == folderTime);
+    }
+
+    void editedFileIsKeptOrTold()
+    {
+        QCOMPARE(generate({}).code, 0);
+        myFolder->write("out/Makefile", "mine");
+        myFolder->write("out/tankerStateRepository.h", "mine");
+        myFolder->write("out/own.h", "mine");
+        COMPARE_TEXT(textOf(generate({"--select", "Barge"})),
+                     "0\n--\nout/Makefile: warning: was edited by hand and is replaced [edited-by-hand]\n"
+                     "out/tankerStateRepository.h: warning: is not generated any more but was edited by hand: it is "
+                     "kept [edited-by-hand]\n");
+        QVERIFY(myFolder->text("out/Makefile") != "mine");
+        COMPARE_TEXT(myFolder->text("out/tankerStateRepository.h"), "mine");
+        COMPARE_TEXT(myFolder->text("out/own.h"), "mine");
+        QVERIFY(!std::filesystem::exists(myFolder->path("out/tankerStateRepository.cxx")));
+    }
+
+    void unchangedFilesKeepTheirTimes()
+    {
+        QCOMPARE(generate({}).code, 0);
+        const QString out = QString::fromStdString(myFolder->path("out").native());
+        const QMap<QString, QDateTime> before = entriesBelow(out);
+        QCOMPARE(generate({}).code, 0);
+        QCOMPARE(entriesBelow(out), before);
+    }
+
+    void damagedManifestIsToldAndRemovesNothing()
+    {
+        QCOMPARE(generate({"--script", "json"}).code, 0);
+        myFolder->write("out/.qxgen-manifest.json", "{");
+        const DtProgramEnd end = generate({"--script", "html"});
+        QCOMPARE(end.code, 0);
+        QVERIFY2(contains(end.err, "[manifest-damaged]"), end.err.c_str());
+        QVERIFY(std::filesystem::exists(myFolder->path("out/model.json")));
+    }
+
+private:
+    DtProgramEnd generate(const DtArguments& options) const
+    {
+        DtArguments arguments = {"models/small.xml", "-o", "out"};
+        arguments.insert(arguments.end(), options.begin(), options.end());
+        return myFolder->generate(arguments);
+    }
+
+    // What a run makes of this text as models/small.xml.
+    DtContents outputOf(const std::string& text) const
+    {
+        const DtProgramFolder other(DtTestFolder::memory());
+        other.write("models/small.xml", text);
+        if (other.generate({"models/small.xml", "-o", "out"}).code != 0)
+            qFatal("the program fails");
+        return treeOf(other.path("out"));
+    }
+
+    // Files that are neither in one of the versions nor in the other.
+    std::string strangeFiles(const DtContents& one, const DtContents& other) const
+    {
+        std::string names;
+        for (const auto& [path, content] : treeOf(myFolder->path("out")))
+        {
+            const auto isIn = [&path = path, &content = content](const DtContents& version)
+            { return version.count(path) == 1 && version.at(path) == content; };
+            if (!isIn(one) && !isIn(other))
+                names += path + "\n";
+        }
+        return names;
+    }
+
+    // Returns a little later than the journal appears, each time another while; or when the program has ended.
+    void waitForJournal(pid_t program, int kill) const
+    {
+        const auto hasEnded = [program]
+        {
+            siginfo_t info = {};
+            return waitid(P_PID, program, &info, WEXITED | WNOHANG | WNOWAIT) != 0 || info.si_pid == program;
+        };
+        while (!std::filesystem::exists(myFolder->path("out/.qxgen-journal.json")) && !hasEnded())
+            std::this_thread::sleep_for(std::chrono::microseconds(20));
+        std::this_thread::sleep_for(std::chrono::microseconds(kill * 20));
+    }
+
+    std::unique_ptr<DtProgramFolder> myFolder;
+};
+
+QX_REGISTER_TEST(TestQxgenFolder)
+#include "testQxgenFolder.moc"

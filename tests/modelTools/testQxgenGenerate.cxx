@@ -1,0 +1,456 @@
+// What qxgen generate does with each of its options, and how it ends.
+
+#include "codeGenApp/omtProjectXmlWriter.h"
+#include "fileGenerator/omtProject.h"
+#include "qxgenProgram.h"
+#include "registerTest.h"
+#include "scratchData.h"
+
+#include <QtCore/QJsonDocument>
+#include <QtCore/QJsonObject>
+
+class TestQxgenGenerate : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init()
+    {
+        myFolder = std::make_unique<DtProgramFolder>();
+        myFolder->write("models/small.xml", smallModel());
+    }
+
+    void goodRunIsSilent()
+    {
+        COMPARE_TEXT(textOf(generate({})), "0\n--\n");
+        QVERIFY(treeOf(myFolder->path("out")).size() > 30);
+        COMPARE_TEXT(textOf(generate({})), "0\n--\n"); // over its own output too
+    }
+
+    void listNamesAllOutputsAndWritesNothing()
+    {
+        const DtProgramEnd listed =
+            myFolder->generate({"models/small.xml", "--list", "--script", "cpp", "--script", "json"});
+        COMPARE_TEXT(listed.err, "");
+        QCOMPARE(listed.code, 0);
+        QVERIFY(!std::filesystem::exists(myFolder->path("out")));
+        QCOMPARE(entriesBelow(QString::fromStdString(myFolder->path().native())).keys(),
+                 QStringList({"models", "models/small.xml"}));
+        QCOMPARE(generate({"--script", "cpp", "--script", "json"}).code, 0);
+        std::string names;
+        for (const auto& file : treeOf(myFolder->path("out")))
+            names += file.first + "\n";
+        COMPARE_TEXT(listed.out, names.c_str());
+    }
+
+    void dryRunListsWhatWouldChange()
+    {
+        COMPARE_TEXT(textOf(generate({"--script", "json", "--dry-run"})), "0\nA model.json\n--\n");
+        QVERIFY(!std::filesystem::exists(myFolder->path("out")));
+        QCOMPARE(generate({"--script", "json"}).code, 0);
+        COMPARE_TEXT(textOf(generate({"--script", "json", "--dry-run"})), "0\n--\n");
+        const DtContents before = treeOf(myFolder->path("out"));
+        COMPARE_TEXT(textOf(generate({"--script", "html", "--dry-run"})), "0\nD model.json\nA model.xhtml\n--\n");
+        COMPARE_TEXT(textOf(generate({"--script", "json", "--select", "Horn", "--dry-run"})), "0\nM model.json\n--\n");
+        COMPARE_TEXT(differenceOf(before, treeOf(myFolder->path("out"))), "");
+    }
+
+    void verifyEndsWith4IfAnythingWouldChange()
+    {
+        COMPARE_TEXT(textOf(generate({"--script", "json", "--verify"})), "4\nA model.json\n--\n");
+        QCOMPARE(generate({"--script", "json"}).code, 0);
+        COMPARE_TEXT(textOf(generate({"--script", "json", "--verify"})), "0\n--\n");
+        COMPARE_TEXT(textOf(generate({"--script", "html", "--verify"})), "4\nD model.json\nA model.xhtml\n--\n");
+        std::filesystem::remove(myFolder->path("out/model.json"));
+        COMPARE_TEXT(textOf(generate({"--script", "json", "--verify"})), "4\nA model.json\n--\n");
+    }
+
+    void argumentsMayStandInAFile()
+    {
+        myFolder->write("line.txt", "models/small.xml\n-o\nmy out\n--script\njson\n");
+        COMPARE_TEXT(textOf(myFolder->run({"generate", "@line.txt"})), "0\n--\n");
+        QVERIFY(std::filesystem::exists(myFolder->path("my out/model.json")));
+        myFolder->write("all.txt", "generate\nmodels/small.xml\n--list\n--script=json\n");
+        COMPARE_TEXT(textOf(myFolder->run({"@all.txt"})), "0\nmodel.json\n--\n");
+    }
+
+    void modelsAreLookedForInFurtherPlaces()
+    {
+        const auto list = [this](const DtArguments& more, const char* rtiConfig)
+        {
+            DtArguments arguments = {"small.xml", "--list", "--script", "json"};
+            arguments.insert(arguments.end(), more.begin(), more.end());
+            return textOf(myFolder->generate(arguments, [rtiConfig] { setenv("RTI_CONFIG", rtiConfig, 1); }));
+        };
+        std::filesystem::create_directories(myFolder->path("none"));
+        COMPARE_TEXT(list({}, ""), "2\n--\nqxgen: error: there is no model small.xml in the working directory or below "
+                                   "RTI_CONFIG. --model-path names further directories.\n");
+        COMPARE_TEXT(list({"--model-path", "none", "--model-path", "models"}, ""), "0\nmodel.json\n--\n");
+        COMPARE_TEXT(list({}, myFolder->path("models").c_str()), "0\nmodel.json\n--\n");
+    }
+
+    void tokenOfAModelThatWasLookedForIsNoLeftover()
+    {
+        std::string text = smallModel();
+        const std::string name = "<name>Buoy</name>";
+        text.insert(text.find(name) + name.size(), "<semantics>Called &lt;!Buoy!&gt; here.</semantics>");
+        myFolder->write("models/small.xml", text);
+        for (const char* model : {"models/small.xml", "small.xml"})
+        {
+            COMPARE_TEXT(textOf(myFolder->generate({model, "-o", "out", "--script", "json", "--model-path", "models"})),
+                         "0\n--\n");
+            QVERIFY(contains(myFolder->text("out/model.json"), "<!Buoy!>"));
+        }
+    }
+
+    void modulesAreMergedInTheirOrder()
+    {
+        myFolder->write("models/more.xml", moduleText(objectText("Barge", objectText("Ferry"))).toStdString());
+        COMPARE_TEXT(textOf(myFolder->generate({"models/small.xml", "models/more.xml", "-o", "out"})), "0\n--\n");
+        QVERIFY(contains(myFolder->text("out/ferryStateRepository.h"), "class DT_DLL_SMALL DtFerryStateRepository"));
+        QVERIFY(std::filesystem::exists(myFolder->path("out/buoyStateRepository.h")));
+    }
+
+    void dataDirectoryMayComeFromTheEnvironment()
+    {
+        writeOwnFiles();
+        const auto use = [](const char* directory) { return [directory] { setenv("QX_DATA_DIR", directory, 1); }; };
+        COMPARE_TEXT(textOf(generate({"--script", "json"}, use("my/data"))), "0\n--\n");
+        COMPARE_TEXT(textOf(generate({"--script", "html"}, use("my/data"))),
+                     "1\n--\nqxgen: error: there is no script \"html\". Scripts are cpp, json, or paths of command "
+                     "files.\n");
+        const std::string wrong = textOf(generate({"--script", "json"}, use("my")));
+        COMPARE_TEXT(wrong, "2\n--\nqxgen: error: QX_DATA_DIR names my, which is no data directory: it has no "
+                            "config/codeGenConfig.xml.\n");
+    }
+
+    void configurationOfTheUserIsReadOnlyWhenItIsNamed()
+    {
+        writeOwnFiles();
+        std::filesystem::copy_file(myFolder->path("my/config.xml"),
+                                   myFolder->path("my/data/config/customCodeGenConfig.xml"));
+        copyTree(QStringLiteral(QX_SOURCE_DIR "/data/templates"),
+                 QString::fromStdString(myFolder->path("my/data/templates").native()));
+        QCOMPARE(generate({"--data-dir", "my/data"}).code, 0);
+        QVERIFY(contains(myFolder->text("out/bargeStateRepository.h"), "DtBargeStateRepository"));
+        QCOMPARE(generate({"--data-dir", "my/data", "--config", "my/data/config/customCodeGenConfig.xml"}).code, 0);
+        QVERIFY(contains(myFolder->text("out/bargeStateRepository.h"), "DtCcBargeStateRepository"));
+    }
+
+    void projectGivesModelsSelectionAndNames()
+    {
+        writeProject();
+        const DtContents before = treeOf(myFolder->path("models"));
+        COMPARE_TEXT(textOf(myFolder->generate({"--project", "models/port.qxproj", "-o", "out"})), "0\n--\n");
+        QVERIFY(contains(myFolder->text("out/Makefile"), "libharbourHLA.a"));
+        QVERIFY(contains(myFolder->text("out/vesselStateRepository.h"), "DtQqVesselStateRepository"));
+        QVERIFY(!std::filesystem::exists(myFolder->path("out/buoyStateRepository.h")));
+        COMPARE_TEXT(differenceOf(before, treeOf(myFolder->path("models"))), "");
+    }
+
+    void optionsGoAheadOfTheProject()
+    {
+        writeProject();
+        myFolder->write("other/other.xml", smallModel());
+        COMPARE_TEXT(textOf(myFolder->generate({"other/other.xml", "--project", "models/port.qxproj", "-o", "out",
+                                                "--prefix", "Rr", "--select", "B*", "--name", "sea"})),
+                     "0\n--\n");
+        QVERIFY(contains(myFolder->text("out/Makefile"), "libseaHLA.a"));
+        QVERIFY(contains(myFolder->text("out/vesselStateRepository.h"), "DtRrVesselStateRepository")); // still renamed
+        QVERIFY(std::filesystem::exists(myFolder->path("out/buoyStateRepository.h")));
+    }
+
+    void stampAndDepfileTellWhatTheOutputDependsOn()
+    {
+        writeOwnFiles();
+        COMPARE_TEXT(textOf(generate({"--script", "json", "--stamp", "s t/stamp", "--depfile", "d/dep#s.d",
+                                      "--template-dir", "my/templates", "--config", "my/config.xml"})),
+                     "0\n--\n");
+        const std::string top = myFolder->path().native(); // which ends in a separator
+        std::string text = myFolder->text("d/dep#s.d");
+        COMPARE_TEXT(text.substr(0, text.find('\n')), (top + "s\\ t/stamp: \\").c_str());
+        for (const std::string& file :
+             {top + "models/small.xml", top + "my/config.xml", std::string(QX_SOURCE_DIR "/data/genJson.txt"),
+              std::string(QX_SOURCE_DIR "/data/templates/json/model.tlt"), std::string(QX_QXGEN)})
+            QVERIFY2(contains(text, "\n  " + file), file.c_str());
+        COMPARE_TEXT(myFolder->text("s t/stamp"), "");
+        QVERIFY(std::filesystem::exists(myFolder->path("s t/stamp")));
+    }
+
+    void stampIsNotWrittenByARunThatFails()
+    {
+        myFolder->write("models/broken.xml", "<objectModel");
+        QCOMPARE(myFolder->generate({"models/broken.xml", "-o", "out", "--stamp", "stamp"}).code, 2);
+        QVERIFY(!std::filesystem::exists(myFolder->path("stamp")));
+    }
+
+    void reportTellsOfTheRun()
+    {
+        QCOMPARE(generate({"--script", "json"}).code, 0);
+        COMPARE_TEXT(textOf(generate({"--script", "html", "--report", "r/report.json"})), "0\n--\n");
+        const QJsonObject report =
+            QJsonDocument::fromJson(QByteArray(myFolder->text("r/report.json").c_str())).object();
+        QCOMPARE(
+            QJsonDocument(report["files"].toObject()).toJson(QJsonDocument::Compact),
+            QByteArray("{\"kept\":[],\"removed\":[\"model.json\"],\"unchanged\":[],\"written\":[\"model.xhtml\"]}"));
+        QCOMPARE(report["committed"].toBool(), true);
+        QCOMPARE(report["counts"].toObject()["objectClasses"].toInt(), 3);
+        QCOMPARE(report["counts"].toObject()["interactionClasses"].toInt(), 1);
+        QVERIFY(report["seconds"].toObject().contains("total"));
+        QCOMPARE(generate({"--script", "html", "--report", "r/report.html"}).code, 0);
+        QVERIFY(contains(myFolder->text("r/report.html"), "1 unchanged"));
+    }
+
+    void reportOfARunThatListsTellsThatNothingWasChanged()
+    {
+        for (const char* option : {"--list", "--dry-run", "--verify"})
+        {
+            generate({"--script", "json", option, "--report", "report.json"});
+            const QJsonObject report =
+                QJsonDocument::fromJson(QByteArray(myFolder->text("report.json").c_str())).object();
+            QCOMPARE(report["committed"].toBool(true), false);
+            QCOMPARE(report["counts"].toObject()["written"].toInt(), 1);
+            std::filesystem::remove(myFolder->path("report.json"));
+        }
+    }
+
+    void helpFitsAScreenAndGoesToStandardOutput()
+    {
+        for (const DtArguments& arguments : {
+                 DtArguments{"--help"},
+                 DtArguments{          "-h"       },
+                 DtArguments{ "generate",        "--help"}
+        })
+        {
+            const DtProgramEnd help = myFolder->run(arguments);
+            QCOMPARE(help.code, 0);
+            COMPARE_TEXT(help.err, "");
+            QVERIFY(contains(help.out, "Usage: qxgen"));
+            std::istringstream lines(help.out);
+            int count = 0;
+            for (std::string line; std::getline(lines, line); ++count)
+                QVERIFY2(line.size() <= 120, line.c_str());
+            QVERIFY2(count <= 55, help.out.c_str());
+        }
+        const DtProgramEnd version = myFolder->run({"--version"});
+        QVERIFY(version.code == 0 && version.out.rfind("qxgen ", 0) == 0 && version.err.empty());
+    }
+
+    void failuresAreOneLineAndACode_data()
+    {
+        QTest::addColumn<QByteArray>("arguments"); // with bars between
+        QTest::addColumn<int>("code");
+        QTest::addColumn<QByteArray>("error"); // its start, behind the program's name
+        const auto row = [](const char* arguments, int code, const char* error) {
+            QTest::newRow(*arguments == '\0' ? "nothing" : arguments)
+                << QByteArray(arguments) << code << QByteArray(error);
+        };
+        row("", 1, "A subcommand is required");
+        row("frobnicate", 1, "");
+        row("generate", 1, "no model and no project is given.");
+        row("generate|models/small.xml", 1, "no output directory is given; -o DIR names it.");
+        row("generate|models/small.xml|-o|out|--frob", 1, "The following argument was not expected: --frob");
+        row("generate|models/small.xml|-o", 1, "");
+        row("generate|models/small.xml|-o|out|--layout|flat", 1,
+            "--layout: there is no flat; classic, tree are possible.");
+        row("generate|models/small.xml|-o|out|--layout|1", 1, "--layout: there is no 1; classic, tree are possible.");
+        row("generate|models/small.xml|-o|out|--format|xml", 1,
+            "--format: there is no xml; json, msvs, text are possible.");
+        row("generate|models/small.xml|-o|out|--color|red", 1,
+            "--color: there is no red; always, auto, never are possible.");
+        row("generate|models/small.xml|-o|out|--list|--verify", 1,
+            "--dry-run, --verify and --list exclude one another.");
+        row("generate|models/small.xml|-o|out|--watch|--verify", 1, "--watch writes the output");
+        row("generate|models/small.xml|-o|out|-q|-v", 1, "-q and -v exclude one another.");
+        row("generate|models/small.xml|-o|out|--depfile|d", 1, "--depfile needs --stamp, which is its target.");
+        row("generate|models/small.xml|-o|out|--select|Bargo", 1, "no class matches \"Bargo\". Did you mean Barge?");
+        row("generate|models/small.xml|-o|out|--select|HLAfederate", 1,
+            "no class matches \"HLAfederate\". It matches management");
+        row("generate|models/small.xml|-o|out|--set|prefixNam=x", 1,
+            "there is no key \"prefixNam\" in the configuration. Did you mean prefixName?");
+        row("generate|models/small.xml|-o|out|--set|firstPduKind=x", 1,
+            "\"x\" is no value of the key \"firstPduKind\"");
+        row("generate|models/small.xml|-o|out|--set|logFileName=x", 1, "the key \"logFileName\" cannot be set");
+        row("generate|models/small.xml|-o|out|--prefix|a b", 1, "\"a b\" is no value of the key \"prefixName\"");
+        row("generate|models/small.xml|-o|out|--include-dir|../up", 1,
+            "\"../up\" is no value of the key \"includeName\"");
+        row("generate|models/small.xml|-o|out|--script|htm", 1, "there is no script \"htm\". Did you mean html?");
+        row("generate|models/small.xml|-o|out|--script|", 1, "--script needs a name.");
+        row("generate|@gone.txt", 1, "the file of arguments gone.txt cannot be read.");
+        row("generate|models/gone.xml|-o|out", 2, "there is no model models/gone.xml");
+        row("generate|models|-o|out", 2, "there is no model models ");
+        row("generate|models/broken.xml|-o|out", 2, "the model cannot be read: ");
+        row("generate|--project|gone.qxproj|-o|out", 2, "there is no project file gone.qxproj.");
+        row("generate|--project|models/small.xml|-o|out", 2, "models/small.xml is no project file.");
+        row("generate|models/small.xml|-o|out|--config|gone.xml", 2, "the configuration gone.xml cannot be read.");
+        row("generate|models/small.xml|-o|out|--config|models/small.xml", 2,
+            "the configuration models/small.xml cannot be read.");
+        row("generate|models/small.xml|-o|out|--template-dir|gone", 2, "there is no template directory gone.");
+        row("generate|models/small.xml|-o|out|--data-dir|gone", 2, "--data-dir names gone, which is no data directory");
+        row("generate|models/small.xml|-o|out|--script|html|--data-dir|my/data", 2, "the template ");
+        row("generate|models/small.xml|-o|models/small.xml", 5, "models/small.xml: ");
+        row("generate|models/small.xml|-o|models/small.xml/out", 5, "models/small.xml/out: ");
+        row("generate|models/small.xml|-o|out|--report|models", 5, "models: ");
+        row("generate|models/small.xml|-o|out|--stamp|models/small.xml/stamp", 5, "models/small.xml/stamp: ");
+    }
+    void failuresAreOneLineAndACode()
+    {
+        QFETCH(QByteArray, arguments);
+        QFETCH(int, code);
+        QFETCH(QByteArray, error);
+        writeOwnFiles();
+        myFolder->write("my/data/genHtml.txt", readBytes(QX_SOURCE_DIR "/data/genHtml.txt"));
+        myFolder->write("models/broken.xml", "<objectModel>");
+        DtArguments line;
+        if (!arguments.isEmpty())
+            for (const QByteArray& each : arguments.split('|'))
+                line.push_back(each.toStdString());
+        const DtContents before = treeOf(myFolder->path("models"));
+        const DtProgramEnd end = myFolder->run(line);
+        QCOMPARE(end.code, code);
+        COMPARE_TEXT(end.out, "");
+        const std::string expected = "qxgen: error: " + error.toStdString();
+        COMPARE_TEXT(end.err.substr(0, expected.size()), expected.c_str());
+        QVERIFY2(end.err.find('\n') == end.err.size() - 1, end.err.c_str());
+        COMPARE_TEXT(differenceOf(before, treeOf(myFolder->path("models"))), "");
+    }
+
+    void leftoverTokenEndsWith3AndChangesNothing()
+    {
+        writeOwnFiles();
+        QCOMPARE(generate({"--script", "json"}).code, 0);
+        const DtContents before = treeOf(myFolder->path("out"));
+        myFolder->write("my/templates/json/model.tlt", "{<!NoSuchThing!>}\n");
+        COMPARE_TEXT(textOf(generate({"--script", "json", "--template-dir", "my/templates"})),
+                     "3\n--\nmodel.json: error: still contains the token <!NoSuchThing!> [output-check]\n");
+        COMPARE_TEXT(differenceOf(before, treeOf(myFolder->path("out"))), "");
+    }
+
+    void standardOutputThatCannotBeWrittenEndsWith5()
+    {
+        const auto toFull = []
+        {
+            const int full = open("/dev/full", O_WRONLY);
+            dup2(full, STDOUT_FILENO);
+        };
+        COMPARE_TEXT(textOf(generate({"--list"}, toFull)), "5\n--\nqxgen: error: standard output cannot be written.\n");
+    }
+
+    // Each row: options, a file of the output, and what stands in it; a "!" in front of the file means that it is not
+    // made.
+    void optionShowsInTheOutput_data()
+    {
+        QTest::addColumn<QByteArray>("options");
+        QTest::addColumn<QByteArray>("file");
+        QTest::addColumn<QByteArray>("text");
+        const auto row = [](const char* options, const char* file, const char* text = "")
+        {
+            QTest::newRow((QByteArray(options) + " " + file).constData())
+                << QByteArray(options) << QByteArray(file) << QByteArray(text);
+        };
+        row("", "Makefile", "libsmallHLA.a");
+        row("", "bargeStateRepository.h", "class DT_DLL_SMALL DtBargeStateRepository");
+        row("--name Port", "Makefile", "libPortHLA.a");
+        row("--prefix Ab", "bargeStateRepository.h", "DtAbBargeStateRepository");
+        row("--set prefixName=Ab", "bargeStateRepository.h", "DtAbBargeStateRepository");
+        row("--prefix Zz --set prefixName=Ab", "bargeStateRepository.h", "DtAbBargeStateRepository");
+        row("--include-dir inc", "inc/bargeStateRepository.h", "class");
+        row("--include-dir inc", "bargeStateRepository.cxx", "inc/bargeStateRepository.h");
+        row("--include-dir inc", "!bargeStateRepository.h");
+        row("--namespace port", "bargeStateRepository.h", "namespace port");
+        row("", "!bargePublisherDIS.h");
+        row("--dis", "bargePublisherDIS.h", "class");
+        row("--set generateDIS=true", "bargePublisherDIS.h", "class");
+        row("", "!Examples/Barge/talk.cxx");
+        row("--examples", "Examples/Barge/talk.cxx", "main");
+        row("--set generateExamples=true", "Examples/Barge/talk.cxx", "main");
+        row("", "!hLAfederateStateRepository.h");
+        row("--with-management", "hLAfederateStateRepository.h", "class");
+        row("--select Tanker", "bargeStateRepository.h", "class"); // its superclass
+        row("--select Tanker", "tankerStateRepository.h", "class");
+        row("--select Tanker", "!buoyStateRepository.h");
+        row("--select !Barge* --select !Horn", "buoyStateRepository.h", "class");
+        row("--select !Barge* --select !Horn", "!hornInterHLA.h");
+        row("--layout tree", "bargeStateRepository.h", "class");
+        row("--layout classic", "cpp\\bargeStateRepository.h", "class");
+        row("--layout classic", "!bargeStateRepository.h");
+        row("--script html", "model.xhtml", "Barge");
+        row("--script html", "!Makefile");
+        row("--script html --script cpp", "Makefile", "all");
+        row("--script json", "model.json", "Barge");
+        row("--script python", "model_codec.py", "Barge");
+        row("--script my/list.txt", "names.txt", "Barge");
+        row("--set dumpParseTree=true", "parsedFom.txt", "Barge");
+        row("--config my/config.xml", "bargeStateRepository.h", "DtCcBargeStateRepository");
+        row("--config my/config.xml --prefix Ab", "bargeStateRepository.h", "DtAbBargeStateRepository");
+        row("--data-dir my/data", "model.json", "{");
+        row("--template-dir my/templates", "bargeStateRepository.h", "// My own words.");
+        row("--template-dir my/none --template-dir my/templates", "bargeStateRepository.h", "// My own words.");
+    }
+    void optionShowsInTheOutput()
+    {
+        QFETCH(QByteArray, options);
+        QFETCH(QByteArray, file);
+        QFETCH(QByteArray, text);
+        writeOwnFiles();
+        DtArguments arguments = argumentsOf(options);
+        if (options.startsWith("--data-dir"))
+            arguments.insert(arguments.end(), {"--script", "json"});
+        COMPARE_TEXT(textOf(generate(arguments)), "0\n--\n");
+        const bool isThere = !file.startsWith('!');
+        const std::string name = "out/" + file.mid(isThere ? 0 : 1).toStdString();
+        QCOMPARE(std::filesystem::exists(myFolder->path(name)), isThere);
+        QVERIFY2(contains(myFolder->text(name), text.toStdString()), myFolder->text(name).c_str());
+    }
+
+private:
+    static DtArguments argumentsOf(const QByteArray& options)
+    {
+        DtArguments arguments;
+        for (const QByteArray& each : options.split(' '))
+            if (!each.isEmpty())
+                arguments.push_back(each.toStdString());
+        return arguments;
+    }
+
+    // The small model into "out", with these options.
+    DtProgramEnd generate(const DtArguments& options, const std::function<void()>& prepare = {}) const
+    {
+        DtArguments arguments = {"models/small.xml", "-o", "out"};
+        arguments.insert(arguments.end(), options.begin(), options.end());
+        return myFolder->generate(arguments, prepare);
+    }
+
+    // A project of the window, with a selection and another name.
+    void writeProject() const
+    {
+        DtOmtProject project;
+        project.setBaseName("harbour");
+        project.setClassPrefix("Qq");
+        project.addFomDefFile("small.xml", "");
+        project.addObject("HLAobjectRoot.Barge", true, "Vessel");
+        DtOmtProjectXmlWriter(project, DtFilename(DtString(myFolder->path("models/port.qxproj").native()))).writeXml();
+    }
+
+    void writeOwnFiles() const
+    {
+        const QString top = QString::fromStdString(myFolder->path("my").native());
+        const QString data = QStringLiteral(QX_SOURCE_DIR "/data");
+        QByteArray configuration = readTextFile(data + "/config/codeGenConfig.xml");
+        configuration.replace("name=\"prefixName\" value=\"\"", "name=\"prefixName\" value=\"Cc\"");
+        configuration.replace("name=\"generateExamples\" value=\"true\"", "name=\"generateExamples\" value=\"false\"");
+        writeTextFile(top + "/config.xml", configuration);
+        writeTextFile(top + "/templates/stateRepHeader.tlt",
+                      "// My own words.\n" + readTextFile(data + "/templates/stateRepHeader.tlt"));
+        copyTree(data + "/config", top + "/data/config");
+        copyTree(data + "/templates/json", top + "/data/templates/json");
+        writeTextFile(top + "/data/genJson.txt", readTextFile(data + "/genJson.txt"));
+        QDir().mkpath(top + "/none");
+        writeTextFile(top + "/list.txt", readTextFile(data + "/genJson.txt").replace("model.json", "names.txt"));
+    }
+
+    std::unique_ptr<DtProgramFolder> myFolder;
+};
+
+QX_REGISTER_TEST(TestQxgenGenerate)
+#include "testQxgenGenerate.moc"

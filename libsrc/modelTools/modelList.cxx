@@ -1,7 +1,7 @@
 #include "modelTools/modelList.h"
 
 #include "fileGenerator/progressMeter.h"
-#include "modelTools/diagnostics.h"
+#include "modelTools/modelPlaces.h"
 #include "omtReader/visitDatatype.h"
 
 #include <nlohmann/json.hpp>
@@ -262,26 +262,30 @@ DtModelList::DtModelList(const DtListOptions& options) : myOptions(withChoice(op
 void DtModelList::run(std::ostream& out, std::ostream& err)
 {
     DtDiagnostics diagnostics;
-    const auto tell = [&]
-    {
-        for (const DtDiagnostic& diagnostic : diagnostics.all())
-            if (!myOptions.isQuiet)
-                err << DtFormatted(diagnostic, DtDiagnosticFormat::Text);
-    };
     try
     {
         load();
     }
     catch (...)
     {
-        tell();
+        tell(diagnostics, err);
         throw;
     }
-    tell();
+    tell(diagnostics, err);
     if (myOptions.format == DtListFormat::Json)
         writeJson(out);
     else
         writeText(out);
+}
+
+void DtModelList::tell(DtDiagnostics& diagnostics, std::ostream& err) const
+{
+    if (myOptions.isQuiet)
+        return;
+    DtModelPlaces places(myGeneration.modelFiles());
+    diagnostics.findPlaces([&places](const DtSubject& subject) { return places.of(subject); });
+    for (const DtDiagnostic& diagnostic : diagnostics.all())
+        err << DtFormatted(diagnostic, DtDiagnosticFormat::Text);
 }
 
 void DtModelList::load()

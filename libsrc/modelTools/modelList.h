@@ -1,6 +1,7 @@
 #ifndef MODEL_TOOLS_MODEL_LIST_H
 #define MODEL_TOOLS_MODEL_LIST_H
 
+#include "modelTools/diagnostics.h"
 #include "modelTools/modelGeneration.h"
 
 #include <iosfwd>
@@ -38,6 +39,7 @@ public:
 private:
     void load();
     void noteSelection();
+    void tell(DtDiagnostics& diagnostics, std::ostream& err) const;
     void writeText(std::ostream& out) const;
     void writeJson(std::ostream& out) const;
     bool isSelected(const DtString& fullName) const { return mySelected.count(fullName) > 0; }

@@ -5,6 +5,7 @@
 
 #include "smallModels.h"
 #include "stagedRun.h"
+#include "testSupport.h"
 #include "toolTest.h"
 
 #include <chrono>

@@ -396,7 +396,10 @@ private Q_SLOTS:
         DtArguments arguments = argumentsOf(options);
         if (options.startsWith("--data-dir"))
             arguments.insert(arguments.end(), {"--script", "json"});
-        COMPARE_TEXT(textOf(generate(arguments)), "0\n--\n");
+        const DtProgramEnd end = generate(arguments);
+        QVERIFY2(end.code == 0 && end.out.empty(), end.err.c_str());
+        const bool hasWarnings = options == "--with-management"; // of datatypes that cannot be encoded
+        QVERIFY2(end.err.empty() != hasWarnings, end.err.c_str());
         const bool isThere = !file.startsWith('!');
         const std::string name = "out/" + file.mid(isThere ? 0 : 1).toStdString();
         QCOMPARE(std::filesystem::exists(myFolder->path(name)), isThere);

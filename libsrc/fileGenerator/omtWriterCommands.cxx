@@ -274,8 +274,10 @@ void DtOMTWriter::setTemplateDir(const Words& words)
 // Asked by a run that keeps to its output, whose directories all begin with the one of its start.
 bool DtOMTWriter::leavesOutput(const DtString& directory) const
 {
+    if (!DtSettings::instance().files.keepsToOutput)
+        return false;
     const DtString below(directory.stdString().substr(mySavedOutputDirectory.length()));
-    return DtSettings::instance().files.keepsToOutput && !staysBelow(below, mySavedOutputDirectory);
+    return !staysBelow(below, mySavedOutputDirectory);
 }
 
 void DtOMTWriter::changeDirectory(const Words& words)

@@ -9,6 +9,7 @@
 #include "modelTools/outputException.h"
 
 #include <QtCore/QCoreApplication>
+#include <QtCore/QTextCodec>
 
 #include <iostream>
 #include <memory>
@@ -168,6 +169,8 @@ void runWatched(DtGenerateTool& tool)
     char name[] = "qxgen";
     char* arguments[] = {name, nullptr};
     const QCoreApplication application(count, arguments);
+    // Names of files are bytes: each stands for one character of this encoding, so none is lost on the way to QtCore.
+    QTextCodec::setCodecForLocale(QTextCodec::codecForName("ISO-8859-1"));
     DtInputWatch inputs;
     for (;;)
     {

@@ -50,6 +50,7 @@ public:
     const std::vector<DtDiagnostic>& all() const { return myDiagnostics; }
     std::size_t count(DtSeverity severity) const;
     void add(DtDiagnostic diagnostic) { myDiagnostics.push_back(std::move(diagnostic)); }
+    void clear() { myDiagnostics.clear(); }
     // Makes errors of all diagnostics of a rule; false when there are none.
     bool makeErrors(const DtWarningRule& rule);
     // Gives each diagnostic without a line the place of its subject. Where that is not known, the place stays.

@@ -140,6 +140,8 @@ DtExitCode DtGenerateTool::runInto(DtOutputStage& stage, DtDiagnostics& diagnost
     generate(stage, diagnostics);
     checkTargets(stage);
     const DtExitCode faults = codeOfFaults(diagnostics);
+    if (faults == DtExitCode::Unwritable)
+        failOnFirstWrite(stage, diagnostics);
     if (faults == DtExitCode::Done && myOptions.use != DtOutputUse::List)
         findEdits(stage, diagnostics);
     findPlaces(diagnostics);
@@ -183,6 +185,23 @@ DtExitCode DtGenerateTool::codeOfFaults(DtDiagnostics& diagnostics)
         if (diagnostics.makeErrors(row.rule))
             code = DtGraver(code, row.code);
     return code;
+}
+
+// One file stands for all, under the name that it would have had: a full disk fails them by the hundred, and what was
+// found in them follows from that.
+void DtGenerateTool::failOnFirstWrite(const DtOutputStage& stage, DtDiagnostics& diagnostics) const
+{
+    const std::vector<DtDiagnostic>& all = diagnostics.all();
+    const auto found = std::find_if(all.begin(), all.end(),
+                                    [](const DtDiagnostic& each) { return each.rule == DtRules::outputNotWritten.id; });
+    if (found == all.end())
+        return;
+    const std::string name = found->subject.name.stdString();
+    const std::size_t end = found->text.rfind(name + ": ");
+    const std::string reason = end == std::string::npos ? std::string() : found->text.substr(end + name.size());
+    diagnostics.clear();
+    throw DtOutputException(fs::path(myOptions.outputDirectory) / fs::path(name).lexically_relative(stage.path()),
+                            "cannot be written" + reason);
 }
 
 void DtGenerateTool::generate(DtOutputStage& stage, DtDiagnostics& diagnostics)

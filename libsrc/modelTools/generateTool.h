@@ -79,6 +79,7 @@ private:
     std::unique_ptr<DtOutputLock> takeLock() const;
     DtExitCode runInto(DtOutputStage& stage, DtDiagnostics& diagnostics);
     static DtExitCode codeOfFaults(DtDiagnostics& diagnostics);
+    void failOnFirstWrite(const DtOutputStage& stage, DtDiagnostics& diagnostics) const;
     void checkTargets(const DtOutputStage& stage) const;
     void addNotice(const DtOutputChange& change, DtDiagnostics& diagnostics) const;
     void generate(DtOutputStage& stage, DtDiagnostics& diagnostics);

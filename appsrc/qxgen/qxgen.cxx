@@ -39,7 +39,10 @@ int runCommand(CLI::App& program, const DtCommandRun& run, std::vector<std::stri
     {
         if (error.get_exit_code() == static_cast<int>(CLI::ExitCodes::Success))
             return end(static_cast<DtExitCode>(program.exit(error)));
-        return fail(DtExitCode::Usage, error.what() + std::string(" --help tells more."));
+        std::string text = error.what(); // a sentence with or without its end
+        if (text.back() != '.')
+            text += '.';
+        return fail(DtExitCode::Usage, text + " --help tells more.");
     }
     const DtExitCode code = run();
     if (!std::cout.flush())

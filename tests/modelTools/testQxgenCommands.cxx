@@ -458,8 +458,10 @@ private Q_SLOTS:
     {
         const DtRun run = qxgen({"generate", "--list", "--layout", "clasic", theSample});
         QCOMPARE(run.code, 1);
-        QVERIFY2(holds(run.errors, "--layout: there is no clasic. Did you mean classic? Known are tree|classic.\n"),
-                 run.errors.c_str());
+        QVERIFY2(
+            holds(run.errors,
+                  "--layout: there is no clasic. Did you mean classic? Known are tree|classic. --help tells more.\n"),
+            run.errors.c_str());
         QCOMPARE(qxgen({"generate", "--list", "--layout", "1", theSample}).code, 1);
     }
 

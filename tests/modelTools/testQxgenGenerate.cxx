@@ -95,9 +95,11 @@ private Q_SLOTS:
         const std::string name = "<name>Buoy</name>";
         text.insert(text.find(name) + name.size(), "<semantics>Called &lt;!Buoy!&gt; here.</semantics>");
         myFolder->write("models/small.xml", text);
+        myFolder->write("my/json/model.tlt", "<#Objects>\n<!ObjectDescriptor!>\n<#Objects>\n");
         for (const char* model : {"models/small.xml", "small.xml"})
         {
-            COMPARE_TEXT(textOf(myFolder->generate({model, "-o", "out", "--script", "json", "--model-path", "models"})),
+            COMPARE_TEXT(textOf(myFolder->generate({model, "-o", "out", "--script", "json", "--model-path", "models",
+                                                    "--template-dir", "my"})),
                          "0\n--\n");
             QVERIFY(contains(myFolder->text("out/model.json"), "<!Buoy!>"));
         }
@@ -245,19 +247,18 @@ private Q_SLOTS:
             QTest::newRow(*arguments == '\0' ? "nothing" : arguments)
                 << QByteArray(arguments) << code << QByteArray(error);
         };
-        row("", 1, "A subcommand is required");
+        row("", 1, "A subcommand is required. --help tells more.");
         row("frobnicate", 1, "");
         row("generate", 1, "no model and no project is given.");
         row("generate|models/small.xml", 1, "no output directory is given; -o DIR names it.");
-        row("generate|models/small.xml|-o|out|--frob", 1, "The following argument was not expected: --frob");
+        row("generate|models/small.xml|-o|out|--frob", 1,
+            "The following argument was not expected: --frob. --help tells more.");
         row("generate|models/small.xml|-o", 1, "");
-        row("generate|models/small.xml|-o|out|--layout|flat", 1,
-            "--layout: there is no flat; classic, tree are possible.");
-        row("generate|models/small.xml|-o|out|--layout|1", 1, "--layout: there is no 1; classic, tree are possible.");
-        row("generate|models/small.xml|-o|out|--format|xml", 1,
-            "--format: there is no xml; json, msvs, text are possible.");
+        row("generate|models/small.xml|-o|out|--layout|flat", 1, "--layout: there is no flat. Known are tree|classic.");
+        row("generate|models/small.xml|-o|out|--layout|1", 1, "--layout: there is no 1. Known are tree|classic.");
+        row("generate|models/small.xml|-o|out|--format|xml", 1, "--format: there is no xml. Known are text|msvs|json.");
         row("generate|models/small.xml|-o|out|--color|red", 1,
-            "--color: there is no red; always, auto, never are possible.");
+            "--color: there is no red. Known are auto|always|never.");
         row("generate|models/small.xml|-o|out|--list|--verify", 1,
             "--dry-run, --verify and --list exclude one another.");
         row("generate|models/small.xml|-o|out|--watch|--verify", 1, "--watch writes the output");
@@ -279,7 +280,6 @@ private Q_SLOTS:
         row("generate|@gone.txt", 1, "the file of arguments gone.txt cannot be read.");
         row("generate|models/gone.xml|-o|out", 2, "there is no model models/gone.xml");
         row("generate|models|-o|out", 2, "there is no model models ");
-        row("generate|models/broken.xml|-o|out", 2, "the model cannot be read: ");
         row("generate|--project|gone.qxproj|-o|out", 2, "there is no project file gone.qxproj.");
         row("generate|--project|models/small.xml|-o|out", 2, "models/small.xml is no project file.");
         row("generate|models/small.xml|-o|out|--config|gone.xml", 2, "the configuration gone.xml cannot be read.");
@@ -313,6 +313,17 @@ private Q_SLOTS:
         COMPARE_TEXT(end.err.substr(0, expected.size()), expected.c_str());
         QVERIFY2(end.err.find('\n') == end.err.size() - 1, end.err.c_str());
         COMPARE_TEXT(differenceOf(before, treeOf(myFolder->path("models"))), "");
+    }
+
+    void brokenModelIsToldWithItsFault()
+    {
+        myFolder->write("models/broken.xml", "<objectModel>\n<objects></objectModel>\n");
+        const DtProgramEnd end = myFolder->generate({"models/broken.xml", "-o", "out"});
+        QCOMPARE(end.code, 2);
+        const std::string file = myFolder->path("models/broken.xml").native();
+        QVERIFY2(end.err.rfind(file + ": warning: ", 0) == 0 && contains(end.err, " [unreadable-model]\n"),
+                 end.err.c_str());
+        QVERIFY2(contains(end.err, "\nqxgen: error: the model cannot be read: " + file + ".\n"), end.err.c_str());
     }
 
     void leftoverTokenEndsWith3AndChangesNothing()
@@ -364,8 +375,8 @@ private Q_SLOTS:
         row("", "!Examples/Barge/talk.cxx");
         row("--examples", "Examples/Barge/talk.cxx", "main");
         row("--set generateExamples=true", "Examples/Barge/talk.cxx", "main");
-        row("", "!hLAfederateStateRepository.h");
-        row("--with-management", "hLAfederateStateRepository.h", "class");
+        row("", "!HLAfederateStateRepository.h");
+        row("--with-management", "HLAfederateStateRepository.h", "class");
         row("--select Tanker", "bargeStateRepository.h", "class"); // its superclass
         row("--select Tanker", "tankerStateRepository.h", "class");
         row("--select Tanker", "!buoyStateRepository.h");

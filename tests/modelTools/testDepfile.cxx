@@ -7,7 +7,8 @@
 namespace
 {
 // As file names they are hard on at least one of the tools. Ninja ends a name at quotes, whatever stands ahead of them.
-const std::vector<std::string> theNames = {"plain.xml", "with blank.xml", "two  blanks", "hash#.xml", "dollar$.xml", "$(HOME) #.xml", "M\xc3\xa4rz", "per%cent", "a,b+c@d~e"};
+const std::vector<std::string> theNames = {"plain.xml",     "with blank.xml", "two  blanks", "hash#.xml", "dollar$.xml",
+                                           "$(HOME) #.xml", "M\xc3\xa4rz",    "per%cent",    "a,b+c@d~e"};
 
 // What the program prints; its exit code first.
 std::string printedBy(const QString& program, const QStringList& arguments, const std::filesystem::path& directory)

@@ -43,7 +43,7 @@ private Q_SLOTS:
         QTest::addColumn<QByteArray>("patterns");
         QTest::addColumn<bool>("withManagement");
         for (const char* scripts : {"cpp", "html", "json", "python", "cpp html json python"})
-            for (const char* patterns : {"", "*Ship*", "Horn* Berth", "!*Ship* !Port*"})
+            for (const char* patterns : {"", "*Ship*", "Answer* Berth", "!*Ship* !Port*"})
                 for (const bool isClassic : {false, true})
                     for (const bool withManagement : {false, true})
                         QTest::addRow("%s, %s, %s%s", scripts, patterns, isClassic ? "classic" : "tree",
@@ -61,12 +61,16 @@ private Q_SLOTS:
         options.request.scripts = words(scripts);
         options.request.patterns = words(patterns);
         options.request.withManagement = withManagement;
-        COMPARE_TEXT(run(options), "0\n--\n");
+        const auto isGood = [withManagement](const std::string& end) // some datatypes of that model have no encoding
+        { return withManagement ? end.rfind("0\n--\n", 0) == 0 && !contains(end, "error") : end == "0\n--\n"; };
+        const std::string end = run(options);
+        QVERIFY2(isGood(end), end.c_str());
         const DtContents contents = treeOf(myFolder->path("out"));
         QVERIFY(contents.size() > (scripts.startsWith("cpp") ? 20u : 0u));
         COMPARE_TEXT(machinePaths(contents), "");
         options.use = DtOutputUse::Verify;
-        COMPARE_TEXT(run(options), "0\n--\n");
+        const std::string second = run(options);
+        QVERIFY2(isGood(second), second.c_str());
         for (const auto& file : contents)
             QVERIFY2(contains(file.first, "\\") == isClassic || scripts != "cpp", file.first.c_str());
     }

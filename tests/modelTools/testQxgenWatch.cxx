@@ -28,8 +28,8 @@ private Q_SLOTS:
         QTest::newRow("model") << model << QByteArray("Tanker") << QByteArray("Ferry") << QByteArray("Ferry");
         QTest::newRow("template") << QByteArray("my/json/model.tlt") << QByteArray("{") << QByteArray("{ \"mine\": 1,")
                                   << QByteArray("\"mine\"");
-        QTest::newRow("command file") << QByteArray("my/genMine.txt") << QByteArray("model.json")
-                                      << QByteArray("other.json") << QByteArray();
+        QTest::newRow("command file") << QByteArray("my/genMine.txt") << QByteArray("file model.json")
+                                      << QByteArray("file other.json") << QByteArray();
     }
     void everyInputIsWatched()
     {

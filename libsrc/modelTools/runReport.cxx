@@ -2,6 +2,7 @@
 
 #include "fileGenerator/omtProject.h"
 #include "foundation/fileUtils.h"
+#include "foundation/warningRules.h"
 #include "modelTools/outputManifest.h"
 #include "modelTools/programVersion.h"
 
@@ -43,6 +44,16 @@ std::map<std::string, std::vector<const DtDiagnostic*>> byRule(const std::vector
     for (const DtDiagnostic& diagnostic : diagnostics)
         groups[diagnostic.rule].push_back(&diagnostic);
     return groups;
+}
+
+// The datatypes whose values are refused, by their names in the model.
+std::set<std::string> notEncodable(const std::vector<DtDiagnostic>& diagnostics)
+{
+    std::set<std::string> names;
+    for (const DtDiagnostic& diagnostic : diagnostics)
+        if (diagnostic.rule == DtRules::noEncoding.id)
+            names.insert(diagnostic.subject.name.stdString());
+    return names;
 }
 
 Json jsonOf(const DtDiagnostic& diagnostic)
@@ -166,6 +177,7 @@ std::string DtRunReport::json() const
     for (const auto& [rule, group] : byRule(diagnostics))
         for (const DtDiagnostic* diagnostic : group)
             report["diagnostics"][rule].push_back(jsonOf(*diagnostic));
+    report["notEncodable"] = notEncodable(diagnostics);
     report["renamed"] = Json::array();
     for (const DtRenamed& each : renamed)
         report["renamed"].push_back({

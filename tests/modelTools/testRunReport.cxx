@@ -77,6 +77,19 @@ class TestRunReport : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
+    void refusedDatatypesAreListedOnceByTheirNames()
+    {
+        DtRunReport report;
+        for (const char* name : {"Route", "Fuel", "Route"})
+        {
+            DtDiagnostic refused = warning("no-encoding", "Cannot encode");
+            refused.subject = DtSubject::datatype(name);
+            report.diagnostics.push_back(refused);
+        }
+        report.diagnostics.push_back(warning("name-clash", "other"));
+        QCOMPARE(compact(parsed(report)["notEncodable"]), QString("[\"Fuel\",\"Route\"]"));
+    }
+
     void jsonTellsAll()
     {
         const QJsonObject report = parsed(fullReport());

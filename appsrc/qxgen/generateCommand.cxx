@@ -2,6 +2,7 @@
 
 #include "commands.h"
 #include "options.h"
+#include "tellingOptions.h"
 
 #include "modelTools/dataDirectory.h"
 #include "modelTools/generateTool.h"
@@ -30,18 +31,6 @@ struct DtGenerateLine
 const DtChoices<DtCppLayout> theLayouts = {
     {"tree",    DtCppLayout::Tree   },
     {"classic", DtCppLayout::Classic},
-};
-
-const DtChoices<DtColor> theColors = {
-    {"auto",   DtColor::Auto  },
-    {"always", DtColor::Always},
-    {"never",  DtColor::Never },
-};
-
-const DtChoices<DtDiagnosticFormat> theFormats = {
-    {"text", DtDiagnosticFormat::Text},
-    {"msvs", DtDiagnosticFormat::Msvs},
-    {"json", DtDiagnosticFormat::Json},
 };
 
 void addModelOptions(CLI::App& command, DtGenerateLine& line)
@@ -102,8 +91,7 @@ void addTellingOptions(CLI::App& command, DtGenerateLine& line)
     command.add_flag("--werror", options.warningsAreErrors, "Warnings end with 3, and nothing is changed");
     command.add_flag("-q,--quiet", line.isQuiet, "Errors only");
     command.add_flag("-v,--verbose", line.isVerbose, "Each file that changes, too");
-    addChoice(command, "--color", options.color, theColors, "Colours in diagnostics");
-    addChoice(command, "--format", options.format, theFormats, "How diagnostics are written");
+    addTellingChoices(command, options.color, options.format, "diagnostics");
 }
 
 [[noreturn]] void refuse(const std::string& text)

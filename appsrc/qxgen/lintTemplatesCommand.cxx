@@ -2,6 +2,7 @@
 
 #include "commands.h"
 #include "options.h"
+#include "tellingOptions.h"
 
 #include "modelTools/dataDirectory.h"
 #include "modelTools/generateTool.h"
@@ -23,18 +24,6 @@ struct DtLintLine
     DtDiagnosticFormat format = DtDiagnosticFormat::Text;
     bool warningsAreErrors = false;
     bool isQuiet = false;
-};
-
-const DtChoices<DtColor> theColors = {
-    {"auto",   DtColor::Auto  },
-    {"always", DtColor::Always},
-    {"never",  DtColor::Never },
-};
-
-const DtChoices<DtDiagnosticFormat> theFormats = {
-    {"text", DtDiagnosticFormat::Text},
-    {"msvs", DtDiagnosticFormat::Msvs},
-    {"json", DtDiagnosticFormat::Json},
 };
 
 bool isColored(const DtLintLine& line)
@@ -69,8 +58,7 @@ void addLintTemplatesCommand(CLI::App& program, DtCommandRun& run)
         program.add_subcommand("lint-templates", "Checks templates and command files for --template-dir");
     const auto line = std::make_shared<DtLintLine>();
     command->add_option("DIR", line->directory, "Laid over the shipped templates")->type_name("");
-    addChoice(*command, "--format", line->format, theFormats, "How findings are written");
-    addChoice(*command, "--color", line->color, theColors, "Colours in findings");
+    addTellingChoices(*command, line->color, line->format, "findings");
     command->add_flag("--werror", line->warningsAreErrors, "Warnings end with 3 too");
     command->add_flag("-q,--quiet", line->isQuiet, "Errors only");
     command->add_option("--data-dir", line->dataDirectory, "The shipped templates; else QX_DATA_DIR")->type_name("DIR");

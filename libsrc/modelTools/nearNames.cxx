@@ -22,21 +22,31 @@ std::size_t costOf(char one, char other)
     return lower(one) == lower(other) ? theOtherCase : theOtherLetter;
 }
 
-// Edit distance, one row of the table at a time.
+// Whether the letters ahead of these places are the same two in another order.
+bool areSwapped(const std::string& one, std::size_t atOne, const std::string& other, std::size_t atOther)
+{
+    return atOne > 1 && atOther > 1 && costOf(one[atOne - 1], other[atOther - 2]) <= theOtherCase &&
+           costOf(one[atOne - 2], other[atOther - 1]) <= theOtherCase;
+}
+
+// Edit distance in which two neighbours that were swapped cost as one letter, three rows of the table at a time.
 std::size_t distance(const std::string& one, const std::string& other)
 {
-    std::vector<std::size_t> row(other.size() + 1);
+    using Row = std::vector<std::size_t>;
+    Row earlier(other.size() + 1), previous(other.size() + 1), row(other.size() + 1);
     for (std::size_t at = 0; at < row.size(); ++at)
         row[at] = at * theOtherLetter;
     for (std::size_t line = 1; line <= one.size(); ++line)
     {
-        std::size_t diagonal = row[0];
+        earlier.swap(previous);
+        previous.swap(row);
         row[0] = line * theOtherLetter;
         for (std::size_t at = 1; at < row.size(); ++at)
         {
-            const std::size_t replaced = diagonal + costOf(one[line - 1], other[at - 1]);
-            diagonal = row[at];
-            row[at] = std::min({row[at] + theOtherLetter, row[at - 1] + theOtherLetter, replaced});
+            row[at] = std::min({previous[at] + theOtherLetter, row[at - 1] + theOtherLetter,
+                                previous[at - 1] + costOf(one[line - 1], other[at - 1])});
+            if (areSwapped(one, line, other, at))
+                row[at] = std::min(row[at], earlier[at - 2] + theOtherLetter);
         }
     }
     return row.back();

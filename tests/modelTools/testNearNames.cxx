@@ -17,6 +17,8 @@ private Q_SLOTS:
         QTest::newRow("other letter") << QByteArray("Aircroft") << QByteArray("|Aircraft");
         QTest::newRow("letter less") << QByteArray("Aircraf") << QByteArray("|Aircraft");
         QTest::newRow("letter more") << QByteArray("Airrcraft") << QByteArray("|Aircraft");
+        QTest::newRow("letters swapped") << QByteArray("Hsip") << QByteArray("|Ship");
+        QTest::newRow("letters swapped at the end") << QByteArray("Shpi") << QByteArray("|Ship");
         QTest::newRow("other capitals") << QByteArray("SHIP") << QByteArray("|Ship|Skip");
         QTest::newRow("far") << QByteArray("Submarine") << QByteArray();
         QTest::newRow("nothing") << QByteArray() << QByteArray();

@@ -149,26 +149,14 @@ Words valuesFor(const CLI::Option& option, const DtTypedLine& line, const std::s
     return keptWith(listedValues(option), start);
 }
 
+// Long ones, and where nothing but a dash is typed the short ones too.
 Words optionNames(const CLI::App& app, const std::string& start)
 {
-    Words names;
-    for (const CLI::Option* option : app.get_options({}))
-    {
-        for (const std::string& name : option->get_lnames())
-            names.push_back("--" + name);
-        if (start == "-")
-            for (const std::string& name : option->get_snames())
-                names.push_back("-" + name);
-    }
-    return keptWith(names, start);
-}
-
-Words commandNames(const CLI::App& program, const std::string& start)
-{
-    Words names;
-    for (const CLI::App* command : program.get_subcommands({}))
-        names.push_back(command->get_name());
-    return keptWith(names, start);
+    Words names = DtOptionNames(app);
+    const auto isLeft = [&start](const std::string& name)
+    { return !startsWith(name, start) || (start != "-" && !startsWith(name, "--")); };
+    names.erase(std::remove_if(names.begin(), names.end(), isLeft), names.end());
+    return names;
 }
 
 Words positionalValues(const CLI::App& command, const std::string& start)
@@ -196,7 +184,7 @@ Words completions(const CLI::App& program, const DtTypedLine& line, const std::s
 {
     const bool isOption = startsWith(word, "-") && !line.hasEndOfOptions;
     if (line.command == nullptr)
-        return isOption ? optionNames(program, word) : commandNames(program, word);
+        return isOption ? optionNames(program, word) : keptWith(DtCommandNames(program), word);
     if (line.pending != nullptr)
         return valuesFor(*line.pending, line, word);
     if (isOption && word.find('=') != std::string::npos)
@@ -252,6 +240,26 @@ std::string DtTypedLine::valueOf(const std::string& option) const
 {
     const std::vector<std::string> all = valuesOf(option);
     return all.empty() ? std::string() : all.back();
+}
+
+std::vector<std::string> DtCommandNames(const CLI::App& program)
+{
+    Words names;
+    for (const CLI::App* command : program.get_subcommands({}))
+        names.push_back(command->get_name());
+    return names;
+}
+
+std::vector<std::string> DtOptionNames(const CLI::App& app)
+{
+    Words names;
+    for (const CLI::Option* option : app.get_options({}))
+        for (const std::string& name : option->get_lnames())
+            names.push_back("--" + name);
+    for (const CLI::Option* option : app.get_options({}))
+        for (const std::string& name : option->get_snames())
+            names.push_back("-" + name);
+    return names;
 }
 
 std::vector<std::string> DtCompletions(const CLI::App& program, std::vector<std::string> words)

@@ -26,6 +26,10 @@ private:
     void takeOption(const std::string& word);
 };
 
+std::vector<std::string> DtCommandNames(const CLI::App& program);
+// With their dashes; the long ones first.
+std::vector<std::string> DtOptionNames(const CLI::App& app);
+
 // What may stand in place of the last of the words: names of commands and options, values of options. Empty where a
 // name of a file belongs, and where nothing is known. All come from the definition of the program's options, but for
 // the keys of the configuration, the scripts and the classes of the models on the line.

@@ -1,6 +1,7 @@
 // The generator for builds and for people at a prompt: no window, no display.
 
 #include "commands.h"
+#include "lineFaults.h"
 
 #include "modelTools/argumentFile.h"
 #include "modelTools/outputException.h"
@@ -16,6 +17,7 @@ namespace
 {
 // No command for users, hence in no help; its words are taken as they are, files of arguments too.
 constexpr const char* theCompletionQuery = "complete";
+constexpr const char* theRemedy = " --help tells more.";
 
 int end(DtExitCode code)
 {
@@ -39,10 +41,7 @@ int runCommand(CLI::App& program, const DtCommandRun& run, std::vector<std::stri
     {
         if (error.get_exit_code() == static_cast<int>(CLI::ExitCodes::Success))
             return end(static_cast<DtExitCode>(program.exit(error)));
-        std::string text = error.what(); // a sentence with or without its end
-        if (text.back() != '.')
-            text += '.';
-        return fail(DtExitCode::Usage, text + " --help tells more.");
+        return fail(DtExitCode::Usage, DtFaultOfLine(program, error) + theRemedy);
     }
     const DtExitCode code = run();
     if (!std::cout.flush())
@@ -64,7 +63,11 @@ int runProgram(const std::vector<std::string>& arguments)
     addCompletionCommand(program, run);
     if (!arguments.empty() && arguments.front() == theCompletionQuery)
         return end(printCompletions(program, {arguments.begin() + 1, arguments.end()}));
-    return runCommand(program, run, DtExpandedArguments(arguments));
+    const std::vector<std::string> words = DtExpandedArguments(arguments);
+    const std::string fault = DtFaultOfCommandName(program, words);
+    if (!fault.empty())
+        return fail(DtExitCode::Usage, fault + theRemedy);
+    return runCommand(program, run, words);
 }
 } // namespace
 

@@ -247,12 +247,21 @@ private Q_SLOTS:
             QTest::newRow(*arguments == '\0' ? "nothing" : arguments)
                 << QByteArray(arguments) << code << QByteArray(error);
         };
-        row("", 1, "A subcommand is required. --help tells more.");
-        row("frobnicate", 1, "");
+        const char* const commands =
+            "Commands are generate, list, lint-templates, window, completion. --help tells more.";
+        row("", 1, ("no command is given. " + QByteArray(commands)).constData());
+        row("frobnicate", 1, ("there is no command \"frobnicate\". " + QByteArray(commands)).constData());
+        row("genreate|models/small.xml", 1, "there is no command \"genreate\". Did you mean generate? Commands are ");
+        row("-o|out|generate", 1,
+            "qxgen itself has no option -o. An option of a command stands behind its name. --help tells more.");
+        row("--verison", 1, "qxgen itself has no option --verison. Did you mean --version? ");
         row("generate", 1, "no model and no project is given.");
         row("generate|models/small.xml", 1, "no output directory is given; -o DIR names it.");
-        row("generate|models/small.xml|-o|out|--frob", 1,
-            "The following argument was not expected: --frob. --help tells more.");
+        row("generate|models/small.xml|-o|out|--frob", 1, "qxgen generate has no option --frob. --help tells more.");
+        row("generate|models/small.xml|-o|out|--lits=x", 1,
+            "qxgen generate has no option --lits. Did you mean --list or --dis? --help tells more.");
+        row("generate|models/small.xml|-o|out|-Z", 1, "qxgen generate has no option -Z. --help tells more.");
+        row("completion|bash|zsh", 1, "The following argument was not expected: zsh. --help tells more.");
         row("generate|models/small.xml|-o", 1, "");
         row("generate|models/small.xml|-o|out|--layout|flat", 1, "--layout: there is no flat. Known are tree|classic.");
         row("generate|models/small.xml|-o|out|--layout|1", 1, "--layout: there is no 1. Known are tree|classic.");

@@ -3,6 +3,7 @@
 #include "codeGenApp/codeGenAppGui.h"
 #include "codeGenApp/keepFile.h"
 #include "codeGenApp/listViewManager.h"
+#include "codeGenApp/modelSpellings.h"
 #include "codeGenApp/omtProjectXmlReader.h"
 #include "codeGenApp/omtProjectXmlWriter.h"
 #include "codeGenApp/preferencesDialog.h"
@@ -12,7 +13,6 @@
 #include "foundation/fileUtils.h"
 #include "foundation/outputStream.h"
 #include "foundation/restored.h"
-#include "foundation/xmlText.h"
 #include "omtReader/fedReader.h"
 #include "omtReader/omtTree.h"
 
@@ -37,19 +37,6 @@ bool canOpen(const DtFilename& path)
     FILE* const file = path.isRegularFile() ? DtFileOpen(path.c_str(), "rt") : nullptr;
     DtFileClose(file);
     return file != nullptr;
-}
-
-// The model as the project file names it, and as it was called when a part of that was no UTF-8: the project file,
-// which can hold nothing else, has such a part converted from Latin-1.
-std::vector<DtCodeGenAppGui::DtModelFile> spellings(const DtCodeGenAppGui::DtModelFile& model)
-{
-    const auto& [name, directory] = model;
-    return {
-        model,
-        {DtLatin1Text(name), directory              },
-        {name,               DtLatin1Text(directory)},
-        {DtLatin1Text(name), DtLatin1Text(directory)}
-    };
 }
 
 // A path to try, which need not exist.
@@ -245,7 +232,7 @@ bool DtCodeGenAppGui::locateModels(const DtFilename& projectFile, std::vector<Dt
 
 bool DtCodeGenAppGui::locateModel(const DtModelFile& model, const DtFilename& projectFile, DtFilename& found)
 {
-    for (const DtModelFile& spelling : spellings(model))
+    for (const DtModelFile& spelling : DtModelSpellings(model))
     {
         found = whereModelIs(spelling, projectFile);
         if (findFile(found))

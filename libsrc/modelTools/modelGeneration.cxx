@@ -1,5 +1,6 @@
 #include "modelTools/modelGeneration.h"
 
+#include "codeGenApp/modelSpellings.h"
 #include "codeGenApp/omtProjectXmlReader.h"
 #include "fileGenerator/dataFile.h"
 #include "fileGenerator/dataTypeMapper.h"
@@ -181,7 +182,7 @@ std::vector<DtFilename> DtModelGeneration::filesToLoad()
 {
     std::vector<DtFilename> files;
     for (const std::string& model : myRequest.models)
-        files.push_back(findModel(model));
+        files.push_back(findModelOnLine(model));
     if (myRequest.models.empty())
         for (const DtOmtProject::DtFilePair& model : myProject.fomDefFiles())
             files.push_back(findProjectModel(model));
@@ -190,38 +191,55 @@ std::vector<DtFilename> DtModelGeneration::filesToLoad()
     return files;
 }
 
-// The standard management model is part of the program.
 DtFilename DtModelGeneration::findModel(const std::string& name) const
 {
     if (isFile(name))
         return DtFilename(DtString(absolutePath(name)));
-    std::string places = "the working directory";
     for (const std::string& directory : myRequest.modelPaths)
     {
         const std::string path = directory + "/" + name;
         if (isFile(path))
             return DtFilename(DtString(absolutePath(path)));
-        places += ", " + directory;
     }
     const DtString below = DtFedReader::pathBelowRtiConfig(name.c_str());
     if (!below.isEmpty() && isFile(below.stdString()))
         return DtFilename(DtString(absolutePath(below.stdString())));
-    if (isMim(DtString(name)))
-        return DtFilename(DtString(name));
-    fail(DtExitCode::Unreadable, "there is no model " + name + " in " + places +
-                                     " or below RTI_CONFIG. --model-path "
-                                     "names further directories.");
+    return isMim(DtString(name)) ? DtFilename(DtString(name)) : DtFilename();
+}
+
+void DtModelGeneration::failWithoutModel(const std::string& name, const std::string& places) const
+{
+    std::string all = places + "the working directory";
+    for (const std::string& directory : myRequest.modelPaths)
+        all += ", " + directory;
+    fail(DtExitCode::Unreadable,
+         "there is no model " + name + " in " + all + " or below RTI_CONFIG. --model-path names further directories.");
+}
+
+DtFilename DtModelGeneration::findModelOnLine(const std::string& name) const
+{
+    const DtFilename found = findModel(name);
+    if (found.isEmpty())
+        failWithoutModel(name, std::string());
+    return found;
 }
 
 // Where it was when the project was saved, else beside the project, else where any model is looked for.
 DtFilename DtModelGeneration::findProjectModel(const DtOmtProject::DtFilePair& model) const
 {
-    const fs::path name(model.first.stdString());
     const fs::path project = fs::absolute(myRequest.project).parent_path();
-    for (const fs::path& directory : {project / model.second.stdString(), project})
-        if (isFile((directory / name).string()))
-            return DtFilename(DtString(absolutePath((directory / name).string())));
-    return findModel(name.string());
+    for (const auto& [name, directory] : DtModelSpellings(model))
+    {
+        for (const fs::path& place : {project / directory.stdString(), project})
+            if (isFile((place / name.stdString()).string()))
+                return DtFilename(DtString(absolutePath((place / name.stdString()).string())));
+        const DtFilename found = findModel(name.stdString());
+        if (!found.isEmpty())
+            return found;
+    }
+    const std::string saved = absolutePath((project / model.second.stdString()).string());
+    const std::string own = absolutePath(project.string());
+    failWithoutModel(model.first.stdString(), saved + ", " + (saved != own ? own + ", " : ""));
 }
 
 bool DtModelGeneration::hasSetting(const std::string& key) const

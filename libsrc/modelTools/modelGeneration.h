@@ -69,8 +69,11 @@ private:
     void fillProject();
     static void checkTemplates();
     std::vector<DtFilename> filesToLoad();
+    // Absolute, but for the standard management model, which is part of the program; empty when it is nowhere.
     DtFilename findModel(const std::string& name) const;
+    DtFilename findModelOnLine(const std::string& name) const;
     DtFilename findProjectModel(const DtOmtProject::DtFilePair& model) const;
+    [[noreturn]] void failWithoutModel(const std::string& name, const std::string& places) const;
     bool hasSetting(const std::string& key) const;
     std::string commandFile(const std::string& script) const;
     std::vector<std::string> commandFiles() const;

@@ -139,6 +139,30 @@ private Q_SLOTS:
         QVERIFY(contains(myFolder->text("out/bargeStateRepository.h"), "DtCcBargeStateRepository"));
     }
 
+    // The project file, which is UTF-8, has the name converted; the window finds such a model too.
+    void projectFindsAModelWhoseNameIsNoUtf8()
+    {
+        myFolder->write("latin/caf\xe9.xml", smallModel());
+        DtOmtProject project;
+        project.addFomDefFile("caf\xe9.xml", "");
+        DtOmtProjectXmlWriter(project, DtFilename(DtString(myFolder->path("latin/own.qxproj").native()))).writeXml();
+        COMPARE_TEXT(textOf(myFolder->generate({"--project", "latin/own.qxproj", "-o", "out"})), "0\n--\n");
+        QVERIFY(!myFolder->text("out/bargeStateRepository.h").empty());
+    }
+
+    void missingModelOfAProjectIsToldWithAllPlaces()
+    {
+        DtOmtProject project;
+        project.addFomDefFile("gone.xml", "shelf");
+        myFolder->write("lost/other.xml", smallModel());
+        DtOmtProjectXmlWriter(project, DtFilename(DtString(myFolder->path("lost/own.qxproj").native()))).writeXml();
+        const std::string top = myFolder->path("lost").native();
+        COMPARE_TEXT(textOf(myFolder->generate({"--project", "lost/own.qxproj", "-o", "out", "--model-path", "my"})),
+                     ("2\n--\nqxgen: error: there is no model gone.xml in " + top + "/shelf, " + top +
+                      ", the working directory, my or below RTI_CONFIG. --model-path names further directories.\n")
+                         .c_str());
+    }
+
     void projectGivesModelsSelectionAndNames()
     {
         writeProject();

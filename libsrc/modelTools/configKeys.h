@@ -20,7 +20,8 @@ struct DtConfigKey
 
     const char* name;
     Kind kind;
-    const char* refusal; // why it cannot be set here, null when it can
+    const char* refusal;  // why it cannot be set here, null when it can
+    bool writesElsewhere; // so that a file may name it with an empty value only
 };
 
 const std::vector<DtConfigKey>& DtConfigKeys();
@@ -29,5 +30,10 @@ const std::vector<DtConfigKey>& DtConfigKeys();
 // nearest key or the values that there are, for a text without "=", an unknown or refused key, and a value of another
 // kind.
 void DtSetConfigKey(DtCodeGenInitializer& configuration, const std::string& assignment);
+
+// Looks through a configuration file before it is read, since reading takes any text for a value and passes over keys
+// that it does not know. Throws DtToolFailure (Unreadable), with the key and what it takes, for a file that is no
+// configuration, an unknown key, and a value of another kind.
+void DtCheckConfigFile(const std::string& path);
 
 #endif

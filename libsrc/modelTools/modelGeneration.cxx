@@ -48,13 +48,6 @@ DtString stem(const DtFilename& path)
     return name;
 }
 
-// Any file of XML could be read as one, and would give no setting its value.
-bool isConfiguration(const std::string& path)
-{
-    std::string text;
-    return DtReadFile(DtString(path), text) && text.find("<codeGenConfig") != std::string::npos;
-}
-
 bool isMim(const DtString& name)
 {
     return name == DtFedReader::standardMimFileName(DtFomEvolved);
@@ -133,7 +126,8 @@ void DtModelGeneration::readConfiguration()
 {
     const bool isShipped = myRequest.configFile.empty();
     const std::string file = isShipped ? myRequest.dataDirectory + theConfiguration : myRequest.configFile;
-    if (!isConfiguration(file) || !myConfiguration.parseConfigFile(DtString(file)))
+    DtCheckConfigFile(file);
+    if (!myConfiguration.parseConfigFile(DtString(file)))
         fail(DtExitCode::Unreadable, "the configuration " + file + " cannot be read.");
     if (isShipped)
         DtSetConfigKey(myConfiguration, "generateExamples=false");

@@ -107,10 +107,9 @@ private Q_SLOTS:
     void goodValuesAreTaken_data()
     {
         QTest::addColumn<QByteArray>("setting");
-        for (const char* setting :
-             {"prefixName=", "prefixName=_a1", "namespaceName=Z", "includeName=", "includeName=a", "includeName=a/b",
-              "includeName=a b", "includeName=a/../b", "firstPduKind=0", "firstPduKind=007", "firstPduKind=999999999",
-              "generateDIS=true", "generateDIS=false"})
+        for (const char* setting : {"prefixName=", "prefixName=_a1", "namespaceName=Z", "includeName=", "includeName=a",
+                                    "includeName=a/b", "includeName=a b", "firstPduKind=0", "firstPduKind=007",
+                                    "firstPduKind=999999999", "generateDIS=true", "generateDIS=false"})
             QTest::newRow(setting) << QByteArray(setting);
     }
     void goodValuesAreTaken()
@@ -119,6 +118,28 @@ private Q_SLOTS:
         COMPARE_TEXT(errorOf(setting.constData()), "");
         const QByteArray key = setting.left(setting.indexOf('='));
         COMPARE_TEXT(myConfiguration.getVariableValue(key.constData()), setting.mid(key.size() + 1));
+    }
+
+    void directoriesLoseWhatShellsAndPeopleAddToThem_data()
+    {
+        QTest::addColumn<QByteArray>("given");
+        QTest::addColumn<QByteArray>("kept");
+        const auto row = [](const char* given, const char* kept)
+        { QTest::newRow(given) << QByteArray(given) << QByteArray(kept); };
+        row("inc/", "inc");
+        row("inc//deep///", "inc/deep");
+        row("./inc", "inc");
+        row("a/../b", "b");
+        row(".", "");
+        row("./", "");
+        row("a/..", "");
+    }
+    void directoriesLoseWhatShellsAndPeopleAddToThem()
+    {
+        QFETCH(QByteArray, given);
+        QFETCH(QByteArray, kept);
+        COMPARE_TEXT(errorOf("includeName=" + given.toStdString()), "");
+        COMPARE_TEXT(myConfiguration.getVariableValue("includeName"), kept);
     }
 
     void badValuesAreErrorsThatTellWhatIsTaken_data()
@@ -179,7 +200,66 @@ private Q_SLOTS:
         COMPARE_TEXT(errorOf(setting.constData()), error);
     }
 
+    void shippedAndSavedConfigurationsAreGood()
+    {
+        COMPARE_TEXT(errorOfFile(theConfiguration.toStdString()), "");
+        myConfiguration.setGenerateErrors(true); // saved under a key that nothing reads
+        myConfiguration.setPrefixName("Ab");
+        myConfiguration.setScriptMap({
+            {"genCpp.txt", true}
+        });
+        const DtTestFolder folder;
+        const std::string saved = (folder.path() / "saved.xml").native();
+        QVERIFY(myConfiguration.saveConfigFile(DtString(saved)));
+        COMPARE_TEXT(errorOfFile(saved), "");
+    }
+
+    void filesAreLookedThrough_data()
+    {
+        QTest::addColumn<QByteArray>("text");
+        QTest::addColumn<QByteArray>("error"); // FILE stands for the path
+        const auto row = [](const char* name, const char* text, const char* error)
+        { QTest::newRow(name) << QByteArray(text) << QByteArray(error); };
+        const char* const unreadable = "2: the configuration FILE cannot be read.";
+        row("empty", "", unreadable);
+        row("cut off", "<codeGenConfig><defaults>", unreadable);
+        row("other root", "<config><!--<codeGenConfig/>--></config>", unreadable);
+        row("no settings", "<codeGenConfig/>", "");
+        row("comment", "<codeGenConfig><user><!--c--></user></codeGenConfig>", "");
+        row("script",
+            "<codeGenConfig><user><scripts><var name=\"own.txt\" value=\"x\"/></scripts></user></codeGenConfig>", "");
+        row("unknown key", "<codeGenConfig><defaults><var name=\"prefixNmae\" value=\"\"/></defaults></codeGenConfig>",
+            "2: FILE, list \"defaults\": there is no key \"prefixNmae\" in a configuration. Did you mean prefixName?");
+        row("bad value", "<codeGenConfig><user><var name=\"generateDIS\" value=\"TRUE\"/></user></codeGenConfig>",
+            "2: FILE, list \"user\": \"TRUE\" is no value of the key \"generateDIS\", which takes true or false.");
+        row("no value", "<codeGenConfig><user><var name=\"firstPduKind\"/></user></codeGenConfig>",
+            "2: FILE, list \"user\": \"\" is no value of the key \"firstPduKind\", which takes a number from 0 on.");
+        row("verbosity", "<codeGenConfig><user><var name=\"notifyLevel\" value=\"4\"/></user></codeGenConfig>", "");
+        row("no log", "<codeGenConfig><user><var name=\"logFileName\" value=\"\"/></user></codeGenConfig>", "");
+        row("log", "<codeGenConfig><user><var name=\"logFileName\" value=\"a.log\"/></user></codeGenConfig>",
+            "2: FILE, list \"user\": the key \"logFileName\" has to be empty: it would write a file outside of the "
+            "output; redirect standard error.");
+    }
+    void filesAreLookedThrough()
+    {
+        QFETCH(QByteArray, text);
+        QFETCH(QByteArray, error);
+        const DtTestFolder folder;
+        const std::string file = (folder.path() / "own.xml").native();
+        writeBytes(file, text.toStdString());
+        COMPARE_TEXT(errorOfFile(file), error.replace("FILE", file.c_str()));
+    }
+
+    void missingFileCannotBeRead()
+    {
+        COMPARE_TEXT(errorOfFile("/gone/own.xml"), "2: the configuration /gone/own.xml cannot be read.");
+    }
+
 private:
+    static std::string errorOfFile(const std::string& path)
+    {
+        return failureOf([&path] { DtCheckConfigFile(path); });
+    }
     std::string errorOf(const std::string& setting)
     {
         return failureOf([this, &setting] { DtSetConfigKey(myConfiguration, setting); });

@@ -130,7 +130,8 @@ private Q_SLOTS:
     {
         writeOwnFiles();
         std::filesystem::copy_file(myFolder->path("my/config.xml"),
-                                   myFolder->path("my/data/config/customCodeGenConfig.xml"));
+                                   myFolder->path("my/data/config/customCodeGenConfig.xml"),
+                                   std::filesystem::copy_options::overwrite_existing);
         copyTree(QStringLiteral(QX_SOURCE_DIR "/data/templates"),
                  QString::fromStdString(myFolder->path("my/data/templates").native()));
         QCOMPARE(generate({"--data-dir", "my/data"}).code, 0);
@@ -318,6 +319,8 @@ private Q_SLOTS:
         row("generate|models/small.xml|-o|out|--config|gone.xml", 2, "the configuration gone.xml cannot be read.");
         row("generate|models/small.xml|-o|out|--config|models/small.xml", 2,
             "the configuration models/small.xml cannot be read.");
+        row("generate|models/small.xml|-o|out|--config|my/odd.xml", 2,
+            "my/odd.xml, list \"user\": \"yes\" is no value of the key \"generateDIS\", which takes true or false.");
         row("generate|models/small.xml|-o|out|--template-dir|gone", 2, "there is no template directory gone.");
         row("generate|models/small.xml|-o|out|--data-dir|gone", 2, "--data-dir names gone, which is no data directory");
         row("generate|models/small.xml|-o|out|--script|html|--data-dir|my/data", 2, "the template ");
@@ -489,6 +492,9 @@ private:
         writeTextFile(top + "/config.xml", configuration);
         writeTextFile(top + "/templates/stateRepHeader.tlt",
                       "// My own words.\n" + readTextFile(data + "/templates/stateRepHeader.tlt"));
+        writeTextFile(top + "/odd.xml",
+                      configuration.replace("</defaults>", "</defaults><user><var name=\"generateDIS\" "
+                                                           "value=\"yes\"/></user>"));
         copyTree(data + "/config", top + "/data/config");
         copyTree(data + "/templates/json", top + "/data/templates/json");
         writeTextFile(top + "/data/genJson.txt", readTextFile(data + "/genJson.txt"));

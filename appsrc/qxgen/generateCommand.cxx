@@ -81,6 +81,8 @@ void addOutputOptions(CLI::App& command, DtGenerateLine& line)
     command.add_option("--stamp", options.stamp, "Written when all is done")->type_name("FILE");
     command.add_option("--report", options.report, "What the run has done, as JSON, or as a page if it ends in .html")
         ->type_name("FILE");
+    command.add_option("--expect-list", options.expectedList, "End with 4 if the outputs are not those of this list")
+        ->type_name("FILE");
     command.add_flag("--watch", line.isWatching, "Again whenever an input changes; Ctrl-C ends it");
     command.add_flag("--no-wait", line.doesNotWait, "Fail when another run holds the output directory");
 }

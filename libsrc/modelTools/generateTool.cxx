@@ -4,6 +4,7 @@
 #include "foundation/fileUtils.h"
 #include "foundation/warningRules.h"
 #include "modelTools/depfile.h"
+#include "modelTools/expectedList.h"
 #include "modelTools/leftoverTokens.h"
 #include "modelTools/modelPlaces.h"
 #include "modelTools/outputException.h"
@@ -153,6 +154,8 @@ DtExitCode DtGenerateTool::runInto(DtOutputStage& stage, DtDiagnostics& diagnost
         writeReport(diagnostics);
         return faults != DtExitCode::Done ? faults : DtExitCode::Findings;
     }
+    if (!myOptions.expectedList.empty())
+        DtCheckExpectedList(myOptions.expectedList, stage.files());
     if (myOptions.use != DtOutputUse::Commit)
     {
         writeReport(diagnostics);

@@ -46,6 +46,7 @@ struct DtGenerateOptions
     std::string depfile;
     std::string stamp;
     std::string report;
+    std::string expectedList; // a file that names the outputs; empty when any will do
     bool warningsAreErrors = false;
     bool waitsForLock = true;
     DtTelling telling = DtTelling::Normal;

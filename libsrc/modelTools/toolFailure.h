@@ -11,7 +11,7 @@ enum class DtExitCode : int
     Usage = 1,      // the command line, or a name on it that nothing has
     Unreadable = 2, // a model, project, template or configuration
     Findings = 3,   // errors in a model, with --werror warnings too, or a value that does not fit
-    Differs = 4,    // --verify found differences
+    Differs = 4,    // --verify found differences, or --expect-list other outputs
     Unwritable = 5, // output, or its lock is held
     Fault = 6,      // of the program itself
     Interrupted = 130,

@@ -211,6 +211,24 @@ private Q_SLOTS:
         QVERIFY(!std::filesystem::exists(myFolder->path("stamp")));
     }
 
+    void expectedListEndsWith4WhenTheOutputsAreOthers()
+    {
+        const DtArguments expecting = {"--script", "json", "--script", "html", "--expect-list", "list"};
+        myFolder->write("list", "model.xhtml\nmodel.json\n");
+        COMPARE_TEXT(textOf(generate(expecting)), "0\n--\n");
+        const DtContents before = treeOf(myFolder->path("out"));
+        myFolder->write("list", "model.xhtml\nold.json\n");
+        myFolder->write("models/small.xml", smallModel() + "<!-- changed -->");
+        COMPARE_TEXT(textOf(generate(expecting)),
+                     "4\n--\nqxgen: error: the outputs are not those that list lists, so nothing is written; "
+                     "run cmake again. New: model.json. Gone: old.json.\n");
+        COMPARE_TEXT(differenceOf(before, treeOf(myFolder->path("out"))), "");
+        myFolder->write("list", "");
+        QVERIFY(contains(generate({"--expect-list", "list"}).err, " and "));
+        COMPARE_TEXT(textOf(generate({"--script", "json", "--expect-list", "gone"})),
+                     "2\n--\nqxgen: error: the list of expected outputs gone cannot be read.\n");
+    }
+
     void reportTellsOfTheRun()
     {
         QCOMPARE(generate({"--script", "json"}).code, 0);

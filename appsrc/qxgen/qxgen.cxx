@@ -6,6 +6,7 @@
 #include "modelTools/argumentFile.h"
 #include "modelTools/outputException.h"
 #include "modelTools/programVersion.h"
+#include "modelTools/settingsRenewal.h"
 
 #include <algorithm>
 #include <csignal>
@@ -15,8 +16,10 @@
 
 namespace
 {
-// No command for users, hence in no help; its words are taken as they are, files of arguments too.
+// No commands for users, hence in no help: what the scripts of the completion ask, with words that are taken as they
+// are, files of arguments too; and what the starter of the window does ahead of it, with two files.
 constexpr const char* theCompletionQuery = "complete";
+constexpr const char* theSettingsRequest = "renew-settings";
 constexpr const char* theRemedy = " --help tells more.";
 
 int end(DtExitCode code)
@@ -63,6 +66,11 @@ int runProgram(const std::vector<std::string>& arguments)
     addCompletionCommand(program, run);
     if (!arguments.empty() && arguments.front() == theCompletionQuery)
         return end(printCompletions(program, {arguments.begin() + 1, arguments.end()}));
+    if (arguments.size() == 3 && arguments.front() == theSettingsRequest)
+    {
+        DtRenewSettings(arguments[1], arguments[2]);
+        return end(DtExitCode::Done);
+    }
     const std::vector<std::string> words = DtExpandedArguments(arguments);
     const std::string fault = DtFaultOfCommandName(program, words);
     if (!fault.empty())

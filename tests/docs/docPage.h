@@ -54,7 +54,7 @@ inline std::vector<QStringList> tableRows(const QString& text, const QString& fi
     {
         if (!line.startsWith('|'))
             isIn = false;
-        else if (isIn && !line.startsWith("| ---"))
+        else if (isIn && !line.startsWith("|---") && !line.startsWith("| ---"))
             rows.push_back(cellsOf(line));
         else if (cellsOf(line).value(0) == firstHead)
             isIn = true;

@@ -43,52 +43,7 @@ fi
 program=${QX_RUN_PROGRAM:-./codeGen}
 [ -n "${QX_RUN_PROGRAM-}" ] || build codeGen
 
-# A model that is not there stays as it is, so that the program can search for it.
-absolute() { # option value
-    case $2 in
-        /* | "") printf '%s' "$2" ;;
-        *) if [ "$1" = F ] && [ ! -e "$here/$2" ]; then printf '%s' "$2"; else printf '%s' "$here/$2"; fi ;;
-    esac
-}
-
-letter() { # option name
-    case $1 in
-        -O | --outputDir) printf O ;;
-        -P | --project) printf P ;;
-        -F | --fomDefFile) printf F ;;
-    esac
-}
-
-arguments=()
-output= # the directory of the last -O, as the program gets it
-translate() {
-    local kind name path
-    while [ $# -gt 0 ]; do
-        case $1 in
-            --) arguments+=("$@"); return ;;
-            "-O "* | "-P "* | "-F "* | "--outputDir "* | "--project "* | "--fomDefFile "*) # both in one argument
-                name=${1%% *}
-                path=$(absolute "$(letter "$name")" "${1#* }")
-                arguments+=("$name $path")
-                [ "$(letter "$name")" != O ] || output=$path
-                ;;
-            *)
-                arguments+=("$1")
-                kind=$(letter "$1")
-                if [ -n "$kind" ] && [ $# -gt 1 ]; then
-                    shift
-                    path=$(absolute "$kind" "$1")
-                    arguments+=("$path")
-                    [ "$kind" != O ] || output=$path
-                elif [ $# -gt 1 ] && { [ "$1" = -I ] || [ "$1" = --includeDir ] || [ "$1" = -p ] || [ "$1" = --classPrefix ]; }; then
-                    shift
-                    arguments+=("$1")
-                fi
-                ;;
-        esac
-        shift
-    done
-}
+. "$top/appsrc/codeGenStarter/pathOptions.sh"
 
 if [ $# -eq 0 ]; then
     mkdir -p "$top/out/sample"

@@ -8,8 +8,9 @@ repository=$1
 work=$(mktemp -d)
 trap 'rm -rf "$work"' EXIT
 user=$work/user
-mkdir -p "$work/top/data/samples" "$user"
+mkdir -p "$work/top/data/samples" "$work/top/appsrc/codeGenStarter" "$user"
 cp "$repository/run.sh" "$work/top/"
+cp "$repository/appsrc/codeGenStarter/pathOptions.sh" "$work/top/appsrc/codeGenStarter/"
 cp "$repository/data/samples/sample.xml" "$work/top/data/samples/"
 touch "$user/here.xml" "$user/with blank.xml"
 

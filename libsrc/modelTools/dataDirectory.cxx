@@ -43,7 +43,7 @@ std::string DtFindDataDirectory(const std::string& given)
     if (variable != nullptr && *variable != '\0')
         return checked(variable, "QX_DATA_DIR");
     const fs::path program = programDirectory();
-    for (const char* place : {"../data", "../share/quorvex-codegen/data", "../../../../data"})
+    for (const char* place : {"../data", QX_DATA_FROM_BIN, "../../../../data"})
         if (isDataDirectory(program / place))
             return (program / place).lexically_normal().string() + "/";
     throw DtToolFailure(DtExitCode::Unreadable, "there is no data directory beside the program in " + program.string() +

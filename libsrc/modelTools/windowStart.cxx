@@ -110,7 +110,8 @@ DtWindowStart DtWindowStart::of(const std::vector<std::string>& files, const std
     start.arguments = argumentsFor(files);
     checkDisplay();
     start.program = findProgram();
-    start.workingDirectory = directoryBeside(DtFindDataDirectory(dataDirectory));
+    start.dataDirectory = DtFindDataDirectory(dataDirectory);
+    start.workingDirectory = directoryBeside(start.dataDirectory);
     return start;
 }
 
@@ -118,6 +119,7 @@ void DtWindowStart::replaceProcess() const
 {
     if (chdir(workingDirectory.c_str()) != 0)
         fail(DtExitCode::Unreadable, workingDirectory + " cannot be entered: " + std::strerror(errno) + ".");
+    setenv("QX_DATA_DIR", dataDirectory.c_str(), 1);
     std::vector<char*> pointers = {const_cast<char*>(program.c_str())};
     for (const std::string& argument : arguments)
         pointers.push_back(const_cast<char*>(argument.c_str()));

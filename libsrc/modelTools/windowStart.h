@@ -10,6 +10,7 @@ struct DtWindowStart
 {
     std::string program;                // absolute
     std::string workingDirectory;       // a place with the data directory as ../data
+    std::string dataDirectory;          // absolute; an installed codeGen is told of it by QX_DATA_DIR
     std::vector<std::string> arguments; // without the program's name
 
     // Finds program and data directory and turns the files, one project or models, into arguments. Throws

@@ -7,6 +7,7 @@
 #include "modelTools/outputException.h"
 #include "modelTools/programVersion.h"
 #include "modelTools/settingsRenewal.h"
+#include "modelTools/signalCleanup.h"
 
 #include <algorithm>
 #include <csignal>
@@ -84,6 +85,7 @@ int main(int argc, char** argv)
     // A reader that goes away and a limit of file size show as failed writes, which are told.
     std::signal(SIGPIPE, SIG_IGN);
     std::signal(SIGXFSZ, SIG_IGN);
+    DtSignalCleanup::install();
     try
     {
         return runProgram({argv + 1, argv + argc});

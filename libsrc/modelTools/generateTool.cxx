@@ -12,6 +12,7 @@
 #include "modelTools/outputLock.h"
 #include "modelTools/outputRecovery.h"
 #include "modelTools/programVersion.h"
+#include "modelTools/signalHold.h"
 #include "modelTools/steadyTime.h"
 #include "modelTools/terminalProgress.h"
 
@@ -58,8 +59,10 @@ std::string realPath(const std::string& path)
     return fs::weakly_canonical(fs::absolute(path), ignored).string();
 }
 
+// Half of the file may stand beside it until it is whole, so signals wait.
 void writeWhole(const std::string& path, const std::string& text)
 {
+    const DtSignalHold hold;
     std::error_code ignored;
     fs::create_directories(fs::absolute(path).parent_path(), ignored);
     errno = 0;

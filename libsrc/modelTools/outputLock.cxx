@@ -1,6 +1,7 @@
 #include "modelTools/outputLock.h"
 
 #include "modelTools/outputException.h"
+#include "modelTools/signalHold.h"
 
 #include <fcntl.h>
 #include <sys/file.h>
@@ -42,6 +43,7 @@ DtOutputLock::DtOutputLock(const std::filesystem::path& directory, DtLockWait wa
     }
     catch (...)
     {
+        const DtSignalHold hold;
         closeFile();
         removeMadeFolders();
         throw;
@@ -50,6 +52,7 @@ DtOutputLock::DtOutputLock(const std::filesystem::path& directory, DtLockWait wa
 
 DtOutputLock::~DtOutputLock()
 {
+    const DtSignalHold hold;
     unlink(myPath.c_str()); // while the lock is held: a waiting run sees that its file is not in place any more
     closeFile();
     removeMadeFolders();
@@ -58,10 +61,14 @@ DtOutputLock::~DtOutputLock()
 // False when the run that held the lock has removed the file, or the folder with it, in the meantime.
 bool DtOutputLock::tryToTake(DtLockWait wait, const Notice& notice)
 {
-    makeDirectory();
-    openFile();
-    if (myFile < 0)
-        return false;
+    {
+        const DtSignalHold hold;
+        makeDirectory();
+        openFile();
+        if (myFile < 0)
+            return false;
+        arm();
+    }
     lockFile(wait, notice);
     if (!isStillInPlace())
         return false;
@@ -75,7 +82,10 @@ void DtOutputLock::makeDirectory()
         throw DtOutputException(myDirectory, "the name of the output folder is empty");
     const std::filesystem::path missing = topMissingFolder(myDirectory);
     if (!missing.empty())
-        myTopMadeFolder = missing;
+    {
+        myMadeFolder = myDirectory.native();
+        myLengthOfTopFolder = missing.native().size();
+    }
     std::error_code error; // tells the reason, which DtMakeDirectory() does not
     std::filesystem::create_directories(myDirectory, error);
     if (error)
@@ -136,17 +146,33 @@ void DtOutputLock::closeFile()
 {
     if (myFile < 0)
         return;
+    disarm();
     flock(myFile, LOCK_UN); // closing alone leaves the lock to a child process that has the file too
     ::close(myFile);
     myFile = -1;
 }
 
-// Only empty folders can go, so what the run has put there stays.
+// Only empty folders can go, so what the run has put there stays. Shortens the name in place, as the handler of a
+// signal has to.
 void DtOutputLock::removeMadeFolders()
 {
-    if (myTopMadeFolder.empty())
-        return;
-    for (std::filesystem::path folder = myDirectory; rmdir(folder.c_str()) == 0; folder = folder.parent_path())
-        if (folder == myTopMadeFolder)
-            return;
+    char* const name = myMadeFolder.data();
+    std::size_t length = myMadeFolder.size();
+    while (myLengthOfTopFolder > 0 && length >= myLengthOfTopFolder && rmdir(name) == 0)
+    {
+        while (length > 0 && name[length - 1] != '/')
+            --length;
+        while (length > 0 && name[length - 1] == '/')
+            --length;
+        name[length] = '\0';
+    }
+    myLengthOfTopFolder = 0;
+}
+
+// The lock that a waiting run has opened is another one's; only the holder gets it once more.
+void DtOutputLock::cleanUp()
+{
+    if (flock(myFile, LOCK_EX | LOCK_NB) == 0 && isStillInPlace())
+        unlink(myPath.c_str());
+    removeMadeFolders();
 }

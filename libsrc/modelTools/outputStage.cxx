@@ -18,12 +18,14 @@ void sortByPath(std::vector<Row>& rows)
                      [](const Row& left, const Row& right) { return left.path < right.path; });
 }
 
+// Nobody but such runs comes by there, so each clears up behind those before it.
 std::filesystem::path temporaryFolder()
 {
     std::error_code error;
     const std::filesystem::path folder = std::filesystem::temp_directory_path(error);
     if (error)
         throw DtOutputException::ofSystem("TMPDIR", "names no folder for temporary files", error.value());
+    DtStageFolder::removeLeftovers(folder);
     return folder;
 }
 } // namespace
@@ -52,7 +54,7 @@ DtOutputStage::DtOutputStage(const DtOutputLock& lock, const std::string& progra
     : myTree(lock.directory()),
       myCanCommit(true),
       myHook(hook),
-      myStage(lock.directory()),
+      myStage(lock.directory(), DtStageKind::Commit),
       myStaged(myStage.path() / DtStageFolder::theFiles),
       myLastManifest(DtOutputManifest::read(lock.directory())),
       myManifest(programVersion)
@@ -63,7 +65,7 @@ DtOutputStage::DtOutputStage(const DtOutputLock& lock, const std::string& progra
 DtOutputStage::DtOutputStage(const std::filesystem::path& directory, const std::string& programVersion)
     : myTree(directory),
       myCanCommit(false),
-      myStage(temporaryFolder()),
+      myStage(temporaryFolder(), DtStageKind::Compare),
       myStaged(myStage.path() / DtStageFolder::theFiles),
       myLastManifest(DtOutputManifest::read(directory)),
       myManifest(programVersion)

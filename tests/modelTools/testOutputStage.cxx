@@ -59,6 +59,12 @@ private Q_SLOTS:
     void comparingLeavesTheFolderUntouched();
     void comparingDoesNotMakeTheFolder();
     void comparingStageGoesWithTheObject();
+    void comparingStageOfAKilledRunIsThrownAway();
+    void halfMadeComparingStageIsThrownAway();
+    void comparingStageOfALiveRunIsLeftToIt();
+    void comparingStageOfAnotherUserIsLeftAlone();
+    void whatOnlyLooksLikeAComparingStageIsLeftAlone();
+    void stagesOfAnOutputFolderAreNotComparingOnes();
     void comparingStageCannotBeCommitted();
     void strangeFilesCannotBeCompared();
 
@@ -346,6 +352,117 @@ void TestOutputStage::comparingStageGoesWithTheObject()
         COMPARE_TEXT(stage.path().parent_path().parent_path(), myTop.c_str());
     }
     COMPARE_TEXT(ownNames(myTop), "");
+}
+
+// Makes a comparing stage with a few files in it, and is killed.
+static void leaveStage(const std::filesystem::path& out)
+{
+    const pid_t child = startChild(
+        [&out]
+        {
+            const DtOutputStage stage(out, "1.0");
+            writeTree(stage.path(), filesOf("a/b=x c=y ../loose=x"));
+            std::filesystem::create_symlink(out.parent_path(), stage.path() / "link");
+            kill(getpid(), SIGKILL);
+        });
+    QCOMPARE(endOf(child), 128 + SIGKILL);
+}
+
+void TestOutputStage::comparingStageOfAKilledRunIsThrownAway()
+{
+    const DtWithEnvironment elsewhere("TMPDIR", myTop.c_str());
+    writeBytes(myTop / "kept", "x");
+    leaveStage(myOut);
+    leaveStage(myOut); // which throws the first one away
+    const std::string left = ownNames(myTop);
+    QVERIFY2(!left.empty() && left.find(' ') == std::string::npos, left.c_str());
+    COMPARE_TEXT(differencesFor(filesOf("a=y")), "A a\n");
+    COMPARE_TEXT(ownNames(myTop), "");
+    COMPARE_TEXT(readBytes(myTop / "kept"), "x");
+}
+
+void TestOutputStage::halfMadeComparingStageIsThrownAway()
+{
+    const DtWithEnvironment elsewhere("TMPDIR", myTop.c_str());
+    std::filesystem::create_directory(myTop / ".qxgen-compare-abc123");
+    std::filesystem::create_directory(myTop / ".qxgen-compare-abc124");
+    writeBytes(myTop / ".qxgen-compare-abc124" / DtStageFolder::theMark, "");
+    differencesFor({});
+    COMPARE_TEXT(ownNames(myTop), "");
+}
+
+void TestOutputStage::comparingStageOfALiveRunIsLeftToIt()
+{
+    const DtWithEnvironment elsewhere("TMPDIR", myTop.c_str());
+    DtTestGate isMade, mayEnd;
+    const pid_t child = startChild(
+        [&]
+        {
+            const DtOutputStage stage(myOut, "1.0");
+            writeTree(stage.path(), filesOf("a=x"));
+            isMade.open();
+            mayEnd.pass();
+            if (treeOf(stage.path()) != filesOf("a=x"))
+                throw std::runtime_error("the stage is gone");
+        });
+    isMade.pass();
+    const std::string stages = ownNames(myTop);
+    QVERIFY(!stages.empty());
+    differencesFor({});
+    COMPARE_TEXT(ownNames(myTop), stages.c_str());
+    mayEnd.open();
+    QCOMPARE(endOf(child), 0);
+    COMPARE_TEXT(ownNames(myTop), "");
+}
+
+void TestOutputStage::comparingStageOfAnotherUserIsLeftAlone()
+{
+    if (geteuid() != 0)
+        QSKIP("only root can give files to another user.");
+    const DtWithEnvironment elsewhere("TMPDIR", myTop.c_str());
+    leaveStage(myOut);
+    const std::string stage = ownNames(myTop);
+    QCOMPARE(chown((myTop / stage).c_str(), 65534, 65534), 0);
+    differencesFor({});
+    COMPARE_TEXT(ownNames(myTop), stage.c_str());
+}
+
+void TestOutputStage::whatOnlyLooksLikeAComparingStageIsLeftAlone()
+{
+    const DtWithEnvironment elsewhere("TMPDIR", myTop.c_str());
+    writeBytes(myTop / ".qxgen-compare-abc12/.qxgen-stage", ""); // a letter too few
+    writeBytes(myTop / ".qxgen-compare-abc123/own", "x");        // no mark
+    writeBytes(myTop / ".qxgen-compare-abc124", "x");            // a file
+    writeBytes(myTop / "other/.qxgen-stage", "");                // another name
+    writeBytes(myTop / "other/own", "x");
+    std::filesystem::create_directory_symlink(myTop / "other", myTop / ".qxgen-compare-abc125");
+    const DtContents before = treeOf(myTop);
+    const std::string names = ownNames(myTop);
+    differencesFor({});
+    COMPARE_TEXT(ownNames(myTop), names.c_str());
+    QCOMPARE(treeOf(myTop), before);
+    COMPARE_TEXT(readBytes(myTop / ".qxgen-compare-abc123/own"), "x");
+}
+
+// A journal may need them.
+void TestOutputStage::stagesOfAnOutputFolderAreNotComparingOnes()
+{
+    const DtWithEnvironment elsewhere("TMPDIR", myOut.c_str());
+    const pid_t child = startChild(
+        [this]
+        {
+            runOnce(myOut, filesOf("a=x"),
+                    [](DtCommitStep step, const std::filesystem::path&)
+                    {
+                        if (step == DtCommitStep::JournalWritten)
+                            kill(getpid(), SIGKILL);
+                    });
+        });
+    QCOMPARE(endOf(child), 128 + SIGKILL);
+    DtOutputStage(myTop / "elsewhere", "1.0").differences();
+    runOnce(myOut, filesOf("a=x"));
+    QCOMPARE(treeOf(myOut), filesOf("a=x"));
+    COMPARE_TEXT(ownNames(myOut), ".qxgen-manifest.json");
 }
 
 void TestOutputStage::comparingStageCannotBeCommitted()

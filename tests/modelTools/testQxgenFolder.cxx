@@ -87,6 +87,85 @@ private Q_SLOTS:
         kill(program, signal);
         QCOMPARE(endOf(program), code);
         COMPARE_TEXT(differenceOf({}, treeOf(myFolder->path("out"))), "");
+        COMPARE_TEXT(ownNames(myFolder->path("out")), ".qxgen-lock"); // which is not that run's
+    }
+
+    void signalLeavesNeitherStageNorLock_data()
+    {
+        QTest::addColumn<int>("signal");
+        QTest::addColumn<QByteArray>("use");
+        for (const char* use : {"", "--list", "--dry-run", "--verify"})
+            for (const int signal : {SIGINT, SIGTERM})
+                QTest::addRow("%d %s", signal, use) << signal << QByteArray(use);
+    }
+    void signalLeavesNeitherStageNorLock()
+    {
+        QFETCH(int, signal);
+        QFETCH(QByteArray, use);
+        std::filesystem::create_directories(myFolder->path("tmp"));
+        for (int round = 0; round < 5; ++round)
+        {
+            const pid_t program = startLongRun(use.toStdString());
+            QVERIFY(comesTrue([this] { return hasStage("out/sub") || hasStage("tmp"); }));
+            std::this_thread::sleep_for(std::chrono::milliseconds(round * 3));
+            kill(program, signal);
+            QCOMPARE(endOf(program), 128 + signal);
+            COMPARE_TEXT(ownNames(myFolder->path("tmp")), "");
+            QVERIFY(!std::filesystem::exists(myFolder->path("out"))); // it was made by the run
+        }
+    }
+
+    void signalDuringTheCommitLeavesTheWholeOutput()
+    {
+        const DtContents versions[] = {outputOf(smallModel()), outputOf(otherModel())};
+        QCOMPARE(generate({}).code, 0);
+        for (int round = 0; round < 10; ++round)
+        {
+            const int next = round % 2 == 0 ? 1 : 0;
+            myFolder->write("models/small.xml", next == 1 ? otherModel() : smallModel());
+            const pid_t program = myFolder->startGenerate({"models/small.xml", "-o", "out"});
+            waitForJournal(program, round);
+            kill(program, SIGTERM);
+            const int code = endOf(program);
+            QVERIFY(code == 0 || code == 143);
+            COMPARE_TEXT(differenceOf(versions[next], treeOf(myFolder->path("out"))), "");
+            COMPARE_TEXT(ownNames(myFolder->path("out")), ".qxgen-manifest.json");
+        }
+    }
+
+    void killedRunThatOnlyComparesIsClearedByTheNext()
+    {
+        std::filesystem::create_directories(myFolder->path("tmp"));
+        const char* const uses[] = {"--list", "--dry-run", "--verify"};
+        for (int round = 0; round < 9; ++round)
+        {
+            const pid_t program = startLongRun(uses[round % 3]);
+            QVERIFY(comesTrue([this] { return hasStage("tmp"); }));
+            std::this_thread::sleep_for(std::chrono::milliseconds(round * 3));
+            kill(program, SIGKILL);
+            QCOMPARE(endOf(program), 128 + SIGKILL);
+            QVERIFY(ownNames(myFolder->path("tmp")) != "");
+            DtArguments arguments = {"generate", "models/small.xml", "-o", "out", "--script", "json"};
+            arguments.push_back(uses[(round + round / 3) % 3]);
+            myFolder->run(arguments, [this] { setenv("TMPDIR", myFolder->path("tmp").c_str(), 1); });
+            COMPARE_TEXT(ownNames(myFolder->path("tmp")), "");
+        }
+    }
+
+    void stageOfARunThatLivesIsLeftToIt()
+    {
+        std::filesystem::create_directories(myFolder->path("tmp"));
+        const pid_t program = startLongRun("--list");
+        QVERIFY(comesTrue([this] { return hasStage("tmp"); }));
+        kill(program, SIGSTOP);
+        const std::string stage = ownNames(myFolder->path("tmp"));
+        const DtProgramEnd other = myFolder->run({"generate", "models/small.xml", "--list", "--script", "json"},
+                                                 [this] { setenv("TMPDIR", myFolder->path("tmp").c_str(), 1); });
+        COMPARE_TEXT(ownNames(myFolder->path("tmp")), stage.c_str());
+        COMPARE_TEXT(textOf(other), "0\nmodel.json\n--\n");
+        kill(program, SIGCONT);
+        QCOMPARE(endOf(program), 0);
+        COMPARE_TEXT(ownNames(myFolder->path("tmp")), "");
     }
 
     void fullDiskLeavesTheOldOutput()
@@ -265,6 +344,28 @@ private:
         DtArguments arguments = {"models/small.xml", "-o", "out"};
         arguments.insert(arguments.end(), options.begin(), options.end());
         return myFolder->generate(arguments);
+    }
+
+    // One that is at work for a while, with its own folder for temporary files.
+    pid_t startLongRun(const std::string& use) const
+    {
+        DtArguments arguments = {"generate", "models/small.xml",       "-o", "out/sub", "--examples", "--dis",
+                                 "--set",    "includeStandardMIM=true"};
+        arguments.emplace_back("--with-management");
+        if (!use.empty())
+            arguments.push_back(use);
+        return myFolder->start(arguments, [this] { setenv("TMPDIR", myFolder->path("tmp").c_str(), 1); });
+    }
+
+    // Whether a run has its private folder there.
+    bool hasStage(const std::string& folder) const
+    {
+        std::error_code ignored;
+        for (std::filesystem::directory_iterator each(myFolder->path(folder), ignored), end; !ignored && each != end;
+             each.increment(ignored))
+            if (std::filesystem::is_directory(each->path() / "files", ignored))
+                return true;
+        return false;
     }
 
     // What a run makes of this text as models/small.xml.

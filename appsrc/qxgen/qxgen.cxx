@@ -10,9 +10,12 @@
 #include "modelTools/signalCleanup.h"
 
 #include <algorithm>
+#include <cerrno>
 #include <csignal>
+#include <fcntl.h>
 #include <iostream>
 #include <string>
+#include <unistd.h>
 #include <vector>
 
 namespace
@@ -34,6 +37,14 @@ int fail(DtExitCode code, const std::string& text)
     return end(code);
 }
 
+// Ends a command that may have written to standard output: what was asked for has to get there.
+int endOfOutput(DtExitCode code)
+{
+    if (std::cout.flush())
+        return end(code);
+    return fail(DtGraver(code, DtExitCode::Unwritable), "standard output cannot be written.");
+}
+
 int runCommand(CLI::App& program, const DtCommandRun& run, std::vector<std::string> arguments)
 {
     std::reverse(arguments.begin(), arguments.end()); // as the library wants them
@@ -44,13 +55,19 @@ int runCommand(CLI::App& program, const DtCommandRun& run, std::vector<std::stri
     catch (const CLI::ParseError& error) // help and version too
     {
         if (error.get_exit_code() == static_cast<int>(CLI::ExitCodes::Success))
-            return end(static_cast<DtExitCode>(program.exit(error)));
+            return endOfOutput(static_cast<DtExitCode>(program.exit(error)));
         return fail(DtExitCode::Usage, DtFaultOfLine(program, error) + theRemedy);
     }
-    const DtExitCode code = run();
-    if (!std::cout.flush())
-        return fail(DtExitCode::Unwritable, "standard output cannot be written.");
-    return end(code);
+    return endOfOutput(run());
+}
+
+// Gives each standard stream that is closed a file that fails as a closed one does. The next file that is opened would
+// take its place otherwise, and get what is told.
+void openClosedStreams()
+{
+    for (const int stream : {STDIN_FILENO, STDOUT_FILENO, STDERR_FILENO})
+        if (fcntl(stream, F_GETFD) < 0 && errno == EBADF)
+            static_cast<void>(open("/dev/null", stream == STDIN_FILENO ? O_WRONLY : O_RDONLY)); // the lowest one free
 }
 
 int runProgram(const std::vector<std::string>& arguments)
@@ -66,7 +83,7 @@ int runProgram(const std::vector<std::string>& arguments)
     addWindowCommand(program, run);
     addCompletionCommand(program, run);
     if (!arguments.empty() && arguments.front() == theCompletionQuery)
-        return end(printCompletions(program, {arguments.begin() + 1, arguments.end()}));
+        return endOfOutput(printCompletions(program, {arguments.begin() + 1, arguments.end()}));
     if (arguments.size() == 3 && arguments.front() == theSettingsRequest)
     {
         DtRenewSettings(arguments[1], arguments[2]);
@@ -82,6 +99,7 @@ int runProgram(const std::vector<std::string>& arguments)
 
 int main(int argc, char** argv)
 {
+    openClosedStreams();
     // A reader that goes away and a limit of file size show as failed writes, which are told.
     std::signal(SIGPIPE, SIG_IGN);
     std::signal(SIGXFSZ, SIG_IGN);

@@ -198,6 +198,28 @@ private Q_SLOTS:
         }
     }
 
+    void standardOutputThatCannotBeWrittenEndsWith5_data()
+    {
+        QTest::addColumn<QByteArray>("arguments");
+        for (const char* arguments :
+             {"--version", "--help", "generate --help", "list SAMPLE", "list --format json SAMPLE", "completion bash",
+              "generate --list SAMPLE", "complete bash generate --"})
+            QTest::newRow(arguments) << QByteArray(arguments);
+    }
+    void standardOutputThatCannotBeWrittenEndsWith5()
+    {
+        QFETCH(QByteArray, arguments);
+        for (const char* redirection : {">/dev/full", ">&-"})
+        {
+            const std::string line = std::string(QX_QXGEN) + " " +
+                                     arguments.replace("SAMPLE", theSample.c_str()).toStdString() + " " + redirection;
+            const DtRun run = runProgram("/bin/sh", {"-c", line}, fs::temp_directory_path());
+            QCOMPARE(run.code, 5);
+            COMPARE_TEXT(run.errors, "qxgen: error: standard output cannot be written.\n");
+            COMPARE_TEXT(run.output, "");
+        }
+    }
+
     void lintEndsByWhatItFinds_data()
     {
         QTest::addColumn<QByteArray>("text");

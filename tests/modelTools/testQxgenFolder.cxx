@@ -206,6 +206,38 @@ private Q_SLOTS:
         COMPARE_TEXT(textOf(generate({"--script", "json", "--verify"})), "0\n--\n"); // which writes nothing there
     }
 
+    void closedStreamIsNotTakenForAFile_data()
+    {
+        QTest::addColumn<QByteArray>("streams");
+        for (const char* streams : {"0", "1", "2", "01", "12", "012"})
+            QTest::newRow(streams) << QByteArray(streams);
+    }
+    void closedStreamIsNotTakenForAFile()
+    {
+        QFETCH(QByteArray, streams);
+        const DtContents expected = outputOf(smallModel());
+        const auto closeStreams = [&streams]
+        {
+            for (const char stream : streams)
+                close(stream - '0');
+        };
+        const pid_t program = myFolder->start({"generate", "models/small.xml", "-o", "out", "-v"}, closeStreams);
+        QVERIFY(comesTrue([this] { return hasStage("out"); }));
+        std::string taken;
+        for (const char* stream : {"0", "1", "2"})
+        {
+            std::error_code ignored;
+            const std::filesystem::path link = "/proc/" + std::to_string(program) + "/fd/" + stream;
+            if (contains(std::filesystem::read_symlink(link, ignored).native(), "/out/"))
+                taken += stream;
+        }
+        QCOMPARE(endOf(program), 0);
+        COMPARE_TEXT(taken, "");
+        COMPARE_TEXT(differenceOf(expected, treeOf(myFolder->path("out"))), "");
+        const DtProgramEnd listed = myFolder->run({"generate", "models/small.xml", "--list"}, closeStreams);
+        QCOMPARE(listed.code, streams.contains('1') ? 5 : 0);
+    }
+
     void twoRunsAtOnceGiveTheOutputOfTheLaterOne()
     {
         const DtContents small = outputOf(smallModel()), other = outputOf(otherModel());

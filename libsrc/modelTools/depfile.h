@@ -5,7 +5,11 @@
 #include <string>
 
 // The text of a dependency file in the syntax of make, as Ninja and make read it: the target depends on each of the
-// files. Blanks, "#" and "$" in names are escaped.
+// files. Blanks, "#", ":", "|" and "$" in names are escaped, and so are backslashes ahead of the first four of them and
+// at the end of a name.
+//
+// Where the two differ, make's reading counts: Ninja has another spelling for a backslash ahead of "#", ":" or "$", and
+// none for tabs and "|", nor for ":" and backslashes at the end. For ";", "=" and parentheses make has none.
 std::string DtDepfileText(const std::string& target, const std::set<std::string>& files);
 
 #endif

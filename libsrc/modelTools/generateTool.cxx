@@ -367,18 +367,25 @@ void DtGenerateTool::tellSummary() const
           << std::endl;
 }
 
+// Some inputs are places where a file would have counted, had there been one.
+std::set<std::string> DtGenerateTool::presentInputs() const
+{
+    std::set<std::string> files;
+    std::copy_if(myInputs.begin(), myInputs.end(), std::inserter(files, files.end()),
+                 [](const std::string& file)
+                 {
+                     std::error_code ignored;
+                     return fs::exists(file, ignored);
+                 });
+    return files;
+}
+
 // Last: a stamp says that all before it is done.
 void DtGenerateTool::writeDependencies() const
 {
     if (!myOptions.depfile.empty())
     {
-        std::set<std::string> files;
-        std::copy_if(myInputs.begin(), myInputs.end(), std::inserter(files, files.end()),
-                     [](const std::string& file)
-                     {
-                         std::error_code ignored;
-                         return fs::exists(file, ignored);
-                     });
+        std::set<std::string> files = presentInputs();
         std::error_code ignored;
         files.insert(fs::read_symlink("/proc/self/exe", ignored).string());
         writeWhole(myOptions.depfile, DtDepfileText(fs::absolute(myOptions.stamp).lexically_normal().string(), files));
@@ -387,13 +394,14 @@ void DtGenerateTool::writeDependencies() const
         writeWhole(myOptions.stamp, "");
 }
 
-// Of a run that changes nothing too, because of what it has found or because it was to list only.
+// Of a run that changes nothing too, because of what it has found or because it compares only. One that names its
+// outputs writes nothing at all.
 void DtGenerateTool::writeReport(const DtDiagnostics& diagnostics)
 {
-    if (myOptions.report.empty())
+    if (myOptions.report.empty() || myOptions.use == DtOutputUse::List)
         return;
     myReport.outputDirectory = myOptions.outputDirectory;
-    myReport.setInputs(myInputs);
+    myReport.setInputs(presentInputs());
     myReport.diagnostics = diagnostics.all();
     myReport.times.emplace_back("total", DtSteadySeconds() - myStart);
     writeWhole(myOptions.report, myReport.textFor(myOptions.report));

@@ -93,6 +93,7 @@ private:
     void commit(DtOutputStage& stage);
     void tell(const DtDiagnostics& diagnostics) const;
     void tellSummary() const;
+    std::set<std::string> presentInputs() const;
     void writeDependencies() const;
     void writeReport(const DtDiagnostics& diagnostics);
     void noteTime(const char* step);

@@ -6,9 +6,22 @@
 
 namespace
 {
+using DtNames = std::vector<std::string>;
+
 // As file names they are hard on at least one of the tools. Ninja ends a name at quotes, whatever stands ahead of them.
-const std::vector<std::string> theNames = {"plain.xml",     "with blank.xml", "two  blanks", "hash#.xml", "dollar$.xml",
-                                           "$(HOME) #.xml", "M\xc3\xa4rz",    "per%cent",    "a,b+c@d~e"};
+const DtNames theNames = {"plain.xml",   "with blank.xml", "two  blanks",    "hash#.xml",
+                          "dollar$.xml", "$(HOME) #.xml",  "M\xc3\xa4rz",    "per%cent",
+                          "a,b+c@d~e",   "back\\slash",    "back\\ blank",   "two\\\\ blank",
+                          "back\\\\mid", "with:colon",     "a: colon blank", "back\\%cent"};
+// Ninja has no way to write these, or another one than make.
+const DtNames theNamesOfMake = {"C:",     "back\\#hash", "two\\\\#hash", "tab\tname", "back\\\ttab", "back\\:colon",
+                                "ends\\", "bar|name",    "back\\|bar",   "zz ends\\", "dollar\\$"};
+
+DtNames joinedNames(DtNames names, const DtNames& more)
+{
+    names.insert(names.end(), more.begin(), more.end());
+    return names;
+}
 
 // What the program prints; its exit code first.
 std::string printedBy(const QString& program, const QStringList& arguments, const std::filesystem::path& directory)
@@ -43,13 +56,14 @@ private Q_SLOTS:
     void specialCharactersAreEscaped()
     {
         COMPARE_TEXT(DtDepfileText("a b", {"c#d", "e$f", "g\th"}), "a\\ b: \\\n  c\\#d \\\n  e$$f \\\n  g\\\th\n");
+        COMPARE_TEXT(DtDepfileText("a:b", {"c\\d", "e\\ f", "g|h"}), "a\\:b: \\\n  c\\d \\\n  e\\\\\\ f \\\n  g\\|h\n");
     }
 
     void makeReadsEveryName()
     {
         if (QStandardPaths::findExecutable("make").isEmpty())
             QSKIP("make is not installed: no dependency file is tried with it.");
-        writeFiles("stamp of $1 #2");
+        writeFiles("stamp: of $1\\ #2", joinedNames(theNames, theNamesOfMake));
         writeBytes(path("Makefile"), "include names.d\n" + DtDepfileText(path(myTarget).native(), {}) + "\ttrue\n");
         const auto question = [this] { return printedBy("make", {"-q", target()}, path("")).substr(0, 1); };
         checkEachName([&question] { return question() == "0"; });
@@ -59,14 +73,14 @@ private Q_SLOTS:
     {
         if (QStandardPaths::findExecutable("ninja").isEmpty())
             QSKIP("ninja is not installed: no dependency file is tried with it.");
-        writeFiles("stamp of #2");
+        writeFiles("stamp: of #2", theNames);
         std::string name = path(myTarget).native();
-        for (std::size_t at = 0; (at = name.find(' ', at)) != std::string::npos; at += 2)
+        for (std::size_t at = 0; (at = name.find_first_of(" :", at)) != std::string::npos; at += 2)
             name.insert(at, "$");
         writeBytes(path("build.ninja"),
                    "rule make\n  command = touch $out\n  depfile = names.d\nbuild " + name + ": make\n");
         QCOMPARE(printedBy("ninja", {}, path("")).substr(0, 1), std::string("0")); // its log knows the command then
-        writeFiles(myTarget);
+        writeFiles(myTarget, theNames);
         checkEachName([this] { return printedBy("ninja", {"-n"}, path("")) == "0 ninja: no work to do.\n"; });
     }
 
@@ -75,11 +89,12 @@ private:
     QString target() const { return QString::fromStdString(path(myTarget).native()); }
 
     // The files, which are old, the dependency file, and the newer target.
-    void writeFiles(const std::string& target)
+    void writeFiles(const std::string& target, const DtNames& names)
     {
         myTarget = target;
+        myNames = names;
         std::set<std::string> files;
-        for (const std::string& name : theNames)
+        for (const std::string& name : myNames)
         {
             writeBytes(path(name), "x");
             setTime(path(name), 60);
@@ -94,7 +109,7 @@ private:
     void checkEachName(const std::function<bool()>& isUpToDate) const
     {
         QVERIFY(isUpToDate());
-        for (const std::string& name : theNames)
+        for (const std::string& name : myNames)
         {
             setTime(path(name), 0);
             QVERIFY2(!isUpToDate(), name.c_str());
@@ -105,6 +120,7 @@ private:
 
     DtTestFolder myFolder;
     std::string myTarget;
+    DtNames myNames;
 };
 
 QX_REGISTER_TEST(TestDepfile)

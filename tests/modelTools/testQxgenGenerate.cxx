@@ -6,6 +6,8 @@
 #include "registerTest.h"
 #include "scratchData.h"
 
+#include <QtCore/QCryptographicHash>
+#include <QtCore/QJsonArray>
 #include <QtCore/QJsonDocument>
 #include <QtCore/QJsonObject>
 
@@ -248,7 +250,7 @@ private Q_SLOTS:
 
     void reportOfARunThatListsTellsThatNothingWasChanged()
     {
-        for (const char* option : {"--list", "--dry-run", "--verify"})
+        for (const char* option : {"--dry-run", "--verify"})
         {
             generate({"--script", "json", option, "--report", "report.json"});
             const QJsonObject report =
@@ -257,6 +259,43 @@ private Q_SLOTS:
             QCOMPARE(report["counts"].toObject()["written"].toInt(), 1);
             std::filesystem::remove(myFolder->path("report.json"));
         }
+    }
+
+    void listWritesNoReport()
+    {
+        COMPARE_TEXT(textOf(generate({"--script", "json", "--list", "--report", "report.json"})),
+                     "0\nmodel.json\n--\n");
+        QVERIFY(!std::filesystem::exists(myFolder->path("report.json")));
+    }
+
+    void inputsOfTheReportAreFilesWithTheirHashes_data()
+    {
+        QTest::addColumn<QByteArray>("name");
+        QTest::newRow("ASCII") << QByteArray("small.xml");
+        QTest::newRow("UTF-8") << QByteArray("M\xc3\xa4rz.xml");
+        QTest::newRow("Latin 1") << QByteArray("M\xe4rz.xml");
+    }
+    void inputsOfTheReportAreFilesWithTheirHashes()
+    {
+        QFETCH(QByteArray, name);
+        myFolder->write("in/" + name.toStdString(), smallModel());
+        const DtProgramEnd end = myFolder->generate({"in/" + name.toStdString(), "-o", "out", "--script", "cpp",
+                                                     "--script", "html", "--report", "report.json"});
+        QCOMPARE(end.code, 0);
+        const QJsonArray inputs =
+            QJsonDocument::fromJson(QByteArray(myFolder->text("report.json").c_str())).object()["inputs"].toArray();
+        QVERIFY(inputs.size() > 10);
+        const QByteArray model(smallModel().c_str());
+        int models = 0;
+        for (const QJsonValue& each : inputs)
+        {
+            const QJsonObject input = each.toObject();
+            QVERIFY2(input["sha256"].toString().size() == 64, qPrintable(input["path"].toString()));
+            if (input["sha256"].toString() ==
+                QString::fromLatin1(QCryptographicHash::hash(model, QCryptographicHash::Sha256).toHex()))
+                ++models;
+        }
+        QCOMPARE(models, 1);
     }
 
     void helpFitsAScreenAndGoesToStandardOutput()

@@ -241,6 +241,8 @@ private Q_SLOTS:
         QTest::newRow("json") << QByteArray("a.json") << false;
         QTest::newRow("other") << QByteArray("/a.html/report") << false;
         QTest::newRow("no dot") << QByteArray("reporthtml") << false;
+        QTest::newRow("longer") << QByteArray("a.myhtml") << false;
+        QTest::newRow("dot alone") << QByteArray("a.html.") << false;
     }
     void nameDecidesOnTheKind()
     {

@@ -240,6 +240,7 @@ void DtGenerateTool::noteInputs(const DtModelGeneration& generation)
 {
     myInputs = generation.inputs();
     myModelFiles = generation.modelFiles();
+    myCppFiles = generation.cppFiles();
 }
 
 // The models are read once more for this, so only for what somebody gets to see.
@@ -267,7 +268,7 @@ void DtGenerateTool::checkOutput(const DtOutputStage& stage, DtDiagnostics& diag
     if (listed.empty())
         return;
     const std::set<std::string> names(listed.begin(), listed.end());
-    for (const std::string& file : DtOutputsToList(stage.files(), paths))
+    for (const std::string& file : DtOutputsToList(myCppFiles, paths))
         if (names.count(file) == 0)
             diagnostics.add(diagnosticAt(file, DtSeverity::Error, "is in no list of files", "output-check"));
 }

@@ -104,7 +104,8 @@ private:
     std::ostream& myErr;
     std::set<std::string> myInputs;
     std::vector<std::string> myModelFiles;
-    DtString myIncludePath; // of the generated headers
+    std::vector<std::string> myCppFiles; // of the C++ script
+    DtString myIncludePath;              // of the generated headers
     DtRunReport myReport;
     DtCounts myCounts;  // of the commit
     double myStart;     // seconds of a clock that does not jump

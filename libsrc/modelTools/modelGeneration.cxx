@@ -10,11 +10,13 @@
 #include "modelTools/classPattern.h"
 #include "modelTools/configKeys.h"
 #include "modelTools/nearNames.h"
+#include "modelTools/outputTree.h"
 #include "modelTools/toolFailure.h"
 #include "omtReader/fedReader.h"
 #include "omtReader/omtTree.h"
 
 #include <algorithm>
+#include <iterator>
 #include <string_view>
 #include <system_error>
 #include <unistd.h>
@@ -46,6 +48,14 @@ DtString stem(const DtFilename& path)
     DtFilename name = DtFilename::stripPath(path);
     name.stripExtension();
     return name;
+}
+
+// Both lists are sorted.
+std::vector<std::string> added(const std::vector<std::string>& before, const std::vector<std::string>& after)
+{
+    std::vector<std::string> names;
+    std::set_difference(after.begin(), after.end(), before.begin(), before.end(), std::back_inserter(names));
+    return names;
 }
 
 bool isMim(const DtString& name)
@@ -306,7 +316,14 @@ void DtModelGeneration::writeInto(const fs::path& directory)
     DtGenerationRun run(*myModel.tree, &myProject, DtFilename::stripPath(DtFilename(DtString(myModelFiles.front()))),
                         DtGenerationOptions::of(myConfiguration), myRequest.layout);
     for (const std::string& file : commandFiles())
+    {
+        const DtOutputTree tree(directory);
+        const bool isCpp = DtGenerationRun::isCpp(DtString(file));
+        const std::vector<std::string> before = isCpp ? tree.list() : std::vector<std::string>();
         run.run(DtString(file));
+        if (isCpp)
+            myCppFiles = added(before, tree.list());
+    }
     checkTemplates();
 }
 

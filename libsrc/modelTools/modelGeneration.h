@@ -50,6 +50,8 @@ public:
     const DtOmtProject& project() const { return myProject; }
     // The model files as they were found, without the management model that is part of the program.
     const std::vector<std::string>& modelFiles() const { return myModelFiles; }
+    // The files that the C++ script has made, sorted, without those that another one has made under the same names.
+    const std::vector<std::string>& cppFiles() const { return myCppFiles; }
     // All files that decided on the output so far, absolute: models, project, configuration, command files, templates.
     std::set<std::string> inputs() const;
 
@@ -85,6 +87,7 @@ private:
     DtOmtProject myProject;
     DtLoadedModel myModel;
     std::vector<std::string> myModelFiles;
+    std::vector<std::string> myCppFiles;
 };
 
 #endif

@@ -15,7 +15,8 @@ struct DtCppPaths
 // The output paths that the lists of generated C++ name, Files-cc.txt and Files-h.txt; empty when there are no lists.
 std::vector<std::string> DtListedOutputs(const std::filesystem::path& directory, const DtCppPaths& paths);
 
-// Those of the output paths that are C++ of the library (not of the examples) and that the lists should name.
+// Those files of the C++ script that are C++ of the library (not of the examples), which the lists should name. Other
+// scripts may write C++ too, and answer for it themselves.
 std::vector<std::string> DtOutputsToList(const std::vector<std::string>& files, const DtCppPaths& paths);
 
 #endif

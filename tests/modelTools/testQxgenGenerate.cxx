@@ -430,6 +430,25 @@ private Q_SLOTS:
         COMPARE_TEXT(differenceOf(before, treeOf(myFolder->path("out"))), "");
     }
 
+    void listsNameFilesOfTheCppAlone()
+    {
+        for (const char* name : {"genAheadOfIt.txt", "own.txt"})
+            for (const char* layout : {"tree", "classic"})
+            {
+                myFolder->write("my/json/model.tlt", "// Of a script.\n");
+                std::string script = readBytes(QX_SOURCE_DIR "/data/genJson.txt");
+                script.erase(script.find("file model.json"));
+                const std::string folder = layout == std::string("classic") ? "cpp\\" : "";
+                myFolder->write(name,
+                                script + "file " + folder + "own.h model.tlt\nfile " + folder + "own.cxx model.tlt\n");
+                COMPARE_TEXT(
+                    textOf(generate({"--script", "cpp", "--script", name, "--template-dir", "my", "--layout", layout})),
+                    "0\n--\n");
+                QVERIFY(contains(myFolder->text("out/" + folder + "own.h"), "Of a script"));
+                QVERIFY(!contains(myFolder->text("out/" + folder + "Files-h.txt"), "own.h"));
+            }
+    }
+
     void standardOutputThatCannotBeWrittenEndsWith5()
     {
         const auto toFull = []

@@ -137,7 +137,7 @@ void addSettings(const CLI::App& command, DtGenerateLine& line)
 }
 
 // One run. A watch goes on behind a failed one, so it ends here.
-void runWatched(DtGenerateTool& tool)
+void runWatched(DtGenerateTool& tool, DtDiagnosticFormat format)
 {
     try
     {
@@ -145,11 +145,12 @@ void runWatched(DtGenerateTool& tool)
     }
     catch (const DtToolFailure& failure)
     {
-        std::cerr << "qxgen: error: " << failure.what() << std::endl;
+        std::cerr << DtFormattedNotice(DtSeverity::Error, failure.what(), format) << std::flush;
     }
     catch (const DtOutputException& failure)
     {
-        std::cerr << "qxgen: error: " << failure.path().string() << ": " << failure.reason() << std::endl;
+        std::cerr << DtFormattedNotice(DtSeverity::Error, failure.reason(), format, failure.path().string())
+                  << std::flush;
     }
 }
 
@@ -166,9 +167,10 @@ void runWatched(DtGenerateTool& tool)
     {
         inputs.note();
         DtGenerateTool tool(options, std::cout, std::cerr);
-        runWatched(tool);
+        runWatched(tool, options.format);
         inputs.add(tool.inputs()); // a failed run may have come to a few only
-        std::cerr << "qxgen: watching " << inputs.count() << " files" << std::endl;
+        const std::string note = "watching " + std::to_string(inputs.count()) + " files";
+        std::cerr << DtFormattedNotice(DtSeverity::Note, note, options.format) << std::flush;
         inputs.waitForChange();
     }
 }

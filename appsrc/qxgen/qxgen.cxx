@@ -4,6 +4,7 @@
 #include "lineFaults.h"
 
 #include "modelTools/argumentFile.h"
+#include "modelTools/diagnostics.h"
 #include "modelTools/outputException.h"
 #include "modelTools/programVersion.h"
 #include "modelTools/settingsRenewal.h"
@@ -31,21 +32,44 @@ int end(DtExitCode code)
     return static_cast<int>(code);
 }
 
-int fail(DtExitCode code, const std::string& text)
+// In which form the commands that tell diagnostics tell their errors. Those of the command line itself too, which is
+// then not understood as a whole: hence the look at its words.
+DtDiagnosticFormat formatOfErrors(const std::vector<std::string>& arguments)
 {
-    std::cerr << "qxgen: error: " << text << std::endl;
-    return end(code);
+    if (arguments.empty() || (arguments.front() != "generate" && arguments.front() != "lint-templates"))
+        return DtDiagnosticFormat::Text;
+    const auto last = std::find(arguments.begin(), arguments.end(), "--");
+    for (auto each = arguments.begin(); each != last; ++each)
+        if (*each == "--format=json" || (*each == "--format" && each + 1 != last && *(each + 1) == "json"))
+            return DtDiagnosticFormat::Json;
+    return DtDiagnosticFormat::Text;
 }
 
+// Tells how the program fails.
+class DtFailureTeller
+{
+public:
+    void setFormat(DtDiagnosticFormat format) { myFormat = format; }
+    int fail(DtExitCode code, const std::string& text, const std::string& file = std::string()) const
+    {
+        std::cerr << DtFormattedNotice(DtSeverity::Error, text, myFormat, file) << std::flush;
+        return end(code);
+    }
+
+private:
+    DtDiagnosticFormat myFormat = DtDiagnosticFormat::Text;
+};
+
 // Ends a command that may have written to standard output: what was asked for has to get there.
-int endOfOutput(DtExitCode code)
+int endOfOutput(DtExitCode code, const DtFailureTeller& teller)
 {
     if (std::cout.flush())
         return end(code);
-    return fail(DtGraver(code, DtExitCode::Unwritable), "standard output cannot be written.");
+    return teller.fail(DtGraver(code, DtExitCode::Unwritable), "standard output cannot be written.");
 }
 
-int runCommand(CLI::App& program, const DtCommandRun& run, std::vector<std::string> arguments)
+int runCommand(CLI::App& program, const DtCommandRun& run, std::vector<std::string> arguments,
+               const DtFailureTeller& teller)
 {
     std::reverse(arguments.begin(), arguments.end()); // as the library wants them
     try
@@ -55,10 +79,10 @@ int runCommand(CLI::App& program, const DtCommandRun& run, std::vector<std::stri
     catch (const CLI::ParseError& error) // help and version too
     {
         if (error.get_exit_code() == static_cast<int>(CLI::ExitCodes::Success))
-            return endOfOutput(static_cast<DtExitCode>(program.exit(error)));
-        return fail(DtExitCode::Usage, DtFaultOfLine(program, error) + theRemedy);
+            return endOfOutput(static_cast<DtExitCode>(program.exit(error)), teller);
+        return teller.fail(DtExitCode::Usage, DtFaultOfLine(program, error) + theRemedy);
     }
-    return endOfOutput(run());
+    return endOfOutput(run(), teller);
 }
 
 // Gives each standard stream that is closed a file that fails as a closed one does. The next file that is opened would
@@ -70,7 +94,7 @@ void openClosedStreams()
             static_cast<void>(open("/dev/null", stream == STDIN_FILENO ? O_WRONLY : O_RDONLY)); // the lowest one free
 }
 
-int runProgram(const std::vector<std::string>& arguments)
+int runProgram(const std::vector<std::string>& arguments, DtFailureTeller& teller)
 {
     CLI::App program("Generates C++ and other files from object models of the High Level Architecture.", "qxgen");
     program.set_version_flag("--version", std::string("qxgen ") + DtProgramVersion());
@@ -83,17 +107,19 @@ int runProgram(const std::vector<std::string>& arguments)
     addWindowCommand(program, run);
     addCompletionCommand(program, run);
     if (!arguments.empty() && arguments.front() == theCompletionQuery)
-        return endOfOutput(printCompletions(program, {arguments.begin() + 1, arguments.end()}));
+        return endOfOutput(printCompletions(program, {arguments.begin() + 1, arguments.end()}), teller);
     if (arguments.size() == 3 && arguments.front() == theSettingsRequest)
     {
         DtRenewSettings(arguments[1], arguments[2]);
         return end(DtExitCode::Done);
     }
+    teller.setFormat(formatOfErrors(arguments)); // for the files of arguments
     const std::vector<std::string> words = DtExpandedArguments(arguments);
+    teller.setFormat(formatOfErrors(words));
     const std::string fault = DtFaultOfCommandName(program, words);
     if (!fault.empty())
-        return fail(DtExitCode::Usage, fault + theRemedy);
-    return runCommand(program, run, words);
+        return teller.fail(DtExitCode::Usage, fault + theRemedy);
+    return runCommand(program, run, words, teller);
 }
 } // namespace
 
@@ -104,20 +130,21 @@ int main(int argc, char** argv)
     std::signal(SIGPIPE, SIG_IGN);
     std::signal(SIGXFSZ, SIG_IGN);
     DtSignalCleanup::install();
+    DtFailureTeller teller;
     try
     {
-        return runProgram({argv + 1, argv + argc});
+        return runProgram({argv + 1, argv + argc}, teller);
     }
     catch (const DtToolFailure& failure)
     {
-        return fail(failure.code(), failure.what());
+        return teller.fail(failure.code(), failure.what());
     }
     catch (const DtOutputException& failure)
     {
-        return fail(DtExitCode::Unwritable, failure.path().string() + ": " + failure.reason());
+        return teller.fail(DtExitCode::Unwritable, failure.reason(), failure.path().string());
     }
     catch (const std::exception& error)
     {
-        return fail(DtExitCode::Fault, std::string("this is a fault of the program: ") + error.what());
+        return teller.fail(DtExitCode::Fault, std::string("this is a fault of the program: ") + error.what());
     }
 }

@@ -109,6 +109,19 @@ std::string DtFormatted(const DtDiagnostic& diagnostic, DtDiagnosticFormat forma
     return formattedText(diagnostic, isColored);
 }
 
+std::string DtFormattedNotice(DtSeverity severity, const std::string& text, DtDiagnosticFormat format,
+                              const std::string& file)
+{
+    if (format != DtDiagnosticFormat::Json)
+        return std::string("qxgen: ") + (severity == DtSeverity::Error ? "error: " : "") +
+               (file.empty() ? "" : file + ": ") + text + "\n";
+    DtDiagnostic notice;
+    notice.severity = severity;
+    notice.place.file = file;
+    notice.text = text;
+    return formattedJson(notice);
+}
+
 std::size_t DtDiagnostics::count(DtSeverity severity) const
 {
     const auto isOfSeverity = [severity](const DtDiagnostic& each) { return each.severity == severity; };

@@ -42,6 +42,11 @@ enum class DtDiagnosticFormat
 // One diagnostic in that format, a line feed at its end. Coloured text only where the format is Text.
 std::string DtFormatted(const DtDiagnostic& diagnostic, DtDiagnosticFormat format, bool isColored = false);
 
+// What is told of the run as a whole, with its file if there is one: "qxgen: text", or "qxgen: error: file: text". In
+// JSON it is an object like a diagnostic without a rule.
+std::string DtFormattedNotice(DtSeverity severity, const std::string& text, DtDiagnosticFormat format,
+                              const std::string& file = std::string());
+
 // Takes the warnings of the libraries for as long as it lives and keeps them as diagnostics. The stated text is taken
 // over without "Warning: " in front, which the severity says.
 class DtDiagnostics : private DtWarningTaker

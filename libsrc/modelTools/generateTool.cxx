@@ -24,6 +24,7 @@
 #include <memory>
 #include <ostream>
 #include <set>
+#include <sstream>
 #include <unistd.h>
 
 namespace fs = std::filesystem;
@@ -112,7 +113,7 @@ DtExitCode DtGenerateTool::runLocked(DtDiagnostics& diagnostics)
     const std::unique_ptr<DtOutputLock> lock = takeLock();
     const DtOutputRecovery recovery(*lock);
     if (recovery.hasFinishedCommit() && myOptions.telling != DtTelling::Quiet)
-        myErr << "qxgen: finished what an earlier run had begun in " << myOptions.outputDirectory << std::endl;
+        tellNote("finished what an earlier run had begun in " + myOptions.outputDirectory);
     for (const DtOutputChange& change : recovery.changes())
         addNotice(change, diagnostics);
     for (const std::string& notice : recovery.notices())
@@ -124,9 +125,8 @@ DtExitCode DtGenerateTool::runLocked(DtDiagnostics& diagnostics)
 // What is wrong with the command line or with an input goes ahead of an output that cannot be had.
 std::unique_ptr<DtOutputLock> DtGenerateTool::takeLock() const
 {
-    const auto notice = [this](const std::string& holder) {
-        myErr << "qxgen: waiting for the run of process " << holder << " in " << myOptions.outputDirectory << std::endl;
-    };
+    const auto notice = [this](const std::string& holder)
+    { tellNote("waiting for the run of process " + holder + " in " + myOptions.outputDirectory); };
     try
     {
         return std::make_unique<DtOutputLock>(myOptions.outputDirectory,
@@ -214,7 +214,7 @@ void DtGenerateTool::generate(DtOutputStage& stage, DtDiagnostics& diagnostics)
 {
     DtQuietProgressMeter quiet;
     std::unique_ptr<DtTerminalProgress> shown;
-    if (isTerminal() && myOptions.telling != DtTelling::Quiet)
+    if (isTerminal() && myOptions.telling != DtTelling::Quiet && myOptions.format != DtDiagnosticFormat::Json)
         shown = std::make_unique<DtTerminalProgress>(myErr);
     const DtProgressUse use(shown != nullptr ? static_cast<DtProgressMeter&>(*shown) : quiet);
     DtModelGeneration generation(myOptions.request);
@@ -343,9 +343,23 @@ void DtGenerateTool::commit(DtOutputStage& stage)
             continue;
         ++(change.kind == DtChangeKind::Removed ? myCounts.removed : myCounts.written);
         if (myOptions.telling == DtTelling::Verbose)
-            myErr << change.letter() << ' ' << change.path << '\n';
+            tellChange(change);
     }
     stage.commit();
+}
+
+void DtGenerateTool::tellNote(const std::string& text) const
+{
+    myErr << DtFormattedNotice(DtSeverity::Note, text, myOptions.format) << std::flush;
+}
+
+void DtGenerateTool::tellChange(const DtOutputChange& change) const
+{
+    if (myOptions.format == DtDiagnosticFormat::Json)
+        myErr << DtFormattedNotice(DtSeverity::Note, std::string(1, change.letter()), myOptions.format,
+                                   (fs::path(myOptions.outputDirectory) / change.path).string());
+    else
+        myErr << change.letter() << ' ' << change.path << '\n';
 }
 
 void DtGenerateTool::tell(const DtDiagnostics& diagnostics) const
@@ -363,9 +377,13 @@ void DtGenerateTool::tellSummary() const
         return;
     char time[32];
     std::snprintf(time, sizeof time, "%.2f", DtSteadySeconds() - myStart);
-    myErr << myCounts.files << " files in " << myOptions.outputDirectory << ": " << myCounts.written << " written, "
-          << myCounts.removed << " removed, " << myCounts.files - myCounts.written << " unchanged (" << time << " s)"
-          << std::endl;
+    std::ostringstream text;
+    text << myCounts.files << " files in " << myOptions.outputDirectory << ": " << myCounts.written << " written, "
+         << myCounts.removed << " removed, " << myCounts.files - myCounts.written << " unchanged (" << time << " s)";
+    if (myOptions.format == DtDiagnosticFormat::Json)
+        tellNote(text.str());
+    else
+        myErr << text.str() << std::endl; // on a terminal nobody needs to be told by whom
 }
 
 // Some inputs are places where a file would have counted, had there been one.

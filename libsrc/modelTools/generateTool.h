@@ -92,6 +92,8 @@ private:
     DtExitCode listDifferences(DtOutputStage& stage) const;
     void commit(DtOutputStage& stage);
     void tell(const DtDiagnostics& diagnostics) const;
+    void tellNote(const std::string& text) const;
+    void tellChange(const DtOutputChange& change) const;
     void tellSummary() const;
     std::set<std::string> presentInputs() const;
     void writeDependencies() const;

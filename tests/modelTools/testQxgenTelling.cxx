@@ -3,7 +3,11 @@
 #include "qxgenProgram.h"
 #include "registerTest.h"
 
+#include <QtCore/QJsonDocument>
+#include <QtCore/QJsonObject>
 #include <QtTest/QtTest>
+
+#include <sstream>
 
 class TestQxgenTelling : public QObject
 {
@@ -36,6 +40,100 @@ private Q_SLOTS:
         QFETCH(QByteArray, expected);
         makeEditedOutput();
         COMPARE_TEXT(textOf(generate({"--format", format.toStdString()})), "0\n--\n" + expected);
+    }
+
+    void everyLineIsAnObjectInJson_data()
+    {
+        QTest::addColumn<QByteArray>("options"); // with bars between
+        QTest::addColumn<int>("code");
+        QTest::addColumn<QByteArray>("last"); // the last line
+        const auto row = [](const char* options, int code, const char* last)
+        { QTest::newRow(options) << QByteArray(options) << code << QByteArray(last); };
+        row("--select|Bargo", 1,
+            "{\"severity\":\"error\",\"text\":\"no class matches \\\"Bargo\\\". Did you mean Barge?\"}");
+        row("--frob", 1,
+            "{\"severity\":\"error\",\"text\":\"The following argument was not expected: --frob. --help tells "
+            "more.\"}");
+        row("-q|-v", 1, "{\"severity\":\"error\",\"text\":\"-q and -v exclude one another.\"}");
+        row("@gone", 1, "{\"severity\":\"error\",\"text\":\"the file of arguments gone cannot be read.\"}");
+        row("--report|models", 5,
+            "{\"severity\":\"error\",\"file\":\"models\",\"text\":\"cannot be written: Is a directory\"}");
+        row("models/broken.xml", 2, "");
+        row("-v", 0, "");
+        row("--werror", 3,
+            "{\"severity\":\"warning\",\"rule\":\"edited-by-hand\",\"file\":\"out/model.json\","
+            "\"text\":\"was edited by hand and is replaced\"}");
+    }
+    void everyLineIsAnObjectInJson()
+    {
+        QFETCH(QByteArray, options);
+        QFETCH(int, code);
+        QFETCH(QByteArray, last);
+        makeEditedOutput();
+        myFolder->write("models/broken.xml", "<objectModel>");
+        for (const char* format : {"--format=json", "--format|json"})
+        {
+            makeEditedOutput();
+            DtArguments arguments;
+            for (const QByteArray& each : (format + ("|" + options)).split('|'))
+                arguments.push_back(each.toStdString());
+            const DtProgramEnd end = generate(arguments);
+            QCOMPARE(end.code, code);
+            COMPARE_TEXT(end.out, "");
+            COMPARE_TEXT(notJson(end.err), "");
+            if (!last.isEmpty())
+                COMPARE_TEXT(lastLine(end.err), last);
+        }
+    }
+
+    void argumentBehindTheDoubleDashIsNoFormat()
+    {
+        const DtProgramEnd end = myFolder->generate({"-o", "out", "--", "--format=json"});
+        QVERIFY2(end.err.rfind("qxgen: error: there is no model --format=json", 0) == 0, end.err.c_str());
+        QCOMPARE(end.code, 2);
+    }
+
+    void formatOfAFileOfArgumentsCountsForErrorsToo()
+    {
+        myFolder->write("line", "--format=json\n--select=Bargo\n");
+        COMPARE_TEXT(generate({"@line"}).err,
+                     "{\"severity\":\"error\",\"text\":\"no class matches \\\"Bargo\\\". Did you mean Barge?\"}\n");
+    }
+
+    void noticesOfTheOutputFolderAreObjectsInJsonToo()
+    {
+        const pid_t killed = startChild(
+            [this]
+            {
+                runOnce(myFolder->path("out"), filesOf("model.json=x"),
+                        [](DtCommitStep step, const std::filesystem::path&)
+                        {
+                            if (step == DtCommitStep::JournalWritten)
+                                kill(getpid(), SIGKILL);
+                        });
+            });
+        QCOMPARE(endOf(killed), 128 + SIGKILL);
+        auto lock = std::make_unique<DtOutputLock>(myFolder->path("out"));
+        const pid_t waiting = myFolder->startGenerate(
+            {"models/small.xml", "-o", "out", "--script", "json", "--format", "json", "--set", "prefixName=Ab"});
+        const std::string notice = "{\"severity\":\"note\",\"text\":\"waiting for the run of process " +
+                                   std::to_string(getpid()) + " in out\"}\n";
+        QVERIFY(comesTrue([this] { return contains(myFolder->errorsSoFar(), "waiting"); }));
+        lock.reset();
+        COMPARE_TEXT(textOf(myFolder->end(waiting)),
+                     ("0\n--\n" + notice +
+                      "{\"severity\":\"note\",\"text\":\"finished what an earlier run had begun in out\"}\n")
+                         .c_str());
+    }
+
+    void terminalShowsObjectsAloneInJson()
+    {
+        makeEditedOutput();
+        std::string told = onTerminal("--script json --format json -v");
+        told.erase(std::remove(told.begin(), told.end(), '\r'), told.end());
+        COMPARE_TEXT(notJson(told), "");
+        QVERIFY2(contains(lastLine(told), "\"text\":\"1 files in out: 1 written, 0 removed, 0 unchanged ("),
+                 told.c_str());
     }
 
     void colorsAreForTerminalsUnlessAskedFor_data()
@@ -164,6 +262,20 @@ private:
         if (!terminal.waitForFinished(60000))
             return "script, which makes a terminal, does not run";
         return terminal.readAll().toStdString();
+    }
+
+    // The lines that are no JSON object with a severity and a text.
+    static std::string notJson(const std::string& told)
+    {
+        std::string bad;
+        std::istringstream lines(told);
+        for (std::string line; std::getline(lines, line);)
+        {
+            const QJsonObject object = QJsonDocument::fromJson(QByteArray(line.c_str())).object();
+            if (!object.contains("severity") || !object.contains("text"))
+                bad += line + "\n";
+        }
+        return told.empty() ? "nothing is told" : bad;
     }
 
     static std::string lastLine(std::string text)

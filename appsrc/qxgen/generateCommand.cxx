@@ -169,8 +169,10 @@ void runWatched(DtGenerateTool& tool, DtDiagnosticFormat format)
         DtGenerateTool tool(options, std::cout, std::cerr);
         runWatched(tool, options.format);
         inputs.add(tool.inputs()); // a failed run may have come to a few only
+        inputs.await(tool.awaited());
         const std::string note = "watching " + std::to_string(inputs.count()) + " files";
-        std::cerr << DtFormattedNotice(DtSeverity::Note, note, options.format) << std::flush;
+        if (options.telling != DtTelling::Quiet)
+            std::cerr << DtFormattedNotice(DtSeverity::Note, note, options.format) << std::flush;
         inputs.waitForChange();
     }
 }

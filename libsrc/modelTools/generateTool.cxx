@@ -239,6 +239,7 @@ void DtGenerateTool::generate(DtOutputStage& stage, DtDiagnostics& diagnostics)
 void DtGenerateTool::noteInputs(const DtModelGeneration& generation)
 {
     myInputs = generation.inputs();
+    myAwaited = generation.awaited();
     myModelFiles = generation.modelFiles();
     myCppFiles = generation.cppFiles();
 }

@@ -66,6 +66,8 @@ public:
 
     // The inputs of the last run, also of one that failed as far as it came.
     const std::set<std::string>& inputs() const { return myInputs; }
+    // What it has looked for in vain: files and directories that may change the output of the next run when they come.
+    const std::set<std::string>& awaited() const { return myAwaited; }
 
 private:
     struct DtCounts
@@ -105,6 +107,7 @@ private:
     std::ostream& myOut;
     std::ostream& myErr;
     std::set<std::string> myInputs;
+    std::set<std::string> myAwaited;
     std::vector<std::string> myModelFiles;
     std::vector<std::string> myCppFiles; // of the C++ script
     DtString myIncludePath;              // of the generated headers

@@ -1,6 +1,5 @@
 #include "modelTools/inputWatch.h"
 
-#include <QtCore/QDir>
 #include <QtCore/QEventLoop>
 #include <QtCore/QFile>
 #include <QtCore/QFileInfo>
@@ -11,10 +10,18 @@
 #include <algorithm>
 #include <iterator>
 #include <sys/stat.h>
+#include <utility>
 
 namespace
 {
 constexpr int theSettlingTime = 100; // milliseconds
+
+QString nearestFolder(QString folder)
+{
+    while (!QFileInfo(folder).isDir())
+        folder = QFileInfo(folder).path();
+    return folder;
+}
 
 QStringList watchedPaths(const std::set<std::string>& files)
 {
@@ -24,8 +31,7 @@ QStringList watchedPaths(const std::set<std::string>& files)
         const QFileInfo info(QFile::decodeName(file.c_str()));
         if (info.exists())
             paths += info.filePath();
-        if (info.dir().exists())
-            paths += info.path();
+        paths += nearestFolder(info.absolutePath());
     }
     paths.removeDuplicates();
     return paths;
@@ -45,6 +51,11 @@ void DtInputWatch::add(const std::set<std::string>& files)
     myFiles.merge(added);
 }
 
+void DtInputWatch::await(const std::set<std::string>& files)
+{
+    myFiles.insert(files.begin(), files.end());
+}
+
 DtInputWatch::DtStamps DtInputWatch::stampsOf(const std::set<std::string>& files)
 {
     DtStamps stamps;
@@ -58,22 +69,31 @@ DtInputWatch::DtStamps DtInputWatch::stampsOf(const std::set<std::string>& files
     return stamps;
 }
 
-// A file that was replaced is no longer watched, so each wait watches anew.
+// A file that was replaced is no longer watched, nor is a folder nearer than the one that is, so each wait watches
+// anew. What happens beside the files does not put the end off: only a change of what is looked at starts the time
+// again.
 void DtInputWatch::waitForChange() const
 {
     while (stampsOf(myFiles) == myStamps)
     {
+        auto seen = std::make_pair(myStamps, watchedPaths(myFiles));
         QFileSystemWatcher watcher;
-        watcher.addPaths(watchedPaths(myFiles));
+        watcher.addPaths(seen.second);
         QTimer settled;
         settled.setSingleShot(true);
         settled.setInterval(theSettlingTime);
         QEventLoop loop;
+        const auto look = [this, &seen, &settled]
+        {
+            auto present = std::make_pair(stampsOf(myFiles), watchedPaths(myFiles));
+            if (present != seen)
+                settled.start();
+            seen = std::move(present);
+        };
         QObject::connect(&settled, &QTimer::timeout, &loop, &QEventLoop::quit);
-        QObject::connect(&watcher, &QFileSystemWatcher::fileChanged, &settled, [&settled] { settled.start(); });
-        QObject::connect(&watcher, &QFileSystemWatcher::directoryChanged, &settled, [&settled] { settled.start(); });
-        if (stampsOf(myFiles) != myStamps) // between the noting and the watching
-            settled.start();
+        QObject::connect(&watcher, &QFileSystemWatcher::fileChanged, &settled, look);
+        QObject::connect(&watcher, &QFileSystemWatcher::directoryChanged, &settled, look);
+        look(); // for what has changed between the noting and the watching
         loop.exec();
     }
 }

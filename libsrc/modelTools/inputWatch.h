@@ -6,7 +6,7 @@
 #include <string>
 
 // Waits until one of some files has changed, come or gone. Their folders are watched too, since many editors put a new
-// file in the place of the old one. Needs a QCoreApplication.
+// file in the place of the old one; for a folder that is not there, the nearest one above it. Needs a QCoreApplication.
 class DtInputWatch
 {
 public:
@@ -14,7 +14,11 @@ public:
     void note();
     // Watches these files too. Those that are not watched yet are noted as they are now.
     void add(const std::set<std::string>& files);
-    std::size_t count() const { return myFiles.size(); }
+    // Likewise files that were looked for in vain. Those that are not watched yet are noted as not there, so one that
+    // has come since then ends the wait.
+    void await(const std::set<std::string>& files);
+    // How many there are, as far as noted.
+    std::size_t count() const { return myStamps.size(); }
     // Returns when a noted file is no longer as it was noted, and nothing has changed for 100 ms.
     void waitForChange() const;
 

@@ -124,7 +124,10 @@ void DtModelGeneration::setUpSettings()
     {
         std::error_code ignored;
         if (!fs::is_directory(directory, ignored))
+        {
+            myLookedFor.insert(absolutePath(directory));
             fail(DtExitCode::Unreadable, "there is no template directory " + directory + ".");
+        }
         files.templateDirectories.emplace_back(absolutePath(directory));
     }
     files.keepsToOutput = true;
@@ -195,18 +198,26 @@ std::vector<DtFilename> DtModelGeneration::filesToLoad()
     return files;
 }
 
-DtFilename DtModelGeneration::findModel(const std::string& name) const
+bool DtModelGeneration::lookFor(const std::string& file)
 {
-    if (isFile(name))
+    if (isFile(file))
+        return true;
+    myLookedFor.insert(absolutePath(file));
+    return false;
+}
+
+DtFilename DtModelGeneration::findModel(const std::string& name)
+{
+    if (lookFor(name))
         return DtFilename(DtString(absolutePath(name)));
     for (const std::string& directory : myRequest.modelPaths)
     {
         const std::string path = directory + "/" + name;
-        if (isFile(path))
+        if (lookFor(path))
             return DtFilename(DtString(absolutePath(path)));
     }
     const DtString below = DtFedReader::pathBelowRtiConfig(name.c_str());
-    if (!below.isEmpty() && isFile(below.stdString()))
+    if (!below.isEmpty() && lookFor(below.stdString()))
         return DtFilename(DtString(absolutePath(below.stdString())));
     return isMim(DtString(name)) ? DtFilename(DtString(name)) : DtFilename();
 }
@@ -220,7 +231,7 @@ void DtModelGeneration::failWithoutModel(const std::string& name, const std::str
          "there is no model " + name + " in " + all + " or below RTI_CONFIG. --model-path names further directories.");
 }
 
-DtFilename DtModelGeneration::findModelOnLine(const std::string& name) const
+DtFilename DtModelGeneration::findModelOnLine(const std::string& name)
 {
     const DtFilename found = findModel(name);
     if (found.isEmpty())
@@ -229,13 +240,13 @@ DtFilename DtModelGeneration::findModelOnLine(const std::string& name) const
 }
 
 // Where it was when the project was saved, else beside the project, else where any model is looked for.
-DtFilename DtModelGeneration::findProjectModel(const DtOmtProject::DtFilePair& model) const
+DtFilename DtModelGeneration::findProjectModel(const DtOmtProject::DtFilePair& model)
 {
     const fs::path project = fs::absolute(myRequest.project).parent_path();
     for (const auto& [name, directory] : DtModelSpellings(model))
     {
         for (const fs::path& place : {project / directory.stdString(), project})
-            if (isFile((place / name.stdString()).string()))
+            if (lookFor((place / name.stdString()).string()))
                 return DtFilename(DtString(absolutePath((place / name.stdString()).string())));
         const DtFilename found = findModel(name.stdString());
         if (!found.isEmpty())
@@ -335,7 +346,7 @@ void DtModelGeneration::checkTemplates()
             fail(DtExitCode::Unreadable, "the template " + absolutePath(file) + " cannot be read.");
 }
 
-std::vector<std::string> DtModelGeneration::commandFiles() const
+std::vector<std::string> DtModelGeneration::commandFiles()
 {
     std::vector<std::string> files;
     for (const std::string& script : myRequest.scripts)
@@ -348,7 +359,7 @@ std::vector<std::string> DtModelGeneration::commandFiles() const
 }
 
 // The C++ has no command file.
-std::string DtModelGeneration::commandFile(const std::string& script) const
+std::string DtModelGeneration::commandFile(const std::string& script)
 {
     if (script.empty())
         fail(DtExitCode::Usage, "--script needs a name.");
@@ -356,8 +367,11 @@ std::string DtModelGeneration::commandFile(const std::string& script) const
     const std::vector<std::string> names = scriptNames(myRequest);
     if (std::find(names.begin(), names.end(), scriptOfFile(file)) != names.end())
         return file;
-    if (isFile(script))
+    if (lookFor(script))
         return absolutePath(script);
+    for (const std::string& directory : myRequest.templateDirectories)
+        lookFor(directory + "/" + file);
+    lookFor(myRequest.dataDirectory + file);
     std::string known;
     for (const std::string& name : names)
         known += (known.empty() ? "" : ", ") + name;
@@ -401,5 +415,29 @@ std::set<std::string> DtModelGeneration::inputs() const
     files.insert(absolutePath(isShipped ? myRequest.dataDirectory + theConfiguration : myRequest.configFile));
     if (!myRequest.project.empty())
         files.insert(absolutePath(myRequest.project));
+    return files;
+}
+
+// A template directory has a file under the path that the shipped one has below "templates", or below the data
+// directory itself for a command file.
+std::set<std::string> DtModelGeneration::awaited() const
+{
+    std::vector<std::string> directories;
+    for (const std::string& directory : myRequest.templateDirectories)
+        directories.push_back(absolutePath(directory + "/"));
+    std::vector<std::string> places = directories;
+    places.push_back(absolutePath(myRequest.dataDirectory + "templates/"));
+    places.push_back(absolutePath(myRequest.dataDirectory));
+    std::set<std::string> files = myLookedFor;
+    for (const std::string& read : DtReadDataFiles())
+    {
+        const std::string file = absolutePath(read);
+        const auto isIn = [&file](const std::string& place) { return file.compare(0, place.size(), place) == 0; };
+        const auto place = std::find_if(places.begin(), places.end(), isIn);
+        const std::string path = place == places.end() ? std::string() : file.substr(place->size());
+        const std::size_t ahead = std::min<std::size_t>(place - places.begin(), directories.size());
+        for (std::size_t index = 0; index < ahead && !path.empty(); ++index)
+            files.insert(directories[index] + path);
+    }
     return files;
 }

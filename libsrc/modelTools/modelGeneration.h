@@ -55,6 +55,10 @@ public:
     // All files that decided on the output so far, absolute: models, project, configuration, command files, templates.
     std::set<std::string> inputs() const;
 
+    // Files and directories that were looked for in vain, absolute, and templates that would stand in for others: one
+    // that comes may change the output, or give a failed run what it lacked.
+    std::set<std::string> awaited() const;
+
     // The names of the scripts that are there: "cpp", and one for each command file "genXyz.txt".
     static std::vector<std::string> scriptNames(const DtGenerationRequest& request);
     // The command files of these scripts, without their directories.
@@ -71,14 +75,15 @@ private:
     void fillProject();
     static void checkTemplates();
     std::vector<DtFilename> filesToLoad();
+    bool lookFor(const std::string& file);
     // Absolute, but for the standard management model, which is part of the program; empty when it is nowhere.
-    DtFilename findModel(const std::string& name) const;
-    DtFilename findModelOnLine(const std::string& name) const;
-    DtFilename findProjectModel(const DtOmtProject::DtFilePair& model) const;
+    DtFilename findModel(const std::string& name);
+    DtFilename findModelOnLine(const std::string& name);
+    DtFilename findProjectModel(const DtOmtProject::DtFilePair& model);
     [[noreturn]] void failWithoutModel(const std::string& name, const std::string& places) const;
     bool hasSetting(const std::string& key) const;
-    std::string commandFile(const std::string& script) const;
-    std::vector<std::string> commandFiles() const;
+    std::string commandFile(const std::string& script);
+    std::vector<std::string> commandFiles();
 
     DtRunScope myScope;                                 // first, so that it goes last
     const DtRestored<int> myNotifyLevel{DtNotifyLevel}; // which a configuration sets
@@ -88,6 +93,7 @@ private:
     DtLoadedModel myModel;
     std::vector<std::string> myModelFiles;
     std::vector<std::string> myCppFiles;
+    std::set<std::string> myLookedFor; // in vain
 };
 
 #endif

@@ -89,6 +89,56 @@ private Q_SLOTS:
         }
     }
 
+    void fileOfAFolderThatIsMissingEndsTheWait_data()
+    {
+        QTest::addColumn<bool>("isAtOnce");
+        QTest::newRow("moved in with its folders") << true;
+        QTest::newRow("made bit by bit") << false;
+    }
+    void fileOfAFolderThatIsMissingEndsTheWait()
+    {
+        QFETCH(bool, isAtOnce);
+        DtInputWatch watch;
+        watch.add({path("one/two/model.xml").native(), path("more/other.xml").native()});
+        bool isDone = false;
+        writeBytes(path("away/two/model.xml"), "x");
+        if (isAtOnce)
+            QTimer::singleShot(20, this, [this] { std::filesystem::rename(path("away"), path("one")); });
+        else
+        {
+            QTimer::singleShot(20, this, [this] { std::filesystem::create_directory(path("one")); });
+            QTimer::singleShot(300, this, [this] { std::filesystem::create_directory(path("one/two")); });
+            QTimer::singleShot(600, this, [this] { writeBytes(path("one/two/model.xml"), "x"); });
+        }
+        QTimer::singleShot(isAtOnce ? 0 : 500, this, [&] { isDone = true; });
+        watch.waitForChange();
+        QVERIFY(isDone);
+    }
+
+    void busyFolderDoesNotPutTheEndOff()
+    {
+        DtInputWatch watch;
+        watch.add({path("model.xml").native()});
+        QTimer busy;
+        int count = 0;
+        QObject::connect(&busy, &QTimer::timeout, this, [&] { writeBytes(path("busy"), std::to_string(++count)); });
+        QObject::connect(&busy, &QTimer::timeout, this, [&] { std::filesystem::remove(path("busy")); });
+        busy.start(20);
+        QTimer::singleShot(100, this, [this] { writeBytes(path("model.xml"), "newer"); });
+        QElapsedTimer time;
+        time.start();
+        watch.waitForChange();
+        QVERIFY2(time.elapsed() < 5000, qPrintable(QString::number(time.elapsed())));
+        QVERIFY(count > 0);
+    }
+
+    void filesThatAreNotThereAreNotCounted()
+    {
+        DtInputWatch watch;
+        watch.add({path("model.xml").native(), path("gone.xml").native()});
+        QVERIFY(watch.count() == 1);
+    }
+
     void addedFilesAreNotedOnce()
     {
         DtInputWatch watch;

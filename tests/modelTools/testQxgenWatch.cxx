@@ -1,5 +1,7 @@
 // qxgen generate --watch runs again whenever an input changes.
 
+#include "codeGenApp/omtProjectXmlWriter.h"
+#include "fileGenerator/omtProject.h"
 #include "qxgenProgram.h"
 #include "registerTest.h"
 
@@ -66,6 +68,88 @@ private Q_SLOTS:
         replace("models/small.xml", text.replace(text.find("Tanker"), 6, "Ferry"));
         QVERIFY2(comesTrue([this] { return contains(output(), "Ferry"); }), myFolder->errorsSoFar().c_str());
         QCOMPARE(endBy(program, SIGTERM), 143);
+    }
+
+    void whatIsMissingAtTheStartIsAwaited_data()
+    {
+        QTest::addColumn<QByteArray>("missing");
+        QTest::addColumn<QByteArray>("options"); // with bars between
+        const QByteArray usual = "models/small.xml|--script|mine|--template-dir|my";
+        QTest::newRow("model") << QByteArray("models/small.xml") << usual;
+        QTest::newRow("folder of the model") << QByteArray("models") << usual;
+        QTest::newRow("model of a model path")
+            << QByteArray("models") << QByteArray("small.xml|--model-path|models|--script|json");
+        QTest::newRow("project") << QByteArray("port.qxproj") << QByteArray("--project|port.qxproj|--script|json");
+        QTest::newRow("model of a project")
+            << QByteArray("models") << QByteArray("--project|port.qxproj|--script|json");
+        QTest::newRow("script by its name") << QByteArray("my/genMine.txt") << usual;
+        QTest::newRow("script by its path")
+            << QByteArray("my/genMine.txt") << QByteArray("models/small.xml|--script|my/genMine.txt");
+        QTest::newRow("template directory") << QByteArray("my") << usual;
+        QTest::newRow("configuration") << QByteArray("own")
+                                       << QByteArray("models/small.xml|--script|json|--config|own");
+    }
+    void whatIsMissingAtTheStartIsAwaited()
+    {
+        QFETCH(QByteArray, missing);
+        QFETCH(QByteArray, options);
+        myFolder->write("own", readBytes(QX_SOURCE_DIR "/data/config/codeGenConfig.xml"));
+        DtOmtProject project;
+        project.addFomDefFile("small.xml", "models");
+        project.addObject("HLAobjectRoot.Barge", true, "Vessel");
+        DtOmtProjectXmlWriter(project, DtFilename(DtString(myFolder->path("port.qxproj").native()))).writeXml();
+        const std::filesystem::path place = myFolder->path(missing.toStdString());
+        std::filesystem::rename(place, myFolder->path("away"));
+        DtArguments arguments = {"-o", "out", "--watch"};
+        for (const QByteArray& each : options.split('|'))
+            arguments.push_back(each.toStdString());
+        const pid_t program = myFolder->startGenerate(arguments);
+        QVERIFY2(comesTrue([this] { return isWatching(1); }), myFolder->errorsSoFar().c_str());
+        COMPARE_TEXT(output(), "");
+        std::filesystem::rename(myFolder->path("away"), place);
+        const bool isSeen = comesTrue([this] { return contains(output(), "Barge"); });
+        QCOMPARE(endBy(program, SIGINT), 130);
+        QVERIFY2(isSeen, myFolder->errorsSoFar().c_str());
+    }
+
+    void newFileThatStandsInForAShippedOneIsSeen_data()
+    {
+        QTest::addColumn<QByteArray>("file");
+        QTest::newRow("in the first directory") << QByteArray("first/json/model.tlt");
+        QTest::newRow("ahead of that of another directory") << QByteArray("my/json/model.tlt");
+    }
+    void newFileThatStandsInForAShippedOneIsSeen()
+    {
+        QFETCH(QByteArray, file);
+        std::filesystem::create_directories(myFolder->path("first"));
+        if (file.startsWith("my"))
+            std::filesystem::remove(myFolder->path("my/json/model.tlt"));
+        const pid_t program = myFolder->startGenerate({"models/small.xml", "-o", "out", "--watch", "--script", "json",
+                                                       "--template-dir", "first", "--template-dir", "my"});
+        QVERIFY2(comesTrue([this] { return isWatching(1); }), myFolder->errorsSoFar().c_str());
+        myFolder->write("new", "{ \"mine\": 1 }\n");
+        std::filesystem::create_directories(myFolder->path(file.toStdString()).parent_path());
+        std::filesystem::rename(myFolder->path("new"), myFolder->path(file.toStdString()));
+        const bool isSeen = comesTrue([this] { return contains(output(), "mine"); });
+        QCOMPARE(endBy(program, SIGINT), 130);
+        QVERIFY2(isSeen, myFolder->errorsSoFar().c_str());
+    }
+
+    void watchingIsNotToldToWhoWantsErrorsOnly()
+    {
+        const pid_t program =
+            myFolder->startGenerate({"models/small.xml", "-o", "out", "--watch", "-q", "--script", "json"});
+        QVERIFY(comesTrue([this] { return !output().empty(); }));
+        std::string text = smallModel();
+        text.replace(text.find("Tanker"), 6, "Ferry");
+        for (int tries = 0; tries < 60 && !contains(output(), "Ferry"); ++tries)
+        {
+            replace("models/small.xml", text); // once more for a program that was not watching yet
+            std::this_thread::sleep_for(std::chrono::seconds(1));
+        }
+        QVERIFY(contains(output(), "Ferry"));
+        QCOMPARE(endBy(program, SIGINT), 130);
+        COMPARE_TEXT(myFolder->errorsSoFar(), "");
     }
 
     void folderMayHaveAnyName_data()

@@ -3,6 +3,7 @@
 #include "fileGenerator/dataFile.h"
 #include "modelTools/nearNames.h"
 #include "modelTools/toolFailure.h"
+#include "modelTools/toolRules.h"
 
 #include <algorithm>
 #include <filesystem>
@@ -112,7 +113,7 @@ void DtCommandFileLint::checkLine(const std::string& line)
     myPlace.column = static_cast<unsigned int>(start == std::string::npos ? 1 : start + 1);
     if (line.size() > theLineLimit)
         fault("the line has " + std::to_string(line.size()) + " bytes, and what is behind 499 is taken for a line.",
-              "template-line-length");
+              DtToolRules::templateLineLength);
     if (start == std::string::npos || line[start] == '#')
         return;
     checkCommand(line.substr(start, line.find_last_not_of('\r') + 1 - start), start);
@@ -125,20 +126,20 @@ void DtCommandFileLint::checkCommand(const std::string& line, std::size_t start)
     if (name == theTypeCommand)
     {
         if (!isTypeCommand(line))
-            fault("setDatatype needs a name and a type, both in double quotes.", "template-command");
+            fault("setDatatype needs a name and a type, both in double quotes.", DtToolRules::templateCommand);
         return;
     }
     const auto* const row = std::find_if(std::begin(theCommands), std::end(theCommands),
                                          [&name](const DtCommandRow& each) { return name == each.name; });
     if (row == std::end(theCommands))
-        return fault("there is no command " + name + "." + commandHint(name), "template-command");
+        return fault("there is no command " + name + "." + commandHint(name), DtToolRules::templateCommand);
     const Words words = wordsOf(line);
     if (words.size() <= row->least)
         return fault(name + " needs " + std::to_string(row->least) + (row->least == 1 ? " word." : " words."),
-                     "template-command");
+                     DtToolRules::templateCommand);
     if (words.size() - 1 > row->most)
         fault(name + " takes no more than " + std::to_string(row->most) + " words; the rest is passed over.",
-              "template-command", DtSeverity::Warning);
+              DtToolRules::templateCommand, DtSeverity::Warning);
     if (name == "templateDir")
         myTemplateDirectory = "../data/" + words[1];
     else if (name == "file")
@@ -150,10 +151,10 @@ void DtCommandFileLint::checkCommand(const std::string& line, std::size_t start)
 void DtCommandFileLint::noteTemplate(const Words& words)
 {
     if (myTemplateDirectory.empty())
-        return fault("no templateDir stands ahead of this.", "template-command");
+        return fault("no templateDir stands ahead of this.", DtToolRules::templateCommand);
     const std::string path = myTemplateDirectory + "/" + words[2];
     if (!isFile(placeOf(path)))
-        return fault("no such file: " + path, "template-file");
+        return fault("no such file: " + path, DtToolRules::templateFile);
     const bool hasContext = words.size() > 3 && words[3].front() != '~';
     myTemplates.push_back({path, hasContext ? words[3] : ""});
 }
@@ -162,19 +163,19 @@ void DtCommandFileLint::include(const std::string& path)
 {
     const std::string file = placeOf(path);
     if (std::find(myOpenFiles.begin(), myOpenFiles.end(), file) != myOpenFiles.end())
-        fault("a command file that includes itself: " + path, "template-cycle");
+        fault("a command file that includes itself: " + path, DtToolRules::templateCycle);
     else if (!isFile(file))
-        fault("no such file: " + path, "template-file");
+        fault("no such file: " + path, DtToolRules::templateFile);
     else if (std::find(myFiles.begin(), myFiles.end(), file) == myFiles.end()) // else it is checked already
         check(file);
 }
 
-void DtCommandFileLint::fault(const std::string& text, const char* rule, DtSeverity severity)
+void DtCommandFileLint::fault(const std::string& text, const DtWarningRule& rule, DtSeverity severity)
 {
     DtDiagnostic diagnostic;
     diagnostic.severity = severity;
     diagnostic.place = myPlace;
     diagnostic.text = text;
-    diagnostic.rule = rule;
+    diagnostic.rule = rule.id;
     myFaults.push_back(diagnostic);
 }

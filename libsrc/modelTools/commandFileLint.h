@@ -34,7 +34,7 @@ private:
     void checkCommand(const std::string& line, std::size_t start);
     void noteTemplate(const Words& words);
     void include(const std::string& path);
-    void fault(const std::string& text, const char* rule, DtSeverity severity = DtSeverity::Error);
+    void fault(const std::string& text, const DtWarningRule& rule, DtSeverity severity = DtSeverity::Error);
 
     std::vector<DtDiagnostic> myFaults;
     std::vector<DtOpenedTemplate> myTemplates;

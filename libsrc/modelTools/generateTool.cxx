@@ -15,6 +15,7 @@
 #include "modelTools/signalHold.h"
 #include "modelTools/steadyTime.h"
 #include "modelTools/terminalProgress.h"
+#include "modelTools/toolRules.h"
 
 #include <algorithm>
 #include <cerrno>
@@ -43,13 +44,14 @@ bool isList(const std::string& path)
     return name == "Files-cc.txt" || name == "Files-h.txt";
 }
 
-DtDiagnostic diagnosticAt(const std::string& path, DtSeverity severity, const std::string& text, const char* rule)
+DtDiagnostic diagnosticAt(const std::string& path, DtSeverity severity, const std::string& text,
+                          const DtWarningRule& rule)
 {
     DtDiagnostic diagnostic;
     diagnostic.severity = severity;
     diagnostic.place.file = path;
     diagnostic.text = text;
-    diagnostic.rule = rule;
+    diagnostic.rule = rule.id;
     return diagnostic;
 }
 
@@ -103,7 +105,7 @@ DtExitCode DtGenerateTool::runCompared(DtDiagnostics& diagnostics)
     if (myOptions.use != DtOutputUse::List && DtOutputRecovery::isNeeded(directory))
         diagnostics.add(diagnosticAt(directory.string(), DtSeverity::Note,
                                      "an earlier run was cut off here; the next one that writes finishes it",
-                                     "recovery"));
+                                     DtToolRules::recovery));
     DtOutputStage stage(directory, DtProgramVersion());
     return runInto(stage, diagnostics);
 }
@@ -117,7 +119,7 @@ DtExitCode DtGenerateTool::runLocked(DtDiagnostics& diagnostics)
     for (const DtOutputChange& change : recovery.changes())
         addNotice(change, diagnostics);
     for (const std::string& notice : recovery.notices())
-        diagnostics.add(diagnosticAt("", DtSeverity::Warning, notice, "recovery"));
+        diagnostics.add(diagnosticAt("", DtSeverity::Warning, notice, DtToolRules::recovery));
     DtOutputStage stage(*lock, DtProgramVersion());
     return runInto(stage, diagnostics);
 }
@@ -265,13 +267,13 @@ void DtGenerateTool::checkOutput(const DtOutputStage& stage, DtDiagnostics& diag
     const auto search = [&tokens](const std::string&, const std::string& text) { return tokens.find(text); };
     for (const DtOutputProblem& problem : stage.check(search, listed))
         if (problem.kind != DtProblemKind::EmptyFile || !isList(problem.path))
-            diagnostics.add(diagnosticAt(problem.path, DtSeverity::Error, problem.text(), "output-check"));
+            diagnostics.add(diagnosticAt(problem.path, DtSeverity::Error, problem.text(), DtToolRules::outputCheck));
     if (listed.empty())
         return;
     const std::set<std::string> names(listed.begin(), listed.end());
     for (const std::string& file : DtOutputsToList(myCppFiles, paths))
         if (names.count(file) == 0)
-            diagnostics.add(diagnosticAt(file, DtSeverity::Error, "is in no list of files", "output-check"));
+            diagnostics.add(diagnosticAt(file, DtSeverity::Error, "is in no list of files", DtToolRules::outputCheck));
 }
 
 // The files beside the output must be neither inputs nor output, nor one another.
@@ -295,7 +297,7 @@ void DtGenerateTool::checkTargets(const DtOutputStage& stage) const
 void DtGenerateTool::findEdits(DtOutputStage& stage, DtDiagnostics& diagnostics) const
 {
     if (!stage.manifestDamage().empty())
-        diagnostics.add(diagnosticAt("", DtSeverity::Warning, stage.manifestDamage(), "manifest-damaged"));
+        diagnostics.add(diagnosticAt("", DtSeverity::Warning, stage.manifestDamage(), DtToolRules::manifestDamaged));
     std::set<std::string> inputs;
     for (const std::string& input : myInputs)
         inputs.insert(realPath(input));
@@ -312,7 +314,7 @@ void DtGenerateTool::addNotice(const DtOutputChange& change, DtDiagnostics& diag
 {
     const std::string path = (fs::path(myOptions.outputDirectory) / change.path).string();
     if (*change.notice() != '\0')
-        diagnostics.add(diagnosticAt(path, DtSeverity::Warning, change.notice(), "edited-by-hand"));
+        diagnostics.add(diagnosticAt(path, DtSeverity::Warning, change.notice(), DtToolRules::editedByHand));
 }
 
 DtExitCode DtGenerateTool::listFiles(const DtOutputStage& stage) const

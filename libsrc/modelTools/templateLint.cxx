@@ -8,6 +8,7 @@
 #include "modelTools/nearNames.h"
 #include "modelTools/templateScanner.h"
 #include "modelTools/toolFailure.h"
+#include "modelTools/toolRules.h"
 
 #include <algorithm>
 #include <cstdio>
@@ -62,13 +63,13 @@ std::string findTemplate(const std::string& path)
     return isFile(file) ? file : std::string();
 }
 
-DtDiagnostic finding(DtSeverity severity, const DtPlace& place, const std::string& text, const char* rule)
+DtDiagnostic finding(DtSeverity severity, const DtPlace& place, const std::string& text, const DtWarningRule& rule)
 {
     DtDiagnostic diagnostic;
     diagnostic.severity = severity;
     diagnostic.place = place;
     diagnostic.text = text;
-    diagnostic.rule = rule;
+    diagnostic.rule = rule.id;
     return diagnostic;
 }
 
@@ -202,14 +203,14 @@ void DtTemplateLint::checkOwnTexts()
                             {file, place.line, static_cast<unsigned int>(theLineLimit + 1)},
                             "the line has " + std::to_string(line.size()) +
                                 " bytes, and what stands across the end of a piece of 299 is not recognised",
-                            "template-line-length"));
+                            DtToolRules::templateLineLength));
             const std::size_t carriageReturn = line.find('\r');
             if (carriageReturn == std::string::npos || hasCarriageReturn)
                 continue;
             hasCarriageReturn = true;
             place.column = static_cast<unsigned int>(carriageReturn + 1);
             add(finding(DtSeverity::Warning, place, "carriage returns come out as they stand",
-                        "template-carriage-return"));
+                        DtToolRules::templateCarriageReturn));
         }
     }
 }
@@ -226,7 +227,7 @@ void DtTemplateLint::tellUnopened()
         if (endsWith(name, theExtension) && myOpened.count(file) == 0)
             add(finding(DtSeverity::Warning, {file, 0, 0},
                         "no writer and no command file opens this template." + DtNearNamesHint(name, shipped),
-                        "template-unopened"));
+                        DtToolRules::templateUnopened));
     }
 }
 

@@ -1,6 +1,7 @@
 #include "modelTools/templateScanner.h"
 
 #include "modelTools/nearNames.h"
+#include "modelTools/toolRules.h"
 
 #include <algorithm>
 #include <cctype>
@@ -67,19 +68,19 @@ const std::vector<DtDiagnostic>& DtTemplateScanner::scan(const std::string& file
     const Source outerSource = std::exchange(mySource, Source{file, text, 0});
     myOpenFiles.push_back(file);
     if (isNext("|"))
-        fault("a bar at the very start is plain text", "template-bar", DtSeverity::Warning);
+        fault("a bar at the very start is plain text", DtToolRules::templateBar, DtSeverity::Warning);
     while (mySource.at < mySource.text.size())
         step();
     for (; myOpen.size() > myOuter; myOpen.pop_back())
         faultAt(myOpen.back().at, "the block is not closed: " + myOpen.back().kind + myOpen.back().loop,
-                "template-block");
+                DtRules::templateBlock);
     myOpenFiles.pop_back();
     mySource = outerSource;
     myOuter = outer;
     return myFaults;
 }
 
-void DtTemplateScanner::faultAt(std::size_t at, const std::string& text, const char* rule, DtSeverity severity)
+void DtTemplateScanner::faultAt(std::size_t at, const std::string& text, const DtWarningRule& rule, DtSeverity severity)
 {
     const std::string& source = mySource.text;
     const std::size_t lineFeed = at > 0 ? source.rfind('\n', at - 1) : nowhere;
@@ -90,11 +91,11 @@ void DtTemplateScanner::faultAt(std::size_t at, const std::string& text, const c
         1 + std::count(source.begin(), source.begin() + static_cast<std::ptrdiff_t>(at), '\n'));
     diagnostic.place.column = static_cast<unsigned int>(lineFeed == nowhere ? at + 1 : at - lineFeed);
     diagnostic.text = text;
-    diagnostic.rule = rule;
+    diagnostic.rule = rule.id;
     myFaults.push_back(diagnostic);
 }
 
-void DtTemplateScanner::fault(const std::string& text, const char* rule, DtSeverity severity)
+void DtTemplateScanner::fault(const std::string& text, const DtWarningRule& rule, DtSeverity severity)
 {
     faultAt(mySource.at, text, rule, severity);
 }
@@ -113,7 +114,7 @@ void DtTemplateScanner::step()
     else
     {
         if (isNext("#>") || isNext("?>"))
-            fault("the end of a file block stands alone", "template-block");
+            fault("the end of a file block stands alone", DtRules::templateBlock);
         ++mySource.at;
     }
 }
@@ -126,7 +127,7 @@ void DtTemplateScanner::takeToken()
     if (!isTokenForm(token))
     {
         const bool isMarkup = token.find_first_of("<\n", 1) != nowhere || token.empty();
-        fault("no token follows <!", "template-token", isMarkup ? DtSeverity::Warning : DtSeverity::Error);
+        fault("no token follows <!", DtToolRules::templateToken, isMarkup ? DtSeverity::Warning : DtSeverity::Error);
         mySource.at += 2;
         return;
     }
@@ -137,12 +138,13 @@ void DtTemplateScanner::takeToken()
 void DtTemplateScanner::checkToken(const std::string& token)
 {
     if (!myRules.knows(token))
-        return fault("the writer does not know " + token + hint(token, myRules.allTokens()), "template-token");
+        return fault("the writer does not know " + token + hint(token, myRules.allTokens()),
+                     DtToolRules::templateToken);
     bool isSet = myRules.freeTokens.count(token) > 0;
     for (const Block& block : myOpen)
         isSet = isSet || (!block.loop.empty() && myRules.loops.at(block.loop).count(token) > 0);
     if (!isSet)
-        fault(token + " has no value outside of its loop", "template-token-place");
+        fault(token + " has no value outside of its loop", DtToolRules::templateTokenPlace);
 }
 
 void DtTemplateScanner::takeBlock(const std::string& kind)
@@ -152,7 +154,7 @@ void DtTemplateScanner::takeBlock(const std::string& kind)
     const std::size_t end = headerEnd(kind[1]);
     if (end == nowhere)
     {
-        fault("the header has no end", "template-block");
+        fault("the header has no end", DtRules::templateBlock);
         mySource.at = mySource.text.size();
         return;
     }
@@ -172,7 +174,7 @@ void DtTemplateScanner::takeBlock(const std::string& kind)
 void DtTemplateScanner::closeBlock(const std::string& kind)
 {
     if (myOpen.size() == myOuter || myOpen.back().kind != kind)
-        fault(kind + "> closes no block", "template-block");
+        fault(kind + "> closes no block", DtRules::templateBlock);
     else
         myOpen.pop_back();
     mySource.at += 3;
@@ -195,7 +197,7 @@ std::size_t DtTemplateScanner::headerEnd(char delimiter) const
 void DtTemplateScanner::openBlock(const Block& block)
 {
     if (isNext("|"))
-        fault("a bar behind a header is plain text", "template-bar", DtSeverity::Warning);
+        fault("a bar behind a header is plain text", DtToolRules::templateBar, DtSeverity::Warning);
     myOpen.push_back(block);
 }
 
@@ -203,13 +205,13 @@ void DtTemplateScanner::takeFile(const Block& block, char delimiter)
 {
     const std::size_t end = mySource.text.find(delimiter, mySource.at);
     if (end == nowhere || mySource.text.compare(end + 1, 1, ">") != 0)
-        return fault("the path of a file block has no end", "template-block");
+        return fault("the path of a file block has no end", DtRules::templateBlock);
     const std::string path = mySource.text.substr(mySource.at, end - mySource.at);
     const std::string file = myFinder(path);
     if (file.empty())
-        fault("no such file: " + path, "template-file");
+        fault("no such file: " + path, DtToolRules::templateFile);
     else if (std::find(myOpenFiles.begin(), myOpenFiles.end(), file) != myOpenFiles.end())
-        fault("a file that includes itself: " + path, "template-cycle");
+        fault("a file that includes itself: " + path, DtToolRules::templateCycle);
     else
         include(block, path, file);
     mySource.at = end + 2;
@@ -231,14 +233,15 @@ std::string DtTemplateScanner::checkLoop(const std::string& header)
         return std::string();
     if (myRules.loops.count(header) == 0)
     {
-        fault("the writer does not know the loop " + header + hint(header, myRules.loopNames()), "template-loop");
+        fault("the writer does not know the loop " + header + hint(header, myRules.loopNames()),
+              DtToolRules::templateLoop);
         return std::string();
     }
     if (isInside(header))
-        fault("the loop stands inside itself: " + header, "template-loop");
+        fault("the loop stands inside itself: " + header, DtToolRules::templateLoop);
     const auto parent = myRules.parents.find(header);
     if (parent != myRules.parents.end() && !isInside(parent->second))
-        fault(header + " stands outside of " + parent->second, "template-loop");
+        fault(header + " stands outside of " + parent->second, DtToolRules::templateLoop);
     return header;
 }
 
@@ -254,11 +257,11 @@ void DtTemplateScanner::checkCondition(const std::string& header)
     const std::vector<std::string> words = wordsOf(header);
     const auto verb = theOperandCounts.find(header.substr(0, header.find(' ')));
     if (verb == theOperandCounts.end())
-        fault("the writer does not know the verb in: " + header, "template-condition");
+        fault("the writer does not know the verb in: " + header, DtToolRules::templateCondition);
     else if (words.size() != 1 + verb->second)
-        fault("the number of operands is wrong in: " + header, "template-condition");
+        fault("the number of operands is wrong in: " + header, DtToolRules::templateCondition);
     else if (verb->second == 1 && theNeverMissing.count(words[1]) > 0)
-        fault(words[1] + " is never missing", "template-condition", DtSeverity::Warning);
+        fault(words[1] + " is never missing", DtToolRules::templateCondition, DtSeverity::Warning);
     checkTokensOf(header);
 }
 
@@ -268,7 +271,7 @@ void DtTemplateScanner::checkTokensOf(const std::string& header)
     {
         const std::size_t end = header.find("!>", at + 2);
         if (end == nowhere)
-            return fault("no token follows <! in: " + header, "template-token");
+            return fault("no token follows <! in: " + header, DtToolRules::templateToken);
         checkToken(header.substr(at, end + 2 - at));
         at = end + 2;
     }

@@ -44,8 +44,9 @@ private:
         std::size_t at = 0;
     };
 
-    void faultAt(std::size_t at, const std::string& text, const char* rule, DtSeverity severity = DtSeverity::Error);
-    void fault(const std::string& text, const char* rule, DtSeverity severity = DtSeverity::Error);
+    void faultAt(std::size_t at, const std::string& text, const DtWarningRule& rule,
+                 DtSeverity severity = DtSeverity::Error);
+    void fault(const std::string& text, const DtWarningRule& rule, DtSeverity severity = DtSeverity::Error);
     bool isNext(const char* text) const;
     void step();
     void takeToken();

@@ -129,8 +129,16 @@ function(_qx_choose_directory)
     set(qx_output "${directory}" PARENT_SCOPE)
 endfunction()
 
-# Lines that begin with blanks stay as they are in a message.
-function(_qx_fail_by_qxgen errors)
+# Once more for all that qxgen has to say: what is wrong in a model may stand in warnings ahead of the error. Lines that
+# begin with blanks stay as they are in a message.
+function(_qx_fail_by_qxgen)
+    execute_process(
+        COMMAND "${qx_qxgen}" generate "@${qx_private}/arguments" --list
+        WORKING_DIRECTORY "${CMAKE_CURRENT_SOURCE_DIR}"
+        OUTPUT_QUIET ERROR_VARIABLE errors RESULT_VARIABLE code)
+    if("${errors}" STREQUAL "")
+        set(errors "${qx_qxgen} ends with ${code}.")
+    endif()
     string(REGEX REPLACE "\n+$" "" errors "${errors}")
     string(REPLACE "\n" "\n    " errors "${errors}")
     _qx_fail("the models give no list of files:\n    ${errors}")
@@ -142,12 +150,9 @@ function(_qx_list_outputs)
     execute_process(
         COMMAND "${qx_qxgen}" generate "@${qx_private}/arguments" --list --quiet "--report=${qx_private}/list.json"
         WORKING_DIRECTORY "${CMAKE_CURRENT_SOURCE_DIR}"
-        OUTPUT_VARIABLE list ERROR_VARIABLE errors RESULT_VARIABLE code)
+        OUTPUT_VARIABLE list ERROR_QUIET RESULT_VARIABLE code)
     if(NOT code EQUAL 0)
-        if("${errors}" STREQUAL "")
-            set(errors "${qx_qxgen} ends with ${code}.")
-        endif()
-        _qx_fail_by_qxgen("${errors}")
+        _qx_fail_by_qxgen()
     endif()
     _qx_write_if_different("${qx_private}/list" "${list}")
     string(REGEX REPLACE "\n$" "" list "${list}")
@@ -292,7 +297,8 @@ function(qx_generate_cpp)
     _qx_find_include_directories()
     _qx_sort_sources()
     if(qx_OUT_VAR)
-        set(${qx_OUT_VAR} ${qx_hla_sources} ${qx_headers} PARENT_SCOPE)
+        # The stamp is an output, so that whoever takes the list waits for the headers, too.
+        set(${qx_OUT_VAR} ${qx_hla_sources} ${qx_headers} "${qx_private}/stamp" PARENT_SCOPE)
         set(${qx_OUT_VAR}_INCLUDE_DIRS ${qx_includes} PARENT_SCOPE)
         return()
     endif()

@@ -259,7 +259,8 @@ function(_qx_add_library name)
     target_include_directories(${name} PUBLIC ${includes})
     target_link_libraries(${name} PUBLIC ${qx_toolkit})
     target_compile_features(${name} PUBLIC cxx_std_11)
-    set_target_properties(${name} PROPERTIES LINKER_LANGUAGE CXX UNITY_BUILD OFF)
+    set_target_properties(${name} PROPERTIES LINKER_LANGUAGE CXX UNITY_BUILD OFF
+        AUTOMOC OFF AUTOUIC OFF AUTORCC OFF)
 endfunction()
 
 # talk and listen of each class, which are built by a target of their own only.
@@ -269,7 +270,7 @@ function(_qx_add_examples)
         if(file MATCHES "^Examples/([^/]+)/(talk|listen)\\.cxx$")
             set(program ${qx_TARGET}_${CMAKE_MATCH_1}_${CMAKE_MATCH_2})
             add_executable(${program} EXCLUDE_FROM_ALL "${qx_output}/${file}")
-            set_target_properties(${program} PROPERTIES
+            set_target_properties(${program} PROPERTIES AUTOMOC OFF AUTOUIC OFF AUTORCC OFF
                 OUTPUT_NAME ${CMAKE_MATCH_2} RUNTIME_OUTPUT_DIRECTORY "${qx_private}/examples/${CMAKE_MATCH_1}")
             target_link_libraries(${program} PRIVATE ${qx_TARGET})
             list(APPEND programs ${program})

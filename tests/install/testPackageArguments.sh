@@ -170,6 +170,28 @@ prefix=$here
 configure "${cross[@]}" -DQX_DIR=
 holds standInOfThisMachineIsNotForAnother "There is no toolkit to compile against." "$log"
 
+# What the generator is told when it runs; projects with Qt set AUTOMOC for all targets.
+new_project told <<'END'
+set(CMAKE_AUTOMOC ON)
+qx_generate_cpp(TARGET lax MODELS "a%b.xml" TEMPLATE_DIRS own)
+qx_generate_cpp(TARGET strict MODELS "a%b.xml" WERROR)
+END
+write_model "a%b.xml" Buoy
+mkdir own
+must_configure warningsConfigure
+holds_not librariesNeedNoQt AUTOMOC "$log"
+must_build warningsAreNoErrors --target lax_qxgen
+holds warningsAreShown "[no-identifier]" "$log"
+build --target strict_qxgen
+check warningsAreErrorsWhenThatIsWanted test "$status" != 0
+check nothingIsWrittenThen test ! -e build/strict_qxgen/generated/dllExport.h
+sed 's,^#endif$,// Of my own.\n&,' "$1/data/templates/dllExport.tlt" >own/dllExport.tlt
+must_build newTemplateIsTaken --target lax_qxgen
+holds newTemplateShows "Of my own." "$(cat build/lax_qxgen/generated/dllExport.h)"
+rm own/dllExport.tlt
+must_build removedTemplateIsNoFault --target lax_qxgen
+holds_not removedTemplateIsGone "Of my own." "$(cat build/lax_qxgen/generated/dllExport.h)"
+
 # Names with blanks and marks, by either build tool; the second build has nothing to do.
 odd="it is (1) ä,b=c@d"
 for generator in Ninja "Unix Makefiles"; do

@@ -1,17 +1,21 @@
 // Measures what loading a model and generating from it cost, without the splash of the program.
 //
-//   generationBench [--rounds N] DIRECTORY MODEL...       model files, merged in this order
-//   generationBench [--rounds N] DIRECTORY --classes N    a model of N classes made up here
-//   generationBench [--rounds N] --load DIRECTORY MODEL   loading alone, from the file to the filled lists
+//   generationBench [options] DIRECTORY MODEL...      model files, merged in this order
+//   generationBench [options] DIRECTORY --count N     a model of N classes made up here
 //
-// Works in a new folder below DIRECTORY, best on a memory file system, and removes it. Each round generates into an
-// empty directory and then copies the result with "cp -r". Prints files, bytes, processor seconds (user and system, of
-// this process from before the models are loaded to behind generation; of the copy as a child process), their medians
-// and ratio, and the peak memory of the first round.
+// benchOptions.cxx lists the options. Works in a new folder below DIRECTORY, best on a memory file system, and removes
+// it. Each round generates into an empty directory and then copies the result with "cp -r". Prints files, bytes,
+// processor seconds (user and system, of this process from before the models are loaded to behind generation; of the
+// copy as a child process), their medians and ratio, and the peak memory of the first round. With --again each round
+// generates a second time into the same directory, and the ratio of the two runs is printed. With --load nothing is
+// generated: the time by the clock from the files to the filled lists is printed beside that of a bare parse of the
+// same files by the XML library with a walk over all nodes.
 
+#include "benchOptions.h"
 #include "codeGenApp/codeGenAppGui.h"
 #include "codeGenApp/codeGenInitializer.h"
 #include "foundation/outputStream.h"
+#include "processCost.h"
 
 #include <QtCore/QDir>
 #include <QtCore/QDirIterator>
@@ -19,142 +23,39 @@
 #include <QtCore/QTemporaryDir>
 #include <QtWidgets/QApplication>
 
-#include <sys/resource.h>
-#include <sys/wait.h>
-#include <unistd.h>
+#include <libxml/parser.h>
 
-#include <algorithm>
 #include <cstdio>
-#include <cstdlib>
 #include <string>
 #include <vector>
 
 namespace
 {
-struct DtCost
-{
-    double user = 0;
-    double system = 0;
-    double total() const { return user + system; }
-};
-
-double seconds(const timeval& time)
-{
-    return static_cast<double>(time.tv_sec) + static_cast<double>(time.tv_usec) / 1e6;
-}
-
-DtCost usage(int who)
-{
-    rusage used = {};
-    getrusage(who, &used);
-    return {seconds(used.ru_utime), seconds(used.ru_stime)};
-}
-
-DtCost operator-(const DtCost& left, const DtCost& right)
-{
-    return {left.user - right.user, left.system - right.system};
-}
-
-double median(std::vector<double> values)
-{
-    std::sort(values.begin(), values.end());
-    return values[values.size() / 2];
-}
-
-double peakMegabytes()
-{
-    rusage used = {};
-    getrusage(RUSAGE_SELF, &used);
-    return static_cast<double>(used.ru_maxrss) / 1024;
-}
-
-// Folders of ten classes below the root; every class has two attributes of a simple type.
-std::string syntheticModel(int classes)
-{
-    std::string text = "<objectModel xmlns=\"http://standards.ieee.org/IEEE1516-2010\">"
-                       "<modelIdentification><name>Synthetic</name></modelIdentification>"
-                       "<objects><objectClass><name>HLAobjectRoot</name>";
-    for (int index = 0; index < classes; ++index)
-    {
-        const std::string number = std::to_string(index);
-        text += "<objectClass><name>Class" + number + "</name>";
-        for (const char* name : {"First", "Second"})
-            text += std::string("<attribute><name>") + name + number + "</name><dataType>Size</dataType></attribute>";
-        if (index % 10 == 9 || index == classes - 1)
-            for (int depth = 0; depth <= index % 10; ++depth)
-                text += "</objectClass>";
-    }
-    text += "</objectClass></objects><dataTypes><basicDataRepresentations/><simpleDataTypes><simpleData>"
-            "<name>Size</name><representation>HLAfloat64BE</representation></simpleData></simpleDataTypes>"
-            "</dataTypes></objectModel>";
-    return text;
-}
-
-struct DtOptions
-{
-    int rounds = 9;
-    int classes = 0;
-    bool onlyLoads = false;
-    QString directory;
-    std::vector<DtCodeGenAppGui::DtModelFile> models;
-};
-
-DtOptions readOptions(const QStringList& arguments)
-{
-    DtOptions options;
-    for (int index = 1; index < arguments.size(); ++index)
-    {
-        const QString& argument = arguments[index];
-        if (argument == QStringLiteral("--rounds") && index + 1 < arguments.size())
-            options.rounds = arguments[++index].toInt();
-        else if (argument == QStringLiteral("--classes") && index + 1 < arguments.size())
-            options.classes = arguments[++index].toInt();
-        else if (argument == QStringLiteral("--load"))
-            options.onlyLoads = true;
-        else if (options.directory.isEmpty())
-            options.directory = argument;
-        else
-            options.models.emplace_back(QDir().absoluteFilePath(argument).toUtf8().constData(), "");
-    }
-    if (options.directory.isEmpty() || options.rounds < 1 || (options.models.empty() && options.classes < 1))
-    {
-        std::fprintf(stderr, "usage: generationBench [--rounds N] [--load] DIRECTORY (MODEL... | --classes N)\n");
-        std::exit(2);
-    }
-    return options;
-}
-
-int run(const char* program, const QStringList& arguments)
-{
-    std::vector<QByteArray> texts{program};
-    for (const QString& argument : arguments)
-        texts.push_back(argument.toUtf8());
-    std::vector<char*> pointers;
-    for (QByteArray& text : texts)
-        pointers.push_back(text.data());
-    pointers.push_back(nullptr);
-    const pid_t child = fork();
-    if (child == 0)
-    {
-        execvp(program, pointers.data());
-        _exit(127);
-    }
-    int status = 0;
-    waitpid(child, &status, 0);
-    return status;
-}
-
 // A scratch installation: the program's data, and a sibling of it to work in.
-void enterScratch(const QString& scratch)
+void enterScratch(const QString& scratch, const QString& data)
 {
-    const QString data = QStringLiteral(QX_SOURCE_DIR "/data");
-    if (run("cp", {QStringLiteral("-r"), data, scratch + "/data"}) != 0 || !QDir(scratch).mkdir(QStringLiteral("bin")))
+    if (runProgram("cp", {QStringLiteral("-r"), data, scratch + "/data"}) != 0 ||
+        !QDir(scratch).mkdir(QStringLiteral("bin")))
         qFatal("cannot set up %s", qPrintable(scratch));
     QFile::remove(scratch + "/data/config/customCodeGenConfig.xml");
     QDir::setCurrent(scratch + "/bin");
 }
 
-void load(DtCodeGenAppGui& window, const DtOptions& options)
+DtCodeGenInitializer configuration(const DtBenchOptions& options)
+{
+    DtCodeGenInitializer initializer;
+    initializer.parseConfigFile("../data/config/codeGenConfig.xml");
+    initializer.setGenerateExamples(options.generatesExamples);
+    initializer.setGenerateDis(options.generatesDis);
+    initializer.setIncludeStandardMIM(options.includesMim);
+    std::map<DtString, bool> scripts;
+    for (const QString& script : options.scripts)
+        scripts[script.toUtf8().constData()] = true;
+    initializer.setScriptMap(scripts);
+    return initializer;
+}
+
+void load(DtCodeGenAppGui& window, const DtBenchOptions& options)
 {
     const int isLoaded = options.models.size() == 1 ? window.loadFile(options.models.front().first, "")
                                                     : window.loadFiles(options.models);
@@ -162,38 +63,77 @@ void load(DtCodeGenAppGui& window, const DtOptions& options)
         qFatal("the models could not be loaded");
 }
 
-// Prints the time by the clock of every round, in milliseconds.
-void measureLoading(QApplication& application, const DtOptions& options)
+// Milliseconds by the clock that the work takes.
+template <typename Work>
+double milliseconds(Work work)
 {
-    std::vector<double> times;
-    for (int round = 0; round < options.rounds; ++round)
-    {
-        DtCodeGenInitializer initializer;
-        initializer.parseConfigFile("../data/config/codeGenConfig.xml");
-        DtCodeGenAppGui window(initializer, &application, nullptr);
-        window.setUnattended(true);
-        QElapsedTimer clock;
-        clock.start();
-        load(window, options);
-        times.push_back(static_cast<double>(clock.nsecsElapsed()) / 1e6);
-        std::printf("round %d: load %.1f ms\n", round + 1, times.back());
-    }
-    std::printf("median load %.1f ms\n", median(times));
+    QElapsedTimer clock;
+    clock.start();
+    work();
+    return static_cast<double>(clock.nsecsElapsed()) / 1e6;
 }
 
-DtCost generate(QApplication& application, const DtOptions& options, const QString& scratch, const QString& output)
+std::size_t countNodes(const xmlNode* first)
 {
-    DtCodeGenInitializer initializer;
-    initializer.parseConfigFile("../data/config/codeGenConfig.xml");
+    std::size_t count = 0;
+    for (const xmlNode* node = first; node != nullptr; node = node->next)
+        count += 1 + countNodes(node->children);
+    return count;
+}
+
+void parseAndWalk(const DtBenchOptions& options)
+{
+    std::size_t nodes = 0;
+    for (const DtCodeGenAppGui::DtModelFile& model : options.models)
+    {
+        xmlDoc* document = xmlReadFile(model.first.c_str(), nullptr, XML_PARSE_NONET);
+        if (document == nullptr)
+            qFatal("%s is no XML", model.first.c_str());
+        nodes += countNodes(document->children);
+        xmlFreeDoc(document);
+    }
+    if (nodes == 0)
+        qFatal("the models are empty");
+}
+
+void measureLoading(QApplication& application, const DtBenchOptions& options)
+{
+    std::vector<double> loads;
+    std::vector<double> parses;
+    for (int round = 0; round < options.rounds; ++round)
+    {
+        DtCodeGenInitializer initializer = configuration(options);
+        DtCodeGenAppGui window(initializer, &application, nullptr);
+        window.setUnattended(true);
+        loads.push_back(milliseconds([&] { load(window, options); }));
+        parses.push_back(milliseconds([&] { parseAndWalk(options); }));
+        std::printf("round %d: load %.1f ms; parse and walk %.1f ms\n", round + 1, loads.back(), parses.back());
+    }
+    std::printf("median load %.1f ms; parse and walk %.1f ms; ratio %.2f\n", median(loads), median(parses),
+                median(loads) / median(parses));
+}
+
+DtCost generate(QApplication& application, const DtBenchOptions& options, const QString& scratch, const QString& output)
+{
+    DtCodeGenInitializer initializer = configuration(options);
     DtCodeGenAppGui window(initializer, &application, nullptr);
     window.setUnattended(true);
-    const DtCost before = usage(RUSAGE_SELF);
+    const DtCost before = ownCost();
     window.newOmtProject(DtFilename((scratch + "/bench.qxproj").toUtf8().constData()));
     load(window, options);
     window.addAllObjectInteractions();
     window.setOutputDirectory(output + "/");
     window.generateAllFiles();
-    return usage(RUSAGE_SELF) - before;
+    return ownCost() - before;
+}
+
+DtCost copy(const QString& output, const QString& target)
+{
+    const DtCost before = childCost();
+    runProgram("cp", {QStringLiteral("-r"), output, target});
+    const DtCost cost = childCost() - before;
+    QDir(target).removeRecursively();
+    return cost;
 }
 
 void printOutput(const QString& output)
@@ -208,40 +148,18 @@ void printOutput(const QString& output)
     }
     std::printf("files %lld\nbytes %lld\n", static_cast<long long>(files), static_cast<long long>(bytes));
 }
-} // namespace
 
-int main(int argc, char** argv)
+void measureGeneration(QApplication& application, const DtBenchOptions& options, const QString& scratch)
 {
-    qputenv("QT_QPA_PLATFORM", "offscreen");
-    QApplication application(argc, argv);
-    DtOptions options = readOptions(QCoreApplication::arguments());
-    QTemporaryDir scratch(options.directory + "/bench-XXXXXX");
-    if (!scratch.isValid())
-        qFatal("cannot work below %s", qPrintable(options.directory));
-    enterScratch(scratch.path());
-    if (options.classes > 0)
-    {
-        QFile model(scratch.path() + "/synthetic.xml");
-        const std::string text = syntheticModel(options.classes);
-        if (!model.open(QIODevice::WriteOnly) || model.write(text.c_str()) < 0)
-            qFatal("cannot write the model");
-        options.models = {
-            {DtString(model.fileName().toUtf8().constData()), ""}
-        };
-    }
-    if (options.onlyLoads)
-    {
-        measureLoading(application, options);
-        return 0;
-    }
     std::vector<double> own;
     std::vector<double> user;
     std::vector<double> copies;
+    std::vector<double> again;
+    const QString output = scratch + "/out";
     for (int round = 0; round < options.rounds; ++round)
     {
-        const QString output = scratch.path() + "/out";
         QDir().mkpath(output);
-        const DtCost cost = generate(application, options, scratch.path(), output);
+        const DtCost cost = generate(application, options, scratch, output);
         own.push_back(cost.total());
         user.push_back(cost.user);
         if (round == 0)
@@ -249,15 +167,45 @@ int main(int argc, char** argv)
             printOutput(output);
             std::printf("peak MB %.1f\n", peakMegabytes());
         }
-        const DtCost before = usage(RUSAGE_CHILDREN);
-        run("cp", {QStringLiteral("-r"), output, scratch.path() + "/copy"});
-        copies.push_back((usage(RUSAGE_CHILDREN) - before).total());
+        if (options.runsAgain)
+            again.push_back(generate(application, options, scratch, output).total());
+        copies.push_back(copy(output, scratch + "/copy").total());
         QDir(output).removeRecursively();
-        QDir(scratch.path() + "/copy").removeRecursively();
         std::printf("round %d: %.4f s, of it user %.4f; cp -r %.4f s\n", round + 1, own.back(), user.back(),
                     copies.back());
     }
+    if (options.runsAgain)
+        std::printf("again %.4f s; ratio to the first run %.2f\n", median(again), median(again) / median(own));
     std::printf("median %.4f s, user %.4f; cp -r %.4f s; ratio %.2f\n", median(own), median(user), median(copies),
                 median(own) / median(copies));
+}
+
+void makeModel(DtBenchOptions& options, const QString& name)
+{
+    QFile model(name);
+    const std::string text = madeUpModel(options.shape, options.count);
+    if (!model.open(QIODevice::WriteOnly) || model.write(text.c_str()) < 0)
+        qFatal("cannot write the model");
+    options.models = {
+        {DtString(name.toUtf8().constData()), ""}
+    };
+}
+} // namespace
+
+int main(int argc, char** argv)
+{
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    QApplication application(argc, argv);
+    DtBenchOptions options = readBenchOptions(QCoreApplication::arguments());
+    QTemporaryDir scratch(options.directory + "/bench-XXXXXX");
+    if (!scratch.isValid())
+        qFatal("cannot work below %s", qPrintable(options.directory));
+    enterScratch(scratch.path(), options.data);
+    if (options.count > 0)
+        makeModel(options, scratch.path() + "/synthetic.xml");
+    if (options.onlyLoads)
+        measureLoading(application, options);
+    else
+        measureGeneration(application, options, scratch.path());
     return 0;
 }

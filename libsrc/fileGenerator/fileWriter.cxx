@@ -3,11 +3,11 @@
 #include "fileGenerator/dataFile.h"
 #include "fileGenerator/dataTypeMapper.h"
 #include "fileGenerator/progressMeter.h"
-#include "fileGenerator/regularExpressionUtils.h"
 #include "fileGenerator/relativePath.h"
 #include "fileGenerator/settings.h"
 #include "fileGenerator/templateBlock.h"
 #include "fileGenerator/templateFiles.h"
+#include "fileGenerator/templateScan.h"
 #include "foundation/assertion.h"
 #include "foundation/fileUtils.h"
 #include "foundation/restored.h"
@@ -44,56 +44,6 @@ DtString typesHeader(const DtString& fomFileName)
     return DtSettings::instance().cpp.includePath() + fomFileName + "Types.h";
 }
 
-std::string_view trimmedFront(std::string_view text)
-{
-    return text.substr(std::min(text.find_first_not_of(' '), text.size()));
-}
-
-std::string_view trimmedBack(std::string_view text)
-{
-    return text.substr(0, text.find_last_not_of(' ') + 1);
-}
-
-// A text cut at its first blank. One without a blank is whole in both parts.
-struct DtCut
-{
-    explicit DtCut(std::string_view text) : left(text), right(text)
-    {
-        const std::size_t blank = text.find(' ');
-        if (blank == theNowhere)
-            return;
-        left = text.substr(0, blank);
-        right = text.substr(blank + 1);
-    }
-
-    std::string_view left;
-    std::string_view right;
-};
-
-// An unknown token is still in the decoded text, with its bracket first.
-bool isPresent(const DtString& value)
-{
-    return !value.isEmpty() && value[0] != '<';
-}
-
-using DtTest = bool (*)(const DtString& left, const DtString& right);
-
-struct DtVerb
-{
-    std::string_view name;
-    bool hasTwoOperands;
-    DtTest test;
-};
-
-const DtVerb theVerbs[] = {
-    {"exists",      false, [](const DtString& value, const DtString&) { return isPresent(value); }                  },
-    {"notexists",   false, [](const DtString& value, const DtString&) { return !isPresent(value); }                 },
-    {"greaterthan", true,  [](const DtString& left,  const DtString& right) { return left.toInt() > right.toInt(); }},
-    {"lessthan",    true,  [](const DtString& left,  const DtString& right) { return left.toInt() < right.toInt(); }},
-    {"equals",      true,  [](const DtString& left,  const DtString& right) { return left == right; }               },
-    {"notequals",   true,  [](const DtString& left,  const DtString& right) { return left != right; }               },
-};
-
 // The file of a file block is open while this lives; nothing for an inline block, whose file name is empty.
 class DtInsideFile
 {
@@ -127,7 +77,8 @@ DtFileWriter::DtFileWriter(const DtString& fileName, const DtString& templateNam
     if (myFileName.isEmpty())
         return;
     openOutput();
-    myFileStem = DtRegularExpressionUtils::regExpReplace("\\..*", myFileName, "");
+    myFileStem = myFileName;
+    myFileStem.snipBackToFirst('.');
     if (templateName != DtString::nullString())
         myTemplateFile.reset(DtFileOpen(DtDataFile(templateName).c_str(), "r"));
 }
@@ -174,50 +125,75 @@ void DtFileWriter::writeFile()
     DtProgressMeter::current()->incrementCurrentMeasure(1);
 }
 
+// Writes what the scanner meets.
+class DtFileWriter::DtScanTaker
+{
+public:
+    DtScanTaker(DtFileWriter& writer, std::istream& in) : myWriter(writer), myStream(in) {}
+
+    void lineFeed() { myWriter.writeLineFeeds(1); }
+    void piece(std::string_view text) { myWriter.writePiece(text); }
+    bool block(char delimiter)
+    {
+        if (delimiter == '#')
+            myWriter.handleForLoop(myStream);
+        else
+            myWriter.handleIfStatement(myStream);
+        return true;
+    }
+
+private:
+    DtFileWriter& myWriter;
+    std::istream& myStream;
+};
+
 void DtFileWriter::writeFileStream(std::istream& in)
 {
-    DtTemplateCursor cursor(in, pieceLimit());
-    while (cursor.isGood())
+    DtTemplateBuffer* const buffer = DtTemplateBuffer::of(in);
+    const bool isAtStart = buffer != nullptr && in.good() && buffer->position() == 0;
+    if (!isAtStart || !writeParts(buffer->text()->parts(pieceLimit()), in, *buffer))
+        scan(in);
+}
+
+void DtFileWriter::scan(std::istream& in)
+{
+    DtScanTaker taker(*this, in);
+    DtScanTemplate(in, pieceLimit(), taker);
+}
+
+bool DtFileWriter::writeParts(const DtTemplateParts& parts, std::istream& in, DtTemplateBuffer& buffer)
+{
+    for (const DtTemplateStep& step : parts.steps)
     {
-        writeLineFeeds(cursor);
-        cursor.clearState();
-        const std::streampos start = std::max<std::streamoff>(0, cursor.position());
-        const std::string_view piece = cursor.readPiece();
-        const std::size_t block = DtFindBlock(piece);
-        if (block == theNowhere)
+        writeLineFeeds(step.lineFeeds);
+        if (step.block == nullptr)
         {
-            writePiece(piece);
+            writeLine(step.line);
             continue;
         }
-        const bool isLoop = piece[block + 1] == '#';
-        cursor.clearState();
-        cursor.moveTo(start);
-        cursor.skipCharacters(block);
-        if (block > 0)
-            writePiece(piece.substr(0, block));
-        if (isLoop)
+        buffer.moveToBlock(*step.block, step.start);
+        if (step.block->delimiter == '#')
             handleForLoop(in);
         else
             handleIfStatement(in);
+        if (!in.good() || buffer.position() != step.block->end)
+            return false; // an operation that is not ours has left it elsewhere
     }
-}
-
-// The bar is tested only behind a line feed read here, so a bar at the very start is plain text.
-void DtFileWriter::writeLineFeeds(DtTemplateCursor& cursor)
-{
-    while (cursor.peekIs('\n'))
-    {
-        cursor.skip();
-        if (cursor.peekIs('|'))
-            cursor.skip();
-        else
-            writeText("\n");
-    }
+    writeLineFeeds(parts.lineFeeds);
+    buffer.moveTo(parts.end);
+    in.clear(parts.state);
+    return !in.good();
 }
 
 void DtFileWriter::writeText(std::string_view text)
 {
     myStreamBuffer.print(text.data(), text.size());
+}
+
+void DtFileWriter::writeLineFeeds(std::size_t count)
+{
+    for (; count > 0; --count)
+        writeText("\n");
 }
 
 void DtFileWriter::writePiece(std::string_view piece)
@@ -226,6 +202,20 @@ void DtFileWriter::writePiece(std::string_view piece)
     decodeFileLine(myLine);
     writeText(myLine.stdString());
     myStreamBuffer.pubsync();
+}
+
+void DtFileWriter::writeLine(const DtCompiledLine& line)
+{
+    decode(line, myLine);
+    writeText(myLine.stdString());
+    myStreamBuffer.pubsync();
+}
+
+void DtFileWriter::decode(const DtCompiledLine& line, DtString& text)
+{
+    DtAssignText(text, line.text());
+    const DtRestored current(myCompiledLine, &line);
+    decodeFileLine(text);
 }
 
 const DtTokenTable<DtFileWriter>& DtFileWriter::baseTable()
@@ -257,7 +247,20 @@ void DtFileWriter::decodeFileLine(DtString& line)
 void DtFileWriter::expandTokens(DtString& line, std::initializer_list<DtTokenSource*> further)
 {
     fillFomFileNames();
-    myTokenChain.expand(line, further);
+    // The line is another one when a derived writer has changed it on its way here.
+    const bool isCompiled =
+        myCompiledLine != nullptr && further.size() == 0 && myCompiledLine->text() == line.stdString();
+    if (!isCompiled)
+        return myTokenChain.expand(line, further);
+    if (myCompiledLine->isLiteral())
+        return;
+    std::string text = std::move(myExpandedText); // taken out while in use: a value may be a line that is expanded
+    text.clear();
+    if (myTokenChain.append(*myCompiledLine, text))
+        DtAssignText(line, text);
+    else
+        myTokenChain.expand(line);
+    myExpandedText = std::move(text);
 }
 
 // At the first line that is decoded, and not again once they are filled.
@@ -287,17 +290,41 @@ void DtFileWriter::handleIfStatement(std::istream& in)
 void DtFileWriter::handleBlock(std::istream& in, char delimiter)
 {
     const DtBlockLease lease;
-    DtTemplateBlock& block = *lease;
+    DtTemplateBlock& memory = *lease;
+    DtTemplateBuffer* const buffer = DtTemplateBuffer::of(in);
+    const DtTemplateBlockPart* const part = buffer != nullptr ? buffer->takeBlock(delimiter) : nullptr;
+    if (part == nullptr)
+        return scanBlock(in, delimiter, memory);
+    buffer->moveTo(part->end);
+    expandPart(*part, memory.body);
+    memory.body.close();
+}
+
+void DtFileWriter::scanBlock(std::istream& in, char delimiter, DtTemplateBlock& memory)
+{
     DtTemplateCursor cursor(in, pieceLimit());
-    if (!block.readHeader(cursor, delimiter))
+    const DtHeaderOutcome outcome = memory.readHeader(cursor, delimiter);
+    if (outcome == DtHeaderOutcome::NoEnd)
+        DtWarnOfBlock(memory.line);
+    if (outcome != DtHeaderOutcome::Read)
         return;
-    const unsigned int start = static_cast<unsigned int>(block.headerEnd + 1);
-    if (block.isInline())
-        helperStringHandler(block.line, start, in, block.linePosition, delimiter, block.body);
+    const unsigned int start = static_cast<unsigned int>(memory.headerEnd + 1);
+    if (memory.isInline())
+        helperStringHandler(memory.line, start, in, memory.linePosition, delimiter, memory.body);
     else
-        helperFileHandler(block.line, start, in, block.linePosition, delimiter, block.body);
-    expandBlock(block.header, block.body, delimiter);
-    block.body.close();
+        helperFileHandler(memory.line, start, in, memory.linePosition, delimiter, memory.body);
+    expandBlock(memory.header, memory.body, delimiter);
+    memory.body.close();
+}
+
+void DtFileWriter::expandPart(const DtTemplateBlockPart& part, DtTemplateStream& body)
+{
+    if (part.body != nullptr)
+        body.open(*part.body);
+    else
+        openFile(part.path, body);
+    const DtRestored current(myExpandedPart, &part);
+    expandBlock(part.header, body, part.delimiter);
 }
 
 void DtFileWriter::expandBlock(const DtString& header, DtTemplateStream& body, char delimiter)
@@ -320,74 +347,27 @@ void DtFileWriter::expandBlock(const DtString& header, DtTemplateStream& body, c
 void DtFileWriter::helperStringHandler(std::string& line, unsigned int start, std::istream& in,
                                        std::streampos& linePosition, char delimiter, DtTemplateStream& body)
 {
-    const std::string opening = {'<', delimiter};
-    const std::string closing = {delimiter, '>'};
     DtTemplateCursor cursor(in, pieceLimit());
-    std::string text = body.releaseText();
-    std::size_t from = std::min<std::size_t>(start, line.size());
-    std::size_t open = line.find(opening, from);
-    std::size_t close = line.find(closing, from);
-    int depth = 0; // goes below 0 on a stray closing pair
-    while (open == theNowhere || close != open + 1 || depth > 0)
-    {
-        if (open == theNowhere && close == theNowhere)
-        {
-            if (!cursor.isGood())
-                break;
-            text.append(line, from, theNowhere);
-            text.append(cursor.skipLineFeeds(), '\n');
-            linePosition = cursor.position();
-            line = cursor.readPiece();
-            from = 0;
-            open = line.find(opening);
-            close = line.find(closing);
-        }
-        else if (open != theNowhere && close > open + 1)
-        {
-            ++depth;
-            open = line.find(opening, open + 2);
-        }
-        else
-        {
-            --depth;
-            if (open != theNowhere)
-                open = line.find(opening, close + 2);
-            close = line.find(closing, close + 2);
-        }
-    }
-    text.append(line, from, open == theNowhere ? theNowhere : open - from);
+    std::string text;
+    DtTakeBlockBody(line, start, cursor, linePosition, delimiter, text);
     body.open(std::move(text));
-    cursor.clearState();
-    cursor.moveTo(linePosition);
-    // Without a terminator the scan goes on behind the first character of the last line, which it so meets again.
-    cursor.skipCharacters(close == theNowhere ? 1 : close + 2);
 }
 
 void DtFileWriter::helperFileHandler(std::string& line, unsigned int start, std::istream& in,
                                      std::streampos& linePosition, char delimiter, DtTemplateStream& file)
 {
     DtTemplateCursor cursor(in, pieceLimit());
-    const std::size_t from = std::min<std::size_t>(start, line.size());
-    std::size_t end = line.find(delimiter, from);
-    std::string path = line.substr(from, end == theNowhere ? theNowhere : end - from);
+    std::string path;
     file.close();
-    while (end == theNowhere)
-    {
-        if (!cursor.isGood())
-        {
-            DtWarnOfBlock(line);
-            return;
-        }
-        cursor.skipLineFeeds();
-        linePosition = cursor.position();
-        line = cursor.readPiece();
-        end = line.find(delimiter);
-        path.append(line, 0, end);
-    }
-    path = trimmedBack(path);
-    cursor.clearState();
-    cursor.moveTo(linePosition);
-    cursor.skipCharacters(end + 2); // the character behind the delimiter, taken to be ">", goes in any case
+    if (DtTakeBlockPath(line, start, cursor, linePosition, delimiter, path))
+        openFile(path, file);
+    else
+        DtWarnOfBlock(line);
+}
+
+void DtFileWriter::openFile(const std::string& path, DtTemplateStream& file)
+{
+    file.close();
     if (path.empty() || !mayOpen(path))
         return;
     file.open(DtTemplateFileText(DtDataFile(path)));
@@ -423,27 +403,26 @@ void DtFileWriter::writeMultipleTimes(const DtString& header, std::istream& body
 
 void DtFileWriter::writeBodyFrom(std::istream& body, std::streampos position)
 {
+    DtTemplateBuffer* const buffer = DtTemplateBuffer::of(body);
     body.clear();
-    body.seekg(position);
+    if (buffer == nullptr || !buffer->moveTo(position))
+        body.seekg(position);
     writeFileStream(body);
 }
 
 void DtFileWriter::writeConditional(const DtString& header, std::istream& body)
 {
-    if (trimmedFront(header.stdString()).empty())
-        return;
-    const DtCut statement(header.stdString()); // a blank in front leaves an empty verb, which is none
-    const auto verb = std::find_if(std::begin(theVerbs), std::end(theVerbs),
-                                   [&](const DtVerb& row) { return row.name == statement.left; });
-    if (verb == std::end(theVerbs))
-        return;
-    const std::string_view rest = trimmedBack(trimmedFront(statement.right));
-    const DtCut operands(rest);
-    DtString left = std::string(verb->hasTwoOperands ? operands.left : rest);
-    DtString right = std::string(verb->hasTwoOperands ? trimmedFront(operands.right) : "");
-    decodeFileLine(left);
-    if (verb->hasTwoOperands)
-        decodeFileLine(right);
-    if (verb->test(left, right))
+    const bool isKnown = myExpandedPart != nullptr && &header == &myExpandedPart->header;
+    if (isKnown ? holds(myExpandedPart->condition) : holds(DtTemplateCondition(header.stdString())))
         writeFileStream(body);
+}
+
+bool DtFileWriter::holds(const DtTemplateCondition& condition)
+{
+    if (!condition.isKnown())
+        return false;
+    decode(condition.left(), myOperands[0]);
+    if (condition.hasTwoOperands())
+        decode(condition.right(), myOperands[1]);
+    return condition.holds(myOperands[0], myOperands[1]);
 }

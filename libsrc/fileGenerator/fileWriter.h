@@ -16,6 +16,8 @@
 #include <string>
 #include <vector>
 
+struct DtTemplateBlock;
+
 // Expands one template into one generated file; base of every writer.
 //
 // A template is text in lines. Six constructs exist: the token <!Name!>; the loop <#Header>body<#> and the loop over a
@@ -23,8 +25,12 @@
 // first character of a line, which joins the line to the one above. docs/templates.md tells the language by example.
 //
 // The scan is line-oriented: blocks are found by text search in pieces of at most maximumLineLength() - 1 bytes, bodies
-// are taken out raw and scanned again by writeFileStream() for each expansion. A derived writer changes three things
+// are taken out raw and go through writeFileStream() again for each expansion. A derived writer changes three things
 // only: the tokens (tokenChain), the loops (writeMultipleTimes) and the conditions (writeConditional).
+//
+// What the scan makes of a template does not change, so it is done once for each text (templateText.h). On a stream
+// over such a text writeFileStream() walks the parts that were found; on any other it scans. All operations are called
+// the same way on both, with the same texts and with the stream at the same positions.
 //
 // One object, one output file: construct, writeFile() once, destroy, which closes the output. The class-wide settings
 // are set before the writers of a run are made.
@@ -109,15 +115,30 @@ private:
 
     void openOutput();
     void fillFomFileNames();
+    class DtScanTaker;
+
+    void scan(std::istream& in);
+    // Walks the parts. False when the rest of the stream has to be scanned.
+    bool writeParts(const DtTemplateParts& parts, std::istream& in, DtTemplateBuffer& buffer);
     void writeText(std::string_view text);
+    void writeLineFeeds(std::size_t count);
     void writePiece(std::string_view piece); // with its tokens replaced
-    void writeLineFeeds(DtTemplateCursor& cursor);
+    void writeLine(const DtCompiledLine& line);
+    void decode(const DtCompiledLine& line, DtString& text); // through decodeFileLine()
     void handleBlock(std::istream& in, char delimiter);
+    void scanBlock(std::istream& in, char delimiter, DtTemplateBlock& memory);
+    void expandPart(const DtTemplateBlockPart& part, DtTemplateStream& body);
     void expandBlock(const DtString& header, DtTemplateStream& body, char delimiter);
+    bool holds(const DtTemplateCondition& condition);
+    void openFile(const std::string& path, DtTemplateStream& file);
     bool mayOpen(const std::string& path);
     void warnOnce(bool& hasWarned, const DtString& templateFile, const DtString& text);
 
-    DtString myLine;                      // the piece on its way out
+    DtString myLine;                                     // the piece on its way out
+    DtString myOperands[2];                              // of the condition that is tested
+    const DtCompiledLine* myCompiledLine = nullptr;      // the one that decodeFileLine() is called for
+    const DtTemplateBlockPart* myExpandedPart = nullptr; // the one that the stated operations are called for
+    std::string myExpandedText;                          // working memory
     std::vector<std::string> myOpenFiles; // of the file blocks around the current position, outermost first
     int myBlockDepth = 0;
     bool myHasWarnedOfFiles = false;

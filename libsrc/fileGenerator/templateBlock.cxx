@@ -49,25 +49,26 @@ std::size_t DtFindBlock(std::string_view piece)
     return std::string_view::npos;
 }
 
-bool DtTemplateBlock::readHeader(DtTemplateCursor& cursor, char blockDelimiter)
+DtHeaderOutcome DtTemplateBlock::readHeader(DtTemplateCursor& cursor, char blockDelimiter)
 {
     delimiter = blockDelimiter;
     linePosition = cursor.position();
     line = cursor.readPiece();
     if (!acceptOpening())
-        return false;
+        return DtHeaderOutcome::NoOpening;
     int depth = 0;
     std::size_t start = std::min<std::size_t>(2, line.size());
     headerText.clear();
     while (!findHeaderEnd(start, depth))
     {
         headerText.append(line, start, std::string::npos);
-        if (!readOn(cursor))
-            return false;
+        if (!cursor.isGood())
+            return DtHeaderOutcome::NoEnd;
+        readOn(cursor);
         start = 0;
     }
     DtAssignText(header, headerText.append(line, start, headerEnd - start));
-    return true;
+    return DtHeaderOutcome::Read;
 }
 
 // Only a direct call can come with something else than an opening. A loop goes on all the same unless there is nothing
@@ -113,16 +114,76 @@ bool DtTemplateBlock::findHeaderEnd(std::size_t from, int& depth)
     return headerEnd != std::string::npos;
 }
 
-bool DtTemplateBlock::readOn(DtTemplateCursor& cursor)
+void DtTemplateBlock::readOn(DtTemplateCursor& cursor)
 {
-    if (!cursor.isGood())
-    {
-        DtWarnOfBlock(line);
-        return false;
-    }
     cursor.skipLineFeeds();
     linePosition = cursor.position();
     line = cursor.readPiece();
+}
+
+void DtTakeBlockBody(std::string& line, std::size_t start, DtTemplateCursor& cursor, std::streampos& linePosition,
+                     char delimiter, std::string& text)
+{
+    const std::string opening = {'<', delimiter};
+    const std::string closing = {delimiter, '>'};
+    std::size_t from = std::min<std::size_t>(start, line.size());
+    std::size_t open = line.find(opening, from);
+    std::size_t close = line.find(closing, from);
+    int depth = 0; // goes below 0 on a stray closing pair
+    while (open == std::string::npos || close != open + 1 || depth > 0)
+    {
+        if (open == std::string::npos && close == std::string::npos)
+        {
+            if (!cursor.isGood())
+                break;
+            text.append(line, from, std::string::npos);
+            text.append(cursor.skipLineFeeds(), '\n');
+            linePosition = cursor.position();
+            line = cursor.readPiece();
+            from = 0;
+            open = line.find(opening);
+            close = line.find(closing);
+        }
+        else if (open != std::string::npos && close > open + 1)
+        {
+            ++depth;
+            open = line.find(opening, open + 2);
+        }
+        else
+        {
+            --depth;
+            if (open != std::string::npos)
+                open = line.find(opening, close + 2);
+            close = line.find(closing, close + 2);
+        }
+    }
+    text.append(line, from, open == std::string::npos ? std::string::npos : open - from);
+    cursor.clearState();
+    cursor.moveTo(linePosition);
+    // Without a terminator the scan goes on behind the first character of the last line, which it so meets again.
+    cursor.skipCharacters(close == std::string::npos ? 1 : close + 2);
+}
+
+bool DtTakeBlockPath(std::string& line, std::size_t start, DtTemplateCursor& cursor, std::streampos& linePosition,
+                     char delimiter, std::string& path)
+{
+    const std::size_t from = std::min<std::size_t>(start, line.size());
+    std::size_t end = line.find(delimiter, from);
+    path = line.substr(from, end == std::string::npos ? std::string::npos : end - from);
+    while (end == std::string::npos)
+    {
+        if (!cursor.isGood())
+            return false;
+        cursor.skipLineFeeds();
+        linePosition = cursor.position();
+        line = cursor.readPiece();
+        end = line.find(delimiter);
+        path.append(line, 0, end);
+    }
+    path.resize(path.find_last_not_of(' ') + 1);
+    cursor.clearState();
+    cursor.moveTo(linePosition);
+    cursor.skipCharacters(end + 2); // the character behind the delimiter, taken to be ">", goes in any case
     return true;
 }
 

@@ -7,6 +7,7 @@
 #include <cstring>
 #include <ctime>
 #include <map>
+#include <string>
 #include <string_view>
 #include <sys/stat.h>
 #include <utility>
@@ -52,13 +53,13 @@ class DtTextCache
 {
 public:
     // Null when there is no text for this state of the file and this limit.
-    std::shared_ptr<const std::string> find(const DtFileStamp& stamp, std::size_t limit) const
+    std::shared_ptr<const DtTemplateText> find(const DtFileStamp& stamp, std::size_t limit) const
     {
         const auto found = myEntries.find(stamp.file);
         const bool isCurrent = found != myEntries.end() && found->second.stamp == stamp && found->second.limit == limit;
         return isCurrent ? found->second.text : nullptr;
     }
-    void store(const DtFileStamp& stamp, std::size_t limit, const std::shared_ptr<const std::string>& text)
+    void store(const DtFileStamp& stamp, std::size_t limit, const std::shared_ptr<const DtTemplateText>& text)
     {
         if (stamp.isSettled())
             myEntries.insert_or_assign(stamp.file, Entry{stamp, limit, text});
@@ -69,7 +70,7 @@ private:
     {
         DtFileStamp stamp;
         std::size_t limit;
-        std::shared_ptr<const std::string> text;
+        std::shared_ptr<const DtTemplateText> text;
     };
 
     std::map<std::pair<dev_t, ino_t>, Entry> myEntries;
@@ -102,23 +103,24 @@ std::string markBlankPieces(std::string_view text, std::size_t pieceLimit)
 }
 } // namespace
 
-std::shared_ptr<const std::string> DtTemplateFileText(const DtString& name)
+std::shared_ptr<const DtTemplateText> DtTemplateFileText(const DtString& name)
 {
     static DtTextCache theCache;
     struct stat status = {};
     if (stat(name.c_str(), &status) != 0 || !S_ISREG(status.st_mode))
         return nullptr;
     const DtFileStamp stamp(status);
-    if (std::shared_ptr<const std::string> known = theCache.find(stamp, 0))
+    if (std::shared_ptr<const DtTemplateText> known = theCache.find(stamp, 0))
         return known;
-    const auto text = std::make_shared<std::string>();
-    if (!DtReadFile(name, *text))
+    std::string content;
+    if (!DtReadFile(name, content))
         return nullptr;
+    const auto text = std::make_shared<const DtTemplateText>(std::move(content));
     theCache.store(stamp, 0, text);
     return text;
 }
 
-std::shared_ptr<const std::string> DtPreparedTemplateText(FILE* file, std::size_t pieceLimit)
+std::shared_ptr<const DtTemplateText> DtPreparedTemplateText(FILE* file, std::size_t pieceLimit)
 {
     static DtTextCache theCache;
     struct stat status = {};
@@ -127,11 +129,11 @@ std::shared_ptr<const std::string> DtPreparedTemplateText(FILE* file, std::size_
     const DtFileStamp stamp(status);
     if (isWholeFile)
     {
-        const std::shared_ptr<const std::string> known = theCache.find(stamp, pieceLimit);
+        const std::shared_ptr<const DtTemplateText> known = theCache.find(stamp, pieceLimit);
         if (known != nullptr && std::fseek(file, 0, SEEK_END) == 0)
             return known;
     }
-    const auto text = std::make_shared<const std::string>(markBlankPieces(readRest(file), pieceLimit));
+    const auto text = std::make_shared<const DtTemplateText>(markBlankPieces(readRest(file), pieceLimit));
     if (isWholeFile)
         theCache.store(stamp, pieceLimit, text);
     return text;

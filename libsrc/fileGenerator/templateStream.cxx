@@ -4,23 +4,47 @@
 #include <cstring>
 #include <typeinfo>
 
-void DtTemplateBuffer::open(std::string_view text)
+DtTemplateBuffer* DtTemplateBuffer::of(std::istream& in)
+{
+    std::streambuf* buffer = in.rdbuf();
+    const bool isOwn = buffer != nullptr && typeid(*buffer) == typeid(DtTemplateBuffer);
+    return isOwn ? static_cast<DtTemplateBuffer*>(buffer) : nullptr;
+}
+
+void DtTemplateBuffer::open(const DtTemplateText& text)
 {
     // The interface of a stream buffer takes pointers to variable text, but an input buffer only reads.
-    char* start = const_cast<char*>(text.data());
-    setg(start, start, start + text.size());
-    myIsOpen = true;
+    char* start = const_cast<char*>(text.text().data());
+    setg(start, start, start + text.text().size());
+    myText = &text;
+    myBlock = nullptr;
 }
 
 void DtTemplateBuffer::close()
 {
     setg(nullptr, nullptr, nullptr);
-    myIsOpen = false;
+    myText = nullptr;
+    myBlock = nullptr;
+}
+
+void DtTemplateBuffer::moveToBlock(const DtTemplateBlockPart& block, std::streamoff position)
+{
+    moveTo(position);
+    myBlock = &block;
+    myBlockPosition = position;
+}
+
+const DtTemplateBlockPart* DtTemplateBuffer::takeBlock(char delimiter)
+{
+    const DtTemplateBlockPart* const block = myBlock;
+    myBlock = nullptr;
+    const bool isHere = block != nullptr && block->delimiter == delimiter && position() == myBlockPosition;
+    return isHere ? block : nullptr;
 }
 
 bool DtTemplateBuffer::moveTo(std::streamoff position)
 {
-    if (!myIsOpen || position < 0 || position > egptr() - eback())
+    if (myText == nullptr || position < 0 || position > egptr() - eback())
         return false;
     setg(eback(), eback() + position, egptr());
     return true;
@@ -50,12 +74,10 @@ DtTemplateStream::DtTemplateStream() : std::istream(nullptr)
 
 void DtTemplateStream::open(std::string text)
 {
-    close();
-    myOwnText = std::move(text);
-    myBuffer.open(myOwnText);
+    open(std::make_shared<const DtTemplateText>(std::move(text)));
 }
 
-void DtTemplateStream::open(std::shared_ptr<const std::string> text)
+void DtTemplateStream::open(std::shared_ptr<const DtTemplateText> text)
 {
     close();
     mySharedText = std::move(text);
@@ -63,28 +85,24 @@ void DtTemplateStream::open(std::shared_ptr<const std::string> text)
         myBuffer.open(*mySharedText);
 }
 
+void DtTemplateStream::open(const DtTemplateText& text)
+{
+    close();
+    myBuffer.open(text);
+}
+
 void DtTemplateStream::close()
 {
-    clear();
+    if (!good())
+        clear();
     myBuffer.close();
     mySharedText.reset();
     myFileName.clear();
 }
 
-std::string DtTemplateStream::releaseText()
-{
-    close();
-    std::string text = std::move(myOwnText);
-    text.clear();
-    return text;
-}
-
 DtTemplateCursor::DtTemplateCursor(std::istream& in, std::size_t limit)
-    : myStream(in), myBuffer(nullptr), myLimit(limit)
+    : myStream(in), myBuffer(DtTemplateBuffer::of(in)), myLimit(limit)
 {
-    std::streambuf* buffer = in.rdbuf();
-    if (buffer != nullptr && typeid(*buffer) == typeid(DtTemplateBuffer))
-        myBuffer = static_cast<DtTemplateBuffer*>(buffer);
 }
 
 void DtTemplateCursor::clearState()

@@ -1,7 +1,7 @@
 #ifndef FILE_GENERATOR_TEMPLATE_STREAM_H
 #define FILE_GENERATOR_TEMPLATE_STREAM_H
 
-#include "foundation/string.h"
+#include "fileGenerator/templateText.h"
 
 #include <istream>
 #include <memory>
@@ -23,18 +23,27 @@
 // although it has been read, and an empty one sets the fail flag, as std::istream::get does. A position asked for while
 // a flag is set is -1, so positions are taken ahead of the read, and the state is cleared ahead of a move.
 
-// Input buffer over text that somebody else holds. Closed, it behaves like a file that could not be opened: nothing to
-// read, and every seek fails.
+// Input buffer over a text that somebody else holds. Closed, it behaves like a file that could not be opened: nothing
+// to read, and every seek fails.
 class DtTemplateBuffer final : public std::streambuf
 {
 public:
     DtTemplateBuffer() = default;
-    void open(std::string_view text);
+    // The stream's own; null for a stream of another kind.
+    static DtTemplateBuffer* of(std::istream& in);
+    void open(const DtTemplateText& text);
     void close();
+
+    // The text with its parts; null while closed.
+    const DtTemplateText* text() const { return myText; }
+    // Moves to the block, for the operation that expands it: that finds it here, and need not read it again.
+    void moveToBlock(const DtTemplateBlockPart& block, std::streamoff position);
+    // The block of that kind that begins here; null where there is none, or none is known. To be asked once.
+    const DtTemplateBlockPart* takeBlock(char delimiter);
 
     const char* current() const { return gptr(); }
     const char* end() const { return egptr(); }
-    std::streamoff position() const { return myIsOpen ? gptr() - eback() : -1; }
+    std::streamoff position() const { return myText != nullptr ? gptr() - eback() : -1; }
     // False, with nothing changed, when there is no such position.
     bool moveTo(std::streamoff position);
     // The caller does not skip beyond the end of the text.
@@ -45,7 +54,9 @@ protected:
     pos_type seekpos(pos_type position, std::ios_base::openmode which) override;
 
 private:
-    bool myIsOpen = false;
+    const DtTemplateText* myText = nullptr;
+    const DtTemplateBlockPart* myBlock = nullptr; // the one that stands at myBlockPosition
+    std::streamoff myBlockPosition = 0;
 };
 
 // A stream with such a buffer, used again for one body after the other. Starts closed.
@@ -59,11 +70,11 @@ public:
     // These start at the front of the text, with no state flag set.
     void open(std::string text);
     // The text is shared with others; a null pointer leaves the stream closed.
-    void open(std::shared_ptr<const std::string> text);
+    void open(std::shared_ptr<const DtTemplateText> text);
+    // The text outlives its use here.
+    void open(const DtTemplateText& text);
     // Every read and seek fails from here on.
     void close();
-    // An empty text with the memory of the one that the stream had for its own; closes the stream.
-    std::string releaseText();
 
     // Name of the file whose text this is, empty for other text and after close().
     const std::string& fileName() const { return myFileName; }
@@ -71,8 +82,7 @@ public:
 
 private:
     DtTemplateBuffer myBuffer;
-    std::string myOwnText;
-    std::shared_ptr<const std::string> mySharedText;
+    std::shared_ptr<const DtTemplateText> mySharedText; // null for a text that somebody else holds
     std::string myFileName;
 };
 

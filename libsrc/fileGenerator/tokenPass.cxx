@@ -1,5 +1,6 @@
 #include "fileGenerator/tokenPass.h"
 
+#include "fileGenerator/tokenPlaces.h"
 #include "foundation/assertion.h"
 
 #include <algorithm>
@@ -19,6 +20,10 @@
 // What always holds: a token begins with "<!", and an opening that anything could come of is still there when the scan
 // is done. So the openings of the outcome are counted; unless they are just those of the unknown tokens, which stay,
 // what the scan made is thrown away and the passes do the work. The passes are always right, the scan is quick.
+//
+// Most lines are pieces of templates, which come again for every file. Their tokens are found once (DtCompiledLine),
+// and where these stand in a chain is looked up once for all writers of a class (DtTokenPlaces). What is left of the
+// scan is to copy texts and values one behind the other. Values that are not quiet have the line scanned as it stands.
 //
 // The traps: an opening inside a token, or one without an end, has the scan give up at once, since the passes might
 // find their token from either. And values are worked out in the order in which tokens are met, which is not that of
@@ -114,6 +119,8 @@ std::string expandInOrder(std::string text, const DtChain& chain)
 
 DtTokenIndex::DtTokenIndex(std::vector<std::string_view> tokens) : myTokens(std::move(tokens))
 {
+    static unsigned int theLastSerial = 0;
+    mySerial = ++theLastSerial;
     std::size_t slots = 8;
     while (slots < 2 * myTokens.size())
         slots *= 2;
@@ -151,17 +158,18 @@ std::uint32_t DtTokenIndex::hashOf(std::string_view text)
     return static_cast<std::uint32_t>(hash);
 }
 
-const DtString& DtTokenSource::value(int row)
+DtTokenSource::Entry& DtTokenSource::entry(int row)
 {
     if (myEntries.empty())
         myEntries.resize(static_cast<std::size_t>(myIndex->size()));
-    Entry& entry = myEntries[static_cast<std::size_t>(row)];
-    if (entry.generation != myGeneration)
+    Entry& found = myEntries[static_cast<std::size_t>(row)];
+    if (found.generation != myGeneration)
     {
-        entry.text = workOut(row);
-        entry.generation = myGeneration;
+        found.text = workOut(row);
+        found.isQuiet = DtCompiledLine::isQuiet(found.text.stdString());
+        found.generation = myGeneration;
     }
-    return entry.text;
+    return found;
 }
 
 void DtTokenSource::workOutAll()
@@ -201,11 +209,46 @@ void DtTokenChain::putAhead(std::initializer_list<DtTokenSource*> sources)
     for (DtTokenSource* source : sources)
         links.push_back({source, true});
     myLinks.insert(myLinks.begin(), links.begin(), links.end());
+    linksChanged();
 }
 
 void DtTokenChain::putBehind(DtTokenSource& source)
 {
     myLinks.push_back({&source, false});
+    linksChanged();
+}
+
+void DtTokenChain::linksChanged()
+{
+    myPlaces = nullptr;
+    myIndexes.clear();
+    myForgetful.clear();
+    for (const DtLink& link : myLinks)
+    {
+        myIndexes.push_back(&link.source->index());
+        if (link.source->memory() == DtTokenMemory::OneLine)
+            myForgetful.push_back(link.source);
+    }
+}
+
+DtTokenPlaces& DtTokenChain::places() const
+{
+    if (myPlaces == nullptr)
+        myPlaces = &DtTokenPlaces::of(myIndexes);
+    return *myPlaces;
+}
+
+DtTokenSource* DtTokenChain::sourceOf(int token, int& row) const
+{
+    for (const DtTokenPlaces::DtPlace& place : places().placesOf(token, myIndexes))
+    {
+        DtTokenSource* const source = myLinks[place.link].source;
+        if (!source->isActive())
+            continue;
+        row = place.row;
+        return source;
+    }
+    return nullptr;
 }
 
 std::vector<DtString> DtTokenChain::tokens() const
@@ -234,6 +277,33 @@ void DtTokenChain::expand(DtString& line, std::initializer_list<DtTokenSource*> 
         *end++ = link.source;
     }
     DtExpandTokens(line, active, static_cast<std::size_t>(end - active));
+}
+
+bool DtTokenChain::append(const DtCompiledLine& line, std::string& result) const
+{
+    if (!line.isPlain())
+        return false;
+    for (DtTokenSource* source : myForgetful)
+        source->clear();
+    const std::size_t size = result.size();
+    std::size_t copied = 0;
+    for (const DtCompiledLine::DtSlot& slot : line.slots())
+    {
+        int row = 0;
+        DtTokenSource* const source = sourceOf(slot.token, row);
+        if (source == nullptr)
+            continue; // the token stays, as part of the text around it
+        const std::string& value = source->value(row).stdString();
+        if (!source->isQuiet(row))
+        {
+            result.resize(size);
+            return false;
+        }
+        result.append(line.text(), copied, slot.start - copied).append(value);
+        copied = slot.end;
+    }
+    result.append(line.text(), copied);
+    return true;
 }
 
 void DtExpandTokensInOrder(DtString& line, DtTokenSource* const* chain, std::size_t count)

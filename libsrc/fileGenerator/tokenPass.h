@@ -1,11 +1,13 @@
 #ifndef FILE_GENERATOR_TOKEN_PASS_H
 #define FILE_GENERATOR_TOKEN_PASS_H
 
+#include "fileGenerator/compiledLine.h"
 #include "foundation/string.h"
 
 #include <cstddef>
 #include <cstdint>
 #include <initializer_list>
+#include <string>
 #include <string_view>
 #include <vector>
 
@@ -28,6 +30,8 @@
 //     chain.putAhead({&values, &classValues});
 //     chain.expand(line);
 
+class DtTokenPlaces;
+
 // One row. The token is written with its brackets, "<!Name!>", and holds neither "<!" nor "!>" inside.
 template <class Context>
 struct DtTokenRow
@@ -48,10 +52,13 @@ public:
     int find(std::string_view text, std::uint32_t hash) const;
     int find(std::string_view text) const { return find(text, hashOf(text)); }
     static std::uint32_t hashOf(std::string_view text);
+    // A number that no other index of the process has, but for copies of this one.
+    unsigned int serial() const { return mySerial; }
 
 private:
     std::vector<std::string_view> myTokens;
     std::vector<int> mySlots; // open addressing, a power of two; -1 is free
+    unsigned int mySerial;
 };
 
 // How long the values of a source are remembered.
@@ -80,7 +87,9 @@ public:
     // Whether its tokens are replaced at present. They stay in the text while they are not.
     virtual bool isActive() const { return true; }
     // Valid until clear().
-    const DtString& value(int row);
+    const DtString& value(int row) { return entry(row).text; }
+    // Whether the value brings about nothing new to replace, see DtCompiledLine.
+    bool isQuiet(int row) { return entry(row).isQuiet; }
     // Forgets all values: the context, or something that values are made of, is another one now.
     void clear() { ++myGeneration; }
     // Works out every value that is not known yet, in row order, for values whose working out has an effect.
@@ -94,7 +103,10 @@ private:
     {
         DtString text;
         std::uint64_t generation = 0;
+        bool isQuiet = true;
     };
+
+    Entry& entry(int row);
 
     const DtTokenIndex* myIndex;
     DtTokenMemory myMemory;
@@ -180,8 +192,8 @@ void DtExpandTokensInOrder(DtString& line, DtTokenSource* const* chain, std::siz
 // The tokens of a writer: its sources in the order of replacement.
 //
 // A chain is made up in the constructors of a writer, each class putting its own sources ahead of those of its base,
-// and does not change afterwards: two writers of one class have the same tokens in the same order. Sources are not
-// owned.
+// and does not change afterwards: two writers of one class have the same tokens in the same order, and share the table
+// of where these stand. Sources are not owned.
 class DtTokenChain
 {
 public:
@@ -201,9 +213,20 @@ public:
     std::vector<DtString> tokens() const;
     // Replaces the tokens of the active sources, those of further sources ahead of them.
     void expand(DtString& line, std::initializer_list<DtTokenSource*> further = {}) const;
+    // The same for a line whose tokens are found already, appended to the result. False, with the result as it was,
+    // when the text has to be gone over as expand() does.
+    bool append(const DtCompiledLine& line, std::string& result) const;
 
 private:
+    void linksChanged();
+    DtTokenPlaces& places() const;
+    // The link that replaces the token at present, and its row; null for an unknown token.
+    DtTokenSource* sourceOf(int token, int& row) const;
+
     std::vector<DtLink> myLinks;
+    std::vector<const DtTokenIndex*> myIndexes; // of the links
+    std::vector<DtTokenSource*> myForgetful;    // the links whose values are remembered for one line
+    mutable DtTokenPlaces* myPlaces = nullptr;  // obtained at first use
 };
 
 // Makes the text the content of the target, whose memory is used again where it suffices.

@@ -10,14 +10,22 @@
 
 namespace
 {
-void setDemoValues()
+// What the free texts among the settings are.
+struct DtTexts
 {
-    DtOMTEnvWriter::setNamespaceName("sim");
+    std::string namespaceName = "sim";
+    std::string exportMacro = "DT_DLL_DEMO";
+    std::string fomFile = "demo-model.v2.xml";
+};
+
+void setDemoValues(const DtTexts& texts = DtTexts())
+{
+    DtOMTEnvWriter::setNamespaceName(texts.namespaceName);
     DtOMTEnvWriter::setIncludeName("");
     DtOMTEnvWriter::setBaseName("demo-model.v2.xml");
-    DtOMTEnvWriter::setFomDefinitionFileName("demo-model.v2.xml");
+    DtOMTEnvWriter::setFomDefinitionFileName(texts.fomFile);
     DtOMTEnvWriter::setMaximumLineLength(300);
-    DtFileWriter::setExportMacroName("DT_DLL_DEMO");
+    DtFileWriter::setExportMacroName(texts.exportMacro);
     DtFileWriter::setGenerate64Bit(true);
     DtFileWriter::setGenerateErrors(false);
     DtFileWriter::setUseDecodeIncludes(false);
@@ -25,15 +33,19 @@ void setDemoValues()
 }
 
 // The tokens in their order, with the values above.
-std::vector<std::pair<std::string, std::string>> demoTokens()
+std::vector<std::pair<std::string, std::string>> demoTokens(const DtTexts& texts)
 {
+    const std::string mark = "DT_DLL_";
+    std::string withoutMark = texts.exportMacro;
+    if (withoutMark.find(mark) != std::string::npos)
+        withoutMark.erase(withoutMark.find(mark), mark.size());
     return {
         {"<!mapRtiObjectIdToGlobalId!>", "1"                 },
-        {"<!noDtDllExport!>",            "DEMO"              },
-        {"<!DllExport!>",                "DT_DLL_DEMO"       },
+        {"<!noDtDllExport!>",            withoutMark         },
+        {"<!DllExport!>",                texts.exportMacro   },
         {"<!BitCount!>",                 "64"                },
-        {"<!NamespaceName!>",            "sim"               },
-        {"<!FullFomFileName!>",          "demo-model.v2.xml" },
+        {"<!NamespaceName!>",            texts.namespaceName },
+        {"<!FullFomFileName!>",          texts.fomFile       },
         {"<!FomFileName!>",              "demomodelv2"       },
         {"<!FomFileNameTypesHeader!>",   "demomodelv2Types.h"},
         {"<!FomFileNameNoDash!>",        "demomodelv2"       },
@@ -104,12 +116,52 @@ const char* const theFragments[] = {
     "exists <!Bi",
 };
 
-std::string randomTemplate(std::mt19937& random)
+// With values that hold tokens and parts of them, what comes out depends on the order of the passes.
+const char* const theOrderFragments[] = {
+    "<!NamespaceName!>",
+    "<!NamespaceName!>",
+    "<!noDtDllExport!>",
+    "<!noDtDllExport!>",
+    "<!DllExport!>",
+    "<!FullFomFileName!>",
+    "<!FullFomFileName!>",
+    "<!FomFileName!>",
+    "<!BitCount!>",
+    "<!GenerateErrors!>",
+    "<!Foo!>",
+    "<",
+    "!",
+    "<!",
+    "!>",
+    "!BitCount!>",
+    "FomFileName!>",
+    "<!Nam",
+    " ",
+    "a",
+    "\n",
+    "<#2>",
+    "<#>",
+    "<?exists <!NamespaceName!>>",
+    "<?equals <!DllExport!> <!BitCount!>>",
+    "<?>",
+};
+
+const DtTexts theOrderTexts[] = {
+    {"<!FomFileName!>",     "DT_DLL_<!NamespaceName!>", "<!BitCount!>"     },
+    {"<",                   "!BitCount!>",              "<!Fom"            },
+    {"x<!",                 "<!DT_DLL_FomFileName!>",   "FileName!>"       },
+    {"",                    "<",                        "!"                },
+    {"<!NamespaceName!>",   "<!DllExport!>",            "<!GenerateErrors!"},
+    {"<!FullFomFileName!>", "a<!Foo!>",                 "!>"               },
+};
+
+template <std::size_t N>
+std::string randomTemplate(std::mt19937& random, const char* const (&fragments)[N])
 {
     std::string text;
     const unsigned int count = 1 + random() % 14;
     for (unsigned int i = 0; i < count; ++i)
-        text += theFragments[random() % std::size(theFragments)];
+        text += fragments[random() % N];
     if (random() % 8 == 0)
         text.insert(random() % (text.size() + 1), std::string(280 + random() % 40, 'z'));
     return text;
@@ -137,10 +189,29 @@ private Q_SLOTS:
     void workedExampleComesOut();
     void randomTemplatesComeOutAsTold();
     void randomTemplatesComeOutAsToldInShortPieces();
+    void randomTemplatesWithValuesThatHoldTokensComeOutAsTold();
 
 private:
     void compareRandomTemplates(unsigned int seed, int count, int lineLength);
+    void compareTemplate(const std::string& text, const DtTexts& texts, int lineLength);
+
+    int myLeftOut = 0; // templates that take too long
 };
+
+namespace
+{
+// The numbers of random templates, multiplied by what the environment says for a longer search.
+int counted(int count)
+{
+    return count * std::max(1, qEnvironmentVariableIntValue("QX_RANDOM_FACTOR"));
+}
+
+void writeIncludedFiles()
+{
+    writeTextFile("f", "i <!BitCount!>\n\n|j<#2>k<#>\n");
+    writeTextFile("g.t", "last");
+}
+} // namespace
 
 void TestTemplateCases::goldenCaseComesOutByteForByte_data()
 {
@@ -213,53 +284,64 @@ void TestTemplateCases::workedExampleComesOut()
     QCOMPARE(expandFile("case.tlt"), expected);
 }
 
+void TestTemplateCases::compareTemplate(const std::string& text, const DtTexts& texts, int lineLength)
+{
+    DtReferenceExpander reference(demoTokens(texts), lineLength);
+    try
+    {
+        std::istringstream in(text);
+        reference.expand(in);
+    }
+    catch (const DtReferenceExpander::TooMuch&)
+    {
+        ++myLeftOut;
+        return;
+    }
+    const QByteArray expected = QByteArray::fromStdString(reference.output() + "\nWARNINGS " + reference.warnings());
+    for (const bool isPlain : {false, true})
+    {
+        const DtCapture warnings(DtWarn);
+        DtMemoryWriter writer;
+        const std::string output = isPlain ? writer.expandPlain(text) : writer.expand(text);
+        const QByteArray got = QByteArray::fromStdString(output) + "\nWARNINGS " + warnings.text().toUtf8();
+        if (got != expected)
+            qWarning("%s: \"%s\"", isPlain ? "plain stream" : "own stream", text.c_str());
+        QCOMPARE(got, expected);
+    }
+}
+
 void TestTemplateCases::compareRandomTemplates(unsigned int seed, int count, int lineLength)
 {
     const QTemporaryDir directory;
     const DtInDirectory inDirectory(directory.path());
-    writeTextFile("f", "i <!BitCount!>\n\n|j<#2>k<#>\n");
-    writeTextFile("g.t", "last");
+    writeIncludedFiles();
     DtOMTEnvWriter::setMaximumLineLength(lineLength);
     std::mt19937 random(seed);
-    int left = 0;
-    for (int i = 0; i < count; ++i)
-    {
-        const std::string text = randomTemplate(random);
-        DtReferenceExpander reference(demoTokens(), lineLength);
-        try
-        {
-            std::istringstream in(text);
-            reference.expand(in);
-        }
-        catch (const DtReferenceExpander::TooMuch&)
-        {
-            ++left;
-            continue;
-        }
-        const QByteArray expected =
-            QByteArray::fromStdString(reference.output() + "\nWARNINGS " + reference.warnings());
-        for (const bool isPlain : {false, true})
-        {
-            const DtCapture warnings(DtWarn);
-            DtMemoryWriter writer;
-            const std::string output = isPlain ? writer.expandPlain(text) : writer.expand(text);
-            const QByteArray got = QByteArray::fromStdString(output) + "\nWARNINGS " + warnings.text().toUtf8();
-            if (got != expected)
-                qWarning("template %d, %s: \"%s\"", i, isPlain ? "plain stream" : "own stream", text.c_str());
-            QCOMPARE(got, expected);
-        }
-    }
-    QVERIFY2(left < count / 20, "too many templates were left out as too long");
+    myLeftOut = 0;
+    for (int i = 0; i < count && !QTest::currentTestFailed(); ++i)
+        compareTemplate(randomTemplate(random, theFragments), DtTexts(), lineLength);
+    QVERIFY2(myLeftOut < count / 20, "too many templates were left out as too long");
 }
 
 void TestTemplateCases::randomTemplatesComeOutAsTold()
 {
-    compareRandomTemplates(20110, 4000, 300);
+    compareRandomTemplates(20110, counted(4000), 300);
 }
 
 void TestTemplateCases::randomTemplatesComeOutAsToldInShortPieces()
 {
-    compareRandomTemplates(7, 2000, 24);
+    compareRandomTemplates(7, counted(2000), 24);
+}
+
+void TestTemplateCases::randomTemplatesWithValuesThatHoldTokensComeOutAsTold()
+{
+    std::mt19937 random(1130);
+    for (const DtTexts& texts : theOrderTexts)
+    {
+        setDemoValues(texts);
+        for (int i = 0; i < counted(600) && !QTest::currentTestFailed(); ++i)
+            compareTemplate(randomTemplate(random, theOrderFragments), texts, 300);
+    }
 }
 
 QX_REGISTER_TEST(TestTemplateCases)

@@ -1,6 +1,5 @@
 #include "fileGenerator/fileWriter.h"
 
-#include "fileGenerator/dataFile.h"
 #include "fileGenerator/dataTypeMapper.h"
 #include "fileGenerator/progressMeter.h"
 #include "fileGenerator/relativePath.h"
@@ -9,7 +8,6 @@
 #include "fileGenerator/templateFiles.h"
 #include "fileGenerator/templateScan.h"
 #include "foundation/assertion.h"
-#include "foundation/fileUtils.h"
 #include "foundation/restored.h"
 #include "foundation/stringUtils.h"
 #include "foundation/warningRules.h"
@@ -63,11 +61,6 @@ private:
 };
 } // namespace
 
-void DtFileWriter::DtFileCloser::operator()(FILE* file) const
-{
-    DtFileClose(file);
-}
-
 DtFileWriter::DtFileWriter(const DtString& fileName, const DtString& templateName)
     : myFileName(fileName),
       myStream(&myStreamBuffer, DtNotifyLevel, 1, nullptr),
@@ -80,7 +73,7 @@ DtFileWriter::DtFileWriter(const DtString& fileName, const DtString& templateNam
     myFileStem = myFileName;
     myFileStem.snipBackToFirst('.');
     if (templateName != DtString::nullString())
-        myTemplateFile.reset(DtFileOpen(DtDataFile(templateName).c_str(), "r"));
+        myTemplateFile = DtOpenTemplate(templateName);
 }
 
 DtFileWriter::~DtFileWriter()
@@ -119,8 +112,13 @@ void DtFileWriter::writeFile()
     if (myTemplateFile == nullptr)
         return;
     DtProgressMeter::current()->setFileGenerated(myFileName);
+    const DtTemplateRun run;
     DtTemplateStream in;
-    in.open(DtPreparedTemplateText(myTemplateFile.get(), pieceLimit()));
+    if (myIsWritten)
+        in.open(std::string());
+    else
+        in.open(DtPreparedTemplateText(myTemplateFile, pieceLimit()));
+    myIsWritten = true;
     writeFileStream(in);
     DtProgressMeter::current()->incrementCurrentMeasure(1);
 }
@@ -370,7 +368,7 @@ void DtFileWriter::openFile(const std::string& path, DtTemplateStream& file)
     file.close();
     if (path.empty() || !mayOpen(path))
         return;
-    file.open(DtTemplateFileText(DtDataFile(path)));
+    file.open(DtIncludedTemplateText(path));
     file.setFileName(path);
 }
 

@@ -94,12 +94,7 @@ protected:
     // Sets the body back to the position, with a clean state, and runs it once through writeFileStream().
     void writeBodyFrom(std::istream& body, std::streampos position);
 
-    struct DtFileCloser
-    {
-        void operator()(FILE* file) const;
-    };
-
-    std::unique_ptr<FILE, DtFileCloser> myTemplateFile;
+    std::shared_ptr<FILE> myTemplateFile; // shared with other writers of the template during a run
     DtString myFileName;
     DtString myFileStem; // the file name up to its first dot
     std::unique_ptr<DtFilePrinter> myPrinter;
@@ -141,6 +136,7 @@ private:
     std::string myExpandedText;                          // working memory
     std::vector<std::string> myOpenFiles; // of the file blocks around the current position, outermost first
     int myBlockDepth = 0;
+    bool myIsWritten = false;
     bool myHasWarnedOfFiles = false;
     bool myHasWarnedOfBlocks = false;
     DtTokenValues<DtFileWriter> myBaseTokens;

@@ -16,6 +16,7 @@
 #include "fileGenerator/projectFileWriter.h"
 #include "fileGenerator/relativePath.h"
 #include "fileGenerator/solutionsFileWriter.h"
+#include "fileGenerator/templateFiles.h"
 #include "fileGenerator/toolkitLayouts.h"
 #include "foundation/exception.h"
 #include "foundation/fileUtils.h"
@@ -136,6 +137,7 @@ DtOMTTree& DtOMTEnvWriter::tree() const
 int DtOMTEnvWriter::writeFile(const DtString& fomName)
 {
     tree();
+    const DtTemplateRun templates;
     startRun(fomName);
     makeDirectories();
     compileExportMacroName();

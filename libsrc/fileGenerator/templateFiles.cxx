@@ -1,5 +1,6 @@
 #include "fileGenerator/templateFiles.h"
 
+#include "fileGenerator/dataFile.h"
 #include "foundation/fileUtils.h"
 
 #include <algorithm>
@@ -10,6 +11,7 @@
 #include <string>
 #include <string_view>
 #include <sys/stat.h>
+#include <unordered_map>
 #include <utility>
 
 namespace
@@ -101,9 +103,7 @@ std::string markBlankPieces(std::string_view text, std::size_t pieceLimit)
     }
     return result;
 }
-} // namespace
-
-std::shared_ptr<const DtTemplateText> DtTemplateFileText(const DtString& name)
+std::shared_ptr<const DtTemplateText> textOfFile(const DtString& name)
 {
     static DtTextCache theCache;
     struct stat status = {};
@@ -120,21 +120,82 @@ std::shared_ptr<const DtTemplateText> DtTemplateFileText(const DtString& name)
     return text;
 }
 
-std::shared_ptr<const DtTemplateText> DtPreparedTemplateText(FILE* file, std::size_t pieceLimit)
+// The file is read from its start. What cannot be read again, such as a pipe, is left at its end.
+std::shared_ptr<const DtTemplateText> preparedText(FILE* file, std::size_t pieceLimit)
 {
     static DtTextCache theCache;
     struct stat status = {};
-    const bool isWholeFile =
-        std::ftell(file) == 0 && fstat(fileno(file), &status) == 0 && S_ISREG(status.st_mode) && status.st_size > 0;
+    const bool isRegular = fstat(fileno(file), &status) == 0 && S_ISREG(status.st_mode) && status.st_size > 0;
     const DtFileStamp stamp(status);
-    if (isWholeFile)
+    if (isRegular)
     {
-        const std::shared_ptr<const DtTemplateText> known = theCache.find(stamp, pieceLimit);
-        if (known != nullptr && std::fseek(file, 0, SEEK_END) == 0)
+        if (std::shared_ptr<const DtTemplateText> known = theCache.find(stamp, pieceLimit))
             return known;
+        std::rewind(file);
     }
     const auto text = std::make_shared<const DtTemplateText>(markBlankPieces(readRest(file), pieceLimit));
-    if (isWholeFile)
+    if (isRegular)
         theCache.store(stamp, pieceLimit, text);
     return text;
+}
+
+std::shared_ptr<FILE> openFile(const DtString& name)
+{
+    return std::shared_ptr<FILE>(DtFileOpen(DtDataFile(name).c_str(), "r"), DtFileClose);
+}
+
+// What a run has met.
+struct DtMetTemplates
+{
+    std::unordered_map<std::string, std::shared_ptr<FILE>> files;
+    std::unordered_map<std::string, std::shared_ptr<const DtTemplateText>> includedTexts;
+    // By piece limit too. The files stay open, so that no other one gets the place of one of them in memory.
+    std::map<std::pair<std::shared_ptr<FILE>, std::size_t>, std::shared_ptr<const DtTemplateText>> preparedTexts;
+};
+
+DtMetTemplates* theMetTemplates = nullptr; // null outside of a run
+} // namespace
+
+DtTemplateRun::DtTemplateRun() : myIsOutermost(theMetTemplates == nullptr)
+{
+    if (myIsOutermost)
+        theMetTemplates = new DtMetTemplates;
+}
+
+DtTemplateRun::~DtTemplateRun()
+{
+    if (!myIsOutermost)
+        return;
+    delete theMetTemplates;
+    theMetTemplates = nullptr;
+}
+
+std::shared_ptr<FILE> DtOpenTemplate(const DtString& name)
+{
+    if (theMetTemplates == nullptr)
+        return openFile(name);
+    const auto [found, isNew] = theMetTemplates->files.try_emplace(name.stdString());
+    if (isNew)
+        found->second = openFile(name);
+    return found->second;
+}
+
+std::shared_ptr<const DtTemplateText> DtPreparedTemplateText(const std::shared_ptr<FILE>& file, std::size_t pieceLimit)
+{
+    if (theMetTemplates == nullptr)
+        return preparedText(file.get(), pieceLimit);
+    const auto [found, isNew] = theMetTemplates->preparedTexts.try_emplace({file, pieceLimit});
+    if (isNew)
+        found->second = preparedText(file.get(), pieceLimit);
+    return found->second;
+}
+
+std::shared_ptr<const DtTemplateText> DtIncludedTemplateText(const DtString& name)
+{
+    if (theMetTemplates == nullptr)
+        return textOfFile(DtDataFile(name));
+    const auto [found, isNew] = theMetTemplates->includedTexts.try_emplace(name.stdString());
+    if (isNew)
+        found->second = textOfFile(DtDataFile(name));
+    return found->second;
 }

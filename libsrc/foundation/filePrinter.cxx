@@ -14,6 +14,10 @@ namespace
 {
 unsigned long theWriteCount = 0;
 
+// Of this many printers that collect, the files stay open; a process may have 1024.
+constexpr int theMostOpenFiles = 128;
+int theOpenFiles = 0;
+
 // Names written by this process and the count at which each was written last.
 std::unordered_map<std::string, unsigned long>& writeCounts()
 {
@@ -54,14 +58,11 @@ bool writeWhole(int descriptor, const char* text, std::size_t length)
 }
 
 // Leaves a file alone that holds the text already, so that its time stamp stays.
-bool updateFile(int descriptor, const std::string& text)
+bool updateFile(int descriptor, std::size_t size, const std::string& text)
 {
-    struct stat status = {};
-    if (fstat(descriptor, &status) != 0)
-        return false;
-    if (static_cast<std::size_t>(status.st_size) == text.size() && holdsText(descriptor, text))
+    if (size == text.size() && holdsText(descriptor, text))
         return true;
-    return (status.st_size == 0 || ftruncate(descriptor, 0) == 0) && writeWhole(descriptor, text.data(), text.size());
+    return (size == 0 || ftruncate(descriptor, 0) == 0) && writeWhole(descriptor, text.data(), text.size());
 }
 } // namespace
 
@@ -75,8 +76,9 @@ DtFilePrinter::DtFilePrinter(const char* name, Mode mode) : myName(name), myMode
         return;
     struct stat status = {};
     myIsFresh = fstat(myDescriptor, &status) == 0 && status.st_size == 0;
-    ::close(myDescriptor); // a generator holds many printers at once
-    myDescriptor = -1;
+    ++theOpenFiles;
+    if (theOpenFiles > theMostOpenFiles)
+        closeFile();
 }
 
 DtFilePrinter::~DtFilePrinter()
@@ -84,7 +86,16 @@ DtFilePrinter::~DtFilePrinter()
     if (myMode == Mode::Collect && myIsUsable)
         writeIfChanged();
     if (myDescriptor >= 0)
-        ::close(myDescriptor);
+        closeFile();
+}
+
+bool DtFilePrinter::closeFile()
+{
+    const int descriptor = myDescriptor;
+    myDescriptor = -1;
+    if (myMode == Mode::Collect)
+        --theOpenFiles;
+    return ::close(descriptor) == 0;
 }
 
 void DtFilePrinter::print(const char* text, std::size_t length)
@@ -104,17 +115,29 @@ void DtFilePrinter::flush()
 
 void DtFilePrinter::writeIfChanged()
 {
-    const auto lastWrite = writeCounts().find(myName.stdString());
-    const bool wasWrittenSince = lastWrite != writeCounts().end() && lastWrite->second > mySerial;
+    unsigned long& lastWrite = writeCounts()[myName.stdString()];
+    const bool wasWrittenSince = lastWrite > mySerial;
     if (myText.empty() && (wasWrittenSince || myIsFresh))
         return;
-    const int descriptor = openForWriting(myName, 0);
-    bool isGood = descriptor >= 0 && updateFile(descriptor, myText);
-    if (descriptor >= 0 && ::close(descriptor) != 0)
-        isGood = false;
-    writeCounts()[myName.stdString()] = ++theWriteCount;
-    if (!isGood)
+    lastWrite = ++theWriteCount;
+    if (!write())
         reportFailure("write");
+}
+
+bool DtFilePrinter::write()
+{
+    struct stat status = {};
+    if (myDescriptor >= 0 && fstat(myDescriptor, &status) == 0 && status.st_nlink == 0)
+        closeFile(); // somebody has removed or replaced the file
+    if (myDescriptor < 0)
+    {
+        myDescriptor = openForWriting(myName, 0);
+        if (myDescriptor < 0 || fstat(myDescriptor, &status) != 0)
+            return false;
+        ++theOpenFiles;
+    }
+    const bool isWritten = updateFile(myDescriptor, static_cast<std::size_t>(status.st_size), myText);
+    return closeFile() && isWritten;
 }
 
 void DtFilePrinter::reportFailure(const char* what)

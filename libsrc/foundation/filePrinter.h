@@ -12,6 +12,8 @@
 // is destroyed: a file that already holds exactly this text keeps its time stamp. A printer that received no text
 // leaves the file alone when another printer of this process has written it since, and empties it otherwise. A failed
 // open or write is named once on DtWarn; nothing is thrown.
+//
+// The file stays open in between, so that it is opened once, unless many are: a generator holds dozens of printers.
 class DtFilePrinter : public DtPrinter
 {
 public:
@@ -34,12 +36,14 @@ public:
 
 private:
     void writeIfChanged();
+    bool write();
+    bool closeFile();
     void reportFailure(const char* what);
 
     DtString myName;
     Mode myMode;
     std::string myText;
-    int myDescriptor = -1; // of the log file
+    int myDescriptor = -1; // of the open file
     bool myIsUsable = false;
     bool myIsFresh = false;     // made, or found empty, by this printer
     unsigned long mySerial = 0; // count of files written by this process when this printer was made

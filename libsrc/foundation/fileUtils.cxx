@@ -133,13 +133,19 @@ bool DtReadFile(const DtString& name, std::string& text)
 
 bool DtMakeDirectory(const DtFilename& directory)
 {
+    // The last directory alone is missing as a rule.
+    if (mkdir(directory.c_str(), 0777) == 0)
+        return true;
     DtString path(directory.isAbsolute() ? "/" : "");
-    for (const DtString& piece : DtSplit(directory, '/', DtEmptyPieces::Drop))
+    if (errno == ENOENT)
     {
-        path += piece;
-        if (mkdir(path.c_str(), 0777) != 0 && errno != EEXIST && errno != EROFS && errno != EACCES)
-            return false;
-        path += '/';
+        for (const DtString& piece : DtSplit(directory, '/', DtEmptyPieces::Drop))
+        {
+            path += piece;
+            if (mkdir(path.c_str(), 0777) != 0 && errno != EEXIST && errno != EROFS && errno != EACCES)
+                return false;
+            path += '/';
+        }
     }
     struct stat status = {};
     return directory.isEmpty() || (stat(directory.c_str(), &status) == 0 && S_ISDIR(status.st_mode));

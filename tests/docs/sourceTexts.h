@@ -28,7 +28,8 @@ inline QString plainText(QString literal)
 inline std::vector<DtSourceText> textsOfSource(const QString& source, const QString& file)
 {
     static const QRegularExpression theToken(
-        R"regex((?<skipped>//[^\n]*|/\*.*?\*/|'(?:\\.|[^'\\])'|\#\s*include[^\n]*|R"(?<delimiter>\w*)\(.*?\)\k<delimiter>"))regex"
+        R"regex((?<skipped>//[^\n]*|/\*.*?\*/|'(?:\\.|[^'\\])'|\#\s*include[^\n]*)regex"
+        R"regex(|R"(?<delimiter>\w*)\(.*?\)\k<delimiter>"))regex"
         R"regex(|"(?<text>(?:\\.|[^"\\\n])*)"|(?<end>[;{}])|(?<blank>\s+)|[\w$]+|.)regex",
         QRegularExpression::DotMatchesEverythingOption);
     std::vector<DtSourceText> texts;

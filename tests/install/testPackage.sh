@@ -165,7 +165,7 @@ test_kinds
 if [ -n "${QX_FULL-}" ]; then
     test_examples
     generator="Unix Makefiles"
-    rm -rf "$work"/*
+    rm -rf "${work:?}"/*
     test_example two
     test_stale_list
     test_kinds

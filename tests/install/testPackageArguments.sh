@@ -6,6 +6,12 @@
 prefix=$2
 . "$(dirname "${BASH_SOURCE[0]}")/packageProject.sh"
 
+keywords=$(sed -n 's/^    set(\(flags\|values\|lists\) \(.*\))$/\2/p' "$1/cmake/package/qxGenerateCpp.cmake")
+same allKeywordsAreFound 20 "$(wc -w <<<"$keywords")"
+for keyword in $keywords; do
+    check "argumentIsTold $keyword" grep -q "^|.*\`$keyword[\` ].* |" "$1/docs/cmake.md"
+done
+
 # All arguments, of which one asks for what a shell or a list of CMake would take apart.
 new_project all <<'END'
 qx_generate_cpp(TARGET rpr TYPE STATIC MODELS "a model.xml" sub/second.xml NAME "My RPR" PREFIX Ab NAMESPACE ns

@@ -198,6 +198,21 @@ rm own/dllExport.tlt
 must_build removedTemplateIsNoFault --target lax_qxgen
 holds_not removedTemplateIsGone "Of my own." "$(cat build/lax_qxgen/generated/dllExport.h)"
 
+# A project that asks for an old CMake has old policies; the package has its own.
+new_project old <<'END'
+qx_generate_cpp(TARGET t MODELS small.xml SELECT Buoy)
+END
+write_model small.xml Buoy
+sed -i 's/VERSION 3.20/VERSION 3.5/' CMakeLists.txt
+must_configure oldProjectConfigures
+holds_not oldProjectIsNotWarned Policy "$log"
+must_build oldProjectGenerates --target t_qxgen
+build --target t_qxgen
+holds_not oldProjectComparesRight Generating "$log"
+sed -i 's,</objectModel>,<!-- A remark. -->&,' small.xml
+build --target t_qxgen
+holds oldProjectLearnsOfChanges Generating "$log"
+
 # Names with blanks and marks, by either build tool; the second build has nothing to do.
 odd="it is (1) ä,b=c@d"
 for generator in Ninja "Unix Makefiles"; do

@@ -99,7 +99,8 @@ refused noTarget "one of TARGET and OUT_VAR has to be given." 'qx_generate_cpp(M
 refused targetAndVariable "one of TARGET and OUT_VAR" 'qx_generate_cpp(TARGET t OUT_VAR v MODELS small.xml)'
 refused typeWithoutLibrary "TYPE and TOOLKIT have no meaning" 'qx_generate_cpp(OUT_VAR v TYPE SHARED MODELS small.xml)'
 refused noModel "qx_generate_cpp(t): no model is given" 'qx_generate_cpp(TARGET t)'
-refused unknownType "TYPE is STATIC, SHARED or OBJECT, not MODULE." 'qx_generate_cpp(TARGET t TYPE MODULE MODELS small.xml)'
+refused unknownType "TYPE is STATIC, SHARED or OBJECT, not MODULE." \
+    'qx_generate_cpp(TARGET t TYPE MODULE MODELS small.xml)'
 refused takenName "there is a target of this name already." 'qx_generate_cpp(TARGET taken MODELS small.xml)'
 refused bracketInName "takes no brackets" 'qx_generate_cpp(TARGET t NAME "a[b" MODELS small.xml)'
 refused lineFeedInArgument "a line feed" 'qx_generate_cpp(TARGET t SELECT "a
@@ -110,7 +111,8 @@ refused patternWithoutClass 'qxgen: error: no class matches "Boy". Did you mean 
     'qx_generate_cpp(TARGET t MODELS small.xml SELECT Boy)'
 refused oneDirectoryForTwo "is that of another target." 'qx_generate_cpp(TARGET t MODELS small.xml OUT_DIR out)
 qx_generate_cpp(TARGET u MODELS small.xml OUT_DIR ./out/)'
-refused unknownToolkit "TOOLKIT names kit, which is no target here." 'qx_generate_cpp(TARGET t MODELS small.xml TOOLKIT kit)'
+refused unknownToolkit "TOOLKIT names kit, which is no target here." \
+    'qx_generate_cpp(TARGET t MODELS small.xml TOOLKIT kit)'
 refused modelCannotBeCheckedYet "qx_check_model() adds a test that runs qxgen check" 'qx_check_model(TARGET t)'
 holds remedyOfTheCheckIsTold "Leave the call out." "$log"
 

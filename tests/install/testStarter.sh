@@ -105,7 +105,8 @@ mv "$prefix" "$work/moved"
 prefix=$work/moved
 run
 check movedInstallationHasItsOwnRunDirectory test "$(ran_in)" != "$place"
-check linksLeadToTheMovedData test "$config/codeGenConfig.dtd" -ef "$prefix/share/quorvex-codegen/data/config/codeGenConfig.dtd"
+check linksLeadToTheMovedData \
+    test "$config/codeGenConfig.dtd" -ef "$prefix/share/quorvex-codegen/data/config/codeGenConfig.dtd"
 mv "$prefix" "$work/prefix"
 prefix=$work/prefix
 rm -rf "$HOME/.cache"
@@ -114,7 +115,8 @@ check lostCacheIsMadeAnew diff -r "$shipped/templates" "$data/templates"
 
 # Two users, and two starts at once.
 HOME=$work/second run
-check eachUserHasHisOwn test "$(ran_in)" != "$place" -a ! -e "$work/second/.config/quorvex-codegen/customCodeGenConfig.xml"
+check eachUserHasHisOwn \
+    test "$(ran_in)" != "$place" -a ! -e "$work/second/.config/quorvex-codegen/customCodeGenConfig.xml"
 third=$work/third
 for number in 1 2 3 4 5 6; do
     HOME=$third QX_NOTES=$work/notes$number "$prefix/bin/codeGen" >"$work/word$number" 2>&1 &

@@ -51,7 +51,7 @@ install(EXPORT qxToolkit NAMESPACE Qx:: FILE qxToolkitTargets.cmake DESTINATION 
 install(FILES ${PROJECT_SOURCE_DIR}/README.md ${PROJECT_SOURCE_DIR}/CHANGELOG.md DESTINATION ${QX_INSTALL_DOCDIR}
     COMPONENT doc)
 install(DIRECTORY ${PROJECT_SOURCE_DIR}/docs ${PROJECT_SOURCE_DIR}/examples DESTINATION ${QX_INSTALL_DOCDIR}
-    COMPONENT doc)
+    COMPONENT doc PATTERN build EXCLUDE) # where somebody has built an example
 
 add_custom_target(uninstall
     COMMAND ${CMAKE_COMMAND} -DMANIFESTS=${PROJECT_BINARY_DIR} -P ${PROJECT_SOURCE_DIR}/cmake/uninstall.cmake

@@ -202,9 +202,10 @@ holds_not removedTemplateIsGone "Of my own." "$(cat build/lax_qxgen/generated/dl
 
 # A project that asks for an old CMake has old policies; the package has its own.
 new_project old <<'END'
-qx_generate_cpp(TARGET t MODELS small.xml SELECT Buoy)
+qx_generate_cpp(TARGET t MODELS small.xml SELECT Buoy DEPENDS further.txt)
 END
 write_model small.xml Buoy
+touch further.txt
 sed -i 's/VERSION 3.20/VERSION 3.5/' CMakeLists.txt
 must_configure oldProjectConfigures
 holds_not oldProjectIsNotWarned Policy "$log"
@@ -214,6 +215,9 @@ holds_not oldProjectComparesRight Generating "$log"
 sed -i 's,</objectModel>,<!-- A remark. -->&,' small.xml
 build --target t_qxgen
 holds oldProjectLearnsOfChanges Generating "$log"
+touch further.txt
+build --target t_qxgen
+holds furtherDependencyStartsTheGenerator Generating "$log"
 
 # Names with blanks and marks, by either build tool; the second build has nothing to do.
 odd="it is (1) ä,b=c@d"

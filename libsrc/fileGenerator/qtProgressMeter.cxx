@@ -2,18 +2,30 @@
 
 #include "foundation/exception.h"
 
-#include <QtCore/QRegularExpression>
 #include <QtCore/QString>
 #include <QtWidgets/QStyle>
 
 namespace
 {
 constexpr int theWidth = 300;              // pixels
-constexpr qint64 thePaintingInterval = 20; // milliseconds
-const QRegularExpression theSeparators(QStringLiteral("[ /]"));
+constexpr qint64 thePaintingInterval = 40; // milliseconds
 constexpr const char* theTitle = "Generating files...";
 constexpr const char* theNoDialogMessage = "Need to setTotalMeasure() before using";
+
+// Behind which the label may break a line; -1 when there is none.
+int nextSeparator(const QString& text, int from)
+{
+    for (int at = from; at < text.size(); ++at)
+        if (text[at] == ' ' || text[at] == '/')
+            return at;
+    return -1;
+}
 } // namespace
+
+bool DtIsPaintingDue(qint64 elapsed, const QString& platform)
+{
+    return elapsed >= thePaintingInterval && platform != QLatin1String("offscreen");
+}
 
 // Each operation that needs the dialog names itself in the exception.
 #define CHECK_DIALOG()                                                                                                 \
@@ -122,6 +134,7 @@ void DtQtProgressMeter::makeDialog()
     myLabel->setWordWrap(true);
     myDialog->setLabel(myLabel);
     myDialog->setFixedWidth(theWidth);
+    myCharacterWidths.fill(0);
     const int twoLines = 2 * myLabel->fontMetrics().lineSpacing(); // most names need one of their own
     myDialog->setFixedHeight(myDialog->sizeHint().height() - myLabel->sizeHint().height() + twoLines);
     myDialog->setWindowTitle(theTitle);
@@ -150,18 +163,53 @@ void DtQtProgressMeter::showLabel(const DtString& text)
 }
 
 // The label breaks lines behind blanks and slashes; what is wider than a line between these loses its middle.
-QString DtQtProgressMeter::fitted(const QString& text) const
+QString DtQtProgressMeter::fitted(const QString& text)
 {
     const int margins = myDialog->style()->pixelMetric(QStyle::PM_LayoutLeftMargin) +
                         myDialog->style()->pixelMetric(QStyle::PM_LayoutRightMargin);
     QString result;
     for (int at = 0, end = 0; at < text.size(); at = end)
     {
-        const int separator = text.indexOf(theSeparators, at);
+        const int separator = nextSeparator(text, at);
         end = separator < 0 ? text.size() : separator + 1;
-        result += myLabel->fontMetrics().elidedText(text.mid(at, end - at), Qt::ElideMiddle, theWidth - margins);
+        result += shortened(text.mid(at, end - at), theWidth - margins);
     }
     return result;
+}
+
+// By the widths of single characters, each with room for what differs when they stand together: to lay the text out, as
+// the library does for this, takes as long as to write a small file.
+QString DtQtProgressMeter::shortened(const QString& piece, int width)
+{
+    int whole = 0;
+    for (const QChar character : piece)
+        whole += widthOf(character);
+    if (whole < width)
+        return piece;
+    const QChar ellipsis(0x2026);
+    int left = width - widthOf(ellipsis);
+    int front = 0;
+    int back = 0;
+    while (front + back < piece.size())
+    {
+        const bool isFront = front <= back;
+        left -= widthOf(isFront ? piece[front] : piece[piece.size() - 1 - back]);
+        if (left < 0)
+            break;
+        ++(isFront ? front : back);
+    }
+    return piece.left(front) + ellipsis + piece.right(back);
+}
+
+int DtQtProgressMeter::widthOf(QChar character)
+{
+    const std::size_t code = character.unicode();
+    if (code >= myCharacterWidths.size())
+        return myLabel->fontMetrics().horizontalAdvance(character) + 1;
+    int& known = myCharacterWidths[code];
+    if (known == 0)
+        known = myLabel->fontMetrics().horizontalAdvance(character) + 1;
+    return known;
 }
 
 // Not behind a pressed Cancel, which hides the dialog: until the run ends, the window would be open to the user.
@@ -169,7 +217,7 @@ void DtQtProgressMeter::processEvents()
 {
     if (!myDialog.isNull() && myDialog->wasCanceled())
         return;
-    const bool isPaintingDue = mySincePainted.hasExpired(thePaintingInterval);
+    const bool isPaintingDue = DtIsPaintingDue(mySincePainted.elapsed(), QGuiApplication::platformName());
     if (isPaintingDue && !myDialog.isNull())
         myDialog->setUpdatesEnabled(true);
     QApplication::processEvents();

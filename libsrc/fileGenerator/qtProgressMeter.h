@@ -10,12 +10,14 @@
 #include <QtWidgets/QLabel>
 #include <QtWidgets/QProgressDialog>
 
+#include <array>
+
 // Progress of a generation run in a modal dialog; one object for the whole process.
 //
 // Generation runs on the event loop's thread, so every update also processes pending events. The window calls init()
 // ahead of a run and reset() after it; the driver calls setTotalMeasure() and then the update operations, and polls
 // isCancelled(). A dialog that goes down with its parent counts as none. Label and value are set at every update, but
-// the dialog is painted every 20 ms at most.
+// the dialog is painted 25 times a second at most, and once only where nobody can see it.
 class DtQtProgressMeter : public DtProgressMeter
 {
 public:
@@ -49,7 +51,9 @@ private:
     void showMeasure();
     void noteCancel();
     void showLabel(const DtString& text);
-    QString fitted(const QString& text) const;
+    QString fitted(const QString& text);
+    QString shortened(const QString& piece, int width);
+    int widthOf(QChar character);
     void processEvents();
     void suspendPainting();
 
@@ -63,6 +67,10 @@ private:
     bool myIsCancelled = false;
     bool myIsInitialized = false;
     QElapsedTimer mySincePainted;
+    std::array<int, 128> myCharacterWidths = {}; // by ASCII code, in the font of the label; 0 until it is asked for
 };
+
+// When a dialog that was painted that many milliseconds ago is to be painted again; the platform is that of Qt.
+bool DtIsPaintingDue(qint64 elapsed, const QString& platform);
 
 #endif

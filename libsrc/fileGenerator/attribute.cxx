@@ -30,175 +30,190 @@ DtString withoutBlanks(const DtString& text)
 
 } // namespace
 
-DtAttribute::DtAttribute(const DtString& name, const DtString& type) : myName(name), myType(type)
+DtAttribute::DtAttribute(const DtString& name, const DtString& type)
 {
+    DtContent& content = change();
+    content.name = name;
+    content.type = type;
     markEnumeration();
     DtAttribute::obtainNetType();
 }
 
 const DtString& DtAttribute::name() const
 {
-    return myName;
+    return myContent->name;
 }
 
 const DtString& DtAttribute::type() const
 {
-    return myType;
+    return myContent->type;
+}
+
+DtAttribute::DtContent& DtAttribute::change()
+{
+    DtContent& content = myContent.change();
+    content.notes.reset();
+    return content;
+}
+
+void DtAttribute::keepNotes(std::shared_ptr<DtAttributeNotes> notes)
+{
+    change().notes = std::move(notes);
 }
 
 void DtAttribute::setType(const DtString& type)
 {
-    myType = type;
+    change().type = type;
     markEnumeration();
     obtainNetType();
 }
 
 void DtAttribute::setCardinality(const DtString& text)
 {
-    myCardinality = text;
-    myNonVectorType = myType;
+    change().cardinality = text;
+    change().nonVectorType = myContent->type;
     if (DtContainsSubstring(text, "Dynamic"))
-        myHasPlusCardinality = true;
+        change().hasPlusCardinality = true;
     if (DtContainsSubstring(text, "+"))
-        myHasPlusCardinality = true;
+        change().hasPlusCardinality = true;
     else if (DtContainsSubstring(text, "-"))
         setVariantCardinality(text);
     else if (const int count = text.toInt())
-        myNumericalCardinality = count;
+        change().numericalCardinality = count;
 }
 
 const DtString& DtAttribute::cardinality() const
 {
-    return myCardinality;
+    return myContent->cardinality;
 }
 
 void DtAttribute::setDatatype(const DtString& name)
 {
-    myDatatype = name;
+    change().datatype = name;
     setLittleEndian(DtDataTypeMapper::instance()->isLittleEndian(name));
     obtainNetType();
 }
 
 const DtString& DtAttribute::datatype() const
 {
-    return myDatatype;
+    return myContent->datatype;
 }
 
 void DtAttribute::setDatatypeDatatype(const DtString& name)
 {
-    myDatatypeDatatype = name;
+    change().datatypeDatatype = name;
 }
 
 const DtString& DtAttribute::datatypeDatatype() const
 {
-    return myDatatypeDatatype;
+    return myContent->datatypeDatatype;
 }
 
 void DtAttribute::setEncoding(const DtString& encoding)
 {
-    myEncoding = encoding;
+    change().encoding = encoding;
 }
 
 const DtString& DtAttribute::encoding() const
 {
-    return myEncoding;
+    return myContent->encoding;
 }
 
 const DtString& DtAttribute::netType() const
 {
-    return myNetType;
+    return myContent->netType;
 }
 
 bool DtAttribute::hasPlusCardinality() const
 {
-    return myHasPlusCardinality;
+    return myContent->hasPlusCardinality;
 }
 
 bool DtAttribute::isEnumeration() const
 {
-    return myIsEnumeration;
+    return myContent->isEnumeration;
 }
 
 bool DtAttribute::isVariant() const
 {
-    return myIsVariant;
+    return myContent->isVariant;
 }
 
 int DtAttribute::numericalCardinality() const
 {
-    return myNumericalCardinality;
+    return myContent->numericalCardinality;
 }
 
 const DtString& DtAttribute::nonVectorType() const
 {
-    return myNonVectorType;
+    return myContent->nonVectorType;
 }
 
 DtString DtAttribute::netSizeString() const
 {
     const DtDataTypeMapper& mapper = *DtDataTypeMapper::instance();
-    const bool isArray = myNumericalCardinality > 1;
-    const DtString factor = isArray ? DtString(myNumericalCardinality) + " * " : DtString();
-    if (myType == "DtString" || myType == "DtGlobalObjectDesignator")
-        return factor + "my" + myName + ".length() + 1";
-    if (!mapper.initialValueFromType(myType).isEmpty() || mapper.isKnownType(myType))
-        return factor + "sizeof(" + myNetType + ")";
-    return factor + "my" + myName + (isArray ? "[0]" : "") + ".netSize()";
+    const bool isArray = myContent->numericalCardinality > 1;
+    const DtString factor = isArray ? DtString(myContent->numericalCardinality) + " * " : DtString();
+    if (myContent->type == "DtString" || myContent->type == "DtGlobalObjectDesignator")
+        return factor + "my" + myContent->name + ".length() + 1";
+    if (!mapper.initialValueFromType(myContent->type).isEmpty() || mapper.isKnownType(myContent->type))
+        return factor + "sizeof(" + myContent->netType + ")";
+    return factor + "my" + myContent->name + (isArray ? "[0]" : "") + ".netSize()";
 }
 
 const DtString& DtAttribute::discrimininant() const
 {
-    return myDiscriminant;
+    return myContent->discriminant;
 }
 
 const DtString& DtAttribute::discrimininantValue() const
 {
-    return myDiscriminantValue;
+    return myContent->discriminantValue;
 }
 
 void DtAttribute::setDiscriminantValue(const DtString& value)
 {
-    myDiscriminantValue = value;
+    change().discriminantValue = value;
 }
 
 void DtAttribute::setIsFloat(bool isFloat)
 {
-    myIsFloat = isFloat;
+    change().isFloat = isFloat;
 }
 
 bool DtAttribute::isFloat() const
 {
-    return myIsFloat;
+    return myContent->isFloat;
 }
 
 void DtAttribute::setLittleEndian(bool littleEndian)
 {
-    myIsLittleEndian = littleEndian;
+    change().isLittleEndian = littleEndian;
 }
 
 bool DtAttribute::isLittleEndian() const
 {
-    return myIsLittleEndian;
+    return myContent->isLittleEndian;
 }
 
 void DtAttribute::obtainNetType()
 {
-    if (myIsEnumeration)
+    if (myContent->isEnumeration)
         return obtainEnumerationNetType();
-    if (myType == "bool" && myDatatype == "HLAboolean")
+    if (myContent->type == "bool" && myContent->datatype == "HLAboolean")
     {
-        myNetType = "DtNetU32";
+        change().netType = "DtNetU32";
         return;
     }
     for (const DtNetTypeRow& row : theNetTypes)
     {
-        if (myType == row.type)
+        if (myContent->type == row.type)
         {
-            myNetType = row.netType;
+            change().netType = row.netType;
             return;
         }
     }
-    myNetType = DtReplaceSubstring(myType, "Dt", myIsLittleEndian ? "DtLE" : "DtNet");
+    change().netType = DtReplaceSubstring(myContent->type, "Dt", myContent->isLittleEndian ? "DtLE" : "DtNet");
 }
 
 // The type is tested without its "Dt", and again with a small first letter: the mapper knows enumerations by the names
@@ -206,29 +221,30 @@ void DtAttribute::obtainNetType()
 void DtAttribute::markEnumeration()
 {
     const DtDataTypeMapper& mapper = *DtDataTypeMapper::instance();
-    const DtString name = myType.startsWith("Dt") ? DtString(myType.stdString().substr(2)) : myType;
+    const DtString name =
+        myContent->type.startsWith("Dt") ? DtString(myContent->type.stdString().substr(2)) : myContent->type;
     if (mapper.isEnumeration(name) || mapper.isEnumeration(DtFirstCharToLowerConditional(name)))
-        myIsEnumeration = true;
+        change().isEnumeration = true;
 }
 
 // "0-1 (discriminant=value)": what stands in the last parentheses counts. Anything but one equals sign is no condition.
 void DtAttribute::setVariantCardinality(const DtString& text)
 {
-    myIsVariant = true;
+    change().isVariant = true;
     DtString condition = text;
     condition.snipFrontToLast('(');
     const std::vector<DtString> parts = DtSplit(DtReplaceAllSubstrings(condition, ")", ""), '=', DtEmptyPieces::Keep);
     if (parts.size() != 2)
         return;
-    myDiscriminant = withoutBlanks(parts[0]);
-    myDiscriminantValue = withoutBlanks(parts[1]);
+    change().discriminant = withoutBlanks(parts[0]);
+    change().discriminantValue = withoutBlanks(parts[1]);
 }
 
 void DtAttribute::obtainEnumerationNetType()
 {
     const DtDataTypeMapper& mapper = *DtDataTypeMapper::instance();
-    if (mapper.isKnownType(myType) && !myNetType.isEmpty())
+    if (mapper.isKnownType(myContent->type) && !myContent->netType.isEmpty())
         return;
-    const DtString& size = mapper.enumerationSize(myType);
-    myNetType = size.isEmpty() ? DtString("DtNetU32") : "DtNetU" + size;
+    const DtString& size = mapper.enumerationSize(myContent->type);
+    change().netType = size.isEmpty() ? DtString("DtNetU32") : "DtNetU" + size;
 }

@@ -1,22 +1,30 @@
 #ifndef FILE_GENERATOR_ATTRIBUTE_H
 #define FILE_GENERATOR_ATTRIBUTE_H
 
+#include "foundation/sharedValue.h"
 #include "foundation/string.h"
+
+#include <memory>
+
+// What others have worked out from an attribute and keep with it.
+class DtAttributeNotes
+{
+public:
+    virtual ~DtAttributeNotes() = default;
+};
 
 // One attribute, parameter or record member on its way into a template.
 //
 // Built from the model's name and the target type. The wire type follows from type, datatype and endianness and is
 // worked out again by each setter that can change it; the mapper answers what is an enumeration and what is
-// little-endian. A plain value: every writer holds a copy of its own. Callers set cardinality, datatype, encoding and
-// datatype's datatype in that order.
+// little-endian. A plain value whose copies share what they hold until one of them is changed: every writer has a copy
+// of its own. Callers set cardinality, datatype, encoding and datatype's datatype in that order.
 class DtAttribute
 {
 public:
     DtAttribute(const DtString& name, const DtString& type);
     DtAttribute(const DtAttribute&) = default;
-    DtAttribute(DtAttribute&&) = default;
     DtAttribute& operator=(const DtAttribute&) = default;
-    DtAttribute& operator=(DtAttribute&&) = default;
     virtual ~DtAttribute() = default;
 
     virtual const DtString& name() const;
@@ -57,27 +65,39 @@ public:
     virtual bool isLittleEndian() const;
     virtual void obtainNetType();
 
+    // Copies made from here on have the same notes; one that is changed has none. Null when none are kept.
+    void keepNotes(std::shared_ptr<DtAttributeNotes> notes);
+    DtAttributeNotes* notes() const { return myContent->notes.get(); }
+
 private:
+    struct DtContent
+    {
+        DtString name;
+        DtString type;
+        DtString cardinality;
+        DtString netType;
+        DtString nonVectorType;
+        bool hasPlusCardinality = false;
+        bool isEnumeration = false;
+        bool isVariant = false;
+        bool isLittleEndian = false;
+        bool isFloat = false;
+        int numericalCardinality = 1;
+        DtString discriminant;
+        DtString discriminantValue;
+        DtString datatype;
+        DtString datatypeDatatype;
+        DtString encoding;
+        std::shared_ptr<DtAttributeNotes> notes;
+    };
+
+    // The content of this one alone, without notes.
+    DtContent& change();
     void markEnumeration();
     void setVariantCardinality(const DtString& text);
     void obtainEnumerationNetType();
 
-    DtString myName;
-    DtString myType;
-    DtString myCardinality;
-    DtString myNetType;
-    DtString myNonVectorType;
-    bool myHasPlusCardinality = false;
-    bool myIsEnumeration = false;
-    bool myIsVariant = false;
-    bool myIsLittleEndian = false;
-    int myNumericalCardinality = 1;
-    DtString myDiscriminant;
-    DtString myDiscriminantValue;
-    DtString myDatatype;
-    DtString myDatatypeDatatype;
-    DtString myEncoding;
-    bool myIsFloat = false;
+    DtSharedValue<DtContent> myContent;
 };
 
 #endif

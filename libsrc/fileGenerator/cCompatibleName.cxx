@@ -2,7 +2,7 @@
 
 #include "foundation/stringUtils.h"
 
-#include <cstring>
+#include <algorithm>
 #include <string_view>
 #include <unordered_set>
 
@@ -14,26 +14,20 @@ const unsigned int theKeptPart = 50;
 
 // The words that get an underscore. They are those of another language than the generated one; the names in the output
 // depend on this list.
-const char* const keywords[] = {
-    "abstract",   "as",        "base",     "break",    "case",         "catch",    "checked",  "class",
-    "const",      "continue",  "decimal",  "default",  "delegate",     "do",       "else",     "enum",
-    "event",      "explicit",  "extern",   "false",    "finally",      "fixed",    "for",      "foreach",
-    "goto",       "if",        "implicit", "in",       "interface",    "internal", "is",       "lock",
-    "namespace",  "new",       "null",     "object",   "operator",     "out",      "override", "params",
-    "private",    "protected", "public",   "readonly", "ref",          "return",   "sealed",   "sizeof",
-    "stackalloc", "static",    "struct",   "switch",   "this",         "throw",    "true",     "try",
-    "typeof",     "unchecked", "unsafe",   "using",    "using static", "virtual",  "volatile", "while",
-    "", // end
-};
-
 bool isTableWord(const DtString& text)
 {
-    for (const char* const* word = keywords; **word != '\0'; ++word)
-    {
-        if (std::strcmp(*word, text.c_str()) == 0)
-            return true;
-    }
-    return false;
+    static const std::unordered_set<std::string_view> theWords = {
+        "abstract",   "as",        "base",     "break",    "case",         "catch",    "checked",  "class",
+        "const",      "continue",  "decimal",  "default",  "delegate",     "do",       "else",     "enum",
+        "event",      "explicit",  "extern",   "false",    "finally",      "fixed",    "for",      "foreach",
+        "goto",       "if",        "implicit", "in",       "interface",    "internal", "is",       "lock",
+        "namespace",  "new",       "null",     "object",   "operator",     "out",      "override", "params",
+        "private",    "protected", "public",   "readonly", "ref",          "return",   "sealed",   "sizeof",
+        "stackalloc", "static",    "struct",   "switch",   "this",         "throw",    "true",     "try",
+        "typeof",     "unchecked", "unsafe",   "using",    "using static", "virtual",  "volatile", "while",
+    };
+    constexpr unsigned int theLongestWord = 12;
+    return text.length() <= theLongestWord && theWords.count(text.c_str()) != 0;
 }
 
 DtString withoutTableWord(const DtString& name)
@@ -64,9 +58,12 @@ const char* replacementFor(char character)
 
 DtString withoutSpecialCharacters(const DtString& text)
 {
+    const std::string& source = text.stdString();
+    if (std::none_of(source.begin(), source.end(), [](char each) { return replacementFor(each) != nullptr; }))
+        return text;
     std::string result;
     result.reserve(text.length());
-    for (const char character : text.stdString())
+    for (const char character : source)
     {
         if (const char* replacement = replacementFor(character))
             result += replacement;

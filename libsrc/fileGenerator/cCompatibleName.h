@@ -16,8 +16,7 @@ bool isCPlusPlusKeyword(const DtString& text);
 class DtCCompatibleNames
 {
 public:
-    // The identifier form. Words of the table `keywords` get a leading underscore; that table is not the one of
-    // isCPlusPlusKeyword.
+    // The identifier form. Words of a table get a leading underscore; that table is not the one of isCPlusPlusKeyword.
     DtString MakeCCompatibleString(const DtString& text);
     // The same at its whole length, which takes no number.
     static DtString wholeIdentifier(const DtString& text);

@@ -507,10 +507,11 @@ DtAccessorNames DtClassFileWriter::accessorNamesOf(const DtString& attribute, Dt
 
 void DtClassFileWriter::setCurrentAttribute(const DtAttribute* attribute)
 {
-    mySizeTokens.setContext(attribute);
+    auto* const common = attribute != nullptr ? static_cast<DtAttributeValues*>(attribute->notes()) : nullptr;
+    mySizeTokens.setContext(attribute, common != nullptr ? &common->sizes : nullptr);
     myNumberToken.setContext(attribute != nullptr ? &myAttributeCounter : nullptr);
-    myAttributeTokens.setContext(attribute);
-    myEncodingTokens.setContext(attribute);
+    myAttributeTokens.setContext(attribute, common != nullptr ? &common->attribute : nullptr);
+    myEncodingTokens.setContext(attribute, common != nullptr ? &common->encodings : nullptr);
     myLongNamesAreNumbered = false;
 }
 

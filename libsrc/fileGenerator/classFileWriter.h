@@ -18,6 +18,15 @@ struct DtAccessorNames
     DtString setter; // behind "set"
 };
 
+// The values of the tokens of an attribute, which are the same in all files of its class. The generator of the class
+// keeps them with the attribute: nothing that they are made of changes between these files.
+struct DtAttributeValues : DtAttributeNotes
+{
+    std::vector<DtTokenValue> sizes;
+    std::vector<DtTokenValue> attribute;
+    std::vector<DtTokenValue> encodings;
+};
+
 // Expands the templates of everything that is generated once for each class or datatype of the model.
 //
 // Adds to DtFileWriter the names, the attributes and the project of one class, the tokens made from them and the loops

@@ -48,6 +48,7 @@ DtAttribute DtFileGenerator::addToWriters(const DtString& name, const DtString& 
     // Behind the cardinality: it works out the wire type again, now with the byte order of the datatype.
     attribute.setDatatype(datatype);
     attribute.setDatatypeDatatype(lastRepresentation(datatype));
+    attribute.keepNotes(std::make_shared<DtAttributeValues>());
     for (const auto& writer : myWriters)
         writer->addAttribute(attribute);
     return attribute;

@@ -2,6 +2,7 @@
 #define FILE_GENERATOR_OMT_CLASS_H
 
 #include "fileGenerator/omtNode.h"
+#include "foundation/sharedValue.h"
 
 #include <set>
 
@@ -18,11 +19,11 @@ protected:
         (key.*setOwner)(myFullName);
         key.setName(name);
         key.setFullName(name);
-        const auto found = myMembers.find(key);
-        return found != myMembers.end() ? *found : key;
+        const auto found = myMembers->find(key);
+        return found != myMembers->end() ? *found : key;
     }
 
-    std::set<Member> myMembers;
+    DtSharedValue<std::set<Member>> myMembers;
 };
 
 #endif

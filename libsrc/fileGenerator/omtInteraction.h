@@ -8,10 +8,10 @@
 class DtOmtInteraction : public DtOmtClass<DtOmtParameter>
 {
 public:
-    virtual void setParameters(const std::set<DtOmtParameter>& parameters) { myMembers = parameters; }
-    virtual const std::set<DtOmtParameter>& parameters() const { return myMembers; }
+    virtual void setParameters(const std::set<DtOmtParameter>& parameters) { myMembers.change() = parameters; }
+    virtual const std::set<DtOmtParameter>& parameters() const { return *myMembers; }
     // Changes nothing when a parameter of that name is there.
-    virtual void addParameter(const DtOmtParameter& parameter) { myMembers.insert(parameter); }
+    virtual void addParameter(const DtOmtParameter& parameter) { myMembers.change().insert(parameter); }
     // An unknown name gives a new record with that name, so noGen is false and there is no rename.
     virtual DtOmtParameter getParameterFromName(const DtString& name) const
     {

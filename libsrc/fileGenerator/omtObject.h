@@ -9,9 +9,9 @@ class DtOmtObject : public DtOmtClass<DtOmtAttribute>
 {
 public:
     // Changes nothing when an attribute of that name is there.
-    virtual void addAttribute(const DtOmtAttribute& attribute) { myMembers.insert(attribute); }
-    virtual void setAttributes(const std::set<DtOmtAttribute>& attributes) { myMembers = attributes; }
-    virtual const std::set<DtOmtAttribute>& attributes() const { return myMembers; }
+    virtual void addAttribute(const DtOmtAttribute& attribute) { myMembers.change().insert(attribute); }
+    virtual void setAttributes(const std::set<DtOmtAttribute>& attributes) { myMembers.change() = attributes; }
+    virtual const std::set<DtOmtAttribute>& attributes() const { return *myMembers; }
     // An unknown name gives a new record with that name, so noGen is false and there is no rename.
     virtual DtOmtAttribute getAttributeFromName(const DtString& name) const
     {

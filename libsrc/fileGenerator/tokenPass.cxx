@@ -158,18 +158,37 @@ std::uint32_t DtTokenIndex::hashOf(std::string_view text)
     return static_cast<std::uint32_t>(hash);
 }
 
-DtTokenSource::Entry& DtTokenSource::entry(int row)
+const DtTokenValue& DtTokenSource::known(int row)
 {
+    const std::size_t place = static_cast<std::size_t>(row);
+    if (myCommonValues != nullptr)
+        return knownInCommon(place);
     if (myEntries.empty())
         myEntries.resize(static_cast<std::size_t>(myIndex->size()));
-    Entry& found = myEntries[static_cast<std::size_t>(row)];
-    if (found.generation != myGeneration)
+    Entry& entry = myEntries[place];
+    if (entry.generation != myGeneration)
     {
-        found.text = workOut(row);
-        found.isQuiet = DtCompiledLine::isQuiet(found.text.stdString());
-        found.generation = myGeneration;
+        workOut(row, entry.value);
+        entry.generation = myGeneration;
     }
-    return found;
+    return entry.value;
+}
+
+const DtTokenValue& DtTokenSource::knownInCommon(std::size_t row)
+{
+    if (myCommonValues->empty())
+        myCommonValues->resize(static_cast<std::size_t>(myIndex->size()));
+    DtTokenValue& value = (*myCommonValues)[row];
+    if (!value.isKnown)
+        workOut(static_cast<int>(row), value);
+    return value;
+}
+
+void DtTokenSource::workOut(int row, DtTokenValue& value) const
+{
+    value.text = workOut(row);
+    value.isQuiet = DtCompiledLine::isQuiet(value.text.stdString());
+    value.isKnown = true;
 }
 
 void DtTokenSource::workOutAll()
@@ -313,14 +332,5 @@ void DtExpandTokensInOrder(DtString& line, DtTokenSource* const* chain, std::siz
 
 void DtAssignText(DtString& target, std::string_view text)
 {
-    char buffer[512];
-    if (text.size() >= sizeof buffer || text.find('\0') != theNowhere)
-    {
-        target = DtString(std::string(text));
-        return;
-    }
-    text.copy(buffer, text.size());
-    buffer[text.size()] = '\0';
-    target = DtString::nullString(); // emptied and filled again, the target keeps its memory
-    target += buffer;
+    target.assign(text);
 }

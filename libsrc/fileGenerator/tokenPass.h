@@ -68,9 +68,18 @@ enum class DtTokenMemory
     OneLine       // they follow from something that nobody announces
 };
 
+// A value, once it has been worked out.
+struct DtTokenValue
+{
+    DtString text;
+    bool isKnown = false;
+    bool isQuiet = true;
+};
+
 // One link of a chain: a table's index with the values of one context.
 //
-// A value is worked out when it is first asked for and kept until clear(), which costs next to nothing.
+// A value is worked out when it is first asked for and kept until clear(), which costs next to nothing. Values that
+// several sources have in common are kept elsewhere, and are not cleared.
 class DtTokenSource
 {
 public:
@@ -87,9 +96,9 @@ public:
     // Whether its tokens are replaced at present. They stay in the text while they are not.
     virtual bool isActive() const { return true; }
     // Valid until clear().
-    const DtString& value(int row) { return entry(row).text; }
+    const DtString& value(int row) { return known(row).text; }
     // Whether the value brings about nothing new to replace, see DtCompiledLine.
-    bool isQuiet(int row) { return entry(row).isQuiet; }
+    bool isQuiet(int row) { return known(row).isQuiet; }
     // Forgets all values: the context, or something that values are made of, is another one now.
     void clear() { ++myGeneration; }
     // Works out every value that is not known yet, in row order, for values whose working out has an effect.
@@ -97,20 +106,25 @@ public:
 
 protected:
     virtual DtString workOut(int row) const = 0;
+    // Has the values kept there, which is empty at first, or in the source itself again when it is null. The values
+    // there do not depend on the source.
+    void keepValuesIn(std::vector<DtTokenValue>* values) { myCommonValues = values; }
 
 private:
     struct Entry
     {
-        DtString text;
+        DtTokenValue value;
         std::uint64_t generation = 0;
-        bool isQuiet = true;
     };
 
-    Entry& entry(int row);
+    const DtTokenValue& known(int row);
+    const DtTokenValue& knownInCommon(std::size_t row);
+    void workOut(int row, DtTokenValue& value) const;
 
     const DtTokenIndex* myIndex;
     DtTokenMemory myMemory;
     std::vector<Entry> myEntries; // made at first use
+    std::vector<DtTokenValue>* myCommonValues = nullptr;
     std::uint64_t myGeneration = 1;
 };
 
@@ -158,10 +172,12 @@ public:
     }
     bool isActive() const override { return myContext != nullptr && myTable->counts(*myContext); }
 
-    // Binds to another context, or to the same one after it has changed, and forgets all values.
-    void setContext(const Context* context)
+    // Binds to another context, or to the same one after it has changed, and forgets all values. They are kept with
+    // the context if it has a place for them.
+    void setContext(const Context* context, std::vector<DtTokenValue>* common = nullptr)
     {
         myContext = context;
+        keepValuesIn(common);
         clear();
     }
     const Context* context() const { return myContext; }

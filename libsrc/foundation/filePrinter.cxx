@@ -9,6 +9,8 @@
 #include <sys/stat.h>
 #include <unistd.h>
 #include <unordered_map>
+#include <utility>
+#include <vector>
 
 namespace
 {
@@ -23,6 +25,32 @@ std::unordered_map<std::string, unsigned long>& writeCounts()
 {
     static std::unordered_map<std::string, unsigned long> theWriteCounts;
     return theWriteCounts;
+}
+
+// Memory of texts that are written, for the next ones. Never destroyed: the last printers may go with the process.
+std::vector<std::string>& spareTexts()
+{
+    static auto* const theSpareTexts = new std::vector<std::string>;
+    return *theSpareTexts;
+}
+
+std::string takeSpareText()
+{
+    if (spareTexts().empty())
+        return std::string();
+    std::string text = std::move(spareTexts().back());
+    spareTexts().pop_back();
+    return text;
+}
+
+void keepSpareText(std::string text)
+{
+    constexpr std::size_t theMostSpareTexts = 64;
+    constexpr std::size_t theLargestSpareText = 1u << 18;
+    if (spareTexts().size() >= theMostSpareTexts || text.capacity() > theLargestSpareText)
+        return;
+    text.clear();
+    spareTexts().push_back(std::move(text));
 }
 
 int openForWriting(const DtString& name, int flags)
@@ -66,7 +94,8 @@ bool updateFile(int descriptor, std::size_t size, const std::string& text)
 }
 } // namespace
 
-DtFilePrinter::DtFilePrinter(const char* name, Mode mode) : myName(name), myMode(mode), mySerial(theWriteCount)
+DtFilePrinter::DtFilePrinter(const char* name, Mode mode)
+    : myName(name), myMode(mode), myText(takeSpareText()), mySerial(theWriteCount)
 {
     myDescriptor = openForWriting(myName, mode == Mode::WriteThrough ? O_TRUNC | O_APPEND : 0);
     myIsUsable = myDescriptor >= 0;
@@ -87,6 +116,7 @@ DtFilePrinter::~DtFilePrinter()
         writeIfChanged();
     if (myDescriptor >= 0)
         closeFile();
+    keepSpareText(std::move(myText));
 }
 
 bool DtFilePrinter::closeFile()

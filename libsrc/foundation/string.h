@@ -5,6 +5,7 @@
 #include <functional>
 #include <iosfwd>
 #include <string>
+#include <string_view>
 
 // The text value of the whole program: a run of bytes with a terminating NUL, mutable, copied by value.
 //
@@ -39,6 +40,8 @@ public:
     char& operator[](std::size_t index) { return myText[index]; }
 
     DtString& operator=(const char* text);
+    // Takes the text, which is none of this one, into the memory that is there where it suffices.
+    void assign(std::string_view text) { myText.assign(text.data(), text.size()); }
     DtString& operator+=(const DtString& text);
     DtString& operator+=(const char* text);
     DtString& operator+=(char character);

@@ -245,20 +245,25 @@ void DtFileWriter::decodeFileLine(DtString& line)
 void DtFileWriter::expandTokens(DtString& line, std::initializer_list<DtTokenSource*> further)
 {
     fillFomFileNames();
+    if (further.size() > 0 || !expandCompiled(line))
+        myTokenChain.expand(line, further);
+}
+
+bool DtFileWriter::expandCompiled(DtString& line, DtTokenFinder* finder)
+{
+    fillFomFileNames();
     // The line is another one when a derived writer has changed it on its way here.
-    const bool isCompiled =
-        myCompiledLine != nullptr && further.size() == 0 && myCompiledLine->text() == line.stdString();
-    if (!isCompiled)
-        return myTokenChain.expand(line, further);
+    if (myCompiledLine == nullptr || myCompiledLine->text() != line.stdString())
+        return false;
     if (myCompiledLine->isLiteral())
-        return;
+        return true;
     std::string text = std::move(myExpandedText); // taken out while in use: a value may be a line that is expanded
     text.clear();
-    if (myTokenChain.append(*myCompiledLine, text))
+    const bool isExpanded = myTokenChain.append(*myCompiledLine, text, finder);
+    if (isExpanded)
         DtAssignText(line, text);
-    else
-        myTokenChain.expand(line);
     myExpandedText = std::move(text);
+    return isExpanded;
 }
 
 // At the first line that is decoded, and not again once they are filled.

@@ -91,6 +91,9 @@ public:
 protected:
     // Replaces further tokens, which the line alone has, ahead of those of the chain.
     void expandTokens(DtString& line, std::initializer_list<DtTokenSource*> further);
+    // Does so in one step for a line whose tokens are known ahead, with the finder asked first. False, with the line as
+    // it was, for any other line and where the outcome depends on the order of the tokens.
+    bool expandCompiled(DtString& line, DtTokenFinder* finder = nullptr);
     // Sets the body back to the position, with a clean state, and runs it once through writeFileStream().
     void writeBodyFrom(std::istream& body, std::streampos position);
 

@@ -2,9 +2,11 @@
 
 #include "fileGenerator/cCompatibleName.h"
 #include "fileGenerator/escapedText.h"
+#include "fileGenerator/tokenPass.h"
 #include "foundation/perRun.h"
 
 #include <algorithm>
+#include <typeinfo>
 
 namespace
 {
@@ -25,6 +27,7 @@ DtMapSubstitute::~DtMapSubstitute()
 void DtMapSubstitute::put(const DtString& key, DtUniversalSubstitute* value)
 {
     std::unique_ptr<DtUniversalSubstitute> owner(value); // until it stands in the vector
+    myHashes.push_back(DtTokenIndex::hashOf(key.stdString()));
     myEntries.emplace_back(key, value);
     static_cast<void>(owner.release());
     if (myIndex != nullptr)
@@ -77,6 +80,7 @@ void DtMapSubstitute::remove(const DtString& key)
     const Iterator found = find(key);
     if (found == end())
         return;
+    myHashes.erase(myHashes.begin() + (found - myEntries.cbegin()));
     myEntries.erase(found);
     myIndex.reset();
 }
@@ -86,13 +90,20 @@ void DtMapSubstitute::clear()
     for (const Entry& entry : myEntries)
         delete entry.second;
     myEntries.clear();
+    myHashes.clear();
     myIndex.reset();
 }
 
 DtMapSubstitute::Iterator DtMapSubstitute::find(const DtString& key) const
 {
     if (myEntries.size() <= theLargestPlainMap)
-        return std::find_if(myEntries.begin(), myEntries.end(), [&](const Entry& entry) { return entry.first == key; });
+    {
+        const std::uint32_t hash = DtTokenIndex::hashOf(key.stdString());
+        for (std::size_t at = 0; at < myEntries.size(); ++at)
+            if (myHashes[at] == hash && myEntries[at].first == key)
+                return myEntries.begin() + static_cast<std::ptrdiff_t>(at);
+        return myEntries.end();
+    }
     if (myIndex == nullptr)
     {
         myIndex = std::make_unique<Index>(myEntries.size());
@@ -103,13 +114,21 @@ DtMapSubstitute::Iterator DtMapSubstitute::find(const DtString& key) const
     return found != myIndex->end() ? myEntries.begin() + static_cast<std::ptrdiff_t>(found->second) : myEntries.end();
 }
 
+// Nearly every value is of just one of the two classes, which is asked first: a cast to a base takes a walk.
 const DtString* DtMapSubstitute::stringOf(const DtUniversalSubstitute* value)
 {
+    if (value == nullptr)
+        return nullptr;
+    if (typeid(*value) == typeid(DtStringSubstitute))
+        return static_cast<const DtStringSubstitute*>(value)->value();
     const auto* text = dynamic_cast<const DtStringSubstitute*>(value);
     return text != nullptr ? text->value() : nullptr;
 }
 
 DtMapSubstitute* DtMapSubstitute::mapOf(DtUniversalSubstitute* value)
 {
-    return dynamic_cast<DtMapSubstitute*>(value);
+    if (value == nullptr || typeid(*value) == typeid(DtStringSubstitute))
+        return nullptr;
+    return typeid(*value) == typeid(DtMapSubstitute) ? static_cast<DtMapSubstitute*>(value)
+                                                     : dynamic_cast<DtMapSubstitute*>(value);
 }

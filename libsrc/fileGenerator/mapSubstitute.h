@@ -5,6 +5,7 @@
 #include "fileGenerator/universalSubstitute.h"
 
 #include <cstddef>
+#include <cstdint>
 #include <memory>
 #include <unordered_map>
 #include <utility>
@@ -13,7 +14,8 @@
 // The inner node of a substitution context: keys with values, in the order in which they were put in, which is the
 // order in which a loop walks them.
 //
-// Owns its values. A key may come again; look-ups give its first entry only, so lists want keys that differ.
+// Owns its values. A key may come again; look-ups give its first entry only, so lists want keys that differ. A look-up
+// compares numbers made of the keys, and the keys themselves only where these agree.
 class DtMapSubstitute : public DtUniversalSubstitute
 {
 public:
@@ -55,6 +57,7 @@ private:
     using Index = std::unordered_map<DtString, std::size_t>;
 
     std::vector<Entry> myEntries;
+    std::vector<std::uint32_t> myHashes;    // of the keys of the entries
     mutable std::unique_ptr<Index> myIndex; // first entry of each key; made when a map that is no longer small is asked
 };
 

@@ -59,6 +59,6 @@ DtString DtOmtNode::newUuid() const
 {
     if (DtSettings::instance().files.makesNamedUuids)
         return DtNamedUuid(myFullName + "#" + DtString(static_cast<unsigned int>(myUuids.size())));
-    boost::uuids::random_generator generator;
-    return boost::uuids::to_string(generator());
+    static boost::uuids::random_generator_mt19937 theGenerator; // seeded by the system
+    return boost::uuids::to_string(theGenerator());
 }

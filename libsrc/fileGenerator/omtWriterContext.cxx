@@ -252,7 +252,7 @@ void DtOMTWriter::buildContext()
 
 DtString DtOMTWriter::makeUUID()
 {
-    static boost::uuids::random_generator_pure theGenerator;
+    static boost::uuids::random_generator_mt19937 theGenerator; // seeded by the system
     return boost::uuids::to_string(theGenerator());
 }
 

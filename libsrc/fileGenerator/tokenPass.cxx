@@ -257,15 +257,13 @@ DtTokenPlaces& DtTokenChain::places() const
     return *myPlaces;
 }
 
-DtTokenSource* DtTokenChain::sourceOf(int token, int& row) const
+const DtTokenValue* DtTokenChain::valueOf(int token) const
 {
     for (const DtTokenPlaces::DtPlace& place : places().placesOf(token, myIndexes))
     {
         DtTokenSource* const source = myLinks[place.link].source;
-        if (!source->isActive())
-            continue;
-        row = place.row;
-        return source;
+        if (source->isActive())
+            return &source->known(place.row);
     }
     return nullptr;
 }
@@ -298,7 +296,7 @@ void DtTokenChain::expand(DtString& line, std::initializer_list<DtTokenSource*> 
     DtExpandTokens(line, active, static_cast<std::size_t>(end - active));
 }
 
-bool DtTokenChain::append(const DtCompiledLine& line, std::string& result) const
+bool DtTokenChain::append(const DtCompiledLine& line, std::string& result, DtTokenFinder* finder) const
 {
     if (!line.isPlain())
         return false;
@@ -308,17 +306,21 @@ bool DtTokenChain::append(const DtCompiledLine& line, std::string& result) const
     std::size_t copied = 0;
     for (const DtCompiledLine::DtSlot& slot : line.slots())
     {
-        int row = 0;
-        DtTokenSource* const source = sourceOf(slot.token, row);
-        if (source == nullptr)
+        const DtString* found = finder != nullptr ? finder->valueOf(slot.token) : nullptr;
+        bool isQuiet = found == nullptr || DtCompiledLine::isQuiet(found->stdString());
+        if (const DtTokenValue* value = found == nullptr ? valueOf(slot.token) : nullptr)
+        {
+            found = &value->text;
+            isQuiet = value->isQuiet;
+        }
+        if (found == nullptr)
             continue; // the token stays, as part of the text around it
-        const std::string& value = source->value(row).stdString();
-        if (!source->isQuiet(row))
+        if (!isQuiet)
         {
             result.resize(size);
             return false;
         }
-        result.append(line.text(), copied, slot.start - copied).append(value);
+        result.append(line.text(), copied, slot.start - copied).append(found->stdString());
         copied = slot.end;
     }
     result.append(line.text(), copied);

@@ -73,7 +73,7 @@ struct DtTokenValue
 {
     DtString text;
     bool isKnown = false;
-    bool isQuiet = true;
+    bool isQuiet = true; // whether it brings about nothing new to replace, see DtCompiledLine
 };
 
 // One link of a chain: a table's index with the values of one context.
@@ -97,8 +97,7 @@ public:
     virtual bool isActive() const { return true; }
     // Valid until clear().
     const DtString& value(int row) { return known(row).text; }
-    // Whether the value brings about nothing new to replace, see DtCompiledLine.
-    bool isQuiet(int row) { return known(row).isQuiet; }
+    const DtTokenValue& known(int row);
     // Forgets all values: the context, or something that values are made of, is another one now.
     void clear() { ++myGeneration; }
     // Works out every value that is not known yet, in row order, for values whose working out has an effect.
@@ -117,7 +116,6 @@ private:
         std::uint64_t generation = 0;
     };
 
-    const DtTokenValue& known(int row);
     const DtTokenValue& knownInCommon(std::size_t row);
     void workOut(int row, DtTokenValue& value) const;
 
@@ -205,6 +203,17 @@ void DtExpandTokens(DtString& line, std::initializer_list<DtTokenSource*> chain)
 // The passes one after the other, always.
 void DtExpandTokensInOrder(DtString& line, DtTokenSource* const* chain, std::size_t count);
 
+// Gives the values of tokens that stand in no table.
+class DtTokenFinder
+{
+public:
+    // Null when there is none. Valid until the next call.
+    virtual const DtString* valueOf(int token) = 0;
+
+protected:
+    ~DtTokenFinder() = default;
+};
+
 // The tokens of a writer: its sources in the order of replacement.
 //
 // A chain is made up in the constructors of a writer, each class putting its own sources ahead of those of its base,
@@ -229,15 +238,15 @@ public:
     std::vector<DtString> tokens() const;
     // Replaces the tokens of the active sources, those of further sources ahead of them.
     void expand(DtString& line, std::initializer_list<DtTokenSource*> further = {}) const;
-    // The same for a line whose tokens are found already, appended to the result. False, with the result as it was,
-    // when the text has to be gone over as expand() does.
-    bool append(const DtCompiledLine& line, std::string& result) const;
+    // The same for a line whose tokens are found already, appended to the result; the finder is asked ahead of the
+    // sources. False, with the result as it was, when the text has to be gone over as expand() does.
+    bool append(const DtCompiledLine& line, std::string& result, DtTokenFinder* finder = nullptr) const;
 
 private:
     void linksChanged();
     DtTokenPlaces& places() const;
-    // The link that replaces the token at present, and its row; null for an unknown token.
-    DtTokenSource* sourceOf(int token, int& row) const;
+    // Null for an unknown token.
+    const DtTokenValue* valueOf(int token) const;
 
     std::vector<DtLink> myLinks;
     std::vector<const DtTokenIndex*> myIndexes; // of the links

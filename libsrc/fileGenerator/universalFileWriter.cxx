@@ -1,5 +1,6 @@
 #include "fileGenerator/universalFileWriter.h"
 
+#include "fileGenerator/tokenNames.h"
 #include "foundation/restored.h"
 #include "foundation/stringUtils.h"
 
@@ -41,6 +42,25 @@ private:
     std::vector<DtString> myValues;
 };
 
+// The values that tokens of a compiled line have at the present place in the tree.
+class DtUniversalFileWriter::ContextFinder final : public DtTokenFinder
+{
+public:
+    explicit ContextFinder(const DtUniversalFileWriter& writer) : myWriter(writer) {}
+
+    const DtString* valueOf(int token) override
+    {
+        const DtString& name = DtNameOfToken(token);
+        if (const DtString* text = myWriter.lookupString(name))
+            return text;
+        return myWriter.findNumber(name, myNumber) ? &myNumber : nullptr;
+    }
+
+private:
+    const DtUniversalFileWriter& myWriter;
+    DtString myNumber;
+};
+
 DtUniversalFileWriter::DtUniversalFileWriter(const DtString& fileName, const DtString& templateName,
                                              DtMapSubstitute* root)
     : DtFileWriter(fileName, templateName), myRootContext(root), myContextStack{myRootContext}
@@ -49,6 +69,9 @@ DtUniversalFileWriter::DtUniversalFileWriter(const DtString& fileName, const DtS
 
 void DtUniversalFileWriter::decodeFileLine(DtString& line)
 {
+    ContextFinder finder(*this);
+    if (expandCompiled(line, &finder))
+        return;
     if (!DtHasToken(line))
         return DtFileWriter::decodeFileLine(line);
     const std::string text = line.stdString();
@@ -72,9 +95,15 @@ void DtUniversalFileWriter::decodeFileLine(DtString& line)
 bool DtUniversalFileWriter::findValue(const DtString& name, DtString& value) const
 {
     const DtString* text = lookupString(name);
-    if (text != nullptr)
-        value = *text;
-    else if (name.caseCompare("index0"))
+    if (text == nullptr)
+        return findNumber(name, value);
+    value = *text;
+    return true;
+}
+
+bool DtUniversalFileWriter::findNumber(const DtString& name, DtString& value) const
+{
+    if (name.caseCompare("index0"))
         value = DtString(myIndex);
     else if (name.caseCompare("index1"))
         value = DtString(myIndex + 1);

@@ -39,12 +39,15 @@ public:
     DtMapSubstitute* context() const;
 
 private:
+    class ContextFinder;
     class LineTokens;
 
     void enter(const DtString& name);
     void writePass(const DtString& key, std::istream& body, std::streampos position);
     // False when the line's token has no value.
     bool findValue(const DtString& name, DtString& value) const;
+    // The same for a count of the passes.
+    bool findNumber(const DtString& name, DtString& value) const;
 
     DtMapSubstitute* myRootContext;
     std::vector<DtMapSubstitute*> myContextStack;

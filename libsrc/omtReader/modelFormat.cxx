@@ -136,30 +136,16 @@ bool readToRoot(xmlTextReader* reader)
     return false;
 }
 
-// Moves to the end of the document; false when it is malformed before.
-bool readToEnd(xmlTextReader* reader)
+// Format of a document whose root element tells none by its namespace. It is parsed whole, since a malformed one has
+// none, and kept for the reader that comes next.
+DtFomType formatByContent(int descriptor, const char* name)
 {
-    int state = 1;
-    while (state == 1)
-        state = xmlTextReaderNext(reader);
-    return state == 0;
-}
-
-// Format of a document whose root element, where the reader stands, tells none by its namespace.
-//
-// The reader goes on from there, so that a document is parsed once. Only a malformed one is parsed again from its start
-// in one piece, since the reader, which gets the file in pieces, says little about one that is cut off.
-DtFomType formatByContent(xmlTextReader* reader, int descriptor, const char* name)
-{
-    {
-        const DtXmlErrors silence;
-        const DtFomType format = DtFormatOfRoot(xmlTextReaderExpand(reader));
-        if (readToEnd(reader))
-            return format;
-    }
     lseek(descriptor, 0, SEEK_SET);
-    const DtXmlDocument document = DtParseXmlDescriptor(descriptor, name);
-    return DtFormatOfRoot(xmlDocGetRootElement(document.get()));
+    DtXmlDocument document = DtParseXmlDescriptor(descriptor, name);
+    const DtFomType format = DtFormatOfRoot(xmlDocGetRootElement(document.get()));
+    if (document != nullptr)
+        DtKeepXmlDocument(descriptor, std::move(document));
+    return format;
 }
 
 // The document is read no further than to its root element when that tells the format by its namespace.
@@ -174,7 +160,7 @@ DtFomType formatOfXml(int descriptor, const char* name, bool reportFailure)
         format = formatOfNamespace(xmlTextReaderConstNamespaceUri(reader.get()));
         if (format != DtFomUnknown)
             return format;
-        format = formatByContent(reader.get(), descriptor, name);
+        format = formatByContent(descriptor, name);
     }
     if (reportFailure)
         errors.report(name);

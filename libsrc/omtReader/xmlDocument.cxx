@@ -5,10 +5,14 @@
 
 #include <libxml/parser.h>
 
+#include <algorithm>
+#include <cstdint>
 #include <cstring>
+#include <ctime>
 #include <fcntl.h>
 #include <sys/stat.h>
 #include <unistd.h>
+#include <utility>
 
 const int theXmlParseOptions = XML_PARSE_NONET | XML_PARSE_COMPACT;
 
@@ -64,14 +68,74 @@ FILE* DtStreamOf(int descriptor)
     return stream;
 }
 
+namespace
+{
+std::int64_t nanoseconds(const timespec& time)
+{
+    return static_cast<std::int64_t>(time.tv_sec) * 1000000000 + time.tv_nsec;
+}
+
+bool isUnchanged(const struct stat& before, const struct stat& now)
+{
+    return before.st_dev == now.st_dev && before.st_ino == now.st_ino && before.st_size == now.st_size &&
+           nanoseconds(before.st_mtim) == nanoseconds(now.st_mtim) &&
+           nanoseconds(before.st_ctim) == nanoseconds(now.st_ctim);
+}
+
+// A file written a moment ago may be written again within the same tick of its time stamp.
+bool isSettled(const struct stat& status)
+{
+    timespec now = {};
+    clock_gettime(CLOCK_REALTIME, &now);
+    return nanoseconds(now) - std::max(nanoseconds(status.st_mtim), nanoseconds(status.st_ctim)) > 100000000;
+}
+
+struct DtKeptDocument
+{
+    DtXmlDocument document = nullptr;
+    struct stat status = {};
+};
+
+// Never destroyed: the parser may be gone by then.
+DtKeptDocument& keptDocument()
+{
+    static auto* const theDocument = new DtKeptDocument;
+    return *theDocument;
+}
+
+void setName(xmlDoc& document, const char* name)
+{
+    if (document.dict != nullptr && xmlDictOwns(document.dict, document.URL) != 0)
+        return;
+    xmlFree(const_cast<xmlChar*>(document.URL));
+    document.URL = xmlStrdup(BAD_CAST name);
+}
+
+// The kept document goes in any case.
+DtXmlDocument takeKeptDocument(int descriptor, const char* name)
+{
+    DtXmlDocument document = std::move(keptDocument().document);
+    struct stat status = {};
+    if (document == nullptr || fstat(descriptor, &status) != 0 || !isUnchanged(keptDocument().status, status))
+        return nullptr;
+    setName(*document, name);
+    return document;
+}
+} // namespace
+
+void DtKeepXmlDocument(int descriptor, DtXmlDocument document)
+{
+    DtKeptDocument& kept = keptDocument();
+    const bool isKept = fstat(descriptor, &kept.status) == 0 && isSettled(kept.status);
+    kept.document = isKept ? std::move(document) : nullptr;
+}
+
 // The parser escapes the name that it keeps, such as blanks; warnings want it as it is.
 DtXmlDocument DtParseXmlDescriptor(int descriptor, const char* name)
 {
     DtXmlDocument document(xmlReadFd(descriptor, name, nullptr, theXmlParseOptions));
-    if (document == nullptr || (document->dict != nullptr && xmlDictOwns(document->dict, document->URL) != 0))
-        return document;
-    xmlFree(const_cast<xmlChar*>(document->URL));
-    document->URL = xmlStrdup(BAD_CAST name);
+    if (document != nullptr)
+        setName(*document, name);
     return document;
 }
 
@@ -86,7 +150,9 @@ DtXmlDocument DtParseXmlFile(const char* name)
     const int descriptor = DtOpenPlainFile(name);
     if (descriptor < 0)
         return nullptr;
-    DtXmlDocument document = DtParseXmlDescriptor(descriptor, name);
+    DtXmlDocument document = takeKeptDocument(descriptor, name);
+    if (document == nullptr)
+        document = DtParseXmlDescriptor(descriptor, name);
     close(descriptor);
     return document;
 }

@@ -42,6 +42,10 @@ DtXmlDocument DtParseXmlFile(const char* name);
 DtXmlDocument DtParseXmlDescriptor(int descriptor, const char* name);
 DtXmlDocument DtParseXmlBuffer(const char* buffer, int size);
 
+// Keeps the document of that open file for DtParseXmlFile(), so that a file whose format is asked for ahead is parsed
+// once. One is kept at a time, and only until the next file is parsed; none is that has changed a moment ago.
+void DtKeepXmlDocument(int descriptor, DtXmlDocument document);
+
 // The file that the node was read from, for warnings; no subject when the document came from memory.
 DtSubject DtXmlFileOf(const xmlNode* node);
 

@@ -257,6 +257,8 @@ private Q_SLOTS:
                 const QRegularExpressionMatch match = each.next();
                 used += match.captured(1) + match.captured(2);
             }
+            if (sourceText(file).contains("temp_directory_path("))
+                used += "TMPDIR";
         }
         used.removeDuplicates();
         used.removeAll("HOME");

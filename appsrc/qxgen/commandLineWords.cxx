@@ -1,6 +1,7 @@
 #include "commandLineWords.h"
 
 #include "fileGenerator/progressMeter.h"
+#include "foundation/textEnds.h"
 #include "modelTools/classPattern.h"
 #include "modelTools/configKeys.h"
 #include "modelTools/dataDirectory.h"
@@ -14,11 +15,6 @@
 namespace
 {
 using Words = std::vector<std::string>;
-
-bool startsWith(std::string_view text, std::string_view start)
-{
-    return text.substr(0, start.size()) == start;
-}
 
 bool takesValue(const CLI::Option& option)
 {
@@ -64,7 +60,7 @@ Words keptWith(const Words& words, const std::string& start)
 {
     Words kept;
     std::copy_if(words.begin(), words.end(), std::back_inserter(kept),
-                 [&start](const std::string& word) { return startsWith(word, start); });
+                 [&start](const std::string& word) { return DtStartsWith(word, start); });
     return kept;
 }
 
@@ -93,7 +89,7 @@ Words settings(const DtTypedLine& /*line*/, const std::string& start)
         const std::string assignment = std::string(key.name) + "=";
         if (key.refusal != nullptr)
             continue;
-        if (key.kind == DtConfigKey::Flag && startsWith(start, assignment))
+        if (key.kind == DtConfigKey::Flag && DtStartsWith(start, assignment))
             words.insert(words.end(), {assignment + "false", assignment + "true"});
         else
             words.push_back(assignment);
@@ -114,7 +110,7 @@ std::vector<DtString> loadedClasses(const DtTypedLine& line)
 // Names without the root; where none fits, short names.
 Words classes(const DtTypedLine& line, const std::string& start)
 {
-    const std::string sign = startsWith(start, "!") ? "!" : "";
+    const std::string sign = DtStartsWith(start, "!") ? "!" : "";
     std::set<std::string> dotted;
     std::set<std::string> shortNames;
     for (const DtString& fullName : loadedClasses(line))
@@ -154,7 +150,7 @@ Words optionNames(const CLI::App& app, const std::string& start)
 {
     Words names = DtOptionNames(app);
     const auto isLeft = [&start](const std::string& name)
-    { return !startsWith(name, start) || (start != "-" && !startsWith(name, "--")); };
+    { return !DtStartsWith(name, start) || (start != "-" && !DtStartsWith(name, "--")); };
     names.erase(std::remove_if(names.begin(), names.end(), isLeft), names.end());
     return names;
 }
@@ -182,7 +178,7 @@ Words valuesBehindName(const DtTypedLine& line, const std::string& word)
 
 Words completions(const CLI::App& program, const DtTypedLine& line, const std::string& word)
 {
-    const bool isOption = startsWith(word, "-") && !line.hasEndOfOptions;
+    const bool isOption = DtStartsWith(word, "-") && !line.hasEndOfOptions;
     if (line.command == nullptr)
         return isOption ? optionNames(program, word) : keptWith(DtCommandNames(program), word);
     if (line.pending != nullptr)
@@ -210,9 +206,9 @@ void DtTypedLine::take(const CLI::App& program, const std::string& word)
         command = findCommand(program, word);
     else if (word == "--" && !hasEndOfOptions)
         hasEndOfOptions = true;
-    else if (startsWith(word, "-") && !hasEndOfOptions)
+    else if (DtStartsWith(word, "-") && !hasEndOfOptions)
         takeOption(word);
-    else if (!startsWith(word, "@")) // a file of arguments
+    else if (!DtStartsWith(word, "@")) // a file of arguments
         positionals.push_back(word);
 }
 

@@ -26,14 +26,6 @@ struct DtLintLine
     bool isQuiet = false;
 };
 
-bool isColored(const DtLintLine& line)
-{
-    if (line.color != DtColor::Auto)
-        return line.color == DtColor::Always;
-    const char* const off = std::getenv("NO_COLOR");
-    return isatty(STDOUT_FILENO) == 1 && (off == nullptr || *off == '\0');
-}
-
 // The findings are what was asked for, hence on standard output.
 DtExitCode lint(const DtLintLine& line)
 {
@@ -46,7 +38,7 @@ DtExitCode lint(const DtLintLine& line)
         const bool isFinding = diagnostic.severity == DtSeverity::Error || line.warningsAreErrors;
         hasFindings = hasFindings || isFinding;
         if (isFinding || !line.isQuiet)
-            std::cout << DtFormatted(diagnostic, line.format, isColored(line));
+            std::cout << DtFormatted(diagnostic, line.format, DtIsColored(line.color, STDOUT_FILENO));
     }
     return hasFindings ? DtExitCode::Findings : DtExitCode::Done;
 }

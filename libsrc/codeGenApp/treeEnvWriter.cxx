@@ -4,16 +4,12 @@
 #include "fileGenerator/progressMeter.h"
 #include "foundation/filePrinter.h"
 #include "foundation/stringUtils.h"
+#include "foundation/textEnds.h"
 
 #include <string_view>
 
 namespace
 {
-bool endsWith(std::string_view text, std::string_view end)
-{
-    return text.size() > end.size() && text.substr(text.size() - end.size()) == end;
-}
-
 void writeForwardingHeader(const DtString& name, const DtString& header)
 {
     DtFilePrinter printer((DtFileWriter::outputDirectory() + DtOMTEnvWriter::includePath() + name).c_str());
@@ -28,13 +24,13 @@ DtString DtTreeEnvWriter::secondNameOf(const DtString& header)
     const std::string_view name(header.c_str(), header.length());
     if (name.find('/') != std::string_view::npos)
         return DtString();
-    if (endsWith(name, "Pdu.h"))
+    if (DtEndsWith(name, "Pdu.h"))
     {
         const DtString second = DtFirstCharToUpper(header);
         return second == header ? DtString() : second;
     }
     for (const char* end : {"EncoderDIS.h", "DecoderDIS.h"})
-        if (endsWith(name, end))
+        if (DtEndsWith(name, end))
             return "d" + DtString(std::string(name.substr(0, name.size() - std::string_view("DIS.h").size()))) + ".h";
     return DtString();
 }

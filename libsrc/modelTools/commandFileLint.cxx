@@ -1,6 +1,7 @@
 #include "modelTools/commandFileLint.h"
 
 #include "fileGenerator/dataFile.h"
+#include "modelTools/inputPath.h"
 #include "modelTools/nearNames.h"
 #include "modelTools/toolFailure.h"
 #include "modelTools/toolRules.h"
@@ -45,12 +46,6 @@ std::vector<std::string> wordsOf(const std::string& line)
         if (!word.empty())
             words.push_back(word);
     return words;
-}
-
-bool isFile(const std::string& path)
-{
-    std::error_code ignored;
-    return std::filesystem::is_regular_file(path, ignored);
 }
 
 std::string placeOf(const std::string& path)
@@ -153,7 +148,7 @@ void DtCommandFileLint::noteTemplate(const Words& words)
     if (myTemplateDirectory.empty())
         return fault("no templateDir stands ahead of this.", DtToolRules::templateCommand);
     const std::string path = myTemplateDirectory + "/" + words[2];
-    if (!isFile(placeOf(path)))
+    if (!DtIsFile(placeOf(path)))
         return fault("no such file: " + path, DtToolRules::templateFile);
     const bool hasContext = words.size() > 3 && words[3].front() != '~';
     myTemplates.push_back({path, hasContext ? words[3] : ""});
@@ -164,7 +159,7 @@ void DtCommandFileLint::include(const std::string& path)
     const std::string file = placeOf(path);
     if (std::find(myOpenFiles.begin(), myOpenFiles.end(), file) != myOpenFiles.end())
         fault("a command file that includes itself: " + path, DtToolRules::templateCycle);
-    else if (!isFile(file))
+    else if (!DtIsFile(file))
         fault("no such file: " + path, DtToolRules::templateFile);
     else if (std::find(myFiles.begin(), myFiles.end(), file) == myFiles.end()) // else it is checked already
         check(file);

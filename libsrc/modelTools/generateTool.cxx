@@ -5,6 +5,7 @@
 #include "foundation/warningRules.h"
 #include "modelTools/depfile.h"
 #include "modelTools/expectedList.h"
+#include "modelTools/inputPath.h"
 #include "modelTools/leftoverTokens.h"
 #include "modelTools/modelPlaces.h"
 #include "modelTools/outputException.h"
@@ -370,7 +371,7 @@ void DtGenerateTool::tell(const DtDiagnostics& diagnostics) const
     for (const DtDiagnostic& diagnostic : diagnostics.all())
         if (myOptions.telling != DtTelling::Quiet || diagnostic.severity == DtSeverity::Error ||
             myOptions.warningsAreErrors)
-            myErr << DtFormatted(diagnostic, myOptions.format, isColored());
+            myErr << DtFormatted(diagnostic, myOptions.format, DtIsColored(myOptions.color, STDERR_FILENO));
     myErr.flush();
 }
 
@@ -410,7 +411,7 @@ void DtGenerateTool::writeDependencies() const
         std::set<std::string> files = presentInputs();
         std::error_code ignored;
         files.insert(fs::read_symlink("/proc/self/exe", ignored).string());
-        writeWhole(myOptions.depfile, DtDepfileText(fs::absolute(myOptions.stamp).lexically_normal().string(), files));
+        writeWhole(myOptions.depfile, DtDepfileText(DtAbsolutePath(myOptions.stamp), files));
     }
     if (!myOptions.stamp.empty())
         writeWhole(myOptions.stamp, "");
@@ -434,12 +435,4 @@ void DtGenerateTool::noteTime(const char* step)
     const double now = DtSteadySeconds();
     myReport.times.emplace_back(step, now - myStepStart);
     myStepStart = now;
-}
-
-bool DtGenerateTool::isColored() const
-{
-    if (myOptions.color != DtColor::Auto)
-        return myOptions.color == DtColor::Always;
-    const char* const off = std::getenv("NO_COLOR");
-    return isTerminal() && (off == nullptr || *off == '\0');
 }

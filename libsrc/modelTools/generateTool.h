@@ -1,6 +1,7 @@
 #ifndef MODEL_TOOLS_GENERATE_TOOL_H
 #define MODEL_TOOLS_GENERATE_TOOL_H
 
+#include "modelTools/color.h"
 #include "modelTools/diagnostics.h"
 #include "modelTools/modelGeneration.h"
 #include "modelTools/outputStage.h"
@@ -13,13 +14,6 @@
 #include <vector>
 
 class DtOutputLock;
-
-enum class DtColor
-{
-    Auto, // on a terminal, unless NO_COLOR is set
-    Always,
-    Never
-};
 
 // How much is told on standard error beside diagnostics.
 enum class DtTelling
@@ -101,7 +95,6 @@ private:
     void writeDependencies() const;
     void writeReport(const DtDiagnostics& diagnostics);
     void noteTime(const char* step);
-    bool isColored() const;
 
     DtGenerateOptions myOptions;
     std::ostream& myOut;

@@ -6,9 +6,11 @@
 #include "fileGenerator/dataTypeMapper.h"
 #include "fileGenerator/fileWriter.h"
 #include "foundation/fileUtils.h"
+#include "foundation/textEnds.h"
 #include "foundation/warningRules.h"
 #include "modelTools/classPattern.h"
 #include "modelTools/configKeys.h"
+#include "modelTools/inputPath.h"
 #include "modelTools/nearNames.h"
 #include "modelTools/outputTree.h"
 #include "modelTools/toolFailure.h"
@@ -30,17 +32,6 @@ constexpr const char* theConfiguration = "config/codeGenConfig.xml";
 [[noreturn]] void fail(DtExitCode code, const std::string& text)
 {
     throw DtToolFailure(code, text);
-}
-
-std::string absolutePath(const std::string& path)
-{
-    return fs::absolute(path).lexically_normal().string();
-}
-
-bool isFile(const std::string& path)
-{
-    std::error_code ignored;
-    return fs::is_regular_file(path, ignored);
 }
 
 DtString stem(const DtFilename& path)
@@ -89,8 +80,7 @@ std::string scriptOfFile(const std::string& file)
 {
     const std::string start = "gen";
     const std::string end = ".txt";
-    if (file.size() <= start.size() + end.size() || file.compare(0, start.size(), start) != 0 ||
-        file.compare(file.size() - end.size(), end.size(), end) != 0)
+    if (file.size() <= start.size() + end.size() || !DtStartsWith(file, start) || !DtEndsWith(file, end))
         return std::string();
     std::string name = file.substr(start.size(), file.size() - start.size() - end.size());
     name.front() = static_cast<char>(std::tolower(static_cast<unsigned char>(name.front())));
@@ -125,10 +115,10 @@ void DtModelGeneration::setUpSettings()
         std::error_code ignored;
         if (!fs::is_directory(directory, ignored))
         {
-            myLookedFor.insert(absolutePath(directory));
+            myLookedFor.insert(DtAbsolutePath(directory));
             fail(DtExitCode::Unreadable, "there is no template directory " + directory + ".");
         }
-        files.templateDirectories.emplace_back(absolutePath(directory));
+        files.templateDirectories.emplace_back(DtAbsolutePath(directory));
     }
     files.keepsToOutput = true;
     files.makesNamedUuids = true;
@@ -156,7 +146,7 @@ void DtModelGeneration::readProject()
         myProject.initializePredefinedTypes();
         return;
     }
-    if (!isFile(myRequest.project))
+    if (!DtIsFile(myRequest.project))
         fail(DtExitCode::Unreadable, "there is no project file " + myRequest.project + ".");
     DtOmtProjectXmlReader reader{DtFilename(DtString(myRequest.project))};
     reader.readXml(myProject);
@@ -169,7 +159,7 @@ void DtModelGeneration::loadModels()
     const std::vector<DtFilename> files = filesToLoad();
     for (const DtFilename& file : files)
         if (!isMim(file))
-            myModelFiles.push_back(absolutePath(file.stdString()));
+            myModelFiles.push_back(DtAbsolutePath(file.stdString()));
     if (myModelFiles.empty())
         fail(DtExitCode::Usage, "the management model alone is no model; name a model file.");
     const bool includeMim = myConfiguration.includeStandardMIM();
@@ -200,25 +190,25 @@ std::vector<DtFilename> DtModelGeneration::filesToLoad()
 
 bool DtModelGeneration::lookFor(const std::string& file)
 {
-    if (isFile(file))
+    if (DtIsFile(file))
         return true;
-    myLookedFor.insert(absolutePath(file));
+    myLookedFor.insert(DtAbsolutePath(file));
     return false;
 }
 
 DtFilename DtModelGeneration::findModel(const std::string& name)
 {
     if (lookFor(name))
-        return DtFilename(DtString(absolutePath(name)));
+        return DtFilename(DtString(DtAbsolutePath(name)));
     for (const std::string& directory : myRequest.modelPaths)
     {
         const std::string path = directory + "/" + name;
         if (lookFor(path))
-            return DtFilename(DtString(absolutePath(path)));
+            return DtFilename(DtString(DtAbsolutePath(path)));
     }
     const DtString below = DtFedReader::pathBelowRtiConfig(name.c_str());
     if (!below.isEmpty() && lookFor(below.stdString()))
-        return DtFilename(DtString(absolutePath(below.stdString())));
+        return DtFilename(DtString(DtAbsolutePath(below.stdString())));
     return isMim(DtString(name)) ? DtFilename(DtString(name)) : DtFilename();
 }
 
@@ -247,13 +237,13 @@ DtFilename DtModelGeneration::findProjectModel(const DtOmtProject::DtFilePair& m
     {
         for (const fs::path& place : {project / directory.stdString(), project})
             if (lookFor((place / name.stdString()).string()))
-                return DtFilename(DtString(absolutePath((place / name.stdString()).string())));
+                return DtFilename(DtString(DtAbsolutePath((place / name.stdString()).string())));
         const DtFilename found = findModel(name.stdString());
         if (!found.isEmpty())
             return found;
     }
-    const std::string saved = absolutePath((project / model.second.stdString()).string());
-    const std::string own = absolutePath(project.string());
+    const std::string saved = DtAbsolutePath((project / model.second.stdString()).string());
+    const std::string own = DtAbsolutePath(project.string());
     failWithoutModel(model.first.stdString(), saved + ", " + (saved != own ? own + ", " : ""));
 }
 
@@ -343,7 +333,7 @@ void DtModelGeneration::checkTemplates()
 {
     for (const std::string& file : DtReadDataFiles())
         if (access(file.c_str(), R_OK) != 0)
-            fail(DtExitCode::Unreadable, "the template " + absolutePath(file) + " cannot be read.");
+            fail(DtExitCode::Unreadable, "the template " + DtAbsolutePath(file) + " cannot be read.");
 }
 
 std::vector<std::string> DtModelGeneration::commandFiles()
@@ -368,7 +358,7 @@ std::string DtModelGeneration::commandFile(const std::string& script)
     if (std::find(names.begin(), names.end(), scriptOfFile(file)) != names.end())
         return file;
     if (lookFor(script))
-        return absolutePath(script);
+        return DtAbsolutePath(script);
     for (const std::string& directory : myRequest.templateDirectories)
         lookFor(directory + "/" + file);
     lookFor(myRequest.dataDirectory + file);
@@ -410,11 +400,11 @@ std::set<std::string> DtModelGeneration::inputs() const
 {
     std::set<std::string> files(myModelFiles.begin(), myModelFiles.end());
     for (const std::string& file : DtReadDataFiles())
-        files.insert(absolutePath(file));
+        files.insert(DtAbsolutePath(file));
     const bool isShipped = myRequest.configFile.empty();
-    files.insert(absolutePath(isShipped ? myRequest.dataDirectory + theConfiguration : myRequest.configFile));
+    files.insert(DtAbsolutePath(isShipped ? myRequest.dataDirectory + theConfiguration : myRequest.configFile));
     if (!myRequest.project.empty())
-        files.insert(absolutePath(myRequest.project));
+        files.insert(DtAbsolutePath(myRequest.project));
     return files;
 }
 
@@ -424,14 +414,14 @@ std::set<std::string> DtModelGeneration::awaited() const
 {
     std::vector<std::string> directories;
     for (const std::string& directory : myRequest.templateDirectories)
-        directories.push_back(absolutePath(directory + "/"));
+        directories.push_back(DtAbsolutePath(directory + "/"));
     std::vector<std::string> places = directories;
-    places.push_back(absolutePath(myRequest.dataDirectory + "templates/"));
-    places.push_back(absolutePath(myRequest.dataDirectory));
+    places.push_back(DtAbsolutePath(myRequest.dataDirectory + "templates/"));
+    places.push_back(DtAbsolutePath(myRequest.dataDirectory));
     std::set<std::string> files = myLookedFor;
     for (const std::string& read : DtReadDataFiles())
     {
-        const std::string file = absolutePath(read);
+        const std::string file = DtAbsolutePath(read);
         const auto isIn = [&file](const std::string& place) { return file.compare(0, place.size(), place) == 0; };
         const auto place = std::find_if(places.begin(), places.end(), isIn);
         const std::string path = place == places.end() ? std::string() : file.substr(place->size());

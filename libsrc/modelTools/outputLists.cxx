@@ -1,8 +1,9 @@
 #include "modelTools/outputLists.h"
 
+#include "foundation/textEnds.h"
+
 #include <algorithm>
 #include <fstream>
-#include <string_view>
 
 namespace
 {
@@ -12,16 +13,6 @@ void appendLines(const std::filesystem::path& list, const std::string& start, st
     for (std::string line; std::getline(file, line);)
         if (!line.empty())
             paths.push_back(start + line);
-}
-
-bool endsWith(std::string_view text, std::string_view end)
-{
-    return text.size() > end.size() && text.substr(text.size() - end.size()) == end;
-}
-
-bool startsWith(std::string_view text, std::string_view start)
-{
-    return text.substr(0, start.size()) == start;
 }
 } // namespace
 
@@ -40,8 +31,8 @@ std::vector<std::string> DtOutputsToList(const std::vector<std::string>& files, 
     std::copy_if(files.begin(), files.end(), std::back_inserter(wanted),
                  [&paths](const std::string& file)
                  {
-                     return startsWith(file, paths.prefix) && !startsWith(file, paths.prefix + "Examples/") &&
-                            (endsWith(file, ".cxx") || endsWith(file, ".h"));
+                     return DtStartsWith(file, paths.prefix) && !DtStartsWith(file, paths.prefix + "Examples/") &&
+                            (DtEndsWith(file, ".cxx") || DtEndsWith(file, ".h"));
                  });
     return wanted;
 }

@@ -3,7 +3,9 @@
 #include "fileGenerator/dataFile.h"
 #include "fileGenerator/settings.h"
 #include "foundation/perRun.h"
+#include "foundation/textEnds.h"
 #include "modelTools/commandFileLint.h"
+#include "modelTools/inputPath.h"
 #include "modelTools/modelGeneration.h"
 #include "modelTools/nearNames.h"
 #include "modelTools/templateScanner.h"
@@ -30,22 +32,6 @@ const std::string theExtension = ".tlt";
     throw DtToolFailure(DtExitCode::Unreadable, text);
 }
 
-bool endsWith(const std::string& text, const std::string& end)
-{
-    return text.size() >= end.size() && text.compare(text.size() - end.size(), end.size(), end) == 0;
-}
-
-bool startsWith(const std::string& text, const std::string& start)
-{
-    return text.compare(0, start.size(), start) == 0;
-}
-
-bool isFile(const std::string& path)
-{
-    std::error_code ignored;
-    return fs::is_regular_file(path, ignored);
-}
-
 std::string textOf(const std::string& file)
 {
     std::ifstream in(file, std::ios::binary);
@@ -57,10 +43,10 @@ std::string textOf(const std::string& file)
 // Where a path of a file block leads: beside the working directory of a run there is nothing but the data.
 std::string findTemplate(const std::string& path)
 {
-    if (!startsWith(path, "../data/") && !startsWith(path, "/"))
+    if (!DtStartsWith(path, "../data/") && !DtStartsWith(path, "/"))
         return std::string();
     const std::string file = DtDataFile(DtString(path)).stdString();
-    return isFile(file) ? file : std::string();
+    return DtIsFile(file) ? file : std::string();
 }
 
 DtDiagnostic finding(DtSeverity severity, const DtPlace& place, const std::string& text, const DtWarningRule& rule)
@@ -94,7 +80,7 @@ std::vector<std::string> filesBelow(const std::string& directory)
     std::vector<std::string> files;
     std::error_code error;
     for (fs::recursive_directory_iterator each(directory, error), end; !error && each != end; each.increment(error))
-        if (isFile(each->path().string()))
+        if (DtIsFile(each->path().string()))
             files.push_back(each->path().lexically_relative(directory).string());
     if (error)
         fail(directory + " cannot be read: " + error.message() + ".");
@@ -152,7 +138,7 @@ void DtTemplateLint::checkScripts()
     for (const std::string& name : myFiles)
     {
         const std::string file = myDirectory + "/" + name;
-        if (name.find('/') == std::string::npos && endsWith(name, ".txt") && myOpened.count(file) == 0 &&
+        if (name.find('/') == std::string::npos && DtEndsWith(name, ".txt") && myOpened.count(file) == 0 &&
             DtCommandFileLint::isCommandFile(textOf(file)))
             checkCommandFile(file);
     }
@@ -172,7 +158,7 @@ void DtTemplateLint::checkCommandFile(const std::string& file)
 void DtTemplateLint::scan(const std::string& path, const DtTemplateRules& rules)
 {
     const std::string file = DtDataFile(DtString(path)).stdString();
-    if (!isFile(file)) // an installation that lacks it
+    if (!DtIsFile(file)) // an installation that lacks it
         return;
     DtTemplateScanner scanner(rules, findTemplate);
     for (const DtDiagnostic& fault : scanner.scan(file, textOf(file)))
@@ -189,7 +175,7 @@ void DtTemplateLint::checkOwnTexts()
     for (const std::string& name : myFiles)
     {
         const std::string file = myDirectory + "/" + name;
-        if (!endsWith(name, theExtension))
+        if (!DtEndsWith(name, theExtension))
             continue;
         std::ifstream in(file, std::ios::binary);
         bool hasCarriageReturn = false;
@@ -219,12 +205,12 @@ void DtTemplateLint::tellUnopened()
 {
     std::vector<std::string> shipped;
     for (const std::string& name : filesBelow(myDataDirectory + "templates"))
-        if (endsWith(name, theExtension))
+        if (DtEndsWith(name, theExtension))
             shipped.push_back(name);
     for (const std::string& name : myFiles)
     {
         const std::string file = myDirectory + "/" + name;
-        if (endsWith(name, theExtension) && myOpened.count(file) == 0)
+        if (DtEndsWith(name, theExtension) && myOpened.count(file) == 0)
             add(finding(DtSeverity::Warning, {file, 0, 0},
                         "no writer and no command file opens this template." + DtNearNamesHint(name, shipped),
                         DtToolRules::templateUnopened));
@@ -239,5 +225,5 @@ void DtTemplateLint::add(const DtDiagnostic& diagnostic)
 
 bool DtTemplateLint::isOwn(const std::string& file) const
 {
-    return startsWith(file, myDirectory + "/");
+    return DtStartsWith(file, myDirectory + "/");
 }

@@ -1,6 +1,7 @@
 #include "modelTools/windowStart.h"
 
 #include "modelTools/dataDirectory.h"
+#include "modelTools/inputPath.h"
 #include "modelTools/toolFailure.h"
 #include "omtReader/fedReader.h"
 
@@ -20,17 +21,6 @@ namespace
 [[noreturn]] void fail(DtExitCode code, const std::string& text)
 {
     throw DtToolFailure(code, text);
-}
-
-bool isFile(const std::string& path)
-{
-    std::error_code ignored;
-    return fs::is_regular_file(path, ignored);
-}
-
-std::string absolutePath(const std::string& path)
-{
-    return fs::absolute(path).lexically_normal().string();
 }
 
 bool isProject(const std::string& path)
@@ -59,7 +49,7 @@ std::string findProgram()
     for (const char* place : {"codeGen", "../codeGen/codeGen"})
     {
         const std::string path = (here / place).lexically_normal().string();
-        if (isFile(path) && access(path.c_str(), X_OK) == 0)
+        if (DtIsFile(path) && access(path.c_str(), X_OK) == 0)
             return path;
     }
     fail(DtExitCode::Unreadable, "there is no codeGen, the program with the window, beside qxgen in " + here.string() +
@@ -80,11 +70,11 @@ std::string directoryBeside(const std::string& dataDirectory)
 
 std::string findModel(const std::string& name)
 {
-    if (isFile(name))
-        return absolutePath(name);
+    if (DtIsFile(name))
+        return DtAbsolutePath(name);
     const DtString below = DtFedReader::pathBelowRtiConfig(name.c_str());
-    if (!below.isEmpty() && isFile(below.stdString()))
-        return absolutePath(below.stdString());
+    if (!below.isEmpty() && DtIsFile(below.stdString()))
+        return DtAbsolutePath(below.stdString());
     fail(DtExitCode::Unreadable, "there is no model " + name + " in the working directory or below RTI_CONFIG.");
 }
 
@@ -95,10 +85,10 @@ std::vector<std::string> argumentsFor(const std::vector<std::string>& files)
     std::vector<std::string> arguments;
     for (const std::string& file : files)
     {
-        if (isProject(file) && !isFile(file))
+        if (isProject(file) && !DtIsFile(file))
             fail(DtExitCode::Unreadable, "there is no project file " + file + ".");
         arguments.emplace_back(isProject(file) ? "-P" : "-F");
-        arguments.push_back(isProject(file) ? absolutePath(file) : findModel(file));
+        arguments.push_back(isProject(file) ? DtAbsolutePath(file) : findModel(file));
     }
     return arguments;
 }

@@ -1,3 +1,4 @@
+#include "foundation/textEnds.h"
 #include "modelTools/modelItems.h"
 #include "omtReader/xmlDocument.h"
 #include "omtReader/xmlModelNames.h"
@@ -42,15 +43,10 @@ const DtElementRow theElements[] = {
     {Names::tagAlternative,       DtSubject::Field,            DtSubject::Datatype        },
 };
 
-bool startsWith(const std::string& text, const char* start)
-{
-    return text.compare(0, std::strlen(start), start) == 0;
-}
-
 // The encoding that the XML declaration names; empty when it names none.
 std::string declaredEncoding(const std::string& content)
 {
-    const std::string declaration = startsWith(content, "<?xml") ? content.substr(0, content.find("?>")) : "";
+    const std::string declaration = DtStartsWith(content, "<?xml") ? content.substr(0, content.find("?>")) : "";
     const std::size_t word = declaration.find("encoding");
     const std::size_t begin = word == std::string::npos ? word : declaration.find_first_of("\"'", word);
     if (begin == std::string::npos)
@@ -76,7 +72,7 @@ std::string encodingOf(const std::string& content)
 std::string utf8Of(const std::string& content)
 {
     const char* const mark = "\xEF\xBB\xBF";
-    if (startsWith(content, mark))
+    if (DtStartsWith(content, mark))
         return content.substr(std::strlen(mark));
     const std::string encoding = encodingOf(content);
     QTextCodec* const codec = encoding.empty() ? nullptr : QTextCodec::codecForName(encoding.c_str());

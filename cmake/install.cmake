@@ -1,5 +1,6 @@
 # What is installed, by component:
 #   generator   codeGen and qxgen
+#   desktop     menu entry, icons, type of project files, completions (see desktop.cmake)
 #   data        what they read: templates, command files, images, shipped configuration
 #   cmake       find_package(QuorvexCodeGen)
 #   toolkit     the stand-in of the toolkit, as Qx::toolkit and for QX_DIR
@@ -51,7 +52,10 @@ install(EXPORT qxToolkit NAMESPACE Qx:: FILE qxToolkitTargets.cmake DESTINATION 
 install(FILES ${PROJECT_SOURCE_DIR}/README.md ${PROJECT_SOURCE_DIR}/CHANGELOG.md DESTINATION ${QX_INSTALL_DOCDIR}
     COMPONENT doc)
 install(DIRECTORY ${PROJECT_SOURCE_DIR}/docs ${PROJECT_SOURCE_DIR}/examples DESTINATION ${QX_INSTALL_DOCDIR}
-    COMPONENT doc PATTERN build EXCLUDE) # where somebody has built an example
+    COMPONENT doc
+    PATTERN docs/CMakeLists.txt EXCLUDE # the pages in docs/man are installed as manual pages
+    PATTERN docs/man EXCLUDE
+    PATTERN build EXCLUDE) # where somebody has built an example
 
 add_custom_target(uninstall
     COMMAND ${CMAKE_COMMAND} -DMANIFESTS=${PROJECT_BINARY_DIR} -P ${PROJECT_SOURCE_DIR}/cmake/uninstall.cmake

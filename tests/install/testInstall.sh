@@ -19,7 +19,7 @@ directories() { # directory
 }
 
 # Each component by itself, into one prefix: together they are the whole.
-for component in generator data cmake toolkit doc; do
+for component in generator desktop data cmake toolkit doc; do
     install --prefix "$work/$component" --component "$component"
     files "$work/$component" >"$work/files-$component"
 done
@@ -32,10 +32,13 @@ check packageStandsWhereCMakeLooks test -e "$(echo "$work"/cmake/lib*/cmake/Quor
 holds toolkitHasHeaders quorvex-codegen/toolkit/include/qx/wireFormat.h "$(cat "$work/files-toolkit")"
 holds toolkitHasItsLibrary quorvex-codegen/toolkit/lib/libqxToolkit.a "$(cat "$work/files-toolkit")"
 holds documentsHaveThoseOfTheRepository share/doc/quorvex-codegen/docs/qxgen.md "$(cat "$work/files-doc")"
+holds documentsHaveManualPages share/man/man1/qxgen-generate.1 "$(cat "$work/files-doc")"
+holds desktopHasTheMenuEntry share/applications/com.quorvex.CodeGen.desktop "$(cat "$work/files-desktop")"
+holds desktopHasCompletions share/bash-completion/completions/qxgen "$(cat "$work/files-desktop")"
 holds documentsHaveTheExample share/doc/quorvex-codegen/examples/cmake/CMakeLists.txt "$(cat "$work/files-doc")"
 install --prefix "$prefix"
 same componentsAreTheWhole "$(cat "$work"/files-* | LC_ALL=C sort)" "$(files "$prefix")"
-rm -rf "$work"/{generator,data,cmake,toolkit,doc}
+rm -rf "$work"/{generator,desktop,data,cmake,toolkit,doc}
 holds_not noFileNamesTheSourceOrThePrefix "$work" "$(grep -rlI -e "$repository" -e "$work" "$prefix" || true)"
 
 # Moved, it finds its parts again.

@@ -44,7 +44,7 @@ run_tests() {
 case ${1-} in
     --lint) lint ;;
     --full)
-        "$top/.ci/setup" clang
+        "$top/.ci/setup" clang git lintian desktop-file-utils appstream debootstrap dpkg-dev file gzip scdoc
         cmake --preset clang
         cmake --build --preset clang
         export QX_FULL=1

@@ -417,11 +417,11 @@ void DtGenerateTool::writeDependencies() const
         writeWhole(myOptions.stamp, "");
 }
 
-// Of a run that changes nothing too, because of what it has found or because it compares only. One that names its
-// outputs writes nothing at all.
+// Of a run that changes nothing too, because of what it has found or because it compares or lists only: a build system
+// takes the inputs from there ahead of the build.
 void DtGenerateTool::writeReport(const DtDiagnostics& diagnostics)
 {
-    if (myOptions.report.empty() || myOptions.use == DtOutputUse::List)
+    if (myOptions.report.empty())
         return;
     myReport.outputDirectory = myOptions.outputDirectory;
     myReport.setInputs(presentInputs());

@@ -296,6 +296,23 @@ void DtTokenChain::expand(DtString& line, std::initializer_list<DtTokenSource*> 
     DtExpandTokens(line, active, static_cast<std::size_t>(end - active));
 }
 
+namespace
+{
+// With the values that are known already: working one out may have an effect, such as a warning, and has it once a
+// line.
+bool appendInOrder(const std::vector<DtTokenChain::DtLink>& links, std::string_view text, std::string& result)
+{
+    std::vector<DtTokenSource*> active;
+    for (const DtTokenChain::DtLink& link : links)
+        if (link.source->isActive())
+            active.push_back(link.source);
+    DtString line{std::string(text)};
+    DtExpandTokens(line, active.data(), active.size());
+    result += line.stdString();
+    return true;
+}
+} // namespace
+
 bool DtTokenChain::append(const DtCompiledLine& line, std::string& result, DtTokenFinder* finder) const
 {
     if (!line.isPlain())
@@ -318,7 +335,7 @@ bool DtTokenChain::append(const DtCompiledLine& line, std::string& result, DtTok
         if (!isQuiet)
         {
             result.resize(size);
-            return false;
+            return finder == nullptr && appendInOrder(myLinks, line.text(), result);
         }
         result.append(line.text(), copied, slot.start - copied).append(found->stdString());
         copied = slot.end;

@@ -239,7 +239,8 @@ public:
     // Replaces the tokens of the active sources, those of further sources ahead of them.
     void expand(DtString& line, std::initializer_list<DtTokenSource*> further = {}) const;
     // The same for a line whose tokens are found already, appended to the result; the finder is asked ahead of the
-    // sources. False, with the result as it was, when the text has to be gone over as expand() does.
+    // sources. False, with the result as it was, for a line that is not plain, and for a value beside a finder that is
+    // not quiet: expand() has to do these.
     bool append(const DtCompiledLine& line, std::string& result, DtTokenFinder* finder = nullptr) const;
 
 private:

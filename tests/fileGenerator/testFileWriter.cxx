@@ -1,5 +1,6 @@
 #include "registerTest.h"
 
+#include "fileGenerator/templateFiles.h"
 #include "foundation/exception.h"
 #include "templateTestSupport.h"
 
@@ -59,6 +60,59 @@ public:
     using DtFileWriter::myTemplateFile;
 };
 
+// Notes what the scan calls, with what.
+class DtNotingWriter : public DtMemoryWriter
+{
+public:
+    void writeFileStream(std::istream& in) override
+    {
+        calls += "stream at " + position(in);
+        DtMemoryWriter::writeFileStream(in);
+    }
+    void decodeFileLine(DtString& line) override
+    {
+        calls += QString("line ") + line.c_str();
+        DtMemoryWriter::decodeFileLine(line);
+    }
+    void handleForLoop(std::istream& in) override
+    {
+        calls += "loop at " + position(in);
+        DtMemoryWriter::handleForLoop(in);
+        calls += "loop ends at " + position(in);
+    }
+    void handleIfStatement(std::istream& in) override
+    {
+        calls += "condition at " + position(in);
+        DtMemoryWriter::handleIfStatement(in);
+    }
+    void writeMultipleTimes(const DtString& header, std::istream& body) override
+    {
+        calls += QString("times ") + header.c_str() + " from " + position(body);
+        DtMemoryWriter::writeMultipleTimes(header, body);
+    }
+    void writeConditional(const DtString& header, std::istream& body) override
+    {
+        calls += QString("if ") + header.c_str();
+        DtMemoryWriter::writeConditional(header, body);
+    }
+
+    QStringList calls;
+
+private:
+    static QString position(std::istream& in) { return QString::number(std::streamoff(in.tellg())); }
+};
+
+// Takes the rest of the stream away behind each loop.
+class DtTakingWriter : public DtMemoryWriter
+{
+public:
+    void handleForLoop(std::istream& in) override
+    {
+        DtMemoryWriter::handleForLoop(in);
+        in.ignore(2);
+    }
+};
+
 std::string expand(const std::string& text)
 {
     return DtMemoryWriter().expand(text);
@@ -99,6 +153,8 @@ private Q_SLOTS:
     void headersAreHandedOnRaw();
     void operandsAreDecodedOneByOne();
     void bodyIsTakenFromItsPosition();
+    void operationsAreCalledAlikeForEveryStream();
+    void operationThatLeavesTheStreamElsewhereIsFollowed();
     void directCallsWithoutOpening();
     void directCallLeavesStreamBehindTerminator();
     void helpersFollowTheLine();
@@ -113,6 +169,7 @@ private Q_SLOTS:
     void withoutMeterWriteFileThrows();
     void levelZeroDropsTheText();
     void changedTemplateIsReadAgain();
+    void templateOfARunIsLookedAtOnce();
     void nameCanBeChanged();
     void pathOutsideIsNotWritten_data();
     void pathOutsideIsNotWritten();
@@ -400,6 +457,27 @@ void TestFileWriter::bodyIsTakenFromItsPosition()
     QCOMPARE(writer.text(), std::string("bcbc"));
 }
 
+void TestFileWriter::operationsAreCalledAlikeForEveryStream()
+{
+    writeTextFile("f", "i<!BitCount!>\n");
+    const std::string text =
+        "a <!BitCount!>\n|b<#2>\n|<?equals <!BitCount!> 64>c<?><#1>d<#>\n<#>e<#1#f#>\n\n<?exists 1?f?>";
+    DtNotingWriter own;
+    own.expand(text);
+    DtNotingWriter plain;
+    plain.expandPlain(text);
+    QVERIFY(own.calls.size() > 30);
+    QCOMPARE(own.calls, plain.calls);
+    QCOMPARE(own.text(), plain.text());
+}
+
+void TestFileWriter::operationThatLeavesTheStreamElsewhereIsFollowed()
+{
+    const std::string text = "<#1>a<#>xyb <!BitCount!><#1>c<#>zz<#1>d<#>";
+    QCOMPARE(DtTakingWriter().expand(text), std::string("ab 64cd"));
+    QCOMPARE(DtTakingWriter().expandPlain(text), std::string("ab 64cd"));
+}
+
 void TestFileWriter::directCallsWithoutOpening()
 {
     const QString problem = "Problem Handling For Loop in line: ";
@@ -562,6 +640,29 @@ void TestFileWriter::changedTemplateIsReadAgain()
     QCOMPARE(expand("<#1#inc#>"), std::string("two"));
     writeTextFile("inc", "six");
     QCOMPARE(expand("<#1#inc#>"), std::string("six"));
+}
+
+void TestFileWriter::templateOfARunIsLookedAtOnce()
+{
+    const DtWithMeter meter(1);
+    const auto written = []
+    {
+        DtFileWriter("a.txt", "t.tlt").writeFile();
+        return readTextFile("out/a.txt");
+    };
+    const auto change = [](const char* text)
+    {
+        writeTextFile("t.tlt", QByteArray(text) + "<#1#f#>");
+        writeTextFile("f", text);
+    };
+    change("1");
+    {
+        const DtTemplateRun run;
+        QCOMPARE(written(), QByteArray("11"));
+        change("22");
+        QCOMPARE(written(), QByteArray("11"));
+    }
+    QCOMPARE(written(), QByteArray("2222"));
 }
 
 void TestFileWriter::nameCanBeChanged()

@@ -372,22 +372,27 @@ void DtOMTEnvWriter::addInteractionToFile(DtString name, std::set<DtString>& don
                   parent != nullptr ? interactionParentName(*parent) : DtString(), node->getParameters());
 }
 
+// Each goes ahead of the next: in a large model they are the longest texts of a run.
 void DtOMTEnvWriter::writeProjectFiles()
 {
     const DtString base = withoutPathAndExtension(modelBase());
     if (isCancelled())
         return;
-    const int compiler = 9; // VC14, 64 bit
-    DtProjectFileWriter project(base + "VC14_64" + ".vcxproj", myFileList, compiler);
-    project.setProjectName(base);
-    project.setGenerateDis(myGenerateDis);
-    project.writeFile();
+    {
+        const int compiler = 9; // VC14, 64 bit
+        DtProjectFileWriter project(base + "VC14_64" + ".vcxproj", myFileList, compiler);
+        project.setProjectName(base);
+        project.setGenerateDis(myGenerateDis);
+        project.writeFile();
+    }
     if (isCancelled())
         return;
-    DtMakefileWriter makefile("Makefile", myFileList);
-    makefile.setLibraryName(base);
-    makefile.setGenerateDis(myGenerateDis);
-    makefile.writeFile();
+    {
+        DtMakefileWriter makefile("Makefile", myFileList);
+        makefile.setLibraryName(base);
+        makefile.setGenerateDis(myGenerateDis);
+        makefile.writeFile();
+    }
     if (isCancelled())
         return;
     DtSolutionsFileWriter solution(base + "VC14_64.sln", "solutionVC14_64.tlt");

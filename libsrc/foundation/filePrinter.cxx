@@ -3,9 +3,11 @@
 #include "foundation/fileUtils.h"
 #include "foundation/warningRules.h"
 
+#include <algorithm>
 #include <cerrno>
 #include <cstring>
 #include <fcntl.h>
+#include <string_view>
 #include <sys/stat.h>
 #include <unistd.h>
 #include <unordered_map>
@@ -20,7 +22,9 @@ unsigned long theWriteCount = 0;
 constexpr int theMostOpenFiles = 128;
 int theOpenFiles = 0;
 
-// Names written by this process and the count at which each was written last.
+// Names written while printers that collect are there, and the count at which each was written last. A printer asks for
+// what has been written since it was made, so nothing is kept when the last one has gone.
+int theCollectingPrinters = 0;
 std::unordered_map<std::string, unsigned long>& writeCounts()
 {
     static std::unordered_map<std::string, unsigned long> theWriteCounts;
@@ -65,11 +69,20 @@ int openForWriting(const DtString& name, int flags)
     return ::open(name.c_str(), O_RDWR | O_CREAT | O_CLOEXEC | flags, 0666);
 }
 
-bool holdsText(int descriptor, const std::string& text)
+// Compares piece by piece, so that a difference ends the reading.
+bool holdsText(int descriptor, std::string_view text)
 {
-    std::string present(text.size(), '\0');
-    return pread(descriptor, present.data(), present.size(), 0) == static_cast<ssize_t>(present.size()) &&
-           present == text;
+    char piece[32768];
+    std::size_t compared = 0;
+    while (compared < text.size())
+    {
+        const std::size_t size = std::min(sizeof piece, text.size() - compared);
+        const ssize_t count = pread(descriptor, piece, size, static_cast<off_t>(compared));
+        if (count != static_cast<ssize_t>(size) || text.compare(compared, size, piece, size) != 0)
+            return false;
+        compared += size;
+    }
+    return true;
 }
 
 bool writeWhole(int descriptor, const char* text, std::size_t length)
@@ -97,6 +110,8 @@ bool updateFile(int descriptor, std::size_t size, const std::string& text)
 DtFilePrinter::DtFilePrinter(const char* name, Mode mode)
     : myName(name), myMode(mode), myText(takeSpareText()), mySerial(theWriteCount)
 {
+    if (myMode == Mode::Collect)
+        ++theCollectingPrinters;
     myDescriptor = openForWriting(myName, mode == Mode::WriteThrough ? O_TRUNC | O_APPEND : 0);
     myIsUsable = myDescriptor >= 0;
     if (!myIsUsable)
@@ -117,6 +132,8 @@ DtFilePrinter::~DtFilePrinter()
     if (myDescriptor >= 0)
         closeFile();
     keepSpareText(std::move(myText));
+    if (myMode == Mode::Collect && --theCollectingPrinters == 0)
+        writeCounts().clear();
 }
 
 bool DtFilePrinter::closeFile()

@@ -5,7 +5,10 @@
 
 #include <QtTest/QtTest>
 
+#include <memory>
+#include <string>
 #include <utime.h>
+#include <vector>
 
 class TestFilePrinter : public QObject
 {
@@ -31,6 +34,8 @@ private Q_SLOTS:
     void failedOpenIsNamedOnce();
     void failedWriteOfALogIsNamedOnce();
     void failedWriteIsNamedOnce();
+    void manyPrintersAtOnceWriteTheirFiles();
+    void fileRemovedInBetweenIsMadeAgain();
     void backslashIsAnOrdinaryCharacterOfAName();
     void nulBytesAreKept();
 
@@ -240,6 +245,33 @@ void TestFilePrinter::failedWriteIsNamedOnce()
         writeTextFile("sub", "a file in the way");
     }
     QCOMPARE(capture.text(), QString("Cannot write file sub/a: Not a directory\n"));
+}
+
+// More than stay open.
+void TestFilePrinter::manyPrintersAtOnceWriteTheirFiles()
+{
+    constexpr int count = 300;
+    {
+        std::vector<std::unique_ptr<DtFilePrinter>> printers;
+        for (int i = 0; i < count; ++i)
+        {
+            printers.push_back(std::make_unique<DtFilePrinter>(std::to_string(i).c_str()));
+            printText(*printers.back(), std::to_string(i).c_str());
+        }
+        QVERIFY(QDir("/proc/self/fd").entryList(QDir::AllEntries | QDir::System).size() < count);
+    }
+    for (int i = 0; i < count; ++i)
+        QCOMPARE(readTextFile(QString::number(i)), QByteArray::number(i));
+}
+
+void TestFilePrinter::fileRemovedInBetweenIsMadeAgain()
+{
+    {
+        DtFilePrinter printer("a");
+        printText(printer, "text");
+        QVERIFY(QFile::remove("a"));
+    }
+    QCOMPARE(readTextFile("a"), QByteArray("text"));
 }
 
 void TestFilePrinter::backslashIsAnOrdinaryCharacterOfAName()

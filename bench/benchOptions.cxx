@@ -11,6 +11,8 @@ constexpr const char* theUsage = "usage: generationBench [options] DIRECTORY (MO
                                  "  --rounds N       rounds, 9 at first\n"
                                  "  --count N        a model made up of N classes in place of model files\n"
                                  "  --shape NAME     what it has N of: classes, siblings, namesakes or datatypes\n"
+                                 "  --attributes N   of each class that is made up, 2 at first\n"
+                                 "  --write-model F  writes that model to a file and does nothing else\n"
                                  "  --load           loading alone, beside a bare parse and walk of the files\n"
                                  "  --again          a second run over the unchanged output, too\n"
                                  "  --no-examples    without the example programs\n"
@@ -59,6 +61,10 @@ bool takeValue(const QString& argument, const QString& value, DtBenchOptions& op
         options.rounds = value.toInt();
     else if (argument == QStringLiteral("--count"))
         options.count = value.toInt();
+    else if (argument == QStringLiteral("--attributes"))
+        options.attributes = value.toInt();
+    else if (argument == QStringLiteral("--write-model"))
+        options.modelFile = QDir().absoluteFilePath(value);
     else if (argument == QStringLiteral("--data"))
         options.data = QDir().absoluteFilePath(value);
     else if (argument == QStringLiteral("--script"))

@@ -14,6 +14,8 @@ struct DtBenchOptions
     int rounds = 9;
     int count = 0; // of classes or datatypes in a model that is made up
     DtModelShape shape = DtModelShape::Classes;
+    int attributes = 2;
+    QString modelFile; // where the model that is made up is written, and nothing else done
     bool onlyLoads = false;
     bool runsAgain = false; // a second time, over the unchanged output of the first
     bool generatesExamples = true;

@@ -183,7 +183,7 @@ void measureGeneration(QApplication& application, const DtBenchOptions& options,
 void makeModel(DtBenchOptions& options, const QString& name)
 {
     QFile model(name);
-    const std::string text = madeUpModel(options.shape, options.count);
+    const std::string text = madeUpModel(options.shape, options.count, options.attributes);
     if (!model.open(QIODevice::WriteOnly) || model.write(text.c_str()) < 0)
         qFatal("cannot write the model");
     options.models = {
@@ -197,6 +197,11 @@ int main(int argc, char** argv)
     qputenv("QT_QPA_PLATFORM", "offscreen");
     QApplication application(argc, argv);
     DtBenchOptions options = readBenchOptions(QCoreApplication::arguments());
+    if (!options.modelFile.isEmpty())
+    {
+        makeModel(options, options.modelFile);
+        return 0;
+    }
     QTemporaryDir scratch(options.directory + "/bench-XXXXXX");
     if (!scratch.isValid())
         qFatal("cannot work below %s", qPrintable(options.directory));

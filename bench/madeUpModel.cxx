@@ -28,22 +28,29 @@ std::string attribute(const std::string& name, const std::string& datatype)
     return element("attribute", element("name", name) + element("dataType", datatype));
 }
 
-std::string twoAttributes(const std::string& number)
+std::string attributesOf(int classNumber, int count)
 {
-    return attribute("First" + number, "Size") + attribute("Second" + number, "Size");
+    static const char* const theNames[] = {"First", "Second", "Third", "Fourth", "Fifth"};
+    constexpr int theNameCount = 5;
+    std::string text;
+    for (int index = 0; index < count; ++index)
+    {
+        const std::string round = index < theNameCount ? "" : "Of" + std::to_string(index / theNameCount) + "x";
+        text += attribute(theNames[index % theNameCount] + round + std::to_string(classNumber), "Size");
+    }
+    return text;
 }
 
 // Chains of ten classes below the root.
-std::string chains(int count, bool areNamesakes)
+std::string chains(int count, int attributes, bool areNamesakes)
 {
     constexpr int length = 10;
     std::string text;
     for (int index = 0; index < count; ++index)
     {
-        const std::string number = std::to_string(index);
         // Two classes side by side need names that differ.
         const int name = areNamesakes && index % length != 0 ? index % length : index;
-        text += "<objectClass>" + element("name", "Class" + std::to_string(name)) + twoAttributes(number);
+        text += "<objectClass>" + element("name", "Class" + std::to_string(name)) + attributesOf(index, attributes);
         if (index % length == length - 1 || index == count - 1)
             for (int depth = 0; depth <= index % length; ++depth)
                 text += "</objectClass>";
@@ -51,13 +58,13 @@ std::string chains(int count, bool areNamesakes)
     return text;
 }
 
-std::string siblings(int count)
+std::string siblings(int count, int attributes)
 {
     std::string text;
     for (int index = 0; index < count; ++index)
     {
-        const std::string number = std::to_string(index);
-        text += element("objectClass", element("name", "Class" + number) + twoAttributes(number));
+        text +=
+            element("objectClass", element("name", "Class" + std::to_string(index)) + attributesOf(index, attributes));
     }
     return text;
 }
@@ -114,15 +121,15 @@ std::string records(int count)
     return text;
 }
 
-std::string classesOf(DtModelShape shape, int count)
+std::string classesOf(DtModelShape shape, int count, int attributes)
 {
     switch (shape)
     {
     case DtModelShape::Classes:
     case DtModelShape::Namesakes:
-        return chains(count, shape == DtModelShape::Namesakes);
+        return chains(count, attributes, shape == DtModelShape::Namesakes);
     case DtModelShape::Siblings:
-        return siblings(count);
+        return siblings(count, attributes);
     case DtModelShape::Datatypes:
         return classOfDatatypes(count);
     }
@@ -140,13 +147,14 @@ bool shapeOfName(const std::string& name, DtModelShape& shape)
     return true;
 }
 
-std::string madeUpModel(DtModelShape shape, int count)
+std::string madeUpModel(DtModelShape shape, int count, int attributes)
 {
     const int datatypes = shape == DtModelShape::Datatypes ? count : 0;
     const std::string size = element("simpleData", element("name", "Size") + element("representation", "HLAfloat64BE"));
     return "<objectModel xmlns=\"http://standards.ieee.org/IEEE1516-2010\">" +
            element("modelIdentification", element("name", "Synthetic")) +
-           element("objects", element("objectClass", element("name", "HLAobjectRoot") + classesOf(shape, count))) +
+           element("objects",
+                   element("objectClass", element("name", "HLAobjectRoot") + classesOf(shape, count, attributes))) +
            element("dataTypes", "<basicDataRepresentations/>" + element("simpleDataTypes", size) +
                                     element("enumeratedDataTypes", enumerations(datatypes)) +
                                     element("arrayDataTypes", arrays(datatypes)) +

@@ -6,7 +6,7 @@
 // Models that are made up here, to see how the cost of a run grows with one of the things that a model has many of.
 enum class DtModelShape
 {
-    Classes,   // object classes in chains of ten below the root; each has two attributes of a simple type
+    Classes,   // object classes in chains of ten below the root, with attributes of a simple type
     Siblings,  // object classes side by side below the root, with the same attributes
     Namesakes, // object classes in chains of ten that have ten short names between them
     Datatypes  // one object class with an attribute of each of that many datatypes: records, arrays, enumerations
@@ -14,7 +14,7 @@ enum class DtModelShape
 
 // False, with nothing changed, for a name of no shape.
 bool shapeOfName(const std::string& name, DtModelShape& shape);
-// The text of a 2010 model with that many classes or datatypes.
-std::string madeUpModel(DtModelShape shape, int count);
+// The text of a 2010 model with that many classes or datatypes; classes have that many attributes.
+std::string madeUpModel(DtModelShape shape, int count, int attributes);
 
 #endif

@@ -10,36 +10,35 @@
 #include <functional>
 
 // Notes the files that the progress dialog names, and presses Cancel at one of them, counted from 0. The dialog hides
-// then, and names no more.
+// then, and names no more. It looks whenever the event loop is turned, whether the dialog is painted or not.
 class DtCancelAfter : public QObject
 {
 public:
     explicit DtCancelAfter(int count, const std::function<void()>& note = {}) : myCount(count), myNote(note)
     {
-        qApp->installEventFilter(this);
+        startTimer(0);
     }
     const QStringList& files() const { return myFiles; }
     bool isDone() const { return myIsDone; }
 
-    bool eventFilter(QObject* object, QEvent*) override
+private:
+    void timerEvent(QTimerEvent*) override
     {
         const QString prefix = QStringLiteral("Generating: ");
-        auto* const dialog = qobject_cast<QProgressDialog*>(object);
+        auto* const dialog = qobject_cast<QProgressDialog*>(QApplication::activeModalWidget());
         if (dialog == nullptr || myIsDone || !dialog->labelText().startsWith(prefix))
-            return false;
+            return;
         const QString file = dialog->labelText().mid(prefix.size());
         if (!myFiles.contains(file))
             myFiles += file;
         if (myFiles.size() <= myCount || myCount < 0)
-            return false;
+            return;
         myIsDone = true;
         if (myNote)
             myNote();
         dialog->findChild<QPushButton*>()->click();
-        return false;
     }
 
-private:
     int myCount;
     std::function<void()> myNote; // called ahead of the click
     QStringList myFiles;

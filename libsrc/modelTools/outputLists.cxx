@@ -31,8 +31,9 @@ std::vector<std::string> DtOutputsToList(const std::vector<std::string>& files, 
     std::copy_if(files.begin(), files.end(), std::back_inserter(wanted),
                  [&paths](const std::string& file)
                  {
+                     const std::string extension = std::filesystem::path(file).extension().string();
                      return DtStartsWith(file, paths.prefix) && !DtStartsWith(file, paths.prefix + "Examples/") &&
-                            (DtEndsWith(file, ".cxx") || DtEndsWith(file, ".h"));
+                            (extension == ".cxx" || extension == ".h");
                  });
     return wanted;
 }

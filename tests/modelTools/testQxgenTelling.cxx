@@ -52,8 +52,7 @@ private Q_SLOTS:
         row("--select|Bargo", 1,
             "{\"severity\":\"error\",\"text\":\"no class matches \\\"Bargo\\\". Did you mean Barge?\"}");
         row("--frob", 1,
-            "{\"severity\":\"error\",\"text\":\"The following argument was not expected: --frob. --help tells "
-            "more.\"}");
+            "{\"severity\":\"error\",\"text\":\"qxgen generate has no option --frob. --help tells more.\"}");
         row("-q|-v", 1, "{\"severity\":\"error\",\"text\":\"-q and -v exclude one another.\"}");
         row("@gone", 1, "{\"severity\":\"error\",\"text\":\"the file of arguments gone cannot be read.\"}");
         row("--report|models", 5,

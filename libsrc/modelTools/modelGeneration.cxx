@@ -289,17 +289,18 @@ void DtModelGeneration::select()
         DtSelectClasses(tree(), myProject, DtIsManagementClass);
 }
 
-// Classes that stay keep their renames and custom code.
+// Classes that stay keep their renames and custom code, superclasses that come along among them.
 void DtModelGeneration::selectByPatterns()
 {
     const std::set<DtString> wanted = DtClassesOfPatterns(tree(), myRequest.patterns, myRequest.withManagement);
+    const std::set<DtString> kept = withSuperclasses(wanted);
     const std::set<DtOmtObject> objects = myProject.getObjects();
     for (const DtOmtObject& object : objects)
-        if (wanted.count(object.fullName()) == 0)
+        if (kept.count(object.fullName()) == 0)
             myProject.removeObject(object);
     const std::set<DtOmtInteraction> interactions = myProject.getInteractions();
     for (const DtOmtInteraction& interaction : interactions)
-        if (wanted.count(interaction.fullName()) == 0)
+        if (kept.count(interaction.fullName()) == 0)
             myProject.removeInteraction(interaction);
     DtSelectClasses(tree(), myProject, [&wanted](const DtString& name) { return wanted.count(name) != 0; });
 }

@@ -14,6 +14,7 @@
 #include "modelTools/nearNames.h"
 #include "modelTools/outputTree.h"
 #include "modelTools/toolFailure.h"
+#include "modelTools/toolRules.h"
 #include "omtReader/fedReader.h"
 #include "omtReader/omtTree.h"
 
@@ -65,6 +66,27 @@ bool isFileName(const std::string& name)
     };
     return name.size() <= theLongestName && name.compare(0, 1, ".") != 0 &&
            std::none_of(name.begin(), name.end(), isRefused);
+}
+
+std::set<DtString> withSuperclasses(const std::set<DtString>& fullNames)
+{
+    std::set<DtString> names(fullNames);
+    for (const DtString& fullName : fullNames)
+        for (std::string name = fullName.stdString(); name.find('.') != std::string::npos;)
+        {
+            name.erase(name.rfind('.'));
+            names.insert(DtString(name));
+        }
+    return names;
+}
+
+template <typename Classes>
+void warnOfMissing(const Classes& selected, const std::set<DtString>& present, DtSubject (*subject)(const DtString&))
+{
+    for (const auto& each : selected)
+        if (present.count(each.fullName()) == 0 && each.fullName().stdString().find('.') != std::string::npos)
+            DtTellWarning(DtToolRules::missingClass, subject(each.fullName()),
+                          "The project selects the class " + each.fullName() + ", which the models have not.\n");
 }
 
 // "genHtml.txt" for "html"; empty for what is no name of a script.
@@ -281,6 +303,10 @@ void DtModelGeneration::fillProject()
 
 void DtModelGeneration::select()
 {
+    const std::vector<DtString> names = DtClassNames(tree());
+    const std::set<DtString> present(names.begin(), names.end());
+    warnOfMissing(myProject.getObjects(), present, DtSubject::objectClass);
+    warnOfMissing(myProject.getInteractions(), present, DtSubject::interactionClass);
     if (!myRequest.patterns.empty())
         selectByPatterns();
     else if (myProject.getObjects().empty() && myProject.getInteractions().empty())
@@ -320,11 +346,14 @@ void DtModelGeneration::writeInto(const fs::path& directory)
     for (const std::string& file : commandFiles())
     {
         const DtOutputTree tree(directory);
-        const bool isCpp = DtGenerationRun::isCpp(DtString(file));
-        const std::vector<std::string> before = isCpp ? tree.list() : std::vector<std::string>();
+        const std::vector<std::string> before = tree.list();
         run.run(DtString(file));
-        if (isCpp)
-            myCppFiles = added(before, tree.list());
+        const std::vector<std::string> made = added(before, tree.list());
+        if (DtGenerationRun::isCpp(DtString(file)))
+            myCppFiles = made;
+        else if (made.empty())
+            DtTellWarning(DtToolRules::scriptWithoutOutput, DtSubject::file(DtString(file)),
+                          "The script " + DtString(file) + " has made no file of its own.\n");
     }
     checkTemplates();
 }

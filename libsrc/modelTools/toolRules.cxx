@@ -6,11 +6,15 @@
 namespace
 {
 const DtWarningRule* const theRules[] = {
-    &DtToolRules::editedByHand,    &DtToolRules::manifestDamaged,    &DtToolRules::outputCheck,
-    &DtToolRules::recovery,        &DtToolRules::templateBar,        &DtToolRules::templateCarriageReturn,
-    &DtToolRules::templateCommand, &DtToolRules::templateCondition,  &DtToolRules::templateCycle,
-    &DtToolRules::templateFile,    &DtToolRules::templateLineLength, &DtToolRules::templateLoop,
-    &DtToolRules::templateToken,   &DtToolRules::templateTokenPlace, &DtToolRules::templateUnopened,
+    &DtToolRules::editedByHand,       &DtToolRules::manifestDamaged,
+    &DtToolRules::missingClass,       &DtToolRules::outputCheck,
+    &DtToolRules::recovery,           &DtToolRules::scriptWithoutOutput,
+    &DtToolRules::templateBar,        &DtToolRules::templateCarriageReturn,
+    &DtToolRules::templateCommand,    &DtToolRules::templateCondition,
+    &DtToolRules::templateCycle,      &DtToolRules::templateFile,
+    &DtToolRules::templateLineLength, &DtToolRules::templateLoop,
+    &DtToolRules::templateToken,      &DtToolRules::templateTokenPlace,
+    &DtToolRules::templateUnopened,
 };
 
 std::vector<const DtWarningRule*> joinedRules()

@@ -13,11 +13,14 @@ inline constexpr DtWarningRule editedByHand = {
     "edited-by-hand", "A file of the output directory is not what the last run has made there."};
 inline constexpr DtWarningRule manifestDamaged = {
     "manifest-damaged", "The list of the last run's files cannot be trusted, so none of them is removed."};
+inline constexpr DtWarningRule missingClass = {"missing-class", "A project selects a class that the models have not."};
 inline constexpr DtWarningRule outputCheck = {
     "output-check",
     "A file that was made is empty or unfinished, is in no list or lies where none may, or one is missing."};
 inline constexpr DtWarningRule recovery = {
     "recovery", "An earlier run was cut off in the output directory, and something is left of it."};
+inline constexpr DtWarningRule scriptWithoutOutput = {
+    "script-without-output", "A script has made no file, or only files that another script makes too."};
 inline constexpr DtWarningRule templateBar = {"template-bar",
                                               "A bar stands where it is plain text and stays in the output."};
 inline constexpr DtWarningRule templateCarriageReturn = {

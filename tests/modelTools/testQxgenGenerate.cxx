@@ -153,6 +153,43 @@ private Q_SLOTS:
         QVERIFY(!myFolder->text("out/bargeStateRepository.h").empty());
     }
 
+    void superclassThatComesAlongKeepsItsNameFromTheProject()
+    {
+        DtOmtProject project;
+        project.addFomDefFile("small.xml", "");
+        project.addObject("HLAobjectRoot.Barge", true, "Vessel");
+        project.addObject("HLAobjectRoot.Barge.Tanker", true, "Ship");
+        DtOmtProjectXmlWriter(project, DtFilename(DtString(myFolder->path("models/own.qxproj").native()))).writeXml();
+        COMPARE_TEXT(textOf(myFolder->generate({"--project", "models/own.qxproj", "--select", "Tanker", "-o", "out"})),
+                     "0\n--\n");
+        QVERIFY(contains(myFolder->text("out/shipStateRepository.h"), "vesselStateRepository.h"));
+        QVERIFY(!myFolder->text("out/vesselStateRepository.h").empty());
+    }
+
+    void classOfAProjectThatTheModelsHaveNotIsWarnedOf()
+    {
+        DtOmtProject project;
+        project.addFomDefFile("small.xml", "");
+        project.addObject("HLAobjectRoot.Barge", false, "");
+        project.addObject("HLAobjectRoot.Gone", false, "");
+        project.addInteraction("HLAinteractionRoot.Lost", false, "");
+        DtOmtProjectXmlWriter(project, DtFilename(DtString(myFolder->path("models/own.qxproj").native()))).writeXml();
+        COMPARE_TEXT(
+            textOf(myFolder->generate({"--project", "models/own.qxproj", "-o", "out"})),
+            "0\n--\nqxgen: warning: The project selects the class HLAobjectRoot.Gone, which the models have not. "
+            "[missing-class]\nqxgen: warning: The project selects the class HLAinteractionRoot.Lost, which the "
+            "models have not. [missing-class]\n");
+    }
+
+    void scriptThatMakesNothingOfItsOwnIsWarnedOf()
+    {
+        QVERIFY(contains(generate({"--script", "models/small.xml"}).err, " has made no file of its own."));
+        const DtProgramEnd twice = generate({"--script", "json", "--script", QX_SOURCE_DIR "/data/genJson.txt"});
+        QCOMPARE(twice.code, 0);
+        QVERIFY2(contains(twice.err, "genJson.txt has made no file of its own. [script-without-output]"),
+                 twice.err.c_str());
+    }
+
     void missingModelOfAProjectIsToldWithAllPlaces()
     {
         DtOmtProject project;

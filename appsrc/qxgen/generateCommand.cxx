@@ -179,6 +179,7 @@ void runWatched(DtGenerateTool& tool, DtDiagnosticFormat format)
 
 DtExitCode generate(const CLI::App& command, DtGenerateLine& line)
 {
+    refuseEmptyValues(command, {"--prefix", "--include-dir", "--namespace", "--output", "--script", "--set"});
     checkLine(line);
     addSettings(command, line);
     DtGenerateOptions& options = line.options;

@@ -41,8 +41,9 @@ void addOptions(CLI::App& command, DtListLine& line)
     command.add_flag("-q,--quiet", options.isQuiet, "No warnings");
 }
 
-DtExitCode list(DtListLine& line)
+DtExitCode list(const CLI::App& command, DtListLine& line)
 {
+    refuseEmptyValues(command, {});
     DtListOptions& options = line.options;
     if (options.request.models.empty() && options.request.project.empty())
         throw DtToolFailure(DtExitCode::Usage, "no model and no project is given.");
@@ -60,5 +61,5 @@ void addListCommand(CLI::App& program, DtCommandRun& run)
     const auto line = std::make_shared<DtListLine>();
     addOptions(*command, *line);
     command->footer("Example: qxgen list --objects --tree model.xml");
-    command->callback([line, &run] { run = [line] { return list(*line); }; });
+    command->callback([command, line, &run] { run = [command, line] { return list(*command, *line); }; });
 }

@@ -2,9 +2,11 @@
 #define QXGEN_OPTIONS_H
 
 #include "modelTools/nearNames.h"
+#include "modelTools/toolFailure.h"
 
 #include <CLI/CLI.hpp>
 
+#include <algorithm>
 #include <string>
 #include <utility>
 #include <vector>
@@ -12,6 +14,20 @@
 // The names that an option takes, and what they stand for.
 template <typename Value>
 using DtChoices = std::vector<std::pair<std::string, Value>>;
+
+// A variable of a script that is empty would pass for an option that was not given. Throws DtToolFailure (Usage) for
+// the first option with an empty value, but for those whose name is among the others.
+inline void refuseEmptyValues(const CLI::App& command, const std::vector<std::string>& others)
+{
+    for (const CLI::Option* option : command.get_options())
+    {
+        const std::vector<std::string>& values = option->results();
+        const bool isEmpty = option->get_items_expected_max() > 0 &&
+                             std::find(values.begin(), values.end(), std::string()) != values.end();
+        if (isEmpty && std::find(others.begin(), others.end(), option->get_name()) == others.end())
+            throw DtToolFailure(DtExitCode::Usage, option->get_name() + " has an empty value.");
+    }
+}
 
 // An option that takes one of a few names. Help and completion show them as "one|other".
 template <typename Value>

@@ -11,5 +11,5 @@ bool DtIsFile(const std::string& path)
 
 std::string DtAbsolutePath(const std::string& path)
 {
-    return std::filesystem::absolute(path).lexically_normal().string();
+    return path.empty() ? path : std::filesystem::absolute(path).lexically_normal().string();
 }

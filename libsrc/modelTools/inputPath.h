@@ -8,7 +8,7 @@
 // False too for what cannot be looked at.
 bool DtIsFile(const std::string& path);
 
-// Counted from the working directory, without "." and "..".
+// Counted from the working directory, without "." and ".."; an empty path stays.
 std::string DtAbsolutePath(const std::string& path);
 
 #endif

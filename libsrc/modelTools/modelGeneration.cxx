@@ -121,6 +121,7 @@ void DtModelGeneration::load()
                                     "\" is no name for a library: it takes up to 100 characters that "
                                     "files can have, without separators.");
     setUpSettings();
+    commandFiles(); // a script that there is not goes ahead of an input that cannot be read
     readConfiguration();
     readProject();
     loadModels();

@@ -380,6 +380,13 @@ private Q_SLOTS:
         row("--verison", 1, "qxgen itself has no option --verison. Did you mean --version? ");
         row("generate", 1, "no model and no project is given.");
         row("generate|models/small.xml", 1, "no output directory is given; -o DIR names it.");
+        row("generate||-o|out", 1, "MODEL has an empty value.");
+        row("list|", 1, "MODEL has an empty value.");
+        for (const char* option : {"--project", "--config", "--stamp", "--report", "--depfile", "--data-dir", "--name",
+                                   "--model-path", "--template-dir", "--select", "--expect-list"})
+            row((std::string("generate|models/small.xml|-o|out|") + option + "|").c_str(), 1,
+                (std::string(option) + " has an empty value.").c_str());
+        row("generate|models/gone.xml|-o|out|--script|nope", 1, "there is no script \"nope\".");
         row("generate|models/small.xml|-o|out|--frob", 1, "qxgen generate has no option --frob. --help tells more.");
         row("generate|models/small.xml|-o|out|--lits=x", 1,
             "qxgen generate has no option --lits. Did you mean --list or --dis? --help tells more.");

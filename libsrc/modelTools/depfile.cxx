@@ -33,5 +33,8 @@ std::string DtDepfileText(const std::string& target, const std::set<std::string>
         for (const std::string& file : files)
             if ((!file.empty() && file.back() == '\\') == areOfBackslash)
                 text += " \\\n  " + escaped(file);
-    return text + "\n";
+    text += "\n";
+    for (const std::string& file : files)
+        text += escaped(file) + ":\n";
+    return text;
 }

@@ -49,14 +49,16 @@ class TestDepfile : public QObject
 private Q_SLOTS:
     void namesStandOneALine()
     {
-        COMPARE_TEXT(DtDepfileText("/out/stamp", {"/b", "/a"}), "/out/stamp: \\\n  /a \\\n  /b\n");
+        COMPARE_TEXT(DtDepfileText("/out/stamp", {"/b", "/a"}), "/out/stamp: \\\n  /a \\\n  /b\n/a:\n/b:\n");
         COMPARE_TEXT(DtDepfileText("stamp", {}), "stamp:\n");
     }
 
     void specialCharactersAreEscaped()
     {
-        COMPARE_TEXT(DtDepfileText("a b", {"c#d", "e$f", "g\th"}), "a\\ b: \\\n  c\\#d \\\n  e$$f \\\n  g\\\th\n");
-        COMPARE_TEXT(DtDepfileText("a:b", {"c\\d", "e\\ f", "g|h"}), "a\\:b: \\\n  c\\d \\\n  e\\\\\\ f \\\n  g\\|h\n");
+        COMPARE_TEXT(DtDepfileText("a b", {"c#d", "e$f", "g\th"}),
+                     "a\\ b: \\\n  c\\#d \\\n  e$$f \\\n  g\\\th\nc\\#d:\ne$$f:\ng\\\th:\n");
+        COMPARE_TEXT(DtDepfileText("a:b", {"c\\d", "e\\ f", "g|h"}),
+                     "a\\:b: \\\n  c\\d \\\n  e\\\\\\ f \\\n  g\\|h\nc\\d:\ne\\\\\\ f:\ng\\|h:\n");
     }
 
     void makeReadsEveryName()

@@ -12,6 +12,15 @@
 
 namespace
 {
+// Bytes of the UTF-8 character that begins there; 1 for what is none.
+std::size_t characterLength(std::string_view text, std::size_t at)
+{
+    std::size_t end = at + 1;
+    while (end < text.size() && (static_cast<unsigned char>(text[end]) & 0xC0U) == 0x80U)
+        ++end;
+    return end - at;
+}
+
 // Goes back to the last star when the rest does not match: at most the product of both lengths.
 bool matchesGlob(std::string_view pattern, std::string_view text)
 {
@@ -27,7 +36,12 @@ bool matchesGlob(std::string_view pattern, std::string_view text)
             star = inPattern++;
             behindStar = inText;
         }
-        else if (inPattern < pattern.size() && (pattern[inPattern] == '?' || pattern[inPattern] == text[inText]))
+        else if (inPattern < pattern.size() && pattern[inPattern] == '?')
+        {
+            ++inPattern;
+            inText += characterLength(text, inText);
+        }
+        else if (inPattern < pattern.size() && pattern[inPattern] == text[inText])
         {
             ++inPattern;
             ++inText;

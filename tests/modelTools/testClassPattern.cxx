@@ -79,6 +79,16 @@ private Q_SLOTS:
         QCOMPARE(DtClassPattern(pattern.constData()).matches("HLAobjectRoot.Platform.Aircraft"), matches);
     }
 
+    void questionMarkStandsForACharacterOfAnyLength()
+    {
+        const DtString name("HLAobjectRoot.F\xc3\xa4hre\xe2\x82\xac");
+        for (const char* pattern : {"F?hre?", "F?hr??", "F?hre\xe2\x82\xac", "?\xc3\xa4*?"})
+            QVERIFY2(DtClassPattern(pattern).matches(name), pattern);
+        for (const char* pattern : {"F??hre?", "F?hre??", "F?hre"})
+            QVERIFY2(!DtClassPattern(pattern).matches(name), pattern);
+        QVERIFY(DtClassPattern("F?hre").matches(DtString("Root.F\xe4hre"))); // no UTF-8
+    }
+
     void manyStarsOnALongNameComeToAnEnd()
     {
         std::string stars;

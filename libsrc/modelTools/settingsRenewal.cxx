@@ -49,6 +49,7 @@ void DtRenewSettings(const std::string& shippedFile, const std::string& userFile
     DtEnvObject* const to = DtEnvObject::castToObject(user.root());
     if (!isShippedGood || !isUserGood || from == nullptr || to == nullptr || !addMissing(*from, *to))
         return;
-    if (!DtEnvXMLWriter("codeGenConfig", "codeGenConfig.dtd").writeFile(user, DtString(userFile)))
+    const DtEnvXMLWriter writer("codeGenConfig", "codeGenConfig.dtd");
+    if (!writer.writeFile(user, DtString(userFile)))
         throw DtOutputException::ofSystem(userFile, "cannot be written");
 }

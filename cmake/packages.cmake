@@ -1,15 +1,12 @@
 # Debian packages and a tarball of what is installed, by cpack. package.sh sets the flags of compiler and linker.
 #   quorvex-codegen       the programs, their data, documents and what desktops and shells look for
 #   quorvex-codegen-dev   find_package(QuorvexCodeGen) and the stand-in of the toolkit
-set(QX_MAINTAINER "Quorvex Code Generator Maintainers <root@localhost>" CACHE STRING "Who the packages are from")
+set(QX_MAINTAINER "Quorvex Code Generator Maintainers <maintainers@localhost>" CACHE STRING "Who the packages are from")
 
 set(CPACK_PACKAGE_NAME quorvex-codegen)
 set(CPACK_PACKAGE_VENDOR Quorvex)
 set(CPACK_PACKAGE_CONTACT ${QX_MAINTAINER})
 set(CPACK_PACKAGE_DESCRIPTION_SUMMARY "generator of C++ from HLA federation object models")
-set(CPACK_PACKAGE_DESCRIPTION "Reads object models of the High Level Architecture (IEEE 1516 XML, 1516-2010,
-1516-2025 and OMT text) and writes C++ that extends the Quorvex
-simulation-networking toolkit; also a model page, a Python codec, and JSON.")
 set(CPACK_GENERATOR DEB TGZ)
 set(CPACK_STRIP_FILES ON)
 set(CPACK_PACKAGE_FILE_NAME quorvex-codegen-${PROJECT_VERSION}-${CMAKE_SYSTEM_NAME}-${CMAKE_SYSTEM_PROCESSOR})
@@ -21,6 +18,11 @@ set(CPACK_COMPONENTS_GROUPING ONE_PER_GROUP)
 set(CPACK_DEBIAN_FILE_NAME DEB-DEFAULT)
 set(CPACK_DEBIAN_PACKAGE_MAINTAINER ${QX_MAINTAINER})
 set(CPACK_DEBIAN_PACKAGE_PRIORITY optional)
+set(CPACK_DEBIAN_GENERATOR_DESCRIPTION
+"Reads object models of the High Level Architecture (IEEE 1516 XML, 1516-2010,
+1516-2025 and OMT text) and writes C++ that extends the Quorvex
+simulation-networking toolkit; also a model page, a Python codec, and JSON.
+It has a window (codeGen) and a command for builds (qxgen).")
 set(CPACK_DEBIAN_GENERATOR_PACKAGE_NAME quorvex-codegen)
 set(CPACK_DEBIAN_GENERATOR_PACKAGE_SECTION devel)
 set(CPACK_DEBIAN_GENERATOR_PACKAGE_SHLIBDEPS ON)
@@ -29,9 +31,10 @@ set(CPACK_DEBIAN_GENERATOR_PACKAGE_SUGGESTS quorvex-codegen-dev)
 set(CPACK_DEBIAN_DEVELOPMENT_PACKAGE_NAME quorvex-codegen-dev)
 set(CPACK_DEBIAN_DEVELOPMENT_PACKAGE_SECTION libdevel)
 set(CPACK_DEBIAN_DEVELOPMENT_PACKAGE_DEPENDS "quorvex-codegen (= ${PROJECT_VERSION}), cmake, g++")
-set(CPACK_DEBIAN_DEVELOPMENT_DESCRIPTION "generator of C++ from HLA object models - files for builds
- The CMake package QuorvexCodeGen, by which a project makes a library of an
- object model, and a stand-in of the toolkit to compile and try it with.")
+set(CPACK_DEBIAN_DEVELOPMENT_DESCRIPTION
+"Files for builds: the CMake package QuorvexCodeGen, by which a project makes a
+library of an object model, and a stand-in of the toolkit to compile and try it
+with.")
 
 # Each package has its licence and the entry of its release where Debian looks for them.
 string(TIMESTAMP packageDate "%a, %d %b %Y %H:%M:%S +0000" UTC)

@@ -33,8 +33,8 @@ same packagesMadeTwiceAreTheSameBytes "$(sums "$work/first/packages")" "$(sums "
 rm -rf "$work/second"
 
 packages=$work/first/packages
-same packagesAreTwoAndATarball "quorvex-codegen quorvex-codegen-dev quorvex-codegen-" \
-    "$(cd "$packages" && echo * | sed 's/_[^ ]*\.deb//g; s/-[0-9.]*-Linux.*/-/')"
+same packagesAreTwoAndATarball "$(printf '%s\n' quorvex-codegen-dev.deb quorvex-codegen.deb quorvex-codegen.tar.gz)" \
+    "$(cd "$packages" && printf '%s\n' * | sed 's/[-_][0-9].*\(\.deb\|\.tar\.gz\)$/\1/' | LC_ALL=C sort)"
 check lintianHasNothingToSay lintian --fail-on error,warning --allow-root "$packages"/*.deb
 mkdir "$work/content"
 for each in "$packages"/*.deb; do dpkg-deb -x "$each" "$work/content"; done
@@ -62,9 +62,9 @@ if [ "$(id -u)" -ne 0 ]; then
     end_tests
     exit 0
 fi
-root=$work/root
+root=$scratch/root # debootstrap takes no blanks
 # At the end nothing of it may be mounted when the directory is removed.
-trap 'umount -q "$root/proc" || true; rm -rf "$scratch"' EXIT
+trap 'umount -ql "$root/proc" 2>/dev/null || true; rm -rf --one-file-system "$scratch"' EXIT
 debootstrap --variant=minbase bookworm "$root" "$mirror" >"$log" 2>&1 || { fail rootIsMade "$(tail -5 "$log")"; end_tests; }
 mount -t proc proc "$root/proc"
 in_root() { # command...

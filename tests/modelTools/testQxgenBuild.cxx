@@ -76,7 +76,8 @@ private:
     void generate(DtArguments arguments)
     {
         arguments.insert(arguments.end(), {"-o", "out"});
-        COMPARE_TEXT(textOf(myFolder.generate(arguments)), "0\n--\n");
+        const DtProgramEnd end = myFolder.generate(arguments); // the large model has datatypes to warn of
+        QVERIFY2(end.code == 0 && !contains(end.err, "error:"), end.err.c_str());
     }
 
     DtProgramFolder myFolder;

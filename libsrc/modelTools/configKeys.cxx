@@ -103,7 +103,10 @@ void checkSettings(const std::string& path, const DtEnvironment& list)
             continue;
         const std::string fault = faultOf(setting->name().stdString(), setting->value().stdString());
         if (!fault.empty())
-            throw DtToolFailure(DtExitCode::Unreadable, path + ", list \"" + root->name().stdString() + "\": " + fault);
+        {
+            const std::string place = path + ", list \"" + root->name().stdString() + "\": ";
+            throw DtToolFailure(DtExitCode::Unreadable, place + fault);
+        }
     }
 }
 } // namespace

@@ -225,7 +225,7 @@ DtFilename DtModelGeneration::findModel(const std::string& name)
         return DtFilename(DtString(DtAbsolutePath(name)));
     for (const std::string& directory : myRequest.modelPaths)
     {
-        const std::string path = directory + "/" + name;
+        const std::string path = (fs::path(directory) / name).string();
         if (lookFor(path))
             return DtFilename(DtString(DtAbsolutePath(path)));
     }
@@ -391,7 +391,7 @@ std::string DtModelGeneration::commandFile(const std::string& script)
     if (lookFor(script))
         return DtAbsolutePath(script);
     for (const std::string& directory : myRequest.templateDirectories)
-        lookFor(directory + "/" + file);
+        lookFor((fs::path(directory) / file).string());
     lookFor(myRequest.dataDirectory + file);
     std::string known;
     for (const std::string& name : names)

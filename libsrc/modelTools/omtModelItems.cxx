@@ -175,17 +175,19 @@ void DtListScan::addItem(const DtListRow& row, int parent)
 void DtListScan::takeValue(const DtString& value)
 {
     List& list = myOpen.back();
-    DtModelItem* const item = myResult.items.empty() ? nullptr : &myResult.items[list.item];
+    if (myResult.items.empty()) // a value ahead of all items belongs to none
+        return;
+    DtModelItem& item = myResult.items[list.item];
     switch (list.role)
     {
     case Role::Name:
-        item->name = value.stdString();
+        item.name = value.stdString();
         break;
     case Role::Number:
-        myNumbers.emplace(Number(item->kind, value.toInt()), list.item);
+        myNumbers.emplace(Number(item.kind, value.toInt()), list.item);
         break;
     case Role::SuperNumber:
-        mySuperclasses.emplace(list.item, Number(item->kind, value.toInt()));
+        mySuperclasses.emplace(list.item, Number(item.kind, value.toInt()));
         break;
     case Role::Other:
     case Role::Model:

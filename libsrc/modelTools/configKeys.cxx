@@ -1,6 +1,7 @@
 #include "modelTools/configKeys.h"
 
 #include "codeGenApp/codeGenInitializer.h"
+#include "fileGenerator/cCompatibleName.h"
 #include "fileGenerator/relativePath.h"
 #include "foundation/envXmlReader.h"
 #include "modelTools/nearNames.h"
@@ -19,6 +20,11 @@ bool isIdentifier(const std::string& text)
     const auto isLetter = [](char each) { return std::isalnum(static_cast<unsigned char>(each)) != 0 || each == '_'; };
     return text.empty() || (std::isdigit(static_cast<unsigned char>(text.front())) == 0 &&
                             std::all_of(text.begin(), text.end(), isLetter));
+}
+
+bool isNamespace(const std::string& text)
+{
+    return isIdentifier(text) && !isCPlusPlusKeyword(DtString(text));
 }
 
 bool isNumber(const std::string& text)
@@ -43,12 +49,13 @@ struct DtKindRow
 
 // In the order of DtConfigKey::Kind.
 const DtKindRow theKinds[] = {
-    {[](const std::string&) { return true; },                                               "a text"              },
-    {isIdentifier,                                                                          "an identifier of C++"},
+    {[](const std::string&) { return true; },                                               "a text"                                 },
+    {isIdentifier,                                                                          "an identifier of C++"                   },
+    {isNamespace,                                                                           "an identifier of C++ that is no keyword"},
     {[](const std::string& value) { return value.empty() || staysBelow(DtString(value)); },
-     "a directory below the output"                                                                               },
-    {[](const std::string& value) { return value == "true" || value == "false"; },          "true or false"       },
-    {isNumber,                                                                              "a number from 0 on"  },
+     "a directory below the output"                                                                                                  },
+    {[](const std::string& value) { return value == "true" || value == "false"; },          "true or false"                          },
+    {isNumber,                                                                              "a number from 0 on"                     },
 };
 
 std::vector<std::string> settableNames()
@@ -114,7 +121,7 @@ void checkSettings(const std::string& path, const DtEnvironment& list)
 const std::vector<DtConfigKey>& DtConfigKeys()
 {
     static const std::vector<DtConfigKey> theKeys = {
-        {"namespaceName",                DtConfigKey::Identifier,   nullptr,                                                                false},
+        {"namespaceName",                DtConfigKey::Namespace,    nullptr,                                                                false},
         {"includeName",                  DtConfigKey::SubDirectory, nullptr,                                                                false},
         {"prefixName",                   DtConfigKey::Identifier,   nullptr,                                                                false},
         {"firstPduKind",                 DtConfigKey::Number,       nullptr,                                                                false},

@@ -13,6 +13,7 @@ struct DtConfigKey
     {
         Text,
         Identifier,   // of C++; may be empty
+        Namespace,    // an identifier that is no keyword; may be empty
         SubDirectory, // a relative path that stays below the output
         Flag,         // true or false
         Number        // 0 and above

@@ -126,6 +126,7 @@ void DtModelGeneration::load()
     readProject();
     loadModels();
     fillProject();
+    warnOfIncludeDirectory();
     select();
 }
 
@@ -160,6 +161,16 @@ void DtModelGeneration::readConfiguration()
     for (const std::string& setting : myRequest.settings)
         DtSetConfigKey(myConfiguration, setting);
     myConfiguration.applySettings();
+}
+
+// Make takes a blank for the end of a name and a dollar for a variable, wherever they stand.
+void DtModelGeneration::warnOfIncludeDirectory() const
+{
+    const DtString& directory = myConfiguration.includeName();
+    if (directory.stdString().find_first_of(" \t$#%:") != std::string::npos)
+        DtTellWarning(DtToolRules::includeDirectory, DtSubject::none(),
+                      "The include directory \"" + directory +
+                          "\" cannot stand in a makefile; build with the lists of files instead, or name another.\n");
 }
 
 void DtModelGeneration::readProject()

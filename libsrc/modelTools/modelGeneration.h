@@ -66,6 +66,7 @@ public:
 
 private:
     void readConfiguration();
+    void warnOfIncludeDirectory() const;
     void readProject();
     void setUpSettings();
     void loadModels();

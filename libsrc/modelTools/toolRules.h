@@ -11,6 +11,8 @@ namespace DtToolRules
 {
 inline constexpr DtWarningRule editedByHand = {
     "edited-by-hand", "A file of the output directory is not what the last run has made there."};
+inline constexpr DtWarningRule includeDirectory = {
+    "include-directory", "The directory of the headers has characters that the generated makefile cannot carry."};
 inline constexpr DtWarningRule manifestDamaged = {
     "manifest-damaged", "The list of the last run's files cannot be trusted, so none of them is removed."};
 inline constexpr DtWarningRule missingClass = {"missing-class", "A project selects a class that the models have not."};

@@ -49,6 +49,8 @@ const char* typeOf(DtConfigKey::Kind kind)
         return "text";
     case DtConfigKey::Identifier:
         return "identifier";
+    case DtConfigKey::Namespace:
+        return "identifier, no keyword";
     case DtConfigKey::SubDirectory:
         return "directory";
     case DtConfigKey::Flag:

@@ -23,6 +23,7 @@ std::string otherValue(const DtConfigKey& key)
     {
     case DtConfigKey::Text:
     case DtConfigKey::Identifier:
+    case DtConfigKey::Namespace:
     case DtConfigKey::SubDirectory:
         return "other";
     case DtConfigKey::Flag:
@@ -107,9 +108,10 @@ private Q_SLOTS:
     void goodValuesAreTaken_data()
     {
         QTest::addColumn<QByteArray>("setting");
-        for (const char* setting : {"prefixName=", "prefixName=_a1", "namespaceName=Z", "includeName=", "includeName=a",
-                                    "includeName=a/b", "includeName=a b", "firstPduKind=0", "firstPduKind=007",
-                                    "firstPduKind=999999999", "generateDIS=true", "generateDIS=false"})
+        for (const char* setting :
+             {"prefixName=", "prefixName=_a1", "prefixName=int", "namespaceName=Z", "includeName=", "includeName=a",
+              "includeName=a/b", "includeName=a b", "firstPduKind=0", "firstPduKind=007", "firstPduKind=999999999",
+              "generateDIS=true", "generateDIS=false"})
             QTest::newRow(setting) << QByteArray(setting);
     }
     void goodValuesAreTaken()
@@ -153,6 +155,7 @@ private Q_SLOTS:
                 QTest::addRow("%s=%s", key, value) << QByteArray(key) << QByteArray(value) << QByteArray(expected);
         };
         rows("prefixName", {"1a", "a b", "a-b", "a::b", "\xc3\xa4", "a\n", " "}, "an identifier of C++");
+        rows("namespaceName", {"class", "namespace", "int", "a b"}, "an identifier of C++ that is no keyword");
         rows("includeName", {"..", "../a", "/a", "a/../../b"}, "a directory below the output");
         rows("generateDIS", {"", "1", "yes", "TRUE", "true "}, "true or false");
         rows("firstPduKind", {"", "-1", "+1", "1.5", "1x", " 1", "0x10", "9999999999"}, "a number from 0 on");

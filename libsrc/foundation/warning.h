@@ -30,9 +30,14 @@ struct DtSubject
     Kind kind = None;
     DtString name;
     DtString owner;
+    unsigned int line = 0; // in a file, counted from 1; 0 when it is not known
+    unsigned int column = 0;
 
     static DtSubject none() { return {}; }
-    static DtSubject file(const DtString& path) { return {File, path, {}}; }
+    static DtSubject file(const DtString& path, unsigned int line = 0, unsigned int column = 0)
+    {
+        return {File, path, {}, line, column};
+    }
     static DtSubject datatype(const DtString& name) { return {Datatype, name, {}}; }
     static DtSubject objectClass(const DtString& fullName) { return {ObjectClass, fullName, {}}; }
     static DtSubject interactionClass(const DtString& fullName) { return {InteractionClass, fullName, {}}; }

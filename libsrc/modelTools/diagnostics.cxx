@@ -157,6 +157,9 @@ void DtDiagnostics::take(const DtWarning& warning)
 {
     std::string text = withoutPrefix(warning.text.stdString(), "Warning: ");
     text.erase(text.find_last_not_of("\n ") + 1);
+    if (warning.subject.line != 0) // which the text has too, for those who see nothing else
+        text =
+            withoutPrefix(text, warning.subject.name.stdString() + ":" + std::to_string(warning.subject.line) + ": ");
     DtDiagnostic diagnostic;
     diagnostic.text = text;
     diagnostic.rule = warning.rule.id;

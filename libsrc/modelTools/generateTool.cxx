@@ -90,6 +90,7 @@ DtExitCode DtGenerateTool::run()
     }
     catch (...)
     {
+        codeOfFaults(diagnostics);
         findPlaces(diagnostics);
         tell(diagnostics);
         throw;
@@ -185,6 +186,7 @@ DtExitCode DtGenerateTool::codeOfFaults(DtDiagnostics& diagnostics)
         DtExitCode code;
     };
     static const DtFaultRow theFaults[] = {
+        {DtRules::unreadableModel,       DtExitCode::Unreadable},
         {DtRules::unreadableCommandFile, DtExitCode::Unreadable},
         {DtRules::outputNotWritten,      DtExitCode::Unwritable},
         {DtRules::outsideOutput,         DtExitCode::Unwritable},

@@ -1,6 +1,7 @@
 #include "modelTools/modelList.h"
 
 #include "fileGenerator/progressMeter.h"
+#include "foundation/warningRules.h"
 #include "modelTools/modelPlaces.h"
 #include "omtReader/visitDatatype.h"
 
@@ -283,6 +284,7 @@ void DtModelList::tell(DtDiagnostics& diagnostics, std::ostream& err) const
     if (myOptions.isQuiet)
         return;
     DtModelPlaces places(myGeneration.modelFiles());
+    diagnostics.makeErrors(DtRules::unreadableModel);
     diagnostics.findPlaces([&places](const DtSubject& subject) { return places.of(subject); });
     for (const DtDiagnostic& diagnostic : diagnostics.all())
         err << DtFormatted(diagnostic, DtDiagnosticFormat::Text);

@@ -89,7 +89,7 @@ std::string joined(const std::vector<std::string>& path, std::size_t from)
 DtPlace DtModelPlaces::of(const DtSubject& subject)
 {
     if (subject.kind == DtSubject::File)
-        return {subject.name.stdString(), 0, 0};
+        return {subject.name.stdString(), subject.line, subject.column};
     if (!myHasRead)
         readFiles();
     const Entry* const entry = find(subject);

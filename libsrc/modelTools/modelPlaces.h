@@ -26,7 +26,8 @@ public:
 
     // A class goes by its full name, with or without the root, or by its own name alone. A member that its class does
     // not define stands where the nearest superclass defines it. What no file defines has the place of its class or
-    // datatype, if that has one. A file has no line. Nothing is known of the place of anything else.
+    // datatype, if that has one. A file stands where the
+    // subject says, if it says it. Nothing is known of the place of anything else.
     DtPlace of(const DtSubject& subject);
 
 private:

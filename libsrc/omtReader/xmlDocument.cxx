@@ -34,13 +34,15 @@ void DtXmlErrors::note(void* errors, xmlErrorPtr error)
     self.myCause = error->message != nullptr ? error->message : "unreadable";
     self.myCause.snipBackToFirst('\n');
     self.myLine = error->line;
+    self.myColumn = error->int2; // where the parser keeps it
 }
 
 bool DtXmlErrors::report(const char* file)
 {
     const bool isMalformed = myCause.length() > 0;
     if (isMalformed)
-        DtTellWarning(DtRules::unreadableModel, DtSubject::file(file),
+        DtTellWarning(DtRules::unreadableModel,
+                      DtSubject::file(file, static_cast<unsigned int>(myLine), static_cast<unsigned int>(myColumn)),
                       DtString(file) + ":" + DtString(myLine) + ": " + myCause + "\n");
     myCause = DtString();
     return isMalformed;

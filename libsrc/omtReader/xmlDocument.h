@@ -30,6 +30,7 @@ private:
     xmlStructuredErrorFunc myOldFunction;
     DtString myCause; // empty when all is well
     int myLine = 0;
+    int myColumn = 0;
 };
 
 // Options that every parse of a model passes to the parser: no network, no entity replaced and so none loaded, the

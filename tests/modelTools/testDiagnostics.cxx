@@ -264,13 +264,13 @@ private Q_SLOTS:
         COMPARE_TEXT(run.told(), "");
     }
 
-    void modelThatCannotBeReadIsToldWithTheFileAlone()
+    void modelThatCannotBeReadIsToldWithThePlaceOfItsFault()
     {
         // Longer than what is read to find out the format.
         DtListRun run("<?xml version=\"1.0\"?>\n<objectModel xmlns=\"http://standards.ieee.org/IEEE1516-2010\">\n<!--" +
                       std::string(10000, ' ') + "-->\n</wrong>");
         const QString told = QString::fromStdString(run.told());
-        QVERIFY2(told.startsWith("model.xml: warning: model.xml:4: "), qPrintable(told));
+        QVERIFY2(told.startsWith("model.xml:4:9: error: "), qPrintable(told));
         QVERIFY2(told.endsWith(" [unreadable-model]\n"), qPrintable(told));
         QCOMPARE(run.exitCode, DtExitCode::Unreadable);
     }

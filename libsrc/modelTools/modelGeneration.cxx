@@ -15,6 +15,7 @@
 #include "modelTools/outputTree.h"
 #include "modelTools/toolFailure.h"
 #include "modelTools/toolRules.h"
+#include "modelTools/unknownDatatypes.h"
 #include "omtReader/fedReader.h"
 #include "omtReader/omtTree.h"
 
@@ -128,6 +129,7 @@ void DtModelGeneration::load()
     fillProject();
     warnOfIncludeDirectory();
     select();
+    DtWarnOfUnknownDatatypes(tree(), myProject);
 }
 
 void DtModelGeneration::setUpSettings()

@@ -44,6 +44,8 @@ inline constexpr DtWarningRule templateToken = {"template-token",
 inline constexpr DtWarningRule templateTokenPlace = {"template-token-place",
                                                      "A token of a template stands outside of the loop that fills it."};
 inline constexpr DtWarningRule templateUnopened = {"template-unopened", "Nothing opens a template."};
+inline constexpr DtWarningRule unknownDatatype = {
+    "unknown-datatype", "A member has a datatype that neither the models nor the toolkit have."};
 
 // All that can be told, those of the libraries among them, in the order of their ids.
 const std::vector<const DtWarningRule*>& all();

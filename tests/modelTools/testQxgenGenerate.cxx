@@ -181,6 +181,74 @@ private Q_SLOTS:
             "models have not. [missing-class]\n");
     }
 
+    void includeDirectoryThatNoMakefileCarriesIsWarnedOf_data()
+    {
+        QTest::addColumn<QByteArray>("directory");
+        QTest::addColumn<bool>("isCarried");
+        QTest::newRow("plain") << QByteArray("inc/deep-1.0_a") << true;
+        QTest::newRow("UTF-8") << QByteArray("f\xc3\xa4hre") << true;
+        for (const char* directory : {"my inc", "$HOME", "a#b", "a%b"})
+            QTest::newRow(directory) << QByteArray(directory) << false;
+    }
+    void includeDirectoryThatNoMakefileCarriesIsWarnedOf()
+    {
+        QFETCH(QByteArray, directory);
+        QFETCH(bool, isCarried);
+        const DtProgramEnd end = generate({"--include-dir", directory.toStdString()});
+        QCOMPARE(end.code, 0);
+        COMPARE_TEXT(end.err, isCarried ? ""
+                                        : ("qxgen: warning: The include directory \"" + directory.toStdString() +
+                                           "\" cannot stand in a makefile; build with the lists of files instead, or "
+                                           "name another. [include-directory]\n")
+                                              .c_str());
+    }
+
+    // Whatever the class uses is looked at, and nothing else.
+    void unknownDatatypesAreToldWhereTheyStand()
+    {
+        myFolder->write(
+            "models/typos.xml",
+            "<objectModel xmlns=\"http://standards.ieee.org/IEEE1516-2010\">\n"
+            "<objects><objectClass><name>HLAobjectRoot</name>\n"
+            "<objectClass><name>Barge</name>\n"
+            "<attribute><name>load</name><dataType>Loadd</dataType></attribute>\n"
+            "<attribute><name>hold</name><dataType>Hold</dataType></attribute>\n"
+            "<attribute><name>mark</name><dataType>Mark</dataType></attribute>\n"
+            "<attribute><name>token</name><dataType>HLAtoken</dataType></attribute>\n"
+            "<attribute><name>none</name><dataType>NA</dataType></attribute>\n"
+            "</objectClass></objectClass></objects>\n"
+            "<interactions><interactionClass><name>HLAinteractionRoot</name>\n"
+            "<interactionClass><name>Call</name>\n"
+            "<parameter><name>who</name><dataType>Whoever</dataType></parameter>\n"
+            "</interactionClass></interactionClass></interactions>\n"
+            "<dataTypes>\n"
+            "<simpleDataTypes><simpleData><name>Kilo</name><representation>HLAfloat46BE</representation></simpleData></"
+            "simpleDataTypes>\n"
+            "<enumeratedDataTypes><enumeratedData><name>Mark</name><representation>HLAoctett</representation>\n"
+            "<enumerator><name>One</name><value>1</value></enumerator></enumeratedData></enumeratedDataTypes>\n"
+            "<arrayDataTypes><arrayData><name>Kilos</name><dataType>Kilo</dataType><cardinality>3</cardinality>\n"
+            "<encoding>HLAfixedArray</encoding></arrayData>\n"
+            "<arrayData><name>Unused</name><dataType>Nobody</dataType><cardinality>3</cardinality>\n"
+            "<encoding>HLAfixedArray</encoding></arrayData></arrayDataTypes>\n"
+            "<fixedRecordDataTypes><fixedRecordData><name>Hold</name><encoding>HLAfixedRecord</encoding>\n"
+            "<field><name>kilos</name><dataType>Kilos</dataType></field>\n"
+            "<field><name>next</name><dataType>Hald</dataType></field>\n"
+            "</fixedRecordData></fixedRecordDataTypes>\n"
+            "</dataTypes>\n"
+            "</objectModel>\n");
+        const DtProgramEnd end = myFolder->generate({"models/typos.xml", "-o", "out", "--script", "json"});
+        QCOMPARE(end.code, 0);
+        const std::string file = myFolder->path("models/typos.xml").native();
+        std::string expected;
+        for (const char* line : {"4:1: warning: load of HLAobjectRoot.Barge uses the datatype Loadd",
+                                 "12:1: warning: who of HLAinteractionRoot.Call uses the datatype Whoever",
+                                 "16:22: warning: Datatype Mark uses the datatype HLAoctett",
+                                 "24:1: warning: next of datatype Hold uses the datatype Hald",
+                                 "15:18: warning: Datatype Kilo uses the datatype HLAfloat46BE"})
+            expected += file + ":" + line + ", which neither the models nor the toolkit have. [unknown-datatype]\n";
+        COMPARE_TEXT(end.err, expected.c_str());
+    }
+
     void scriptThatMakesNothingOfItsOwnIsWarnedOf()
     {
         QVERIFY(contains(generate({"--script", "models/small.xml"}).err, " has made no file of its own."));

@@ -198,8 +198,9 @@ DtExitCode DtGenerateTool::codeOfFaults(DtDiagnostics& diagnostics)
     return code;
 }
 
-// One file stands for all, under the name that it would have had: a full disk fails them by the hundred, and what was
-// found in them follows from that.
+// One file stands for all: a full disk fails them by the hundred, and what was found in them follows from that. It is
+// told under the name that it would have had, but for a run that only compares: no file of the output is in the way
+// then, and the disk that is full is that of the temporary files.
 void DtGenerateTool::failOnFirstWrite(const DtOutputStage& stage, DtDiagnostics& diagnostics) const
 {
     const std::vector<DtDiagnostic>& all = diagnostics.all();
@@ -211,7 +212,8 @@ void DtGenerateTool::failOnFirstWrite(const DtOutputStage& stage, DtDiagnostics&
     const std::size_t end = found->text.rfind(name + ": ");
     const std::string reason = end == std::string::npos ? std::string() : found->text.substr(end + name.size());
     diagnostics.clear();
-    throw DtOutputException(fs::path(myOptions.outputDirectory) / fs::path(name).lexically_relative(stage.path()),
+    const fs::path meant = fs::path(myOptions.outputDirectory) / fs::path(name).lexically_relative(stage.path());
+    throw DtOutputException(myOptions.use == DtOutputUse::Commit ? meant : fs::path(name),
                             "cannot be written" + reason);
 }
 

@@ -144,6 +144,8 @@ void DtOutputStage::compareFile(const std::string& path)
     const std::string content = myStaged.read(path);
     myManifest.add(path, DtOutputManifest::entryOf(content));
     const DtNodeStatus old = myTree.status(path);
+    if (old.kind == DtNodeKind::Folder) // what only compares never comes to the search for obstacles
+        throw DtOutputException(myTree.absolute(path), "a folder stands where a file is to be written");
     // Read whole even when the sizes differ: its hash tells whether somebody has edited it.
     const std::string oldContent = old.kind == DtNodeKind::File ? myTree.read(path) : std::string();
     if (old.kind == DtNodeKind::File && oldContent == content)

@@ -58,6 +58,7 @@ private Q_SLOTS:
     void damagedManifestRemovesNothing();
     void comparingLeavesTheFolderUntouched();
     void comparingDoesNotMakeTheFolder();
+    void comparingFindsAFolderInPlaceOfAFile();
     void comparingStageGoesWithTheObject();
     void comparingStageOfAKilledRunIsThrownAway();
     void halfMadeComparingStageIsThrownAway();
@@ -342,6 +343,21 @@ void TestOutputStage::comparingDoesNotMakeTheFolder()
 {
     COMPARE_TEXT(differencesFor(filesOf("a=y")), "A a\n");
     QVERIFY(!std::filesystem::exists(myOut));
+}
+
+void TestOutputStage::comparingFindsAFolderInPlaceOfAFile()
+{
+    std::filesystem::create_directories(myOut / "a");
+    try
+    {
+        differencesFor(filesOf("a=y"));
+        QFAIL("A folder is no file.");
+    }
+    catch (const DtOutputException& failure)
+    {
+        COMPARE_TEXT(failure.reason(), "a folder stands where a file is to be written");
+        COMPARE_TEXT(failure.path(), (myOut / "a").c_str());
+    }
 }
 
 void TestOutputStage::comparingStageGoesWithTheObject()

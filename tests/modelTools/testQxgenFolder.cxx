@@ -2,6 +2,7 @@
 
 #include "codeGenApp/omtProjectXmlWriter.h"
 #include "fileGenerator/omtProject.h"
+#include "foundation/textEnds.h"
 #include "qxgenProgram.h"
 #include "registerTest.h"
 #include "scratchData.h"
@@ -190,6 +191,21 @@ private Q_SLOTS:
         COMPARE_TEXT(differenceOf(before, treeOf(myFolder->path("disk/out"))), "");
         COMPARE_TEXT(textOf(generateThere({"--script", "json"})), "0\n--\n");
         COMPARE_TEXT(ownNames(myFolder->path("disk/out")), ".qxgen-manifest.json");
+    }
+
+    void fullDiskOfTemporaryFilesIsToldAsTheirs()
+    {
+        std::filesystem::create_directories(myFolder->path("tmp"));
+        const DtTestMount disk("tmpfs", "tmpfs", myFolder->path("tmp"), 0, "size=100k");
+        if (!disk.isMounted())
+            QSKIP(disk.why().c_str());
+        const DtProgramEnd end =
+            myFolder->run({"generate", "models/small.xml", "-o", "out", "--dry-run", "--examples"},
+                          [this] { setenv("TMPDIR", myFolder->path("tmp").c_str(), 1); });
+        QCOMPARE(end.code, 5);
+        const std::string start = "qxgen: error: " + (myFolder->path("tmp") / ".qxgen-").native();
+        QVERIFY2(DtStartsWith(end.err, start) && contains(end.err, "No space left on device"), end.err.c_str());
+        COMPARE_TEXT(ownNames(myFolder->path("tmp")), "");
     }
 
     void readOnlyDirectoryEndsWith5()

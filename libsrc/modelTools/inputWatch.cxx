@@ -40,6 +40,7 @@ QStringList watchedPaths(const std::set<std::string>& files)
 
 void DtInputWatch::note()
 {
+    clock_gettime(CLOCK_REALTIME_COARSE, &myNoteTime); // ahead of the stamps, and the one that files are stamped by
     myStamps = stampsOf(myFiles);
 }
 
@@ -47,8 +48,19 @@ void DtInputWatch::add(const std::set<std::string>& files)
 {
     std::set<std::string> added;
     std::set_difference(files.begin(), files.end(), myFiles.begin(), myFiles.end(), std::inserter(added, added.end()));
-    myStamps.merge(stampsOf(added));
+    for (const auto& [file, stamp] : stampsOf(added))
+        myStamps[file] = hasChangedSinceNote(file) ? "changed" : stamp;
     myFiles.merge(added);
+}
+
+// A time equal to that of the note counts as before it: a run that follows at once reads what was written then.
+bool DtInputWatch::hasChangedSinceNote(const std::string& file) const
+{
+    struct stat status = {};
+    if (myNoteTime.tv_sec == 0 || stat(file.c_str(), &status) != 0)
+        return false;
+    const timespec& changed = status.st_ctim; // unlike the other times, set by nobody
+    return std::make_pair(changed.tv_sec, changed.tv_nsec) > std::make_pair(myNoteTime.tv_sec, myNoteTime.tv_nsec);
 }
 
 void DtInputWatch::await(const std::set<std::string>& files)

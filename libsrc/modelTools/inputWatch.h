@@ -1,6 +1,7 @@
 #ifndef MODEL_TOOLS_INPUT_WATCH_H
 #define MODEL_TOOLS_INPUT_WATCH_H
 
+#include <ctime>
 #include <map>
 #include <set>
 #include <string>
@@ -12,7 +13,8 @@ class DtInputWatch
 public:
     // Notes the watched files as they are now: ahead of a run that reads them.
     void note();
-    // Watches these files too. Those that are not watched yet are noted as they are now.
+    // Watches these files too. Those that are not watched yet are noted as they are now, but for one that has changed
+    // since the last note(): whoever read it may have read the old content, so it ends the wait.
     void add(const std::set<std::string>& files);
     // Likewise files that were looked for in vain. Those that are not watched yet are noted as not there, so one that
     // has come since then ends the wait.
@@ -27,9 +29,11 @@ private:
     using DtStamps = std::map<std::string, std::string>;
 
     static DtStamps stampsOf(const std::set<std::string>& files);
+    bool hasChangedSinceNote(const std::string& file) const;
 
     std::set<std::string> myFiles;
     DtStamps myStamps;
+    timespec myNoteTime = {}; // of the clock that stamps files
 };
 
 #endif

@@ -59,6 +59,43 @@ private Q_SLOTS:
         QVERIFY(isDone);
     }
 
+    void fileThatChangedSinceTheNoteEndsTheWaitOnceAdded()
+    {
+        DtInputWatch watch;
+        watch.note();
+        QTest::qSleep(20); // longer than the clock that stamps files takes to go on
+        writeBytes(path("model.xml"), "newer");
+        watch.add({path("model.xml").native()});
+        watch.waitForChange();
+        watch.note();
+        bool isDone = false;
+        QTimer::singleShot(300, this,
+                           [&]
+                           {
+                               writeBytes(path("model.xml"), "newest");
+                               isDone = true;
+                           });
+        watch.waitForChange();
+        QVERIFY(isDone);
+    }
+
+    void fileThatIsOlderThanTheNoteDoesNotEndTheWait()
+    {
+        DtInputWatch watch;
+        QTest::qSleep(20);
+        watch.note();
+        watch.add({path("model.xml").native()});
+        bool isDone = false;
+        QTimer::singleShot(300, this,
+                           [&]
+                           {
+                               writeBytes(path("model.xml"), "newer");
+                               isDone = true;
+                           });
+        watch.waitForChange();
+        QVERIFY(isDone);
+    }
+
     void otherFilesOfTheFolderDoNotEndTheWait()
     {
         DtInputWatch watch;

@@ -3,6 +3,7 @@
 #include "commandLineWords.h"
 #include "commands.h"
 
+#include "foundation/textEnds.h"
 #include "modelTools/nearNames.h"
 
 #include <cstdlib>
@@ -120,7 +121,7 @@ std::string withoutQuotes(const std::string& word)
     std::string text;
     char quote = '\0';
     std::size_t at = 0;
-    if (word.compare(0, 2, "~/") == 0 && std::getenv("HOME") != nullptr)
+    if (DtStartsWith(word, "~/") && std::getenv("HOME") != nullptr)
     {
         text = std::getenv("HOME");
         at = 1;

@@ -1,5 +1,7 @@
 #include "modelTools/diagnostics.h"
 
+#include "foundation/textEnds.h"
+
 #include <nlohmann/json.hpp>
 
 #include <algorithm>
@@ -89,7 +91,7 @@ std::string formattedJson(const DtDiagnostic& diagnostic)
 
 std::string withoutPrefix(std::string text, const std::string& prefix)
 {
-    if (text.compare(0, prefix.size(), prefix) == 0)
+    if (DtStartsWith(text, prefix))
         text.erase(0, prefix.size());
     return text;
 }

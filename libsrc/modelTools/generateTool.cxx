@@ -11,6 +11,7 @@
 #include "modelTools/outputException.h"
 #include "modelTools/outputLists.h"
 #include "modelTools/outputLock.h"
+#include "modelTools/outputPath.h"
 #include "modelTools/outputRecovery.h"
 #include "modelTools/programVersion.h"
 #include "modelTools/signalHold.h"
@@ -291,7 +292,7 @@ void DtGenerateTool::checkTargets(const DtOutputStage& stage) const
         taken.insert(realPath((fs::path(myOptions.outputDirectory) / file).string()));
     for (const std::string& target : {myOptions.depfile, myOptions.stamp, myOptions.report})
     {
-        const bool isReserved = fs::path(target).filename().string().compare(0, 7, ".qxgen-") == 0;
+        const bool isReserved = DtIsReservedPath(fs::path(target).filename().string());
         if (!target.empty() && (isReserved || !taken.insert(realPath(target)).second))
             throw DtToolFailure(DtExitCode::Usage, target + " is an input, an output or a file of qxgen itself, and "
                                                             "cannot be written for another purpose.");

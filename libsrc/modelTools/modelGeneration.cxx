@@ -65,7 +65,7 @@ bool isFileName(const std::string& name)
         return static_cast<unsigned char>(each) < ' ' ||
                std::string_view("/\\<>\"'$").find(each) != std::string_view::npos;
     };
-    return name.size() <= theLongestName && name.compare(0, 1, ".") != 0 &&
+    return name.size() <= theLongestName && !DtStartsWith(name, ".") &&
            std::none_of(name.begin(), name.end(), isRefused);
 }
 
@@ -285,8 +285,7 @@ DtFilename DtModelGeneration::findProjectModel(const DtOmtProject::DtFilePair& m
 
 bool DtModelGeneration::hasSetting(const std::string& key) const
 {
-    const auto setsKey = [&key](const std::string& setting)
-    { return setting.compare(0, key.size() + 1, key + "=") == 0; };
+    const auto setsKey = [&key](const std::string& setting) { return DtStartsWith(setting, key + "="); };
     return std::any_of(myRequest.settings.begin(), myRequest.settings.end(), setsKey);
 }
 
@@ -466,7 +465,7 @@ std::set<std::string> DtModelGeneration::awaited() const
     for (const std::string& read : DtReadDataFiles())
     {
         const std::string file = DtAbsolutePath(read);
-        const auto isIn = [&file](const std::string& place) { return file.compare(0, place.size(), place) == 0; };
+        const auto isIn = [&file](const std::string& place) { return DtStartsWith(file, place); };
         const auto place = std::find_if(places.begin(), places.end(), isIn);
         const std::string path = place == places.end() ? std::string() : file.substr(place->size());
         const std::size_t ahead = std::min<std::size_t>(place - places.begin(), directories.size());

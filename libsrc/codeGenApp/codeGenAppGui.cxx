@@ -64,6 +64,7 @@ DtCodeGenAppGui::DtCodeGenAppGui(DtCodeGenInitializer& initializer, QApplication
     myAboutBox = std::make_unique<DtAboutBox>(this);
     DtCodeGenAppGui::loadStylesheet(true);
     myPreferences = std::make_unique<DtPreferencesDialog>(initializer, this);
+    connect(myPreferences.get(), &QDialog::accepted, this, &DtCodeGenAppGui::refreshBadge); // they are saved with it
     createActions();
     createToolBar();
     createMenus();
@@ -86,7 +87,7 @@ void DtCodeGenAppGui::setUpLists()
     myForm->vboxLayout1->insertStretch(0); // keeps the two together in the middle
     myForm->vboxLayout1->addStretch();
     myListViewManager = std::make_unique<DtListViewManager>(myForm->myLeftListView, myForm->myRightListView);
-    statusBar(); // there from the start, so that the first text in it moves nothing
+    createStatusBar();
     setAcceptDrops(true);
 }
 
@@ -210,19 +211,15 @@ void DtCodeGenAppGui::connectLists()
     connect(find, &QShortcut::activated, this, &DtCodeGenAppGui::openFindBar);
 }
 
-void DtCodeGenAppGui::showStatus(const DtString& text)
-{
-    statusBar()->showMessage(QString::fromUtf8(text.c_str()), 0);
-    if (!isVisible()) // nobody could read it otherwise
-        DtWarn << text << std::endl;
-}
-
 // A pointer that passes over the menus asks to show the tip of each entry. None has one, and the text stays.
 bool DtCodeGenAppGui::event(QEvent* event)
 {
     if (event->type() == QEvent::StatusTip && static_cast<QStatusTipEvent*>(event)->tip().isEmpty())
         return true;
-    return QMainWindow::event(event);
+    const bool isHandled = QMainWindow::event(event);
+    if (event->type() == QEvent::Show)
+        refreshBadge();
+    return isHandled;
 }
 
 void DtCodeGenAppGui::slot_quitMe()
@@ -359,16 +356,19 @@ void DtCodeGenAppGui::selectAllObjectsInteractions()
 void DtCodeGenAppGui::addSelectedItems()
 {
     myListViewManager->processAddition(true, myProject.get(), myObjectItems, myInteractionItems, false);
+    refreshBadge();
 }
 
 void DtCodeGenAppGui::addAllObjectInteractions()
 {
     myListViewManager->processAddition(false, myProject.get(), myObjectItems, myInteractionItems, false);
+    refreshBadge();
 }
 
 void DtCodeGenAppGui::removeSelectedItems()
 {
     myListViewManager->processRemoval(myProject.get());
+    refreshBadge();
 }
 
 void DtCodeGenAppGui::setOutputDirectory(const QString& directory)

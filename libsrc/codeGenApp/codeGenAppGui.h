@@ -24,6 +24,7 @@ class DtListViewManager;
 class DtOMTTree;
 class DtOmtProject;
 class DtPreferencesDialog;
+class DtProjectBadge;
 class QAction;
 class QApplication;
 class QKeyEvent;
@@ -40,7 +41,8 @@ class Ui_QtCodeGenApp;
 // Its destructor writes the user's configuration file.
 //
 // What the user has to know goes to the status bar and stays there until it is replaced. While the window is not
-// visible each text goes to DtWarn as well, in one line.
+// visible each text goes to DtWarn as well, in one line. A visible window tells what went well, too, and at the right
+// of the bar what is open.
 //
 // Beside its menus it takes files that are dropped on it: project files to load, and model files to add while the
 // action "Import FOM" is enabled. In the lists Insert adds, Delete removes, and F2 or Enter on the right list
@@ -159,7 +161,16 @@ private:
     void popUpMenu(QMenu*& menu, const char* name, const char* text, void (DtCodeGenAppGui::*slot)(),
                    const QPoint& point);
     void customize(QTreeWidgetItem* item);
+    void createStatusBar();
+    // What failed, or cannot be done. The text stays until there is another one.
     void showStatus(const DtString& text);
+    // What was done; nothing while the window is not visible.
+    void showSuccess(const QString& text);
+    void putStatus(const QString& text, bool isFailure);
+    void refreshBadge();
+    std::size_t moduleCount() const;
+    // Whether saving would write something else than what the project file holds.
+    bool hasUnsavedWork() const;
     void saveConfiguration();
 
     bool handleListKey(const QTreeWidget* list, const QKeyEvent& event);
@@ -176,11 +187,14 @@ private:
     void fillLists();
     void forgetFiles();
     void showProjectAfterImport(bool isFurther);
+    void tellOfImport(const QString& files);
     void showProjectOnTheRight();
 
     bool readProject(DtFilename& path, bool& isSound);
     void forgetProject();
-    void loadModels(const std::vector<DtModelFile>& models);
+    bool loadModels(const std::vector<DtModelFile>& models);
+    void tellOfProject(bool isReadAgain);
+    void completeProject(DtOmtProject& project) const;
     bool locateModels(const DtFilename& projectFile, std::vector<DtModelFile>& models);
     bool locateModel(const DtModelFile& model, const DtFilename& projectFile, DtFilename& found);
     DtFilename askForFile(const char* title, const char* filter);
@@ -203,6 +217,7 @@ private:
     bool myFileLoaded = false;
     bool myValidProject = false;
     bool myIsLoadingProject = false;
+    bool myStatusIsFailure = false;
     DtFomType myFomType = DtFomUnknown;
     std::vector<DtModelFile> myLoadedFiles;
     std::vector<DtFilename> myReadFiles; // what the tree was read from, the management model included
@@ -220,6 +235,7 @@ private:
     QMenu* myAdditionMenu = nullptr;           // made when it is used first, as the next two
     QMenu* myRemovalMenu = nullptr;
     DtFindBar* myFindBar = nullptr;
+    DtProjectBadge* myBadge = nullptr;
     QAction* myNewProjectAction = nullptr;
     QAction* myLoadProjectAction = nullptr;
     QAction* mySaveProjectAction = nullptr;

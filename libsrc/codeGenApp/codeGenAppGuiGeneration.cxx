@@ -2,6 +2,7 @@
 
 #include "codeGenApp/codeGenAppGui.h"
 #include "codeGenApp/generationRun.h"
+#include "codeGenApp/generationWatch.h"
 #include "codeGenApp/preferencesDialog.h"
 #include "fileGenerator/omtProject.h"
 #include "fileGenerator/qtProgressMeter.h"
@@ -13,6 +14,8 @@
 
 namespace
 {
+const int theListsOfMakefile = 2; // names of headers and of sources, which the progress does not name
+
 // A progress meter for as long as a script runs.
 class DtScriptRun
 {
@@ -55,7 +58,8 @@ void DtCodeGenAppGui::generateAllFiles()
     saveOmtProject();
     const std::map<DtString, bool> scripts = myPreferences->generateScripts();
     if (std::none_of(scripts.begin(), scripts.end(), [](const auto& script) { return script.second; }))
-        showStatus("No script is switched on... Nothing to generate.");
+        return showStatus("No script is switched on... Nothing to generate.");
+    DtGenerationWatch watch;
     for (const auto& [script, isWanted] : scripts)
     {
         if (!isWanted)
@@ -65,8 +69,11 @@ void DtCodeGenAppGui::generateAllFiles()
         else
             generateFile(script);
         if (DtQtProgressMeter::instance()->isCancelled())
-            return; // the next script would begin with a meter that knows nothing of it
+            return showSuccess(watch.cancelText()); // the next script would begin with a meter that knows nothing of it
+        if (DtGenerationRun::isCpp(script))
+            watch.addFiles(theListsOfMakefile + (myPreferences->dumpParseTree() ? 1 : 0));
     }
+    showSuccess(watch.endText(myOutputDir));
 }
 
 void DtCodeGenAppGui::generateCppFiles()

@@ -54,6 +54,7 @@ int DtCodeGenAppGui::loadFile(const DtString& path, const DtString& directory)
     setWindowTitle(QString::fromUtf8((theTitle + file).c_str()));
     myLoadedFiles.push_back(nameAndDirectory(file));
     showProjectAfterImport(isFurther);
+    tellOfImport(QString::fromUtf8(DtFilename::stripPath(file).c_str()));
     return 1;
 }
 
@@ -87,6 +88,14 @@ void DtCodeGenAppGui::showProjectAfterImport(bool isFurther)
 {
     if (!myIsLoadingProject && (isFurther || isVisible()))
         showProjectOnTheRight();
+}
+
+// The classes are those of all modules together. A project that is being loaded tells of itself.
+void DtCodeGenAppGui::tellOfImport(const QString& files)
+{
+    if (!myIsLoadingProject)
+        showSuccess(files + " imported: " + QString::number(myObjectItems.size()) + " object, " +
+                    QString::number(myInteractionItems.size()) + " interaction classes");
 }
 
 // The walk over the lists records superclasses that the project does not hold. A copy takes them, so that a class that
@@ -160,13 +169,16 @@ int DtCodeGenAppGui::loadFiles(const std::vector<DtModelFile>& models)
     myFileName = files.front();
     myLoadedFiles.clear();
     DtString title(theTitle);
+    QStringList names;
     for (const DtFilename& file : files)
     {
         myLoadedFiles.push_back(nameAndDirectory(file));
         title += "/" + DtFilename::stripPath(file); // ahead of the first name too
+        names += QString::fromUtf8(DtFilename::stripPath(file).c_str());
     }
     setWindowTitle(QString::fromUtf8(title.c_str()));
     showProjectAfterImport(isFurther);
+    tellOfImport(names.join(QStringLiteral(", ")));
     return 1;
 }
 
@@ -209,4 +221,5 @@ void DtCodeGenAppGui::closeOpenFiles()
     setWindowTitle(QStringLiteral("Quorvex Code Generator - No File Loaded"));
     myProjectFile = DtString();
     myBaseName = DtString();
+    refreshBadge();
 }

@@ -7,6 +7,7 @@
 #include "codeGenApp/omtProjectXmlReader.h"
 #include "codeGenApp/omtProjectXmlWriter.h"
 #include "codeGenApp/preferencesDialog.h"
+#include "codeGenApp/projectBadge.h"
 #include "fileGenerator/dataTypeMapper.h"
 #include "fileGenerator/omtEnvWriter.h"
 #include "fileGenerator/omtProject.h"
@@ -30,6 +31,12 @@ DtString stem(const DtFilename& path)
     DtFilename name = DtFilename::stripPath(path);
     name.stripExtension();
     return name;
+}
+
+// As it is told.
+QString nameOf(const DtFilename& path)
+{
+    return QString::fromUtf8(DtFilename::stripPath(path).c_str());
 }
 
 bool canOpen(const DtFilename& path)
@@ -94,6 +101,8 @@ void DtCodeGenAppGui::newOmtProject(DtFilename path)
     slot_saveOmtProject();
     if (!isKept)
         showStatus("Cannot keep a copy of project file " + path + ", so it is not written.");
+    else if (!myStatusIsFailure)
+        showSuccess("Project " + nameOf(path) + " made");
     enableProjectActions(true);
     myOutputDir = DtString();
 }
@@ -116,14 +125,22 @@ void DtCodeGenAppGui::saveOmtProject()
         showStatus("No Project loaded... Cannot save OMT Project.");
         return;
     }
-    myProject->setFomDefFiles(myLoadedFiles);
-    myProject->setBaseName(myBaseName.isEmpty() ? stem(myProjectFile) : myBaseName);
-    myProject->setIncludeDir(myPreferences->includeName());
-    myProject->setClassPrefix(myPreferences->prefixName());
+    completeProject(*myProject);
     DtOmtProjectXmlWriter writer(*myProject, myProjectFile);
     writer.writeXml();
     if (!writer.isWritten())
         showStatus("Project file " + myProjectFile + " could not be written.");
+    else
+        showSuccess("Project " + nameOf(myProjectFile) + " saved");
+}
+
+// Puts in what saving adds to a project.
+void DtCodeGenAppGui::completeProject(DtOmtProject& project) const
+{
+    project.setFomDefFiles(myLoadedFiles);
+    project.setBaseName(myBaseName.isEmpty() ? stem(myProjectFile) : myBaseName);
+    project.setIncludeDir(myPreferences->includeName());
+    project.setClassPrefix(myPreferences->prefixName());
 }
 
 void DtCodeGenAppGui::slot_loadOmtProject()
@@ -150,7 +167,7 @@ void DtCodeGenAppGui::loadOmtProject(const DtFilename& path)
             myProjectFile = oldFile; // the same project, read again: it can still be saved
         return;
     }
-    loadModels(models);
+    const bool isLoaded = loadModels(models);
     setValidProject(true);
     myPreferences->setIncludeDir(myProject->includeDir());
     myPreferences->setPrefix(myProject->classPrefix());
@@ -162,15 +179,24 @@ void DtCodeGenAppGui::loadOmtProject(const DtFilename& path)
     myProjectFile = file;
     enableProjectActions(true);
     myOutputDir = DtString();
+    if (isLoaded)
+        tellOfProject(file == oldFile);
 }
 
-void DtCodeGenAppGui::loadModels(const std::vector<DtModelFile>& models)
+void DtCodeGenAppGui::tellOfProject(bool isReadAgain)
+{
+    showSuccess("Project " + nameOf(myProjectFile) + (isReadAgain ? " read again: " : " read: ") +
+                DtCounted(moduleCount(), "module", "modules") + ", " +
+                QString::number(myProject->getObjects().size() + myProject->getInteractions().size()) +
+                " of its classes selected");
+}
+
+bool DtCodeGenAppGui::loadModels(const std::vector<DtModelFile>& models)
 {
     const DtRestored loading(myIsLoadingProject, true);
-    if (models.size() > 1)
-        loadFiles(joinedPaths(models));
-    else
-        loadFile(models.front().first, models.front().second);
+    const int isLoaded =
+        models.size() > 1 ? loadFiles(joinedPaths(models)) : loadFile(models.front().first, models.front().second);
+    return isLoaded != 0;
 }
 
 // What the user chooses; empty after a cancel, and without a user.

@@ -39,6 +39,17 @@ void complain(const char* text)
     std::fputs(text, stderr);
 }
 
+std::string dumped(xmlDoc* document)
+{
+    xmlChar* text = nullptr;
+    int length = 0;
+    xmlDocDumpFormatMemoryEnc(document, &text, &length, theEncoding, 1);
+    if (text == nullptr)
+        return std::string();
+    const std::unique_ptr<xmlChar, decltype(xmlFree)> owner(text, xmlFree);
+    return std::string(reinterpret_cast<const char*>(text), static_cast<std::size_t>(length));
+}
+
 } // namespace
 
 DtOmtProjectXmlWriter::DtOmtProjectXmlWriter(const DtOmtProject& project, const DtFilename& file)
@@ -50,6 +61,14 @@ DtOmtProjectXmlWriter::~DtOmtProjectXmlWriter() = default;
 
 void DtOmtProjectXmlWriter::writeXml()
 {
+    const std::string content = text();
+    myIsWritten = !content.empty() && DtReplaceFile(myFileName, content);
+    if (!myIsWritten)
+        complain("Error at xmlSaveFormatFileEnc\n");
+}
+
+std::string DtOmtProjectXmlWriter::text()
+{
     xmlDoc* document = nullptr;
     DtTextWriter writer(xmlNewTextWriterDoc(&document, 0));
     if (writer == nullptr)
@@ -59,9 +78,7 @@ void DtOmtProjectXmlWriter::writeXml()
     writeDocument(writer.get());
     writer.reset(); // before the document, which it still uses
     const DtXmlDocument owner(document);
-    myIsWritten = myIsComplete && !hasXmlError() && save(document);
-    if (!myIsWritten)
-        complain("Error at xmlSaveFormatFileEnc\n");
+    return myIsComplete && !hasXmlError() ? dumped(document) : std::string();
 }
 
 void DtOmtProjectXmlWriter::writeDocument(xmlTextWriter* writer)
@@ -212,16 +229,4 @@ void DtOmtProjectXmlWriter::writeAttribute(xmlTextWriter* writer, const char* na
 {
     if (xmlTextWriterWriteAttribute(writer, xmlText(name), xmlText(DtXmlText(value))) < 0)
         myIsComplete = false;
-}
-
-bool DtOmtProjectXmlWriter::save(xmlDoc* document) const
-{
-    xmlChar* text = nullptr;
-    int length = 0;
-    xmlDocDumpFormatMemoryEnc(document, &text, &length, theEncoding, 1);
-    if (text == nullptr)
-        return false;
-    const std::unique_ptr<xmlChar, decltype(xmlFree)> owner(text, xmlFree);
-    return DtReplaceFile(myFileName,
-                         std::string(reinterpret_cast<const char*>(text), static_cast<std::size_t>(length)));
 }

@@ -6,6 +6,8 @@
 
 #include <libxml/xmlwriter.h>
 
+#include <string>
+
 // Writes a project to a project file (".qxproj").
 //
 // The document is made in memory and takes the place of the old file only when it is complete. What goes wrong is said
@@ -18,6 +20,8 @@ public:
     virtual ~DtOmtProjectXmlWriter();
 
     virtual void writeXml();
+    // What writeXml() would put into the file; empty when that cannot be made.
+    std::string text();
     bool isWritten() const { return myIsWritten; } // by the last writeXml
 
     // One for each part of the file; they write to the document under way.
@@ -39,7 +43,6 @@ private:
     void startElement(xmlTextWriter* writer, const char* name);
     void endElement(xmlTextWriter* writer);
     void writeAttribute(xmlTextWriter* writer, const char* name, const DtString& value);
-    bool save(xmlDoc* document) const;
 
     DtOmtProject myProject;
     DtFilename myFileName;

@@ -82,6 +82,7 @@ void DtQtProgressMeter::setLabel(const DtString& text)
 void DtQtProgressMeter::setFileGenerated(const DtString& name)
 {
     CHECK_DIALOG();
+    ++myFilesBegun;
     showLabel("Generating: " + name);
     processEvents();
 }

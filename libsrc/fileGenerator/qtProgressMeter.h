@@ -39,6 +39,8 @@ public:
     void init(QApplication* application, QWidget* parent) override;
     // Deletes the dialog, if there is one.
     void reset() override;
+    // Count of the files that were named to this object so far, in all runs.
+    int filesBegun() const { return myFilesBegun; }
     ~DtQtProgressMeter() override;
     virtual void checkInitialized();
 
@@ -64,6 +66,7 @@ private:
     DtString myLabelText;
     int myTotalMeasure = 0;
     int myCurrentMeasure = 0;
+    int myFilesBegun = 0;
     bool myIsCancelled = false;
     bool myIsInitialized = false;
     QElapsedTimer mySincePainted;

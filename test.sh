@@ -2,8 +2,8 @@
 # Builds and runs all tests, under AddressSanitizer and UndefinedBehaviorSanitizer.
 #   ./test.sh             what continuous integration runs; ends with the skipped tests and the summary of ctest
 #   ./test.sh --lint      clang-format and clang-tidy over the sources
-#   ./test.sh --full      all tests and what takes minutes: the program built by clang++, and clang++ and make on what
-#                         was generated
+#   ./test.sh --full      all tests and what takes minutes: the program built by clang++, clang++ and make on what was
+#                         generated, and the window on a display
 set -eu
 
 top=$(cd "$(dirname "${BASH_SOURCE[0]}")" && pwd)
@@ -44,7 +44,8 @@ run_tests() {
 case ${1-} in
     --lint) lint ;;
     --full)
-        "$top/.ci/setup" clang git lintian desktop-file-utils appstream debootstrap dpkg-dev file gzip scdoc
+        "$top/.ci/setup" clang git lintian desktop-file-utils appstream debootstrap dpkg-dev file gzip scdoc \
+            xvfb openbox xdotool
         cmake --preset clang
         cmake --build --preset clang
         export QX_FULL=1

@@ -220,7 +220,10 @@ void DtQtProgressMeter::processEvents()
         return;
     const bool isPaintingDue = DtIsPaintingDue(mySincePainted.elapsed(), QGuiApplication::platformName());
     if (isPaintingDue && !myDialog.isNull())
+    {
         myDialog->setUpdatesEnabled(true);
+        myDialog->repaint(); // what came to be painted while painting was off is not asked for again
+    }
     QApplication::processEvents();
     if (isPaintingDue)
         suspendPainting();

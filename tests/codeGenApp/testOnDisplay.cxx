@@ -1,0 +1,83 @@
+// What a person sees and does: the window on a real display, under a window manager, driven by keys and looked at on
+// the screen. The other tests of the window need no display.
+
+#include "progressWatch.h"
+#include "windowFixture.h"
+
+#include <QtCore/QProcess>
+#include <QtGui/QScreen>
+#include <QtTest/QtTest>
+
+namespace
+{
+QImage screenPart(const QRect& rectangle)
+{
+    return QGuiApplication::primaryScreen()
+        ->grabWindow(0, rectangle.x(), rectangle.y(), rectangle.width(), rectangle.height())
+        .toImage();
+}
+
+// Where a widget is on the screen.
+QRect placeOf(const QWidget& widget)
+{
+    return {widget.mapToGlobal(QPoint()), widget.size()};
+}
+
+int countOf(const QColor& color, const QImage& image)
+{
+    int count = 0;
+    for (int y = 0; y < image.height(); ++y)
+        for (int x = 0; x < image.width(); ++x)
+            count += image.pixelColor(x, y) == color ? 1 : 0;
+    return count;
+}
+
+// Looks at the bar of the progress dialog twenty times a second, and notes how many pixels of it are full.
+class DtBarWatch : public QObject
+{
+public:
+    DtBarWatch() { startTimer(50); }
+    const std::vector<int>& full() const { return myFull; }
+
+private:
+    void timerEvent(QTimerEvent*) override
+    {
+        const auto* const dialog = qobject_cast<QProgressDialog*>(QApplication::activeModalWidget());
+        const auto* const bar = dialog != nullptr ? dialog->findChild<QProgressBar*>() : nullptr;
+        if (bar == nullptr || !bar->isVisible())
+            return;
+        myFull.push_back(countOf(theChunk, screenPart(placeOf(*bar))));
+    }
+
+    const QColor theChunk = QColor(0x28, 0x62, 0xa8); // of the dark style sheet
+    std::vector<int> myFull;
+};
+} // namespace
+
+class TestOnDisplay : public QObject, private DtWindowFixture
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase() { QCOMPARE(QGuiApplication::platformName(), QString("xcb")); }
+    void init() { open(); }
+    void cleanup() { close(); }
+
+    void progressMovesWhileFilesAreWritten()
+    {
+        show();
+        myWindow->newOmtProject(DtFilename(bytes("models/p.qxproj")));
+        QCOMPARE(myWindow->loadFile(myProgram->sampleModel(), ""), 1);
+        myWindow->addAllObjectInteractions();
+        myWindow->setOutputDirectory(path("out/"));
+        const DtBarWatch bar;
+        myWindow->generateAllFiles();
+        std::set<int> widths(bar.full().begin(), bar.full().end());
+        QVERIFY2(widths.size() > 4,
+                 qPrintable(QString("%1 looks, %2 pictures").arg(bar.full().size()).arg(widths.size())));
+        QVERIFY(std::is_sorted(bar.full().begin(), bar.full().end()));
+    }
+};
+
+QTEST_MAIN(TestOnDisplay)
+#include "testOnDisplay.moc"

@@ -434,6 +434,8 @@ const DtString& DtClassFileWriter::parentClassName() const
 
 void DtClassFileWriter::addAttribute(const DtAttribute& attribute)
 {
+    if (myAttributes.empty())
+        myAttributes.reserve(16); // enough for most classes: memory is taken once, not again and again
     myAttributes.push_back(attribute);
 }
 

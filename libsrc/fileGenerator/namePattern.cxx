@@ -5,6 +5,7 @@
 
 namespace
 {
+constexpr std::size_t theUsualLength = 96; // most texts are shorter, and take memory once
 
 void appendValue(std::string& result, char letter, const DtPatternNames& names)
 {
@@ -51,6 +52,7 @@ void appendValue(std::string& result, char letter, const DtPatternNames& names)
 DtString fillPattern(const char* pattern, const DtPatternNames& names)
 {
     std::string result;
+    result.reserve(theUsualLength);
     for (const char* next = pattern; *next != '\0'; ++next)
     {
         if (*next == '%' && next[1] != '\0')

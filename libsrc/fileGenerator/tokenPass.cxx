@@ -158,13 +158,53 @@ std::uint32_t DtTokenIndex::hashOf(std::string_view text)
     return static_cast<std::uint32_t>(hash);
 }
 
+// Writers come and go by the thousand, each with a source of some dozens of values. What the last ones have left is
+// used again, down to the memory of the texts.
+struct DtTokenSource::Leftovers
+{
+    static constexpr std::size_t theMost = 64; // as many as a class has writers, and some
+
+    std::vector<std::vector<Entry>> entries;
+
+    // Never destroyed: sources of tables may go later than anything else.
+    static Leftovers& instance()
+    {
+        static auto* const theLeftovers = new Leftovers;
+        return *theLeftovers;
+    }
+};
+
+DtTokenSource::~DtTokenSource()
+{
+    std::vector<std::vector<Entry>>& leftovers = Leftovers::instance().entries;
+    if (!myEntries.empty() && leftovers.size() < Leftovers::theMost)
+        leftovers.push_back(std::move(myEntries));
+}
+
+std::uint64_t DtTokenSource::nextGeneration()
+{
+    static std::uint64_t theLastGeneration = 0;
+    return ++theLastGeneration;
+}
+
+void DtTokenSource::obtainEntries()
+{
+    std::vector<std::vector<Entry>>& leftovers = Leftovers::instance().entries;
+    if (!leftovers.empty())
+    {
+        myEntries = std::move(leftovers.back());
+        leftovers.pop_back();
+    }
+    myEntries.resize(static_cast<std::size_t>(myIndex->size()));
+}
+
 const DtTokenValue& DtTokenSource::known(int row)
 {
     const std::size_t place = static_cast<std::size_t>(row);
     if (myCommonValues != nullptr)
         return knownInCommon(place);
     if (myEntries.empty())
-        myEntries.resize(static_cast<std::size_t>(myIndex->size()));
+        obtainEntries();
     Entry& entry = myEntries[place];
     if (entry.generation != myGeneration)
     {
@@ -222,12 +262,17 @@ void DtExpandTokens(DtString& line, std::initializer_list<DtTokenSource*> chain)
     DtExpandTokens(line, chain.begin(), chain.size());
 }
 
+namespace
+{
+constexpr std::size_t theUsualLinks = 8; // a few more than the chain of any writer has
+}
+
 void DtTokenChain::putAhead(std::initializer_list<DtTokenSource*> sources)
 {
-    std::vector<DtLink> links;
+    myLinks.reserve(theUsualLinks);
+    auto at = myLinks.insert(myLinks.begin(), sources.size(), DtLink{nullptr, true});
     for (DtTokenSource* source : sources)
-        links.push_back({source, true});
-    myLinks.insert(myLinks.begin(), links.begin(), links.end());
+        (at++)->source = source;
     linksChanged();
 }
 
@@ -242,6 +287,7 @@ void DtTokenChain::linksChanged()
     myPlaces = nullptr;
     myIndexes.clear();
     myForgetful.clear();
+    myIndexes.reserve(theUsualLinks);
     for (const DtLink& link : myLinks)
     {
         myIndexes.push_back(&link.source->index());

@@ -87,7 +87,7 @@ public:
         : myIndex(&index), myMemory(memory)
     {
     }
-    virtual ~DtTokenSource() = default;
+    virtual ~DtTokenSource();
     DtTokenSource(const DtTokenSource&) = delete;
     DtTokenSource& operator=(const DtTokenSource&) = delete;
 
@@ -99,7 +99,7 @@ public:
     const DtString& value(int row) { return known(row).text; }
     const DtTokenValue& known(int row);
     // Forgets all values: the context, or something that values are made of, is another one now.
-    void clear() { ++myGeneration; }
+    void clear() { myGeneration = nextGeneration(); }
     // Works out every value that is not known yet, in row order, for values whose working out has an effect.
     void workOutAll();
 
@@ -110,20 +110,25 @@ protected:
     void keepValuesIn(std::vector<DtTokenValue>* values) { myCommonValues = values; }
 
 private:
+    struct Leftovers;
     struct Entry
     {
         DtTokenValue value;
         std::uint64_t generation = 0;
     };
 
+    // No two of the process are the same, so what is left in a place of other sources counts for nobody else.
+    static std::uint64_t nextGeneration();
+    void obtainEntries();
+
     const DtTokenValue& knownInCommon(std::size_t row);
     void workOut(int row, DtTokenValue& value) const;
 
     const DtTokenIndex* myIndex;
     DtTokenMemory myMemory;
-    std::vector<Entry> myEntries; // made at first use
+    std::vector<Entry> myEntries; // obtained at first use
     std::vector<DtTokenValue>* myCommonValues = nullptr;
-    std::uint64_t myGeneration = 1;
+    std::uint64_t myGeneration = nextGeneration();
 };
 
 // Rows with their index, and when they count: always, or while a condition on the context holds. The array has to

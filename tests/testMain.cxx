@@ -16,7 +16,7 @@ std::map<QString, DtTestMaker>& testMakers()
 int main(int argc, char** argv)
 {
     qputenv("QT_QPA_PLATFORM", "offscreen");
-    qputenv("QTEST_FUNCTION_TIMEOUT", "1200000"); // ctest has a limit of its own for each class
+    qputenv("QTEST_FUNCTION_TIMEOUT", "14400000"); // ctest has a limit of its own for each class
     QApplication application(argc, argv);
     QStringList classes = QCoreApplication::arguments().mid(1);
     QStringList testArguments{QCoreApplication::arguments().first()};

@@ -185,24 +185,12 @@ public:
             mySelectors.push_back(DtEnumeratorSelector(myTable, selector));
         for (const char* selector : valueless)
             myValueless.push_back(DtEnumeratorSelector(myTable, selector));
+        for (int value = 0; value < theKnownValues; ++value)
+            myPlaces[value] = search(value);
     }
 
     // Place of the alternative that a value selects, from 0; -1 when it selects none.
-    int find(DtInt64 value) const
-    {
-        int other = -1;
-        for (std::size_t i = 0; i < mySelectors.size(); ++i)
-        {
-            if (mySelectors[i].takes(value))
-                return static_cast<int>(i);
-            if (mySelectors[i].isOther() && other < 0)
-                other = static_cast<int>(i);
-        }
-        for (const DtEnumeratorSelector& selector : myValueless)
-            if (selector.takes(value))
-                return -1;
-        return other;
-    }
+    int find(DtInt64 value) const { return value >= 0 && value < theKnownValues ? myPlaces[value] : search(value); }
     // A discriminant value that selects the alternative: the present one if it does, else the first that is found.
     DtInt64 valueOf(std::size_t place, DtInt64 present) const
     {
@@ -222,7 +210,29 @@ public:
     }
 
 private:
+    int search(DtInt64 value) const
+    {
+        int other = -1;
+        for (std::size_t i = 0; i < mySelectors.size(); ++i)
+        {
+            if (mySelectors[i].takes(value))
+                return static_cast<int>(i);
+            if (mySelectors[i].isOther() && other < 0)
+                other = static_cast<int>(i);
+        }
+        for (const DtEnumeratorSelector& selector : myValueless)
+            if (selector.takes(value))
+                return -1;
+        return other;
+    }
+
+    enum
+    {
+        theKnownValues = 256 // which most discriminants stay below
+    };
+
     DtEnumeratorTable myTable;
+    int myPlaces[theKnownValues];
     std::vector<DtEnumeratorSelector> mySelectors;
     std::vector<DtEnumeratorSelector> myValueless;
 };

@@ -4,6 +4,8 @@
 #include <qx/opaqueValue.h>
 #include <qx/wireFormat.h>
 
+#include <utility>
+
 // Coding of one attribute or parameter with an answer: false means that the value has no wire form here (writing) or
 // that the octets are not one of its values (reading). What was written before a refusal is not to be sent. A value
 // takes the whole buffer: octets behind it are a failure too. The value is then as it was.
@@ -21,15 +23,48 @@ inline bool DtWriteValue(DtWireWriter& writer, const DtOpaqueValue&, const DtWir
     return false;
 }
 
+// What a value is read into: a copy, since a record keeps what has no wire form, but an empty array, which is replaced
+// as a whole.
+template <class Value>
+Value DtStartOf(const Value& value, long)
+{
+    return value;
+}
+template <class Value>
+auto DtStartOf(const Value&, int) -> typename std::conditional<true, Value, typename Value::Elements>::type
+{
+    return Value();
+}
+template <class Element>
+std::vector<Element> DtStartOf(const std::vector<Element>&, int)
+{
+    return std::vector<Element>();
+}
+
 template <class Value>
 bool DtReadValue(DtWireReader& reader, Value& value, const DtWireForm& form)
 {
-    Value taken(value);
-    if (!DtDecodeValue(reader, taken, form))
+    Value taken(DtStartOf(value, 0));
+    if (!DtDecodePart(reader, taken, form))
         return false;
     if (!reader.atEnd())
         return reader.fail("octets are left over behind the value");
-    value = taken;
+    value = std::move(taken);
+    return true;
+}
+
+// Without a text on the way, so that one that is read again and again needs no memory anew.
+inline bool DtReadValue(DtWireReader& reader, DtString& value, const DtWireForm& form)
+{
+    DtWireReader ahead(reader);
+    const char* text = nullptr;
+    std::size_t length = 0;
+    const bool isPlain = !ahead.isClosed() && ahead.pad(DtBoundaryOf(value, form)) &&
+                         DtWireTraits<DtString>::find(ahead, text, length, form) && ahead.atEnd();
+    if (!isPlain)
+        return DtReadValue<DtString>(reader, value, form);
+    reader = ahead;
+    value.assign(text, length);
     return true;
 }
 

@@ -29,12 +29,14 @@ public:
     DtString(const char* text) : myText(text ? text : "") {}
     DtString(const char* text, std::size_t length) : myText(text, length) {}
     DtString(const std::string& text) : myText(text) {}
+    DtString(std::string&& text) : myText(std::move(text)) {}
 
     const char* c_str() const { return myText.c_str(); }
     const std::string& text() const { return myText; }
     std::size_t length() const { return myText.size(); }
     bool empty() const { return myText.empty(); }
     char operator[](std::size_t index) const { return myText[index]; }
+    void assign(const char* text, std::size_t length) { myText.assign(text, length); }
     DtString& operator+=(const DtString& other)
     {
         myText += other.myText;

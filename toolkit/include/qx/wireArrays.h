@@ -6,7 +6,153 @@
 // Arrays. Elements are padded to their boundary one by one; nothing is added behind the last, and nothing behind a
 // count of 0. An array of several dimensions is one of all its elements, the last index running fastest.
 
-// An element at a time is taken in, so a count that the octets cannot bear costs no memory.
+// A run of octets without padding, such as the characters of a text; true when the layout is one that it can be written
+// or read by as a whole. What is wrong with the others, the elements tell one by one.
+inline bool DtEncodeOctets(DtWireWriter& writer, const void* octets, std::size_t count, const DtArrayLayout& layout)
+{
+    switch (layout.kind)
+    {
+    case DtVariableArray:
+        if (count > 0x7fffffff)
+            return false;
+        writer.putInteger(count, 4);
+        break;
+    case DtFixedArray:
+        if (layout.count != count)
+            return false;
+        break;
+    case DtNullTerminatedArray:
+        if (count != 0 && std::memchr(octets, 0, count))
+            return false;
+        break;
+    case DtLengthlessArray:
+        break;
+    default:
+        return false;
+    }
+    writer.putBytes(octets, count);
+    if (layout.kind == DtNullTerminatedArray)
+        writer.putByte(0);
+    return true;
+}
+// Finds the octets where they lie; the reader is left alone otherwise.
+inline bool DtDecodeOctets(DtWireReader& reader, const DtU8*& octets, std::size_t& count, const DtArrayLayout& layout)
+{
+    DtWireReader ahead(reader);
+    DtU64 wanted = layout.count;
+    if (layout.kind == DtVariableArray && !ahead.getInteger(wanted, 4))
+        return false;
+    const std::size_t room = ahead.remaining();
+    const void* zero = nullptr;
+    switch (layout.kind)
+    {
+    case DtVariableArray:
+    case DtFixedArray:
+        break;
+    case DtNullTerminatedArray:
+        zero = room != 0 ? std::memchr(ahead.next(), 0, room) : nullptr;
+        if (!zero)
+            return false;
+        wanted = static_cast<DtU64>(static_cast<const DtU8*>(zero) - ahead.next());
+        break;
+    case DtLengthlessArray:
+        wanted = room;
+        ahead.close();
+        break;
+    default:
+        return false;
+    }
+    if (wanted > room || ahead.isClosed() != (layout.kind == DtLengthlessArray))
+        return false;
+    count = static_cast<std::size_t>(wanted);
+    octets = ahead.take(count);
+    if (zero)
+        ahead.skip(1);
+    if (!octets)
+        return false;
+    reader = ahead;
+    return true;
+}
+
+// Elements that lie one behind the other without padding, and can be coded together: numbers that are as long on the
+// wire as in memory. All others are coded one by one.
+template <class Element, class Enable = void>
+struct DtElementRun
+{
+    static bool isOne(const DtWireForm&) { return false; }
+    template <class Container>
+    static void encode(DtWireWriter&, const Container&, const DtWireForm&)
+    {
+    }
+    template <class Container>
+    static bool decode(DtWireReader&, Container&, std::size_t, const DtWireForm&)
+    {
+        return false;
+    }
+};
+
+template <std::size_t Octets>
+struct DtBitsOf;
+template <>
+struct DtBitsOf<2>
+{
+    typedef DtU16 Type;
+};
+template <>
+struct DtBitsOf<4>
+{
+    typedef DtU32 Type;
+};
+template <>
+struct DtBitsOf<8>
+{
+    typedef DtU64 Type;
+};
+
+template <class Number>
+struct DtElementRun<Number,
+                    typename std::enable_if<std::is_arithmetic<Number>::value &&
+                                            (sizeof(Number) == 2 || sizeof(Number) == 4 || sizeof(Number) == 8)>::type>
+{
+    typedef typename DtBitsOf<sizeof(Number)>::Type Bits;
+
+    static bool isOne(const DtWireForm& form)
+    {
+        return (form.octets == 0 || form.octets == sizeof(Number)) && !form.isMisfit();
+    }
+    template <class Container>
+    static void encode(DtWireWriter& writer, const Container& elements, const DtWireForm& form)
+    {
+        writer.pad(sizeof(Number));
+        const bool little = DtIsLittleEndian(form);
+        DtU8* to = writer.grow(elements.size() * sizeof(Number));
+        for (typename Container::const_iterator i = elements.begin(); i != elements.end(); ++i, to += sizeof(Number))
+        {
+            Bits bits;
+            std::memcpy(&bits, &*i, sizeof bits);
+            DtStoreBits(to, bits, little);
+        }
+    }
+    template <class Container>
+    static bool decode(DtWireReader& reader, Container& elements, std::size_t count, const DtWireForm& form)
+    {
+        const DtU8* from = reader.pad(sizeof(Number)) ? reader.take(count * sizeof(Number)) : nullptr;
+        if (!from)
+            return false;
+        const bool little = DtIsLittleEndian(form);
+        const std::size_t before = elements.size();
+        elements.resize(before + count);
+        for (std::size_t i = before; i < elements.size(); ++i, from += sizeof(Number))
+        {
+            const Bits bits = DtLoadBits<Bits>(from, little);
+            std::memcpy(&elements[i], &bits, sizeof bits);
+        }
+        return true;
+    }
+};
+
+// Memory for elements is taken in the measure of the octets that are there, so a count that these cannot bear costs
+// none.
 template <class Container>
 struct DtElementReader
 {
@@ -20,19 +166,37 @@ struct DtElementReader
     bool next()
     {
         const std::size_t before = reader.offset();
-        Element element = Element();
-        if (!DtDecodeValue(reader, element, form))
+        if (!take(elements))
             return false;
         if (reader.offset() == before && ++idle > theMostIdle)
             return reader.fail("too many elements without octets");
-        elements.push_back(element);
         return true;
     }
     bool nextOf(DtU64 count)
     {
+        typedef DtElementRun<Element> Run;
+        if (count != 0 && Run::isOne(form) && !reader.isClosed() && count <= reader.remaining())
+            return Run::decode(reader, elements, static_cast<std::size_t>(count), form);
+        const std::size_t bearable = reader.remaining() * 4 / sizeof(Element) + 1;
+        elements.reserve(elements.size() + (count < bearable ? static_cast<std::size_t>(count) : bearable));
         for (; count > 0; --count)
             if (!next())
                 return false;
+        return true;
+    }
+
+    template <class Elements>
+    bool take(Elements& target)
+    {
+        target.emplace_back();
+        return DtDecodePart(reader, target.back(), form);
+    }
+    bool take(std::vector<bool>& target) // whose elements are no objects
+    {
+        bool element = false;
+        if (!DtDecodeValue(reader, element, form))
+            return false;
+        target.push_back(element);
         return true;
     }
 
@@ -196,6 +360,8 @@ void DtEncodeArray(DtWireWriter& writer, const Container& elements, const DtArra
     case DtLengthlessArray:
         break;
     }
+    if (!elements.empty() && DtElementRun<Element>::isOne(elementForm))
+        return DtElementRun<Element>::encode(writer, elements, elementForm);
     for (typename Container::const_iterator i = elements.begin(); i != elements.end(); ++i)
         DtEncodeValue<Element>(writer, *i, elementForm);
 }

@@ -8,14 +8,109 @@
 
 #include <cstring>
 
-// A growing buffer that an encoder fills.
+// Small operations whose arguments are literals in generated code: a field is a handful of instructions once they are
+// put in place, and compilers take them for too large for that.
+#ifdef _MSC_VER
+#define QX_IN_PLACE __forceinline
+#else
+#define QX_IN_PLACE inline __attribute__((always_inline))
+#endif
+
+// Numbers of 2, 4 and 8 octets, the high octet first. Compilers make one instruction of each.
+QX_IN_PLACE void DtStoreBig(DtU8* to, DtU16 bits)
+{
+    to[0] = static_cast<DtU8>(bits >> 8);
+    to[1] = static_cast<DtU8>(bits);
+}
+QX_IN_PLACE void DtStoreBig(DtU8* to, DtU32 bits)
+{
+    to[0] = static_cast<DtU8>(bits >> 24);
+    to[1] = static_cast<DtU8>(bits >> 16);
+    to[2] = static_cast<DtU8>(bits >> 8);
+    to[3] = static_cast<DtU8>(bits);
+}
+QX_IN_PLACE void DtStoreBig(DtU8* to, DtU64 bits)
+{
+    DtStoreBig(to, static_cast<DtU32>(bits >> 32));
+    DtStoreBig(to + 4, static_cast<DtU32>(bits));
+}
+QX_IN_PLACE void DtLoadBig(const DtU8* from, DtU16& bits)
+{
+    bits = static_cast<DtU16>(from[0] << 8 | from[1]);
+}
+QX_IN_PLACE void DtLoadBig(const DtU8* from, DtU32& bits)
+{
+    bits = static_cast<DtU32>(from[0]) << 24 | static_cast<DtU32>(from[1]) << 16 | static_cast<DtU32>(from[2]) << 8 |
+           static_cast<DtU32>(from[3]);
+}
+QX_IN_PLACE void DtLoadBig(const DtU8* from, DtU64& bits)
+{
+    DtU32 high, low;
+    DtLoadBig(from, high);
+    DtLoadBig(from + 4, low);
+    bits = static_cast<DtU64>(high) << 32 | low;
+}
+
+// And the low octet first.
+QX_IN_PLACE DtU16 DtSwappedOctets(DtU16 bits)
+{
+    return static_cast<DtU16>(bits >> 8 | bits << 8);
+}
+QX_IN_PLACE DtU32 DtSwappedOctets(DtU32 bits)
+{
+    return bits >> 24 | (bits >> 8 & 0xff00) | (bits << 8 & 0xff0000) | bits << 24;
+}
+QX_IN_PLACE DtU64 DtSwappedOctets(DtU64 bits)
+{
+    return static_cast<DtU64>(DtSwappedOctets(static_cast<DtU32>(bits))) << 32 |
+           DtSwappedOctets(static_cast<DtU32>(bits >> 32));
+}
+template <class Bits>
+QX_IN_PLACE void DtStoreBits(DtU8* to, Bits bits, bool little)
+{
+    DtStoreBig(to, little ? DtSwappedOctets(bits) : bits);
+}
+template <class Bits>
+QX_IN_PLACE Bits DtLoadBits(const DtU8* from, bool little)
+{
+    Bits bits;
+    DtLoadBig(from, bits);
+    return little ? DtSwappedOctets(bits) : bits;
+}
+
+// How many octets there are up to the next multiple of the boundary; 0 and 1 need none.
+QX_IN_PLACE std::size_t DtPaddingTo(std::size_t boundary, std::size_t offset)
+{
+    if (boundary <= 1)
+        return 0;
+    const bool isPowerOfTwo = (boundary & (boundary - 1)) == 0;
+    const std::size_t over = isPowerOfTwo ? offset & (boundary - 1) : offset % boundary;
+    return over == 0 ? 0 : boundary - over;
+}
+
+// A growing buffer that an encoder fills. Used again after clear(), it needs no memory anew.
 //
 // A value that cannot be encoded calls refuse(): the first reason stays, ok() turns false for good, and what the
 // buffer holds must not be sent.
 class DtWireWriter
 {
 public:
-    DtWireWriter() : myOrigin(0), myReason(nullptr) {}
+    DtWireWriter() : myStart(myOwnRoom), myRoom(theOwnRoom), mySize(0), myOrigin(0), myReason(nullptr) {}
+    DtWireWriter(const DtWireWriter& other)
+        : myStart(myOwnRoom), myRoom(theOwnRoom), mySize(0), myOrigin(other.myOrigin), myReason(other.myReason)
+    {
+        putBytes(other.myStart, other.mySize);
+    }
+    DtWireWriter& operator=(const DtWireWriter& other)
+    {
+        if (this == &other)
+            return *this;
+        clear();
+        putBytes(other.myStart, other.mySize);
+        myOrigin = other.myOrigin;
+        myReason = other.myReason;
+        return *this;
+    }
 
     bool ok() const { return myReason == nullptr; }
     const char* reason() const { return myReason ? myReason : ""; }
@@ -26,13 +121,18 @@ public:
             myReason = reason;
     }
 
-    std::size_t size() const { return myOctets.size(); }
-    std::size_t offset() const { return myOctets.size(); }
-    const DtU8* data() const { return myOctets.data(); }
-    const std::vector<DtU8>& bytes() const { return myOctets; }
+    std::size_t size() const { return mySize; }
+    std::size_t offset() const { return mySize; }
+    const DtU8* data() const { return myStart; }
+    // A copy of the octets, as they are now; it goes with the writer.
+    const std::vector<DtU8>& bytes() const
+    {
+        myBytes.assign(myStart, myStart + mySize);
+        return myBytes;
+    }
     void clear()
     {
-        myOctets.clear();
+        mySize = 0;
         myOrigin = 0;
         myReason = nullptr;
     }
@@ -42,21 +142,71 @@ public:
     void setOrigin(std::size_t offset) { myOrigin = offset; }
 
     // Zeros up to the next multiple of the boundary; 0 and 1 add none.
-    void pad(std::size_t boundary)
+    QX_IN_PLACE void pad(std::size_t boundary)
     {
-        const std::size_t over = boundary > 1 ? (offset() - myOrigin) % boundary : 0;
-        if (over != 0)
-            myOctets.resize(myOctets.size() + boundary - over, DtU8(0));
+        const std::size_t missing = DtPaddingTo(boundary, offset() - myOrigin);
+        if (missing != 0)
+            std::memset(grow(missing), 0, missing);
     }
-    void putByte(DtU8 octet) { myOctets.push_back(octet); }
+    QX_IN_PLACE void putByte(DtU8 octet) { *grow(1) = octet; }
     void putBytes(const void* octets, std::size_t count)
     {
-        const DtU8* first = static_cast<const DtU8*>(octets);
         if (count != 0)
-            myOctets.insert(myOctets.end(), first, first + count);
+            std::memcpy(grow(count), octets, count);
+    }
+    // Room for this many octets more, to be filled by the caller. Valid until the next operation.
+    QX_IN_PLACE DtU8* grow(std::size_t count)
+    {
+        if (count > myRoom - mySize)
+            makeRoom(count);
+        DtU8* const room = myStart + mySize;
+        mySize += count;
+        return room;
     }
     // The low octets of a number; beyond the eighth the sign is carried on.
-    void putInteger(DtU64 bits, unsigned int octets, bool little = false, bool negative = false)
+    QX_IN_PLACE void putInteger(DtU64 bits, unsigned int octets, bool little = false, bool negative = false)
+    {
+        switch (octets)
+        {
+        case 1:
+            return putByte(static_cast<DtU8>(bits));
+        case 2:
+            return DtStoreBits(grow(2), static_cast<DtU16>(bits), little);
+        case 4:
+            return DtStoreBits(grow(4), static_cast<DtU32>(bits), little);
+        case 8:
+            return DtStoreBits(grow(8), bits, little);
+        default:
+            return putOddInteger(bits, octets, little, negative);
+        }
+    }
+    QX_IN_PLACE void putFloat32(DtFloat32 value, bool little = false)
+    {
+        DtU32 bits;
+        std::memcpy(&bits, &value, sizeof bits);
+        DtStoreBits(grow(4), bits, little);
+    }
+    QX_IN_PLACE void putFloat64(DtFloat64 value, bool little = false)
+    {
+        DtU64 bits;
+        std::memcpy(&bits, &value, sizeof bits);
+        DtStoreBits(grow(8), bits, little);
+    }
+
+private:
+    enum
+    {
+        theOwnRoom = 256 // octets that most values get along with
+    };
+    void makeRoom(std::size_t count)
+    {
+        std::vector<DtU8> larger(2 * myRoom < mySize + count ? mySize + count : 2 * myRoom);
+        std::memcpy(larger.data(), myStart, mySize);
+        myLargeRoom.swap(larger);
+        myStart = myLargeRoom.data();
+        myRoom = myLargeRoom.size();
+    }
+    void putOddInteger(DtU64 bits, unsigned int octets, bool little, bool negative)
     {
         for (unsigned int i = 0; i < octets; ++i)
         {
@@ -65,21 +215,13 @@ public:
             putByte(place < 8 ? static_cast<DtU8>(bits >> (8 * place)) : filler);
         }
     }
-    void putFloat32(DtFloat32 value, bool little = false)
-    {
-        DtU32 bits;
-        std::memcpy(&bits, &value, sizeof bits);
-        putInteger(bits, 4, little);
-    }
-    void putFloat64(DtFloat64 value, bool little = false)
-    {
-        DtU64 bits;
-        std::memcpy(&bits, &value, sizeof bits);
-        putInteger(bits, 8, little);
-    }
 
-private:
-    std::vector<DtU8> myOctets;
+    DtU8 myOwnRoom[theOwnRoom];
+    std::vector<DtU8> myLargeRoom; // once the own one does not suffice
+    mutable std::vector<DtU8> myBytes;
+    DtU8* myStart; // of either room
+    std::size_t myRoom;
+    std::size_t mySize;
     std::size_t myOrigin;
     const char* myReason; // null while all is well
 };
@@ -124,7 +266,7 @@ public:
     void close() { myIsClosed = true; }
     bool isClosed() const { return myIsClosed; }
 
-    bool skip(std::size_t count)
+    QX_IN_PLACE bool skip(std::size_t count)
     {
         if (!has(count))
             return false;
@@ -132,10 +274,10 @@ public:
         return true;
     }
     // Passes over what the writer's pad added; its content is not looked at.
-    bool pad(std::size_t boundary)
+    QX_IN_PLACE bool pad(std::size_t boundary)
     {
-        const std::size_t over = boundary > 1 ? (myOffset - myOrigin) % boundary : 0;
-        return over == 0 ? ok() : skip(boundary - over);
+        const std::size_t missing = DtPaddingTo(boundary, myOffset - myOrigin);
+        return missing == 0 ? ok() : skip(missing);
     }
     // Takes the next octets out as a buffer of their own, which is read apart from this one.
     bool split(std::size_t count, DtWireReader& part)
@@ -158,10 +300,77 @@ public:
         return true;
     }
     // A number of fewer than eight octets fills them with its sign, or with zeros; one of more has to fit into eight.
-    bool getInteger(DtU64& bits, unsigned int octets, bool little = false, bool isSigned = false)
+    QX_IN_PLACE bool getInteger(DtU64& bits, unsigned int octets, bool little = false, bool isSigned = false)
     {
         if (!has(octets))
             return false;
+        const DtU8* const from = myOctets + myOffset;
+        switch (octets)
+        {
+        case 1:
+            bits = widened(*from, 0x80, isSigned);
+            break;
+        case 2:
+            bits = widened(DtLoadBits<DtU16>(from, little), 0x8000, isSigned);
+            break;
+        case 4:
+            bits = widened(DtLoadBits<DtU32>(from, little), 0x80000000, isSigned);
+            break;
+        case 8:
+            bits = DtLoadBits<DtU64>(from, little);
+            break;
+        default:
+            return getOddInteger(bits, octets, little, isSigned);
+        }
+        myOffset += octets;
+        return true;
+    }
+    QX_IN_PLACE bool getFloat32(DtFloat32& value, bool little = false)
+    {
+        if (!has(4))
+            return false;
+        const DtU32 bits = DtLoadBits<DtU32>(myOctets + myOffset, little);
+        std::memcpy(&value, &bits, sizeof value);
+        myOffset += 4;
+        return true;
+    }
+    QX_IN_PLACE bool getFloat64(DtFloat64& value, bool little = false)
+    {
+        if (!has(8))
+            return false;
+        const DtU64 bits = DtLoadBits<DtU64>(myOctets + myOffset, little);
+        std::memcpy(&value, &bits, sizeof value);
+        myOffset += 8;
+        return true;
+    }
+    // Where the remaining octets lie.
+    const DtU8* next() const { return myOctets + myOffset; }
+    // The next octets, to be read by the caller; null, after a failure, when there are fewer.
+    const DtU8* take(std::size_t count)
+    {
+        if (!has(count))
+            return nullptr;
+        const DtU8* const taken = myOctets + myOffset;
+        myOffset += count;
+        return taken;
+    }
+
+    // Arrays inside arrays, for types that can hold themselves: a hostile input must not use up the stack.
+    bool enter() { return ++myDepth <= theDeepest || fail("arrays are nested too deeply"); }
+    void leave() { --myDepth; }
+
+private:
+    enum
+    {
+        theDeepest = 128
+    };
+    // The sign is carried on into the high octets.
+    static QX_IN_PLACE DtU64 widened(DtU64 bits, DtU64 signBit, bool isSigned)
+    {
+        return isSigned ? (bits ^ signBit) - signBit : bits;
+    }
+    bool getOddInteger(DtU64& bits, unsigned int octets, bool little, bool isSigned)
+    {
         const std::size_t high = myOffset + (little ? octets - 1 : 0);
         const DtU8 filler = isSigned && octets > 0 && (myOctets[high] & 0x80) != 0 ? 0xff : 0x00;
         DtU64 taken = filler ? ~DtU64(0) : 0;
@@ -178,34 +387,7 @@ public:
         myOffset += octets;
         return true;
     }
-    bool getFloat32(DtFloat32& value, bool little = false)
-    {
-        DtU64 wide;
-        if (!getInteger(wide, 4, little))
-            return false;
-        const DtU32 bits = static_cast<DtU32>(wide);
-        std::memcpy(&value, &bits, sizeof value);
-        return true;
-    }
-    bool getFloat64(DtFloat64& value, bool little = false)
-    {
-        DtU64 bits;
-        if (!getInteger(bits, 8, little))
-            return false;
-        std::memcpy(&value, &bits, sizeof value);
-        return true;
-    }
-
-    // Arrays inside arrays, for types that can hold themselves: a hostile input must not use up the stack.
-    bool enter() { return ++myDepth <= theDeepest || fail("arrays are nested too deeply"); }
-    void leave() { --myDepth; }
-
-private:
-    enum
-    {
-        theDeepest = 128
-    };
-    bool has(std::size_t count)
+    QX_IN_PLACE bool has(std::size_t count)
     {
         if (!ok())
             return false;

@@ -61,6 +61,71 @@ const DtWireRecordLayout DtWireRecordOf<Boundary>::theLayout = {Boundary, 0, nul
 
 typedef DtWireRecordOf<1> DtWireMisfit;
 
+enum DtArrayKind
+{
+    DtVariableArray, // count in four octets, then the elements
+    DtFixedArray,
+    DtLengthlessArray,     // elements up to the end of the value
+    DtNullTerminatedArray, // elements up to one whose octets are all zero
+    DtPaddingArray,        // as many octets as bring the enclosing record to a multiple of a number of octets
+    DtUnknownArray         // no wire form
+};
+
+// Texts at compile time, where forms are made of literals.
+constexpr bool DtTextEquals(const char* text, const char* other)
+{
+    return *text == *other && (*text == '\0' || DtTextEquals(text + 1, other + 1));
+}
+constexpr bool DtTextBegins(const char* text, const char* start)
+{
+    return *start == '\0' || (*text == *start && DtTextBegins(text + 1, start + 1));
+}
+constexpr bool DtIsDigit(char each)
+{
+    return each >= '0' && each <= '9';
+}
+// The number whose digits begin at the text, but for what goes far beyond any number of bits.
+constexpr unsigned int DtNumberAt(const char* text, unsigned int before = 0)
+{
+    return DtIsDigit(*text) && before < 100000
+               ? DtNumberAt(text + 1, before * 10 + static_cast<unsigned int>(*text - '0'))
+               : before;
+}
+constexpr unsigned int DtFirstNumber(const char* text)
+{
+    return *text == '\0' || DtIsDigit(*text) ? DtNumberAt(text) : DtFirstNumber(text + 1);
+}
+constexpr unsigned int DtOctetsOfBits(unsigned int bits)
+{
+    return bits % 8 == 0 ? bits / 8 : 0;
+}
+
+// The number of octets that a padding array fills up to a multiple of, from the bits in a name such as
+// "RPRpaddingTo32Array"; 0 for other encodings.
+constexpr unsigned int DtPaddingUnit(const char* encoding)
+{
+    return *encoding == '\0'                    ? 0
+           : DtTextBegins(encoding, "addingTo") ? DtOctetsOfBits(DtFirstNumber(encoding))
+                                                : DtPaddingUnit(encoding + 1);
+}
+
+// The kind of array that an encoding stands for. One that is not named here is fixed where the model gives the number
+// of elements, else without length; bits are not packed. Where nothing is said at all, the array is variable.
+constexpr DtArrayKind DtArrayKindOf(const char* encoding, int count)
+{
+    return *encoding == '\0' || DtTextEquals(encoding, "HLAvariableArray") ? DtVariableArray
+           : DtPaddingUnit(encoding) != 0                                  ? DtPaddingArray
+           : DtTextEquals(encoding, "HLAfixedArray")                       ? DtFixedArray
+           : DtTextEquals(encoding, "HLAnullTerminatedArray") || DtTextEquals(encoding, "NullTerminatedArray") ||
+                   DtTextEquals(encoding, "RPRnullTerminatedArray")
+               ? DtNullTerminatedArray
+           : DtTextEquals(encoding, "HLAlengthlessVarArray") || DtTextEquals(encoding, "RPRlengthlessArray")
+               ? DtLengthlessArray
+           : DtTextEquals(encoding, "HLAbitArray") || DtTextEquals(encoding, "BitArray") ? DtUnknownArray
+           : count > 0                                                                   ? DtFixedArray
+                                                                                         : DtLengthlessArray;
+}
+
 // Names out of a model: the datatype, the last representation that it leads to, and the encoding of an array or record;
 // with them what the model's tables give for the number that the datatype ends at.
 //
@@ -78,7 +143,9 @@ struct DtWireForm
           count(elementCount),
           octets(numberOctets),
           isLittleEndian(numberIsLittleEndian),
-          layout(recordLayout)
+          layout(recordLayout),
+          kind(DtArrayKindOf(encodingName, elementCount)),
+          unit(kind == DtPaddingArray ? DtPaddingUnit(encodingName) : 0)
     {
     }
     bool isMisfit() const { return layout && !layout->parts; }
@@ -90,6 +157,8 @@ struct DtWireForm
     unsigned int octets;              // length of the number, or of one element
     bool isLittleEndian;              // counts together with octets only
     const DtWireRecordLayout* layout; // of a toolkit class that holds a record; null: the usual one
+    DtArrayKind kind;                 // by the encoding
+    unsigned int unit;                // octets that a padding array fills up to a multiple of
 };
 
 // Length, sign and byte order of an integer that stands for an enumeration; 0 octets when nobody tells.
@@ -103,16 +172,6 @@ struct DtNumberForm
     unsigned int octets;
     bool isSigned;
     bool isLittleEndian;
-};
-
-enum DtArrayKind
-{
-    DtVariableArray, // count in four octets, then the elements
-    DtFixedArray,
-    DtLengthlessArray,     // elements up to the end of the value
-    DtNullTerminatedArray, // elements up to one whose octets are all zero
-    DtPaddingArray,        // as many octets as bring the enclosing record to a multiple of a number of octets
-    DtUnknownArray         // no wire form
 };
 
 struct DtArrayLayout
@@ -212,51 +271,15 @@ inline bool DtIsUnsignedByName(const char* name)
            (std::strstr(name, "nteger") == nullptr || std::strstr(name, "nsigned") != nullptr);
 }
 
-// The number of octets that a padding array fills up to a multiple of, from the bits in a name such as
-// "RPRpaddingTo32Array"; 0 for other encodings.
-inline std::size_t DtPaddingUnit(const char* encoding)
-{
-    const char* at = std::strstr(encoding, "addingTo");
-    if (!at)
-        return 0;
-    std::size_t bits = 0;
-    while (*at && (*at < '0' || *at > '9'))
-        ++at;
-    for (; *at >= '0' && *at <= '9' && bits < 100000; ++at)
-        bits = bits * 10 + static_cast<std::size_t>(*at - '0');
-    return bits % 8 == 0 ? bits / 8 : 0;
-}
-
-// The layout that the encoding of an array stands for. One that is not in the table is fixed where the model gives the
-// number of elements, else without length; bits are not packed. Where nothing is said at all, the array is variable.
+// The layout that the encoding of an array stands for.
 inline DtArrayLayout DtLayoutOf(const DtWireForm& form)
 {
-    struct Row
-    {
-        const char* encoding;
-        DtArrayKind kind;
-    };
-    static const Row theRows[] = {
-        {"",                       DtVariableArray      },
-        {"HLAvariableArray",       DtVariableArray      },
-        {"HLAfixedArray",          DtFixedArray         },
-        {"HLAnullTerminatedArray", DtNullTerminatedArray},
-        {"NullTerminatedArray",    DtNullTerminatedArray},
-        {"RPRnullTerminatedArray", DtNullTerminatedArray},
-        {"HLAlengthlessVarArray",  DtLengthlessArray    },
-        {"RPRlengthlessArray",     DtLengthlessArray    },
-        {"HLAbitArray",            DtUnknownArray       },
-        {"BitArray",               DtUnknownArray       }
-    };
-    if (const std::size_t unit = DtPaddingUnit(form.encoding))
-        return DtArrayLayout(DtPaddingArray, unit);
-    DtArrayKind kind = form.count > 0 ? DtFixedArray : DtLengthlessArray;
-    for (const Row& row : theRows)
-        if (DtTextIs(row.encoding, form.encoding))
-            kind = row.kind;
-    if (kind == DtFixedArray && form.count < 0)
-        return DtArrayLayout(DtUnknownArray);
-    return DtArrayLayout(kind, kind == DtFixedArray ? static_cast<std::size_t>(form.count) : 0);
+    if (form.kind == DtPaddingArray)
+        return DtArrayLayout(DtPaddingArray, form.unit);
+    if (form.kind == DtFixedArray)
+        return form.count < 0 ? DtArrayLayout(DtUnknownArray)
+                              : DtArrayLayout(DtFixedArray, static_cast<std::size_t>(form.count));
+    return DtArrayLayout(form.kind);
 }
 
 #endif

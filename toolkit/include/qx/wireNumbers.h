@@ -9,7 +9,7 @@
 // Numbers of a given length and byte order; the length need not be that of the C++ type.
 
 // Whether the low octets hold the whole number.
-inline bool DtFitsInto(DtU64 bits, bool isSigned, unsigned int octets)
+QX_IN_PLACE bool DtFitsInto(DtU64 bits, bool isSigned, unsigned int octets)
 {
     if (octets >= 8 || octets == 0)
         return octets != 0;
@@ -19,21 +19,21 @@ inline bool DtFitsInto(DtU64 bits, bool isSigned, unsigned int octets)
 }
 
 template <class Number>
-typename std::enable_if<std::is_integral<Number>::value>::type DtPutNumber(DtWireWriter& writer, Number value,
-                                                                           unsigned int octets, bool little)
+QX_IN_PLACE typename std::enable_if<std::is_integral<Number>::value>::type
+DtPutNumber(DtWireWriter& writer, Number value, unsigned int octets, bool little)
 {
     const bool isSigned = std::is_signed<Number>::value;
     const DtU64 bits = static_cast<DtU64>(value);
     if (octets == 0)
         return writer.refuse("the number has no length");
-    if (!DtFitsInto(bits, isSigned, octets))
+    if (octets < sizeof(Number) && !DtFitsInto(bits, isSigned, octets))
         return writer.refuse("the number is too large for its octets");
     writer.putInteger(bits, octets, little, isSigned && bits >> 63 != 0);
 }
 
 template <class Number>
-typename std::enable_if<std::is_integral<Number>::value, bool>::type DtGetNumber(DtWireReader& reader, Number& value,
-                                                                                 unsigned int octets, bool little)
+QX_IN_PLACE typename std::enable_if<std::is_integral<Number>::value, bool>::type
+DtGetNumber(DtWireReader& reader, Number& value, unsigned int octets, bool little)
 {
     const bool isSigned = std::is_signed<Number>::value;
     DtU64 bits;
@@ -41,7 +41,7 @@ typename std::enable_if<std::is_integral<Number>::value, bool>::type DtGetNumber
         return reader.fail("the number has no length");
     if (!reader.getInteger(bits, octets, little, isSigned))
         return false;
-    if (!DtFitsInto(bits, isSigned, sizeof(Number)))
+    if (octets > sizeof(Number) && !DtFitsInto(bits, isSigned, sizeof(Number)))
         return reader.fail("the number is too large for its type");
     value = static_cast<Number>(bits);
     return true;
@@ -49,8 +49,8 @@ typename std::enable_if<std::is_integral<Number>::value, bool>::type DtGetNumber
 
 // Floating-point numbers have 4 or 8 octets; other lengths are refused.
 template <class Number>
-typename std::enable_if<std::is_floating_point<Number>::value>::type DtPutNumber(DtWireWriter& writer, Number value,
-                                                                                 unsigned int octets, bool little)
+QX_IN_PLACE typename std::enable_if<std::is_floating_point<Number>::value>::type
+DtPutNumber(DtWireWriter& writer, Number value, unsigned int octets, bool little)
 {
     if (octets == 4)
         return writer.putFloat32(static_cast<DtFloat32>(value), little);
@@ -60,7 +60,7 @@ typename std::enable_if<std::is_floating_point<Number>::value>::type DtPutNumber
 }
 
 template <class Number>
-typename std::enable_if<std::is_floating_point<Number>::value, bool>::type
+QX_IN_PLACE typename std::enable_if<std::is_floating_point<Number>::value, bool>::type
 DtGetNumber(DtWireReader& reader, Number& value, unsigned int octets, bool little)
 {
     DtFloat32 single = 0;
@@ -77,28 +77,34 @@ template <class Number>
 struct DtWireTraits<
     Number, typename std::enable_if<std::is_arithmetic<Number>::value && !std::is_same<Number, bool>::value>::type>
 {
-    static void encode(DtWireWriter& writer, const Number& value, const DtWireForm& form)
+    static QX_IN_PLACE void encode(DtWireWriter& writer, const Number& value, const DtWireForm& form)
     {
         DtPutNumber(writer, value, octets(form), DtIsLittleEndian(form));
     }
-    static bool decode(DtWireReader& reader, Number& value, const DtWireForm& form)
+    static QX_IN_PLACE bool decode(DtWireReader& reader, Number& value, const DtWireForm& form)
     {
         return DtGetNumber(reader, value, octets(form), DtIsLittleEndian(form));
     }
-    static unsigned int boundary(const DtWireForm& form, const DtWireTrail*) { return DtNumberBoundary(octets(form)); }
+    static QX_IN_PLACE unsigned int boundary(const DtWireForm& form, const DtWireTrail*)
+    {
+        return DtNumberBoundary(octets(form));
+    }
 
 private:
-    static unsigned int octets(const DtWireForm& form) { return form.octets != 0 ? form.octets : sizeof(Number); }
+    static QX_IN_PLACE unsigned int octets(const DtWireForm& form)
+    {
+        return form.octets != 0 ? form.octets : sizeof(Number);
+    }
 };
 
 template <>
 struct DtWireTraits<bool, void>
 {
-    static void encode(DtWireWriter& writer, bool value, const DtWireForm& form)
+    static QX_IN_PLACE void encode(DtWireWriter& writer, bool value, const DtWireForm& form)
     {
         writer.putInteger(value ? 1 : 0, octets(form), DtIsLittleEndian(form));
     }
-    static bool decode(DtWireReader& reader, bool& value, const DtWireForm& form)
+    static QX_IN_PLACE bool decode(DtWireReader& reader, bool& value, const DtWireForm& form)
     {
         DtU64 bits;
         if (!reader.getInteger(bits, octets(form), DtIsLittleEndian(form)))
@@ -106,10 +112,13 @@ struct DtWireTraits<bool, void>
         value = bits != 0;
         return true;
     }
-    static unsigned int boundary(const DtWireForm& form, const DtWireTrail*) { return DtNumberBoundary(octets(form)); }
+    static QX_IN_PLACE unsigned int boundary(const DtWireForm& form, const DtWireTrail*)
+    {
+        return DtNumberBoundary(octets(form));
+    }
 
 private:
-    static unsigned int octets(const DtWireForm& form)
+    static QX_IN_PLACE unsigned int octets(const DtWireForm& form)
     {
         if (form.octets != 0)
             return form.octets;
@@ -125,7 +134,7 @@ struct DtWireTraits<Enumeration, typename std::enable_if<std::is_enum<Enumeratio
 {
     typedef typename std::underlying_type<Enumeration>::type Number;
 
-    static void encode(DtWireWriter& writer, const Enumeration& value, const DtWireForm& form)
+    static QX_IN_PLACE void encode(DtWireWriter& writer, const Enumeration& value, const DtWireForm& form)
     {
         const DtNumberForm number = numberForm(form);
         const DtU64 bits = static_cast<DtU64>(static_cast<Number>(value));
@@ -133,7 +142,7 @@ struct DtWireTraits<Enumeration, typename std::enable_if<std::is_enum<Enumeratio
             return writer.refuse("the enumerator is too large for its octets");
         writer.putInteger(bits, number.octets, number.isLittleEndian, number.isSigned && bits >> 63 != 0);
     }
-    static bool decode(DtWireReader& reader, Enumeration& value, const DtWireForm& form)
+    static QX_IN_PLACE bool decode(DtWireReader& reader, Enumeration& value, const DtWireForm& form)
     {
         const DtNumberForm number = numberForm(form);
         DtU64 bits;
@@ -144,7 +153,7 @@ struct DtWireTraits<Enumeration, typename std::enable_if<std::is_enum<Enumeratio
         value = static_cast<Enumeration>(static_cast<Number>(bits));
         return true;
     }
-    static unsigned int boundary(const DtWireForm& form, const DtWireTrail*)
+    static QX_IN_PLACE unsigned int boundary(const DtWireForm& form, const DtWireTrail*)
     {
         return DtNumberBoundary(numberForm(form).octets);
     }

@@ -71,25 +71,47 @@ struct DtWireTraits<DtString, void>
     {
         if (DtIsWideString(form))
             return encodeUnits(writer, DtWideUnits(value.text()), form);
+        const std::string& text = value.text();
+        if (form.octets <= 1 && DtEncodeOctets(writer, text.data(), text.size(), layout(form)))
+            return;
         encodeUnits(writer, std::vector<DtU8>(value.text().begin(), value.text().end()), form);
     }
     static bool decode(DtWireReader& reader, DtString& value, const DtWireForm& form)
     {
-        std::vector<DtU16> wide;
-        std::vector<DtU8> narrow;
         if (DtIsWideString(form))
         {
+            std::vector<DtU16> wide;
             if (!DtDecodeArray(reader, wide, layout(form), unitForm(form)))
                 return false;
             value = DtNarrowText(wide);
             return true;
         }
+        const char* text = nullptr;
+        std::size_t length = 0;
+        if (find(reader, text, length, form))
+        {
+            value.assign(text, length);
+            return true;
+        }
+        std::vector<DtU8> narrow;
         if (!DtDecodeArray(reader, narrow, layout(form), unitForm(form)))
             return false;
         if (layout(form).kind == DtFixedArray)
             while (!narrow.empty() && narrow.back() == 0)
-                narrow.pop_back(); // what a shorter text was filled with
+                narrow.pop_back();
         value = std::string(narrow.begin(), narrow.end());
+        return true;
+    }
+    // Passes over a text whose characters are single octets and tells where they lie; false, with the reader as it was,
+    // for any other text.
+    static bool find(DtWireReader& reader, const char*& text, std::size_t& length, const DtWireForm& form)
+    {
+        const DtU8* octets = nullptr;
+        if (form.octets > 1 || DtIsWideString(form) || !DtDecodeOctets(reader, octets, length, layout(form)))
+            return false;
+        while (layout(form).kind == DtFixedArray && length != 0 && octets[length - 1] == 0)
+            --length; // what a shorter text was filled with
+        text = reinterpret_cast<const char*>(octets);
         return true;
     }
     static unsigned int boundary(const DtWireForm& form, const DtWireTrail*)

@@ -21,7 +21,7 @@ struct DtWireTrail
     }
 };
 
-inline unsigned int DtLargerBoundary(unsigned int a, unsigned int b)
+QX_IN_PLACE unsigned int DtLargerBoundary(unsigned int a, unsigned int b)
 {
     return a < b ? b : a;
 }
@@ -32,6 +32,7 @@ struct DtWireTraits
 {
     static void encode(DtWireWriter& writer, const Type& value, const DtWireForm&) { value.encode(writer); }
     static bool decode(DtWireReader& reader, Type& value, const DtWireForm&) { return value.decode(reader); }
+    static bool decodeInto(DtWireReader& reader, Type& value, const DtWireForm&) { return into(reader, value, 0); }
     static unsigned int boundary(const DtWireForm&, const DtWireTrail* trail)
     {
         if (trail)
@@ -41,6 +42,16 @@ struct DtWireTraits
     }
 
 private:
+    template <class Class>
+    static auto into(DtWireReader& reader, Class& value, int) -> decltype(value.decodeInto(reader))
+    {
+        return value.decodeInto(reader);
+    }
+    template <class Class>
+    static bool into(DtWireReader& reader, Class& value, long)
+    {
+        return value.decode(reader);
+    }
     template <class Class>
     static auto own(const DtWireTrail* trail, int) -> decltype(Class::octetBoundary(trail))
     {
@@ -54,7 +65,7 @@ private:
 };
 
 template <class Type>
-unsigned int DtBoundaryOfType(const DtWireForm& form, const DtWireTrail* trail = nullptr)
+QX_IN_PLACE unsigned int DtBoundaryOfType(const DtWireForm& form, const DtWireTrail* trail = nullptr)
 {
     return DtLargerBoundary(1, DtWireTraits<Type>::boundary(form, trail));
 }
@@ -66,7 +77,7 @@ unsigned int DtBoundaryOf(const Type&, const DtWireForm& form)
 }
 
 template <class Type>
-void DtEncodeValue(DtWireWriter& writer, const Type& value, const DtWireForm& form)
+QX_IN_PLACE void DtEncodeValue(DtWireWriter& writer, const Type& value, const DtWireForm& form)
 {
     if (form.isMisfit())
         return writer.refuse("the model's datatype does not fit into the type of the toolkit");
@@ -75,13 +86,36 @@ void DtEncodeValue(DtWireWriter& writer, const Type& value, const DtWireForm& fo
 }
 
 template <class Type>
-bool DtDecodeValue(DtWireReader& reader, Type& value, const DtWireForm& form)
+QX_IN_PLACE bool DtDecodeValue(DtWireReader& reader, Type& value, const DtWireForm& form)
 {
     if (reader.isClosed())
         return reader.fail("something follows an array without length");
     if (form.isMisfit())
         return reader.fail("the model's datatype does not fit into the type of the toolkit");
     return reader.pad(DtBoundaryOfType<Type>(form)) && DtWireTraits<Type>::decode(reader, value, form);
+}
+
+// The same for a part of a value that its owner throws away as a whole on failure: what was read ahead of the failure
+// may stay in the part, so nothing has to be copied for its sake.
+template <class Type>
+QX_IN_PLACE auto DtDecodeWithTraits(DtWireReader& reader, Type& value, const DtWireForm& form, int)
+    -> decltype(DtWireTraits<Type>::decodeInto(reader, value, form))
+{
+    return DtWireTraits<Type>::decodeInto(reader, value, form);
+}
+template <class Type>
+QX_IN_PLACE bool DtDecodeWithTraits(DtWireReader& reader, Type& value, const DtWireForm& form, long)
+{
+    return DtWireTraits<Type>::decode(reader, value, form);
+}
+template <class Type>
+QX_IN_PLACE bool DtDecodePart(DtWireReader& reader, Type& value, const DtWireForm& form)
+{
+    if (reader.isClosed())
+        return reader.fail("something follows an array without length");
+    if (form.isMisfit())
+        return reader.fail("the model's datatype does not fit into the type of the toolkit");
+    return reader.pad(DtBoundaryOfType<Type>(form)) && DtDecodeWithTraits(reader, value, form, 0);
 }
 
 // Octets of a value that starts at an offset of 0; 0 when it cannot be encoded.
@@ -94,12 +128,16 @@ unsigned int DtNetSizeOf(const Class& value)
 }
 
 // Boundary of a number: the smallest power of two that is not below its length.
-inline unsigned int DtNumberBoundary(unsigned int octets)
+QX_IN_PLACE unsigned int DtNumberBoundary(unsigned int octets)
 {
-    unsigned int boundary = 1;
-    while (boundary < octets && boundary < 128)
-        boundary *= 2;
-    return boundary;
+    return octets <= 1    ? 1
+           : octets <= 2  ? 2
+           : octets <= 4  ? 4
+           : octets <= 8  ? 8
+           : octets <= 16 ? 16
+           : octets <= 32 ? 32
+           : octets <= 64 ? 64
+                          : 128;
 }
 
 #endif

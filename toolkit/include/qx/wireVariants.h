@@ -96,11 +96,11 @@ bool DtDecodeAlternative(DtWireReader& reader, Value& value, const DtWireForm& f
                          unsigned int boundary)
 {
     if (kind == DtPlainVariant)
-        return reader.pad(boundary) && DtDecodeValue(reader, value, form);
+        return reader.pad(boundary) && DtDecodePart(reader, value, form);
     DtWireReader part(nullptr, 0);
     if (!DtSplitAlternative(reader, part, kind))
         return false;
-    if (!DtDecodeValue(part, value, form))
+    if (!DtDecodePart(part, value, form))
         return reader.fail(part.reason());
     return part.atEnd() || reader.fail("the alternative has another length");
 }

@@ -29,9 +29,10 @@ public:
     DtScriptRun& operator=(const DtScriptRun&) = delete;
 };
 
-DtGenerationOptions optionsOf(const DtPreferencesDialog& preferences)
+// What has no place in the preferences is as in the configuration.
+DtGenerationOptions optionsOf(const DtPreferencesDialog& preferences, const DtCodeGenInitializer& configuration)
 {
-    DtGenerationOptions options;
+    DtGenerationOptions options = DtGenerationOptions::of(configuration);
     options.namespaceName = preferences.namespaceName();
     options.includeName = preferences.includeName();
     options.prefixName = preferences.prefixName();
@@ -90,5 +91,5 @@ void DtCodeGenAppGui::generateFile(const DtString& script)
 
 DtGenerationRun DtCodeGenAppGui::generationRun()
 {
-    return DtGenerationRun(*myTree, myProject.get(), myFileName, optionsOf(*myPreferences));
+    return DtGenerationRun(*myTree, myProject.get(), myFileName, optionsOf(*myPreferences, myInitializer));
 }

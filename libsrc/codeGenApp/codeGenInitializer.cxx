@@ -64,6 +64,7 @@ void DtCodeGenInitializer::readSettings()
     myMapRtiObjIdToGlobalId = readFlag("mapRtiObjectIdToGlobalId");
     myMapRtiObjIdToGlobalId = readFlag("encodeSizeInStrings"); // the last read counts
     myIncludeStandardMIM = readFlag("includeStandardMIM");
+    myAllDatatypes = readOptionalFlag("allDatatypes");
 }
 
 void DtCodeGenInitializer::applySettings()
@@ -74,6 +75,12 @@ void DtCodeGenInitializer::applySettings()
 bool DtCodeGenInitializer::readFlag(const DtString& name) const
 {
     return getVariableValue(name) == "true";
+}
+
+bool DtCodeGenInitializer::readOptionalFlag(const DtString& name) const
+{
+    bool isFound = false;
+    return storedValue(name, isFound) == "true";
 }
 
 void DtCodeGenInitializer::readNotifyLevel() const
@@ -288,12 +295,18 @@ void DtCodeGenInitializer::saveScripts()
     }
 }
 
+DtString DtCodeGenInitializer::storedValue(const DtString& name, bool& found) const
+{
+    DtString value = getVariableValue(myUser, name, found);
+    if (!found)
+        value = getVariableValue(myDefaults, name, found);
+    return value;
+}
+
 DtString DtCodeGenInitializer::getVariableValue(const DtString& name) const
 {
     bool isFound = false;
-    DtString value = getVariableValue(myUser, name, isFound);
-    if (!isFound)
-        value = getVariableValue(myDefaults, name, isFound);
+    DtString value = storedValue(name, isFound);
     if (!isFound)
         DtTellWarning(DtRules::missingSetting, DtSubject::setting(name),
                       "Initializer: no var found with name: " + name + "\n");

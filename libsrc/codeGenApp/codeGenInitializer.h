@@ -57,6 +57,8 @@ public:
     virtual bool mapRtiObjIdToGlobalId() const;
     virtual void setIncludeStandardMIM(bool on); // sets the field only: the store does not change
     virtual bool includeStandardMIM() const;
+    // Nobody warns when the keys below are missing.
+    bool allDatatypes() const { return myAllDatatypes; }
     // Scripts by file name, with whether they take part in a generation.
     virtual void setScriptMap(const std::map<DtString, bool>& scripts);
     virtual const std::map<DtString, bool>& scriptMap() const;
@@ -78,6 +80,9 @@ private:
     void readSettings();
     void readNotifyLevel() const;
     bool readFlag(const DtString& name) const;
+    // The value in `user`, else in `defaults`.
+    DtString storedValue(const DtString& name, bool& found) const;
+    bool readOptionalFlag(const DtString& name) const; // false without a warning when it is missing
     void parseScripts(const DtEnvironment& list);
     // Gives the setting its value; without a node for it a new setting is made at the end of the list.
     static bool storeValue(std::shared_ptr<DtEnvValue> node, const DtString& name, const DtString& value,
@@ -101,6 +106,7 @@ private:
     bool myDumpParseTree = false;
     bool myMapRtiObjIdToGlobalId = true;
     bool myIncludeStandardMIM = true;
+    bool myAllDatatypes = false;
     std::map<DtString, bool> myScriptMap;
     bool myIsSaved = true;
 };

@@ -26,6 +26,7 @@ DtGenerationOptions DtGenerationOptions::of(const DtCodeGenInitializer& initiali
     options.generateDis = initializer.generateDis();
     options.dumpParseTree = initializer.dumpParseTree();
     options.mapRtiObjectIdToGlobalId = initializer.mapRtiObjIdToGlobalId();
+    options.allDatatypes = initializer.allDatatypes();
     options.firstPduKind = initializer.firstPduKind();
     return options;
 }
@@ -76,6 +77,7 @@ void DtGenerationRun::setUpWriters()
     mapper.setMapRtiObjectIdToGlobalId(myOptions.mapRtiObjectIdToGlobalId);
     DtFileWriter::setHlaVersion(myTree.hlaVersion());
     DtFileWriter::setGenerate64Bit(myOptions.generate64Bit);
+    DtFileWriter::setAllDatatypes(myOptions.allDatatypes);
 }
 
 // Names, version and project come ahead of the selection, which asks for them.

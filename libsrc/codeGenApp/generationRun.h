@@ -19,6 +19,7 @@ struct DtGenerationOptions
     bool generateDis = false;
     bool dumpParseTree = false;
     bool mapRtiObjectIdToGlobalId = true;
+    bool allDatatypes = false; // those that no selected class uses too
     int firstPduKind = 0;
 
     static DtGenerationOptions of(const DtCodeGenInitializer& initializer);

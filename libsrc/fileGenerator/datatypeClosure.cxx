@@ -2,6 +2,7 @@
 
 #include "fileGenerator/cCompatibleName.h"
 #include "fileGenerator/dataTypeMapper.h"
+#include "fileGenerator/settings.h"
 #include "foundation/exception.h"
 #include "foundation/warningRules.h"
 #include "omtReader/visitDatatype.h"
@@ -67,6 +68,17 @@ void insertDatatypes(const Members& members, std::set<DtString>& datatypes)
     }
 }
 
+// One without a name cannot be used by anything.
+template <typename Nodes>
+void insertNames(const Nodes& nodes, std::set<DtString>& names)
+{
+    for (const auto* node : nodes)
+    {
+        if (!node->getName().isEmpty())
+            names.insert(node->getName());
+    }
+}
+
 // Neither an optional component nor one that depends on another, nor a single value.
 bool hasArray(const DtComplexComponentNode& component)
 {
@@ -90,6 +102,8 @@ void DtDatatypeClosure::insertAllArrays()
 void DtDatatypeClosure::complete(const std::set<DtOmtObject>& objects, const std::set<DtOmtInteraction>& interactions)
 {
     insertMemberDatatypes(objects, interactions);
+    if (DtSettings::instance().files.takesAllDatatypes)
+        insertAllDatatypes();
     std::vector<DtString> open(myUsed.begin(), myUsed.end());
     while (!open.empty())
     {
@@ -101,6 +115,18 @@ void DtDatatypeClosure::complete(const std::set<DtOmtObject>& objects, const std
                 open.push_back(datatype);
         }
     }
+}
+
+void DtDatatypeClosure::insertAllDatatypes()
+{
+    static_assert(theFamilyCount == 7, "The names of a new family of datatypes belong here too");
+    insertNames(myTree->basicDataRepresentations(), myUsed);
+    insertNames(myTree->simpleDatatypes(), myUsed);
+    insertNames(myTree->enumeratedDatatypes(), myUsed);
+    insertNames(myTree->arrayDatatypes(), myUsed);
+    insertNames(myTree->fixedDatatypes(), myUsed);
+    insertNames(myTree->complexDatatypes(), myUsed);
+    insertNames(myTree->variantDatatypes(), myUsed);
 }
 
 void DtDatatypeClosure::insertMemberDatatypes(const std::set<DtOmtObject>& objects,

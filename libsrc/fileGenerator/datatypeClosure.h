@@ -38,7 +38,7 @@ public:
     // Inserts every array of the tree, as models of HLA 1.3 need them.
     void insertAllArrays();
     // Inserts the datatypes that the members of these classes and the datatypes of the set need, directly or through
-    // others.
+    // others; with takesAllDatatypes of the settings, all that the tree has.
     void complete(const std::set<DtOmtObject>& objects, const std::set<DtOmtInteraction>& interactions);
 
     // Make up the arrays of the classes' members and map the members' names to them. Nothing without a tree.
@@ -54,6 +54,7 @@ public:
     static DtString arrayNameOf(const DtComplexComponentNode& component, DtCCompatibleNames& names);
 
 private:
+    void insertAllDatatypes();
     void insertMemberDatatypes(const std::set<DtOmtObject>& objects, const std::set<DtOmtInteraction>& interactions);
     std::vector<DtString> subDatatypes(const DtString& name) const;
     void mapToArray(const DtDatatypeFedNode& member, const DtSubject& owner);

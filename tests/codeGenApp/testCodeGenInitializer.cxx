@@ -22,6 +22,7 @@ private Q_SLOTS:
     void unreadableFileLeavesEveryFieldAsItWas_data();
     void unreadableFileLeavesEveryFieldAsItWas();
     void everyKeyIsRead();
+    void allDatatypesIsOffWithoutAWarningWhenItIsMissing();
     void userValueWinsOverDefault();
     void varWithoutAValueCountsAsNotFound();
     void missingKeyIsNamedAndGivesFalse();
@@ -191,7 +192,7 @@ void TestCodeGenInitializer::everyKeyIsRead()
                        var("prefixName", "Qx") + var("firstPduKind", "129") + var("generateExamples", "true") +
                        var("generate64Bit", "true") + var("useErrorForNonDecodableAttrs", "true") +
                        var("dumpParseTree", "true") + var("generateDIS", "true") + var("encodeSizeInStrings", "true") +
-                       var("includeStandardMIM", "true")));
+                       var("includeStandardMIM", "true") + var("allDatatypes", "true")));
     DtCodeGenInitializer initializer;
     QCOMPARE(parse(initializer), QString());
     COMPARE_TEXT(initializer.logFileName(), "a.log");
@@ -206,6 +207,22 @@ void TestCodeGenInitializer::everyKeyIsRead()
     QVERIFY(initializer.generateDis());
     QVERIFY(initializer.mapRtiObjIdToGlobalId());
     QVERIFY(initializer.includeStandardMIM());
+    QVERIFY(initializer.allDatatypes());
+}
+
+// A file from before it came has no such key, and a user cannot do anything about that.
+void TestCodeGenInitializer::allDatatypesIsOffWithoutAWarningWhenItIsMissing()
+{
+    write(defaultsWith(""));
+    DtCodeGenInitializer initializer;
+    QCOMPARE(parse(initializer), QString());
+    QVERIFY(!initializer.allDatatypes());
+    write(defaultsWith(var("allDatatypes", "true")) + "<user>" + var("allDatatypes", "false") + "</user>");
+    QCOMPARE(parse(initializer), QString());
+    QVERIFY(!initializer.allDatatypes());
+    initializer.setVariableValue("allDatatypes", "true");
+    initializer.applySettings();
+    QVERIFY(initializer.allDatatypes());
 }
 
 void TestCodeGenInitializer::userValueWinsOverDefault()
@@ -760,6 +777,7 @@ void TestCodeGenInitializer::shippedConfigurationHoldsEveryKey()
     COMPARE_TEXT(initializer.getVariableValue("mapRtiObjectIdToGlobalId"), "true");
     QVERIFY(!initializer.generateDis());
     QVERIFY(!initializer.generateErrors());
+    COMPARE_TEXT(initializer.getVariableValue("allDatatypes"), "false");
     QVERIFY(initializer.logFileName().isEmpty());
     QCOMPARE(DtNotifyLevel, 2);
     QVERIFY((initializer.scriptMap() ==

@@ -23,6 +23,7 @@ private Q_SLOTS:
     void unknownClassAddsNothing();
     void cyclesOfDatatypesAreClosed();
     void closureKeepsWhatIsThere();
+    void allDatatypesAreUsedOnRequest();
     void cardinalityOneMakesNoArray();
     void fixedCardinalityMakesFixedArray();
     void openCardinalityMakesVariableArray();
@@ -244,6 +245,26 @@ void TestArraySynthesis::closureKeepsWhatIsThere()
     writer.createArrayTypeFromItemInfo("item", "3", 0, "Foo");
     writer.checkUsedSubDatatypesFiles();
     QCOMPARE(listed(writer.usedDatatypes()), QStringList({"Foo", "FooFixedArray3"}));
+}
+
+void TestArraySynthesis::allDatatypesAreUsedOnRequest()
+{
+    myModel->addBasic("Basic", "8");
+    myModel->addSimple("Simple", "Elsewhere");
+    myModel->addEnumeration("Enum", "Basic", {});
+    myModel->addArray("Array", "Simple");
+    myModel->addFixed("Fixed", {});
+    myModel->addFixed("", {});
+    myModel->addComplex("Complex");
+    myModel->addVariant("Variant", "kind", "Enum", {});
+    DtOMTEnvWriter writer;
+    selectObjects(writer, {});
+    writer.checkUsedSubDatatypesFiles();
+    QVERIFY(writer.usedDatatypes().empty());
+    DtFileWriter::setAllDatatypes(true);
+    writer.checkUsedSubDatatypesFiles();
+    QCOMPARE(listed(writer.usedDatatypes()),
+             QStringList({"Array", "Basic", "Complex", "Elsewhere", "Enum", "Fixed", "Simple", "Variant"}));
 }
 
 void TestArraySynthesis::cardinalityOneMakesNoArray()

@@ -57,6 +57,7 @@ private Q_SLOTS:
 
     void modelNamesAreNoted();
     void usedDatatypesAreThoseOfTheSelection();
+    void allDatatypesReachTheContextOnRequest();
     void oldModelsUseAllArrays();
     void oldMembersGetTheirArrays();
     void componentsGetTheirArrays();
@@ -571,6 +572,14 @@ void TestOmtWriter::usedDatatypesAreThoseOfTheSelection()
     myWriter->setObjectsToGenerate(selectionOf<DtOmtObject>({"HLAobjectRoot.Buoy"}));
     run("beginTypes\nendTypes\n");
     QVERIFY(myWriter->usedDatatypes().empty());
+}
+
+void TestOmtWriter::allDatatypesReachTheContextOnRequest()
+{
+    DtFileWriter::setAllDatatypes(true);
+    run("endTypes\n");
+    QCOMPARE(myWriter->usedDatatypes().count("Unused"), std::size_t(1));
+    QCOMPARE(keysOf(mapAt(myWriter->context(), "Arrays")), QString("Unused"));
 }
 
 void TestOmtWriter::oldModelsUseAllArrays()

@@ -17,18 +17,20 @@ struct DtChosenSettings
     bool examples;
     bool bits64;
     bool errors;
+    bool allDatatypes;
 };
 
 const DtChosenSettings theSettings[] = {
-    {"none",              "",   "",     "",        false, false, true,  false},
-    {"prefix",            "Qx", "",     "",        false, false, true,  false},
-    {"namespace",         "",   "port", "",        false, false, true,  false},
-    {"include directory", "",   "",     "harbour", false, false, true,  false},
-    {"DIS",               "",   "",     "",        true,  false, true,  false},
-    {"examples",          "",   "",     "",        false, true,  true,  false},
-    {"32 bits",           "",   "",     "",        false, false, false, false},
-    {"errors",            "",   "",     "",        false, false, true,  true },
-    {"all",               "Qx", "port", "harbour", true,  true,  false, true },
+    {"none",              "",   "",     "",        false, false, true,  false, false},
+    {"prefix",            "Qx", "",     "",        false, false, true,  false, false},
+    {"namespace",         "",   "port", "",        false, false, true,  false, false},
+    {"include directory", "",   "",     "harbour", false, false, true,  false, false},
+    {"DIS",               "",   "",     "",        true,  false, true,  false, false},
+    {"examples",          "",   "",     "",        false, true,  true,  false, false},
+    {"32 bits",           "",   "",     "",        false, false, false, false, false},
+    {"errors",            "",   "",     "",        false, false, true,  true,  false},
+    {"all datatypes",     "",   "",     "",        false, false, true,  false, true },
+    {"all",               "Qx", "port", "harbour", true,  true,  false, true,  false},
 };
 
 void generate(DtScratchProgram& program, const DtChosenSettings& settings)
@@ -36,6 +38,8 @@ void generate(DtScratchProgram& program, const DtChosenSettings& settings)
     const auto window = program.makeWindow(
         [&settings](DtCodeGenInitializer& initializer)
         {
+            initializer.setVariableValue("allDatatypes", settings.allDatatypes ? "true" : "false");
+            initializer.applySettings(); // ahead of the others, some of which are not stored
             initializer.setPrefixName(settings.prefix);
             initializer.setNamespaceName(settings.space);
             initializer.setIncludeName(settings.includeDirectory);
@@ -126,6 +130,8 @@ private Q_SLOTS:
         const QString output = program.path("out");
         QCOMPARE(filesBelow(output).filter("Examples").isEmpty(), !settings.examples);
         QCOMPARE(filesBelow(output).filter("vesselPublisherDIS.cxx").size(), settings.dis ? 1 : 0);
+        // Of the management model, whose classes are not selected.
+        QCOMPARE(filesBelow(output).filter("HLAsynchPointList.cxx").size(), settings.allDatatypes ? 1 : 0);
         for (const bool isDis : {false, true})
         {
             if (isDis && !settings.dis)

@@ -61,24 +61,34 @@ DtNumberForm guessedForm(const DtEnumeration& enumeration)
     DtNumberForm form;
     form.octets = static_cast<int>((bits + 7) / 8);
     for (const DtEnumerationValue& value : enumeration.vals())
-        form.isSigned = form.isSigned || value.val().startsWith("-");
+        form.isSigned = form.isSigned || value.number().startsWith("-");
     return form;
 }
 
 bool fits(const DtString& text, const DtNumberForm& form)
 {
-    const int number = text.toInt();
-    if (form.octets >= 5)
-        return form.isSigned || number >= 0;
-    const long long limit = 1LL << (8 * form.octets - (form.isSigned ? 1 : 0));
-    return number < limit && number >= (form.isSigned ? -limit : 0);
+    const int bits = 8 * form.octets - (form.isSigned ? 1 : 0);
+    if (text.startsWith("-"))
+        return form.isSigned && (bits >= 63 || std::strtoll(text.c_str(), nullptr, 10) >= -(1LL << bits));
+    return bits >= 64 || std::strtoull(text.c_str(), nullptr, 10) >> bits == 0;
+}
+
+// As an expression of C++, of type DtInt64. What only a number without a sign holds stands for the same 64 bits.
+DtString numberExpression(const DtString& number)
+{
+    static const DtString theGreatest("9223372036854775807");
+    if (number == DtString("-9223372036854775808"))
+        return "-9223372036854775807 - 1";
+    const bool isGreater =
+        number.length() > theGreatest.length() || (number.length() == theGreatest.length() && theGreatest < number);
+    return number.startsWith("-") || !isGreater ? number : "static_cast<DtInt64>(" + number + "u)";
 }
 
 void warnOfUnfit(const DtEnumeration& enumeration, const DtNumberForm& form)
 {
     for (const DtEnumerationValue& value : enumeration.vals())
     {
-        if (!fits(value.val(), form))
+        if (!fits(value.number(), form))
             DtTellWarning(DtRules::unfitEnumerator, DtSubject::enumerator(value.name(), enumeration.name()),
                           "Warning: Enumerator " + value.name() + " of " + enumeration.name() +
                               " does not fit into its representation.\n");
@@ -119,6 +129,8 @@ struct DtEnumerationFileWriter::DtTokens
             {"<!EnumerationFieldIdentifier!>", [](const Writer& w) { return w.currentIdentifier(); }                },
             {"<!EnumerationFieldText!>",       [](const Writer& w) { return literalText(w.myCurrentValue->name()); }},
             {"<!EnumerationFieldValue!>",      [](const Writer& w) { return w.myCurrentValue->val(); }              },
+            {"<!EnumerationFieldNumber!>",
+             [](const Writer& w) { return numberExpression(w.myCurrentValue->number()); }                           },
         };
         static const DtTokenTable<Writer> theTable(theRows,
                                                    [](const Writer& w) { return w.myCurrentValue != nullptr; });

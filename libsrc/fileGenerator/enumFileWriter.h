@@ -11,13 +11,20 @@
 class DtEnumerationValue
 {
 public:
-    DtEnumerationValue(const DtString& name, const DtString& val) : myName(name), myVal(val) {}
+    DtEnumerationValue(const DtString& name, const DtString& val) : DtEnumerationValue(name, val, val) {}
+    // number: where the model states more than val, which has 32 bits, holds.
+    DtEnumerationValue(const DtString& name, const DtString& val, const DtString& number)
+        : myName(name), myVal(val), myNumber(number)
+    {
+    }
     const DtString& name() const { return myName; }
     const DtString& val() const { return myVal; }
+    const DtString& number() const { return myNumber; }
 
 private:
     DtString myName;
     DtString myVal;
+    DtString myNumber;
 };
 
 // One enumeration on its way into the enumerations header.

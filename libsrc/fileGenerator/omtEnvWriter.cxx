@@ -258,7 +258,7 @@ void DtOMTEnvWriter::addEnumeration(DtEnumeratedDatatypeNode& node, DtEnumeratio
 {
     std::vector<DtEnumerationValue> values;
     for (const DtEnumerationNode* value : node.enumerators())
-        values.emplace_back(value->getEnum(), DtString(value->getNumber()));
+        values.emplace_back(value->getEnum(), DtString(value->getNumber()), value->numberText());
     const DtString& name = node.getName();
     DtEnumeration enumeration(name, values);
 

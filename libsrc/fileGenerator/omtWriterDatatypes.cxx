@@ -87,8 +87,9 @@ const DtContextRow<Enumerated> theEnumerationRows[] = {
 };
 
 const DtContextRow<DtEnumerationNode> theEnumeratorRows[] = {
-    {"EnumeratorName",  got<&DtEnumerationNode::getEnum>,   Name },
-    {"EnumeratorValue", got<&DtEnumerationNode::getNumber>, Plain},
+    {"EnumeratorName",   got<&DtEnumerationNode::getEnum>,    Name },
+    {"EnumeratorValue",  got<&DtEnumerationNode::getNumber>,  Plain},
+    {"EnumeratorNumber", got<&DtEnumerationNode::numberText>, Plain},
 };
 
 // The elements of a variable array follow a number of four octets, and behind that those that are aligned to more.

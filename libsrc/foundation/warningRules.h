@@ -18,6 +18,8 @@ inline constexpr DtWarningRule commandFileTooDeep = {
     "command-file-too-deep", "A command file is included too deep, most likely by itself, and is left out there."};
 inline constexpr DtWarningRule duplicateEnumerator = {
     "duplicate-enumerator", "An enumerator has the name or number of one before it and is left out."};
+inline constexpr DtWarningRule enumeratorValue = {
+    "enumerator-value", "The value of an enumerator is no number, or one beyond 32 bits with a sign."};
 inline constexpr DtWarningRule fileEndsEarly = {"file-ends-early", "A model file ends within a list or a string."};
 inline constexpr DtWarningRule incompleteCommand = {"incomplete-command",
                                                     "A line of a command file lacks arguments of its command."};

@@ -153,8 +153,8 @@ void addDetails(const DtEnumeratedDatatypeNode& node, Json& object)
     Json& enumerators = object["enumerators"] = Json::array();
     for (auto each = node.getEnumerationNodeList(); each != node.getEnumerationNodeEnd(); ++each)
         enumerators.push_back({
-            {"name",  (*each)->getEnum().stdString()},
-            {"value", (*each)->getNumber()          }
+            {"name",  (*each)->getEnum().stdString()            },
+            {"value", Json::parse((*each)->numberText().c_str())}
         });
 }
 

@@ -94,7 +94,7 @@ DtTemplateRules enumRules()
                       "<!EnumerationOctets!>", "<!EnumerationIsSigned!>", "<!EnumerationIsLittleEndian!>"}},
                     {"EnumerationField",
                      {"<!EnumerationFieldName!>", "<!EnumerationFieldIdentifier!>", "<!EnumerationFieldText!>",
-                      "<!EnumerationFieldValue!>"}                                                        }
+                      "<!EnumerationFieldValue!>", "<!EnumerationFieldNumber!>"}                          }
     });
     rules.parents = {
         {"EnumerationField", "Enumeration"}

@@ -3,7 +3,8 @@
 
 #include "foundation/string.h"
 
-// One enumerator: a name and its number.
+// One enumerator: a name and its number. The value that a model states may be longer than the number, or none at all,
+// so it is kept beside it.
 class DtEnumerationNode
 {
 public:
@@ -17,9 +18,18 @@ public:
     virtual void setNumber(int number) { myNumber = number; }
     virtual int getNumber() const { return myNumber; }
 
+    // As the model states it; empty where it states none.
+    void setValueText(const DtString& text) { myValueText = text; }
+    const DtString& valueText() const { return myValueText; }
+    // In decimal digits: the value where it is an integer of 64 bits, with or without a sign, and the number otherwise.
+    DtString numberText() const;
+    // False when a value is stated that the number does not hold.
+    bool isNumberTheValue() const;
+
 private:
     DtString myEnum;
     int myNumber = 0;
+    DtString myValueText;
 };
 
 #endif

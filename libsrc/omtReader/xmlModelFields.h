@@ -12,6 +12,11 @@ struct DtXmlModelFields : DtXmlModelNames
     {
         node.setNumber(DtXmlToNumber(text));
     }
+    static void setValue(DtEnumerationNode& node, const DtString& text)
+    {
+        setNumber(node, text);
+        node.setValueText(text);
+    }
     template <DtString DtOMTTreePOC::*theText>
     static void setPoc(DtOMTTreePOC& poc, const DtString& text)
     {
@@ -107,9 +112,9 @@ struct DtXmlModelFields : DtXmlModelNames
 
     // A file may have "value" and "values"; the one that comes later in it stays.
     static constexpr DtXmlField<DtEnumerationNode> theEnumeratorFields[] = {
-        {attrName,   &DtEnumerationNode::setEnum, DtXmlBothForms, nullptr                     },
-        {attrValue,  nullptr,                     DtXmlBothForms, setNumber<DtEnumerationNode>},
-        {attrValues, nullptr,                     DtXml1516Form,  setNumber<DtEnumerationNode>},
+        {attrName,   &DtEnumerationNode::setEnum, DtXmlBothForms, nullptr },
+        {attrValue,  nullptr,                     DtXmlBothForms, setValue},
+        {attrValues, nullptr,                     DtXml1516Form,  setValue},
     };
 
     static constexpr DtXmlField<DtArrayDatatypeNode> theArrayFields[] = {

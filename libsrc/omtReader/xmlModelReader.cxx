@@ -180,15 +180,34 @@ void DtXMLModelReader::processEnumeratedData(xmlNode*& node, DtOMTTree* tree)
     auto datatype = readNamedItem(node, Fields::theEnumeratedFields, tagEnumeratedData);
     if (datatype == nullptr)
         return;
+    myOddEnumerators.clear();
     processEach(node, tagEnumerator, &Reader::processEnumerator, datatype.get());
+    warnOfOddEnumerators(*datatype);
     tree->addEnumeratedDatatypeNode(datatype.release());
 }
 
 void DtXMLModelReader::processEnumerator(xmlNode*& node, DtEnumeratedDatatypeNode* datatype)
 {
     auto enumerator = readNamedItem(node, Fields::theEnumeratorFields, tagEnumerator);
-    if (enumerator != nullptr && datatype->addEnumerationNode(enumerator.get()))
+    if (enumerator == nullptr)
+        return;
+    const bool isTaken = datatype->addEnumerationNode(enumerator.get());
+    if (!enumerator->isNumberTheValue())
+        myOddEnumerators.push_back(enumerator->getEnum() + (isTaken ? "" : " (left out)"));
+    if (isTaken)
         static_cast<void>(enumerator.release()); // the datatype owns it now
+}
+
+// The numbers of such values clash more often than not, and then all but the first enumerator are left out.
+void DtXMLModelReader::warnOfOddEnumerators(const DtEnumeratedDatatypeNode& datatype) const
+{
+    DtString names;
+    for (const DtString& name : myOddEnumerators)
+        names += (names.isEmpty() ? "" : ", ") + name;
+    if (!names.isEmpty())
+        DtTellWarning(DtRules::enumeratorValue, DtSubject::datatype(datatype.getName()),
+                      "Warning: Enumeration " + datatype.getName() +
+                          " has values that are no numbers from -2147483648 to 2147483647: " + names + "\n");
 }
 
 void DtXMLModelReader::processArrayDatatypes(xmlNode*& node, DtOMTTree* tree)

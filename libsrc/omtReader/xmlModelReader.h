@@ -168,6 +168,8 @@ private:
     template <typename Node, std::size_t theCount>
     void setFields(const Values& values, const DtXmlField<Node> (&fields)[theCount], Node& target) const;
 
+    void warnOfOddEnumerators(const DtEnumeratedDatatypeNode& datatype) const;
+
     static const DtString& nameOf(const DtOMTNode& node) { return node.getName(); }
     static const DtString& nameOf(const DtEnumerationNode& node) { return node.getEnum(); }
     static bool hasName(const Values& values);
@@ -175,6 +177,7 @@ private:
 
     Format myFormat;
     DtString myLastError;
+    std::vector<DtString> myOddEnumerators; // of the current enumeration: those whose value the number does not hold
     [[maybe_unused]] DtExerciseConn* myConnection; // passed on by callers; never looked into
 };
 

@@ -276,24 +276,24 @@ void TestContextModel::keysAreThese_data()
         const char* name;
         QString list, keys;
     } theRows[] = {
-        {"root",                   "",                      theRootKeys                         },
-        {"representations",        "Representations",       theRepresentationsKeys              },
-        {"simple",                 "SimpleDatatypes",       theSimpleDatatypesKeys              },
-        {"complex",                "ComplexDatatypes",      theComplexDatatypesKeys             },
-        {"components",             "Components",            theComponentsKeys                   },
-        {"enumerations",           "Enumerations",          theEnumerationsKeys                 },
-        {"enumerators",            "Enumerators",           "EnumeratorName(Id) EnumeratorValue"},
-        {"arrays",                 "Arrays",                theArraysKeys                       },
-        {"fixed",                  "FixedRecords",          theFixedRecordsKeys                 },
-        {"fields",                 "Fields",                theFieldsKeys                       },
-        {"variant",                "VariantRecords",        theVariantRecordsKeys               },
-        {"alternatives",           "Alternatives",          theAlternativesKeys                 },
-        {"objects",                "Objects",               theObjectsKeys                      },
-        {"attributes",             "Attributes",            theAttributesKeys                   },
-        {"attribute dimensions",   "AttributeDimensions",   "Dimension(t)"                      },
-        {"interactions",           "Interactions",          theInteractionsKeys                 },
-        {"parameters",             "Parameters",            theParametersKeys                   },
-        {"interaction dimensions", "InteractionDimensions", "Dimension(t)"                      },
+        {"root",                   "",                      theRootKeys                                          },
+        {"representations",        "Representations",       theRepresentationsKeys                               },
+        {"simple",                 "SimpleDatatypes",       theSimpleDatatypesKeys                               },
+        {"complex",                "ComplexDatatypes",      theComplexDatatypesKeys                              },
+        {"components",             "Components",            theComponentsKeys                                    },
+        {"enumerations",           "Enumerations",          theEnumerationsKeys                                  },
+        {"enumerators",            "Enumerators",           "EnumeratorName(Id) EnumeratorValue EnumeratorNumber"},
+        {"arrays",                 "Arrays",                theArraysKeys                                        },
+        {"fixed",                  "FixedRecords",          theFixedRecordsKeys                                  },
+        {"fields",                 "Fields",                theFieldsKeys                                        },
+        {"variant",                "VariantRecords",        theVariantRecordsKeys                                },
+        {"alternatives",           "Alternatives",          theAlternativesKeys                                  },
+        {"objects",                "Objects",               theObjectsKeys                                       },
+        {"attributes",             "Attributes",            theAttributesKeys                                    },
+        {"attribute dimensions",   "AttributeDimensions",   "Dimension(t)"                                       },
+        {"interactions",           "Interactions",          theInteractionsKeys                                  },
+        {"parameters",             "Parameters",            theParametersKeys                                    },
+        {"interaction dimensions", "InteractionDimensions", "Dimension(t)"                                       },
     };
     for (const auto& row : theRows)
         QTest::newRow(row.name) << row.list << row.keys + " UUID1 UUID2";
@@ -604,9 +604,9 @@ void TestContextModel::enumerationHasItsTypeOrAnother()
     QCOMPARE(valuesOf(at("Enumerations>Colour"), keys),
              QString("EnumerationName=Colour EnumerationDescription=Hue. EnumerationRepresentation=Int32 "
                      "EnumerationRepresentationId=Int32 EnumerationBoundary=4 EnumerationType=int NumEnumerators=2"));
-    QCOMPARE(
-        valuesOf(at("Enumerations>Colour>Enumerators>dark red"), "EnumeratorName EnumeratorNameId EnumeratorValue"),
-        QString("EnumeratorName=dark red EnumeratorNameId=dark__red EnumeratorValue=1"));
+    QCOMPARE(valuesOf(at("Enumerations>Colour>Enumerators>dark red"),
+                      "EnumeratorName EnumeratorNameId EnumeratorValue EnumeratorNumber"),
+             QString("EnumeratorName=dark red EnumeratorNameId=dark__red EnumeratorValue=1 EnumeratorNumber=1"));
     QCOMPARE(keysOf(at("Enumerations>Colour>Enumerators")), QString("dark red Blue"));
     QCOMPARE(keysOf(at("Enumerations>Colour")).count("EnumerationRepresentation "), 1);
 

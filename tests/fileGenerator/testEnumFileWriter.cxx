@@ -52,6 +52,7 @@ private Q_SLOTS:
     void numberThatDoesNotFitIsTold_data();
     void numberThatDoesNotFitIsTold();
     void loopsRunInOrder();
+    void numberIsAnExpressionOf64Bits();
     void fieldLoopNeedsAnEnumeration();
     void tokensStayOutsideTheirLoops();
     void otherLoopsCount();
@@ -314,6 +315,11 @@ void TestEnumFileWriter::numberThatDoesNotFitIsTold_data()
     QTest::newRow("largest in 4") << "2147483647" << 4 << true << false;
     QTest::newRow("-1 in 8 without a sign") << "-1" << 8 << false << true;
     QTest::newRow("-1 in 8 with a sign") << "-1" << 8 << true << false;
+    QTest::newRow("largest in 4 without a sign") << "4294967295" << 4 << false << false;
+    QTest::newRow("one more in 4 without a sign") << "4294967296" << 4 << false << true;
+    QTest::newRow("least in 8") << "-9223372036854775808" << 8 << true << false;
+    QTest::newRow("largest in 8 without a sign") << "18446744073709551615" << 8 << false << false;
+    QTest::newRow("largest in 8 with a sign") << "18446744073709551615" << 8 << true << true;
 }
 
 void TestEnumFileWriter::numberThatDoesNotFitIsTold()
@@ -352,6 +358,24 @@ void TestEnumFileWriter::loopsRunInOrder()
     QCOMPARE(writer.expand("<#Enumeration><!EnumerationName!>{<#EnumerationField><!EnumerationFieldName!>="
                            "<!EnumerationFieldValue!> of <!EnumerationName!>,<#>} <#>"),
              QString("DtZuluEnum8{b1=7 of DtZuluEnum8,a=-3 of DtZuluEnum8,} DtAlphaEnum8{} "));
+}
+
+void TestEnumFileWriter::numberIsAnExpressionOf64Bits()
+{
+    const RunSettings settings;
+    Probe writer("");
+    writer.addEnumeration(enumeration("EnumWEnum64", "64",
+                                      {
+                                          {"a",                    "-1", "4294967295"},
+                                          {"b",                      "-1",                        "9223372036854775807"},
+                                          {"c", "0","9223372036854775808"},
+                                          {"d",                   "0",                     "-9223372036854775808"},
+                                          {"e",                    "-5"  }
+    }));
+    QCOMPARE(writer.expand("<#Enumeration><#EnumerationField><!EnumerationFieldValue!>=<!EnumerationFieldNumber!>,"
+                           "<#><#>"),
+             QString("-1=4294967295,-1=9223372036854775807,0=static_cast<DtInt64>(9223372036854775808u),"
+                     "0=-9223372036854775807 - 1,-5=-5,"));
 }
 
 void TestEnumFileWriter::fieldLoopNeedsAnEnumeration()

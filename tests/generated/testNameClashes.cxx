@@ -84,6 +84,7 @@ private Q_SLOTS:
     void datatypeThatIsCalledLikeTheToolkitsIsTold();
     void membersThatAreCalledAlikeAreTold();
     void enumeratorBeyondItsRepresentationIsTold();
+    void enumeratorKeepsAllTheBitsOfItsValue();
     void hyphensAndSmallLettersNameTypes();
     void wordsOfTheLanguageAndEmptyClassesCompile();
     void discriminantThatSelectsNothingIsTold();
@@ -169,6 +170,23 @@ void TestNameClashes::enumeratorBeyondItsRepresentationIsTold()
     kind.replace("<value>1<", "<value>256<");
     const DtStagedOutput output(model(objectClass("Buoy", attribute("One", "Kind8")), "", enumerations(kind)));
     compareLines(output, {"Warning: Enumerator B of Kind8 does not fit into its representation."});
+}
+
+void TestNameClashes::enumeratorKeepsAllTheBitsOfItsValue()
+{
+    const QByteArray enumerators = "<enumerator><name>Wide</name><value>4294967294</value></enumerator>"
+                                   "<enumerator><name>Whole</name><value>18446744073709551614</value></enumerator>";
+    const DtStagedOutput output(model(objectClass("Buoy", attribute("One", "Mark")), "",
+                                      enumerations("<enumeratedData><name>Mark</name><representation>"
+                                                   "HLAinteger64BE</representation>" +
+                                                   enumerators + "</enumeratedData>")));
+    compareLines(output, {"Warning: Enumeration Mark has values that are no numbers from -2147483648 to 2147483647: "
+                          "Wide, Whole",
+                          "Warning: Enumerator Whole of Mark does not fit into its representation."});
+    const QString errors =
+        compileErrors(output, "static_assert(static_cast<DtInt64>(DtMark::eWide) == 4294967294, \"\");\n"
+                              "static_assert(static_cast<DtInt64>(DtMark::eWhole) == -2, \"\");\n");
+    QVERIFY2(errors.isEmpty(), qPrintable(errors));
 }
 
 void TestNameClashes::hyphensAndSmallLettersNameTypes()

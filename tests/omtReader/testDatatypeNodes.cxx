@@ -232,6 +232,50 @@ private Q_SLOTS:
         QCOMPARE(DtEnumeratedDatatypeNode().getExpectedEnumerationSize(), 4);
     }
 
+    void numberIsThatOfTheValueUpTo64Bits_data()
+    {
+        QTest::addColumn<QString>("value");
+        QTest::addColumn<QString>("number");
+        QTest::addColumn<bool>("isTheNumber");
+        QTest::newRow("none") << ""
+                              << "3" << true;
+        QTest::newRow("blanks") << " \t"
+                                << "3" << true;
+        QTest::newRow("the same") << "3"
+                                  << "3" << true;
+        QTest::newRow("the same, written longer") << "\n +0003 "
+                                                  << "3" << true;
+        QTest::newRow("another") << "4"
+                                 << "4" << false;
+        QTest::newRow("negative zero") << "-00"
+                                       << "0" << false;
+        QTest::newRow("beyond 32 bits") << "99999999999"
+                                        << "99999999999" << false;
+        QTest::newRow("least") << "-9223372036854775808"
+                               << "-9223372036854775808" << false;
+        QTest::newRow("below the least") << "-9223372036854775809"
+                                         << "3" << false;
+        QTest::newRow("greatest") << "18446744073709551615"
+                                  << "18446744073709551615" << false;
+        QTest::newRow("beyond the greatest") << "18446744073709551616"
+                                             << "3" << false;
+        QTest::newRow("letter") << "H"
+                                << "3" << false;
+        QTest::newRow("number and letter") << "3x"
+                                           << "3" << false;
+        QTest::newRow("sign alone") << "-"
+                                    << "3" << false;
+    }
+    void numberIsThatOfTheValueUpTo64Bits()
+    {
+        QFETCH(QString, value);
+        QFETCH(bool, isTheNumber);
+        DtEnumerationNode node;
+        node.setNumber(3);
+        node.setValueText(qPrintable(value));
+        QTEST(toQt(node.numberText()), "number");
+        QCOMPARE(node.isNumberTheValue(), isTheNumber);
+    }
     void secondEnumeratorOfANameIsDropped()
     {
         DtEnumeratedDatatypeNode datatype;

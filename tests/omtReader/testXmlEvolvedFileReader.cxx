@@ -346,7 +346,33 @@ private Q_SLOTS:
         QCOMPARE(node.getEnumerationNode("a")->getNumber(), 7);
         QCOMPARE(node.getEnumerationNode("b")->getNumber(), 0); // only "value" counts
         QCOMPARE(node.getEnumerationNode("c")->getNumber(), -1);
-        QCOMPARE(capture.text(), QString("Duplicated enum name a"));
+        QCOMPARE(capture.text(), QString("Duplicated enum name aWarning: Enumeration e has values that are no numbers "
+                                         "from -2147483648 to 2147483647: a, c\n"));
+    }
+
+    // The number stays as it is, and with it who is left out; what it does not hold is kept beside it.
+    void valueThatIsNoNumberIsToldAndKept()
+    {
+        DtCapture capture(DtWarn);
+        const auto tree =
+            readSections("<dataTypes><enumeratedDataTypes><enumeratedData><name>Side</name>"
+                         "<enumerator><name>Here</name><value>H</value></enumerator>"
+                         "<enumerator><name>There</name><value>T</value></enumerator>"
+                         "<enumerator><name>Wide</name><value>18446744073709551613</value></enumerator>"
+                         "<enumerator><name>Low</name><value>-9223372036854775808</value></enumerator>"
+                         "<enumerator><name>Plain</name><value> +007 </value></enumerator></enumeratedData>"
+                         "<enumeratedData><name>Plain</name><enumerator><name>One</name><value>1</value></enumerator>"
+                         "<enumerator><name>None</name></enumerator></enumeratedData>"
+                         "</enumeratedDataTypes></dataTypes>");
+        QCOMPARE(capture.text(),
+                 QString("Duplicated enum number Duplicated enum number Warning: Enumeration Side has values that are "
+                         "no numbers from -2147483648 to 2147483647: Here, There (left out), Wide, "
+                         "Low (left out)\n"));
+        const DtEnumeratedDatatypeNode& node = *tree->getEnumeratedDatatypeNode("Side");
+        QCOMPARE(node.getEnumerationNode("Here")->getNumber(), 0);
+        QCOMPARE(toQt(node.getEnumerationNode("Here")->numberText()), QString("0"));
+        QCOMPARE(toQt(node.getEnumerationNode("Wide")->numberText()), QString("18446744073709551613"));
+        QCOMPARE(toQt(node.getEnumerationNode("Plain")->numberText()), QString("7"));
     }
 
     void smallTablesAreRead()

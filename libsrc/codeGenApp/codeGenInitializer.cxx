@@ -64,6 +64,7 @@ void DtCodeGenInitializer::readSettings()
     myMapRtiObjIdToGlobalId = readFlag("mapRtiObjectIdToGlobalId");
     myMapRtiObjIdToGlobalId = readFlag("encodeSizeInStrings"); // the last read counts
     myIncludeStandardMIM = readFlag("includeStandardMIM");
+    myCodeOpenArrays = readOptionalFlag("codeOpenArrays");
     myAllDatatypes = readOptionalFlag("allDatatypes");
 }
 

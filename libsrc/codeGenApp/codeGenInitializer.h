@@ -58,6 +58,7 @@ public:
     virtual void setIncludeStandardMIM(bool on); // sets the field only: the store does not change
     virtual bool includeStandardMIM() const;
     // Nobody warns when the keys below are missing.
+    bool codeOpenArrays() const { return myCodeOpenArrays; }
     bool allDatatypes() const { return myAllDatatypes; }
     // Scripts by file name, with whether they take part in a generation.
     virtual void setScriptMap(const std::map<DtString, bool>& scripts);
@@ -106,6 +107,7 @@ private:
     bool myDumpParseTree = false;
     bool myMapRtiObjIdToGlobalId = true;
     bool myIncludeStandardMIM = true;
+    bool myCodeOpenArrays = false;
     bool myAllDatatypes = false;
     std::map<DtString, bool> myScriptMap;
     bool myIsSaved = true;

@@ -26,6 +26,7 @@ DtGenerationOptions DtGenerationOptions::of(const DtCodeGenInitializer& initiali
     options.generateDis = initializer.generateDis();
     options.dumpParseTree = initializer.dumpParseTree();
     options.mapRtiObjectIdToGlobalId = initializer.mapRtiObjIdToGlobalId();
+    options.codeOpenArrays = initializer.codeOpenArrays();
     options.allDatatypes = initializer.allDatatypes();
     options.firstPduKind = initializer.firstPduKind();
     return options;
@@ -77,6 +78,7 @@ void DtGenerationRun::setUpWriters()
     mapper.setMapRtiObjectIdToGlobalId(myOptions.mapRtiObjectIdToGlobalId);
     DtFileWriter::setHlaVersion(myTree.hlaVersion());
     DtFileWriter::setGenerate64Bit(myOptions.generate64Bit);
+    DtFileWriter::setCodeOpenArrays(myOptions.codeOpenArrays);
     DtFileWriter::setAllDatatypes(myOptions.allDatatypes);
 }
 

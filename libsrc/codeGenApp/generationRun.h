@@ -19,7 +19,8 @@ struct DtGenerationOptions
     bool generateDis = false;
     bool dumpParseTree = false;
     bool mapRtiObjectIdToGlobalId = true;
-    bool allDatatypes = false; // those that no selected class uses too
+    bool codeOpenArrays = false; // datatypes with several open arrays too
+    bool allDatatypes = false;   // those that no selected class uses too
     int firstPduKind = 0;
 
     static DtGenerationOptions of(const DtCodeGenInitializer& initializer);

@@ -188,6 +188,7 @@ const DtTokenTable<DtAttribute>& attributeTable()
         {"<!enumerationRep!>",                    [](const DtAttribute& a) { return DtFirstCharToLowerConditional(mapper().repForEnumName(tableName(a))); }},
         {"<!AttributeIsVariableSize!>",           [](const DtAttribute& a) { return flag(mapper().isVariableSizeNetType(a.netType())); }},
         {"<!AttributeIsNotEncodeable!>",          [](const DtAttribute& a) { return flag(mapper().isNonEncodeableDataType(a.type())); }},
+        {"<!AttributeHasNoCoding!>",              [](const DtAttribute& a) { return flag(mapper().refusesCoding(a.type())); }},
         {"<!AttributeHasPlusCardinality!>",       [](const DtAttribute& a) { return flag(a.hasPlusCardinality()); }},
         {"<!AttributeNetIsVariableSize!>",        [](const DtAttribute& a) { return flag(mapper().isVariableSizeNetType(a.netType())); }}, // both are in use
         {"<!AttributeIsEnumeration!>",            [](const DtAttribute& a) { return flag(a.isEnumeration()); }},

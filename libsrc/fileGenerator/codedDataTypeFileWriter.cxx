@@ -15,6 +15,9 @@ struct DtCodedDataTypeFileWriter::DtTokens
             {"<!LocalTypeIsNotEncodeable!>",
              [](const DtCodedDataTypeFileWriter& w) -> DtString
              { return DtDataTypeMapper::instance()->isNonEncodeableDataType(w.myClassName) ? "1" : ""; }},
+            {"<!LocalTypeHasNoCoding!>",
+             [](const DtCodedDataTypeFileWriter& w) -> DtString
+             { return DtDataTypeMapper::instance()->refusesCoding(w.myClassName) ? "1" : ""; }          },
         };
         static const DtTokenTable<DtCodedDataTypeFileWriter> theTable(theRows);
         return theTable;
@@ -97,10 +100,14 @@ void DtCodedDataTypeFileWriter::determineDecodeabilityOfClass(const DtSubject& s
         count += plusCount(attribute.type());
     }
     myPlusAttributeCounts[myClassName] = count;
-    if (count < 2 && !isBad)
-        return;
-    DtTellWarning(DtRules::noEncoding, subject, "Warning: Cannot encode/decode data type " + myClassName + ".\n");
-    mapper.addNonEncodeableDataType(myClassName);
+    if (count >= 2 || isBad)
+    {
+        DtTellWarning(DtRules::noEncoding, subject, "Warning: Cannot encode/decode data type " + myClassName + ".\n");
+        mapper.addNonEncodeableDataType(myClassName);
+    }
+    if (mapper.isNonEncodeableDataType(myClassName) && !mapper.refusesCoding(myClassName))
+        DtTellWarning(DtRules::openArraysCoded, subject,
+                      "Warning: Data type " + myClassName + " is coded all the same, as codeOpenArrays is on.\n");
 }
 
 int DtCodedDataTypeFileWriter::plusCount(const DtString& type)

@@ -1,5 +1,6 @@
 #include "fileGenerator/dataTypeMapper.h"
 
+#include "fileGenerator/settings.h"
 #include "foundation/stringUtils.h"
 #include "omtReader/arrayDatatypeNode.h"
 #include "omtReader/basicDataRepresentationNode.h"
@@ -273,6 +274,11 @@ bool DtDataTypeMapper::hasVariantRecord(const DtString& name) const
 void DtDataTypeMapper::addNonEncodeableDataType(const DtString& name)
 {
     myNonEncodeableDataTypes.insert(name);
+}
+
+bool DtDataTypeMapper::refusesCoding(const DtString& name) const
+{
+    return !DtSettings::instance().files.codesOpenArrays && isNonEncodeableDataType(name);
 }
 
 bool DtDataTypeMapper::isNonEncodeableDataType(const DtString& name) const

@@ -102,6 +102,8 @@ public:
     // Also true for a std::vector of such a type; one level of vector is looked through.
     virtual bool isNonEncodeableDataType(const DtString& name) const;
     // A run calls this at its start: generation marks these types, and a second run gives what the first one gave.
+    // Likewise, unless the run codes datatypes with several open arrays, which is all that makes one non-encodeable.
+    bool refusesCoding(const DtString& name) const;
     void forgetNonEncodeableDataTypes() { myNonEncodeableDataTypes.clear(); }
 
     // Boundaries and sizes are in octets; those of unknown types are 0.

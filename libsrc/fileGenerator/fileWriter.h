@@ -81,6 +81,8 @@ public:
     static bool generateErrors() { return settings().generatesErrors; }
     static void setUseDecodeIncludes(bool use) { settings().usesDecodeIncludes = use; }
     static bool useDecodeIncludes() { return settings().usesDecodeIncludes; }
+    static void setCodeOpenArrays(bool code) { settings().codesOpenArrays = code; }
+    static bool codeOpenArrays() { return settings().codesOpenArrays; }
     static void setAllDatatypes(bool all) { settings().takesAllDatatypes = all; }
     static void setHlaVersion(DtHLAProtocolVersion version) { settings().hlaVersion = version; }
     static DtHLAProtocolVersion hlaVersion() { return settings().hlaVersion; }

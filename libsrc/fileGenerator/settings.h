@@ -36,6 +36,7 @@ struct DtFileSettings
     bool generates64Bit = true;
     bool generatesErrors = false; // a line that stops the compiler at each value without encoding
     bool usesDecodeIncludes = false;
+    bool codesOpenArrays = false;   // datatypes with several open arrays are coded too
     bool takesAllDatatypes = false; // those that no selected class uses count as used too
     DtHLAProtocolVersion hlaVersion = DtHlaUnknown;
     // Where the shipped templates and command files lie, with a separator at the end. They are named by paths that

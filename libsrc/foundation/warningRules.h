@@ -34,6 +34,8 @@ inline constexpr DtWarningRule nameClash = {
     "name-clash", "Two datatypes, classes or members of one class have the same name in C++."};
 inline constexpr DtWarningRule noEncoding = {"no-encoding", "Values of a datatype can be neither encoded nor decoded."};
 inline constexpr DtWarningRule noIdentifier = {"no-identifier", "A name of the model gives no identifier of C++."};
+inline constexpr DtWarningRule openArraysCoded = {
+    "open-arrays-coded", "Values of a datatype with several open arrays are coded, as the configuration asks for."};
 inline constexpr DtWarningRule outputNotWritten = {"output-not-written",
                                                    "A file of the output could not be opened or written."};
 inline constexpr DtWarningRule outsideOutput = {

@@ -135,6 +135,7 @@ const std::vector<DtConfigKey>& DtConfigKeys()
         {"encodeSizeInArrays",           DtConfigKey::Flag,         nullptr,                                                                false},
         {"sizeOfArrayLength",            DtConfigKey::Number,       nullptr,                                                                false},
         {"includeStandardMIM",           DtConfigKey::Flag,         nullptr,                                                                false},
+        {"codeOpenArrays",               DtConfigKey::Flag,         nullptr,                                                                false},
         {"allDatatypes",                 DtConfigKey::Flag,         nullptr,                                                                false},
         {"notifyLevel",                  DtConfigKey::Number,       "-q and -v say how much is told",                                       false},
         {"logFileName",                  DtConfigKey::Text,         "it would write a file outside of the output; redirect standard error",

@@ -192,7 +192,8 @@ void TestCodeGenInitializer::everyKeyIsRead()
                        var("prefixName", "Qx") + var("firstPduKind", "129") + var("generateExamples", "true") +
                        var("generate64Bit", "true") + var("useErrorForNonDecodableAttrs", "true") +
                        var("dumpParseTree", "true") + var("generateDIS", "true") + var("encodeSizeInStrings", "true") +
-                       var("includeStandardMIM", "true") + var("allDatatypes", "true")));
+                       var("includeStandardMIM", "true") + var("codeOpenArrays", "true") +
+                       var("allDatatypes", "true")));
     DtCodeGenInitializer initializer;
     QCOMPARE(parse(initializer), QString());
     COMPARE_TEXT(initializer.logFileName(), "a.log");
@@ -207,6 +208,7 @@ void TestCodeGenInitializer::everyKeyIsRead()
     QVERIFY(initializer.generateDis());
     QVERIFY(initializer.mapRtiObjIdToGlobalId());
     QVERIFY(initializer.includeStandardMIM());
+    QVERIFY(initializer.codeOpenArrays());
     QVERIFY(initializer.allDatatypes());
 }
 
@@ -777,6 +779,7 @@ void TestCodeGenInitializer::shippedConfigurationHoldsEveryKey()
     COMPARE_TEXT(initializer.getVariableValue("mapRtiObjectIdToGlobalId"), "true");
     QVERIFY(!initializer.generateDis());
     QVERIFY(!initializer.generateErrors());
+    COMPARE_TEXT(initializer.getVariableValue("codeOpenArrays"), "false");
     COMPARE_TEXT(initializer.getVariableValue("allDatatypes"), "false");
     QVERIFY(initializer.logFileName().isEmpty());
     QCOMPARE(DtNotifyLevel, 2);

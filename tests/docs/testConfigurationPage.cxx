@@ -68,10 +68,12 @@ QString otherValue(const DtKeyRow& row)
     return row.type == "number" ? "9" : "Other";
 }
 
-// A class with a member that no code can be made for, so that every key that has an effect shows it.
+// A class with a member that no code can be made for and one with lists in a list, so that every key that has an effect
+// shows it.
 std::string modelWithUnknownType()
 {
-    return moduleText(objectText("Barge", attributeText("Load", "Unheard") + attributeText("Name", "HLAunicodeString")))
+    return moduleText(objectText("Barge", attributeText("Load", "Unheard") + attributeText("Name", "HLAunicodeString") +
+                                              attributeText("Marks", "HLAhandleList")))
         .toStdString();
 }
 } // namespace

@@ -94,6 +94,7 @@ private Q_SLOTS:
     void oneOpenPartIsEncodeable();
     void nestedOpenPartsAreNot();
     void memberThatIsNotEncodeableMarksItsUser();
+    void severalOpenPartsAreCodedOnRequest();
     void countsAreSharedAndReset();
     void decodeabilityLeavesTheNames();
     void classLoopInsideAttributesIsHarmless();
@@ -494,6 +495,28 @@ void TestDataTypeFileWriters::memberThatIsNotEncodeableMarksItsUser()
     QVERIFY(mapper().isNonEncodeableDataType("DtDwPoorUser"));
 }
 
+// The marks and what is told of them stay; one line more says that they do not count.
+void TestDataTypeFileWriters::severalOpenPartsAreCodedOnRequest()
+{
+    const RunSettings settings;
+    DtOMTTree tree;
+    DtArrayDatatypeNode inner = array("DwRow", "DwByte", "HLAvariableArray", "Dynamic");
+    DtArrayDatatypeNode outer = array("DwRows", "DwRow", "HLAvariableArray", "Dynamic");
+    ArrayProbe writer("", "");
+    writer.compileAttributes(&inner, &tree);
+    writer.compileAttributes(&outer, &tree);
+    const char* const tokens = "<#ClassDatatypes>(<!LocalTypeIsNotEncodeable!>,<!LocalTypeHasNoCoding!>)<#>";
+    DtCapture warnings(DtWarn);
+    writer.determineDecodeability();
+    QCOMPARE(writer.expand(tokens), QString("(,)(1,1)"));
+    const QString stated = warnings.text();
+    DtFileWriter::setCodeOpenArrays(true);
+    writer.determineDecodeability();
+    QCOMPARE(writer.expand(tokens), QString("(,)(1,)"));
+    QCOMPARE(warnings.text(),
+             stated + stated + "Warning: Data type DtDwRows is coded all the same, as codeOpenArrays is on.\n");
+}
+
 void TestDataTypeFileWriters::countsAreSharedAndReset()
 {
     const RunSettings settings;
@@ -617,13 +640,14 @@ void TestDataTypeFileWriters::knownTokensOfTheFamilies()
         }
         return tokens.join(' ');
     };
-    QCOMPARE(own(SimpleProbe("", "")),
-             QString("<!NumberType!> <!LocalTypeIsNotEncodeable!> <!MyHeaderInclude!> <!ClassIdentifier!>"));
-    QCOMPARE(own(BasicProbe("", "")), QString("<!BasicSize!> <!ClassPrefix!> <!size!> <!EndianMatch!> <!NumberType!> "
-                                              "<!LocalTypeIsNotEncodeable!> <!MyHeaderInclude!> <!ClassIdentifier!>"));
+    QCOMPARE(own(SimpleProbe("", "")), QString("<!NumberType!> <!LocalTypeIsNotEncodeable!> <!LocalTypeHasNoCoding!> "
+                                               "<!MyHeaderInclude!> <!ClassIdentifier!>"));
+    QCOMPARE(own(BasicProbe("", "")),
+             QString("<!BasicSize!> <!ClassPrefix!> <!size!> <!EndianMatch!> <!NumberType!> "
+                     "<!LocalTypeIsNotEncodeable!> <!LocalTypeHasNoCoding!> <!MyHeaderInclude!> <!ClassIdentifier!>"));
     QCOMPARE(own(ArrayProbe("", "")),
              QString("<!MyEncoding!> <!ClassPrefix!> <!ArrayElementCount!> <!ArrayEncoding!> <!TokenCardinality!> "
-                     "<!LocalTypeIsNotEncodeable!> <!MyHeaderInclude!> <!ClassIdentifier!>"));
+                     "<!LocalTypeIsNotEncodeable!> <!LocalTypeHasNoCoding!> <!MyHeaderInclude!> <!ClassIdentifier!>"));
 }
 
 QX_REGISTER_TEST(TestDataTypeFileWriters)

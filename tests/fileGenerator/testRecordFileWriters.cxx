@@ -734,13 +734,13 @@ void TestRecordFileWriters::knownTokensOfTheRecords()
             tokens << text(writer.tokenChain().tokens()[static_cast<std::size_t>(i)]);
         return tokens.join(' ');
     };
-    QCOMPARE(own(FixedProbe("", ""), 6),
+    QCOMPARE(own(FixedProbe("", ""), 7),
              QString("<!ClassNetName!> <!NetTypeIsVariableSize!> <!NetTypeIsVariantRecord!> "
-                     "<!LocalTypeIsNotEncodeable!> <!MyHeaderInclude!> <!ClassIdentifier!>"));
-    QCOMPARE(own(VariantProbe("", ""), 10),
+                     "<!LocalTypeIsNotEncodeable!> <!LocalTypeHasNoCoding!> <!MyHeaderInclude!> <!ClassIdentifier!>"));
+    QCOMPARE(own(VariantProbe("", ""), 11),
              QString("<!ClassNetName!> <!ClassDiscriminantName!> <!ClassDiscriminantType!> <!ClassEncoding!> "
                      "<!AlternativeSelector!> <!CurrentDiscriminantEnumerator!> <!NetTypeIsVariantRecord!> "
-                     "<!LocalTypeIsNotEncodeable!> <!MyHeaderInclude!> <!ClassIdentifier!>"));
+                     "<!LocalTypeIsNotEncodeable!> <!LocalTypeHasNoCoding!> <!MyHeaderInclude!> <!ClassIdentifier!>"));
     QCOMPARE(own(ComplexProbe("", ""), 7),
              QString("<!ArrayFileToInclude!> <!DatatypeArrayName!> <!NonDtDatatypeArrayName!> <!IsBasicType!> "
                      "<!OctetBoundary!> <!MyHeaderInclude!> <!ClassIdentifier!>"));

@@ -46,6 +46,13 @@ public:
     {
         stage({myProgram.model("model.xml", modelText)}, false);
     }
+    // Of a model of this text, with this key of the configuration on.
+    static std::unique_ptr<DtStagedOutput> withKey(const QByteArray& modelText, const char* key)
+    {
+        std::unique_ptr<DtStagedOutput> output(new DtStagedOutput(nullptr, key));
+        output->stage({output->myProgram.model("model.xml", modelText)}, false);
+        return output;
+    }
     // What a window has written to this directory.
     explicit DtStagedOutput(const QString& written) { layOut(written); }
     // Of modules in this order, with the standard model.
@@ -84,6 +91,8 @@ public:
     }
 
 private:
+    DtStagedOutput(std::nullptr_t, const char* key) : myKey(key) {}
+
     void stage(const std::vector<DtString>& models, bool standardMim)
     {
         const DtCapture warnings(DtWarn);
@@ -105,8 +114,11 @@ private:
     void generate(const std::vector<DtString>& models, bool standardMim)
     {
         const auto window = myProgram.makeWindow(
-            [standardMim](DtCodeGenInitializer& initializer)
+            [standardMim, this](DtCodeGenInitializer& initializer)
             {
+                if (!myKey.isEmpty())
+                    initializer.setVariableValue(myKey, "true");
+                initializer.applySettings(); // ahead of the others, some of which are not stored
                 initializer.setGenerateExamples(false);
                 initializer.setIncludeStandardMIM(standardMim);
             });
@@ -126,6 +138,7 @@ private:
     DtScratchProgram myProgram;
     QTemporaryDir myStage;
     DtString myUnmapped;
+    DtString myKey;
     QString myWarnings; // of loading and generating
 };
 

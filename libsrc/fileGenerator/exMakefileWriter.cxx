@@ -1,5 +1,7 @@
 #include "fileGenerator/exMakefileWriter.h"
 
+#include "fileGenerator/archiveName.h"
+
 DtExamplesMakefileWriter::DtExamplesMakefileWriter(const DtString& fileName)
     : DtFileWriter(fileName, "../data/templates/exMakefile.tlt"), myTokens(table(), this)
 {
@@ -11,6 +13,7 @@ const DtTokenTable<DtExamplesMakefileWriter>& DtExamplesMakefileWriter::table()
     using Writer = const DtExamplesMakefileWriter&;
     static const DtTokenRow<DtExamplesMakefileWriter> theRows[] = {
         {"<!LibName!>",     [](Writer w) { return w.myLibraryName; }                     },
+        {"<!ArchiveName!>", [](Writer) { return DtArchiveName(); }                       },
         {"<!GenerateDis!>", [](Writer w) { return DtString(w.myGenerateDis ? "1" : ""); }},
     };
     static const DtTokenTable<DtExamplesMakefileWriter> theTable(theRows);

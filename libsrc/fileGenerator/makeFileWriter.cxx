@@ -1,5 +1,6 @@
 #include "fileGenerator/makeFileWriter.h"
 
+#include "fileGenerator/archiveName.h"
 #include "foundation/filename.h"
 
 DtMakefileWriter::DtListFile::DtListFile(const char* name)
@@ -39,6 +40,7 @@ const DtTokenTable<DtMakefileWriter>& DtMakefileWriter::table()
     using Writer = const DtMakefileWriter&;
     static const DtTokenRow<DtMakefileWriter> theRows[] = {
         {"<!LibName!>",     [](Writer w) { return w.myLibraryName; }                     },
+        {"<!ArchiveName!>", [](Writer) { return DtArchiveName(); }                       },
         {"<!GenerateDis!>", [](Writer w) { return DtString(w.myGenerateDis ? "1" : ""); }},
     };
     static const DtTokenTable<DtMakefileWriter> theTable(theRows);

@@ -27,6 +27,7 @@ private Q_SLOTS:
     void disTokenIsOneOrEmpty();
     void otherProjectLoopCounts();
     void makefileTokensAreReplaced();
+    void archiveIsNamedAfterTheWholeBaseName();
     void headersAndOtherFilesAreListedApart();
     void fileListsExistFromConstruction();
     void fileListsLeaveIncludePathOut();
@@ -185,6 +186,25 @@ void TestBuildProducts::makefileTokensAreReplaced()
     }
 }
 
+// A point does not end it, as it does end the name of the library, which projects have.
+void TestBuildProducts::archiveIsNamedAfterTheWholeBaseName()
+{
+    myFixture->writeTemplate("makefile.tlt", "<!ArchiveName!>");
+    const std::pair<const char*, const char*> theNames[] = {
+        {"models/Harbour_v3.0_x.xml", "Harbour_v3.0_x"},
+        {"Harbour_v3.0_x",            "Harbour_v3.0_x"},
+        {"harbour.omt",               "harbour"       },
+        {"harbour",                   "harbour"       },
+        {"",                          ""              },
+    };
+    for (const auto& [base, archive] : theNames)
+    {
+        DtOMTEnvWriter::setBaseName(base);
+        DtMakefileWriter("Makefile", myFiles).writeFile();
+        QCOMPARE(myFixture->output("Makefile"), QString(archive));
+    }
+}
+
 void TestBuildProducts::headersAndOtherFilesAreListedApart()
 {
     myFixture->writeTemplate("makefile.tlt", "x");
@@ -279,7 +299,7 @@ void TestBuildProducts::knownTokensAreThoseThatAreReplaced()
     const std::size_t base = DtFileWriter("", "").tokenChain().tokens().size();
     QCOMPARE(base, std::size_t(11));
     QCOMPARE(DtProjectFileWriter("", {}, 9).tokenChain().tokens().size(), base + 5);
-    QCOMPARE(DtMakefileWriter("", {}).tokenChain().tokens().size(), base + 2);
+    QCOMPARE(DtMakefileWriter("", {}).tokenChain().tokens().size(), base + 3);
     const std::vector<DtString> tokens = DtSolutionsFileWriter("", "").tokenChain().tokens();
     QVERIFY(std::find(tokens.begin(), tokens.end(), DtString("<!UUID2!>")) != tokens.end());
     QVERIFY(std::find(tokens.begin(), tokens.end(), DtString("<!ProjectName!>")) != tokens.end());

@@ -89,6 +89,7 @@ private Q_SLOTS:
     void sourcesHaveNeitherFullNameNorParentNorKind();
     void projectFilesHaveIdentifiersAndNameOfTheRecord();
     void libraryNameIsTheBaseNameWithoutPathAndExtension();
+    void makefileNamesTheArchiveOfTheLibrary();
     void disTokenReachesProjectsAndMakefile();
     void projectFilesCanBeWrittenAlone();
     void identifiersAreThoseOfTheSolution();
@@ -341,6 +342,15 @@ void TestExamplesCreator::libraryNameIsTheBaseNameWithoutPathAndExtension()
     QCOMPARE(example("talk.cxx"), QString("<!LibName!>"));
 }
 
+void TestExamplesCreator::makefileNamesTheArchiveOfTheLibrary()
+{
+    writeTemplates("<!ArchiveName!>");
+    DtOMTEnvWriter::setBaseName("my-model.v2");
+    writeExamples(true);
+    QCOMPARE(example("Makefile"), QString("my-model.v2"));
+    QCOMPARE(example("TankTalkVC14_64.vcxproj"), QString("<!ArchiveName!>"));
+}
+
 void TestExamplesCreator::disTokenReachesProjectsAndMakefile()
 {
     writeTemplates("[<!GenerateDis!>]");
@@ -397,8 +407,8 @@ void TestExamplesCreator::knownTokensAreThoseThatAreReplaced()
     };
     QCOMPARE(firstTokens(DtExamplesProjectFileWriter("", "", DtOmtObject()), 6),
              QString("<!LibName!> <!UUID1!> <!UUID2!> <!Name!> <!GenerateDis!> <!mapRtiObjectIdToGlobalId!>"));
-    QCOMPARE(firstTokens(DtExamplesMakefileWriter(""), 3),
-             QString("<!LibName!> <!GenerateDis!> <!mapRtiObjectIdToGlobalId!>"));
+    QCOMPARE(firstTokens(DtExamplesMakefileWriter(""), 4),
+             QString("<!LibName!> <!ArchiveName!> <!GenerateDis!> <!mapRtiObjectIdToGlobalId!>"));
 }
 
 void TestExamplesCreator::objectGeneratorMakesExamplesBehindItsFiles()

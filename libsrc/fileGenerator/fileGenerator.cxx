@@ -1,6 +1,7 @@
 #include "fileGenerator/fileGenerator.h"
 
 #include "fileGenerator/dataTypeMapper.h"
+#include "fileGenerator/examplesCreator.h"
 #include "fileGenerator/memberTypes.h"
 #include "fileGenerator/progressMeter.h"
 #include "foundation/exception.h"
@@ -37,7 +38,22 @@ bool DtFileGenerator::runWriters()
     return true;
 }
 
+void DtFileGenerator::addInheritedAttribute(const DtString& name, const DtString& datatype, const DtString& cardinality)
+{
+    if (myExamples != nullptr)
+        myExamples->addAttribute(makeAttribute(name, datatype, cardinality));
+}
+
 DtAttribute DtFileGenerator::addToWriters(const DtString& name, const DtString& datatype, const DtString& cardinality)
+{
+    DtAttribute attribute = makeAttribute(name, datatype, cardinality);
+    attribute.keepNotes(std::make_shared<DtAttributeValues>());
+    for (const auto& writer : myWriters)
+        writer->addAttribute(attribute);
+    return attribute;
+}
+
+DtAttribute DtFileGenerator::makeAttribute(const DtString& name, const DtString& datatype, const DtString& cardinality)
 {
     DtString type = DtDataTypeMapper::instance()->quorvexType(datatype);
     DtString resolvedCardinality = cardinality;
@@ -48,9 +64,6 @@ DtAttribute DtFileGenerator::addToWriters(const DtString& name, const DtString& 
     // Behind the cardinality: it works out the wire type again, now with the byte order of the datatype.
     attribute.setDatatype(datatype);
     attribute.setDatatypeDatatype(lastRepresentation(datatype));
-    attribute.keepNotes(std::make_shared<DtAttributeValues>());
-    for (const auto& writer : myWriters)
-        writer->addAttribute(attribute);
     return attribute;
 }
 

@@ -10,6 +10,8 @@
 #include <memory>
 #include <set>
 
+class DtExamplesCreator;
+
 // All files of one selected class: creates a writer for each, feeds them its members and runs them in order.
 //
 // Owns the writers. Their files exist, at least empty, as soon as the generator stands. The driver constructs one
@@ -29,6 +31,9 @@ public:
     virtual void generateFiles() = 0;
     // Resolves the model's datatype to a target type and hands the member to every writer, and to the examples.
     virtual void addAttribute(const DtString& name, const DtString& datatype, const DtString& cardinality) = 0;
+    // Hands a member of a superclass to the examples, which set and print it too; not to the writers. From the top
+    // class down, and ahead of the members of the class.
+    void addInheritedAttribute(const DtString& name, const DtString& datatype, const DtString& cardinality);
     virtual void setFullClassName(const DtString& name);
     // Walks array and simple datatypes to a target type. The cardinality changes when the way leads over an array. A
     // datatype that leads back to itself stands as its own type.
@@ -61,10 +66,16 @@ protected:
     void initializeWriters(const DtString& name, const DtOmtProject& project);
     // False when the user cancelled: the writers behind the current one have not run then.
     bool runWriters();
+    // Not owned; null, as at the start, when none are wanted.
+    void setExamples(DtExamplesCreator* examples) { myExamples = examples; }
+    DtAttribute makeAttribute(const DtString& name, const DtString& datatype, const DtString& cardinality);
     // The member as every writer got it.
     DtAttribute addToWriters(const DtString& name, const DtString& datatype, const DtString& cardinality);
 
     std::list<std::unique_ptr<DtClassFileWriter>> myWriters;
+
+private:
+    DtExamplesCreator* myExamples = nullptr;
 };
 
 #endif

@@ -62,6 +62,7 @@ DtInteractionFileGenerator::DtInteractionFileGenerator(const DtString& name, std
         // The examples of an interaction are made for HLA only, whatever else is: nothing tells them of DIS.
         if (myGenerateExamples)
             myExamplesCreator = std::make_unique<DtExamplesCreator>(name, myOmtProject, interaction);
+        setExamples(myExamplesCreator.get());
     };
     guardConstruction(theSignature, __FILE__, __LINE__, makeAll);
 }

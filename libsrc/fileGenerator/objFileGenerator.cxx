@@ -103,6 +103,7 @@ void DtObjectFileGenerator::createExamples(const DtString& name, const DtOmtObje
     myExamplesCreator = std::make_unique<DtExamplesCreator>(name, myOmtProject, object);
     myExamplesCreator->setGenerateDis(myGenerateDis);
     myExamplesCreator->setClassName(name);
+    setExamples(myExamplesCreator.get());
 }
 
 void DtObjectFileGenerator::generateFiles()

@@ -104,8 +104,52 @@ std::vector<DtString> namesOf(const Members& members)
     return names;
 }
 
-// Hands the members of a class to its generator. A member's cardinality is always "1": arrays are named types by now.
 // A mapping of the member's own name goes before its datatype.
+DtString valueTypeOf(const DtDatatypeFedNode& member)
+{
+    const DtString& name = member.getName();
+    return mapper().hasMapping(name) ? mapper().quorvexType(name) : member.getDatatype();
+}
+
+// The classes above a node but for the root, which no class is generated of, the top one first.
+template <typename Node>
+std::vector<const Node*> superclassesOf(const Node& node, const DtFedNode* root)
+{
+    std::vector<const Node*> superclasses;
+    for (const DtFedNode* parent = node.getParentObject(); parent != nullptr && parent != root;
+         parent = parent->getParentObject())
+        superclasses.insert(superclasses.begin(), static_cast<const Node*>(parent));
+    return superclasses;
+}
+
+const std::list<DtAttributeFedNode*>& membersOf(const DtObjectClassFedNode& node)
+{
+    return node.getAttributes();
+}
+
+const std::list<DtParameterFedNode*>& membersOf(const DtInteractionClassFedNode& node)
+{
+    return node.getParameters();
+}
+
+// Members of superclasses, for the examples. One whose accessors a class below it has too is hidden by those.
+template <typename Node>
+void addInheritedMembers(DtFileGenerator& generator, const Node& node, const DtFedNode* root)
+{
+    std::vector<const Node*> classes = superclassesOf(node, root);
+    classes.push_back(&node);
+    std::map<DtString, const Node*> lowest; // class by accessor
+    for (const Node* each : classes)
+        for (const DtString& name : namesOf(membersOf(*each)))
+            lowest[DtFirstCharToUpper(name)] = each;
+    classes.pop_back();
+    for (const Node* each : classes)
+        for (const auto* member : membersOf(*each))
+            if (member != nullptr && lowest[DtFirstCharToUpper(member->getName())] == each)
+                generator.addInheritedAttribute(member->getName(), valueTypeOf(*member), "1");
+}
+
+// Hands the members of a class to its generator. A member's cardinality is always "1": arrays are named types by now.
 template <typename Members>
 void addMembers(DtFileGenerator& generator, const Members& members)
 {
@@ -113,9 +157,7 @@ void addMembers(DtFileGenerator& generator, const Members& members)
     {
         if (member == nullptr)
             continue;
-        const DtString name = member->getName();
-        generator.addAttribute(name, mapper().hasMapping(name) ? mapper().quorvexType(name) : member->getDatatype(),
-                               "1");
+        generator.addAttribute(member->getName(), valueTypeOf(*member), "1");
     }
 }
 } // namespace
@@ -348,6 +390,7 @@ void DtOMTEnvWriter::addObjectToFile(DtString name, std::set<DtString>& done)
                                     *record, myProject != nullptr ? *myProject : DtOmtProject());
     done.insert(name);
     const DtFedNode* parent = node->getParentObject();
+    addInheritedMembers(generator, *node, tree().objectClassRoot());
     generateClass(generator, DtSubject::objectClass(name), parent,
                   parent != nullptr ? objectParentName(*parent) : DtString(), node->getAttributes());
 }
@@ -368,6 +411,7 @@ void DtOMTEnvWriter::addInteractionToFile(DtString name, std::set<DtString>& don
                                          myProject != nullptr ? *myProject : DtOmtProject());
     done.insert(name);
     const DtFedNode* parent = node->getParentObject();
+    addInheritedMembers(generator, *node, tree().interactionClassRoot());
     generateClass(generator, DtSubject::interactionClass(name), parent,
                   parent != nullptr ? interactionParentName(*parent) : DtString(), node->getParameters());
 }

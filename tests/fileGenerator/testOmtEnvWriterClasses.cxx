@@ -27,6 +27,7 @@ private Q_SLOTS:
     void runWorksWithoutProject();
     void memberCardinalityIsAlwaysOne();
     void memberOfMappedNameTakesThatType();
+    void examplesHaveTheMembersOfSuperclasses();
     void emptiedMemberListIsPassedOver();
     void identifiersAreMadeBeforeTheSelectionIsCopied();
     void renameOperationsFallBackToThePlainName();
@@ -213,6 +214,33 @@ void TestOmtEnvWriterClasses::memberOfMappedNameTakesThatType()
     run();
     QCOMPARE(myFixture->output("tankStateRepository.h"), QString("DeSpeed DeOther DtU8"));
     QCOMPARE(myFixture->output("fireInterHLA.h"), QString("DeSpeed DeOther DtU8"));
+}
+
+// From the top down; one that a class below states again is that of the class below. The root has no class.
+void TestOmtEnvWriterClasses::examplesHaveTheMembersOfSuperclasses()
+{
+    myModel->addObject("HLAobjectRoot.Tank");
+    myModel->addObject("HLAobjectRoot.Tank.Heavy");
+    myModel->addObject("HLAobjectRoot.Tank.Heavy.Old");
+    myModel->addInteraction("HLAinteractionRoot.Fire");
+    myModel->addInteraction("HLAinteractionRoot.Fire.Salvo");
+    myModel->addAttribute("HLAobjectRoot", "root", "R");
+    myModel->addAttribute("HLAobjectRoot.Tank", "fuel", "F");
+    myModel->addAttribute("HLAobjectRoot.Tank", "crew", "C");
+    myModel->addAttribute("HLAobjectRoot.Tank.Heavy", "armour", "A");
+    myModel->addAttribute("HLAobjectRoot.Tank.Heavy.Old", "Crew", "O");
+    myModel->addParameter("HLAinteractionRoot.Fire", "charge", "C");
+    myModel->addParameter("HLAinteractionRoot.Fire.Salvo", "count", "N");
+    for (const char* name : {"talkObjExample.tlt", "listenInterExample.tlt", "stateRepHeader.tlt"})
+        myFixture->writeTemplate(name, "<#Attributes><!ExactAttributeName!> <#>");
+    myWriter->setGenerateExamples(true);
+    select({"HLAobjectRoot.Tank", "HLAobjectRoot.Tank.Heavy", "HLAobjectRoot.Tank.Heavy.Old"},
+           {"HLAinteractionRoot.Fire", "HLAinteractionRoot.Fire.Salvo"});
+    QCOMPARE(run(), 1);
+    QCOMPARE(myFixture->output("Examples/Tank/talk.cxx"), QString("fuel crew "));
+    QCOMPARE(myFixture->output("Examples/Old/talk.cxx"), QString("fuel armour Crew "));
+    QCOMPARE(myFixture->output("Examples/SalvoInter/listen.cxx"), QString("charge count "));
+    QCOMPARE(myFixture->output("oldStateRepository.h"), QString("Crew "));
 }
 
 void TestOmtEnvWriterClasses::emptiedMemberListIsPassedOver()

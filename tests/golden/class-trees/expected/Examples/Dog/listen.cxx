@@ -35,6 +35,14 @@ void print(const char* name, const Value& value)
 void printChanges(const State& state)
 {
     (void)state; // in case that the class has no attributes of its own
+    if (state.DtStateRepository::isChanged("Name"))
+    {
+        print("Name", state.name());
+    }
+    if (state.DtStateRepository::isChanged("Legs"))
+    {
+        print("Legs", state.legs());
+    }
     if (state.DtStateRepository::isChanged("Barks"))
     {
         print("Barks", state.barks());

@@ -30,6 +30,8 @@ void setValues(Target& target, std::size_t round)
 {
     (void)target; // in case that nothing below needs them
     (void)round;
+    target.setName("Name " + std::to_string(round));
+    target.setLegs(static_cast<Target::ValueOfLegs>(32 + round));
     target.setBarks(round % 2 == 0);
     target.setWeight__Kg(static_cast<Target::ValueOfWeight__Kg>(7.02 + static_cast<double>(round)));
 }

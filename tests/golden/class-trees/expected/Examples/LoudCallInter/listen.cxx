@@ -27,6 +27,7 @@ void print(const char* name, const Value& value)
 void received(DtLoudCallInter* interaction, void* hasCome)
 {
     std::cout << "received: " << interaction->DtInteraction::fullClassName() << std::endl;
+    print("Text", interaction->text());
     print("Loudness", interaction->loudness());
     *static_cast<bool*>(hasCome) = true;
 }

@@ -26,6 +26,7 @@ void setValues(Target& target, std::size_t round)
 {
     (void)target; // in case that nothing below needs them
     (void)round;
+    target.setText("Text " + std::to_string(round));
     target.setLoudness(static_cast<Target::ValueOfLoudness>(7.02 + static_cast<double>(round)));
 }
 

@@ -35,6 +35,46 @@ void print(const char* name, const Value& value)
 void printChanges(const State& state)
 {
     (void)state; // in case that the class has no attributes of its own
+    if (state.DtStateRepository::isChanged("Position"))
+    {
+        print("Position", state.position());
+    }
+    if (state.DtStateRepository::isChanged("Name"))
+    {
+        print("Name", state.name());
+    }
+    if (state.DtStateRepository::isChanged("Serial"))
+    {
+        print("Serial", state.serial());
+    }
+    if (state.DtStateRepository::isChanged("Speed"))
+    {
+        print("Speed", state.speed());
+    }
+    if (state.DtStateRepository::isChanged("Heading__True"))
+    {
+        print("Heading__True", state.heading__True());
+    }
+    if (state.DtStateRepository::isChanged("State"))
+    {
+        print("State", state.state());
+    }
+    if (state.DtStateRepository::isChanged("_class"))
+    {
+        print("TheClass", state.theClass());
+    }
+    if (state.DtStateRepository::isChanged("int"))
+    {
+        print("TheInt", state.theInt());
+    }
+    if (state.DtStateRepository::isChanged("Template"))
+    {
+        print("TheTemplate", state.theTemplate());
+    }
+    if (state.DtStateRepository::isChanged("Crew"))
+    {
+        print("Crew", state.crew());
+    }
     if (state.DtStateRepository::isChanged("Pull__Push"))
     {
         print("Pull__Push", state.pull__Push());

@@ -35,6 +35,18 @@ void print(const char* name, const Value& value)
 void printChanges(const State& state)
 {
     (void)state; // in case that the class has no attributes of its own
+    if (state.DtStateRepository::isChanged("Position"))
+    {
+        print("Position", state.position());
+    }
+    if (state.DtStateRepository::isChanged("Name"))
+    {
+        print("Name", state.name());
+    }
+    if (state.DtStateRepository::isChanged("Serial"))
+    {
+        print("Serial", state.serial());
+    }
     if (state.DtStateRepository::isChanged("Speed"))
     {
         print("Speed", state.speed());

@@ -30,6 +30,9 @@ void setValues(Target& target, std::size_t round)
 {
     (void)target; // in case that nothing below needs them
     (void)round;
+    target.setPosition(target.position());
+    target.setName(target.name());
+    target.setSerial(static_cast<Target::ValueOfSerial>(32 + round));
     target.setLamp(DtEnumeratorInTurn<Target::ValueOfLamp>(round));
     target.setLamps(target.lamps());
     target.setSector(target.sector());

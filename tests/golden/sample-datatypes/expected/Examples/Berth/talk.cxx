@@ -30,6 +30,9 @@ void setValues(Target& target, std::size_t round)
 {
     (void)target; // in case that nothing below needs them
     (void)round;
+    target.setPosition(target.position());
+    target.setName(target.name());
+    target.setSerial(static_cast<Target::ValueOfSerial>(32 + round));
     target.setLength(static_cast<Target::ValueOfLength>(7.02 + static_cast<double>(round)));
     target.setDepths(target.depths());
     target.setOccupant(target.occupant());

@@ -30,6 +30,16 @@ void setValues(Target& target, std::size_t round)
 {
     (void)target; // in case that nothing below needs them
     (void)round;
+    target.setPosition(target.position());
+    target.setName(target.name());
+    target.setSerial(static_cast<Target::ValueOfSerial>(32 + round));
+    target.setSpeed(static_cast<Target::ValueOfSpeed>(7.02 + static_cast<double>(round)));
+    target.setHeading__True(static_cast<Target::ValueOfHeading__True>(7.02 + static_cast<double>(round)));
+    target.setState(DtEnumeratorInTurn<Target::ValueOfState>(round));
+    target.setTheClass("_class " + std::to_string(round));
+    target.setTheInt(static_cast<Target::ValueOfTheInt>(32 + round));
+    target.setTheTemplate(DtEnumeratorInTurn<Target::ValueOfTheTemplate>(round));
+    target.setCrew(target.crew());
     target.setHolds(target.holds());
     target.setManifest(target.manifest());
     target.setDraught(static_cast<Target::ValueOfDraught>(7.02 + static_cast<double>(round)));

@@ -27,6 +27,8 @@ void print(const char* name, const Value& value)
 void received(DtAnswerInter* interaction, void* hasCome)
 {
     std::cout << "received: " << interaction->DtInteraction::fullClassName() << std::endl;
+    print("Channel", interaction->channel());
+    print("Text", interaction->text());
     print("Done", interaction->done());
     print("Reason", interaction->reason());
     *static_cast<bool*>(hasCome) = true;

@@ -26,6 +26,8 @@ void setValues(Target& target, std::size_t round)
 {
     (void)target; // in case that nothing below needs them
     (void)round;
+    target.setChannel(static_cast<Target::ValueOfChannel>(32 + round));
+    target.setText("Text " + std::to_string(round));
     target.setDone(round % 2 == 0);
     target.setReason(target.reason());
 }

@@ -27,6 +27,10 @@ void print(const char* name, const Value& value)
 void received(DtMove__ToInter* interaction, void* hasCome)
 {
     std::cout << "received: " << interaction->DtInteraction::fullClassName() << std::endl;
+    print("Channel", interaction->channel());
+    print("Text", interaction->text());
+    print("Urgency", interaction->urgency());
+    print("TheRegister", interaction->theRegister());
     print("Target_Point_", interaction->target_Point_());
     print("By__Hour", interaction->by__Hour());
     print("Tugs", interaction->tugs());

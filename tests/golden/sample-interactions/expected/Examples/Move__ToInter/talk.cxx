@@ -26,6 +26,10 @@ void setValues(Target& target, std::size_t round)
 {
     (void)target; // in case that nothing below needs them
     (void)round;
+    target.setChannel(static_cast<Target::ValueOfChannel>(32 + round));
+    target.setText("Text " + std::to_string(round));
+    target.setUrgency(DtEnumeratorInTurn<Target::ValueOfUrgency>(round));
+    target.setTheRegister(static_cast<Target::ValueOfTheRegister>(32 + round));
     target.setTarget_Point_(target.target_Point_());
     target.setBy__Hour(static_cast<Target::ValueOfBy__Hour>(7.02 + static_cast<double>(round)));
     target.setTugs(target.tugs());

@@ -27,6 +27,10 @@ void print(const char* name, const Value& value)
 void received(DtStayInter* interaction, void* hasCome)
 {
     std::cout << "received: " << interaction->DtInteraction::fullClassName() << std::endl;
+    print("Channel", interaction->channel());
+    print("Text", interaction->text());
+    print("Urgency", interaction->urgency());
+    print("TheRegister", interaction->theRegister());
     *static_cast<bool*>(hasCome) = true;
 }
 } // namespace

@@ -2,6 +2,7 @@
 
 #include "fileGenerator/cCompatibleName.h"
 #include "fileGenerator/dataTypeMapper.h"
+#include "fileGenerator/documentation.h"
 #include "fileGenerator/memberTypes.h"
 #include "fileGenerator/netTypeTraits.h"
 #include "fileGenerator/numberForm.h"
@@ -92,7 +93,7 @@ void DtArrayDataTypeFileWriter::compileAttributes(DtArrayDatatypeNode* node, DtO
     const std::vector<DtAttribute> members = {
         makeMember(identifier(name), node->getDatatype(), node->getCardinality())};
     registerNetTypeTraits(name, DtDataTypeMapper::instance()->quorvexType(name), members, tree);
-    addCompiled(node, members);
+    addCompiled(node, members, DtDocumentation::instance().of(*node));
 }
 
 DtString DtArrayDataTypeFileWriter::encodingName() const

@@ -114,6 +114,11 @@ void DtAttribute::setEncoding(const DtString& encoding)
     change().encoding = encoding;
 }
 
+void DtAttribute::setDocumentation(const DtString& text)
+{
+    change().documentation = text;
+}
+
 const DtString& DtAttribute::encoding() const
 {
     return myContent->encoding;

@@ -65,6 +65,10 @@ public:
     virtual bool isLittleEndian() const;
     virtual void obtainNetType();
 
+    // What the model tells people of it.
+    void setDocumentation(const DtString& text);
+    const DtString& documentation() const { return myContent->documentation; }
+
     // Copies made from here on have the same notes; one that is changed has none. Null when none are kept.
     void keepNotes(std::shared_ptr<DtAttributeNotes> notes);
     DtAttributeNotes* notes() const { return myContent->notes.get(); }
@@ -88,6 +92,7 @@ private:
         DtString datatype;
         DtString datatypeDatatype;
         DtString encoding;
+        DtString documentation;
         std::shared_ptr<DtAttributeNotes> notes;
     };
 

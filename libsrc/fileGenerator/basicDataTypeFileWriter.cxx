@@ -1,6 +1,7 @@
 #include "fileGenerator/basicDataTypeFileWriter.h"
 
 #include "fileGenerator/cCompatibleName.h"
+#include "fileGenerator/documentation.h"
 #include "fileGenerator/settings.h"
 #include "foundation/perRun.h"
 #include "omtReader/basicDataRepresentationNode.h"
@@ -43,7 +44,7 @@ DtBasicDataTypeFileWriter::DtBasicDataTypeFileWriter(const DtString& fileName, c
 
 void DtBasicDataTypeFileWriter::compileAttributes(DtBasicDataRepresentationNode* node)
 {
-    compilePrimitive(node, node->getName());
+    compilePrimitive(node, node->getName(), DtDocumentation::instance().of(*node));
 }
 
 DtDataTypeMapper::DtBasicTypeInfo DtBasicDataTypeFileWriter::basicInfo() const

@@ -1,6 +1,7 @@
 #include "fileGenerator/classFileWriter.h"
 
 #include "fileGenerator/cCompatibleName.h"
+#include "fileGenerator/commentText.h"
 #include "fileGenerator/dataTypeMapper.h"
 #include "fileGenerator/datatypeClassNames.h"
 #include "fileGenerator/memberTypes.h"
@@ -202,6 +203,7 @@ const DtTokenTable<DtAttribute>& attributeTable()
         {"<!AttributeTypeIdentifier!>",           [](const DtAttribute& a) { return typeIdentifier(a); }},
         {"<!AttributeIsNamesake!>",               [](const DtAttribute& a) { return flag(DtDatatypeClassNames::instance().isNamesake(a.datatype())); }},
         {"<!AttributeLayout!>",                   [](const DtAttribute& a) { return valueFormOf(a).layout; }},
+        {"<!AttributeDocumentation!>",            [](const DtAttribute& a) { return DtCommentText(a.documentation(), 4); }},
     };
     static const DtTokenTable<DtAttribute> theTable(theRows);
     return theTable;
@@ -319,6 +321,7 @@ const std::vector<DtClassFileWriter::DtNameRow>& DtClassFileWriter::DtNameTokens
         {"<!BaseDecoderClassHeader!>",   "\"%Cd%qDecoder.h\"", "<qx/stateDecoder.h>"},
         {"<!BaseEncoderClassHeader!>",   "\"%Cd%qEncoder.h\"", "<qx/stateEncoder.h>"},
         {"<!EnumsHeader!>",              [](const Writer&) { return enumsHeader(); }},
+        {"<!ClassDocumentation!>",       [](const Writer& w) { return DtCommentText(w.myDocumentation, 0); }},
     };
     return theRows;
 }
@@ -469,6 +472,12 @@ DtString DtClassFileWriter::replaceFirstIntRootOccurance(const DtString& name) c
 void DtClassFileWriter::setFullClassName(const DtString& name)
 {
     myFullClassName = name;
+    namesChanged();
+}
+
+void DtClassFileWriter::setDocumentation(const DtString& text)
+{
+    myDocumentation = text;
     namesChanged();
 }
 

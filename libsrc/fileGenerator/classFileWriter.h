@@ -66,6 +66,8 @@ public:
     // The same with "InteractionRoot." and "HLAinteractionRoot.".
     virtual DtString replaceFirstIntRootOccurance(const DtString& name) const;
     virtual void setFullClassName(const DtString& name);
+    // What the model tells people of the class.
+    void setDocumentation(const DtString& text);
     // Model name whose octet boundary the templates can ask for; "0" until it is set.
     virtual void setOriginalName(const DtString& name);
     virtual const DtString& originalName() const;
@@ -97,6 +99,7 @@ protected:
     DtString myParentClassName;
     DtString myFullClassName;
     DtString myOriginalName;
+    DtString myDocumentation;
     std::int32_t myPduKind = 0;
     std::vector<DtAttribute> myAttributes;
     DtOmtProject myOmtProject;

@@ -3,6 +3,7 @@
 #include "fileGenerator/cCompatibleName.h"
 #include "fileGenerator/dataTypeMapper.h"
 #include "fileGenerator/datatypeClassNames.h"
+#include "fileGenerator/documentation.h"
 #include "fileGenerator/memberTypes.h"
 #include "foundation/perRun.h"
 #include "omtReader/complexDatatypeNode.h"
@@ -117,8 +118,11 @@ void DtComplexDataTypeFileWriter::compileAttributes(DtComplexDatatypeNode* node)
         return;
     std::vector<DtAttribute> members;
     for (const DtComplexComponentNode* component : node->components())
+    {
         members.push_back(makeMember(component->getName(), component->getDatatype(), component->getCardinality()));
-    addCompiled(node, members);
+        members.back().setDocumentation(DtDocumentation::instance().of(*component));
+    }
+    addCompiled(node, members, DtDocumentation::instance().of(*node));
 }
 
 DtString DtComplexDataTypeFileWriter::getDatatypeArrayName(const DtAttribute& attribute) const

@@ -69,8 +69,10 @@ bool DtDataTypeFileWriter::isCompiled(const DtOMTNode& node) const
     return myCompiledTypes.count(DtDataTypeMapper::instance()->quorvexType(node.getName())) != 0;
 }
 
-void DtDataTypeFileWriter::addCompiled(DtOMTNode* node, std::vector<DtAttribute> attributes)
+void DtDataTypeFileWriter::addCompiled(DtOMTNode* node, std::vector<DtAttribute> attributes,
+                                       const DtString& documentation)
 {
+    myDocumentations[node] = documentation;
     myCompiledDatatypes.emplace_back(node, std::move(attributes));
     myCompiledTypes.insert(DtDataTypeMapper::instance()->quorvexType(node->getName()));
 }
@@ -79,6 +81,7 @@ void DtDataTypeFileWriter::enterDatatype(const DtCompiledDatatype& compiled)
 {
     const DtString& target = DtDataTypeMapper::instance()->quorvexType(compiled.first->getName());
     setCurrentClass(identifier(target), compiled.second);
+    setDocumentation(myDocumentations[compiled.first]);
 }
 
 void DtDataTypeFileWriter::setCurrentClass(const DtString& className, const std::vector<DtAttribute>& attributes)

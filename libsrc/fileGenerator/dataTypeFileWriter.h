@@ -3,6 +3,7 @@
 
 #include "fileGenerator/classFileWriter.h"
 
+#include <map>
 #include <set>
 #include <utility>
 #include <vector>
@@ -35,7 +36,7 @@ protected:
     static bool hasCurrentAttribute(const DtDataTypeFileWriter& writer) { return writer.currentAttribute() != nullptr; }
     // True when the target name is among those already compiled.
     bool isCompiled(const DtOMTNode& node) const;
-    void addCompiled(DtOMTNode* node, std::vector<DtAttribute> attributes);
+    void addCompiled(DtOMTNode* node, std::vector<DtAttribute> attributes, const DtString& documentation = DtString());
     // Makes class name and attributes those of the compiled datatype. No attribute is current then.
     void enterDatatype(const DtCompiledDatatype& compiled);
     void setCurrentClass(const DtString& className, const std::vector<DtAttribute>& attributes);
@@ -56,6 +57,7 @@ private:
     bool isOwnClass(const DtString& type) const;
 
     DtCCompatibleNames& myNames;
+    std::map<const DtOMTNode*, DtString> myDocumentations; // of the compiled datatypes
     DtTokenValues<DtDataTypeFileWriter> myHeadTokens;
 };
 

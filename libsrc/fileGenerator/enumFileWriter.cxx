@@ -1,6 +1,7 @@
 #include "fileGenerator/enumFileWriter.h"
 
 #include "fileGenerator/cCompatibleName.h"
+#include "fileGenerator/commentText.h"
 #include "fileGenerator/dataTypeMapper.h"
 #include "fileGenerator/datatypeClassNames.h"
 #include "fileGenerator/literalText.h"
@@ -112,6 +113,8 @@ struct DtEnumerationFileWriter::DtTokens
             {"<!EnumerationIsSigned!>",       [](const Writer& w) { return flag(w.currentNames().numberForm.isSigned); }      },
             {"<!EnumerationIsLittleEndian!>",
              [](const Writer& w) { return flag(w.currentNames().numberForm.isLittleEndian); }                                 },
+            {"<!EnumerationDocumentation!>",
+             [](const Writer& w) { return DtCommentText(w.myCurrentEnumeration->documentation(), 0); }                        },
         };
         static const DtTokenTable<Writer> theTable(theRows,
                                                    [](const Writer& w) { return w.myCurrentEnumeration != nullptr; });
@@ -125,12 +128,14 @@ struct DtEnumerationFileWriter::DtTokens
              {
                  const DtString enumeration = w.createEnumerationName(*w.myCurrentEnumeration);
                  return w.createEnumerationValueName(enumeration, *w.myCurrentValue);
-             }                                                                                                      },
-            {"<!EnumerationFieldIdentifier!>", [](const Writer& w) { return w.currentIdentifier(); }                },
-            {"<!EnumerationFieldText!>",       [](const Writer& w) { return literalText(w.myCurrentValue->name()); }},
-            {"<!EnumerationFieldValue!>",      [](const Writer& w) { return w.myCurrentValue->val(); }              },
+             }                                                                                                         },
+            {"<!EnumerationFieldIdentifier!>",    [](const Writer& w) { return w.currentIdentifier(); }                },
+            {"<!EnumerationFieldText!>",          [](const Writer& w) { return literalText(w.myCurrentValue->name()); }},
+            {"<!EnumerationFieldValue!>",         [](const Writer& w) { return w.myCurrentValue->val(); }              },
             {"<!EnumerationFieldNumber!>",
-             [](const Writer& w) { return numberExpression(w.myCurrentValue->number()); }                           },
+             [](const Writer& w) { return numberExpression(w.myCurrentValue->number()); }                              },
+            {"<!EnumerationFieldDocumentation!>",
+             [](const Writer& w) { return DtCommentText(w.myCurrentValue->documentation(), 4); }                       },
         };
         static const DtTokenTable<Writer> theTable(theRows,
                                                    [](const Writer& w) { return w.myCurrentValue != nullptr; });

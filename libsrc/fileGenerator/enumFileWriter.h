@@ -20,11 +20,15 @@ public:
     const DtString& name() const { return myName; }
     const DtString& val() const { return myVal; }
     const DtString& number() const { return myNumber; }
+    // What the model tells people of it.
+    void setDocumentation(const DtString& text) { myDocumentation = text; }
+    const DtString& documentation() const { return myDocumentation; }
 
 private:
     DtString myName;
     DtString myVal;
     DtString myNumber;
+    DtString myDocumentation;
 };
 
 // One enumeration on its way into the enumerations header.
@@ -40,12 +44,15 @@ public:
     // The number that stands for it on the wire; without octets when the model does not tell.
     const DtNumberForm& numberForm() const { return myNumberForm; }
     void setNumberForm(const DtNumberForm& form) { myNumberForm = form; }
+    void setDocumentation(const DtString& text) { myDocumentation = text; }
+    const DtString& documentation() const { return myDocumentation; }
 
 private:
     DtString myName;
     std::vector<DtEnumerationValue> myVals;
     DtString mySize;
     DtNumberForm myNumberForm;
+    DtString myDocumentation;
 };
 
 // Writes the one header that holds all enumerations, and tells the mapper the name, size and representation of each.

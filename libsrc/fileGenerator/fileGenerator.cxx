@@ -38,6 +38,13 @@ bool DtFileGenerator::runWriters()
     return true;
 }
 
+void DtFileGenerator::setDocumentation(const DtClassDocumentation& documentation)
+{
+    myDocumentation = documentation;
+    for (const auto& writer : myWriters)
+        writer->setDocumentation(documentation.ofClass);
+}
+
 void DtFileGenerator::addInheritedAttribute(const DtString& name, const DtString& datatype, const DtString& cardinality)
 {
     if (myExamples != nullptr)
@@ -47,6 +54,9 @@ void DtFileGenerator::addInheritedAttribute(const DtString& name, const DtString
 DtAttribute DtFileGenerator::addToWriters(const DtString& name, const DtString& datatype, const DtString& cardinality)
 {
     DtAttribute attribute = makeAttribute(name, datatype, cardinality);
+    const auto documentation = myDocumentation.ofMembers.find(name);
+    if (documentation != myDocumentation.ofMembers.end())
+        attribute.setDocumentation(documentation->second);
     attribute.keepNotes(std::make_shared<DtAttributeValues>());
     for (const auto& writer : myWriters)
         writer->addAttribute(attribute);

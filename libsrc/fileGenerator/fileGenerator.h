@@ -1,6 +1,7 @@
 #ifndef FILE_GENERATOR_FILE_GENERATOR_H
 #define FILE_GENERATOR_FILE_GENERATOR_H
 
+#include "fileGenerator/documentation.h"
 #include "fileGenerator/nameClashes.h"
 #include "fileGenerator/omtProject.h"
 #include "fileGenerator/outputTable.h"
@@ -26,6 +27,8 @@ public:
 
     virtual void setParentClassName(const DtString& name);
     virtual void setPduKind(int kind);
+    // Ahead of the members.
+    void setDocumentation(const DtClassDocumentation& documentation);
     // Runs the writers in order and stops behind the file during which the user cancelled. Behind the last one, the
     // examples are made if they are wanted.
     virtual void generateFiles() = 0;
@@ -75,6 +78,7 @@ protected:
     std::list<std::unique_ptr<DtClassFileWriter>> myWriters;
 
 private:
+    DtClassDocumentation myDocumentation;
     DtExamplesCreator* myExamples = nullptr;
 };
 

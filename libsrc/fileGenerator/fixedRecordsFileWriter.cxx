@@ -2,6 +2,7 @@
 
 #include "fileGenerator/cCompatibleName.h"
 #include "fileGenerator/dataTypeMapper.h"
+#include "fileGenerator/documentation.h"
 #include "fileGenerator/memberTypes.h"
 #include "fileGenerator/netTypeTraits.h"
 #include "fileGenerator/representationWalk.h"
@@ -35,6 +36,7 @@ DtAttribute fieldMember(const DtFieldComponentNode& field)
     DtAttribute member = makeMember(field.getName(), field.getDatatype(), "1");
     if (member.type() == "DtString")
         member.setEncoding(encodingOfText(field.getDatatype()));
+    member.setDocumentation(DtDocumentation::instance().of(field));
     return member;
 }
 
@@ -85,5 +87,5 @@ void DtFixedRecordFileWriter::compileAttributes(DtFixedDatatypeNode* node, DtOMT
         members.push_back(fieldMember(*field));
     const DtString& name = node->getName();
     registerNetTypeTraits(name, DtDataTypeMapper::instance()->quorvexType(name), members, tree);
-    addCompiled(node, members);
+    addCompiled(node, members, DtDocumentation::instance().of(*node));
 }

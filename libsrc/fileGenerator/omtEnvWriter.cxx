@@ -5,6 +5,7 @@
 #include "fileGenerator/dataTypeMapper.h"
 #include "fileGenerator/datatypeClassNames.h"
 #include "fileGenerator/datatypeClosure.h"
+#include "fileGenerator/documentation.h"
 #include "fileGenerator/enumFileWriter.h"
 #include "fileGenerator/intFileGenerator.h"
 #include "fileGenerator/makeFileWriter.h"
@@ -104,6 +105,16 @@ std::vector<DtString> namesOf(const Members& members)
     return names;
 }
 
+// The texts of the model are looked up while this lives.
+class DtDocumentedRun
+{
+public:
+    explicit DtDocumentedRun(const DtOMTTree& tree) { DtDocumentation::instance().setTree(&tree); }
+    ~DtDocumentedRun() { DtDocumentation::instance().setTree(nullptr); }
+    DtDocumentedRun(const DtDocumentedRun&) = delete;
+    DtDocumentedRun& operator=(const DtDocumentedRun&) = delete;
+};
+
 // A mapping of the member's own name goes before its datatype.
 DtString valueTypeOf(const DtDatatypeFedNode& member)
 {
@@ -178,8 +189,8 @@ DtOMTTree& DtOMTEnvWriter::tree() const
 
 int DtOMTEnvWriter::writeFile(const DtString& fomName)
 {
-    tree();
     const DtTemplateRun templates;
+    const DtDocumentedRun documentation(tree());
     startRun(fomName);
     makeDirectories();
     compileExportMacroName();
@@ -300,7 +311,10 @@ void DtOMTEnvWriter::addEnumeration(DtEnumeratedDatatypeNode& node, DtEnumeratio
 {
     std::vector<DtEnumerationValue> values;
     for (const DtEnumerationNode* value : node.enumerators())
+    {
         values.emplace_back(value->getEnum(), DtString(value->getNumber()), value->numberText());
+        values.back().setDocumentation(DtDocumentation::instance().of(*value));
+    }
     const DtString& name = node.getName();
     DtEnumeration enumeration(name, values);
 
@@ -317,6 +331,7 @@ void DtOMTEnvWriter::addEnumeration(DtEnumeratedDatatypeNode& node, DtEnumeratio
     if (size != 0)
         enumeration.setSize(DtString(size));
     enumeration.setNumberForm(numberFormOfEnumeration(node.getRepresentation()));
+    enumeration.setDocumentation(DtDocumentation::instance().of(node));
     writer.addEnumeration(enumeration);
 }
 
@@ -361,9 +376,11 @@ bool DtOMTEnvWriter::hasFiles(const DtFedNode& parent) const
 // What both kinds of classes have in common, once their generator stands.
 template <typename Members>
 void DtOMTEnvWriter::generateClass(DtFileGenerator& generator, const DtSubject& owner, const DtFedNode* parent,
-                                   const DtString& parentName, const Members& members)
+                                   const DtString& parentName, const Members& members,
+                                   const DtClassDocumentation& documentation)
 {
     generator.setPduKind(myNextPduKind++);
+    generator.setDocumentation(documentation);
     generator.setFullClassName(owner.name);
     if (parent != nullptr)
     {
@@ -392,7 +409,8 @@ void DtOMTEnvWriter::addObjectToFile(DtString name, std::set<DtString>& done)
     const DtFedNode* parent = node->getParentObject();
     addInheritedMembers(generator, *node, tree().objectClassRoot());
     generateClass(generator, DtSubject::objectClass(name), parent,
-                  parent != nullptr ? objectParentName(*parent) : DtString(), node->getAttributes());
+                  parent != nullptr ? objectParentName(*parent) : DtString(), node->getAttributes(),
+                  DtDocumentation::instance().of(*node));
 }
 
 void DtOMTEnvWriter::addInteractionToFile(DtString name, std::set<DtString>& done)
@@ -413,7 +431,8 @@ void DtOMTEnvWriter::addInteractionToFile(DtString name, std::set<DtString>& don
     const DtFedNode* parent = node->getParentObject();
     addInheritedMembers(generator, *node, tree().interactionClassRoot());
     generateClass(generator, DtSubject::interactionClass(name), parent,
-                  parent != nullptr ? interactionParentName(*parent) : DtString(), node->getParameters());
+                  parent != nullptr ? interactionParentName(*parent) : DtString(), node->getParameters(),
+                  DtDocumentation::instance().of(*node));
 }
 
 // Each goes ahead of the next: in a large model they are the longest texts of a run.

@@ -23,6 +23,7 @@ class DtOMTTree;
 class DtFileGenerator;
 class DtHeldDatatypes;
 class DtClassNameClashes;
+struct DtClassDocumentation;
 
 // Driver of the generation of C++: what is generated for a selection of classes, and in which order.
 //
@@ -137,7 +138,7 @@ private:
     bool hasFiles(const DtFedNode& parent) const; // of this run, or of the toolkit
     template <typename Members>
     void generateClass(DtFileGenerator& generator, const DtSubject& owner, const DtFedNode* parent,
-                       const DtString& parentName, const Members& members);
+                       const DtString& parentName, const Members& members, const DtClassDocumentation& documentation);
     DtString interactionParentName(const DtFedNode& parent) const;
 
     // Enumerations, in omtEnvWriter.cxx.

@@ -71,7 +71,8 @@ void DtPrimitiveDataTypeFileWriter::compileIncludeList()
 {
 }
 
-void DtPrimitiveDataTypeFileWriter::compilePrimitive(DtOMTNode* node, const DtString& representation)
+void DtPrimitiveDataTypeFileWriter::compilePrimitive(DtOMTNode* node, const DtString& representation,
+                                                     const DtString& documentation)
 {
     if (isCompiled(*node))
         return;
@@ -85,5 +86,5 @@ void DtPrimitiveDataTypeFileWriter::compilePrimitive(DtOMTNode* node, const DtSt
     number.setEncoding(mapper.encOfDatatype(name));
     number.setDatatypeDatatype(primitiveType(representation, mapper.infoForBasicType(name).first.toInt()));
     number.setIsFloat(isFloatRepresentation(representation));
-    addCompiled(node, {number});
+    addCompiled(node, {number}, documentation);
 }

@@ -14,7 +14,7 @@ public:
 
 protected:
     // One member named like the datatype; its datatype's datatype is the number it holds.
-    void compilePrimitive(DtOMTNode* node, const DtString& representation);
+    void compilePrimitive(DtOMTNode* node, const DtString& representation, const DtString& documentation);
 
 private:
     struct DtTokens;

@@ -1,6 +1,7 @@
 #include "fileGenerator/simpleDataTypeFileWriter.h"
 
 #include "fileGenerator/cCompatibleName.h"
+#include "fileGenerator/documentation.h"
 #include "foundation/perRun.h"
 #include "omtReader/simpleDatatypeNode.h"
 
@@ -16,5 +17,5 @@ DtSimpleDataTypeFileWriter::DtSimpleDataTypeFileWriter(const DtString& fileName,
 
 void DtSimpleDataTypeFileWriter::compileAttributes(DtSimpleDatatypeNode* node)
 {
-    compilePrimitive(node, node->getRepresentation());
+    compilePrimitive(node, node->getRepresentation(), DtDocumentation::instance().of(*node));
 }

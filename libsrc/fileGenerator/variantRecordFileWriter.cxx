@@ -2,6 +2,7 @@
 
 #include "fileGenerator/cCompatibleName.h"
 #include "fileGenerator/datatypeClassNames.h"
+#include "fileGenerator/documentation.h"
 #include "fileGenerator/enumFileWriter.h"
 #include "fileGenerator/literalText.h"
 #include "fileGenerator/memberTypes.h"
@@ -133,10 +134,11 @@ void DtVariantRecordFileWriter::compileAttributes(DtVariantDatatypeNode* node, D
         }
         members.push_back(makeMember(alternative->getName(), alternative->getDatatype(), "0-1"));
         members.back().setDiscriminantValue(alternative->getEnumerator());
+        members.back().setDocumentation(DtDocumentation::instance().of(*alternative));
     }
     const DtString& name = node->getName();
     registerNetTypeTraits(name, DtDataTypeMapper::instance()->quorvexType(name), members, tree);
-    addCompiled(node, members);
+    addCompiled(node, members, DtDocumentation::instance().of(*node));
 }
 
 void DtVariantRecordFileWriter::setDiscriminantName(const DtString& name)

@@ -86,15 +86,15 @@ DtTemplateRules baseRules()
 
 DtTemplateRules enumRules()
 {
-    DtTemplateRules rules =
-        rulesOf(DtEnumerationFileWriter(""),
-                {
-                    {"Enumeration",
-                     {"<!EnumerationName!>", "<!EnumerationTypeName!>", "<!EnumerationIsRepeated!>",
-                      "<!EnumerationOctets!>", "<!EnumerationIsSigned!>", "<!EnumerationIsLittleEndian!>"}},
-                    {"EnumerationField",
-                     {"<!EnumerationFieldName!>", "<!EnumerationFieldIdentifier!>", "<!EnumerationFieldText!>",
-                      "<!EnumerationFieldValue!>", "<!EnumerationFieldNumber!>"}                          }
+    DtTemplateRules rules = rulesOf(
+        DtEnumerationFileWriter(""),
+        {
+            {"Enumeration",
+             {"<!EnumerationName!>", "<!EnumerationTypeName!>", "<!EnumerationIsRepeated!>", "<!EnumerationOctets!>",
+              "<!EnumerationIsSigned!>", "<!EnumerationIsLittleEndian!>", "<!EnumerationDocumentation!>"}    },
+            {"EnumerationField",
+             {"<!EnumerationFieldName!>", "<!EnumerationFieldIdentifier!>", "<!EnumerationFieldText!>",
+              "<!EnumerationFieldValue!>", "<!EnumerationFieldNumber!>", "<!EnumerationFieldDocumentation!>"}}
     });
     rules.parents = {
         {"EnumerationField", "Enumeration"}

@@ -21,6 +21,9 @@ public:
     // As the model states it; empty where it states none.
     void setValueText(const DtString& text) { myValueText = text; }
     const DtString& valueText() const { return myValueText; }
+    // As those of a DtOMTNode.
+    void setNoteLabels(const DtString& labels) { myNoteLabels = labels; }
+    const DtString& noteLabels() const { return myNoteLabels; }
     // In decimal digits: the value where it is an integer of 64 bits, with or without a sign, and the number otherwise.
     DtString numberText() const;
     // False when a value is stated that the number does not hold.
@@ -30,6 +33,7 @@ private:
     DtString myEnum;
     int myNumber = 0;
     DtString myValueText;
+    DtString myNoteLabels;
 };
 
 #endif

@@ -21,11 +21,15 @@ public:
     virtual const DtString& getUniqueName() const { return myUniqueName; }
     virtual void setNote(const DtString& note) { myNote = note; }
     virtual const DtString& getNote() const { return myNote; }
+    // The labels of the notes that the model refers to at the node and its values, with blanks in between.
+    void setNoteLabels(const DtString& labels) { myNoteLabels = labels; }
+    const DtString& noteLabels() const { return myNoteLabels; }
 
 private:
     DtString myName;
     DtString myNote;
     DtString myUniqueName;
+    DtString myNoteLabels;
 };
 
 #endif

@@ -31,6 +31,40 @@ bool DtXMLModelReader::hasName(const Values& values)
                        [](const Value& value) { return std::strcmp(value.name, attrName) == 0; });
 }
 
+namespace
+{
+// "notes" of 2000 and 2010, with "semanticsNotes" and its like in the former, and "noteReferences" of 2025.
+bool isOfNotes(const xmlAttr* attribute)
+{
+    const std::string name(reinterpret_cast<const char*>(attribute->name));
+    const std::string ending = "Notes";
+    return name == "notes" || name == "noteReferences" ||
+           (name.size() > ending.size() && name.compare(name.size() - ending.size(), ending.size(), ending) == 0);
+}
+
+void addNoteLabels(const xmlNode* node, DtString& labels)
+{
+    for (const xmlAttr* attribute = node->properties; attribute != nullptr; attribute = attribute->next)
+    {
+        if (isOfNotes(attribute))
+            labels +=
+                (labels.isEmpty() ? "" : " ") + DtString(reinterpret_cast<const char*>(DtXmlText(attribute->children)));
+    }
+}
+} // namespace
+
+DtString DtXMLModelReader::noteLabelsOf(const xmlNode* node)
+{
+    DtString labels;
+    addNoteLabels(node, labels);
+    for (const xmlNode* child = node->children; child != nullptr; child = child->next)
+    {
+        if (child->type == XML_ELEMENT_NODE && xmlFirstElementChild(const_cast<xmlNode*>(child)) == nullptr)
+            addNoteLabels(child, labels);
+    }
+    return labels;
+}
+
 void DtXMLModelReader::warnOfMissing(const xmlNode* node, const char* element, const char* what)
 {
     DtTellWarning(DtRules::missingName, DtXmlFileOf(node),

@@ -172,6 +172,11 @@ private:
 
     static const DtString& nameOf(const DtOMTNode& node) { return node.getName(); }
     static const DtString& nameOf(const DtEnumerationNode& node) { return node.getEnum(); }
+    // Of an element and of those in it that hold values.
+    static DtString noteLabelsOf(const xmlNode* node);
+    static void setNoteLabels(const xmlNode* node, DtOMTNode& item) { item.setNoteLabels(noteLabelsOf(node)); }
+    static void setNoteLabels(const xmlNode* node, DtEnumerationNode& item) { item.setNoteLabels(noteLabelsOf(node)); }
+    static void setNoteLabels(const xmlNode* /*node*/, DtNoteNode& /*item*/) {}
     static bool hasName(const Values& values);
     static void warnOfMissing(const xmlNode* node, const char* element, const char* what);
 
@@ -228,6 +233,7 @@ std::unique_ptr<Node> DtXMLModelReader::readItem(xmlNode* node, const DtXmlField
 {
     auto item = std::make_unique<Node>();
     readFields(node, fields, *item);
+    setNoteLabels(node, *item);
     return item;
 }
 
@@ -249,6 +255,7 @@ std::unique_ptr<Node> DtXMLModelReader::readMember(xmlNode* node, const DtXmlFie
     const Values values = valuesOf(node);
     auto member = std::make_unique<Node>();
     setFields(values, fields, *member);
+    setNoteLabels(node, *member);
     if (!member->getName().isEmpty() || !hasName(values))
         return member;
     warnOfMissing(node, element, attrName);

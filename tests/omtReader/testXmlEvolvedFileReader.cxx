@@ -350,6 +350,24 @@ private Q_SLOTS:
                                          "from -2147483648 to 2147483647: a, c\n"));
     }
 
+    // At the element and at those in it that hold values, not at members, which have notes of their own.
+    void labelsOfNotesAreRead()
+    {
+        const auto tree = readSections(
+            "<objects><objectClass notes='c1'><name noteReferences='c2 c3'>HLAobjectRoot</name>"
+            "<attribute notes='a1'><name>x</name><updateCondition notes='a2'>u</updateCondition></attribute>"
+            "</objectClass></objects><dataTypes><enumeratedDataTypes><enumeratedData notes='d'><name>e</name>"
+            "<enumerator notes='n'><name>v</name><value>1</value></enumerator></enumeratedData></enumeratedDataTypes>"
+            "</dataTypes>");
+        const DtObjectClassFedNode& root = *tree->objectClassRoot();
+        QCOMPARE(toQt(root.noteLabels()), QString("c1 c2 c3"));
+        QCOMPARE(toQt(root.getAttributes().front()->noteLabels()), QString("a1 a2"));
+        const DtEnumeratedDatatypeNode& enumeration = *tree->getEnumeratedDatatypeNode("e");
+        QCOMPARE(toQt(enumeration.noteLabels()), QString("d"));
+        QCOMPARE(toQt(enumeration.getEnumerationNode("v")->noteLabels()), QString("n"));
+        QVERIFY(root.getNote().isEmpty() && enumeration.getNote().isEmpty());
+    }
+
     // The number stays as it is, and with it who is left out; what it does not hold is kept beside it.
     void valueThatIsNoNumberIsToldAndKept()
     {

@@ -273,6 +273,7 @@ const std::vector<DtClassFileWriter::DtNameRow>& DtClassFileWriter::DtNameTokens
     using Writer = DtClassFileWriter;
     static const std::vector<DtNameRow> theRows = {
         {"<!FileToInclude!>",            [](const Writer& w) { return identifier(w.myCurrentInclude) + ".h"; }},
+        {"<!IncludeIsGenerated!>",       [](const Writer& w) { return flag(DtDatatypeClassNames::instance().isFileStem(identifier(w.myCurrentInclude))); }},
         {"<!ClassName!>",                [](const Writer& w) { return identifier(w.myClassName); }},
         {"<!NonDtClassName!>",           [](const Writer& w) { return bareClassName(w.myClassName); }},
         {"<!FileBase!>",                 "%F"},

@@ -34,6 +34,7 @@ DtString DtDatatypeClassNames::classNameOfStem(const DtString& stem)
 void DtDatatypeClassNames::clear()
 {
     myClassNames.clear();
+    myFileStems.clear();
     myNamesakes.clear();
     myEnumerationRepresentations.clear();
 }
@@ -41,6 +42,7 @@ void DtDatatypeClassNames::clear()
 void DtDatatypeClassNames::add(const DtString& datatype, const DtString& className)
 {
     myClassNames[datatype] = className;
+    myFileStems.insert(fileStemOf(datatype));
 }
 
 bool DtDatatypeClassNames::contains(const DtString& datatype) const

@@ -4,6 +4,7 @@
 #include "foundation/string.h"
 
 #include <map>
+#include <set>
 
 class DtCCompatibleNames;
 
@@ -32,6 +33,9 @@ public:
     // File name without directory and extension of that class; empty likewise.
     DtString fileStemOf(const DtString& datatype) const;
 
+    // Whether a class of this run stands in files of that name, without directory and extension.
+    bool isFileStem(const DtString& stem) const { return myFileStems.count(stem) != 0; }
+
     // Records that the toolkit has a type of the name that a generated class or enumeration is stated to have, and what
     // it is called in C++ instead. The identifier may be that name where a namespace keeps the two apart.
     void addNamesake(const DtString& datatype, const DtString& statedName, const DtString& identifier);
@@ -52,6 +56,7 @@ private:
     };
 
     std::map<DtString, DtString> myClassNames;
+    std::set<DtString> myFileStems;
     std::map<DtString, DtNamesake> myNamesakes;
     std::map<DtString, DtString> myEnumerationRepresentations;
 };

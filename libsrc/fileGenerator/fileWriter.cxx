@@ -1,5 +1,6 @@
 #include "fileGenerator/fileWriter.h"
 
+#include "fileGenerator/commentText.h"
 #include "fileGenerator/dataTypeMapper.h"
 #include "fileGenerator/progressMeter.h"
 #include "fileGenerator/relativePath.h"
@@ -7,6 +8,7 @@
 #include "fileGenerator/templateBlock.h"
 #include "fileGenerator/templateFiles.h"
 #include "fileGenerator/templateScan.h"
+#include "foundation/applicationSettings.h"
 #include "foundation/assertion.h"
 #include "foundation/restored.h"
 #include "foundation/stringUtils.h"
@@ -35,6 +37,13 @@ DtString flag(bool isSet)
 DtString mapsRtiObjectIds()
 {
     return DtDataTypeMapper::instance()->mapRtiObjectIdToGlobalId() ? "1" : "0";
+}
+
+DtString modelFileName()
+{
+    DtFilename name(DtSettings::instance().cpp.fomDefinitionFileName);
+    name.stripPath();
+    return DtCommentWords(name);
 }
 
 DtString typesHeader(const DtString& fomFileName)
@@ -230,6 +239,9 @@ const DtTokenTable<DtFileWriter>& DtFileWriter::baseTable()
         {"<!FomFileName!>",              [](const auto& writer) { return DtString(writer.myFomFileName); }               },
         {"<!FomFileNameTypesHeader!>",   [](const auto& writer) { return typesHeader(writer.myFomFileName); }            },
         {"<!FomFileNameNoDash!>",        [](const auto& writer) { return DtString(writer.myFomFileNameNoDash); }         },
+        {"<!ModelFileName!>",            [](const auto&) { return modelFileName(); }                                     },
+        {"<!GeneratorVersion!>",         [](const auto&) { return DtString(DtApplicationSettings::theVersion); }         },
+        {"<!EmptyLine!>",                [](const auto&) { return DtString(); }                                          },
         {"<!GenerateErrors!>",           [](const auto&) { return flag(generateErrors()); }                              },
         {"<!UseDecodeIncludes!>",        [](const auto&) { return flag(useDecodeIncludes()); }                           },
     };

@@ -227,7 +227,7 @@ DtTemplateRules classRules()
     for (const std::string& token : replacedTokens(*probe, known))
         if (rules.freeTokens.count(token) == 0)
             rules.loops["Attributes"].insert(token);
-    moveTokens(rules, "IncludeFiles", {"<!FileToInclude!>"});
+    moveTokens(rules, "IncludeFiles", {"<!FileToInclude!>", "<!IncludeIsGenerated!>"});
     rules.loops["NamesakeIncludeFiles"] = rules.loops["IncludeFiles"];
     moveTokens(rules, "FomModules", {"<!FomModule!>"});
     for (const std::string& token : known)

@@ -297,7 +297,7 @@ void TestBuildProducts::solutionWithoutRecordsHasNoPass()
 void TestBuildProducts::knownTokensAreThoseThatAreReplaced()
 {
     const std::size_t base = DtFileWriter("", "").tokenChain().tokens().size();
-    QCOMPARE(base, std::size_t(11));
+    QCOMPARE(base, std::size_t(14));
     QCOMPARE(DtProjectFileWriter("", {}, 9).tokenChain().tokens().size(), base + 5);
     QCOMPARE(DtMakefileWriter("", {}).tokenChain().tokens().size(), base + 3);
     const std::vector<DtString> tokens = DtSolutionsFileWriter("", "").tokenChain().tokens();

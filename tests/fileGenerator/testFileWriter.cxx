@@ -403,7 +403,7 @@ void TestFileWriter::everyBaseTokenHasItsValue()
     for (const DtString& token : DtMemoryWriter().tokenChain().tokens())
         text += token.stdString() + ";";
     QCOMPARE(expand(text), std::string("1;DEMO;DT_DLL_DEMO;32;sim;dir/my-model.v2.xml;mymodelv2;inc/mymodelv2Types.h;"
-                                       "mymodelv2;1;;"));
+                                       "mymodelv2;my-model.v2.xml;5.10;;1;;"));
     DtDataTypeMapper::instance()->setMapRtiObjectIdToGlobalId(false);
     DtFileWriter::setUseDecodeIncludes(true);
     QCOMPARE(expand("<!mapRtiObjectIdToGlobalId!><!UseDecodeIncludes!>"), std::string("01"));

@@ -22,12 +22,12 @@ public:
     DtAnimalStateRepository();
 
     typedef DtString ValueOfName;
-    void setName(const ValueOfName& value);
     const ValueOfName& name() const;
+    void setName(const ValueOfName& value);
 
     typedef DtInt32 ValueOfLegs;
-    void setLegs(const ValueOfLegs& value);
     const ValueOfLegs& legs() const;
+    void setLegs(const ValueOfLegs& value);
 
 private:
     // The values stand in a structure of their own, where no accessor can share their names.

@@ -32,8 +32,8 @@ public:
     static void removeCallback(DtExerciseConn* exerciseConn, DtCallInterCb callback, void* user);
 
     typedef DtString ValueOfText;
-    void setText(const ValueOfText& value);
     const ValueOfText& text() const;
+    void setText(const ValueOfText& value);
 
 protected:
     // For subclasses, which have names and coders of their own.

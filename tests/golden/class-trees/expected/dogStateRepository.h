@@ -22,12 +22,12 @@ public:
     DtDogStateRepository();
 
     typedef bool ValueOfBarks;
-    void setBarks(const ValueOfBarks& value);
     const ValueOfBarks& barks() const;
+    void setBarks(const ValueOfBarks& value);
 
     typedef DtFloat64 ValueOfWeight__Kg;
-    void setWeight__Kg(const ValueOfWeight__Kg& value);
     const ValueOfWeight__Kg& weight__Kg() const;
+    void setWeight__Kg(const ValueOfWeight__Kg& value);
 
 private:
     // The values stand in a structure of their own, where no accessor can share their names.

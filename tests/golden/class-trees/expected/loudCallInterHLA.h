@@ -32,8 +32,8 @@ public:
     static void removeCallback(DtExerciseConn* exerciseConn, DtLoudCallInterCb callback, void* user);
 
     typedef DtFloat32 ValueOfLoudness;
-    void setLoudness(const ValueOfLoudness& value);
     const ValueOfLoudness& loudness() const;
+    void setLoudness(const ValueOfLoudness& value);
 
 protected:
     // For subclasses, which have names and coders of their own.

@@ -29,36 +29,37 @@ public:
     DtMeterStateRepository();
 
     typedef DtUnsigned16LE ValueOfRaw;
-    void setRaw(const ValueOfRaw& value);
     const ValueOfRaw& raw() const;
+    void setRaw(const ValueOfRaw& value);
 
     typedef DtHours ValueOfRunning;
-    void setRunning(const ValueOfRunning& value);
+    /// Units: h.
     const ValueOfRunning& running() const;
+    void setRunning(const ValueOfRunning& value);
 
     typedef DtState8 ValueOfState;
-    void setState(const ValueOfState& value);
     const ValueOfState& state() const;
+    void setState(const ValueOfState& value);
 
     typedef DtRow ValueOfWeek;
-    void setWeek(const ValueOfWeek& value);
     const ValueOfWeek& week() const;
+    void setWeek(const ValueOfWeek& value);
 
     typedef DtNotes ValueOfRemarks;
-    void setRemarks(const ValueOfRemarks& value);
     const ValueOfRemarks& remarks() const;
+    void setRemarks(const ValueOfRemarks& value);
 
     typedef DtHistory ValueOfPast;
-    void setPast(const ValueOfPast& value);
     const ValueOfPast& past() const;
+    void setPast(const ValueOfPast& value);
 
     typedef DtReading ValueOfLast;
-    void setLast(const ValueOfLast& value);
     const ValueOfLast& last() const;
+    void setLast(const ValueOfLast& value);
 
     typedef DtContent ValueOfInside;
-    void setInside(const ValueOfInside& value);
     const ValueOfInside& inside() const;
+    void setInside(const ValueOfInside& value);
 
 private:
     // The values stand in a structure of their own, where no accessor can share their names.

@@ -16,6 +16,7 @@
 #include <vector>
 
 // The attribute values of one PortEntity: its own here, those of its superclasses in the bases.
+/// Anything with a place in the harbour.
 class DT_DLL_CASE DtPortEntityStateRepository
     : public DtStateRepository
 {
@@ -24,16 +25,19 @@ public:
     DtPortEntityStateRepository();
 
     typedef DtGeoPoint ValueOfPosition;
-    void setPosition(const ValueOfPosition& value);
+    /// Where it is.
     const ValueOfPosition& position() const;
+    void setPosition(const ValueOfPosition& value);
 
     typedef DtShortText ValueOfName;
-    void setName(const ValueOfName& value);
+    /// What it is called.
     const ValueOfName& name() const;
+    void setName(const ValueOfName& value);
 
     typedef DtInt64 ValueOfSerial;
-    void setSerial(const ValueOfSerial& value);
+    /// Number in the register.
     const ValueOfSerial& serial() const;
+    void setSerial(const ValueOfSerial& value);
 
 private:
     // The values stand in a structure of their own, where no accessor can share their names.

@@ -14,6 +14,7 @@
 #include <vector>
 
 // The attribute values of one PortEntity.Vessel.Tug/Pusher: its own here, those of its superclasses in the bases.
+/// Moves other ships.
 class DT_DLL_CASE DtTug__PusherStateRepository
     : public DtVesselStateRepository
 {
@@ -22,16 +23,20 @@ public:
     DtTug__PusherStateRepository();
 
     typedef DtFloat64 ValueOfPull__Push;
-    void setPull__Push(const ValueOfPull__Push& value);
+    /// Force on the line.
+    /// Units: N.
     const ValueOfPull__Push& pull__Push() const;
+    void setPull__Push(const ValueOfPull__Push& value);
 
     typedef DtLineState32 ValueOfLine__1;
-    void setLine__1(const ValueOfLine__1& value);
+    /// The first line.
     const ValueOfLine__1& line__1() const;
+    void setLine__1(const ValueOfLine__1& value);
 
     typedef DtString ValueOfOwner;
-    void setOwner(const ValueOfOwner& value);
+    /// Company.
     const ValueOfOwner& owner() const;
+    void setOwner(const ValueOfOwner& value);
 
 private:
     // The values stand in a structure of their own, where no accessor can share their names.

@@ -15,6 +15,7 @@
 #include <vector>
 
 // The attribute values of one PortEntity.Vessel: its own here, those of its superclasses in the bases.
+/// Anything that floats.
 class DT_DLL_CASE DtVesselStateRepository
     : public DtPortEntityStateRepository
 {
@@ -23,32 +24,41 @@ public:
     DtVesselStateRepository();
 
     typedef DtFloat32 ValueOfSpeed;
-    void setSpeed(const ValueOfSpeed& value);
+    /// Speed over ground.
+    /// Units: kn.
     const ValueOfSpeed& speed() const;
+    void setSpeed(const ValueOfSpeed& value);
 
     typedef DtFloat64 ValueOfHeading__True;
-    void setHeading__True(const ValueOfHeading__True& value);
+    /// Direction of the bow.
+    /// Units: deg.
     const ValueOfHeading__True& heading__True() const;
+    void setHeading__True(const ValueOfHeading__True& value);
 
     typedef DtVesselState8 ValueOfState;
-    void setState(const ValueOfState& value);
+    /// What it is doing.
     const ValueOfState& state() const;
+    void setState(const ValueOfState& value);
 
     typedef DtString ValueOfTheClass;
-    void setTheClass(const ValueOfTheClass& value);
+    /// Class of the register, a word of the language.
     const ValueOfTheClass& theClass() const;
+    void setTheClass(const ValueOfTheClass& value);
 
     typedef DtInt32 ValueOfTheInt;
-    void setTheInt(const ValueOfTheInt& value);
+    /// Another word of the language.
     const ValueOfTheInt& theInt() const;
+    void setTheInt(const ValueOfTheInt& value);
 
     typedef DtVesselState16 ValueOfTheTemplate;
-    void setTheTemplate(const ValueOfTheTemplate& value);
+    /// A word of the language in another case.
     const ValueOfTheTemplate& theTemplate() const;
+    void setTheTemplate(const ValueOfTheTemplate& value);
 
     typedef DtPersonList ValueOfCrew;
-    void setCrew(const ValueOfCrew& value);
+    /// Who is aboard.
     const ValueOfCrew& crew() const;
+    void setCrew(const ValueOfCrew& value);
 
 private:
     // The values stand in a structure of their own, where no accessor can share their names.

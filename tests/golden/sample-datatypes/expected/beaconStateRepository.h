@@ -42,6 +42,7 @@
 #include <vector>
 
 // The attribute values of one PortEntity.Beacon: its own here, those of its superclasses in the bases.
+/// A light at the entrance; it shows every way to lay a value out.
 class DT_DLL_CASE DtBeaconStateRepository
     : public DtPortEntityStateRepository
 {
@@ -50,176 +51,224 @@ public:
     DtBeaconStateRepository();
 
     typedef DtLampState ValueOfLamp;
-    void setLamp(const ValueOfLamp& value);
+    /// What the lamp does.
     const ValueOfLamp& lamp() const;
+    void setLamp(const ValueOfLamp& value);
 
     typedef DtLampMatrix ValueOfLamps;
-    void setLamps(const ValueOfLamps& value);
+    /// Every lamp of the front, row by row.
     const ValueOfLamps& lamps() const;
+    void setLamps(const ValueOfLamps& value);
 
     typedef DtBearing ValueOfSector;
-    void setSector(const ValueOfSector& value);
+    /// Direction of the white sector.
+    /// Units: deg.
     const ValueOfSector& sector() const;
+    void setSector(const ValueOfSector& value);
 
     typedef DtRouteCode ValueOfCallSign;
-    void setCallSign(const ValueOfCallSign& value);
+    /// What it is called on the radio.
     const ValueOfCallSign& callSign() const;
+    void setCallSign(const ValueOfCallSign& value);
 
     typedef DtCelsius ValueOfTemperature;
-    void setTemperature(const ValueOfTemperature& value);
+    /// Of the lamp house.
+    /// Units: C.
     const ValueOfTemperature& temperature() const;
+    void setTemperature(const ValueOfTemperature& value);
 
     typedef DtTrim24 ValueOfTilt;
-    void setTilt(const ValueOfTilt& value);
+    /// Out of the vertical, in seconds of arc.
+    /// Units: 1.
     const ValueOfTilt& tilt() const;
+    void setTilt(const ValueOfTilt& value);
 
     typedef DtTiltTable ValueOfTilts;
-    void setTilts(const ValueOfTilts& value);
+    /// The same on three levels.
     const ValueOfTilts& tilts() const;
+    void setTilts(const ValueOfTilts& value);
 
     typedef DtRegisterNumber ValueOfTheRegister;
-    void setTheRegister(const ValueOfTheRegister& value);
+    /// Number in the list of lights.
+    /// Units: 1.
     const ValueOfTheRegister& theRegister() const;
+    void setTheRegister(const ValueOfTheRegister& value);
 
     typedef DtU16 ValueOfMark;
-    void setMark(const ValueOfMark& value);
+    /// Letter on the wall.
     const ValueOfMark& mark() const;
+    void setMark(const ValueOfMark& value);
 
     typedef DtString ValueOfImage;
-    void setImage(const ValueOfImage& value);
+    /// Photograph.
     const ValueOfImage& image() const;
+    void setImage(const ValueOfImage& value);
 
     typedef bool ValueOfTested;
-    void setTested(const ValueOfTested& value);
+    /// Passed its last test.
     const ValueOfTested& tested() const;
+    void setTested(const ValueOfTested& value);
 
     typedef bool ValueOfManned;
-    void setManned(const ValueOfManned& value);
+    /// Somebody is there.
     const ValueOfManned& manned() const;
+    void setManned(const ValueOfManned& value);
 
     typedef DtNameList ValueOfNeighbours;
-    void setNeighbours(const ValueOfNeighbours& value);
+    /// Beacons in sight.
     const ValueOfNeighbours& neighbours() const;
+    void setNeighbours(const ValueOfNeighbours& value);
 
     typedef DtBearingList ValueOfSights;
-    void setSights(const ValueOfSights& value);
+    /// Where those are.
     const ValueOfSights& sights() const;
+    void setSights(const ValueOfSights& value);
 
     typedef DtZone64 ValueOfZone;
-    void setZone(const ValueOfZone& value);
+    /// Zone of the harbour that it stands in.
     const ValueOfZone& zone() const;
+    void setZone(const ValueOfZone& value);
 
     typedef DtCurrent16 ValueOfCurrent;
-    void setCurrent(const ValueOfCurrent& value);
+    /// Of the water at its foot.
     const ValueOfCurrent& current() const;
+    void setCurrent(const ValueOfCurrent& value);
 
     typedef DtRotationList ValueOfWatch;
-    void setWatch(const ValueOfWatch& value);
+    /// Who looks after it.
     const ValueOfWatch& watch() const;
+    void setWatch(const ValueOfWatch& value);
 
     typedef DtSignalLog ValueOfCalls;
-    void setCalls(const ValueOfCalls& value);
+    /// Signals that were sent.
     const ValueOfCalls& calls() const;
+    void setCalls(const ValueOfCalls& value);
 
     typedef DtPositionFix ValueOfFix;
-    void setFix(const ValueOfFix& value);
+    /// Where it stands, by survey or by the chart.
     const ValueOfFix& fix() const;
+    void setFix(const ValueOfFix& value);
 
     typedef DtTestResult ValueOfTest;
-    void setTest(const ValueOfTest& value);
+    /// Outcome of the last test.
     const ValueOfTest& test() const;
+    void setTest(const ValueOfTest& value);
 
     typedef DtPermit ValueOfPass;
-    void setPass(const ValueOfPass& value);
+    /// Leave to enter.
     const ValueOfPass& pass() const;
+    void setPass(const ValueOfPass& value);
 
     typedef DtLampReport ValueOfCondition;
-    void setCondition(const ValueOfCondition& value);
+    /// State of the lamp.
     const ValueOfCondition& condition() const;
+    void setCondition(const ValueOfCondition& value);
 
     typedef DtInspection ValueOfSurvey;
-    void setSurvey(const ValueOfSurvey& value);
+    /// What the diver found.
     const ValueOfSurvey& survey() const;
+    void setSurvey(const ValueOfSurvey& value);
 
     typedef DtEquipment ValueOfGear;
-    void setGear(const ValueOfGear& value);
+    /// Tools on site.
     const ValueOfGear& gear() const;
+    void setGear(const ValueOfGear& value);
 
     typedef DtZoneRule ValueOfRule;
-    void setRule(const ValueOfRule& value);
+    /// Limit in its zone.
     const ValueOfRule& rule() const;
+    void setRule(const ValueOfRule& value);
 
     typedef DtReportFrame ValueOfPaper;
-    void setPaper(const ValueOfPaper& value);
+    /// Form of the office.
     const ValueOfPaper& paper() const;
+    void setPaper(const ValueOfPaper& value);
 
     typedef DtGateTimes ValueOfTimes;
-    void setTimes(const ValueOfTimes& value);
+    /// When the gate opens.
     const ValueOfTimes& times() const;
+    void setTimes(const ValueOfTimes& value);
 
     typedef DtLockGrid ValueOfChambers;
-    void setChambers(const ValueOfChambers& value);
+    /// Water in the lock, by row, column and level.
     const ValueOfChambers& chambers() const;
+    void setChambers(const ValueOfChambers& value);
 
     typedef DtLongNote ValueOfRemark;
-    void setRemark(const ValueOfRemark& value);
+    /// Note of the keeper.
     const ValueOfRemark& remark() const;
+    void setRemark(const ValueOfRemark& value);
 
     typedef DtDraughtTable ValueOfDraughts;
-    void setDraughts(const ValueOfDraughts& value);
+    /// Of the last ships.
     const ValueOfDraughts& draughts() const;
+    void setDraughts(const ValueOfDraughts& value);
 
     typedef DtTideRing ValueOfRing;
-    void setRing(const ValueOfRing& value);
+    /// Last levels of the tide.
     const ValueOfRing& ring() const;
+    void setRing(const ValueOfRing& value);
 
     typedef DtLineList ValueOfLines;
-    void setLines(const ValueOfLines& value);
+    /// State of all lines.
     const ValueOfLines& lines() const;
+    void setLines(const ValueOfLines& value);
 
     typedef DtDeep32 ValueOfDeep;
-    void setDeep(const ValueOfDeep& value);
+    /// Class of depth.
     const ValueOfDeep& deep() const;
+    void setDeep(const ValueOfDeep& value);
 
     typedef DtSlack24 ValueOfSlack;
-    void setSlack(const ValueOfSlack& value);
+    /// Class of the current.
     const ValueOfSlack& slack() const;
+    void setSlack(const ValueOfSlack& value);
 
     typedef DtHullPart32 ValueOfFind;
-    void setFind(const ValueOfFind& value);
+    /// Part of a boat that lies at its foot.
     const ValueOfFind& find() const;
+    void setFind(const ValueOfFind& value);
 
     typedef DtEmpty__Record ValueOfSpare;
-    void setSpare(const ValueOfSpare& value);
+    /// Kept for later.
     const ValueOfSpare& spare() const;
+    void setSpare(const ValueOfSpare& value);
 
     typedef DtInt32 ValueOfSteps;
-    void setSteps(const ValueOfSteps& value);
+    /// Of the stair.
     const ValueOfSteps& steps() const;
+    void setSteps(const ValueOfSteps& value);
 
     typedef DtInt64 ValueOfRank;
-    void setRank(const ValueOfRank& value);
+    /// By height.
     const ValueOfRank& rank() const;
+    void setRank(const ValueOfRank& value);
 
     typedef DtInt16 ValueOfFloor;
-    void setFloor(const ValueOfFloor& value);
+    /// Where the keeper lives.
     const ValueOfFloor& floor() const;
+    void setFloor(const ValueOfFloor& value);
 
     typedef DtU8 ValueOfSign;
-    void setSign(const ValueOfSign& value);
+    /// On the door.
     const ValueOfSign& sign() const;
+    void setSign(const ValueOfSign& value);
 
     typedef DtInt16 ValueOfFooting;
-    void setFooting(const ValueOfFooting& value);
+    /// Water at its foot.
+    /// Units: cm.
     const ValueOfFooting& footing() const;
+    void setFooting(const ValueOfFooting& value);
 
     typedef DtHarbourInteger24LE ValueOfSwing;
-    void setSwing(const ValueOfSwing& value);
+    /// Of the lens, low octet first.
     const ValueOfSwing& swing() const;
+    void setSwing(const ValueOfSwing& value);
 
     typedef DtDoorStates ValueOfDoors;
-    void setDoors(const ValueOfDoors& value);
+    /// Which ones are open.
     const ValueOfDoors& doors() const;
+    void setDoors(const ValueOfDoors& value);
 
 private:
     // The values stand in a structure of their own, where no accessor can share their names.

@@ -18,6 +18,7 @@
 #include <vector>
 
 // The attribute values of one PortEntity.Berth: its own here, those of its superclasses in the bases.
+/// A place to lie at.
 class DT_DLL_CASE DtBerthStateRepository
     : public DtPortEntityStateRepository
 {
@@ -26,28 +27,34 @@ public:
     DtBerthStateRepository();
 
     typedef DtFloat64 ValueOfLength;
-    void setLength(const ValueOfLength& value);
+    /// In metres.
     const ValueOfLength& length() const;
+    void setLength(const ValueOfLength& value);
 
     typedef DtDepthGrid ValueOfDepths;
-    void setDepths(const ValueOfDepths& value);
+    /// Soundings, bow to stern and side to side.
     const ValueOfDepths& depths() const;
+    void setDepths(const ValueOfDepths& value);
 
     typedef DtOccupant ValueOfOccupant;
-    void setOccupant(const ValueOfOccupant& value);
+    /// Who lies here.
     const ValueOfOccupant& occupant() const;
+    void setOccupant(const ValueOfOccupant& value);
 
     typedef DtFlagBits ValueOfFlags;
-    void setFlags(const ValueOfFlags& value);
+    /// One bit for every bollard.
     const ValueOfFlags& flags() const;
+    void setFlags(const ValueOfFlags& value);
 
     typedef DtBerthKind64 ValueOfKind64;
-    void setKind64(const ValueOfKind64& value);
+    /// What the berth is for.
     const ValueOfKind64& kind64() const;
+    void setKind64(const ValueOfKind64& value);
 
     typedef DtFenderList ValueOfFenders;
-    void setFenders(const ValueOfFenders& value);
+    /// Fenders, padded.
     const ValueOfFenders& fenders() const;
+    void setFenders(const ValueOfFenders& value);
 
 private:
     // The values stand in a structure of their own, where no accessor can share their names.

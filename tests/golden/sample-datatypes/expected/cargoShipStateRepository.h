@@ -17,6 +17,7 @@
 #include <vector>
 
 // The attribute values of one PortEntity.Vessel.CargoShip: its own here, those of its superclasses in the bases.
+/// Carries goods.
 class DT_DLL_CASE DtCargoShipStateRepository
     : public DtVesselStateRepository
 {
@@ -25,24 +26,29 @@ public:
     DtCargoShipStateRepository();
 
     typedef DtHoldTable ValueOfHolds;
-    void setHolds(const ValueOfHolds& value);
+    /// What every hold carries.
     const ValueOfHolds& holds() const;
+    void setHolds(const ValueOfHolds& value);
 
     typedef DtCargo_Item_List ValueOfManifest;
-    void setManifest(const ValueOfManifest& value);
+    /// What is aboard.
     const ValueOfManifest& manifest() const;
+    void setManifest(const ValueOfManifest& value);
 
     typedef DtFloat32 ValueOfDraught;
-    void setDraught(const ValueOfDraught& value);
+    /// In metres.
     const ValueOfDraught& draught() const;
+    void setDraught(const ValueOfDraught& value);
 
     typedef bool ValueOfDangerous;
-    void setDangerous(const ValueOfDangerous& value);
+    /// Carries dangerous goods.
     const ValueOfDangerous& dangerous() const;
+    void setDangerous(const ValueOfDangerous& value);
 
     typedef DtSeal__Code ValueOfSeal;
-    void setSeal(const ValueOfSeal& value);
+    /// Seal of the customs.
     const ValueOfSeal& seal() const;
+    void setSeal(const ValueOfSeal& value);
 
 private:
     // The values stand in a structure of their own, where no accessor can share their names.

@@ -20,6 +20,7 @@
 #include <vector>
 
 // The attribute values of one Weather: its own here, those of its superclasses in the bases.
+/// Weather over the harbour.
 class DT_DLL_CASE DtWeatherStateRepository
     : public DtStateRepository
 {
@@ -28,28 +29,35 @@ public:
     DtWeatherStateRepository();
 
     typedef DtWindRecord ValueOfWind;
-    void setWind(const ValueOfWind& value);
+    /// Wind.
     const ValueOfWind& wind() const;
+    void setWind(const ValueOfWind& value);
 
     typedef DtReportText ValueOfReport;
-    void setReport(const ValueOfReport& value);
+    /// Text that ends with a zero.
     const ValueOfReport& report() const;
+    void setReport(const ValueOfReport& value);
 
     typedef DtSampleRun ValueOfSamples;
-    void setSamples(const ValueOfSamples& value);
+    /// Samples to the end of the buffer.
     const ValueOfSamples& samples() const;
+    void setSamples(const ValueOfSamples& value);
 
     typedef DtCodeRange ValueOfCodes;
-    void setCodes(const ValueOfCodes& value);
+    /// One to ten codes.
     const ValueOfCodes& codes() const;
+    void setCodes(const ValueOfCodes& value);
 
     typedef DtTide16LE ValueOfTide;
-    void setTide(const ValueOfTide& value);
+    /// Tide, low octet first.
+    /// Units: cm.
     const ValueOfTide& tide() const;
+    void setTide(const ValueOfTide& value);
 
     typedef DtPaddedTrace ValueOfTrace;
-    void setTrace(const ValueOfTrace& value);
+    /// Trace, padded.
     const ValueOfTrace& trace() const;
+    void setTrace(const ValueOfTrace& value);
 
 private:
     // The values stand in a structure of their own, where no accessor can share their names.

@@ -35,6 +35,7 @@ public:
 };
 
 // One Radio.Answer: its own parameters here, those of its superclasses in the bases.
+/// Says what became of an order.
 class DT_DLL_CASE DtAnswerInterInter : public DtRadioInter
 {
 public:
@@ -48,12 +49,14 @@ public:
     static void removeCallback(DtExerciseConn* exerciseConn, DtAnswerInterInterCb callback, void* user);
 
     typedef bool ValueOfDone;
-    void setDone(const ValueOfDone& value);
+    /// Carried out.
     const ValueOfDone& done() const;
+    void setDone(const ValueOfDone& value);
 
     typedef DtOccupant ValueOfReason;
-    void setReason(const ValueOfReason& value);
+    /// Who is in the way.
     const ValueOfReason& reason() const;
+    void setReason(const ValueOfReason& value);
 
 protected:
     // For subclasses, which have names of their own.

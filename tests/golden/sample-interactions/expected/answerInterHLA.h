@@ -21,6 +21,7 @@ typedef void (*DtAnswerInterCb)(DtAnswerInter* interaction, void* user);
 // One Radio.Answer: its own parameters here, those of its superclasses in the bases.
 //
 // It is sent with DtExerciseConn::sendInteraction() and comes in through a callback.
+/// Says what became of an order.
 class DT_DLL_CASE DtAnswerInter
     : public DtRadioInter
 {
@@ -33,12 +34,14 @@ public:
     static void removeCallback(DtExerciseConn* exerciseConn, DtAnswerInterCb callback, void* user);
 
     typedef bool ValueOfDone;
-    void setDone(const ValueOfDone& value);
+    /// Carried out.
     const ValueOfDone& done() const;
+    void setDone(const ValueOfDone& value);
 
     typedef DtOccupant ValueOfReason;
-    void setReason(const ValueOfReason& value);
+    /// Who is in the way.
     const ValueOfReason& reason() const;
+    void setReason(const ValueOfReason& value);
 
 protected:
     // For subclasses, which have names and coders of their own.

@@ -36,6 +36,7 @@ public:
 };
 
 // One Collision: its own parameters here, those of its superclasses in the bases.
+/// Two things have met.
 class DT_DLL_CASE DtCollisionInterInter : public DtInteraction
 {
 public:
@@ -49,16 +50,20 @@ public:
     static void removeCallback(DtExerciseConn* exerciseConn, DtCollisionInterInterCb callback, void* user);
 
     typedef DtFloat64 ValueOfForce;
-    void setForce(const ValueOfForce& value);
+    /// How hard.
+    /// Units: N.
     const ValueOfForce& force() const;
+    void setForce(const ValueOfForce& value);
 
     typedef DtGeoPoint ValueOfWhere;
-    void setWhere(const ValueOfWhere& value);
+    /// Where.
     const ValueOfWhere& where() const;
+    void setWhere(const ValueOfWhere& value);
 
     typedef DtCargo_Item_List ValueOfDebris;
-    void setDebris(const ValueOfDebris& value);
+    /// What fell into the water.
     const ValueOfDebris& debris() const;
+    void setDebris(const ValueOfDebris& value);
 
 protected:
     // For subclasses, which have names of their own.

@@ -22,6 +22,7 @@ typedef void (*DtCollisionInterCb)(DtCollisionInter* interaction, void* user);
 // One Collision: its own parameters here, those of its superclasses in the bases.
 //
 // It is sent with DtExerciseConn::sendInteraction() and comes in through a callback.
+/// Two things have met.
 class DT_DLL_CASE DtCollisionInter
     : public DtInteractionWithEncDec
 {
@@ -34,16 +35,20 @@ public:
     static void removeCallback(DtExerciseConn* exerciseConn, DtCollisionInterCb callback, void* user);
 
     typedef DtFloat64 ValueOfForce;
-    void setForce(const ValueOfForce& value);
+    /// How hard.
+    /// Units: N.
     const ValueOfForce& force() const;
+    void setForce(const ValueOfForce& value);
 
     typedef DtGeoPoint ValueOfWhere;
-    void setWhere(const ValueOfWhere& value);
+    /// Where.
     const ValueOfWhere& where() const;
+    void setWhere(const ValueOfWhere& value);
 
     typedef DtCargo_Item_List ValueOfDebris;
-    void setDebris(const ValueOfDebris& value);
+    /// What fell into the water.
     const ValueOfDebris& debris() const;
+    void setDebris(const ValueOfDebris& value);
 
 protected:
     // For subclasses, which have names and coders of their own.

@@ -36,6 +36,7 @@ public:
 };
 
 // One Radio.Order.Move-To: its own parameters here, those of its superclasses in the bases.
+/// Sends a vessel somewhere.
 class DT_DLL_CASE DtMove__ToInterInter : public DtOrderInter
 {
 public:
@@ -49,16 +50,19 @@ public:
     static void removeCallback(DtExerciseConn* exerciseConn, DtMove__ToInterInterCb callback, void* user);
 
     typedef DtGeoPoint ValueOfTarget_Point_;
-    void setTarget_Point_(const ValueOfTarget_Point_& value);
+    /// Where to.
     const ValueOfTarget_Point_& target_Point_() const;
+    void setTarget_Point_(const ValueOfTarget_Point_& value);
 
     typedef DtFloat64 ValueOfBy__Hour;
-    void setBy__Hour(const ValueOfBy__Hour& value);
+    /// Until when.
     const ValueOfBy__Hour& by__Hour() const;
+    void setBy__Hour(const ValueOfBy__Hour& value);
 
     typedef DtTugNames ValueOfTugs;
-    void setTugs(const ValueOfTugs& value);
+    /// Who helps.
     const ValueOfTugs& tugs() const;
+    void setTugs(const ValueOfTugs& value);
 
 protected:
     // For subclasses, which have names of their own.

@@ -22,6 +22,7 @@ typedef void (*DtMove__ToInterCb)(DtMove__ToInter* interaction, void* user);
 // One Radio.Order.Move-To: its own parameters here, those of its superclasses in the bases.
 //
 // It is sent with DtExerciseConn::sendInteraction() and comes in through a callback.
+/// Sends a vessel somewhere.
 class DT_DLL_CASE DtMove__ToInter
     : public DtOrderInter
 {
@@ -34,16 +35,19 @@ public:
     static void removeCallback(DtExerciseConn* exerciseConn, DtMove__ToInterCb callback, void* user);
 
     typedef DtGeoPoint ValueOfTarget_Point_;
-    void setTarget_Point_(const ValueOfTarget_Point_& value);
+    /// Where to.
     const ValueOfTarget_Point_& target_Point_() const;
+    void setTarget_Point_(const ValueOfTarget_Point_& value);
 
     typedef DtFloat64 ValueOfBy__Hour;
-    void setBy__Hour(const ValueOfBy__Hour& value);
+    /// Until when.
     const ValueOfBy__Hour& by__Hour() const;
+    void setBy__Hour(const ValueOfBy__Hour& value);
 
     typedef DtTugNames ValueOfTugs;
-    void setTugs(const ValueOfTugs& value);
+    /// Who helps.
     const ValueOfTugs& tugs() const;
+    void setTugs(const ValueOfTugs& value);
 
 protected:
     // For subclasses, which have names and coders of their own.

@@ -34,6 +34,7 @@ public:
 };
 
 // One Radio.Order: its own parameters here, those of its superclasses in the bases.
+/// Tells somebody to do something.
 class DT_DLL_CASE DtOrderInterInter : public DtRadioInter
 {
 public:
@@ -47,12 +48,14 @@ public:
     static void removeCallback(DtExerciseConn* exerciseConn, DtOrderInterInterCb callback, void* user);
 
     typedef DtUrgency8 ValueOfUrgency;
-    void setUrgency(const ValueOfUrgency& value);
+    /// How soon.
     const ValueOfUrgency& urgency() const;
+    void setUrgency(const ValueOfUrgency& value);
 
     typedef DtInt32 ValueOfTheRegister;
-    void setTheRegister(const ValueOfTheRegister& value);
+    /// A word of the language.
     const ValueOfTheRegister& theRegister() const;
+    void setTheRegister(const ValueOfTheRegister& value);
 
 protected:
     // For subclasses, which have names of their own.

@@ -20,6 +20,7 @@ typedef void (*DtOrderInterCb)(DtOrderInter* interaction, void* user);
 // One Radio.Order: its own parameters here, those of its superclasses in the bases.
 //
 // It is sent with DtExerciseConn::sendInteraction() and comes in through a callback.
+/// Tells somebody to do something.
 class DT_DLL_CASE DtOrderInter
     : public DtRadioInter
 {
@@ -32,12 +33,14 @@ public:
     static void removeCallback(DtExerciseConn* exerciseConn, DtOrderInterCb callback, void* user);
 
     typedef DtUrgency8 ValueOfUrgency;
-    void setUrgency(const ValueOfUrgency& value);
+    /// How soon.
     const ValueOfUrgency& urgency() const;
+    void setUrgency(const ValueOfUrgency& value);
 
     typedef DtInt32 ValueOfTheRegister;
-    void setTheRegister(const ValueOfTheRegister& value);
+    /// A word of the language.
     const ValueOfTheRegister& theRegister() const;
+    void setTheRegister(const ValueOfTheRegister& value);
 
 protected:
     // For subclasses, which have names and coders of their own.

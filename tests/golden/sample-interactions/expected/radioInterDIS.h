@@ -34,6 +34,7 @@ public:
 };
 
 // One Radio: its own parameters here, those of its superclasses in the bases.
+/// Anything said over the radio.
 class DT_DLL_CASE DtRadioInterInter : public DtInteraction
 {
 public:
@@ -47,12 +48,14 @@ public:
     static void removeCallback(DtExerciseConn* exerciseConn, DtRadioInterInterCb callback, void* user);
 
     typedef DtInt16 ValueOfChannel;
-    void setChannel(const ValueOfChannel& value);
+    /// Channel.
     const ValueOfChannel& channel() const;
+    void setChannel(const ValueOfChannel& value);
 
     typedef DtString ValueOfText;
-    void setText(const ValueOfText& value);
+    /// What is said.
     const ValueOfText& text() const;
+    void setText(const ValueOfText& value);
 
 protected:
     // For subclasses, which have names of their own.

@@ -20,6 +20,7 @@ typedef void (*DtRadioInterCb)(DtRadioInter* interaction, void* user);
 // One Radio: its own parameters here, those of its superclasses in the bases.
 //
 // It is sent with DtExerciseConn::sendInteraction() and comes in through a callback.
+/// Anything said over the radio.
 class DT_DLL_CASE DtRadioInter
     : public DtInteractionWithEncDec
 {
@@ -32,12 +33,14 @@ public:
     static void removeCallback(DtExerciseConn* exerciseConn, DtRadioInterCb callback, void* user);
 
     typedef DtInt16 ValueOfChannel;
-    void setChannel(const ValueOfChannel& value);
+    /// Channel.
     const ValueOfChannel& channel() const;
+    void setChannel(const ValueOfChannel& value);
 
     typedef DtString ValueOfText;
-    void setText(const ValueOfText& value);
+    /// What is said.
     const ValueOfText& text() const;
+    void setText(const ValueOfText& value);
 
 protected:
     // For subclasses, which have names and coders of their own.

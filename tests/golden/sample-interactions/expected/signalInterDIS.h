@@ -36,6 +36,7 @@ public:
 };
 
 // One Signal: its own parameters here, those of its superclasses in the bases.
+/// Sent by a beacon.
 class DT_DLL_CASE DtSignalInterInter : public DtInteraction
 {
 public:
@@ -49,16 +50,19 @@ public:
     static void removeCallback(DtExerciseConn* exerciseConn, DtSignalInterInterCb callback, void* user);
 
     typedef DtClockTime ValueOfSent;
-    void setSent(const ValueOfSent& value);
+    /// When.
     const ValueOfSent& sent() const;
+    void setSent(const ValueOfSent& value);
 
     typedef DtSignalMessage ValueOfMessage;
-    void setMessage(const ValueOfMessage& value);
+    /// What.
     const ValueOfMessage& message() const;
+    void setMessage(const ValueOfMessage& value);
 
     typedef bool ValueOfSure;
-    void setSure(const ValueOfSure& value);
+    /// Whether it is certain.
     const ValueOfSure& sure() const;
+    void setSure(const ValueOfSure& value);
 
 protected:
     // For subclasses, which have names of their own.

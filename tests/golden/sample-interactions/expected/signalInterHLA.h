@@ -22,6 +22,7 @@ typedef void (*DtSignalInterCb)(DtSignalInter* interaction, void* user);
 // One Signal: its own parameters here, those of its superclasses in the bases.
 //
 // It is sent with DtExerciseConn::sendInteraction() and comes in through a callback.
+/// Sent by a beacon.
 class DT_DLL_CASE DtSignalInter
     : public DtInteractionWithEncDec
 {
@@ -34,16 +35,19 @@ public:
     static void removeCallback(DtExerciseConn* exerciseConn, DtSignalInterCb callback, void* user);
 
     typedef DtClockTime ValueOfSent;
-    void setSent(const ValueOfSent& value);
+    /// When.
     const ValueOfSent& sent() const;
+    void setSent(const ValueOfSent& value);
 
     typedef DtSignalMessage ValueOfMessage;
-    void setMessage(const ValueOfMessage& value);
+    /// What.
     const ValueOfMessage& message() const;
+    void setMessage(const ValueOfMessage& value);
 
     typedef bool ValueOfSure;
-    void setSure(const ValueOfSure& value);
+    /// Whether it is certain.
     const ValueOfSure& sure() const;
+    void setSure(const ValueOfSure& value);
 
 protected:
     // For subclasses, which have names and coders of their own.

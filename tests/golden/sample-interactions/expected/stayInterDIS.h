@@ -34,6 +34,7 @@ public:
 };
 
 // One Radio.Order.Stay: its own parameters here, those of its superclasses in the bases.
+/// Keeps a vessel where it is.
 class DT_DLL_CASE DtStayInterInter : public DtOrderInter
 {
 public:

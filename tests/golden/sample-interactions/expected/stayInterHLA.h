@@ -20,6 +20,7 @@ typedef void (*DtStayInterCb)(DtStayInter* interaction, void* user);
 // One Radio.Order.Stay: its own parameters here, those of its superclasses in the bases.
 //
 // It is sent with DtExerciseConn::sendInteraction() and comes in through a callback.
+/// Keeps a vessel where it is.
 class DT_DLL_CASE DtStayInter
     : public DtOrderInter
 {

@@ -41,6 +41,7 @@ public:
         return placeOf(Own.selector);
     }
 
+    /// Units: h.
     const DtHours& idle() const { return Own.myIdle; }
     void setIdle(const DtHours& value)
     {

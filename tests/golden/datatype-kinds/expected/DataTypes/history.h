@@ -17,6 +17,7 @@ class DtReading;
 //
 // The element is declared here and no more, since it may hold this array again: to work with elements that are classes
 // of their own, include their header too.
+/// Cardinality: Dynamic.
 class DT_DLL_CASE DtHistory
 {
 public:

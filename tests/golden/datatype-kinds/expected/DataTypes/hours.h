@@ -9,6 +9,7 @@
 #include "dllExport.h"
 
 // A simple datatype: one number under a name of its own.
+/// Units: h.
 class DT_DLL_CASE DtHours
 {
 public:

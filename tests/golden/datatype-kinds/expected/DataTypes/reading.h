@@ -19,6 +19,7 @@ public:
     bool operator==(const DtReading& other) const;
     bool operator!=(const DtReading& other) const;
 
+    /// Units: h.
     const DtHours& at() const { return Own.myAt; }
     void setAt(const DtHours& value) { Own.myAt = value; }
     const DtState8& state() const { return Own.myState; }

@@ -17,6 +17,8 @@ class DtHours;
 //
 // The element is declared here and no more, since it may hold this array again: to work with elements that are classes
 // of their own, include their header too.
+/// Units: h.
+/// Cardinality: 3.
 class DT_DLL_CASE DtRow
 {
 public:

@@ -26,12 +26,12 @@ public:
     DtQxFlowerStateRepository();
 
     typedef DtColour8 ValueOfColour;
-    void setColour(const ValueOfColour& value);
     const ValueOfColour& colour() const;
+    void setColour(const ValueOfColour& value);
 
     typedef DtQxPacket ValueOfSeed;
-    void setSeed(const ValueOfSeed& value);
     const ValueOfSeed& seed() const;
+    void setSeed(const ValueOfSeed& value);
 
 private:
     // The values stand in a structure of their own, where no accessor can share their names.

@@ -35,8 +35,8 @@ public:
     static void removeCallback(DtExerciseConn* exerciseConn, DtQxWaterInterCb callback, void* user);
 
     typedef DtFloat32 ValueOfLitres;
-    void setLitres(const ValueOfLitres& value);
     const ValueOfLitres& litres() const;
+    void setLitres(const ValueOfLitres& value);
 
 protected:
     // For subclasses, which have names and coders of their own.

@@ -23,6 +23,7 @@ typedef bool DtRPRboolean;
 typedef bool DtOMT13boolean;
 #endif
 
+/// One of several states.
 enum class DtVesselState8 : DtInt64
 {
     eMoored = 0,
@@ -43,6 +44,7 @@ inline DtEnumeratorTable DtEnumeratorsOf(DtVesselState8)
     return DtEnumeratorTable("DtVesselState8", theEntries, sizeof theEntries / sizeof *theEntries - 1, theNumber);
 }
 
+/// One of several states.
 enum class DtVesselState16 : DtInt64
 {
     eSmall = 0,
@@ -61,6 +63,7 @@ inline DtEnumeratorTable DtEnumeratorsOf(DtVesselState16)
     return DtEnumeratorTable("DtVesselState16", theEntries, sizeof theEntries / sizeof *theEntries - 1, theNumber);
 }
 
+/// One of several states.
 enum class DtLineState32 : DtInt64
 {
     eSlack = 0,

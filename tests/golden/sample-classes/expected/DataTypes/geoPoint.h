@@ -11,6 +11,7 @@
 #include "DataTypes/caseEnums.h"
 
 // A fixed record. Its own operations take an argument or are templates, so that a field may bear any name.
+/// Values that belong together.
 class DT_DLL_CASE DtGeoPoint
 {
 public:
@@ -18,10 +19,15 @@ public:
     bool operator==(const DtGeoPoint& other) const;
     bool operator!=(const DtGeoPoint& other) const;
 
+    /// A part.
+    /// Units: deg.
     const DtFloat64& latitude() const { return Own.myLatitude; }
     void setLatitude(const DtFloat64& value) { Own.myLatitude = value; }
+    /// A part.
+    /// Units: deg.
     const DtFloat64& longitude() const { return Own.myLongitude; }
     void setLongitude(const DtFloat64& value) { Own.myLongitude = value; }
+    /// A part.
     const DtFloat32& height() const { return Own.myHeight; }
     void setHeight(const DtFloat32& value) { Own.myHeight = value; }
 

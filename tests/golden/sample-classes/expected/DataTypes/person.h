@@ -12,6 +12,7 @@
 #include "DataTypes/count8.h"
 
 // A fixed record. Its own operations take an argument or are templates, so that a field may bear any name.
+/// Values that belong together.
 class DT_DLL_CASE DtPerson
 {
 public:
@@ -19,10 +20,15 @@ public:
     bool operator==(const DtPerson& other) const;
     bool operator!=(const DtPerson& other) const;
 
+    /// A part.
     const DtString& fullName() const { return Own.myFullName; }
     void setFullName(const DtString& value) { Own.myFullName = value; }
+    /// A part.
+    /// Units: 1.
     const DtCount8& age() const { return Own.myAge; }
     void setAge(const DtCount8& value) { Own.myAge = value; }
+    /// A part.
+    /// Units: cm.
     const DtInt16& height__cm() const { return Own.myHeight__cm; }
     void setHeight__cm(const DtInt16& value) { Own.myHeight__cm = value; }
 

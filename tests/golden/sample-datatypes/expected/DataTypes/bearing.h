@@ -9,6 +9,8 @@
 #include "dllExport.h"
 
 // A simple datatype: one number under a name of its own.
+/// A fraction, low octet first.
+/// Units: deg.
 class DT_DLL_CASE DtBearing
 {
 public:

@@ -15,6 +15,7 @@
 #include "DataTypes/tideMark.h"
 
 // A fixed record. Its own operations take an argument or are templates, so that a field may bear any name.
+/// Who may lie where, and how long.
 class DT_DLL_CASE DtBerthSlot
 {
 public:
@@ -22,10 +23,12 @@ public:
     bool operator==(const DtBerthSlot& other) const;
     bool operator!=(const DtBerthSlot& other) const;
 
+    /// Units: 1.
     const DtCount8& number() const { return Own.myNumber; }
     void setNumber(const DtCount8& value) { Own.myNumber = value; }
     const DtTideMark& start() const { return Own.myStart; }
     void setStart(const DtTideMark& value) { Own.myStart = value; }
+    /// Units: kg.
     const DtWeight__Kg& load__Max() const { return Own.myLoad__Max; }
     void setLoad__Max(const DtWeight__Kg& value) { Own.myLoad__Max = value; }
     const DtTideMark& until() const { return Own.myUntil; }

@@ -14,6 +14,7 @@
 #include "DataTypes/plain__Four.h"
 
 // A fixed record. Its own operations take an argument or are templates, so that a field may bear any name.
+/// Values that belong together.
 class DT_DLL_CASE DtCargo__Item
 {
 public:
@@ -21,10 +22,14 @@ public:
     bool operator==(const DtCargo__Item& other) const;
     bool operator!=(const DtCargo__Item& other) const;
 
+    /// A part.
     const DtOldText& label() const { return Own.myLabel; }
     void setLabel(const DtOldText& value) { Own.myLabel = value; }
+    /// A part.
+    /// Units: kg.
     const DtWeight__Kg& weight__Gross() const { return Own.myWeight__Gross; }
     void setWeight__Gross(const DtWeight__Kg& value) { Own.myWeight__Gross = value; }
+    /// A part.
     const DtPlain__Four& theTemplate() const { return Own.mytemplate; }
     void setTheTemplate(const DtPlain__Four& value) { Own.mytemplate = value; }
 

@@ -23,6 +23,7 @@ typedef bool DtRPRboolean;
 typedef bool DtOMT13boolean;
 #endif
 
+/// One of several states.
 enum class DtVesselState8 : DtInt64
 {
     eMoored = 0,
@@ -43,6 +44,7 @@ inline DtEnumeratorTable DtEnumeratorsOf(DtVesselState8)
     return DtEnumeratorTable("DtVesselState8", theEntries, sizeof theEntries / sizeof *theEntries - 1, theNumber);
 }
 
+/// One of several states.
 enum class DtLineState32 : DtInt64
 {
     eSlack = 0,
@@ -61,6 +63,7 @@ inline DtEnumeratorTable DtEnumeratorsOf(DtLineState32)
     return DtEnumeratorTable("DtLineState32", theEntries, sizeof theEntries / sizeof *theEntries - 1, theNumber);
 }
 
+/// One of several states.
 enum class DtBerthKind64 : DtInt64
 {
     eContainer = 0,
@@ -79,6 +82,7 @@ inline DtEnumeratorTable DtEnumeratorsOf(DtBerthKind64)
     return DtEnumeratorTable("DtBerthKind64", theEntries, sizeof theEntries / sizeof *theEntries - 1, theNumber);
 }
 
+/// One octet with a sign.
 enum class DtLampState : DtInt64
 {
     eDark = 0,
@@ -97,6 +101,7 @@ inline DtEnumeratorTable DtEnumeratorsOf(DtLampState)
     return DtEnumeratorTable("DtLampState", theEntries, sizeof theEntries / sizeof *theEntries - 1, theNumber);
 }
 
+/// Two octets with a sign; the numbers run up and down.
 enum class DtSignalKind16 : DtInt64
 {
     eFog = 5,
@@ -125,6 +130,7 @@ inline DtEnumeratorTable DtEnumeratorsOf(DtSignalKind16)
     return DtEnumeratorTable("DtSignalKind16", theEntries, sizeof theEntries / sizeof *theEntries - 1, theNumber);
 }
 
+/// Two octets with a sign, low octet first.
 enum class DtCurrent16 : DtInt64
 {
     eStill = 0,
@@ -143,6 +149,7 @@ inline DtEnumeratorTable DtEnumeratorsOf(DtCurrent16)
     return DtEnumeratorTable("DtCurrent16", theEntries, sizeof theEntries / sizeof *theEntries - 1, theNumber);
 }
 
+/// Two octets without a sign, low octet first.
 enum class DtTool16 : DtInt64
 {
     eAnchor = 1,
@@ -161,6 +168,7 @@ inline DtEnumeratorTable DtEnumeratorsOf(DtTool16)
     return DtEnumeratorTable("DtTool16", theEntries, sizeof theEntries / sizeof *theEntries - 1, theNumber);
 }
 
+/// Three octets with a sign, low octet first.
 enum class DtSlack24 : DtInt64
 {
     eWeak = -1,
@@ -177,6 +185,7 @@ inline DtEnumeratorTable DtEnumeratorsOf(DtSlack24)
     return DtEnumeratorTable("DtSlack24", theEntries, sizeof theEntries / sizeof *theEntries - 1, theNumber);
 }
 
+/// Four octets with a sign, low octet first.
 enum class DtDeep32 : DtInt64
 {
     eShallow = -70000,
@@ -195,6 +204,7 @@ inline DtEnumeratorTable DtEnumeratorsOf(DtDeep32)
     return DtEnumeratorTable("DtDeep32", theEntries, sizeof theEntries / sizeof *theEntries - 1, theNumber);
 }
 
+/// Eight octets without a sign, low octet first.
 enum class DtZone64 : DtInt64
 {
     eInner = 1,
@@ -213,6 +223,7 @@ inline DtEnumeratorTable DtEnumeratorsOf(DtZone64)
     return DtEnumeratorTable("DtZone64", theEntries, sizeof theEntries / sizeof *theEntries - 1, theNumber);
 }
 
+/// Four octets without a sign.
 enum class DtHullPart32 : DtInt64
 {
     eKeel = 0,

@@ -9,6 +9,8 @@
 #include "dllExport.h"
 
 // A simple datatype: one number under a name of its own.
+/// One octet with a sign.
+/// Units: C.
 class DT_DLL_CASE DtCelsius
 {
 public:

@@ -12,6 +12,7 @@
 #include "DataTypes/count8.h"
 
 // A fixed record. Its own operations take an argument or are templates, so that a field may bear any name.
+/// Three octets.
 class DT_DLL_CASE DtClockTime
 {
 public:
@@ -19,10 +20,13 @@ public:
     bool operator==(const DtClockTime& other) const;
     bool operator!=(const DtClockTime& other) const;
 
+    /// Units: 1.
     const DtCount8& hour() const { return Own.myHour; }
     void setHour(const DtCount8& value) { Own.myHour = value; }
+    /// Units: 1.
     const DtCount8& minute() const { return Own.myMinute; }
     void setMinute(const DtCount8& value) { Own.myMinute = value; }
+    /// Units: 1.
     const DtCount8& second() const { return Own.mySecond; }
     void setSecond(const DtCount8& value) { Own.mySecond = value; }
 

@@ -11,6 +11,7 @@
 #include "DataTypes/caseEnums.h"
 
 // A fixed record. Its own operations take an argument or are templates, so that a field may bear any name.
+/// Values that belong together.
 class DT_DLL_CASE DtEmpty__Record
 {
 public:

@@ -15,6 +15,7 @@
 // A variant record: a discriminant and the alternative that it selects. Setting an alternative selects it.
 //
 // Its own operations take an argument or are templates, so that an alternative may bear any name.
+/// With its length; more tools may follow.
 class DT_DLL_CASE DtEquipment
 {
 public:
@@ -41,12 +42,14 @@ public:
         return placeOf(Own.selector);
     }
 
+    /// Units: kg.
     const DtWeight__Kg& chain() const { return Own.myChain; }
     void setChain(const DtWeight__Kg& value)
     {
         Own.myChain = value;
         select(0);
     }
+    /// Units: 1.
     const DtCount8& lift() const { return Own.myLift; }
     void setLift(const DtCount8& value)
     {

@@ -17,6 +17,9 @@ class DtCount8;
 //
 // The element is declared here and no more, since it may hold this array again: to work with elements that are classes
 // of their own, include their header too.
+/// Several of one kind.
+/// Units: 1.
+/// Cardinality: Dynamic.
 class DT_DLL_CASE DtFenderList
 {
 public:

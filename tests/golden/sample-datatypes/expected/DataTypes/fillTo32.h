@@ -17,6 +17,9 @@ class DtCount8;
 //
 // The element is declared here and no more, since it may hold this array again: to work with elements that are classes
 // of their own, include their header too.
+/// Fills its record up to four octets.
+/// Units: 1.
+/// Cardinality: [0..3].
 class DT_DLL_CASE DtFillTo32
 {
 public:

@@ -17,6 +17,9 @@ class DtCount8;
 //
 // The element is declared here and no more, since it may hold this array again: to work with elements that are classes
 // of their own, include their header too.
+/// Fills its record up to eight octets.
+/// Units: 1.
+/// Cardinality: [0..7].
 class DT_DLL_CASE DtFillTo64
 {
 public:

@@ -17,6 +17,8 @@ class DtClockTime;
 //
 // The element is declared here and no more, since it may hold this array again: to work with elements that are classes
 // of their own, include their header too.
+/// Records without a gap between them.
+/// Cardinality: 4.
 class DT_DLL_CASE DtGateTimes
 {
 public:

@@ -11,6 +11,7 @@
 #include "DataTypes/caseEnums.h"
 
 // A fixed record. Its own operations take an argument or are templates, so that a field may bear any name.
+/// Values that belong together.
 class DT_DLL_CASE DtGustPair
 {
 public:
@@ -18,8 +19,12 @@ public:
     bool operator==(const DtGustPair& other) const;
     bool operator!=(const DtGustPair& other) const;
 
+    /// A part.
+    /// Units: kn.
     const DtFloat32& low() const { return Own.myLow; }
     void setLow(const DtFloat32& value) { Own.myLow = value; }
+    /// A part.
+    /// Units: kn.
     const DtFloat32& high() const { return Own.myHigh; }
     void setHigh(const DtFloat32& value) { Own.myHigh = value; }
 

@@ -9,6 +9,7 @@
 #include "dllExport.h"
 
 // A basic representation: one number of the length and byte order that the model gives.
+/// Whole number with a sign
 class DT_DLL_CASE DtHarbourInteger24
 {
 public:

@@ -9,6 +9,7 @@
 #include "dllExport.h"
 
 // A basic representation: one number of the length and byte order that the model gives.
+/// Number with a fraction
 class DT_DLL_CASE DtHarbourSwappedFloat
 {
 public:

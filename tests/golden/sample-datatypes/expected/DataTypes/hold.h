@@ -13,6 +13,7 @@
 #include "DataTypes/sub_Count_.h"
 
 // A fixed record. Its own operations take an argument or are templates, so that a field may bear any name.
+/// Values that belong together.
 class DT_DLL_CASE DtHold
 {
 public:
@@ -20,12 +21,18 @@ public:
     bool operator==(const DtHold& other) const;
     bool operator!=(const DtHold& other) const;
 
+    /// A part.
     const bool& full() const { return Own.myFull; }
     void setFull(const bool& value) { Own.myFull = value; }
+    /// A part.
+    /// Units: kg.
     const DtWeight__Kg& load() const { return Own.myLoad; }
     void setLoad(const DtWeight__Kg& value) { Own.myLoad = value; }
+    /// A part.
     const DtVesselState8& state() const { return Own.myState; }
     void setState(const DtVesselState8& value) { Own.myState = value; }
+    /// A part.
+    /// Units: 1.
     const DtSub_Count_& sub() const { return Own.mySub; }
     void setSub(const DtSub_Count_& value) { Own.mySub = value; }
 

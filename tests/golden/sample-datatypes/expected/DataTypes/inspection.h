@@ -15,6 +15,7 @@
 // A variant record: a discriminant and the alternative that it selects. Setting an alternative selects it.
 //
 // Its own operations take an argument or are templates, so that an alternative may bear any name.
+/// With its length and without gaps.
 class DT_DLL_CASE DtInspection
 {
 public:
@@ -47,6 +48,7 @@ public:
         Own.myHull = value;
         select(0);
     }
+    /// Units: deg.
     const DtFloat64& hours() const { return Own.myHours; }
     void setHours(const DtFloat64& value)
     {

@@ -16,6 +16,8 @@
 //
 // The element is declared here and no more, since it may hold this array again: to work with elements that are classes
 // of their own, include their header too.
+/// Two rows of three.
+/// Cardinality: 2, 3.
 class DT_DLL_CASE DtLampMatrix
 {
 public:

@@ -13,6 +13,7 @@
 // A variant record: a discriminant and the alternative that it selects. Setting an alternative selects it.
 //
 // Its own operations take an argument or are templates, so that an alternative may bear any name.
+/// By a number below zero, too.
 class DT_DLL_CASE DtLampReport
 {
 public:
@@ -39,6 +40,7 @@ public:
         return placeOf(Own.selector);
     }
 
+    /// Units: kn.
     const DtFloat32& period() const { return Own.myPeriod; }
     void setPeriod(const DtFloat32& value)
     {

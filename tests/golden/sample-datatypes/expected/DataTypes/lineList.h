@@ -16,6 +16,8 @@
 //
 // The element is declared here and no more, since it may hold this array again: to work with elements that are classes
 // of their own, include their header too.
+/// The usual number; a count is sent all the same.
+/// Cardinality: 4.
 class DT_DLL_CASE DtLineList
 {
 public:

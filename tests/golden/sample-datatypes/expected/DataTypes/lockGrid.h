@@ -17,6 +17,9 @@ class DtWeight__Kg;
 //
 // The element is declared here and no more, since it may hold this array again: to work with elements that are classes
 // of their own, include their header too.
+/// Three dimensions, the last one running fastest.
+/// Units: kg.
+/// Cardinality: 2,2,2.
 class DT_DLL_CASE DtLockGrid
 {
 public:

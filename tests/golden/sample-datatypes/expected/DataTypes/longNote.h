@@ -14,6 +14,7 @@
 #include "DataTypes/registerNumber.h"
 
 // A fixed record. Its own operations take an argument or are templates, so that a field may bear any name.
+/// Text in the middle.
 class DT_DLL_CASE DtLongNote
 {
 public:
@@ -25,8 +26,10 @@ public:
     void setAuthor(const DtU16& value) { Own.myAuthor = value; }
     const DtRouteCode& words() const { return Own.myWords; }
     void setWords(const DtRouteCode& value) { Own.myWords = value; }
+    /// Units: 1.
     const DtCount8& rating() const { return Own.myRating; }
     void setRating(const DtCount8& value) { Own.myRating = value; }
+    /// Units: 1.
     const DtRegisterNumber& sum() const { return Own.mySum; }
     void setSum(const DtRegisterNumber& value) { Own.mySum = value; }
 

@@ -15,6 +15,8 @@
 //
 // The element is declared here and no more, since it may hold this array again: to work with elements that are classes
 // of their own, include their header too.
+/// Several of one kind.
+/// Cardinality: Dynamic.
 class DT_DLL_CASE DtOldRun
 {
 public:

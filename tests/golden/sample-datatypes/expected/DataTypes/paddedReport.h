@@ -16,6 +16,7 @@
 #include "DataTypes/count8.h"
 
 // A fixed record. Its own operations take an argument or are templates, so that a field may bear any name.
+/// Filled up twice.
 class DT_DLL_CASE DtPaddedReport
 {
 public:
@@ -23,14 +24,17 @@ public:
     bool operator==(const DtPaddedReport& other) const;
     bool operator!=(const DtPaddedReport& other) const;
 
+    /// Units: 1.
     const DtCount8& code() const { return Own.myCode; }
     void setCode(const DtCount8& value) { Own.myCode = value; }
     const DtFillTo32& fill() const { return Own.myFill; }
     void setFill(const DtFillTo32& value) { Own.myFill = value; }
+    /// Units: 1.
     const DtCount8& value() const { return Own.myValue; }
     void setValue(const DtCount8& value) { Own.myValue = value; }
     const DtFillTo64& rest() const { return Own.myRest; }
     void setRest(const DtFillTo64& value) { Own.myRest = value; }
+    /// Units: 1.
     const DtCount8& tail() const { return Own.myTail; }
     void setTail(const DtCount8& value) { Own.myTail = value; }
 

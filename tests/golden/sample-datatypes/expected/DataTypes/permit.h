@@ -14,6 +14,7 @@
 // A variant record: a discriminant and the alternative that it selects. Setting an alternative selects it.
 //
 // Its own operations take an argument or are templates, so that an alternative may bear any name.
+/// By a truth value of two octets.
 class DT_DLL_CASE DtPermit
 {
 public:

@@ -14,6 +14,7 @@
 // A variant record: a discriminant and the alternative that it selects. Setting an alternative selects it.
 //
 // Its own operations take an argument or are templates, so that an alternative may bear any name.
+/// By a truth value of four octets.
 class DT_DLL_CASE DtPositionFix
 {
 public:
@@ -46,6 +47,7 @@ public:
         Own.myExact = value;
         select(0);
     }
+    /// Units: cm.
     const DtInt16& rough() const { return Own.myRough; }
     void setRough(const DtInt16& value)
     {

@@ -9,6 +9,8 @@
 #include "dllExport.h"
 
 // A simple datatype: one number under a name of its own.
+/// Number in a list, low octet first.
+/// Units: 1.
 class DT_DLL_CASE DtRegisterNumber
 {
 public:

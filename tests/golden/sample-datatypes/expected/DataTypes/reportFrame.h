@@ -13,6 +13,7 @@
 #include "DataTypes/paddedReport.h"
 
 // A fixed record. Its own operations take an argument or are templates, so that a field may bear any name.
+/// The filling counts from the inner record.
 class DT_DLL_CASE DtReportFrame
 {
 public:
@@ -20,6 +21,7 @@ public:
     bool operator==(const DtReportFrame& other) const;
     bool operator!=(const DtReportFrame& other) const;
 
+    /// Units: 1.
     const DtCount8& lead() const { return Own.myLead; }
     void setLead(const DtCount8& value) { Own.myLead = value; }
     const DtPaddedReport& body() const { return Own.myBody; }

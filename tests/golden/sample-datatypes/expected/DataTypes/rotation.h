@@ -14,6 +14,7 @@
 #include "DataTypes/count8.h"
 
 // A fixed record. Its own operations take an argument or are templates, so that a field may bear any name.
+/// Three levels deep.
 class DT_DLL_CASE DtRotation
 {
 public:
@@ -25,6 +26,7 @@ public:
     void setSlot(const DtBerthSlot& value) { Own.mySlot = value; }
     const DtGeoPoint& centre() const { return Own.myCentre; }
     void setCentre(const DtGeoPoint& value) { Own.myCentre = value; }
+    /// Units: 1.
     const DtCount8& turns() const { return Own.myTurns; }
     void setTurns(const DtCount8& value) { Own.myTurns = value; }
 

@@ -17,6 +17,8 @@ class DtRotation;
 //
 // The element is declared here and no more, since it may hold this array again: to work with elements that are classes
 // of their own, include their header too.
+/// Records in records in records.
+/// Cardinality: Dynamic.
 class DT_DLL_CASE DtRotationList
 {
 public:

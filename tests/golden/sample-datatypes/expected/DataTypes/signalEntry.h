@@ -13,6 +13,7 @@
 #include "DataTypes/signalMessage.h"
 
 // A fixed record. Its own operations take an argument or are templates, so that a field may bear any name.
+/// One signal of a log.
 class DT_DLL_CASE DtSignalEntry
 {
 public:

@@ -17,6 +17,8 @@ class DtSignalEntry;
 //
 // The element is declared here and no more, since it may hold this array again: to work with elements that are classes
 // of their own, include their header too.
+/// Variant records in records.
+/// Cardinality: Dynamic.
 class DT_DLL_CASE DtSignalLog
 {
 public:

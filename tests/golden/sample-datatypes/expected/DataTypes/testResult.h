@@ -14,6 +14,7 @@
 // A variant record: a discriminant and the alternative that it selects. Setting an alternative selects it.
 //
 // Its own operations take an argument or are templates, so that an alternative may bear any name.
+/// By a truth value of one octet.
 class DT_DLL_CASE DtTestResult
 {
 public:
@@ -46,6 +47,7 @@ public:
         Own.myScore = value;
         select(0);
     }
+    /// Units: 1.
     const DtCount8& fault() const { return Own.myFault; }
     void setFault(const DtCount8& value)
     {

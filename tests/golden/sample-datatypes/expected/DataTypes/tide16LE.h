@@ -9,6 +9,8 @@
 #include "dllExport.h"
 
 // A simple datatype: one number under a name of its own.
+/// A quantity.
+/// Units: cm.
 class DT_DLL_CASE DtTide16LE
 {
 public:

@@ -12,6 +12,7 @@
 #include "DataTypes/clockTime.h"
 
 // A fixed record. Its own operations take an argument or are templates, so that a field may bear any name.
+/// One octet lies between the two.
 class DT_DLL_CASE DtTideMark
 {
 public:
@@ -21,6 +22,7 @@ public:
 
     const DtClockTime& at() const { return Own.myAt; }
     void setAt(const DtClockTime& value) { Own.myAt = value; }
+    /// Units: cm.
     const DtInt16& level() const { return Own.myLevel; }
     void setLevel(const DtInt16& value) { Own.myLevel = value; }
 

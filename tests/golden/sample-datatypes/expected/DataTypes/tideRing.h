@@ -17,6 +17,9 @@ class DtTide16LE;
 //
 // The element is declared here and no more, since it may hold this array again: to work with elements that are classes
 // of their own, include their header too.
+/// Between two and six.
+/// Units: cm.
+/// Cardinality: [2..6].
 class DT_DLL_CASE DtTideRing
 {
 public:

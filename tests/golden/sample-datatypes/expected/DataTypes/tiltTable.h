@@ -17,6 +17,9 @@ class DtTrim24;
 //
 // The element is declared here and no more, since it may hold this array again: to work with elements that are classes
 // of their own, include their header too.
+/// A gap of one octet between the elements.
+/// Units: 1.
+/// Cardinality: 3.
 class DT_DLL_CASE DtTiltTable
 {
 public:

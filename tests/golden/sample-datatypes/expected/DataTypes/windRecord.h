@@ -13,6 +13,7 @@
 #include "DataTypes/oldRun.h"
 
 // A fixed record. Its own operations take an argument or are templates, so that a field may bear any name.
+/// Values that belong together.
 class DT_DLL_CASE DtWindRecord
 {
 public:
@@ -20,12 +21,18 @@ public:
     bool operator==(const DtWindRecord& other) const;
     bool operator!=(const DtWindRecord& other) const;
 
+    /// A part.
+    /// Units: kn.
     const DtFloat32& speed() const { return Own.mySpeed; }
     void setSpeed(const DtFloat32& value) { Own.mySpeed = value; }
+    /// A part.
+    /// Units: deg.
     const DtFloat64& from() const { return Own.myFrom; }
     void setFrom(const DtFloat64& value) { Own.myFrom = value; }
+    /// A part.
     const DtGustPair& gusts() const { return Own.myGusts; }
     void setGusts(const DtGustPair& value) { Own.myGusts = value; }
+    /// A part.
     const DtOldRun& marks() const { return Own.myMarks; }
     void setMarks(const DtOldRun& value) { Own.myMarks = value; }
 

@@ -14,6 +14,7 @@
 // A variant record: a discriminant and the alternative that it selects. Setting an alternative selects it.
 //
 // Its own operations take an argument or are templates, so that an alternative may bear any name.
+/// By a number of eight octets.
 class DT_DLL_CASE DtZoneRule
 {
 public:
@@ -40,12 +41,14 @@ public:
         return placeOf(Own.selector);
     }
 
+    /// Units: kn.
     const DtFloat32& limit() const { return Own.myLimit; }
     void setLimit(const DtFloat32& value)
     {
         Own.myLimit = value;
         select(0);
     }
+    /// Units: 1.
     const DtCount8& free() const { return Own.myFree; }
     void setFree(const DtCount8& value)
     {

@@ -23,6 +23,7 @@ typedef bool DtRPRboolean;
 typedef bool DtOMT13boolean;
 #endif
 
+/// One of several states.
 enum class DtVesselState8 : DtInt64
 {
     eMoored = 0,
@@ -43,6 +44,7 @@ inline DtEnumeratorTable DtEnumeratorsOf(DtVesselState8)
     return DtEnumeratorTable("DtVesselState8", theEntries, sizeof theEntries / sizeof *theEntries - 1, theNumber);
 }
 
+/// One of several states.
 enum class DtUrgency8 : DtInt64
 {
     eNow = 1,
@@ -59,6 +61,7 @@ inline DtEnumeratorTable DtEnumeratorsOf(DtUrgency8)
     return DtEnumeratorTable("DtUrgency8", theEntries, sizeof theEntries / sizeof *theEntries - 1, theNumber);
 }
 
+/// Two octets with a sign; the numbers run up and down.
 enum class DtSignalKind16 : DtInt64
 {
     eFog = 5,

@@ -9,6 +9,8 @@
 #include "dllExport.h"
 
 // A simple datatype: one number under a name of its own.
+/// A quantity.
+/// Units: 1.
 class DT_DLL_CASE DtCount8
 {
 public:

@@ -15,6 +15,7 @@
 // A variant record: a discriminant and the alternative that it selects. Setting an alternative selects it.
 //
 // Its own operations take an argument or are templates, so that an alternative may bear any name.
+/// Who lies at a berth.
 class DT_DLL_CASE DtOccupant
 {
 public:
@@ -41,18 +42,22 @@ public:
         return placeOf(Own.selector);
     }
 
+    /// One of several contents.
     const DtShortText& ship() const { return Own.myShip; }
     void setShip(const DtShortText& value)
     {
         Own.myShip = value;
         select(0);
     }
+    /// One of several contents.
+    /// Units: deg.
     const DtFloat64& arrival() const { return Own.myArrival; }
     void setArrival(const DtFloat64& value)
     {
         Own.myArrival = value;
         select(1);
     }
+    /// One of several contents.
     const DtCargo__Item& wreck() const { return Own.myWreck; }
     void setWreck(const DtCargo__Item& value)
     {

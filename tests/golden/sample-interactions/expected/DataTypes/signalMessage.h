@@ -15,6 +15,7 @@
 // A variant record: a discriminant and the alternative that it selects. Setting an alternative selects it.
 //
 // Its own operations take an argument or are templates, so that an alternative may bear any name.
+/// One, a list, a range in the order of declaration, and all others.
 class DT_DLL_CASE DtSignalMessage
 {
 public:
@@ -47,6 +48,7 @@ public:
         Own.myVisibility = value;
         select(0);
     }
+    /// Units: 1.
     const DtCount8& strength() const { return Own.myStrength; }
     void setStrength(const DtCount8& value)
     {

@@ -18,6 +18,7 @@ namespace garden
 //
 // The element is declared here and no more, since it may hold this array again: to work with elements that are classes
 // of their own, include their header too.
+/// Cardinality: Dynamic.
 class DT_DLL_CASE DtQxSeeds
 {
 public:

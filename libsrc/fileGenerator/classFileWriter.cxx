@@ -4,6 +4,7 @@
 #include "fileGenerator/commentText.h"
 #include "fileGenerator/dataTypeMapper.h"
 #include "fileGenerator/datatypeClassNames.h"
+#include "fileGenerator/literalText.h"
 #include "fileGenerator/memberTypes.h"
 #include "fileGenerator/namePattern.h"
 #include "fileGenerator/numberForm.h"
@@ -203,6 +204,7 @@ const DtTokenTable<DtAttribute>& attributeTable()
         {"<!AttributeTypeIdentifier!>",           [](const DtAttribute& a) { return typeIdentifier(a); }},
         {"<!AttributeIsNamesake!>",               [](const DtAttribute& a) { return flag(DtDatatypeClassNames::instance().isNamesake(a.datatype())); }},
         {"<!AttributeLayout!>",                   [](const DtAttribute& a) { return valueFormOf(a).layout; }},
+        {"<!AttributeText!>",                     [](const DtAttribute& a) { return literalText(a.name()); }},
         {"<!AttributeDocumentation!>",            [](const DtAttribute& a) { return DtCommentText(a.documentation(), 4); }},
     };
     static const DtTokenTable<DtAttribute> theTable(theRows);

@@ -14,14 +14,14 @@ const char* const theNamesInGeneratedCode[] = {
     "DtDecodeArray", "DtDecodeNoAlternative", "DtDecodeValue", "DtDisPublisherBase", "DtDisReflectedList",
     "DtDisReflectedObject", "DtEncodeAlternative", "DtEncodeArray", "DtEncodeNoAlternative", "DtEncodeValue",
     "DtEnumerator", "DtEnumeratorInTurn", "DtEnumeratorTable", "DtEnumeratorsOf", "DtExerciseConn",
-    "DtExerciseObjectId", "DtFixedArray", "DtGetNumber", "DtHlaPublisherBase", "DtHlaReflectedList",
-    "DtHlaReflectedObject", "DtHlaStateDecoder", "DtHlaStateEncoder", "DtInt64", "DtInteraction",
-    "DtInteractionCoding", "DtInteractionDecoder", "DtInteractionEncoder", "DtInteractionWithEncDec",
-    "DtLargerBoundary", "DtLayoutOf", "DtNamesOfType", "DtNetSizeOf", "DtNumberBoundary", "DtNumberForm",
-    "DtNumberOfDiscriminant", "DtOpaqueValue", "DtPutNumber", "DtReadValue", "DtRecordScope", "DtSharedDecoder",
-    "DtSharedEncoder", "DtStateDecoder", "DtStateEncoder", "DtStateRepository", "DtValueText", "DtVariantBoundary",
+    "DtExerciseObjectId", "DtFieldWriter", "DtFixedArray", "DtGetNumber", "DtHlaPublisherBase", "DtHlaReflectedList",
+    "DtHlaReflectedObject", "DtHlaStateDecoder", "DtHlaStateEncoder", "DtInt64", "DtInteraction", "DtInteractionCoding",
+    "DtInteractionDecoder", "DtInteractionEncoder", "DtInteractionWithEncDec", "DtLargerBoundary", "DtLayoutOf",
+    "DtNamesOfType", "DtNetSizeOf", "DtNumberBoundary", "DtNumberForm", "DtNumberOfDiscriminant", "DtOpaqueValue",
+    "DtPutNumber", "DtReadValue", "DtRecordScope", "DtSampleFiller", "DtSampleOf", "DtSharedDecoder", "DtSharedEncoder",
+    "DtStateDecoder", "DtStateEncoder", "DtStateRepository", "DtTextLayout", "DtValueText", "DtVariantBoundary",
     "DtVariantKind", "DtVariantKindOf", "DtWireForm", "DtWireMisfit", "DtWirePart", "DtWireReader", "DtWireRecordOf",
-    "DtWireTrail", "DtWireWriter", "DtWriteValue",
+    "DtWireTrail", "DtWireWriter", "DtWriteEnumerator", "DtWriteValue",
 };
 
 const char* const theOtherNames[] = {
@@ -39,10 +39,10 @@ const char* const theOtherNames[] = {
     "DtNetVector64", "DtNullTerminatedArray", "DtNumberImage", "DtOctetsByName", "DtPaddingArray", "DtPaddingUnit",
     "DtPduObserver", "DtPlainVariant", "DtPublisherBase", "DtPutAlternativeLength", "DtPutWirePart", "DtQuotedText",
     "DtReflectedListBase", "DtReflectedObjectBase", "DtRepresentationOf", "DtSelectorRange", "DtSplitAlternative",
-    "DtStateMsg", "DtString", "DtTaitBryan", "DtTerminator", "DtTextIs", "DtTextTraits", "DtTrailingNumber",
-    "DtTriple", "DtU16", "DtU32", "DtU64", "DtU8", "DtUnknownArray", "DtValueBuffer", "DtVariableArray", "DtVector",
-    "DtVector32", "DtVector64", "DtVectorImage", "DtWideUnits", "DtWireComponentsOf", "DtWirePartForm",
-    "DtWireRecordLayout", "DtWireRecordTraits", "DtWireTraits",
+    "DtStateMsg", "DtString", "DtTaitBryan", "DtTerminator", "DtTextIs", "DtTextTraits", "DtTrailingNumber", "DtTriple",
+    "DtU16", "DtU32", "DtU64", "DtU8", "DtUnknownArray", "DtValueBuffer", "DtVariableArray", "DtVector", "DtVector32",
+    "DtVector64", "DtVectorImage", "DtWideUnits", "DtWireComponentsOf", "DtWirePartForm", "DtWireRecordLayout",
+    "DtWireRecordTraits", "DtWireTraits",
 };
 // clang-format on
 

@@ -59,7 +59,7 @@ inline QStringList layOut(const QString& output, const QString& directory)
 // One unit that includes all files, and behind them the examples, each in a namespace of its own.
 inline QByteArray joinedUnit(const QStringList& names)
 {
-    QByteArray files = "#include <qx/exerciseConn.h>\n#include <qx/valueText.h>\n#include <chrono>\n"
+    QByteArray files = "#include <qx/exerciseConn.h>\n#include <qx/sampleValue.h>\n#include <chrono>\n"
                        "#include <cstdlib>\n#include <iostream>\n#include <string>\n#include <thread>\n";
     QByteArray examples;
     for (const QString& name : names)

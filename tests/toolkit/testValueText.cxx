@@ -48,6 +48,31 @@ private:
     DtU8 myFirst;
 };
 
+// As a generated record, with a field that is called like the accessor of a number.
+class Place
+{
+public:
+    DtFloat64 number() const { return 1.5; }
+    Lamp lamp() const { return Lamp::eOn; }
+};
+
+std::ostream& operator<<(std::ostream& out, const Place& value)
+{
+    DtFieldWriter fields(out);
+    fields.add("Number", value.number());
+    fields.add("Lamp", value.lamp());
+    return fields.end();
+}
+
+class Nothing
+{
+};
+
+std::ostream& operator<<(std::ostream& out, const Nothing&)
+{
+    return DtFieldWriter(out).end();
+}
+
 template <class Value>
 QString textOf(const Value& value)
 {
@@ -66,6 +91,9 @@ private Q_SLOTS:
     void listsStandInBrackets();
     void classesAreTheirOctets();
     void enumeratorsComeInTurn();
+    void classesHaveTheTextOfTheirOperator();
+    void enumeratorsAreWritten();
+    void longTextGoesOverSeveralLines();
 };
 
 void TestValueText::numbersAreDigits()
@@ -116,6 +144,37 @@ void TestValueText::enumeratorsComeInTurn()
     {
     };
     QVERIFY(DtEnumeratorInTurn<Nameless>(3) == Nameless());
+}
+
+void TestValueText::classesHaveTheTextOfTheirOperator()
+{
+    QCOMPARE(textOf(Place()), QString("{ Number: 1.5, Lamp: On (5) }"));
+    QCOMPARE(textOf(Nothing()), QString("{}"));
+    QCOMPARE(textOf(std::vector<Place>(1)), QString("[{ Number: 1.5, Lamp: On (5) }]"));
+}
+
+void TestValueText::enumeratorsAreWritten()
+{
+    std::ostringstream stream;
+    DtWriteEnumerator(stream, DtEnumeratorsOf(Lamp()), 5) << ' ';
+    DtWriteEnumerator(stream, DtEnumeratorsOf(Lamp()), 6);
+    QCOMPARE(stream.str().c_str(), "On (5) 6");
+}
+
+void TestValueText::longTextGoesOverSeveralLines()
+{
+    const std::string inner = "{ a: \"}, {\", b: (1, 2), c: [] }";
+    QCOMPARE(DtTextLayout::of(inner, 4).c_str(), inner.c_str());
+    const std::string numbers = "[" + std::string(200, '1') + ", 2]";
+    QCOMPARE(DtTextLayout::of(numbers, 4).c_str(), numbers.c_str());
+    const std::string quoted = "\"{" + std::string(200, ' ') + "}\"";
+    QCOMPARE(DtTextLayout::of(quoted, 4).c_str(), quoted.c_str());
+    const std::string filling(80, 'x');
+    QCOMPARE(DtTextLayout::of("{ one: " + inner + ", two: [" + inner + "], three: " + filling + " }", 4).c_str(),
+             ("{\n        one: " + inner + ",\n        two: [" + inner + "],\n        three: " + filling + "\n    }")
+                 .c_str());
+    QCOMPARE(DtTextLayout::of("[{ a: " + filling + " }, { a: 1 }]", 4).c_str(),
+             ("[\n        { a: " + filling + " },\n        { a: 1 }\n    ]").c_str());
 }
 
 QX_REGISTER_TEST(TestValueText)

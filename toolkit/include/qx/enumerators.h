@@ -5,6 +5,8 @@
 
 #include <qx/wireForm.h>
 
+#include <iosfwd>
+
 struct DtEnumerator
 {
     const char* name;
@@ -33,6 +35,10 @@ struct DtEnumeratorTable
     std::size_t count;
     DtNumberForm number;
 };
+
+// Writes a number by the name that it has in the table, and behind that the number. In the library, not in a header:
+// what is only coded needs no streams.
+std::ostream& DtWriteEnumerator(std::ostream& out, const DtEnumeratorTable& table, DtInt64 number);
 
 // Generated headers overload this for their enumerations; any other type has no names.
 template <class Type>

@@ -2,8 +2,8 @@
 #define QX_VALUE_TEXT_H
 
 // Values of any type that generated code uses, as text for people to read: what a program prints that shows what it has
-// heard. A number as its digits, an enumerator by its name and number, text in quotes, a list in brackets; any other
-// class as the octets that it is encoded as.
+// heard. A number as its digits, an enumerator by its name and number, text in quotes, a list in brackets; a class by
+// its operator<<, which generated ones have, and without one as the octets that it is encoded as.
 
 #include <qx/opaqueValue.h>
 #include <qx/wireFormat.h>
@@ -48,9 +48,21 @@ inline std::string DtQuotedText(const std::string& content)
 template <class Value, class Enable = void>
 struct DtTextTraits
 {
-    static std::string text(const Value& value) { return ofNumber(value, 0); }
+    static std::string text(const Value& value) { return ofStream(value, 0); }
 
 private:
+    template <class Class>
+    static auto ofStream(const Class& value, int) -> decltype(std::declval<std::ostream&>() << value, std::string())
+    {
+        std::ostringstream stream;
+        stream << value;
+        return stream.str();
+    }
+    template <class Class>
+    static std::string ofStream(const Class& value, long)
+    {
+        return ofNumber(value, 0);
+    }
     // Datatypes that are one number have it under this name.
     template <class Class>
     static auto ofNumber(const Class& value, int) ->
@@ -152,6 +164,75 @@ std::string DtValueText(const Value& value)
 {
     return DtTextTraits<Value>::text(value);
 }
+
+// Writes a structure: { name: value, name: value }.
+class DtFieldWriter
+{
+public:
+    explicit DtFieldWriter(std::ostream& out) : myOut(out), myIsFirst(true) { myOut << "{"; }
+
+    template <class Value>
+    void add(const char* name, const Value& value)
+    {
+        myOut << (myIsFirst ? " " : ", ") << name << ": " << DtValueText(value);
+        myIsFirst = false;
+    }
+    std::ostream& end() { return myOut << (myIsFirst ? "}" : " }"); }
+
+private:
+    std::ostream& myOut;
+    bool myIsFirst;
+};
+
+// The text of a value that begins in this column. What does not fit into a line of 100 columns goes over several, with
+// what a structure or a list of structures holds indented below it.
+class DtTextLayout
+{
+public:
+    static std::string of(const std::string& text, std::size_t column)
+    {
+        const std::size_t open = text.find_first_of("{[\"");
+        const bool isStructure = open != std::string::npos && text[open] != '"' && text.size() > open + 2;
+        if (column + text.size() <= 100 || !isStructure || text.find('{') == std::string::npos)
+            return text;
+        const std::string indent(column, ' ');
+        std::string laidOut = text.substr(0, open + 1) + "\n";
+        std::size_t begin = open + 1;
+        for (std::size_t end = begin; end < text.size(); begin = end + 1)
+        {
+            end = endOfPart(text, begin);
+            const std::size_t first = text.find_first_not_of(' ', begin);
+            const std::size_t last = text.find_last_not_of(' ', end - 1);
+            laidOut += indent + "    " + of(text.substr(first, last - first + 1), column + 4);
+            laidOut += std::string(end < text.size() && text[end] == ',' ? "," : "") + "\n";
+            if (end >= text.size() || text[end] != ',')
+                return laidOut + indent + text.substr(end);
+        }
+        return text;
+    }
+
+private:
+    // Where a part ends: at a comma or at the bracket that closes the whole.
+    static std::size_t endOfPart(const std::string& text, std::size_t begin)
+    {
+        std::size_t depth = 0;
+        bool isInQuotes = false;
+        for (std::size_t i = begin; i < text.size(); ++i)
+        {
+            if (isInQuotes && text[i] == '\\')
+                ++i;
+            else if (text[i] == '"')
+                isInQuotes = !isInQuotes;
+            else if (!isInQuotes && std::string("{[(").find(text[i]) != std::string::npos)
+                ++depth;
+            else if (!isInQuotes && depth > 0 && std::string("}])").find(text[i]) != std::string::npos)
+                --depth;
+            else if (!isInQuotes && depth == 0 && std::string(",}]").find(text[i]) != std::string::npos)
+                return i;
+        }
+        return text.size();
+    }
+};
 
 // An enumerator by its place in the model's list, which starts again behind the last one; 0 when the list is empty.
 template <class Enumeration>

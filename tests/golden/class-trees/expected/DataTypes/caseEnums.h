@@ -10,6 +10,8 @@
 
 #include <qx/enumerators.h>
 
+#include <iosfwd>
+
 #include "dllExport.h"
 
 // What the predefined truth values are called as discriminants; the class of one that the run makes goes first.

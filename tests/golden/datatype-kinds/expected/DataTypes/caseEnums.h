@@ -10,6 +10,8 @@
 
 #include <qx/enumerators.h>
 
+#include <iosfwd>
+
 #include "dllExport.h"
 
 // What the predefined truth values are called as discriminants; the class of one that the run makes goes first.
@@ -41,6 +43,11 @@ inline DtEnumeratorTable DtEnumeratorsOf(DtState8)
         {"", 0}};
     static const DtNumberForm theNumber(1, 0, 0);
     return DtEnumeratorTable("DtState8", theEntries, sizeof theEntries / sizeof *theEntries - 1, theNumber);
+}
+
+inline std::ostream& operator<<(std::ostream& out, DtState8 value)
+{
+    return DtWriteEnumerator(out, DtEnumeratorsOf(value), static_cast<DtInt64>(value));
 }
 
 #endif

@@ -3,6 +3,8 @@
 
 #include "DataTypes/content.h"
 
+#include <qx/valueText.h>
+
 DtContent::DtContent() : Own()
 {
 }
@@ -138,6 +140,24 @@ DtWireForm DtContent::Coding::formOf(unsigned int alternative)
             -1 /* elements */, 0 /* octets */, 0 /* little-endian */),
         DtWireForm()};
     return theForms[alternative];
+}
+
+std::ostream& operator<<(std::ostream& out, const DtContent& value)
+{
+    DtFieldWriter fields(out);
+    fields.add("Kind", value.discriminant<DtContent::Discriminant>());
+    switch (value.selected<int>())
+    {
+    case 0:
+        fields.add("Idle", value.idle());
+        break;
+    case 1:
+        fields.add("Busy", value.busy());
+        break;
+    default:
+        break;
+    }
+    return fields.end();
 }
 
 

@@ -2,6 +2,8 @@
 // Do not edit: the next generation writes it anew.
 
 #include "DataTypes/history.h"
+
+#include <qx/sampleValue.h>
 #include "DataTypes/reading.h"
 
 DtHistory::DtHistory() : myElements(layout().kind == DtFixedArray ? layout().count : 0)
@@ -81,6 +83,11 @@ void DtHistory::clear()
     myElements.clear();
 }
 
+void DtHistory::fillWith(DtSampleFiller& filler)
+{
+    filler.fillElements<value_type>(*this, size());
+}
+
 void DtHistory::encode(DtWireWriter& writer) const
 {
     DtEncodeArray(writer, myElements, layout(), elementForm());
@@ -115,6 +122,11 @@ DtWireForm DtHistory::elementForm()
 {
     return DtWireForm("Reading", "", R"qx(HLAvariableArray)qx",
         -1 /* elements */, 0 /* octets */, 0 /* little-endian */);
+}
+
+std::ostream& operator<<(std::ostream& out, const DtHistory& value)
+{
+    return out << DtValueText(value.elements());
 }
 
 

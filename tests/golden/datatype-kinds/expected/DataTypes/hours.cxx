@@ -3,6 +3,8 @@
 
 #include "DataTypes/hours.h"
 
+#include <qx/valueText.h>
+
 void DtHours::encode(DtWireWriter& writer) const
 {
     DtPutNumber(writer, myNumber, octets(), isLittleEndian());
@@ -31,6 +33,11 @@ unsigned int DtHours::octets()
 bool DtHours::isLittleEndian()
 {
     return 1 != 0;
+}
+
+std::ostream& operator<<(std::ostream& out, const DtHours& value)
+{
+    return out << DtValueText(value.number());
 }
 
 

@@ -6,6 +6,8 @@
 
 #include <qx/wireFormat.h>
 
+#include <iosfwd>
+
 #include "dllExport.h"
 
 // A simple datatype: one number under a name of its own.
@@ -36,6 +38,8 @@ private:
 
     Number myNumber;
 };
+
+DT_DLL_CASE std::ostream& operator<<(std::ostream& out, const DtHours& value);
 
 #endif
 

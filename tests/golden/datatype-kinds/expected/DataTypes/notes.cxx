@@ -3,6 +3,8 @@
 
 #include "DataTypes/notes.h"
 
+#include <qx/sampleValue.h>
+
 DtNotes::DtNotes() : myElements(layout().kind == DtFixedArray ? layout().count : 0)
 {
 }
@@ -80,6 +82,11 @@ void DtNotes::clear()
     myElements.clear();
 }
 
+void DtNotes::fillWith(DtSampleFiller& filler)
+{
+    filler.fillElements<value_type>(*this, size());
+}
+
 void DtNotes::encode(DtWireWriter& writer) const
 {
     DtEncodeArray(writer, myElements, layout(), elementForm());
@@ -114,6 +121,11 @@ DtWireForm DtNotes::elementForm()
 {
     return DtWireForm("HLAASCIIchar", "", R"qx(HLAvariableArray)qx",
         -1 /* elements */, 1 /* octets */, 0 /* little-endian */);
+}
+
+std::ostream& operator<<(std::ostream& out, const DtNotes& value)
+{
+    return out << DtValueText(value.elements());
 }
 
 

@@ -3,6 +3,8 @@
 
 #include "DataTypes/reading.h"
 
+#include <qx/valueText.h>
+
 DtReading::DtReading()
     : Own()
 {
@@ -64,6 +66,15 @@ DtWireForm DtReading::formOf(unsigned int field)
             -1 /* elements */, 1 /* octets */, 0 /* little-endian */),
         DtWireForm()};
     return theForms[field];
+}
+
+std::ostream& operator<<(std::ostream& out, const DtReading& value)
+{
+    DtFieldWriter fields(out);
+    static_cast<void>(value); // a record may have no fields
+    fields.add("At", value.at());
+    fields.add("State", value.state());
+    return fields.end();
 }
 
 

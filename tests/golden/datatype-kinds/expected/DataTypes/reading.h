@@ -7,6 +7,8 @@
 #include <qx/opaqueValue.h>
 #include <qx/wireFormat.h>
 
+#include <iosfwd>
+
 #include "dllExport.h"
 #include "DataTypes/caseEnums.h"
 #include "DataTypes/hours.h"
@@ -24,6 +26,15 @@ public:
     void setAt(const DtHours& value) { Own.myAt = value; }
     const DtState8& state() const { return Own.myState; }
     void setState(const DtState8& value) { Own.myState = value; }
+
+    // Hands each field to the filler, as filler(name, value).
+    template <class Filler>
+    void fillWith(Filler& filler)
+    {
+        static_cast<void>(filler); // a record may have none
+        filler("At", Own.myAt);
+        filler("State", Own.myState);
+    }
 
     void encode(DtWireWriter& writer) const;
     // False: the octets are no such record, and this one is as it was.
@@ -53,6 +64,9 @@ private:
 
     OwnValues Own;
 };
+
+// As text for people, such as { name: value }.
+DT_DLL_CASE std::ostream& operator<<(std::ostream& out, const DtReading& value);
 
 #endif
 

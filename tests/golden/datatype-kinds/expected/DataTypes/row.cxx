@@ -2,6 +2,8 @@
 // Do not edit: the next generation writes it anew.
 
 #include "DataTypes/row.h"
+
+#include <qx/sampleValue.h>
 #include "DataTypes/hours.h"
 
 DtRow::DtRow() : myElements(layout().kind == DtFixedArray ? layout().count : 0)
@@ -81,6 +83,11 @@ void DtRow::clear()
     myElements.clear();
 }
 
+void DtRow::fillWith(DtSampleFiller& filler)
+{
+    filler.fillElements<value_type>(*this, size());
+}
+
 void DtRow::encode(DtWireWriter& writer) const
 {
     DtEncodeArray(writer, myElements, layout(), elementForm());
@@ -115,6 +122,11 @@ DtWireForm DtRow::elementForm()
 {
     return DtWireForm("Hours", "Unsigned16LE", R"qx(HLAvariableArray)qx",
         -1 /* elements */, 2 /* octets */, 1 /* little-endian */);
+}
+
+std::ostream& operator<<(std::ostream& out, const DtRow& value)
+{
+    return out << DtValueText(value.elements());
 }
 
 

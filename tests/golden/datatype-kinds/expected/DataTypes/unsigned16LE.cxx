@@ -3,6 +3,8 @@
 
 #include "DataTypes/unsigned16LE.h"
 
+#include <qx/valueText.h>
+
 void DtUnsigned16LE::encode(DtWireWriter& writer) const
 {
     DtPutNumber(writer, myNumber, octets(), isLittleEndian());
@@ -31,6 +33,11 @@ unsigned int DtUnsigned16LE::octets()
 bool DtUnsigned16LE::isLittleEndian()
 {
     return 1 != 0;
+}
+
+std::ostream& operator<<(std::ostream& out, const DtUnsigned16LE& value)
+{
+    return out << DtValueText(value.number());
 }
 
 

@@ -3,6 +3,8 @@
 
 #include "DataTypes/qxPacket.h"
 
+#include <qx/valueText.h>
+
 #error "DtQxPacket holds more than one part of variable length and has no encoding"
 
 namespace garden
@@ -62,6 +64,15 @@ DtWireForm DtQxPacket::formOf(unsigned int field)
             -1 /* elements */, 2 /* octets */, 0 /* little-endian */),
         DtWireForm()};
     return theForms[field];
+}
+
+std::ostream& operator<<(std::ostream& out, const DtQxPacket& value)
+{
+    DtFieldWriter fields(out);
+    static_cast<void>(value); // a record may have no fields
+    fields.add("Front", value.front());
+    fields.add("Back", value.back());
+    return fields.end();
 }
 
 } // namespace garden

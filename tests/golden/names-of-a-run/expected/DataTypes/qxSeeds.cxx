@@ -3,6 +3,8 @@
 
 #include "DataTypes/qxSeeds.h"
 
+#include <qx/sampleValue.h>
+
 namespace garden
 {
 
@@ -83,6 +85,11 @@ void DtQxSeeds::clear()
     myElements.clear();
 }
 
+void DtQxSeeds::fillWith(DtSampleFiller& filler)
+{
+    filler.fillElements<value_type>(*this, size());
+}
+
 void DtQxSeeds::encode(DtWireWriter& writer) const
 {
     DtEncodeArray(writer, myElements, layout(), elementForm());
@@ -117,6 +124,11 @@ DtWireForm DtQxSeeds::elementForm()
 {
     return DtWireForm("HLAinteger16BE", "", R"qx(HLAvariableArray)qx",
         -1 /* elements */, 2 /* octets */, 0 /* little-endian */);
+}
+
+std::ostream& operator<<(std::ostream& out, const DtQxSeeds& value)
+{
+    return out << DtValueText(value.elements());
 }
 
 } // namespace garden

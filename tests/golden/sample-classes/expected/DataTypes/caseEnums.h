@@ -10,6 +10,8 @@
 
 #include <qx/enumerators.h>
 
+#include <iosfwd>
+
 #include "dllExport.h"
 
 // What the predefined truth values are called as discriminants; the class of one that the run makes goes first.
@@ -44,6 +46,11 @@ inline DtEnumeratorTable DtEnumeratorsOf(DtVesselState8)
     return DtEnumeratorTable("DtVesselState8", theEntries, sizeof theEntries / sizeof *theEntries - 1, theNumber);
 }
 
+inline std::ostream& operator<<(std::ostream& out, DtVesselState8 value)
+{
+    return DtWriteEnumerator(out, DtEnumeratorsOf(value), static_cast<DtInt64>(value));
+}
+
 /// One of several states.
 enum class DtVesselState16 : DtInt64
 {
@@ -63,6 +70,11 @@ inline DtEnumeratorTable DtEnumeratorsOf(DtVesselState16)
     return DtEnumeratorTable("DtVesselState16", theEntries, sizeof theEntries / sizeof *theEntries - 1, theNumber);
 }
 
+inline std::ostream& operator<<(std::ostream& out, DtVesselState16 value)
+{
+    return DtWriteEnumerator(out, DtEnumeratorsOf(value), static_cast<DtInt64>(value));
+}
+
 /// One of several states.
 enum class DtLineState32 : DtInt64
 {
@@ -80,6 +92,11 @@ inline DtEnumeratorTable DtEnumeratorsOf(DtLineState32)
         {"", 0}};
     static const DtNumberForm theNumber(4, 1, 0);
     return DtEnumeratorTable("DtLineState32", theEntries, sizeof theEntries / sizeof *theEntries - 1, theNumber);
+}
+
+inline std::ostream& operator<<(std::ostream& out, DtLineState32 value)
+{
+    return DtWriteEnumerator(out, DtEnumeratorsOf(value), static_cast<DtInt64>(value));
 }
 
 #endif

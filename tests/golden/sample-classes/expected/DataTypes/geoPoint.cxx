@@ -3,6 +3,8 @@
 
 #include "DataTypes/geoPoint.h"
 
+#include <qx/valueText.h>
+
 DtGeoPoint::DtGeoPoint()
     : Own()
 {
@@ -72,6 +74,16 @@ DtWireForm DtGeoPoint::formOf(unsigned int field)
             -1 /* elements */, 4 /* octets */, 0 /* little-endian */),
         DtWireForm()};
     return theForms[field];
+}
+
+std::ostream& operator<<(std::ostream& out, const DtGeoPoint& value)
+{
+    DtFieldWriter fields(out);
+    static_cast<void>(value); // a record may have no fields
+    fields.add("Latitude", value.latitude());
+    fields.add("Longitude", value.longitude());
+    fields.add("Height", value.height());
+    return fields.end();
 }
 
 

@@ -3,6 +3,8 @@
 
 #include "DataTypes/person.h"
 
+#include <qx/valueText.h>
+
 DtPerson::DtPerson()
     : Own()
 {
@@ -72,6 +74,16 @@ DtWireForm DtPerson::formOf(unsigned int field)
             -1 /* elements */, 2 /* octets */, 0 /* little-endian */),
         DtWireForm()};
     return theForms[field];
+}
+
+std::ostream& operator<<(std::ostream& out, const DtPerson& value)
+{
+    DtFieldWriter fields(out);
+    static_cast<void>(value); // a record may have no fields
+    fields.add("FullName", value.fullName());
+    fields.add("Age", value.age());
+    fields.add("Height#cm", value.height__cm());
+    return fields.end();
 }
 
 

@@ -7,6 +7,8 @@
 #include <qx/opaqueValue.h>
 #include <qx/wireFormat.h>
 
+#include <iosfwd>
+
 #include "dllExport.h"
 #include "DataTypes/caseEnums.h"
 #include "DataTypes/count8.h"
@@ -31,6 +33,16 @@ public:
     /// Units: cm.
     const DtInt16& height__cm() const { return Own.myHeight__cm; }
     void setHeight__cm(const DtInt16& value) { Own.myHeight__cm = value; }
+
+    // Hands each field to the filler, as filler(name, value).
+    template <class Filler>
+    void fillWith(Filler& filler)
+    {
+        static_cast<void>(filler); // a record may have none
+        filler("FullName", Own.myFullName);
+        filler("Age", Own.myAge);
+        filler("Height#cm", Own.myHeight__cm);
+    }
 
     void encode(DtWireWriter& writer) const;
     // False: the octets are no such record, and this one is as it was.
@@ -61,6 +73,9 @@ private:
 
     OwnValues Own;
 };
+
+// As text for people, such as { name: value }.
+DT_DLL_CASE std::ostream& operator<<(std::ostream& out, const DtPerson& value);
 
 #endif
 

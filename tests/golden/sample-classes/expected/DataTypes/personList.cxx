@@ -2,6 +2,8 @@
 // Do not edit: the next generation writes it anew.
 
 #include "DataTypes/personList.h"
+
+#include <qx/sampleValue.h>
 #include "DataTypes/person.h"
 
 DtPersonList::DtPersonList() : myElements(layout().kind == DtFixedArray ? layout().count : 0)
@@ -81,6 +83,11 @@ void DtPersonList::clear()
     myElements.clear();
 }
 
+void DtPersonList::fillWith(DtSampleFiller& filler)
+{
+    filler.fillElements<value_type>(*this, size());
+}
+
 void DtPersonList::encode(DtWireWriter& writer) const
 {
     DtEncodeArray(writer, myElements, layout(), elementForm());
@@ -115,6 +122,11 @@ DtWireForm DtPersonList::elementForm()
 {
     return DtWireForm("Person", "", R"qx(HLAvariableArray)qx",
         -1 /* elements */, 0 /* octets */, 0 /* little-endian */);
+}
+
+std::ostream& operator<<(std::ostream& out, const DtPersonList& value)
+{
+    return out << DtValueText(value.elements());
 }
 
 

@@ -3,6 +3,8 @@
 
 #include "DataTypes/shortText.h"
 
+#include <qx/sampleValue.h>
+
 DtShortText::DtShortText() : myElements(layout().kind == DtFixedArray ? layout().count : 0)
 {
 }
@@ -80,6 +82,11 @@ void DtShortText::clear()
     myElements.clear();
 }
 
+void DtShortText::fillWith(DtSampleFiller& filler)
+{
+    filler.fillElements<value_type>(*this, size());
+}
+
 void DtShortText::encode(DtWireWriter& writer) const
 {
     DtEncodeArray(writer, myElements, layout(), elementForm());
@@ -114,6 +121,11 @@ DtWireForm DtShortText::elementForm()
 {
     return DtWireForm("HLAASCIIchar", "", R"qx(HLAvariableArray)qx",
         -1 /* elements */, 1 /* octets */, 0 /* little-endian */);
+}
+
+std::ostream& operator<<(std::ostream& out, const DtShortText& value)
+{
+    return out << DtValueText(value.elements());
 }
 
 

@@ -3,6 +3,8 @@
 
 #include "DataTypes/bearing.h"
 
+#include <qx/valueText.h>
+
 void DtBearing::encode(DtWireWriter& writer) const
 {
     DtPutNumber(writer, myNumber, octets(), isLittleEndian());
@@ -31,6 +33,11 @@ unsigned int DtBearing::octets()
 bool DtBearing::isLittleEndian()
 {
     return 1 != 0;
+}
+
+std::ostream& operator<<(std::ostream& out, const DtBearing& value)
+{
+    return out << DtValueText(value.number());
 }
 
 

@@ -3,6 +3,8 @@
 
 #include "DataTypes/bearingList.h"
 
+#include <qx/sampleValue.h>
+
 DtBearingList::DtBearingList() : myElements(layout().kind == DtFixedArray ? layout().count : 0)
 {
 }
@@ -80,6 +82,11 @@ void DtBearingList::clear()
     myElements.clear();
 }
 
+void DtBearingList::fillWith(DtSampleFiller& filler)
+{
+    filler.fillElements<value_type>(*this, size());
+}
+
 void DtBearingList::encode(DtWireWriter& writer) const
 {
     DtEncodeArray(writer, myElements, layout(), elementForm());
@@ -114,6 +121,11 @@ DtWireForm DtBearingList::elementForm()
 {
     return DtWireForm("Degrees", "HLAfloat64BE", R"qx(HLAvariableArray)qx",
         -1 /* elements */, 8 /* octets */, 0 /* little-endian */);
+}
+
+std::ostream& operator<<(std::ostream& out, const DtBearingList& value)
+{
+    return out << DtValueText(value.elements());
 }
 
 

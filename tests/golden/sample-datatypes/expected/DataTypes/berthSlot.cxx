@@ -3,6 +3,8 @@
 
 #include "DataTypes/berthSlot.h"
 
+#include <qx/valueText.h>
+
 DtBerthSlot::DtBerthSlot()
     : Own()
 {
@@ -80,6 +82,17 @@ DtWireForm DtBerthSlot::formOf(unsigned int field)
             -1 /* elements */, 0 /* octets */, 0 /* little-endian */),
         DtWireForm()};
     return theForms[field];
+}
+
+std::ostream& operator<<(std::ostream& out, const DtBerthSlot& value)
+{
+    DtFieldWriter fields(out);
+    static_cast<void>(value); // a record may have no fields
+    fields.add("Number", value.number());
+    fields.add("Start", value.start());
+    fields.add("Load-Max", value.load__Max());
+    fields.add("Until", value.until());
+    return fields.end();
 }
 
 

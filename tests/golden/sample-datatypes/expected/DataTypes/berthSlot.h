@@ -7,6 +7,8 @@
 #include <qx/opaqueValue.h>
 #include <qx/wireFormat.h>
 
+#include <iosfwd>
+
 #include "dllExport.h"
 #include "DataTypes/caseEnums.h"
 #include "DataTypes/count8.h"
@@ -33,6 +35,17 @@ public:
     void setLoad__Max(const DtWeight__Kg& value) { Own.myLoad__Max = value; }
     const DtTideMark& until() const { return Own.myUntil; }
     void setUntil(const DtTideMark& value) { Own.myUntil = value; }
+
+    // Hands each field to the filler, as filler(name, value).
+    template <class Filler>
+    void fillWith(Filler& filler)
+    {
+        static_cast<void>(filler); // a record may have none
+        filler("Number", Own.myNumber);
+        filler("Start", Own.myStart);
+        filler("Load-Max", Own.myLoad__Max);
+        filler("Until", Own.myUntil);
+    }
 
     void encode(DtWireWriter& writer) const;
     // False: the octets are no such record, and this one is as it was.
@@ -64,6 +77,9 @@ private:
 
     OwnValues Own;
 };
+
+// As text for people, such as { name: value }.
+DT_DLL_CASE std::ostream& operator<<(std::ostream& out, const DtBerthSlot& value);
 
 #endif
 

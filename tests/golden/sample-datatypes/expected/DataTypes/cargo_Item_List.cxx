@@ -2,6 +2,8 @@
 // Do not edit: the next generation writes it anew.
 
 #include "DataTypes/cargo_Item_List.h"
+
+#include <qx/sampleValue.h>
 #include "DataTypes/cargo__Item.h"
 
 DtCargo_Item_List::DtCargo_Item_List() : myElements(layout().kind == DtFixedArray ? layout().count : 0)
@@ -81,6 +83,11 @@ void DtCargo_Item_List::clear()
     myElements.clear();
 }
 
+void DtCargo_Item_List::fillWith(DtSampleFiller& filler)
+{
+    filler.fillElements<value_type>(*this, size());
+}
+
 void DtCargo_Item_List::encode(DtWireWriter& writer) const
 {
     DtEncodeArray(writer, myElements, layout(), elementForm());
@@ -115,6 +122,11 @@ DtWireForm DtCargo_Item_List::elementForm()
 {
     return DtWireForm("Cargo__Item", "", R"qx(HLAvariableArray)qx",
         -1 /* elements */, 0 /* octets */, 0 /* little-endian */);
+}
+
+std::ostream& operator<<(std::ostream& out, const DtCargo_Item_List& value)
+{
+    return out << DtValueText(value.elements());
 }
 
 

@@ -7,6 +7,8 @@
 #include <qx/opaqueValue.h>
 #include <qx/wireFormat.h>
 
+#include <iosfwd>
+
 #include "dllExport.h"
 #include "DataTypes/caseEnums.h"
 #include "DataTypes/oldText.h"
@@ -32,6 +34,16 @@ public:
     /// A part.
     const DtPlain__Four& theTemplate() const { return Own.mytemplate; }
     void setTheTemplate(const DtPlain__Four& value) { Own.mytemplate = value; }
+
+    // Hands each field to the filler, as filler(name, value).
+    template <class Filler>
+    void fillWith(Filler& filler)
+    {
+        static_cast<void>(filler); // a record may have none
+        filler("Label", Own.myLabel);
+        filler("Weight/Gross", Own.myWeight__Gross);
+        filler("template", Own.mytemplate);
+    }
 
     void encode(DtWireWriter& writer) const;
     // False: the octets are no such record, and this one is as it was.
@@ -62,6 +74,9 @@ private:
 
     OwnValues Own;
 };
+
+// As text for people, such as { name: value }.
+DT_DLL_CASE std::ostream& operator<<(std::ostream& out, const DtCargo__Item& value);
 
 #endif
 

@@ -10,6 +10,8 @@
 
 #include <qx/enumerators.h>
 
+#include <iosfwd>
+
 #include "dllExport.h"
 
 // What the predefined truth values are called as discriminants; the class of one that the run makes goes first.
@@ -44,6 +46,11 @@ inline DtEnumeratorTable DtEnumeratorsOf(DtVesselState8)
     return DtEnumeratorTable("DtVesselState8", theEntries, sizeof theEntries / sizeof *theEntries - 1, theNumber);
 }
 
+inline std::ostream& operator<<(std::ostream& out, DtVesselState8 value)
+{
+    return DtWriteEnumerator(out, DtEnumeratorsOf(value), static_cast<DtInt64>(value));
+}
+
 /// One of several states.
 enum class DtLineState32 : DtInt64
 {
@@ -61,6 +68,11 @@ inline DtEnumeratorTable DtEnumeratorsOf(DtLineState32)
         {"", 0}};
     static const DtNumberForm theNumber(4, 1, 0);
     return DtEnumeratorTable("DtLineState32", theEntries, sizeof theEntries / sizeof *theEntries - 1, theNumber);
+}
+
+inline std::ostream& operator<<(std::ostream& out, DtLineState32 value)
+{
+    return DtWriteEnumerator(out, DtEnumeratorsOf(value), static_cast<DtInt64>(value));
 }
 
 /// One of several states.
@@ -82,6 +94,11 @@ inline DtEnumeratorTable DtEnumeratorsOf(DtBerthKind64)
     return DtEnumeratorTable("DtBerthKind64", theEntries, sizeof theEntries / sizeof *theEntries - 1, theNumber);
 }
 
+inline std::ostream& operator<<(std::ostream& out, DtBerthKind64 value)
+{
+    return DtWriteEnumerator(out, DtEnumeratorsOf(value), static_cast<DtInt64>(value));
+}
+
 /// One octet with a sign.
 enum class DtLampState : DtInt64
 {
@@ -99,6 +116,11 @@ inline DtEnumeratorTable DtEnumeratorsOf(DtLampState)
         {"", 0}};
     static const DtNumberForm theNumber(1, 1, 0);
     return DtEnumeratorTable("DtLampState", theEntries, sizeof theEntries / sizeof *theEntries - 1, theNumber);
+}
+
+inline std::ostream& operator<<(std::ostream& out, DtLampState value)
+{
+    return DtWriteEnumerator(out, DtEnumeratorsOf(value), static_cast<DtInt64>(value));
 }
 
 /// Two octets with a sign; the numbers run up and down.
@@ -130,6 +152,11 @@ inline DtEnumeratorTable DtEnumeratorsOf(DtSignalKind16)
     return DtEnumeratorTable("DtSignalKind16", theEntries, sizeof theEntries / sizeof *theEntries - 1, theNumber);
 }
 
+inline std::ostream& operator<<(std::ostream& out, DtSignalKind16 value)
+{
+    return DtWriteEnumerator(out, DtEnumeratorsOf(value), static_cast<DtInt64>(value));
+}
+
 /// Two octets with a sign, low octet first.
 enum class DtCurrent16 : DtInt64
 {
@@ -147,6 +174,11 @@ inline DtEnumeratorTable DtEnumeratorsOf(DtCurrent16)
         {"", 0}};
     static const DtNumberForm theNumber(2, 1, 1);
     return DtEnumeratorTable("DtCurrent16", theEntries, sizeof theEntries / sizeof *theEntries - 1, theNumber);
+}
+
+inline std::ostream& operator<<(std::ostream& out, DtCurrent16 value)
+{
+    return DtWriteEnumerator(out, DtEnumeratorsOf(value), static_cast<DtInt64>(value));
 }
 
 /// Two octets without a sign, low octet first.
@@ -168,6 +200,11 @@ inline DtEnumeratorTable DtEnumeratorsOf(DtTool16)
     return DtEnumeratorTable("DtTool16", theEntries, sizeof theEntries / sizeof *theEntries - 1, theNumber);
 }
 
+inline std::ostream& operator<<(std::ostream& out, DtTool16 value)
+{
+    return DtWriteEnumerator(out, DtEnumeratorsOf(value), static_cast<DtInt64>(value));
+}
+
 /// Three octets with a sign, low octet first.
 enum class DtSlack24 : DtInt64
 {
@@ -183,6 +220,11 @@ inline DtEnumeratorTable DtEnumeratorsOf(DtSlack24)
         {"", 0}};
     static const DtNumberForm theNumber(3, 1, 1);
     return DtEnumeratorTable("DtSlack24", theEntries, sizeof theEntries / sizeof *theEntries - 1, theNumber);
+}
+
+inline std::ostream& operator<<(std::ostream& out, DtSlack24 value)
+{
+    return DtWriteEnumerator(out, DtEnumeratorsOf(value), static_cast<DtInt64>(value));
 }
 
 /// Four octets with a sign, low octet first.
@@ -204,6 +246,11 @@ inline DtEnumeratorTable DtEnumeratorsOf(DtDeep32)
     return DtEnumeratorTable("DtDeep32", theEntries, sizeof theEntries / sizeof *theEntries - 1, theNumber);
 }
 
+inline std::ostream& operator<<(std::ostream& out, DtDeep32 value)
+{
+    return DtWriteEnumerator(out, DtEnumeratorsOf(value), static_cast<DtInt64>(value));
+}
+
 /// Eight octets without a sign, low octet first.
 enum class DtZone64 : DtInt64
 {
@@ -223,6 +270,11 @@ inline DtEnumeratorTable DtEnumeratorsOf(DtZone64)
     return DtEnumeratorTable("DtZone64", theEntries, sizeof theEntries / sizeof *theEntries - 1, theNumber);
 }
 
+inline std::ostream& operator<<(std::ostream& out, DtZone64 value)
+{
+    return DtWriteEnumerator(out, DtEnumeratorsOf(value), static_cast<DtInt64>(value));
+}
+
 /// Four octets without a sign.
 enum class DtHullPart32 : DtInt64
 {
@@ -240,6 +292,11 @@ inline DtEnumeratorTable DtEnumeratorsOf(DtHullPart32)
         {"", 0}};
     static const DtNumberForm theNumber(4, 0, 0);
     return DtEnumeratorTable("DtHullPart32", theEntries, sizeof theEntries / sizeof *theEntries - 1, theNumber);
+}
+
+inline std::ostream& operator<<(std::ostream& out, DtHullPart32 value)
+{
+    return DtWriteEnumerator(out, DtEnumeratorsOf(value), static_cast<DtInt64>(value));
 }
 
 #endif

@@ -3,6 +3,8 @@
 
 #include "DataTypes/celsius.h"
 
+#include <qx/valueText.h>
+
 void DtCelsius::encode(DtWireWriter& writer) const
 {
     DtPutNumber(writer, myNumber, octets(), isLittleEndian());
@@ -31,6 +33,11 @@ unsigned int DtCelsius::octets()
 bool DtCelsius::isLittleEndian()
 {
     return 0 != 0;
+}
+
+std::ostream& operator<<(std::ostream& out, const DtCelsius& value)
+{
+    return out << DtValueText(value.number());
 }
 
 

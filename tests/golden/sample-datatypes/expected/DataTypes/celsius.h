@@ -6,6 +6,8 @@
 
 #include <qx/wireFormat.h>
 
+#include <iosfwd>
+
 #include "dllExport.h"
 
 // A simple datatype: one number under a name of its own.
@@ -37,6 +39,8 @@ private:
 
     Number myNumber;
 };
+
+DT_DLL_CASE std::ostream& operator<<(std::ostream& out, const DtCelsius& value);
 
 #endif
 

@@ -3,6 +3,8 @@
 
 #include "DataTypes/clockTime.h"
 
+#include <qx/valueText.h>
+
 DtClockTime::DtClockTime()
     : Own()
 {
@@ -72,6 +74,16 @@ DtWireForm DtClockTime::formOf(unsigned int field)
             -1 /* elements */, 1 /* octets */, 0 /* little-endian */),
         DtWireForm()};
     return theForms[field];
+}
+
+std::ostream& operator<<(std::ostream& out, const DtClockTime& value)
+{
+    DtFieldWriter fields(out);
+    static_cast<void>(value); // a record may have no fields
+    fields.add("Hour", value.hour());
+    fields.add("Minute", value.minute());
+    fields.add("Second", value.second());
+    return fields.end();
 }
 
 

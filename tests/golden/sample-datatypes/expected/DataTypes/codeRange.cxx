@@ -2,6 +2,8 @@
 // Do not edit: the next generation writes it anew.
 
 #include "DataTypes/codeRange.h"
+
+#include <qx/sampleValue.h>
 #include "DataTypes/weight__Kg.h"
 
 DtCodeRange::DtCodeRange() : myElements(layout().kind == DtFixedArray ? layout().count : 0)
@@ -81,6 +83,11 @@ void DtCodeRange::clear()
     myElements.clear();
 }
 
+void DtCodeRange::fillWith(DtSampleFiller& filler)
+{
+    filler.fillElements<value_type>(*this, size());
+}
+
 void DtCodeRange::encode(DtWireWriter& writer) const
 {
     DtEncodeArray(writer, myElements, layout(), elementForm());
@@ -115,6 +122,11 @@ DtWireForm DtCodeRange::elementForm()
 {
     return DtWireForm("Weight__Kg", "HarbourUnsigned32", R"qx(HLAvariableArray)qx",
         -1 /* elements */, 4 /* octets */, 0 /* little-endian */);
+}
+
+std::ostream& operator<<(std::ostream& out, const DtCodeRange& value)
+{
+    return out << DtValueText(value.elements());
 }
 
 

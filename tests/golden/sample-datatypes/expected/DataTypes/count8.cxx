@@ -3,6 +3,8 @@
 
 #include "DataTypes/count8.h"
 
+#include <qx/valueText.h>
+
 void DtCount8::encode(DtWireWriter& writer) const
 {
     DtPutNumber(writer, myNumber, octets(), isLittleEndian());
@@ -31,6 +33,11 @@ unsigned int DtCount8::octets()
 bool DtCount8::isLittleEndian()
 {
     return 0 != 0;
+}
+
+std::ostream& operator<<(std::ostream& out, const DtCount8& value)
+{
+    return out << DtValueText(value.number());
 }
 
 

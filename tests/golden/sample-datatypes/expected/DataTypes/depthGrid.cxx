@@ -3,6 +3,8 @@
 
 #include "DataTypes/depthGrid.h"
 
+#include <qx/sampleValue.h>
+
 DtDepthGrid::DtDepthGrid() : myElements(layout().kind == DtFixedArray ? layout().count : 0)
 {
 }
@@ -80,6 +82,11 @@ void DtDepthGrid::clear()
     myElements.clear();
 }
 
+void DtDepthGrid::fillWith(DtSampleFiller& filler)
+{
+    filler.fillElements<value_type>(*this, size());
+}
+
 void DtDepthGrid::encode(DtWireWriter& writer) const
 {
     DtEncodeArray(writer, myElements, layout(), elementForm());
@@ -114,6 +121,11 @@ DtWireForm DtDepthGrid::elementForm()
 {
     return DtWireForm("Depth", "HLAinteger16BE", R"qx(HLAvariableArray)qx",
         -1 /* elements */, 2 /* octets */, 0 /* little-endian */);
+}
+
+std::ostream& operator<<(std::ostream& out, const DtDepthGrid& value)
+{
+    return out << DtValueText(value.elements());
 }
 
 

@@ -3,6 +3,8 @@
 
 #include "DataTypes/doorStates.h"
 
+#include <qx/sampleValue.h>
+
 DtDoorStates::DtDoorStates() : myElements(layout().kind == DtFixedArray ? layout().count : 0)
 {
 }
@@ -80,6 +82,11 @@ void DtDoorStates::clear()
     myElements.clear();
 }
 
+void DtDoorStates::fillWith(DtSampleFiller& filler)
+{
+    filler.fillElements<value_type>(*this, size());
+}
+
 void DtDoorStates::encode(DtWireWriter& writer) const
 {
     DtEncodeArray(writer, myElements, layout(), elementForm());
@@ -114,6 +121,11 @@ DtWireForm DtDoorStates::elementForm()
 {
     return DtWireForm("HLAboolean", "", R"qx(HLAvariableArray)qx",
         -1 /* elements */, 0 /* octets */, 0 /* little-endian */);
+}
+
+std::ostream& operator<<(std::ostream& out, const DtDoorStates& value)
+{
+    return out << DtValueText(value.elements());
 }
 
 

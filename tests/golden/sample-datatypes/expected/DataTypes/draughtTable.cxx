@@ -3,6 +3,8 @@
 
 #include "DataTypes/draughtTable.h"
 
+#include <qx/sampleValue.h>
+
 DtDraughtTable::DtDraughtTable() : myElements(layout().kind == DtFixedArray ? layout().count : 0)
 {
 }
@@ -80,6 +82,11 @@ void DtDraughtTable::clear()
     myElements.clear();
 }
 
+void DtDraughtTable::fillWith(DtSampleFiller& filler)
+{
+    filler.fillElements<value_type>(*this, size());
+}
+
 void DtDraughtTable::encode(DtWireWriter& writer) const
 {
     DtEncodeArray(writer, myElements, layout(), elementForm());
@@ -114,6 +121,11 @@ DtWireForm DtDraughtTable::elementForm()
 {
     return DtWireForm("HLAfloat32LE", "", R"qx(HLAvariableArray)qx",
         -1 /* elements */, 4 /* octets */, 1 /* little-endian */);
+}
+
+std::ostream& operator<<(std::ostream& out, const DtDraughtTable& value)
+{
+    return out << DtValueText(value.elements());
 }
 
 

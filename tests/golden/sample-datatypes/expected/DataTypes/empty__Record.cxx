@@ -3,6 +3,8 @@
 
 #include "DataTypes/empty__Record.h"
 
+#include <qx/valueText.h>
+
 DtEmpty__Record::DtEmpty__Record()
 {
 }
@@ -47,6 +49,13 @@ DtWireForm DtEmpty__Record::formOf(unsigned int field)
     static const DtWireForm theForms[] = {
         DtWireForm()};
     return theForms[field];
+}
+
+std::ostream& operator<<(std::ostream& out, const DtEmpty__Record& value)
+{
+    DtFieldWriter fields(out);
+    static_cast<void>(value); // a record may have no fields
+    return fields.end();
 }
 
 

@@ -7,6 +7,8 @@
 #include <qx/opaqueValue.h>
 #include <qx/wireFormat.h>
 
+#include <iosfwd>
+
 #include "dllExport.h"
 #include "DataTypes/caseEnums.h"
 
@@ -19,6 +21,13 @@ public:
     bool operator==(const DtEmpty__Record& other) const;
     bool operator!=(const DtEmpty__Record& other) const;
 
+
+    // Hands each field to the filler, as filler(name, value).
+    template <class Filler>
+    void fillWith(Filler& filler)
+    {
+        static_cast<void>(filler); // a record may have none
+    }
 
     void encode(DtWireWriter& writer) const;
     // False: the octets are no such record, and this one is as it was.
@@ -39,6 +48,9 @@ public:
 private:
     static DtWireForm formOf(unsigned int field);
 };
+
+// As text for people, such as { name: value }.
+DT_DLL_CASE std::ostream& operator<<(std::ostream& out, const DtEmpty__Record& value);
 
 #endif
 

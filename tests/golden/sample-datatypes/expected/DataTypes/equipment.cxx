@@ -3,6 +3,8 @@
 
 #include "DataTypes/equipment.h"
 
+#include <qx/valueText.h>
+
 DtEquipment::DtEquipment() : Own()
 {
 }
@@ -150,6 +152,27 @@ DtWireForm DtEquipment::Coding::formOf(unsigned int alternative)
             -1 /* elements */, 0 /* octets */, 0 /* little-endian */),
         DtWireForm()};
     return theForms[alternative];
+}
+
+std::ostream& operator<<(std::ostream& out, const DtEquipment& value)
+{
+    DtFieldWriter fields(out);
+    fields.add("Tool", value.discriminant<DtEquipment::Discriminant>());
+    switch (value.selected<int>())
+    {
+    case 0:
+        fields.add("Chain", value.chain());
+        break;
+    case 1:
+        fields.add("Lift", value.lift());
+        break;
+    case 2:
+        fields.add("Band", value.band());
+        break;
+    default:
+        break;
+    }
+    return fields.end();
 }
 
 

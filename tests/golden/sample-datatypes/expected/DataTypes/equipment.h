@@ -7,6 +7,8 @@
 #include <qx/opaqueValue.h>
 #include <qx/wireFormat.h>
 
+#include <iosfwd>
+
 #include "dllExport.h"
 #include "DataTypes/caseEnums.h"
 #include "DataTypes/weight__Kg.h"
@@ -63,6 +65,30 @@ public:
         select(2);
     }
 
+    // Selects the alternative that filler.choose(count) names, and hands it to the filler as filler(name, value).
+    template <class Filler>
+    void fillWith(Filler& filler)
+    {
+        static_cast<void>(filler); // a record may have none
+        const std::size_t count = 0 + 1 + 1 + 1;
+        if (count > 0)
+            select(static_cast<unsigned int>(filler.choose(count)));
+        switch (placeOf(Own.selector))
+        {
+        case 0:
+            filler("Chain", Own.myChain);
+            break;
+        case 1:
+            filler("Lift", Own.myLift);
+            break;
+        case 2:
+            filler("Band", Own.myBand);
+            break;
+        default:
+            break;
+        }
+    }
+
     void encode(DtWireWriter& writer) const;
     // False: the octets are no such record, and this one is as it was.
     bool decode(DtWireReader& reader);
@@ -104,6 +130,9 @@ private:
 
     OwnValues Own;
 };
+
+// As text for people, such as { name: value }.
+DT_DLL_CASE std::ostream& operator<<(std::ostream& out, const DtEquipment& value);
 
 #endif
 

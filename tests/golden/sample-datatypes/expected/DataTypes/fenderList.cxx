@@ -2,6 +2,8 @@
 // Do not edit: the next generation writes it anew.
 
 #include "DataTypes/fenderList.h"
+
+#include <qx/sampleValue.h>
 #include "DataTypes/count8.h"
 
 DtFenderList::DtFenderList() : myElements(layout().kind == DtFixedArray ? layout().count : 0)
@@ -81,6 +83,11 @@ void DtFenderList::clear()
     myElements.clear();
 }
 
+void DtFenderList::fillWith(DtSampleFiller& filler)
+{
+    filler.fillElements<value_type>(*this, size());
+}
+
 void DtFenderList::encode(DtWireWriter& writer) const
 {
     DtEncodeArray(writer, myElements, layout(), elementForm());
@@ -115,6 +122,11 @@ DtWireForm DtFenderList::elementForm()
 {
     return DtWireForm("Count8", "HarbourUnsigned8", R"qx(HLAvariableArray)qx",
         -1 /* elements */, 1 /* octets */, 0 /* little-endian */);
+}
+
+std::ostream& operator<<(std::ostream& out, const DtFenderList& value)
+{
+    return out << DtValueText(value.elements());
 }
 
 

@@ -2,6 +2,8 @@
 // Do not edit: the next generation writes it anew.
 
 #include "DataTypes/fillTo64.h"
+
+#include <qx/sampleValue.h>
 #include "DataTypes/count8.h"
 
 DtFillTo64::DtFillTo64() : myElements(layout().kind == DtFixedArray ? layout().count : 0)
@@ -81,6 +83,11 @@ void DtFillTo64::clear()
     myElements.clear();
 }
 
+void DtFillTo64::fillWith(DtSampleFiller& filler)
+{
+    filler.fillElements<value_type>(*this, size());
+}
+
 void DtFillTo64::encode(DtWireWriter& writer) const
 {
     DtEncodeArray(writer, myElements, layout(), elementForm());
@@ -115,6 +122,11 @@ DtWireForm DtFillTo64::elementForm()
 {
     return DtWireForm("Count8", "HarbourUnsigned8", R"qx(HLAvariableArray)qx",
         -1 /* elements */, 1 /* octets */, 0 /* little-endian */);
+}
+
+std::ostream& operator<<(std::ostream& out, const DtFillTo64& value)
+{
+    return out << DtValueText(value.elements());
 }
 
 

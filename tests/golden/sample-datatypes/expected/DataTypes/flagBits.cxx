@@ -3,6 +3,8 @@
 
 #include "DataTypes/flagBits.h"
 
+#include <qx/sampleValue.h>
+
 DtFlagBits::DtFlagBits() : myElements(layout().kind == DtFixedArray ? layout().count : 0)
 {
 }
@@ -80,6 +82,11 @@ void DtFlagBits::clear()
     myElements.clear();
 }
 
+void DtFlagBits::fillWith(DtSampleFiller& filler)
+{
+    filler.fillElements<value_type>(*this, size());
+}
+
 void DtFlagBits::encode(DtWireWriter& writer) const
 {
     DtEncodeArray(writer, myElements, layout(), elementForm());
@@ -114,6 +121,11 @@ DtWireForm DtFlagBits::elementForm()
 {
     return DtWireForm("HLAoctet", "", R"qx(HLAvariableArray)qx",
         -1 /* elements */, 1 /* octets */, 0 /* little-endian */);
+}
+
+std::ostream& operator<<(std::ostream& out, const DtFlagBits& value)
+{
+    return out << DtValueText(value.elements());
 }
 
 

@@ -2,6 +2,8 @@
 // Do not edit: the next generation writes it anew.
 
 #include "DataTypes/gateTimes.h"
+
+#include <qx/sampleValue.h>
 #include "DataTypes/clockTime.h"
 
 DtGateTimes::DtGateTimes() : myElements(layout().kind == DtFixedArray ? layout().count : 0)
@@ -81,6 +83,11 @@ void DtGateTimes::clear()
     myElements.clear();
 }
 
+void DtGateTimes::fillWith(DtSampleFiller& filler)
+{
+    filler.fillElements<value_type>(*this, size());
+}
+
 void DtGateTimes::encode(DtWireWriter& writer) const
 {
     DtEncodeArray(writer, myElements, layout(), elementForm());
@@ -115,6 +122,11 @@ DtWireForm DtGateTimes::elementForm()
 {
     return DtWireForm("ClockTime", "", R"qx(HLAvariableArray)qx",
         -1 /* elements */, 0 /* octets */, 0 /* little-endian */);
+}
+
+std::ostream& operator<<(std::ostream& out, const DtGateTimes& value)
+{
+    return out << DtValueText(value.elements());
 }
 
 

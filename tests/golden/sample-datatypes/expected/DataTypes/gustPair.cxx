@@ -3,6 +3,8 @@
 
 #include "DataTypes/gustPair.h"
 
+#include <qx/valueText.h>
+
 DtGustPair::DtGustPair()
     : Own()
 {
@@ -64,6 +66,15 @@ DtWireForm DtGustPair::formOf(unsigned int field)
             -1 /* elements */, 4 /* octets */, 0 /* little-endian */),
         DtWireForm()};
     return theForms[field];
+}
+
+std::ostream& operator<<(std::ostream& out, const DtGustPair& value)
+{
+    DtFieldWriter fields(out);
+    static_cast<void>(value); // a record may have no fields
+    fields.add("Low", value.low());
+    fields.add("High", value.high());
+    return fields.end();
 }
 
 

@@ -3,6 +3,8 @@
 
 #include "DataTypes/harbourInteger24.h"
 
+#include <qx/valueText.h>
+
 void DtHarbourInteger24::encode(DtWireWriter& writer) const
 {
     DtPutNumber(writer, myNumber, octets(), isLittleEndian());
@@ -31,6 +33,11 @@ unsigned int DtHarbourInteger24::octets()
 bool DtHarbourInteger24::isLittleEndian()
 {
     return 0 != 0;
+}
+
+std::ostream& operator<<(std::ostream& out, const DtHarbourInteger24& value)
+{
+    return out << DtValueText(value.number());
 }
 
 

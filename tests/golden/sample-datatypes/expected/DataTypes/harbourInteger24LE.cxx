@@ -3,6 +3,8 @@
 
 #include "DataTypes/harbourInteger24LE.h"
 
+#include <qx/valueText.h>
+
 void DtHarbourInteger24LE::encode(DtWireWriter& writer) const
 {
     DtPutNumber(writer, myNumber, octets(), isLittleEndian());
@@ -31,6 +33,11 @@ unsigned int DtHarbourInteger24LE::octets()
 bool DtHarbourInteger24LE::isLittleEndian()
 {
     return 1 != 0;
+}
+
+std::ostream& operator<<(std::ostream& out, const DtHarbourInteger24LE& value)
+{
+    return out << DtValueText(value.number());
 }
 
 

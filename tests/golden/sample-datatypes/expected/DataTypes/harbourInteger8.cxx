@@ -3,6 +3,8 @@
 
 #include "DataTypes/harbourInteger8.h"
 
+#include <qx/valueText.h>
+
 void DtHarbourInteger8::encode(DtWireWriter& writer) const
 {
     DtPutNumber(writer, myNumber, octets(), isLittleEndian());
@@ -31,6 +33,11 @@ unsigned int DtHarbourInteger8::octets()
 bool DtHarbourInteger8::isLittleEndian()
 {
     return 0 != 0;
+}
+
+std::ostream& operator<<(std::ostream& out, const DtHarbourInteger8& value)
+{
+    return out << DtValueText(value.number());
 }
 
 

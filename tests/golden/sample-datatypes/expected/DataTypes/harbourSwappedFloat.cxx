@@ -3,6 +3,8 @@
 
 #include "DataTypes/harbourSwappedFloat.h"
 
+#include <qx/valueText.h>
+
 void DtHarbourSwappedFloat::encode(DtWireWriter& writer) const
 {
     DtPutNumber(writer, myNumber, octets(), isLittleEndian());
@@ -31,6 +33,11 @@ unsigned int DtHarbourSwappedFloat::octets()
 bool DtHarbourSwappedFloat::isLittleEndian()
 {
     return 1 != 0;
+}
+
+std::ostream& operator<<(std::ostream& out, const DtHarbourSwappedFloat& value)
+{
+    return out << DtValueText(value.number());
 }
 
 

@@ -3,6 +3,8 @@
 
 #include "DataTypes/harbourUnsigned16LE.h"
 
+#include <qx/valueText.h>
+
 void DtHarbourUnsigned16LE::encode(DtWireWriter& writer) const
 {
     DtPutNumber(writer, myNumber, octets(), isLittleEndian());
@@ -31,6 +33,11 @@ unsigned int DtHarbourUnsigned16LE::octets()
 bool DtHarbourUnsigned16LE::isLittleEndian()
 {
     return 1 != 0;
+}
+
+std::ostream& operator<<(std::ostream& out, const DtHarbourUnsigned16LE& value)
+{
+    return out << DtValueText(value.number());
 }
 
 

@@ -3,6 +3,8 @@
 
 #include "DataTypes/harbourUnsigned32.h"
 
+#include <qx/valueText.h>
+
 void DtHarbourUnsigned32::encode(DtWireWriter& writer) const
 {
     DtPutNumber(writer, myNumber, octets(), isLittleEndian());
@@ -31,6 +33,11 @@ unsigned int DtHarbourUnsigned32::octets()
 bool DtHarbourUnsigned32::isLittleEndian()
 {
     return 0 != 0;
+}
+
+std::ostream& operator<<(std::ostream& out, const DtHarbourUnsigned32& value)
+{
+    return out << DtValueText(value.number());
 }
 
 

@@ -3,6 +3,8 @@
 
 #include "DataTypes/harbourUnsigned64LE.h"
 
+#include <qx/valueText.h>
+
 void DtHarbourUnsigned64LE::encode(DtWireWriter& writer) const
 {
     DtPutNumber(writer, myNumber, octets(), isLittleEndian());
@@ -31,6 +33,11 @@ unsigned int DtHarbourUnsigned64LE::octets()
 bool DtHarbourUnsigned64LE::isLittleEndian()
 {
     return 1 != 0;
+}
+
+std::ostream& operator<<(std::ostream& out, const DtHarbourUnsigned64LE& value)
+{
+    return out << DtValueText(value.number());
 }
 
 

@@ -6,6 +6,8 @@
 
 #include <qx/wireFormat.h>
 
+#include <iosfwd>
+
 #include "dllExport.h"
 
 // A basic representation: one number of the length and byte order that the model gives.
@@ -36,6 +38,8 @@ private:
 
     Number myNumber;
 };
+
+DT_DLL_CASE std::ostream& operator<<(std::ostream& out, const DtHarbourUnsigned64LE& value);
 
 #endif
 

@@ -3,6 +3,8 @@
 
 #include "DataTypes/harbourUnsigned8.h"
 
+#include <qx/valueText.h>
+
 void DtHarbourUnsigned8::encode(DtWireWriter& writer) const
 {
     DtPutNumber(writer, myNumber, octets(), isLittleEndian());
@@ -31,6 +33,11 @@ unsigned int DtHarbourUnsigned8::octets()
 bool DtHarbourUnsigned8::isLittleEndian()
 {
     return 0 != 0;
+}
+
+std::ostream& operator<<(std::ostream& out, const DtHarbourUnsigned8& value)
+{
+    return out << DtValueText(value.number());
 }
 
 

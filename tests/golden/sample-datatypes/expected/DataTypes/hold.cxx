@@ -3,6 +3,8 @@
 
 #include "DataTypes/hold.h"
 
+#include <qx/valueText.h>
+
 DtHold::DtHold()
     : Own()
 {
@@ -80,6 +82,17 @@ DtWireForm DtHold::formOf(unsigned int field)
             -1 /* elements */, 1 /* octets */, 0 /* little-endian */),
         DtWireForm()};
     return theForms[field];
+}
+
+std::ostream& operator<<(std::ostream& out, const DtHold& value)
+{
+    DtFieldWriter fields(out);
+    static_cast<void>(value); // a record may have no fields
+    fields.add("Full", value.full());
+    fields.add("Load", value.load());
+    fields.add("State", value.state());
+    fields.add("Sub", value.sub());
+    return fields.end();
 }
 
 

@@ -7,6 +7,8 @@
 #include <qx/opaqueValue.h>
 #include <qx/wireFormat.h>
 
+#include <iosfwd>
+
 #include "dllExport.h"
 #include "DataTypes/caseEnums.h"
 #include "DataTypes/weight__Kg.h"
@@ -35,6 +37,17 @@ public:
     /// Units: 1.
     const DtSub_Count_& sub() const { return Own.mySub; }
     void setSub(const DtSub_Count_& value) { Own.mySub = value; }
+
+    // Hands each field to the filler, as filler(name, value).
+    template <class Filler>
+    void fillWith(Filler& filler)
+    {
+        static_cast<void>(filler); // a record may have none
+        filler("Full", Own.myFull);
+        filler("Load", Own.myLoad);
+        filler("State", Own.myState);
+        filler("Sub", Own.mySub);
+    }
 
     void encode(DtWireWriter& writer) const;
     // False: the octets are no such record, and this one is as it was.
@@ -66,6 +79,9 @@ private:
 
     OwnValues Own;
 };
+
+// As text for people, such as { name: value }.
+DT_DLL_CASE std::ostream& operator<<(std::ostream& out, const DtHold& value);
 
 #endif
 

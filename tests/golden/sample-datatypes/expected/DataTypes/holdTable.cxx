@@ -2,6 +2,8 @@
 // Do not edit: the next generation writes it anew.
 
 #include "DataTypes/holdTable.h"
+
+#include <qx/sampleValue.h>
 #include "DataTypes/hold.h"
 
 DtHoldTable::DtHoldTable() : myElements(layout().kind == DtFixedArray ? layout().count : 0)
@@ -81,6 +83,11 @@ void DtHoldTable::clear()
     myElements.clear();
 }
 
+void DtHoldTable::fillWith(DtSampleFiller& filler)
+{
+    filler.fillElements<value_type>(*this, size());
+}
+
 void DtHoldTable::encode(DtWireWriter& writer) const
 {
     DtEncodeArray(writer, myElements, layout(), elementForm());
@@ -115,6 +122,11 @@ DtWireForm DtHoldTable::elementForm()
 {
     return DtWireForm("Hold", "", R"qx(HLAvariableArray)qx",
         -1 /* elements */, 0 /* octets */, 0 /* little-endian */);
+}
+
+std::ostream& operator<<(std::ostream& out, const DtHoldTable& value)
+{
+    return out << DtValueText(value.elements());
 }
 
 

@@ -3,6 +3,8 @@
 
 #include "DataTypes/inspection.h"
 
+#include <qx/valueText.h>
+
 DtInspection::DtInspection() : Own()
 {
 }
@@ -150,6 +152,27 @@ DtWireForm DtInspection::Coding::formOf(unsigned int alternative)
             -1 /* elements */, 2 /* octets */, 1 /* little-endian */),
         DtWireForm()};
     return theForms[alternative];
+}
+
+std::ostream& operator<<(std::ostream& out, const DtInspection& value)
+{
+    DtFieldWriter fields(out);
+    fields.add("Part", value.discriminant<DtInspection::Discriminant>());
+    switch (value.selected<int>())
+    {
+    case 0:
+        fields.add("Hull", value.hull());
+        break;
+    case 1:
+        fields.add("Hours", value.hours());
+        break;
+    case 2:
+        fields.add("Hole", value.hole());
+        break;
+    default:
+        break;
+    }
+    return fields.end();
 }
 
 

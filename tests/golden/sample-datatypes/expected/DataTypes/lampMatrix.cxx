@@ -3,6 +3,8 @@
 
 #include "DataTypes/lampMatrix.h"
 
+#include <qx/sampleValue.h>
+
 DtLampMatrix::DtLampMatrix() : myElements(layout().kind == DtFixedArray ? layout().count : 0)
 {
 }
@@ -80,6 +82,11 @@ void DtLampMatrix::clear()
     myElements.clear();
 }
 
+void DtLampMatrix::fillWith(DtSampleFiller& filler)
+{
+    filler.fillElements<value_type>(*this, size());
+}
+
 void DtLampMatrix::encode(DtWireWriter& writer) const
 {
     DtEncodeArray(writer, myElements, layout(), elementForm());
@@ -114,6 +121,11 @@ DtWireForm DtLampMatrix::elementForm()
 {
     return DtWireForm("lampState", "HarbourInteger8", R"qx(HLAvariableArray)qx",
         -1 /* elements */, 1 /* octets */, 0 /* little-endian */);
+}
+
+std::ostream& operator<<(std::ostream& out, const DtLampMatrix& value)
+{
+    return out << DtValueText(value.elements());
 }
 
 

@@ -3,6 +3,8 @@
 
 #include "DataTypes/lampReport.h"
 
+#include <qx/valueText.h>
+
 DtLampReport::DtLampReport() : Own()
 {
 }
@@ -138,6 +140,24 @@ DtWireForm DtLampReport::Coding::formOf(unsigned int alternative)
             -1 /* elements */, 0 /* octets */, 0 /* little-endian */),
         DtWireForm()};
     return theForms[alternative];
+}
+
+std::ostream& operator<<(std::ostream& out, const DtLampReport& value)
+{
+    DtFieldWriter fields(out);
+    fields.add("Lamp", value.discriminant<DtLampReport::Discriminant>());
+    switch (value.selected<int>())
+    {
+    case 0:
+        fields.add("Period", value.period());
+        break;
+    case 1:
+        fields.add("Cause", value.cause());
+        break;
+    default:
+        break;
+    }
+    return fields.end();
 }
 
 

@@ -3,6 +3,8 @@
 
 #include "DataTypes/lineList.h"
 
+#include <qx/sampleValue.h>
+
 DtLineList::DtLineList() : myElements(layout().kind == DtFixedArray ? layout().count : 0)
 {
 }
@@ -80,6 +82,11 @@ void DtLineList::clear()
     myElements.clear();
 }
 
+void DtLineList::fillWith(DtSampleFiller& filler)
+{
+    filler.fillElements<value_type>(*this, size());
+}
+
 void DtLineList::encode(DtWireWriter& writer) const
 {
     DtEncodeArray(writer, myElements, layout(), elementForm());
@@ -114,6 +121,11 @@ DtWireForm DtLineList::elementForm()
 {
     return DtWireForm("LineState32", "HLAinteger32BE", R"qx(HLAvariableArray)qx",
         -1 /* elements */, 4 /* octets */, 0 /* little-endian */);
+}
+
+std::ostream& operator<<(std::ostream& out, const DtLineList& value)
+{
+    return out << DtValueText(value.elements());
 }
 
 

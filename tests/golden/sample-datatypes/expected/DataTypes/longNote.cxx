@@ -3,6 +3,8 @@
 
 #include "DataTypes/longNote.h"
 
+#include <qx/valueText.h>
+
 DtLongNote::DtLongNote()
     : Own()
 {
@@ -80,6 +82,17 @@ DtWireForm DtLongNote::formOf(unsigned int field)
             -1 /* elements */, 8 /* octets */, 1 /* little-endian */),
         DtWireForm()};
     return theForms[field];
+}
+
+std::ostream& operator<<(std::ostream& out, const DtLongNote& value)
+{
+    DtFieldWriter fields(out);
+    static_cast<void>(value); // a record may have no fields
+    fields.add("Author", value.author());
+    fields.add("Words", value.words());
+    fields.add("Rating", value.rating());
+    fields.add("Sum", value.sum());
+    return fields.end();
 }
 
 

@@ -7,6 +7,8 @@
 #include <qx/opaqueValue.h>
 #include <qx/wireFormat.h>
 
+#include <iosfwd>
+
 #include "dllExport.h"
 #include "DataTypes/caseEnums.h"
 #include "DataTypes/routeCode.h"
@@ -32,6 +34,17 @@ public:
     /// Units: 1.
     const DtRegisterNumber& sum() const { return Own.mySum; }
     void setSum(const DtRegisterNumber& value) { Own.mySum = value; }
+
+    // Hands each field to the filler, as filler(name, value).
+    template <class Filler>
+    void fillWith(Filler& filler)
+    {
+        static_cast<void>(filler); // a record may have none
+        filler("Author", Own.myAuthor);
+        filler("Words", Own.myWords);
+        filler("Rating", Own.myRating);
+        filler("Sum", Own.mySum);
+    }
 
     void encode(DtWireWriter& writer) const;
     // False: the octets are no such record, and this one is as it was.
@@ -63,6 +76,9 @@ private:
 
     OwnValues Own;
 };
+
+// As text for people, such as { name: value }.
+DT_DLL_CASE std::ostream& operator<<(std::ostream& out, const DtLongNote& value);
 
 #endif
 

@@ -3,6 +3,8 @@
 
 #include "DataTypes/nameList.h"
 
+#include <qx/sampleValue.h>
+
 DtNameList::DtNameList() : myElements(layout().kind == DtFixedArray ? layout().count : 0)
 {
 }
@@ -80,6 +82,11 @@ void DtNameList::clear()
     myElements.clear();
 }
 
+void DtNameList::fillWith(DtSampleFiller& filler)
+{
+    filler.fillElements<value_type>(*this, size());
+}
+
 void DtNameList::encode(DtWireWriter& writer) const
 {
     DtEncodeArray(writer, myElements, layout(), elementForm());
@@ -114,6 +121,11 @@ DtWireForm DtNameList::elementForm()
 {
     return DtWireForm("HLAunicodeString", "", R"qx(HLAvariableArray)qx",
         -1 /* elements */, 0 /* octets */, 0 /* little-endian */);
+}
+
+std::ostream& operator<<(std::ostream& out, const DtNameList& value)
+{
+    return out << DtValueText(value.elements());
 }
 
 

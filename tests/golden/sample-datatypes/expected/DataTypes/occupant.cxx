@@ -3,6 +3,8 @@
 
 #include "DataTypes/occupant.h"
 
+#include <qx/valueText.h>
+
 DtOccupant::DtOccupant() : Own()
 {
 }
@@ -151,6 +153,27 @@ DtWireForm DtOccupant::Coding::formOf(unsigned int alternative)
             -1 /* elements */, 0 /* octets */, 0 /* little-endian */),
         DtWireForm()};
     return theForms[alternative];
+}
+
+std::ostream& operator<<(std::ostream& out, const DtOccupant& value)
+{
+    DtFieldWriter fields(out);
+    fields.add("Kind", value.discriminant<DtOccupant::Discriminant>());
+    switch (value.selected<int>())
+    {
+    case 0:
+        fields.add("Ship", value.ship());
+        break;
+    case 1:
+        fields.add("Arrival", value.arrival());
+        break;
+    case 2:
+        fields.add("Wreck", value.wreck());
+        break;
+    default:
+        break;
+    }
+    return fields.end();
 }
 
 

@@ -3,6 +3,8 @@
 
 #include "DataTypes/oldRun.h"
 
+#include <qx/sampleValue.h>
+
 DtOldRun::DtOldRun() : myElements(layout().kind == DtFixedArray ? layout().count : 0)
 {
 }
@@ -80,6 +82,11 @@ void DtOldRun::clear()
     myElements.clear();
 }
 
+void DtOldRun::fillWith(DtSampleFiller& filler)
+{
+    filler.fillElements<value_type>(*this, size());
+}
+
 void DtOldRun::encode(DtWireWriter& writer) const
 {
     DtEncodeArray(writer, myElements, layout(), elementForm());
@@ -114,6 +121,11 @@ DtWireForm DtOldRun::elementForm()
 {
     return DtWireForm("Letter", "HLAASCIIchar", R"qx(HLAvariableArray)qx",
         -1 /* elements */, 1 /* octets */, 0 /* little-endian */);
+}
+
+std::ostream& operator<<(std::ostream& out, const DtOldRun& value)
+{
+    return out << DtValueText(value.elements());
 }
 
 

@@ -3,6 +3,8 @@
 
 #include "DataTypes/paddedReport.h"
 
+#include <qx/valueText.h>
+
 DtPaddedReport::DtPaddedReport()
     : Own()
 {
@@ -88,6 +90,18 @@ DtWireForm DtPaddedReport::formOf(unsigned int field)
             -1 /* elements */, 1 /* octets */, 0 /* little-endian */),
         DtWireForm()};
     return theForms[field];
+}
+
+std::ostream& operator<<(std::ostream& out, const DtPaddedReport& value)
+{
+    DtFieldWriter fields(out);
+    static_cast<void>(value); // a record may have no fields
+    fields.add("Code", value.code());
+    fields.add("Fill", value.fill());
+    fields.add("Value", value.value());
+    fields.add("Rest", value.rest());
+    fields.add("Tail", value.tail());
+    return fields.end();
 }
 
 

@@ -7,6 +7,8 @@
 #include <qx/opaqueValue.h>
 #include <qx/wireFormat.h>
 
+#include <iosfwd>
+
 #include "dllExport.h"
 #include "DataTypes/caseEnums.h"
 #include "DataTypes/count8.h"
@@ -37,6 +39,18 @@ public:
     /// Units: 1.
     const DtCount8& tail() const { return Own.myTail; }
     void setTail(const DtCount8& value) { Own.myTail = value; }
+
+    // Hands each field to the filler, as filler(name, value).
+    template <class Filler>
+    void fillWith(Filler& filler)
+    {
+        static_cast<void>(filler); // a record may have none
+        filler("Code", Own.myCode);
+        filler("Fill", Own.myFill);
+        filler("Value", Own.myValue);
+        filler("Rest", Own.myRest);
+        filler("Tail", Own.myTail);
+    }
 
     void encode(DtWireWriter& writer) const;
     // False: the octets are no such record, and this one is as it was.
@@ -69,6 +83,9 @@ private:
 
     OwnValues Own;
 };
+
+// As text for people, such as { name: value }.
+DT_DLL_CASE std::ostream& operator<<(std::ostream& out, const DtPaddedReport& value);
 
 #endif
 

@@ -2,6 +2,8 @@
 // Do not edit: the next generation writes it anew.
 
 #include "DataTypes/paddedTrace.h"
+
+#include <qx/sampleValue.h>
 #include "DataTypes/tide16LE.h"
 
 DtPaddedTrace::DtPaddedTrace() : myElements(layout().kind == DtFixedArray ? layout().count : 0)
@@ -81,6 +83,11 @@ void DtPaddedTrace::clear()
     myElements.clear();
 }
 
+void DtPaddedTrace::fillWith(DtSampleFiller& filler)
+{
+    filler.fillElements<value_type>(*this, size());
+}
+
 void DtPaddedTrace::encode(DtWireWriter& writer) const
 {
     DtEncodeArray(writer, myElements, layout(), elementForm());
@@ -115,6 +122,11 @@ DtWireForm DtPaddedTrace::elementForm()
 {
     return DtWireForm("Tide16LE", "HarbourUnsigned16LE", R"qx(HLAvariableArray)qx",
         -1 /* elements */, 2 /* octets */, 1 /* little-endian */);
+}
+
+std::ostream& operator<<(std::ostream& out, const DtPaddedTrace& value)
+{
+    return out << DtValueText(value.elements());
 }
 
 

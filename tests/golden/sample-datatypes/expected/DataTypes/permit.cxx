@@ -3,6 +3,8 @@
 
 #include "DataTypes/permit.h"
 
+#include <qx/valueText.h>
+
 DtPermit::DtPermit() : Own()
 {
 }
@@ -125,6 +127,21 @@ DtWireForm DtPermit::Coding::formOf(unsigned int alternative)
             -1 /* elements */, 0 /* octets */, 0 /* little-endian */),
         DtWireForm()};
     return theForms[alternative];
+}
+
+std::ostream& operator<<(std::ostream& out, const DtPermit& value)
+{
+    DtFieldWriter fields(out);
+    fields.add("Given", value.discriminant<DtPermit::Discriminant>());
+    switch (value.selected<int>())
+    {
+    case 0:
+        fields.add("Until", value.until());
+        break;
+    default:
+        break;
+    }
+    return fields.end();
 }
 
 

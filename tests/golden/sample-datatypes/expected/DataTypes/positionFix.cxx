@@ -3,6 +3,8 @@
 
 #include "DataTypes/positionFix.h"
 
+#include <qx/valueText.h>
+
 DtPositionFix::DtPositionFix() : Own()
 {
 }
@@ -137,6 +139,24 @@ DtWireForm DtPositionFix::Coding::formOf(unsigned int alternative)
             -1 /* elements */, 2 /* octets */, 0 /* little-endian */),
         DtWireForm()};
     return theForms[alternative];
+}
+
+std::ostream& operator<<(std::ostream& out, const DtPositionFix& value)
+{
+    DtFieldWriter fields(out);
+    fields.add("Surveyed", value.discriminant<DtPositionFix::Discriminant>());
+    switch (value.selected<int>())
+    {
+    case 0:
+        fields.add("Exact", value.exact());
+        break;
+    case 1:
+        fields.add("Rough", value.rough());
+        break;
+    default:
+        break;
+    }
+    return fields.end();
 }
 
 

@@ -3,6 +3,8 @@
 
 #include "DataTypes/registerNumber.h"
 
+#include <qx/valueText.h>
+
 void DtRegisterNumber::encode(DtWireWriter& writer) const
 {
     DtPutNumber(writer, myNumber, octets(), isLittleEndian());
@@ -31,6 +33,11 @@ unsigned int DtRegisterNumber::octets()
 bool DtRegisterNumber::isLittleEndian()
 {
     return 1 != 0;
+}
+
+std::ostream& operator<<(std::ostream& out, const DtRegisterNumber& value)
+{
+    return out << DtValueText(value.number());
 }
 
 

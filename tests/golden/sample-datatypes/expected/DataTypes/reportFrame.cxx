@@ -3,6 +3,8 @@
 
 #include "DataTypes/reportFrame.h"
 
+#include <qx/valueText.h>
+
 DtReportFrame::DtReportFrame()
     : Own()
 {
@@ -64,6 +66,15 @@ DtWireForm DtReportFrame::formOf(unsigned int field)
             -1 /* elements */, 0 /* octets */, 0 /* little-endian */),
         DtWireForm()};
     return theForms[field];
+}
+
+std::ostream& operator<<(std::ostream& out, const DtReportFrame& value)
+{
+    DtFieldWriter fields(out);
+    static_cast<void>(value); // a record may have no fields
+    fields.add("Lead", value.lead());
+    fields.add("Body", value.body());
+    return fields.end();
 }
 
 

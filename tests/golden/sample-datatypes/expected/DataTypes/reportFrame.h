@@ -7,6 +7,8 @@
 #include <qx/opaqueValue.h>
 #include <qx/wireFormat.h>
 
+#include <iosfwd>
+
 #include "dllExport.h"
 #include "DataTypes/caseEnums.h"
 #include "DataTypes/count8.h"
@@ -26,6 +28,15 @@ public:
     void setLead(const DtCount8& value) { Own.myLead = value; }
     const DtPaddedReport& body() const { return Own.myBody; }
     void setBody(const DtPaddedReport& value) { Own.myBody = value; }
+
+    // Hands each field to the filler, as filler(name, value).
+    template <class Filler>
+    void fillWith(Filler& filler)
+    {
+        static_cast<void>(filler); // a record may have none
+        filler("Lead", Own.myLead);
+        filler("Body", Own.myBody);
+    }
 
     void encode(DtWireWriter& writer) const;
     // False: the octets are no such record, and this one is as it was.
@@ -55,6 +66,9 @@ private:
 
     OwnValues Own;
 };
+
+// As text for people, such as { name: value }.
+DT_DLL_CASE std::ostream& operator<<(std::ostream& out, const DtReportFrame& value);
 
 #endif
 

@@ -3,6 +3,8 @@
 
 #include "DataTypes/reportText.h"
 
+#include <qx/sampleValue.h>
+
 DtReportText::DtReportText() : myElements(layout().kind == DtFixedArray ? layout().count : 0)
 {
 }
@@ -80,6 +82,11 @@ void DtReportText::clear()
     myElements.clear();
 }
 
+void DtReportText::fillWith(DtSampleFiller& filler)
+{
+    filler.fillElements<value_type>(*this, size());
+}
+
 void DtReportText::encode(DtWireWriter& writer) const
 {
     DtEncodeArray(writer, myElements, layout(), elementForm());
@@ -114,6 +121,11 @@ DtWireForm DtReportText::elementForm()
 {
     return DtWireForm("HLAASCIIchar", "", R"qx(HLAvariableArray)qx",
         -1 /* elements */, 1 /* octets */, 0 /* little-endian */);
+}
+
+std::ostream& operator<<(std::ostream& out, const DtReportText& value)
+{
+    return out << DtValueText(value.elements());
 }
 
 

@@ -3,6 +3,8 @@
 
 #include "DataTypes/rotation.h"
 
+#include <qx/valueText.h>
+
 DtRotation::DtRotation()
     : Own()
 {
@@ -72,6 +74,16 @@ DtWireForm DtRotation::formOf(unsigned int field)
             -1 /* elements */, 1 /* octets */, 0 /* little-endian */),
         DtWireForm()};
     return theForms[field];
+}
+
+std::ostream& operator<<(std::ostream& out, const DtRotation& value)
+{
+    DtFieldWriter fields(out);
+    static_cast<void>(value); // a record may have no fields
+    fields.add("Slot", value.slot());
+    fields.add("Centre", value.centre());
+    fields.add("Turns", value.turns());
+    return fields.end();
 }
 
 

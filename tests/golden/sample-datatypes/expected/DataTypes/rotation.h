@@ -7,6 +7,8 @@
 #include <qx/opaqueValue.h>
 #include <qx/wireFormat.h>
 
+#include <iosfwd>
+
 #include "dllExport.h"
 #include "DataTypes/caseEnums.h"
 #include "DataTypes/berthSlot.h"
@@ -29,6 +31,16 @@ public:
     /// Units: 1.
     const DtCount8& turns() const { return Own.myTurns; }
     void setTurns(const DtCount8& value) { Own.myTurns = value; }
+
+    // Hands each field to the filler, as filler(name, value).
+    template <class Filler>
+    void fillWith(Filler& filler)
+    {
+        static_cast<void>(filler); // a record may have none
+        filler("Slot", Own.mySlot);
+        filler("Centre", Own.myCentre);
+        filler("Turns", Own.myTurns);
+    }
 
     void encode(DtWireWriter& writer) const;
     // False: the octets are no such record, and this one is as it was.
@@ -59,6 +71,9 @@ private:
 
     OwnValues Own;
 };
+
+// As text for people, such as { name: value }.
+DT_DLL_CASE std::ostream& operator<<(std::ostream& out, const DtRotation& value);
 
 #endif
 

@@ -2,6 +2,8 @@
 // Do not edit: the next generation writes it anew.
 
 #include "DataTypes/rotationList.h"
+
+#include <qx/sampleValue.h>
 #include "DataTypes/rotation.h"
 
 DtRotationList::DtRotationList() : myElements(layout().kind == DtFixedArray ? layout().count : 0)
@@ -81,6 +83,11 @@ void DtRotationList::clear()
     myElements.clear();
 }
 
+void DtRotationList::fillWith(DtSampleFiller& filler)
+{
+    filler.fillElements<value_type>(*this, size());
+}
+
 void DtRotationList::encode(DtWireWriter& writer) const
 {
     DtEncodeArray(writer, myElements, layout(), elementForm());
@@ -115,6 +122,11 @@ DtWireForm DtRotationList::elementForm()
 {
     return DtWireForm("Rotation", "", R"qx(HLAvariableArray)qx",
         -1 /* elements */, 0 /* octets */, 0 /* little-endian */);
+}
+
+std::ostream& operator<<(std::ostream& out, const DtRotationList& value)
+{
+    return out << DtValueText(value.elements());
 }
 
 

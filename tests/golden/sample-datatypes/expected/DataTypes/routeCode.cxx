@@ -3,6 +3,8 @@
 
 #include "DataTypes/routeCode.h"
 
+#include <qx/sampleValue.h>
+
 DtRouteCode::DtRouteCode() : myElements(layout().kind == DtFixedArray ? layout().count : 0)
 {
 }
@@ -80,6 +82,11 @@ void DtRouteCode::clear()
     myElements.clear();
 }
 
+void DtRouteCode::fillWith(DtSampleFiller& filler)
+{
+    filler.fillElements<value_type>(*this, size());
+}
+
 void DtRouteCode::encode(DtWireWriter& writer) const
 {
     DtEncodeArray(writer, myElements, layout(), elementForm());
@@ -114,6 +121,11 @@ DtWireForm DtRouteCode::elementForm()
 {
     return DtWireForm("HLAunicodeChar", "", R"qx(HLAvariableArray)qx",
         -1 /* elements */, 2 /* octets */, 0 /* little-endian */);
+}
+
+std::ostream& operator<<(std::ostream& out, const DtRouteCode& value)
+{
+    return out << DtValueText(value.elements());
 }
 
 

@@ -3,6 +3,8 @@
 
 #include "DataTypes/sampleRun.h"
 
+#include <qx/sampleValue.h>
+
 DtSampleRun::DtSampleRun() : myElements(layout().kind == DtFixedArray ? layout().count : 0)
 {
 }
@@ -80,6 +82,11 @@ void DtSampleRun::clear()
     myElements.clear();
 }
 
+void DtSampleRun::fillWith(DtSampleFiller& filler)
+{
+    filler.fillElements<value_type>(*this, size());
+}
+
 void DtSampleRun::encode(DtWireWriter& writer) const
 {
     DtEncodeArray(writer, myElements, layout(), elementForm());
@@ -114,6 +121,11 @@ DtWireForm DtSampleRun::elementForm()
 {
     return DtWireForm("Depth", "HLAinteger16BE", R"qx(HLAvariableArray)qx",
         -1 /* elements */, 2 /* octets */, 0 /* little-endian */);
+}
+
+std::ostream& operator<<(std::ostream& out, const DtSampleRun& value)
+{
+    return out << DtValueText(value.elements());
 }
 
 

@@ -7,9 +7,12 @@
 #include <qx/opaqueValue.h>
 #include <qx/wireFormat.h>
 
+#include <iosfwd>
 #include <vector>
 
 #include "dllExport.h"
+
+class DtSampleFiller;
 
 // An array. A fixed array starts with all its elements and cannot be encoded while it has another number of them.
 //
@@ -41,6 +44,8 @@ public:
     void push_back(const value_type& element);
     void resize(std::size_t size);
     void clear();
+    // Gives the elements values; an array without elements gets some.
+    void fillWith(DtSampleFiller& filler);
 
     void encode(DtWireWriter& writer) const;
     // False: the octets are no such array, and this one is as it was.
@@ -55,6 +60,9 @@ private:
 
     Elements myElements;
 };
+
+// As text for people, such as [1, 2].
+DT_DLL_CASE std::ostream& operator<<(std::ostream& out, const DtSampleRun& value);
 
 #endif
 

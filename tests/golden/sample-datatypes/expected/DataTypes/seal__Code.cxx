@@ -3,6 +3,8 @@
 
 #include "DataTypes/seal__Code.h"
 
+#include <qx/sampleValue.h>
+
 DtSeal__Code::DtSeal__Code() : myElements(layout().kind == DtFixedArray ? layout().count : 0)
 {
 }
@@ -80,6 +82,11 @@ void DtSeal__Code::clear()
     myElements.clear();
 }
 
+void DtSeal__Code::fillWith(DtSampleFiller& filler)
+{
+    filler.fillElements<value_type>(*this, size());
+}
+
 void DtSeal__Code::encode(DtWireWriter& writer) const
 {
     DtEncodeArray(writer, myElements, layout(), elementForm());
@@ -114,6 +121,11 @@ DtWireForm DtSeal__Code::elementForm()
 {
     return DtWireForm("HLAoctet", "", R"qx(HLAvariableArray)qx",
         -1 /* elements */, 1 /* octets */, 0 /* little-endian */);
+}
+
+std::ostream& operator<<(std::ostream& out, const DtSeal__Code& value)
+{
+    return out << DtValueText(value.elements());
 }
 
 

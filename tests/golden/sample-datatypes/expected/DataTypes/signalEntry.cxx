@@ -3,6 +3,8 @@
 
 #include "DataTypes/signalEntry.h"
 
+#include <qx/valueText.h>
+
 DtSignalEntry::DtSignalEntry()
     : Own()
 {
@@ -64,6 +66,15 @@ DtWireForm DtSignalEntry::formOf(unsigned int field)
             -1 /* elements */, 0 /* octets */, 0 /* little-endian */),
         DtWireForm()};
     return theForms[field];
+}
+
+std::ostream& operator<<(std::ostream& out, const DtSignalEntry& value)
+{
+    DtFieldWriter fields(out);
+    static_cast<void>(value); // a record may have no fields
+    fields.add("SentAt", value.sentAt());
+    fields.add("What", value.what());
+    return fields.end();
 }
 
 

@@ -2,6 +2,8 @@
 // Do not edit: the next generation writes it anew.
 
 #include "DataTypes/signalLog.h"
+
+#include <qx/sampleValue.h>
 #include "DataTypes/signalEntry.h"
 
 DtSignalLog::DtSignalLog() : myElements(layout().kind == DtFixedArray ? layout().count : 0)
@@ -81,6 +83,11 @@ void DtSignalLog::clear()
     myElements.clear();
 }
 
+void DtSignalLog::fillWith(DtSampleFiller& filler)
+{
+    filler.fillElements<value_type>(*this, size());
+}
+
 void DtSignalLog::encode(DtWireWriter& writer) const
 {
     DtEncodeArray(writer, myElements, layout(), elementForm());
@@ -115,6 +122,11 @@ DtWireForm DtSignalLog::elementForm()
 {
     return DtWireForm("SignalEntry", "", R"qx(HLAvariableArray)qx",
         -1 /* elements */, 0 /* octets */, 0 /* little-endian */);
+}
+
+std::ostream& operator<<(std::ostream& out, const DtSignalLog& value)
+{
+    return out << DtValueText(value.elements());
 }
 
 

@@ -3,6 +3,8 @@
 
 #include "DataTypes/signalMessage.h"
 
+#include <qx/valueText.h>
+
 DtSignalMessage::DtSignalMessage() : Own()
 {
 }
@@ -177,6 +179,33 @@ DtWireForm DtSignalMessage::Coding::formOf(unsigned int alternative)
             -1 /* elements */, 0 /* octets */, 0 /* little-endian */),
         DtWireForm()};
     return theForms[alternative];
+}
+
+std::ostream& operator<<(std::ostream& out, const DtSignalMessage& value)
+{
+    DtFieldWriter fields(out);
+    fields.add("Kind", value.discriminant<DtSignalMessage::Discriminant>());
+    switch (value.selected<int>())
+    {
+    case 0:
+        fields.add("Visibility", value.visibility());
+        break;
+    case 1:
+        fields.add("Strength", value.strength());
+        break;
+    case 2:
+        fields.add("Place", value.place());
+        break;
+    case 3:
+        fields.add("Station", value.station());
+        break;
+    case 4:
+        fields.add("Words", value.words());
+        break;
+    default:
+        break;
+    }
+    return fields.end();
 }
 
 

@@ -3,6 +3,8 @@
 
 #include "DataTypes/sub_Count_.h"
 
+#include <qx/valueText.h>
+
 void DtSub_Count_::encode(DtWireWriter& writer) const
 {
     DtPutNumber(writer, myNumber, octets(), isLittleEndian());
@@ -31,6 +33,11 @@ unsigned int DtSub_Count_::octets()
 bool DtSub_Count_::isLittleEndian()
 {
     return 0 != 0;
+}
+
+std::ostream& operator<<(std::ostream& out, const DtSub_Count_& value)
+{
+    return out << DtValueText(value.number());
 }
 
 

@@ -3,6 +3,8 @@
 
 #include "DataTypes/testResult.h"
 
+#include <qx/valueText.h>
+
 DtTestResult::DtTestResult() : Own()
 {
 }
@@ -137,6 +139,24 @@ DtWireForm DtTestResult::Coding::formOf(unsigned int alternative)
             -1 /* elements */, 1 /* octets */, 0 /* little-endian */),
         DtWireForm()};
     return theForms[alternative];
+}
+
+std::ostream& operator<<(std::ostream& out, const DtTestResult& value)
+{
+    DtFieldWriter fields(out);
+    fields.add("Passed", value.discriminant<DtTestResult::Discriminant>());
+    switch (value.selected<int>())
+    {
+    case 0:
+        fields.add("Score", value.score());
+        break;
+    case 1:
+        fields.add("Fault", value.fault());
+        break;
+    default:
+        break;
+    }
+    return fields.end();
 }
 
 

@@ -7,6 +7,8 @@
 #include <qx/opaqueValue.h>
 #include <qx/wireFormat.h>
 
+#include <iosfwd>
+
 #include "dllExport.h"
 #include "DataTypes/caseEnums.h"
 #include "DataTypes/count8.h"
@@ -55,6 +57,27 @@ public:
         select(1);
     }
 
+    // Selects the alternative that filler.choose(count) names, and hands it to the filler as filler(name, value).
+    template <class Filler>
+    void fillWith(Filler& filler)
+    {
+        static_cast<void>(filler); // a record may have none
+        const std::size_t count = 0 + 1 + 1;
+        if (count > 0)
+            select(static_cast<unsigned int>(filler.choose(count)));
+        switch (placeOf(Own.selector))
+        {
+        case 0:
+            filler("Score", Own.myScore);
+            break;
+        case 1:
+            filler("Fault", Own.myFault);
+            break;
+        default:
+            break;
+        }
+    }
+
     void encode(DtWireWriter& writer) const;
     // False: the octets are no such record, and this one is as it was.
     bool decode(DtWireReader& reader);
@@ -95,6 +118,9 @@ private:
 
     OwnValues Own;
 };
+
+// As text for people, such as { name: value }.
+DT_DLL_CASE std::ostream& operator<<(std::ostream& out, const DtTestResult& value);
 
 #endif
 

@@ -3,6 +3,8 @@
 
 #include "DataTypes/tide16LE.h"
 
+#include <qx/valueText.h>
+
 void DtTide16LE::encode(DtWireWriter& writer) const
 {
     DtPutNumber(writer, myNumber, octets(), isLittleEndian());
@@ -31,6 +33,11 @@ unsigned int DtTide16LE::octets()
 bool DtTide16LE::isLittleEndian()
 {
     return 1 != 0;
+}
+
+std::ostream& operator<<(std::ostream& out, const DtTide16LE& value)
+{
+    return out << DtValueText(value.number());
 }
 
 

@@ -3,6 +3,8 @@
 
 #include "DataTypes/tideMark.h"
 
+#include <qx/valueText.h>
+
 DtTideMark::DtTideMark()
     : Own()
 {
@@ -64,6 +66,15 @@ DtWireForm DtTideMark::formOf(unsigned int field)
             -1 /* elements */, 2 /* octets */, 0 /* little-endian */),
         DtWireForm()};
     return theForms[field];
+}
+
+std::ostream& operator<<(std::ostream& out, const DtTideMark& value)
+{
+    DtFieldWriter fields(out);
+    static_cast<void>(value); // a record may have no fields
+    fields.add("At", value.at());
+    fields.add("Level", value.level());
+    return fields.end();
 }
 
 

@@ -2,6 +2,8 @@
 // Do not edit: the next generation writes it anew.
 
 #include "DataTypes/tideRing.h"
+
+#include <qx/sampleValue.h>
 #include "DataTypes/tide16LE.h"
 
 DtTideRing::DtTideRing() : myElements(layout().kind == DtFixedArray ? layout().count : 0)
@@ -81,6 +83,11 @@ void DtTideRing::clear()
     myElements.clear();
 }
 
+void DtTideRing::fillWith(DtSampleFiller& filler)
+{
+    filler.fillElements<value_type>(*this, size());
+}
+
 void DtTideRing::encode(DtWireWriter& writer) const
 {
     DtEncodeArray(writer, myElements, layout(), elementForm());
@@ -115,6 +122,11 @@ DtWireForm DtTideRing::elementForm()
 {
     return DtWireForm("Tide16LE", "HarbourUnsigned16LE", R"qx(HLAvariableArray)qx",
         -1 /* elements */, 2 /* octets */, 1 /* little-endian */);
+}
+
+std::ostream& operator<<(std::ostream& out, const DtTideRing& value)
+{
+    return out << DtValueText(value.elements());
 }
 
 

@@ -2,6 +2,8 @@
 // Do not edit: the next generation writes it anew.
 
 #include "DataTypes/tiltTable.h"
+
+#include <qx/sampleValue.h>
 #include "DataTypes/trim24.h"
 
 DtTiltTable::DtTiltTable() : myElements(layout().kind == DtFixedArray ? layout().count : 0)
@@ -81,6 +83,11 @@ void DtTiltTable::clear()
     myElements.clear();
 }
 
+void DtTiltTable::fillWith(DtSampleFiller& filler)
+{
+    filler.fillElements<value_type>(*this, size());
+}
+
 void DtTiltTable::encode(DtWireWriter& writer) const
 {
     DtEncodeArray(writer, myElements, layout(), elementForm());
@@ -115,6 +122,11 @@ DtWireForm DtTiltTable::elementForm()
 {
     return DtWireForm("Trim24", "HarbourInteger24", R"qx(HLAvariableArray)qx",
         -1 /* elements */, 3 /* octets */, 0 /* little-endian */);
+}
+
+std::ostream& operator<<(std::ostream& out, const DtTiltTable& value)
+{
+    return out << DtValueText(value.elements());
 }
 
 

@@ -3,6 +3,8 @@
 
 #include "DataTypes/trim24.h"
 
+#include <qx/valueText.h>
+
 void DtTrim24::encode(DtWireWriter& writer) const
 {
     DtPutNumber(writer, myNumber, octets(), isLittleEndian());
@@ -31,6 +33,11 @@ unsigned int DtTrim24::octets()
 bool DtTrim24::isLittleEndian()
 {
     return 0 != 0;
+}
+
+std::ostream& operator<<(std::ostream& out, const DtTrim24& value)
+{
+    return out << DtValueText(value.number());
 }
 
 

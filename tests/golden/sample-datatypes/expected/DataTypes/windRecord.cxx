@@ -3,6 +3,8 @@
 
 #include "DataTypes/windRecord.h"
 
+#include <qx/valueText.h>
+
 DtWindRecord::DtWindRecord()
     : Own()
 {
@@ -80,6 +82,17 @@ DtWireForm DtWindRecord::formOf(unsigned int field)
             -1 /* elements */, 1 /* octets */, 0 /* little-endian */),
         DtWireForm()};
     return theForms[field];
+}
+
+std::ostream& operator<<(std::ostream& out, const DtWindRecord& value)
+{
+    DtFieldWriter fields(out);
+    static_cast<void>(value); // a record may have no fields
+    fields.add("Speed", value.speed());
+    fields.add("From", value.from());
+    fields.add("Gusts", value.gusts());
+    fields.add("Marks", value.marks());
+    return fields.end();
 }
 
 

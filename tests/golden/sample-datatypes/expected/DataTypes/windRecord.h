@@ -7,6 +7,8 @@
 #include <qx/opaqueValue.h>
 #include <qx/wireFormat.h>
 
+#include <iosfwd>
+
 #include "dllExport.h"
 #include "DataTypes/caseEnums.h"
 #include "DataTypes/gustPair.h"
@@ -35,6 +37,17 @@ public:
     /// A part.
     const DtOldRun& marks() const { return Own.myMarks; }
     void setMarks(const DtOldRun& value) { Own.myMarks = value; }
+
+    // Hands each field to the filler, as filler(name, value).
+    template <class Filler>
+    void fillWith(Filler& filler)
+    {
+        static_cast<void>(filler); // a record may have none
+        filler("Speed", Own.mySpeed);
+        filler("From", Own.myFrom);
+        filler("Gusts", Own.myGusts);
+        filler("Marks", Own.myMarks);
+    }
 
     void encode(DtWireWriter& writer) const;
     // False: the octets are no such record, and this one is as it was.
@@ -66,6 +79,9 @@ private:
 
     OwnValues Own;
 };
+
+// As text for people, such as { name: value }.
+DT_DLL_CASE std::ostream& operator<<(std::ostream& out, const DtWindRecord& value);
 
 #endif
 

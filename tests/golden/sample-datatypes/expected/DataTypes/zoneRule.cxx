@@ -3,6 +3,8 @@
 
 #include "DataTypes/zoneRule.h"
 
+#include <qx/valueText.h>
+
 DtZoneRule::DtZoneRule() : Own()
 {
 }
@@ -137,6 +139,24 @@ DtWireForm DtZoneRule::Coding::formOf(unsigned int alternative)
             -1 /* elements */, 1 /* octets */, 0 /* little-endian */),
         DtWireForm()};
     return theForms[alternative];
+}
+
+std::ostream& operator<<(std::ostream& out, const DtZoneRule& value)
+{
+    DtFieldWriter fields(out);
+    fields.add("Zone", value.discriminant<DtZoneRule::Discriminant>());
+    switch (value.selected<int>())
+    {
+    case 0:
+        fields.add("Limit", value.limit());
+        break;
+    case 1:
+        fields.add("Free", value.free());
+        break;
+    default:
+        break;
+    }
+    return fields.end();
 }
 
 

@@ -3,6 +3,8 @@
 
 #include "DataTypes/cargo__Item.h"
 
+#include <qx/valueText.h>
+
 DtCargo__Item::DtCargo__Item()
     : Own()
 {
@@ -72,6 +74,16 @@ DtWireForm DtCargo__Item::formOf(unsigned int field)
             4 /* elements */, 4 /* octets */, 0 /* little-endian */),
         DtWireForm()};
     return theForms[field];
+}
+
+std::ostream& operator<<(std::ostream& out, const DtCargo__Item& value)
+{
+    DtFieldWriter fields(out);
+    static_cast<void>(value); // a record may have no fields
+    fields.add("Label", value.label());
+    fields.add("Weight/Gross", value.weight__Gross());
+    fields.add("template", value.theTemplate());
+    return fields.end();
 }
 
 

@@ -10,6 +10,8 @@
 
 #include <qx/enumerators.h>
 
+#include <iosfwd>
+
 #include "dllExport.h"
 
 // What the predefined truth values are called as discriminants; the class of one that the run makes goes first.
@@ -44,6 +46,11 @@ inline DtEnumeratorTable DtEnumeratorsOf(DtVesselState8)
     return DtEnumeratorTable("DtVesselState8", theEntries, sizeof theEntries / sizeof *theEntries - 1, theNumber);
 }
 
+inline std::ostream& operator<<(std::ostream& out, DtVesselState8 value)
+{
+    return DtWriteEnumerator(out, DtEnumeratorsOf(value), static_cast<DtInt64>(value));
+}
+
 /// One of several states.
 enum class DtUrgency8 : DtInt64
 {
@@ -59,6 +66,11 @@ inline DtEnumeratorTable DtEnumeratorsOf(DtUrgency8)
         {"", 0}};
     static const DtNumberForm theNumber(1, 0, 0);
     return DtEnumeratorTable("DtUrgency8", theEntries, sizeof theEntries / sizeof *theEntries - 1, theNumber);
+}
+
+inline std::ostream& operator<<(std::ostream& out, DtUrgency8 value)
+{
+    return DtWriteEnumerator(out, DtEnumeratorsOf(value), static_cast<DtInt64>(value));
 }
 
 /// Two octets with a sign; the numbers run up and down.
@@ -88,6 +100,11 @@ inline DtEnumeratorTable DtEnumeratorsOf(DtSignalKind16)
         {"", 0}};
     static const DtNumberForm theNumber(2, 1, 0);
     return DtEnumeratorTable("DtSignalKind16", theEntries, sizeof theEntries / sizeof *theEntries - 1, theNumber);
+}
+
+inline std::ostream& operator<<(std::ostream& out, DtSignalKind16 value)
+{
+    return DtWriteEnumerator(out, DtEnumeratorsOf(value), static_cast<DtInt64>(value));
 }
 
 #endif

@@ -7,6 +7,8 @@
 #include <qx/opaqueValue.h>
 #include <qx/wireFormat.h>
 
+#include <iosfwd>
+
 #include "dllExport.h"
 #include "DataTypes/caseEnums.h"
 
@@ -30,6 +32,16 @@ public:
     /// A part.
     const DtFloat32& height() const { return Own.myHeight; }
     void setHeight(const DtFloat32& value) { Own.myHeight = value; }
+
+    // Hands each field to the filler, as filler(name, value).
+    template <class Filler>
+    void fillWith(Filler& filler)
+    {
+        static_cast<void>(filler); // a record may have none
+        filler("Latitude", Own.myLatitude);
+        filler("Longitude", Own.myLongitude);
+        filler("Height", Own.myHeight);
+    }
 
     void encode(DtWireWriter& writer) const;
     // False: the octets are no such record, and this one is as it was.
@@ -60,6 +72,9 @@ private:
 
     OwnValues Own;
 };
+
+// As text for people, such as { name: value }.
+DT_DLL_CASE std::ostream& operator<<(std::ostream& out, const DtGeoPoint& value);
 
 #endif
 

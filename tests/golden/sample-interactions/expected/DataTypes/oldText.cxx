@@ -3,6 +3,8 @@
 
 #include "DataTypes/oldText.h"
 
+#include <qx/sampleValue.h>
+
 DtOldText::DtOldText() : myElements(layout().kind == DtFixedArray ? layout().count : 0)
 {
 }
@@ -80,6 +82,11 @@ void DtOldText::clear()
     myElements.clear();
 }
 
+void DtOldText::fillWith(DtSampleFiller& filler)
+{
+    filler.fillElements<value_type>(*this, size());
+}
+
 void DtOldText::encode(DtWireWriter& writer) const
 {
     DtEncodeArray(writer, myElements, layout(), elementForm());
@@ -114,6 +121,11 @@ DtWireForm DtOldText::elementForm()
 {
     return DtWireForm("HLAASCIIchar", "", R"qx(HLAvariableArray)qx",
         -1 /* elements */, 1 /* octets */, 0 /* little-endian */);
+}
+
+std::ostream& operator<<(std::ostream& out, const DtOldText& value)
+{
+    return out << DtValueText(value.elements());
 }
 
 

@@ -3,6 +3,8 @@
 
 #include "DataTypes/plain__Four.h"
 
+#include <qx/sampleValue.h>
+
 DtPlain__Four::DtPlain__Four() : myElements(layout().kind == DtFixedArray ? layout().count : 0)
 {
 }
@@ -80,6 +82,11 @@ void DtPlain__Four::clear()
     myElements.clear();
 }
 
+void DtPlain__Four::fillWith(DtSampleFiller& filler)
+{
+    filler.fillElements<value_type>(*this, size());
+}
+
 void DtPlain__Four::encode(DtWireWriter& writer) const
 {
     DtEncodeArray(writer, myElements, layout(), elementForm());
@@ -114,6 +121,11 @@ DtWireForm DtPlain__Four::elementForm()
 {
     return DtWireForm("HLAfloat32BE", "", R"qx(HLAvariableArray)qx",
         -1 /* elements */, 4 /* octets */, 0 /* little-endian */);
+}
+
+std::ostream& operator<<(std::ostream& out, const DtPlain__Four& value)
+{
+    return out << DtValueText(value.elements());
 }
 
 

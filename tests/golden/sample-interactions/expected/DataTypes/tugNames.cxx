@@ -2,6 +2,8 @@
 // Do not edit: the next generation writes it anew.
 
 #include "DataTypes/tugNames.h"
+
+#include <qx/sampleValue.h>
 #include "DataTypes/shortText.h"
 
 DtTugNames::DtTugNames() : myElements(layout().kind == DtFixedArray ? layout().count : 0)
@@ -81,6 +83,11 @@ void DtTugNames::clear()
     myElements.clear();
 }
 
+void DtTugNames::fillWith(DtSampleFiller& filler)
+{
+    filler.fillElements<value_type>(*this, size());
+}
+
 void DtTugNames::encode(DtWireWriter& writer) const
 {
     DtEncodeArray(writer, myElements, layout(), elementForm());
@@ -115,6 +122,11 @@ DtWireForm DtTugNames::elementForm()
 {
     return DtWireForm("ShortText", "HLAASCIIchar", R"qx(HLAfixedArray)qx",
         16 /* elements */, 1 /* octets */, 0 /* little-endian */);
+}
+
+std::ostream& operator<<(std::ostream& out, const DtTugNames& value)
+{
+    return out << DtValueText(value.elements());
 }
 
 

@@ -3,6 +3,8 @@
 
 #include "DataTypes/weight__Kg.h"
 
+#include <qx/valueText.h>
+
 void DtWeight__Kg::encode(DtWireWriter& writer) const
 {
     DtPutNumber(writer, myNumber, octets(), isLittleEndian());
@@ -31,6 +33,11 @@ unsigned int DtWeight__Kg::octets()
 bool DtWeight__Kg::isLittleEndian()
 {
     return 0 != 0;
+}
+
+std::ostream& operator<<(std::ostream& out, const DtWeight__Kg& value)
+{
+    return out << DtValueText(value.number());
 }
 
 

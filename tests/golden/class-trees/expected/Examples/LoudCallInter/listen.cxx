@@ -22,7 +22,7 @@ namespace
 template <class Value>
 void print(const char* name, const Value& value)
 {
-    std::cout << "    " << name << ": " << DtValueText(value) << std::endl;
+    std::cout << "    " << name << ": " << DtTextLayout::of(DtValueText(value), 4) << std::endl;
 }
 
 void received(DtLoudCallInter* interaction, void* hasCome)

@@ -14,7 +14,7 @@
 #endif
 
 #include <qx/exerciseConn.h>
-#include <qx/valueText.h>
+#include <qx/sampleValue.h>
 
 #include <chrono>
 #include <cstdlib>
@@ -26,19 +26,19 @@ namespace
 {
 typedef DtMeterStateRepository Target;
 
-// Gives every value that has a simple form another one in each round. Structures and arrays go out as they start.
+// Gives every value another one in each round, those of superclasses too.
 void setValues(Target& target, std::size_t round)
 {
     (void)target; // in case that nothing below needs them
     (void)round;
-    target.setRaw(target.raw());
-    target.setRunning(target.running());
+    target.setRaw(DtSampleOf<Target::ValueOfRaw>(round));
+    target.setRunning(DtSampleOf<Target::ValueOfRunning>(round));
     target.setState(DtEnumeratorInTurn<Target::ValueOfState>(round));
-    target.setWeek(target.week());
-    target.setRemarks(target.remarks());
-    target.setPast(target.past());
-    target.setLast(target.last());
-    target.setInside(target.inside());
+    target.setWeek(DtSampleOf<Target::ValueOfWeek>(round));
+    target.setRemarks(DtSampleOf<Target::ValueOfRemarks>(round));
+    target.setPast(DtSampleOf<Target::ValueOfPast>(round));
+    target.setLast(DtSampleOf<Target::ValueOfLast>(round));
+    target.setInside(DtSampleOf<Target::ValueOfInside>(round));
 }
 
 } // namespace

@@ -10,6 +10,8 @@
 
 #include <qx/enumerators.h>
 
+#include <iosfwd>
+
 #include "dllExport.h"
 
 namespace garden
@@ -40,6 +42,11 @@ inline DtEnumeratorTable DtEnumeratorsOf(DtColour8)
         {"", 0}};
     static const DtNumberForm theNumber(1, 0, 0);
     return DtEnumeratorTable("DtColour8", theEntries, sizeof theEntries / sizeof *theEntries - 1, theNumber);
+}
+
+inline std::ostream& operator<<(std::ostream& out, DtColour8 value)
+{
+    return DtWriteEnumerator(out, DtEnumeratorsOf(value), static_cast<DtInt64>(value));
 }
 
 } // namespace garden

@@ -7,6 +7,8 @@
 #include <qx/opaqueValue.h>
 #include <qx/wireFormat.h>
 
+#include <iosfwd>
+
 #include "dllExport.h"
 #include "DataTypes/caseEnums.h"
 #include "DataTypes/qxSeeds.h"
@@ -26,6 +28,15 @@ public:
     void setFront(const DtQxSeeds& value) { Own.myFront = value; }
     const DtQxSeeds& back() const { return Own.myBack; }
     void setBack(const DtQxSeeds& value) { Own.myBack = value; }
+
+    // Hands each field to the filler, as filler(name, value).
+    template <class Filler>
+    void fillWith(Filler& filler)
+    {
+        static_cast<void>(filler); // a record may have none
+        filler("Front", Own.myFront);
+        filler("Back", Own.myBack);
+    }
 
     void encode(DtWireWriter& writer) const;
     // False: the octets are no such record, and this one is as it was.
@@ -55,6 +66,9 @@ private:
 
     OwnValues Own;
 };
+
+// As text for people, such as { name: value }.
+DT_DLL_CASE std::ostream& operator<<(std::ostream& out, const DtQxPacket& value);
 
 } // namespace garden
 

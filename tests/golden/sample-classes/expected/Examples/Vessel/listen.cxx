@@ -29,13 +29,13 @@ typedef DtVesselStateRepository State;
 template <class Value>
 void print(const char* name, const Value& value)
 {
-    std::cout << "    " << name << ": " << DtValueText(value) << std::endl;
+    std::cout << "    " << name << ": " << DtTextLayout::of(DtValueText(value), 4) << std::endl;
 }
 
 // What the latest update has brought; the other values stand as they were.
 void printChanges(const State& state)
 {
-    (void)state; // in case that the class has no attributes of its own
+    (void)state; // in case that the class has no attributes
     if (state.DtStateRepository::isChanged("Position"))
     {
         print("Position", state.position());
@@ -54,7 +54,7 @@ void printChanges(const State& state)
     }
     if (state.DtStateRepository::isChanged("Heading__True"))
     {
-        print("Heading__True", state.heading__True());
+        print("Heading-True", state.heading__True());
     }
     if (state.DtStateRepository::isChanged("State"))
     {
@@ -62,15 +62,15 @@ void printChanges(const State& state)
     }
     if (state.DtStateRepository::isChanged("_class"))
     {
-        print("TheClass", state.theClass());
+        print("class", state.theClass());
     }
     if (state.DtStateRepository::isChanged("int"))
     {
-        print("TheInt", state.theInt());
+        print("int", state.theInt());
     }
     if (state.DtStateRepository::isChanged("Template"))
     {
-        print("TheTemplate", state.theTemplate());
+        print("Template", state.theTemplate());
     }
     if (state.DtStateRepository::isChanged("Crew"))
     {

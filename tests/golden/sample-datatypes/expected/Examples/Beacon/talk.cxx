@@ -14,7 +14,7 @@
 #endif
 
 #include <qx/exerciseConn.h>
-#include <qx/valueText.h>
+#include <qx/sampleValue.h>
 
 #include <chrono>
 #include <cstdlib>
@@ -26,57 +26,57 @@ namespace
 {
 typedef DtBeaconStateRepository Target;
 
-// Gives every value that has a simple form another one in each round. Structures and arrays go out as they start.
+// Gives every value another one in each round, those of superclasses too.
 void setValues(Target& target, std::size_t round)
 {
     (void)target; // in case that nothing below needs them
     (void)round;
-    target.setPosition(target.position());
-    target.setName(target.name());
+    target.setPosition(DtSampleOf<Target::ValueOfPosition>(round));
+    target.setName(DtSampleOf<Target::ValueOfName>(round));
     target.setSerial(static_cast<Target::ValueOfSerial>(32 + round));
     target.setLamp(DtEnumeratorInTurn<Target::ValueOfLamp>(round));
-    target.setLamps(target.lamps());
-    target.setSector(target.sector());
-    target.setCallSign(target.callSign());
-    target.setTemperature(target.temperature());
-    target.setTilt(target.tilt());
-    target.setTilts(target.tilts());
-    target.setTheRegister(target.theRegister());
+    target.setLamps(DtSampleOf<Target::ValueOfLamps>(round));
+    target.setSector(DtSampleOf<Target::ValueOfSector>(round));
+    target.setCallSign(DtSampleOf<Target::ValueOfCallSign>(round));
+    target.setTemperature(DtSampleOf<Target::ValueOfTemperature>(round));
+    target.setTilt(DtSampleOf<Target::ValueOfTilt>(round));
+    target.setTilts(DtSampleOf<Target::ValueOfTilts>(round));
+    target.setTheRegister(DtSampleOf<Target::ValueOfTheRegister>(round));
     target.setMark(static_cast<Target::ValueOfMark>(32 + round));
     target.setImage("Image " + std::to_string(round));
     target.setTested(round % 2 == 0);
     target.setManned(round % 2 == 0);
-    target.setNeighbours(target.neighbours());
-    target.setSights(target.sights());
+    target.setNeighbours(DtSampleOf<Target::ValueOfNeighbours>(round));
+    target.setSights(DtSampleOf<Target::ValueOfSights>(round));
     target.setZone(DtEnumeratorInTurn<Target::ValueOfZone>(round));
     target.setCurrent(DtEnumeratorInTurn<Target::ValueOfCurrent>(round));
-    target.setWatch(target.watch());
-    target.setCalls(target.calls());
-    target.setFix(target.fix());
-    target.setTest(target.test());
-    target.setPass(target.pass());
-    target.setCondition(target.condition());
-    target.setSurvey(target.survey());
-    target.setGear(target.gear());
-    target.setRule(target.rule());
-    target.setPaper(target.paper());
-    target.setTimes(target.times());
-    target.setChambers(target.chambers());
-    target.setRemark(target.remark());
-    target.setDraughts(target.draughts());
-    target.setRing(target.ring());
-    target.setLines(target.lines());
+    target.setWatch(DtSampleOf<Target::ValueOfWatch>(round));
+    target.setCalls(DtSampleOf<Target::ValueOfCalls>(round));
+    target.setFix(DtSampleOf<Target::ValueOfFix>(round));
+    target.setTest(DtSampleOf<Target::ValueOfTest>(round));
+    target.setPass(DtSampleOf<Target::ValueOfPass>(round));
+    target.setCondition(DtSampleOf<Target::ValueOfCondition>(round));
+    target.setSurvey(DtSampleOf<Target::ValueOfSurvey>(round));
+    target.setGear(DtSampleOf<Target::ValueOfGear>(round));
+    target.setRule(DtSampleOf<Target::ValueOfRule>(round));
+    target.setPaper(DtSampleOf<Target::ValueOfPaper>(round));
+    target.setTimes(DtSampleOf<Target::ValueOfTimes>(round));
+    target.setChambers(DtSampleOf<Target::ValueOfChambers>(round));
+    target.setRemark(DtSampleOf<Target::ValueOfRemark>(round));
+    target.setDraughts(DtSampleOf<Target::ValueOfDraughts>(round));
+    target.setRing(DtSampleOf<Target::ValueOfRing>(round));
+    target.setLines(DtSampleOf<Target::ValueOfLines>(round));
     target.setDeep(DtEnumeratorInTurn<Target::ValueOfDeep>(round));
     target.setSlack(DtEnumeratorInTurn<Target::ValueOfSlack>(round));
     target.setFind(DtEnumeratorInTurn<Target::ValueOfFind>(round));
-    target.setSpare(target.spare());
+    target.setSpare(DtSampleOf<Target::ValueOfSpare>(round));
     target.setSteps(static_cast<Target::ValueOfSteps>(32 + round));
     target.setRank(static_cast<Target::ValueOfRank>(32 + round));
     target.setFloor(static_cast<Target::ValueOfFloor>(32 + round));
     target.setSign(static_cast<Target::ValueOfSign>(32 + round));
     target.setFooting(static_cast<Target::ValueOfFooting>(32 + round));
-    target.setSwing(target.swing());
-    target.setDoors(target.doors());
+    target.setSwing(DtSampleOf<Target::ValueOfSwing>(round));
+    target.setDoors(DtSampleOf<Target::ValueOfDoors>(round));
 }
 
 } // namespace

@@ -14,7 +14,7 @@
 #endif
 
 #include <qx/exerciseConn.h>
-#include <qx/valueText.h>
+#include <qx/sampleValue.h>
 
 #include <chrono>
 #include <cstdlib>
@@ -26,20 +26,20 @@ namespace
 {
 typedef DtBerthStateRepository Target;
 
-// Gives every value that has a simple form another one in each round. Structures and arrays go out as they start.
+// Gives every value another one in each round, those of superclasses too.
 void setValues(Target& target, std::size_t round)
 {
     (void)target; // in case that nothing below needs them
     (void)round;
-    target.setPosition(target.position());
-    target.setName(target.name());
+    target.setPosition(DtSampleOf<Target::ValueOfPosition>(round));
+    target.setName(DtSampleOf<Target::ValueOfName>(round));
     target.setSerial(static_cast<Target::ValueOfSerial>(32 + round));
     target.setLength(static_cast<Target::ValueOfLength>(7.02 + static_cast<double>(round)));
-    target.setDepths(target.depths());
-    target.setOccupant(target.occupant());
-    target.setFlags(target.flags());
+    target.setDepths(DtSampleOf<Target::ValueOfDepths>(round));
+    target.setOccupant(DtSampleOf<Target::ValueOfOccupant>(round));
+    target.setFlags(DtSampleOf<Target::ValueOfFlags>(round));
     target.setKind64(DtEnumeratorInTurn<Target::ValueOfKind64>(round));
-    target.setFenders(target.fenders());
+    target.setFenders(DtSampleOf<Target::ValueOfFenders>(round));
 }
 
 } // namespace

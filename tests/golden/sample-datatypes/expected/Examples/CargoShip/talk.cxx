@@ -14,7 +14,7 @@
 #endif
 
 #include <qx/exerciseConn.h>
-#include <qx/valueText.h>
+#include <qx/sampleValue.h>
 
 #include <chrono>
 #include <cstdlib>
@@ -26,13 +26,13 @@ namespace
 {
 typedef DtCargoShipStateRepository Target;
 
-// Gives every value that has a simple form another one in each round. Structures and arrays go out as they start.
+// Gives every value another one in each round, those of superclasses too.
 void setValues(Target& target, std::size_t round)
 {
     (void)target; // in case that nothing below needs them
     (void)round;
-    target.setPosition(target.position());
-    target.setName(target.name());
+    target.setPosition(DtSampleOf<Target::ValueOfPosition>(round));
+    target.setName(DtSampleOf<Target::ValueOfName>(round));
     target.setSerial(static_cast<Target::ValueOfSerial>(32 + round));
     target.setSpeed(static_cast<Target::ValueOfSpeed>(7.02 + static_cast<double>(round)));
     target.setHeading__True(static_cast<Target::ValueOfHeading__True>(7.02 + static_cast<double>(round)));
@@ -40,12 +40,12 @@ void setValues(Target& target, std::size_t round)
     target.setTheClass("_class " + std::to_string(round));
     target.setTheInt(static_cast<Target::ValueOfTheInt>(32 + round));
     target.setTheTemplate(DtEnumeratorInTurn<Target::ValueOfTheTemplate>(round));
-    target.setCrew(target.crew());
-    target.setHolds(target.holds());
-    target.setManifest(target.manifest());
+    target.setCrew(DtSampleOf<Target::ValueOfCrew>(round));
+    target.setHolds(DtSampleOf<Target::ValueOfHolds>(round));
+    target.setManifest(DtSampleOf<Target::ValueOfManifest>(round));
     target.setDraught(static_cast<Target::ValueOfDraught>(7.02 + static_cast<double>(round)));
     target.setDangerous(round % 2 == 0);
-    target.setSeal(target.seal());
+    target.setSeal(DtSampleOf<Target::ValueOfSeal>(round));
 }
 
 } // namespace

@@ -29,13 +29,13 @@ typedef DtWeatherStateRepository State;
 template <class Value>
 void print(const char* name, const Value& value)
 {
-    std::cout << "    " << name << ": " << DtValueText(value) << std::endl;
+    std::cout << "    " << name << ": " << DtTextLayout::of(DtValueText(value), 4) << std::endl;
 }
 
 // What the latest update has brought; the other values stand as they were.
 void printChanges(const State& state)
 {
-    (void)state; // in case that the class has no attributes of its own
+    (void)state; // in case that the class has no attributes
     if (state.DtStateRepository::isChanged("Wind"))
     {
         print("Wind", state.wind());

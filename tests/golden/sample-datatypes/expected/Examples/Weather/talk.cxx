@@ -14,7 +14,7 @@
 #endif
 
 #include <qx/exerciseConn.h>
-#include <qx/valueText.h>
+#include <qx/sampleValue.h>
 
 #include <chrono>
 #include <cstdlib>
@@ -26,17 +26,17 @@ namespace
 {
 typedef DtWeatherStateRepository Target;
 
-// Gives every value that has a simple form another one in each round. Structures and arrays go out as they start.
+// Gives every value another one in each round, those of superclasses too.
 void setValues(Target& target, std::size_t round)
 {
     (void)target; // in case that nothing below needs them
     (void)round;
-    target.setWind(target.wind());
-    target.setReport(target.report());
-    target.setSamples(target.samples());
-    target.setCodes(target.codes());
-    target.setTide(target.tide());
-    target.setTrace(target.trace());
+    target.setWind(DtSampleOf<Target::ValueOfWind>(round));
+    target.setReport(DtSampleOf<Target::ValueOfReport>(round));
+    target.setSamples(DtSampleOf<Target::ValueOfSamples>(round));
+    target.setCodes(DtSampleOf<Target::ValueOfCodes>(round));
+    target.setTide(DtSampleOf<Target::ValueOfTide>(round));
+    target.setTrace(DtSampleOf<Target::ValueOfTrace>(round));
 }
 
 } // namespace

@@ -10,7 +10,7 @@
 #include "answerInterHLA.h"
 
 #include <qx/exerciseConn.h>
-#include <qx/valueText.h>
+#include <qx/sampleValue.h>
 
 #include <chrono>
 #include <cstdlib>
@@ -22,7 +22,7 @@ namespace
 {
 typedef DtAnswerInter Target;
 
-// Gives every value that has a simple form another one in each round. Structures and arrays go out as they start.
+// Gives every value another one in each round, those of superclasses too.
 void setValues(Target& target, std::size_t round)
 {
     (void)target; // in case that nothing below needs them
@@ -30,7 +30,7 @@ void setValues(Target& target, std::size_t round)
     target.setChannel(static_cast<Target::ValueOfChannel>(32 + round));
     target.setText("Text " + std::to_string(round));
     target.setDone(round % 2 == 0);
-    target.setReason(target.reason());
+    target.setReason(DtSampleOf<Target::ValueOfReason>(round));
 }
 
 } // namespace

@@ -10,7 +10,7 @@
 #include "collisionInterHLA.h"
 
 #include <qx/exerciseConn.h>
-#include <qx/valueText.h>
+#include <qx/sampleValue.h>
 
 #include <chrono>
 #include <cstdlib>
@@ -22,14 +22,14 @@ namespace
 {
 typedef DtCollisionInter Target;
 
-// Gives every value that has a simple form another one in each round. Structures and arrays go out as they start.
+// Gives every value another one in each round, those of superclasses too.
 void setValues(Target& target, std::size_t round)
 {
     (void)target; // in case that nothing below needs them
     (void)round;
     target.setForce(static_cast<Target::ValueOfForce>(7.02 + static_cast<double>(round)));
-    target.setWhere(target.where());
-    target.setDebris(target.debris());
+    target.setWhere(DtSampleOf<Target::ValueOfWhere>(round));
+    target.setDebris(DtSampleOf<Target::ValueOfDebris>(round));
 }
 
 } // namespace

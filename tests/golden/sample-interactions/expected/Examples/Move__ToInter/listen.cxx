@@ -22,7 +22,7 @@ namespace
 template <class Value>
 void print(const char* name, const Value& value)
 {
-    std::cout << "    " << name << ": " << DtValueText(value) << std::endl;
+    std::cout << "    " << name << ": " << DtTextLayout::of(DtValueText(value), 4) << std::endl;
 }
 
 void received(DtMove__ToInter* interaction, void* hasCome)
@@ -31,9 +31,9 @@ void received(DtMove__ToInter* interaction, void* hasCome)
     print("Channel", interaction->channel());
     print("Text", interaction->text());
     print("Urgency", interaction->urgency());
-    print("TheRegister", interaction->theRegister());
-    print("Target_Point_", interaction->target_Point_());
-    print("By__Hour", interaction->by__Hour());
+    print("register", interaction->theRegister());
+    print("Target<Point>", interaction->target_Point_());
+    print("By/Hour", interaction->by__Hour());
     print("Tugs", interaction->tugs());
     *static_cast<bool*>(hasCome) = true;
 }

@@ -10,7 +10,7 @@
 #include "move__ToInterHLA.h"
 
 #include <qx/exerciseConn.h>
-#include <qx/valueText.h>
+#include <qx/sampleValue.h>
 
 #include <chrono>
 #include <cstdlib>
@@ -22,7 +22,7 @@ namespace
 {
 typedef DtMove__ToInter Target;
 
-// Gives every value that has a simple form another one in each round. Structures and arrays go out as they start.
+// Gives every value another one in each round, those of superclasses too.
 void setValues(Target& target, std::size_t round)
 {
     (void)target; // in case that nothing below needs them
@@ -31,9 +31,9 @@ void setValues(Target& target, std::size_t round)
     target.setText("Text " + std::to_string(round));
     target.setUrgency(DtEnumeratorInTurn<Target::ValueOfUrgency>(round));
     target.setTheRegister(static_cast<Target::ValueOfTheRegister>(32 + round));
-    target.setTarget_Point_(target.target_Point_());
+    target.setTarget_Point_(DtSampleOf<Target::ValueOfTarget_Point_>(round));
     target.setBy__Hour(static_cast<Target::ValueOfBy__Hour>(7.02 + static_cast<double>(round)));
-    target.setTugs(target.tugs());
+    target.setTugs(DtSampleOf<Target::ValueOfTugs>(round));
 }
 
 } // namespace

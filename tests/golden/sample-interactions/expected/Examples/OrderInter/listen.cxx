@@ -22,7 +22,7 @@ namespace
 template <class Value>
 void print(const char* name, const Value& value)
 {
-    std::cout << "    " << name << ": " << DtValueText(value) << std::endl;
+    std::cout << "    " << name << ": " << DtTextLayout::of(DtValueText(value), 4) << std::endl;
 }
 
 void received(DtOrderInter* interaction, void* hasCome)
@@ -31,7 +31,7 @@ void received(DtOrderInter* interaction, void* hasCome)
     print("Channel", interaction->channel());
     print("Text", interaction->text());
     print("Urgency", interaction->urgency());
-    print("TheRegister", interaction->theRegister());
+    print("register", interaction->theRegister());
     *static_cast<bool*>(hasCome) = true;
 }
 } // namespace

@@ -58,6 +58,65 @@ int main()
 }
 )";
 
+// The texts that the window offered in its early days, with their tokens filled in: projects have kept them.
+const char theEarlyForm[] = "    // The form on the wire: datatype, representation, encoding; elements of a\n"
+                            "    // fixed array, octets of a number, 1 if the least significant comes first.\n"
+                            "    const DtWireForm form(\"%1\", \"%2\", R\"qx(%3)qx\",\n        %4);\n";
+const char theEarlyEncoder[] = "    if (!DtWriteValue(writer, %1.%2(), form))\n    {\n        return false;\n    }\n";
+const char theEarlyDecoder[] = "    auto value = %1.%2();\n    if (!DtReadValue(reader, value, form))\n    {\n"
+                               "        return false;\n    }\n    %1.set%3(value);\n";
+const char theEarlyEnumeratorNote[] = "    // An enumerator goes out as its number, a DtU8. To send another:\n"
+                                      "    //     writer.putInteger(number, sizeof(DtU8));\n";
+
+struct DtEarlyMember
+{
+    const char *owner, *name, *datatype, *representation, *encoding, *numbers, *note;
+};
+
+const DtEarlyMember theEarlyMembers[] = {
+    {"HLAobjectRoot.Boat",      "Speed",  "HLAinteger32BE", "",         "HLAvariableArray", "-1, 4, 0", ""                    },
+    {"HLAobjectRoot.Boat",      "Lamp",   "Lamp",           "HLAoctet", "HLAvariableArray", "-1, 1, 0", theEarlyEnumeratorNote},
+    {"HLAobjectRoot.Boat",      "Marks",  "Marks",          "HLAoctet", "HLAfixedArray",    "3, 1, 0",  ""                    },
+    {"HLAobjectRoot.Boat",      "Left",   "Place",          "",         "HLAfixedRecord",   "-1, 0, 0", ""                    },
+    {"HLAinteractionRoot.Horn", "Volume", "HLAinteger32BE", "",         "HLAvariableArray", "-1, 4, 0", ""                    },
+};
+
+DtString latin(const QString& text)
+{
+    return text.toLatin1().constData();
+}
+
+void addEarlyTexts(DtOmtProject& project)
+{
+    for (const DtEarlyMember& member : theEarlyMembers)
+    {
+        const QString object = QString(member.owner).endsWith("Boat") ? "state" : "interaction";
+        const QString accessor = QString(member.name).toLower();
+        const QString form =
+            QString(theEarlyForm).arg(member.datatype, member.representation, member.encoding, member.numbers);
+        project.addCustomCoding(DtString(member.owner) + "." + member.name,
+                                {latin(member.note + form + QString(theEarlyEncoder).arg(object, accessor)),
+                                 latin(form + QString(theEarlyDecoder).arg(object, accessor, member.name))});
+    }
+}
+
+QByteArray earlyModel()
+{
+    const QByteArray lamp = element("enumeratedData", "<name>Lamp</name><representation>HLAoctet</representation>"
+                                                      "<enumerator><name>On</name><value>1</value></enumerator>");
+    const QByteArray marks = element("arrayData", "<name>Marks</name><dataType>HLAoctet</dataType><cardinality>3"
+                                                  "</cardinality><encoding>HLAfixedArray</encoding>");
+    const QByteArray place = element("fixedRecordData", "<name>Place</name><encoding>HLAfixedRecord</encoding><field>"
+                                                        "<name>X</name><dataType>HLAfloat64BE</dataType></field>");
+    const QByteArray types = element("enumeratedDataTypes", lamp) + element("arrayDataTypes", marks) +
+                             element("fixedRecordDataTypes", place);
+    QByteArray module =
+        moduleText(objectText("Boat", attributeText("Speed") + attributeText("Lamp", "Lamp") +
+                                          attributeText("Marks", "Marks") + attributeText("Left", "Place")),
+                   interactionText("Horn", parameterText("Volume")));
+    return module.replace("</objectModel>", element("dataTypes", types) + "</objectModel>");
+}
+
 QByteArray recordText(const char* name, const char* datatype)
 {
     const auto field = [datatype](const char* each)
@@ -245,6 +304,23 @@ private Q_SLOTS:
         const DtProgramRun result = runProgram(output.path(), run, {});
         QVERIFY2(result.exitCode == 0, qPrintable(result.output));
         QCOMPARE(result.output.count(" yes"), 11);
+    }
+
+    void textsThatTheWindowOnceOfferedCompile()
+    {
+        DtScratchProgram program;
+        const DtString model = program.model("boats.xml", earlyModel());
+        const auto window = makeWindow(program);
+        window->newOmtProject(DtFilename(program.bytes(program.path("models/boats.qxproj"))));
+        window->loadFile(model, "");
+        window->addAllObjectInteractions();
+        addEarlyTexts(*window->omtProject());
+        window->setOutputDirectory(program.path("out/"));
+        window->generateAllFiles();
+        const DtStagedOutput output(program.path("out"));
+        QVERIFY(output.text("boatEncoderHLA.cxx").contains("R\"qx(HLAfixedArray)qx\",\n        3, 1, 0);"));
+        const QString errors = output.compile(output.files(".*\\.cxx"), "", {"-std=c++11"});
+        QVERIFY2(errors.isEmpty(), qPrintable(errors));
     }
 
     void fileOfTheUserCodesWhatHasNoEncoding_data()

@@ -224,7 +224,8 @@ bool DtCodeGenAppGui::event(QEvent* event)
 
 void DtCodeGenAppGui::slot_quitMe()
 {
-    close();
+    if (!close())
+        return;
     saveConfiguration(); // leaving this way destroys no window
     exit(0);
 }
@@ -253,7 +254,8 @@ void DtCodeGenAppGui::slot_openFiles()
 
 void DtCodeGenAppGui::slot_closeOpenFiles()
 {
-    closeOpenFiles();
+    if (mayLeaveProject())
+        closeOpenFiles();
 }
 
 void DtCodeGenAppGui::slot_generateFiles()

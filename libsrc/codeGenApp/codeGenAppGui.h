@@ -171,6 +171,9 @@ private:
     std::size_t moduleCount() const;
     // Whether saving would write something else than what the project file holds.
     bool hasUnsavedWork() const;
+    // Asks the user of a visible window about work that is not saved, in the custom code window first. False when the
+    // work is to stay as it is, and when it could not be saved.
+    bool mayLeaveProject();
     void saveConfiguration();
 
     bool handleListKey(const QTreeWidget* list, const QKeyEvent& event);

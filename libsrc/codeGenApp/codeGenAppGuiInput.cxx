@@ -133,7 +133,11 @@ void DtCodeGenAppGui::takeFile(const QString& file)
         return;
     const DtFilename path(file.toUtf8().constData());
     if (hasExtension(file, theProjectExtension))
-        return loadOmtProject(path);
+    {
+        if (mayLeaveProject())
+            loadOmtProject(path);
+        return;
+    }
     DtFilename directory(path);
     directory.stripFilename();
     loadFile(path, directory);
@@ -147,6 +151,8 @@ void DtCodeGenAppGui::keepPlace()
 
 void DtCodeGenAppGui::closeEvent(QCloseEvent* event)
 {
+    if (!mayLeaveProject())
+        return event->ignore();
     if (myKeepsPlace)
         DtSaveWindowPlace(*this);
     QMainWindow::closeEvent(event);

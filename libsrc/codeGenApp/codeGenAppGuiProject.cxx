@@ -1,6 +1,7 @@
 // New, saved and loaded projects.
 
 #include "codeGenApp/codeGenAppGui.h"
+#include "codeGenApp/customCodeGui.h"
 #include "codeGenApp/keepFile.h"
 #include "codeGenApp/listViewManager.h"
 #include "codeGenApp/modelSpellings.h"
@@ -78,6 +79,8 @@ std::vector<DtCodeGenAppGui::DtModelFile> joinedPaths(const std::vector<DtCodeGe
 
 void DtCodeGenAppGui::slot_newOmtProject()
 {
+    if (isVisible() && myCustomCodeGui != nullptr && !myCustomCodeGui->close())
+        return;
     slot_saveOmtProject();
     const QString choice = QFileDialog::getSaveFileName(this, QStringLiteral("New Project File"), QStringLiteral("."),
                                                         QString::fromLatin1(theProjectFilter));
@@ -145,7 +148,27 @@ void DtCodeGenAppGui::completeProject(DtOmtProject& project) const
 
 void DtCodeGenAppGui::slot_loadOmtProject()
 {
-    loadOmtProject(DtFilename());
+    if (mayLeaveProject())
+        loadOmtProject(DtFilename());
+}
+
+bool DtCodeGenAppGui::mayLeaveProject()
+{
+    if (!isVisible() || myIsUnattended)
+        return true;
+    if (myCustomCodeGui != nullptr && !myCustomCodeGui->close())
+        return false;
+    if (!hasUnsavedWork())
+        return true;
+    QMessageBox question(QMessageBox::Warning, windowTitle(),
+                         "The project " + nameOf(myProjectFile) + " has changes that are not saved.",
+                         QMessageBox::Save | QMessageBox::Discard | QMessageBox::Cancel, this);
+    question.setInformativeText(QStringLiteral("Do you want to save your changes?"));
+    question.setDefaultButton(QMessageBox::Save);
+    const int answer = question.exec();
+    if (answer == QMessageBox::Save)
+        saveOmtProject();
+    return answer == QMessageBox::Discard || (answer == QMessageBox::Save && !hasUnsavedWork());
 }
 
 void DtCodeGenAppGui::loadOmtProject(const DtFilename& path)

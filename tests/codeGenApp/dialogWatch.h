@@ -12,7 +12,7 @@
 
 // Answers every message box and file dialog while it lives, so that no test waits for a user.
 //
-// Message boxes are closed. A file dialog gets the next answer: a path to choose, or a cancel once they have run out.
+// Message boxes are closed, by a button if one is asked for. A file dialog gets the next answer: a path to choose, or a cancel once they have run out.
 class DtDialogWatch : public QObject
 {
 public:
@@ -24,6 +24,8 @@ public:
     ~DtDialogWatch() override { qApp->removeEventFilter(this); }
 
     void setAnswers(const QStringList& answers) { myAnswers = answers; }
+    // The button by which the following message boxes are closed.
+    void setButton(QMessageBox::StandardButton button) { myButton = button; }
     // The text of each message box and the title of each file dialog that appeared since the last call.
     QStringList takeSeen() { return std::exchange(mySeen, QStringList()); }
 
@@ -34,7 +36,7 @@ public:
         if (auto* box = qobject_cast<QMessageBox*>(object))
         {
             mySeen += box->text();
-            QTimer::singleShot(0, box, &QDialog::reject);
+            QTimer::singleShot(0, box, [this, box] { press(*box); });
         }
         else if (auto* dialog = qobject_cast<QFileDialog*>(object))
         {
@@ -45,6 +47,14 @@ public:
     }
 
 private:
+    void press(QMessageBox& box) const
+    {
+        QAbstractButton* const button = box.button(myButton);
+        if (button != nullptr)
+            button->click();
+        else
+            box.reject();
+    }
     void answer(QFileDialog& dialog)
     {
         if (myAnswers.isEmpty())
@@ -55,6 +65,7 @@ private:
 
     QStringList myAnswers;
     QStringList mySeen;
+    QMessageBox::StandardButton myButton = QMessageBox::NoButton;
 };
 
 #endif

@@ -32,6 +32,34 @@ int countOf(const QColor& color, const QImage& image)
     return count;
 }
 
+// Presses keys on the display, as a person does: "alt+F4".
+void press(const QString& keys)
+{
+    QVERIFY2(QProcess::startDetached("xdotool", {"key", keys}), "xdotool");
+}
+
+// Presses a key when a dialog has come up. A dialog turns the event loop itself, and a test that waits does not go on
+// until it is closed.
+class DtKeyForDialog : public QObject
+{
+public:
+    explicit DtKeyForDialog(const char* key) : myKey(key) { startTimer(100); }
+    bool isDone() const { return myIsDone; }
+
+private:
+    void timerEvent(QTimerEvent*) override
+    {
+        const QWidget* const dialog = QApplication::activeModalWidget();
+        if (myIsDone || dialog == nullptr || !dialog->isActiveWindow())
+            return;
+        myIsDone = true;
+        press(myKey);
+    }
+
+    const char* myKey;
+    bool myIsDone = false;
+};
+
 // Looks at the bar of the progress dialog twenty times a second, and notes how many pixels of it are full.
 class DtBarWatch : public QObject
 {
@@ -62,6 +90,24 @@ private Q_SLOTS:
     void initTestCase() { QCOMPARE(QGuiApplication::platformName(), QString("xcb")); }
     void init() { open(); }
     void cleanup() { close(); }
+
+    void managerClosesTheWindowOnlyWhenTheWorkIsSaved()
+    {
+        qApp->removeEventFilter(myDialogs.get()); // a person answers
+        loadModel(objectText("Ship"));
+        show();
+        itemOf(left(), "Ship")->setSelected(true);
+        myWindow->addSelectedItems();
+        for (const char* answer : {"Escape", "Return"}) // the default button saves
+        {
+            const DtKeyForDialog key(answer);
+            press("alt+F4");
+            QTRY_VERIFY(key.isDone() && QApplication::activeModalWidget() == nullptr);
+            QCOMPARE(myWindow->isVisible(), QString(answer) == "Escape");
+            QTRY_VERIFY(!myWindow->isVisible() || myWindow->isActiveWindow());
+        }
+        QVERIFY(readTextFile(path("models/p.qxproj")).contains("Ship"));
+    }
 
     void progressMovesWhileFilesAreWritten()
     {

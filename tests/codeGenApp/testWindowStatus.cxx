@@ -146,7 +146,7 @@ private Q_SLOTS:
         myWindow->setClassPrefix("Port");
         Q_EMIT myWindow->preferences()->accepted();
         QCOMPARE(badgeText(), QString("p.qxproj*, 1 module, 1 class"));
-        myWindow->slot_closeOpenFiles();
+        myWindow->closeOpenFiles();
         QCOMPARE(badgeText(), QString());
     }
 

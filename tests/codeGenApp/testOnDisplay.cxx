@@ -10,6 +10,9 @@
 
 namespace
 {
+const QColor theDarkSelection(0x2f, 0x72, 0xc4); // of the style sheets
+const QColor theLightSelection(0x1f, 0x63, 0xb5);
+
 QImage screenPart(const QRect& rectangle)
 {
     return QGuiApplication::primaryScreen()
@@ -74,10 +77,9 @@ private:
         const auto* const bar = dialog != nullptr ? dialog->findChild<QProgressBar*>() : nullptr;
         if (bar == nullptr || !bar->isVisible())
             return;
-        myFull.push_back(countOf(theChunk, screenPart(placeOf(*bar))));
+        myFull.push_back(countOf(theDarkSelection, screenPart(placeOf(*bar))));
     }
 
-    const QColor theChunk = QColor(0x28, 0x62, 0xa8); // of the dark style sheet
     std::vector<int> myFull;
 };
 } // namespace
@@ -107,6 +109,62 @@ private Q_SLOTS:
             QTRY_VERIFY(!myWindow->isVisible() || myWindow->isActiveWindow());
         }
         QVERIFY(readTextFile(path("models/p.qxproj")).contains("Ship"));
+    }
+
+    void currentEntryOfAMenuHasTheColorsOfTheSelection_data()
+    {
+        QTest::addColumn<bool>("isDark");
+        QTest::newRow("dark") << true;
+        QTest::newRow("light") << false;
+    }
+    void currentEntryOfAMenuHasTheColorsOfTheSelection()
+    {
+        QFETCH(bool, isDark);
+        myWindow->loadStylesheet(isDark);
+        show();
+        press("alt+f");
+        QTRY_VERIFY(QApplication::activePopupWidget() != nullptr);
+        auto* const menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
+        const auto isMarked = [&](const QAction* action)
+        {
+            const QRect entry = menu->actionGeometry(const_cast<QAction*>(action)).adjusted(2, 2, -2, -2);
+            const QImage image = screenPart(entry.translated(menu->mapToGlobal(QPoint())));
+            return 2 * countOf(isDark ? theDarkSelection : theLightSelection, image) > image.width() * image.height();
+        };
+        press("Down");
+        QTRY_VERIFY(menu->activeAction() != nullptr && isMarked(menu->activeAction()));
+        const QAction* const close = &action("Close");
+        const QPoint at = menu->mapToGlobal(menu->actionGeometry(const_cast<QAction*>(close)).center());
+        QProcess::startDetached("xdotool", {"mousemove", QString::number(at.x()), QString::number(at.y()), "sleep",
+                                            "0.2", "mousemove_relative", "4", "0"});
+        QTRY_VERIFY(menu->activeAction() == close && isMarked(close));
+        for (const QAction* each : menu->actions())
+            QCOMPARE(isMarked(each), each == close);
+        press("Escape");
+        QTRY_VERIFY(QApplication::activePopupWidget() == nullptr);
+    }
+
+    void currentItemOfAListHasAFrame()
+    {
+        loadModel(objectText("Ship"));
+        show();
+        myWindow->loadStylesheet(true);
+        QTRY_VERIFY(left().hasFocus());
+        myWindow->slot_saveOmtProject();
+        myWindow->loadOmtProject(DtFilename(bytes("models/p.qxproj")));
+        QCOMPARE(left().selectedItems().size(), 0);
+        const auto lineAbove = [this](const char* text)
+        {
+            const QRect item = left().visualItemRect(itemOf(left(), text));
+            return screenPart({left().viewport()->mapToGlobal(item.topLeft()), QSize(item.width() / 2, 1)});
+        };
+        QTRY_VERIFY(countOf(QColor(0xe6, 0xe9, 0xee), lineAbove("Objects")) > 40);
+        QCOMPARE(countOf(QColor(0xe6, 0xe9, 0xee), lineAbove("Ship")), 0);
+        press("Down");
+        QTRY_VERIFY(
+            countOf(theDarkSelection, lineAbove("Ship")) + countOf(QColor(0xe6, 0xe9, 0xee), lineAbove("Ship")) > 40);
+        right().setFocus(); // what is selected in the other list is quieter
+        QTRY_COMPARE(countOf(theDarkSelection, screenPart(placeOf(left()))), 0);
     }
 
     void progressMovesWhileFilesAreWritten()

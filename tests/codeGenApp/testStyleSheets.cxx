@@ -177,6 +177,8 @@ private Q_SLOTS:
     void selectedTextCanBeRead();
     void combinedStatesCanBeRead_data() { addModes(); }
     void combinedStatesCanBeRead();
+    void currentEntryStandsOut_data() { addModes(); }
+    void currentEntryStandsOut();
     void edgesOfFieldsCanBeSeen_data() { addModes(); }
     void edgesOfFieldsCanBeSeen();
     void imagesOfTheSheetsExist_data() { addModes(); }
@@ -330,6 +332,31 @@ void TestStyleSheets::selectedTextCanBeRead()
     QVERIFY(checked >= 3);
 }
 
+// The entry under the mouse or the keyboard, against its neighbours.
+void TestStyleSheets::currentEntryStandsOut()
+{
+    struct Pair
+    {
+        const char *entry, *property, *neighbour;
+    };
+    const Pair thePairs[] = {
+        {"QMenuBar::item:selected",          "background-color", "QMenuBar"                        },
+        {"QMenuBar::item:pressed",           "background-color", "QMenuBar"                        },
+        {"QMenu::item:selected",             "background-color", "QMenu"                           },
+        {"QAbstractItemView::item:selected", "background-color", "QAbstractItemView"               },
+        {"QAbstractItemView::item:focus",    "border-color",     "QAbstractItemView"               },
+        {"QAbstractItemView::item:focus",    "border-color",     "QAbstractItemView::item:selected"},
+    };
+    QFETCH(QString, mode);
+    const DtSheet sheet(mode);
+    for (const Pair& pair : thePairs)
+    {
+        const double value =
+            contrast(sheet.color(pair.entry, pair.property), sheet.color(pair.neighbour, "background-color"));
+        QVERIFY2(value >= theShapeContrast, qPrintable(QStringLiteral("%1 %2").arg(pair.entry).arg(value)));
+    }
+}
+
 // Pairs that no rule has both halves of: a text and the ground that another state puts below it.
 void TestStyleSheets::combinedStatesCanBeRead()
 {
@@ -338,15 +365,15 @@ void TestStyleSheets::combinedStatesCanBeRead()
         const char *text, *ground;
     };
     const Pair thePairs[] = {
-        {"QMenu::item:disabled",       "QMenu::item:selected"       },
-        {"QToolButton:disabled",       "QToolButton:hover"          },
-        {"QProgressBar",               "QProgressBar::chunk"        },
-        {"QProgressBar",               "QProgressBar"               },
-        {"QAbstractItemView:disabled", "QAbstractItemView"          },
-        {"QTabBar::tab:disabled",      "QTabBar::tab"               },
-        {"QAbstractItemView",          "QComboBox QAbstractItemView"},
-        {"QWidget:disabled",           "QMenu"                      },
-        {"QLabel",                     "QToolBar"                   },
+        {"QMenu::item:disabled",       "QMenu::item:selected:disabled"},
+        {"QToolButton:disabled",       "QToolButton:hover"            },
+        {"QProgressBar",               "QProgressBar::chunk"          },
+        {"QProgressBar",               "QProgressBar"                 },
+        {"QAbstractItemView:disabled", "QAbstractItemView"            },
+        {"QTabBar::tab:disabled",      "QTabBar::tab"                 },
+        {"QAbstractItemView",          "QComboBox QAbstractItemView"  },
+        {"QWidget:disabled",           "QMenu"                        },
+        {"QLabel",                     "QToolBar"                     },
     };
     QFETCH(QString, mode);
     const DtSheet sheet(mode);
@@ -450,7 +477,7 @@ void TestStyleSheets::actionIconCanBeSeenInBothModes()
     {
         const DtSheet sheet(mode);
         for (const char* ground :
-             {"QToolBar", "QToolButton:hover", "QToolButton:checked", "QMenu", "QMenu::item:selected"})
+             {"QToolBar", "QToolButton:hover", "QToolButton:checked", "QMenu", "QMenu::icon:selected"})
         {
             const double value = contrast(QColor(*colors.begin()), sheet.color(ground, "background-color"));
             QVERIFY2(value >= theShapeContrast, qPrintable(QStringLiteral("%1 %2 %3").arg(mode, ground).arg(value)));

@@ -8,6 +8,8 @@
 #include "codeGenApp/deployment.h"
 #include "codeGenApp/findBar.h"
 #include "codeGenApp/listViewManager.h"
+#include "codeGenApp/messageDock.h"
+#include "codeGenApp/messageLog.h"
 #include "codeGenApp/preferencesDialog.h"
 #include "fileGenerator/fileWriter.h"
 #include "fileGenerator/omtProject.h"
@@ -69,6 +71,7 @@ DtCodeGenAppGui::DtCodeGenAppGui(DtCodeGenInitializer& initializer, QApplication
     createToolBar();
     createMenus();
     connectLists();
+    createMessages();
 }
 
 DtCodeGenAppGui::~DtCodeGenAppGui()

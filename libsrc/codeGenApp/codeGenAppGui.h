@@ -20,7 +20,10 @@ class DtCustomCodeGui;
 class DtFedNode;
 class DtFindBar;
 class DtGenerationRun;
+class DtGenerationWatch;
 class DtListViewManager;
+class DtMessageDock;
+class DtMessageLog;
 class DtOMTTree;
 class DtOmtProject;
 class DtPreferencesDialog;
@@ -162,6 +165,10 @@ private:
                    const QPoint& point);
     void customize(QTreeWidgetItem* item);
     void createStatusBar();
+    void createMessages();
+    void openMessages();
+    void selectNamedClass(const QString& line);
+    void addReasonsToStatus(const QStringList& reasons);
     // What failed, or cannot be done. The text stays until there is another one.
     void showStatus(const DtString& text);
     // What was done; nothing while the window is not visible.
@@ -204,6 +211,8 @@ private:
     void showMessageBox(const DtString& text);
     void enableProjectActions(bool enabled);
     DtGenerationRun generationRun();
+    void tellOfRun(const DtGenerationWatch& watch, bool isCancelled);
+    bool askToStop(const DtString& reason);
 
     QApplication* myApplication;
     DtCodeGenInitializer& myInitializer;
@@ -221,6 +230,7 @@ private:
     bool myValidProject = false;
     bool myIsLoadingProject = false;
     bool myStatusIsFailure = false;
+    int myMessagesBeforeLoad = 0;
     DtFomType myFomType = DtFomUnknown;
     std::vector<DtModelFile> myLoadedFiles;
     std::vector<DtFilename> myReadFiles; // what the tree was read from, the management model included
@@ -239,6 +249,8 @@ private:
     QMenu* myRemovalMenu = nullptr;
     DtFindBar* myFindBar = nullptr;
     DtProjectBadge* myBadge = nullptr;
+    std::unique_ptr<DtMessageLog> myMessages;
+    DtMessageDock* myMessageDock = nullptr; // made with the first message of a visible window
     QAction* myNewProjectAction = nullptr;
     QAction* myLoadProjectAction = nullptr;
     QAction* mySaveProjectAction = nullptr;

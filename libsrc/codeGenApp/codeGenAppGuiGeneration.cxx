@@ -9,6 +9,7 @@
 #include "omtReader/omtTree.h"
 
 #include <QtWidgets/QApplication>
+#include <QtWidgets/QMessageBox>
 
 #include <algorithm>
 
@@ -60,7 +61,7 @@ void DtCodeGenAppGui::generateAllFiles()
     const std::map<DtString, bool> scripts = myPreferences->generateScripts();
     if (std::none_of(scripts.begin(), scripts.end(), [](const auto& script) { return script.second; }))
         return showStatus("No script is switched on... Nothing to generate.");
-    DtGenerationWatch watch;
+    DtGenerationWatch watch([this](const DtString& reason) { return askToStop(reason); });
     for (const auto& [script, isWanted] : scripts)
     {
         if (!isWanted)
@@ -70,11 +71,33 @@ void DtCodeGenAppGui::generateAllFiles()
         else
             generateFile(script);
         if (DtQtProgressMeter::instance()->isCancelled())
-            return showSuccess(watch.cancelText()); // the next script would begin with a meter that knows nothing of it
+            return tellOfRun(watch, true); // the next script would begin with a meter that knows nothing of it
         if (DtGenerationRun::isCpp(script))
             watch.addFiles(theListsOfMakefile + (myPreferences->dumpParseTree() ? 1 : 0));
     }
-    showSuccess(watch.endText(myOutputDir));
+    tellOfRun(watch, false);
+}
+
+// A run that nobody sees has told of each file.
+void DtCodeGenAppGui::tellOfRun(const DtGenerationWatch& watch, bool isCancelled)
+{
+    if (watch.hasFailures() && isVisible())
+        showStatus(watch.failureText());
+    else
+        showSuccess(isCancelled ? watch.cancelText() : watch.endText(myOutputDir));
+}
+
+bool DtCodeGenAppGui::askToStop(const DtString& reason)
+{
+    if (!isVisible() || myIsUnattended)
+        return false;
+    QMessageBox question(QMessageBox::Warning, windowTitle(),
+                         QStringLiteral("None of the first ten files could be written."),
+                         QMessageBox::Yes | QMessageBox::No, this);
+    question.setInformativeText(QString::fromUtf8(reason.c_str()) + "\nDo you want to stop the run?");
+    question.setDefaultButton(QMessageBox::Yes);
+    question.setEscapeButton(QMessageBox::No);
+    return question.exec() == QMessageBox::Yes;
 }
 
 void DtCodeGenAppGui::generateCppFiles()

@@ -3,6 +3,7 @@
 #include "codeGenApp/codeGenAppGui.h"
 #include "codeGenApp/findBar.h"
 #include "codeGenApp/listViewManager.h"
+#include "codeGenApp/messageLog.h"
 #include "codeGenApp/modelLoading.h"
 #include "codeGenApp/preferencesDialog.h"
 #include "fileGenerator/dataTypeMapper.h"
@@ -41,6 +42,7 @@ DtString mimName(DtFomType type)
 
 int DtCodeGenAppGui::loadFile(const DtString& path, const DtString& directory)
 {
+    myMessagesBeforeLoad = myMessages->count();
     DtOMTEnvWriter::setMIMincluded(myPreferences->includeStandardMIM());
     const DtFilename file = joined(path, directory);
     const DtFomType type = DtFedReader::checkFomType(file.c_str());
@@ -76,6 +78,7 @@ bool DtCodeGenAppGui::readTypedFiles(const std::vector<DtFilename>& files)
 int DtCodeGenAppGui::failedLoad()
 {
     showStatus(theLoadFailure);
+    addReasonsToStatus(myMessages->linesSince(myMessagesBeforeLoad));
     const std::vector<DtFilename> files = std::exchange(myReadFiles, {});
     if (isVisible() && !files.empty() && readTypedFiles(files))
         showProjectOnTheRight();
@@ -149,6 +152,7 @@ std::vector<DtFilename> DtCodeGenAppGui::filesToRead(const DtFilename& newFile, 
 
 int DtCodeGenAppGui::loadFiles(const std::vector<DtModelFile>& models)
 {
+    myMessagesBeforeLoad = myMessages->count();
     DtOMTEnvWriter::setMIMincluded(myPreferences->includeStandardMIM());
     std::vector<DtFilename> files;
     files.reserve(models.size() + 1);

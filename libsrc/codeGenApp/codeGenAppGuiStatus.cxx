@@ -54,6 +54,15 @@ void DtCodeGenAppGui::putStatus(const QString& text, bool isFailure)
     refreshBadge();
 }
 
+// Why a load failed, below the text that tells that it did.
+void DtCodeGenAppGui::addReasonsToStatus(const QStringList& reasons)
+{
+    QString toolTip = statusBar()->toolTip();
+    for (const QString& reason : reasons)
+        toolTip += QStringLiteral("<p>") + reason.toHtmlEscaped() + QStringLiteral("</p>");
+    statusBar()->setToolTip(toolTip);
+}
+
 // The whole bar is there for a failure.
 void DtCodeGenAppGui::refreshBadge()
 {

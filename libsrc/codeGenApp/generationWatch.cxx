@@ -3,18 +3,22 @@
 #include "codeGenApp/projectBadge.h"
 #include "fileGenerator/qtProgressMeter.h"
 #include "foundation/outputStream.h"
+#include "foundation/warningRules.h"
 
 #include <QtCore/QDir>
 
 namespace
 {
+const int theFailuresToAsk = 10;
+
 QString countedFiles(int count)
 {
     return DtCounted(static_cast<std::size_t>(count), "file", "files");
 }
 } // namespace
 
-DtGenerationWatch::DtGenerationWatch() : myFilesBefore(DtQtProgressMeter::instance()->filesBegun())
+DtGenerationWatch::DtGenerationWatch(const DtAskToStop& askToStop)
+    : myFilesBefore(DtQtProgressMeter::instance()->filesBegun()), myAskToStop(askToStop)
 {
     myClock.start();
 }
@@ -23,6 +27,24 @@ void DtGenerationWatch::take(const DtWarning& warning)
 {
     DtWarn << warning.text << std::flush;
     ++myWarnings;
+    if (&warning.rule != &DtRules::outputNotWritten)
+        return;
+    const int failures = failureCount();
+    myHasWritten = myHasWritten || filesBegun() > failures; // a file is opened ahead of its turn
+    if (failures == 0)
+    {
+        myFirstFailure = warning.text;
+        myFirstFailure.snipBack('\n');
+    }
+    const bool isNew = myFailures.insert(warning.subject.name).second;
+    if (isNew && failureCount() == theFailuresToAsk && !myHasWritten && myAskToStop(myFirstFailure))
+        DtQtProgressMeter::instance()->setIsCancelled(true);
+}
+
+// Two writers may share a file, of which one stays silent; it fails for both.
+int DtGenerationWatch::failureCount() const
+{
+    return static_cast<int>(myFailures.size());
 }
 
 int DtGenerationWatch::filesBegun() const
@@ -42,4 +64,11 @@ QString DtGenerationWatch::endText(const DtString& directory) const
 QString DtGenerationWatch::cancelText() const
 {
     return QStringLiteral("Cancelled after ") + countedFiles(filesBegun());
+}
+
+DtString DtGenerationWatch::failureText() const
+{
+    const QString text = QString::number(failureCount()) + " of " + countedFiles(qMax(failureCount(), filesBegun())) +
+                         " could not be written. " + QString::fromUtf8(myFirstFailure.c_str());
+    return text.toUtf8().constData();
 }

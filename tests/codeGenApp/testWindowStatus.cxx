@@ -18,6 +18,22 @@ private:
     void select(const char* text) const { itemOf(left(), text)->setSelected(true); }
     QLabel& badge() const { return *myWindow->findChild<QLabel*>("ProjectBadge"); }
     QString badgeText() const { return badge().isVisible() ? badge().text() : QString(); }
+    QDockWidget& messages() const { return *myWindow->findChild<QDockWidget*>("Messages"); }
+    QListWidget& messageList() const { return *messages().findChild<QListWidget*>(); }
+    QStringList messageLines() const
+    {
+        QStringList lines;
+        for (int row = 0; row < messageList().count(); ++row)
+            lines += messageList().item(row)->text();
+        return lines;
+    }
+    QPushButton& messageButton(const char* text) const
+    {
+        for (QPushButton* button : messages().findChildren<QPushButton*>())
+            if (button->text() == text)
+                return *button;
+        qFatal("no button %s", text);
+    }
     QStringList written() const { return filesBelow(path("out")); }
     // Those that are not empty: the files of a class are made together, ahead of the first one's text.
     int filledCount() const
@@ -123,6 +139,166 @@ private Q_SLOTS:
         myWindow->slot_closeOpenFiles();
         myWindow->slot_saveOmtProject();
         QVERIFY(myWindow->statusBar()->toolTip().contains("No Project loaded... Cannot save OMT Project."));
+    }
+
+    // Failures
+
+    void filesThatCannotBeWrittenAreCounted()
+    {
+        loadFleet();
+        myWindow->addAllObjectInteractions();
+        writeTextFile(path("out/cpp\\Makefile/in the way"), "");
+        show();
+        myWindow->setOutputDirectory(path("out/"));
+        const DtCapture warnings(DtWarn);
+        myWindow->generateAllFiles();
+        QCOMPARE(status(), QString("1 of 69 files could not be written. Cannot open file %1: Is a directory")
+                               .arg(path("out/cpp\\Makefile")));
+        QVERIFY(warnings.text().contains("Cannot open file")); // as in a batch run
+        QVERIFY(QFile::exists(path("out/cpp\\dllExport.h")));
+    }
+
+    void userIsAskedWhenNothingCanBeWritten_data()
+    {
+        QTest::addColumn<int>("button");
+        QTest::newRow("stop") << int(QMessageBox::Yes);
+        QTest::newRow("go on") << int(QMessageBox::No);
+    }
+    void userIsAskedWhenNothingCanBeWritten()
+    {
+        QFETCH(int, button);
+        loadFleet();
+        myWindow->addAllObjectInteractions();
+        show();
+        writeTextFile(path("full"), "");
+        myWindow->setOutputDirectory(path("full/"));
+        myDialogs->setButton(QMessageBox::StandardButton(button));
+        const DtCapture warnings(DtWarn);
+        myWindow->generateAllFiles();
+        QCOMPARE(myDialogs->takeSeen(), QStringList("None of the first ten files could be written."));
+        const int failures = status().section(' ', 0, 0).toInt();
+        QVERIFY2(button == QMessageBox::Yes ? failures >= 10 && failures < 40 : failures == 69, qPrintable(status()));
+        QVERIFY2(status().contains(" could not be written. Cannot open file " + path("full/")), qPrintable(status()));
+    }
+
+    void failuresBehindAFileThatWasWrittenAreNotAskedAbout()
+    {
+        loadFleet();
+        myWindow->addAllObjectInteractions();
+        myWindow->setOutputDirectory(path("out/"));
+        myWindow->generateAllFiles();
+        QStringList others = written();
+        QVERIFY(others.removeOne("cpp\\dllExport.h"));
+        QDir(path("out")).removeRecursively();
+        for (const QString& other : others)
+            QDir().mkpath(path("out/") + other); // a directory in the way of each
+        show();
+        const DtCapture warnings(DtWarn);
+        myWindow->generateAllFiles();
+        QVERIFY2(status().startsWith("68 of 69 files could not be written. "), qPrintable(status()));
+    }
+
+    void unseenRunAsksAndTellsNothing()
+    {
+        loadFleet();
+        myWindow->addAllObjectInteractions();
+        writeTextFile(path("full"), "");
+        myWindow->setOutputDirectory(path("full/"));
+        const DtCapture warnings(DtWarn);
+        myWindow->generateAllFiles();
+        QCOMPARE(status(), QString());
+        QCOMPARE(warnings.text().count('\n'), warnings.text().count("Cannot open file "));
+    }
+
+    void reasonOfAFailedLoadStandsInTheToolTip()
+    {
+        show();
+        QCOMPARE(myWindow->loadFile(myProgram->model("bad.xml", "<objectModel>\n<a></b>"), ""), 0);
+        QCOMPARE(status(), QString("Error Loading File, please try a different file."));
+        const QString toolTip = myWindow->statusBar()->toolTip();
+        QVERIFY2(toolTip.contains("bad.xml:2: "), qPrintable(toolTip));
+    }
+
+    // Messages
+
+    void messagesComeUpWithTheFirstOne()
+    {
+        show();
+        loadFleet();
+        QVERIFY(myWindow->findChild<QDockWidget*>() == nullptr);
+        DtWarn << "Something of HLAobjectRoot.Ship.Ferry.Speed is odd." << std::endl;
+        QVERIFY(messages().isVisible());
+        QCOMPARE(messageLines(), QStringList("Something of HLAobjectRoot.Ship.Ferry.Speed is odd."));
+        messages().close();
+        DtWarn << "first" << std::endl;
+        DtWarn << "sec";
+        DtWarn << "ond\nthird" << std::endl;
+        QTRY_COMPARE(messageLines().mid(1), (QStringList{"first", "second", "third"}));
+        QVERIFY(!messages().isVisible()); // stays closed
+    }
+
+    void messagesOfAnUnseenWindowAreThereWhenItIsShown()
+    {
+        DtWarn << "early" << std::endl;
+        QVERIFY(myWindow->findChild<QDockWidget*>() == nullptr);
+        show();
+        DtWarn << "late" << std::endl;
+        QCOMPARE(messageLines(), (QStringList{"early", "late"}));
+    }
+
+    void thousandMessagesAreKept()
+    {
+        show();
+        for (int line = 0; line < 2500; ++line)
+            DtWarn << line << "\n";
+        QTRY_COMPARE(messageLines().size(), 1000);
+        QCOMPARE(messageLines().first(), QString("1500"));
+        QCOMPARE(messageLines().last(), QString("2499"));
+    }
+
+    void messagesAreCopiedAndCleared()
+    {
+        show();
+        DtWarn << "one\ntwo\nthree" << std::endl;
+        QTRY_COMPARE(messageLines().size(), 3);
+        messageButton("Copy").click();
+        QCOMPARE(QApplication::clipboard()->text(), QString("one\ntwo\nthree\n"));
+        messageList().item(1)->setSelected(true);
+        messageButton("Copy").click();
+        QCOMPARE(QApplication::clipboard()->text(), QString("two\n"));
+        messageButton("Clear").click();
+        QCOMPARE(messageLines(), QStringList());
+        DtWarn << "four" << std::endl;
+        QTRY_COMPARE(messageLines(), QStringList("four"));
+    }
+
+    void clickOnAMessageSelectsItsClass_data()
+    {
+        QTest::addColumn<QString>("line");
+        QTest::addColumn<QString>("item");
+        QTest::newRow("full name") << "odd: HLAobjectRoot.Ship.Ferry."
+                                   << "Ferry";
+        QTest::newRow("attribute") << "Speed (HLAobjectRoot.Ship.Speed) is odd"
+                                   << "Ship";
+        QTest::newRow("last name") << "class Tug, odd"
+                                   << "Tug";
+        QTest::newRow("interaction") << "HLAinteractionRoot.Signal"
+                                     << "Signal";
+        QTest::newRow("none") << "nothing at all"
+                              << "Objects";
+    }
+    void clickOnAMessageSelectsItsClass()
+    {
+        QFETCH(QString, line);
+        QFETCH(QString, item);
+        loadFleet();
+        show();
+        left().setCurrentItem(left().topLevelItem(0));
+        DtWarn << line.toUtf8().constData() << std::endl;
+        QTRY_COMPARE(messageLines(), QStringList(line));
+        QTest::mouseClick(messageList().viewport(), Qt::LeftButton, Qt::NoModifier,
+                          messageList().visualItemRect(messageList().item(0)).center());
+        QCOMPARE(left().currentItem()->text(0), item);
     }
 
     // What is open

@@ -200,6 +200,7 @@ private:
     void tellOfImport(const QString& files);
     void showProjectOnTheRight();
 
+    bool isProjectFile(const DtFilename& path);
     bool readProject(DtFilename& path, bool& isSound);
     void forgetProject();
     bool loadModels(const std::vector<DtModelFile>& models);
@@ -207,7 +208,8 @@ private:
     void completeProject(DtOmtProject& project) const;
     bool locateModels(const DtFilename& projectFile, std::vector<DtModelFile>& models);
     bool locateModel(const DtModelFile& model, const DtFilename& projectFile, DtFilename& found);
-    DtFilename askForFile(const char* title, const char* filter);
+    // The name is that of the file that is looked for, if there is one.
+    DtFilename askForFile(const char* title, const char* filter, const DtString& name = DtString());
     void showMessageBox(const DtString& text);
     void enableProjectActions(bool enabled);
     DtGenerationRun generationRun();

@@ -40,6 +40,14 @@ QString nameOf(const DtFilename& path)
     return QString::fromUtf8(DtFilename::stripPath(path).c_str());
 }
 
+// A file that is not there gets the extension of projects.
+DtFilename withExtension(DtFilename path)
+{
+    if (!path.exists() && path.extension() != theProjectExtension)
+        path.setExtension(theProjectExtension);
+    return path;
+}
+
 bool canOpen(const DtFilename& path)
 {
     FILE* const file = path.isRegularFile() ? DtFileOpen(path.c_str(), "rt") : nullptr;
@@ -176,13 +184,15 @@ void DtCodeGenAppGui::loadOmtProject(const DtFilename& path)
     DtFilename file = path.isEmpty() ? myProjectFile : path;
     if (file.isEmpty())
         file = askForFile("Open Project File", theProjectFilter);
+    if (isVisible() && !file.isEmpty() && !isProjectFile(file))
+        return;
     const DtFilename oldFile = myProjectFile;
     bool isSound = false;
     if (file.isEmpty() || !readProject(file, isSound))
         return;
     std::vector<DtModelFile> models;
     if (!locateModels(file, models))
-        return;
+        return refreshBadge();
     DtDataTypeMapper::instance()->setPredefinedTypes(myProject->predefinedTypes());
     if (models.empty())
     {
@@ -223,16 +233,34 @@ bool DtCodeGenAppGui::loadModels(const std::vector<DtModelFile>& models)
 }
 
 // What the user chooses; empty after a cancel, and without a user.
-DtFilename DtCodeGenAppGui::askForFile(const char* title, const char* filter)
+DtFilename DtCodeGenAppGui::askForFile(const char* title, const char* filter, const DtString& name)
 {
     if (myIsUnattended)
     {
         DtWarn << title << std::endl;
         return DtFilename();
     }
-    const QString choice = QFileDialog::getOpenFileName(this, QString::fromLatin1(title), QStringLiteral("."),
-                                                        QString::fromLatin1(filter));
+    const QString start = name.isEmpty() ? QStringLiteral(".") : "./" + QString::fromUtf8(name.c_str());
+    const QString choice =
+        QFileDialog::getOpenFileName(this, QString::fromLatin1(title), start, QString::fromLatin1(filter));
     return choice.toUtf8().constData();
+}
+
+// Looks ahead for the user, who keeps what is open when the file holds no project.
+bool DtCodeGenAppGui::isProjectFile(const DtFilename& path)
+{
+    const DtFilename file = withExtension(path);
+    if (!canOpen(file))
+    {
+        showStatus("Project file " + file + " could not be opened.");
+        return false;
+    }
+    DtOmtProject project;
+    DtOmtProjectXmlReader reader(file);
+    reader.readXml(project);
+    if (!reader.hasFoundProject())
+        showStatus(file + " is no project file, and is not loaded.");
+    return reader.hasFoundProject();
 }
 
 // Replaces the present project by what the file holds. A file that cannot be opened leaves no project at all. Until
@@ -241,8 +269,7 @@ DtFilename DtCodeGenAppGui::askForFile(const char* title, const char* filter)
 bool DtCodeGenAppGui::readProject(DtFilename& path, bool& isSound)
 {
     forgetProject();
-    if (!path.exists() && path.extension() != theProjectExtension)
-        path.setExtension(theProjectExtension);
+    path = withExtension(path);
     if (!canOpen(path))
     {
         enableProjectActions(false);
@@ -288,7 +315,9 @@ bool DtCodeGenAppGui::locateModel(const DtModelFile& model, const DtFilename& pr
             return true;
     }
     showMessageBox(model.first + " could not be found");
-    found = askForFile("Open File", "Object Model Files (*.omt *.xml *.fdd)");
+    found = askForFile("Open File", "Object Model Files (*.omt *.xml *.fdd)", DtFilename::stripPath(model.first));
+    if (found.isEmpty() && isVisible())
+        showStatus("Project file " + projectFile + " is not loaded: " + model.first + " could not be found.");
     return !found.isEmpty();
 }
 

@@ -31,6 +31,27 @@ QByteArray fomText(const QByteArray& name, const QByteArray& location)
 }
 } // namespace
 
+namespace
+{
+// Notes the name that each file dialog proposes when it comes up.
+class DtFileNameWatch : public QObject
+{
+public:
+    DtFileNameWatch() { qApp->installEventFilter(this); }
+    const QStringList& seen() const { return mySeen; }
+    bool eventFilter(QObject* object, QEvent* event) override
+    {
+        auto* const dialog = event->type() == QEvent::Show ? qobject_cast<QFileDialog*>(object) : nullptr;
+        if (dialog != nullptr)
+            mySeen += dialog->findChild<QLineEdit*>("fileNameEdit")->text();
+        return false;
+    }
+
+private:
+    QStringList mySeen;
+};
+} // namespace
+
 class TestWindowProject : public QObject
 {
     Q_OBJECT
@@ -438,6 +459,32 @@ private Q_SLOTS:
         QVERIFY(myWindow->tree()->getObjectClassNode("HLAobjectRoot.HLAmanager") != nullptr); // a first load again
     }
 
+    // A visible window looks at the file ahead of all else.
+    void fileThatIsNoProjectClosesNothing_data()
+    {
+        QTest::addColumn<QByteArray>("content");
+        QTest::addColumn<QString>("expected");
+        QTest::newRow("model") << moduleText(objectText("Ship")) << "%1 is no project file, and is not loaded.";
+        QTest::newRow("no XML") << QByteArray("no project") << "%1 is no project file, and is not loaded.";
+        QTest::newRow("missing") << QByteArray() << "Project file %1 could not be opened.";
+    }
+    void fileThatIsNoProjectClosesNothing()
+    {
+        QFETCH(QByteArray, content);
+        QFETCH(QString, expected);
+        myWindow->newOmtProject(file("p.qxproj"));
+        myWindow->loadFile(module("a.xml", "Ship"), "");
+        myWindow->addAllObjectInteractions();
+        if (!content.isEmpty())
+            write("other.qxproj", content);
+        myWindow->show();
+        myWindow->loadOmtProject(file("other.qxproj"));
+        QCOMPARE(status(), expected.arg(file("other.qxproj").c_str()));
+        QCOMPARE(myWindow->projectFile().c_str(), file("p.qxproj").c_str());
+        QVERIFY(myWindow->isFileLoaded() && topItems(true) > 0);
+        QCOMPARE(actions(), QString("save import"));
+    }
+
     // Where the model files are
 
     void missingModelEndsTheLoadUnattended()
@@ -516,6 +563,20 @@ private Q_SLOTS:
         myWindow->loadOmtProject(file("p.qxproj"));
         QCOMPARE(myDialogs->takeSeen(), (QStringList{"none.xml could not be found", "Open File"}));
         QVERIFY(myWindow->omtProject() != nullptr && !myWindow->isValidProject());
+        QCOMPARE(status(), QString());
+    }
+
+    void missingModelIsNamedInTheDialogAndBehindACancel()
+    {
+        write("p.qxproj", projectText(fomText("none.xml", "nowhere/")));
+        myWindow->setUnattended(false);
+        myWindow->show();
+        const DtFileNameWatch names;
+        myWindow->loadOmtProject(file("p.qxproj"));
+        QCOMPARE(myDialogs->takeSeen(), (QStringList{"none.xml could not be found", "Open File"}));
+        QCOMPARE(names.seen(), QStringList("none.xml"));
+        QCOMPARE(status(),
+                 QString("Project file %1 is not loaded: none.xml could not be found.").arg(file("p.qxproj").c_str()));
     }
 
     void modelIsFoundByEachRoad_data()

@@ -8,6 +8,7 @@
 //
 //     DtEncodeValue(writer, value, form);           // pads to the boundary, then writes; see writer.ok() at the end
 //     if (!DtDecodeValue(reader, value, form)) ...  // false: reader.reason() tells why, value is as it was
+//     if (!DtDecodePart(reader, value, form)) ...   // the same, but what was read ahead of a failure stays
 //     DtBoundaryOf(value, form)                     // octet boundary of the type
 //
 // A template writes the form of an attribute or parameter as

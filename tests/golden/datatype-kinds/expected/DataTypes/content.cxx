@@ -51,26 +51,32 @@ void DtContent::encode(DtWireWriter& writer) const
 
 bool DtContent::decode(DtWireReader& reader)
 {
+    DtContent taken(*this);
+    if (!taken.decodeInto(reader))
+        return false;
+    *this = std::move(taken);
+    return true;
+}
+
+bool DtContent::decodeInto(DtWireReader& reader)
+{
     static const unsigned int theBoundary = Coding::alternativeBoundary(nullptr);
     static_cast<void>(theBoundary); // a record may have no alternatives
     const DtRecordScope<DtWireReader> scope(reader);
-    DtContent taken(*this);
-    bool done = DtDecodeValue(reader, taken.Own.selector, Coding::discriminantForm());
-    switch (done ? taken.selected<int>() : -1)
+    bool done = DtDecodeValue(reader, Own.selector, Coding::discriminantForm());
+    switch (done ? selected<int>() : -1)
     {
     case 0:
         done = DtDecodeAlternative(
-            reader, taken.Own.myIdle, Coding::formOf(0), Coding::kind(), theBoundary);
+            reader, Own.myIdle, Coding::formOf(0), Coding::kind(), theBoundary);
         break;
     case 1:
         done = DtDecodeAlternative(
-            reader, taken.Own.myBusy, Coding::formOf(1), Coding::kind(), theBoundary);
+            reader, Own.myBusy, Coding::formOf(1), Coding::kind(), theBoundary);
         break;
     default:
         done = done && DtDecodeNoAlternative(reader, Coding::kind());
     }
-    if (done)
-        *this = taken;
     return done;
 }
 
@@ -131,7 +137,7 @@ DtVariantKind DtContent::Coding::kind()
     return DtVariantKindOf("HLAvariantRecord");
 }
 
-DtWireForm DtContent::Coding::formOf(unsigned int alternative)
+const DtWireForm& DtContent::Coding::formOf(unsigned int alternative)
 {
     static const DtWireForm theForms[] = {
         DtWireForm("Hours", "Unsigned16LE", R"qx(HLAvariableArray)qx",

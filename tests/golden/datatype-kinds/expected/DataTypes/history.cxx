@@ -18,6 +18,10 @@ DtHistory::DtHistory(const DtHistory& other) : myElements(other.myElements)
 {
 }
 
+DtHistory::DtHistory(DtHistory&& other) noexcept : myElements(std::move(other.myElements))
+{
+}
+
 DtHistory::~DtHistory()
 {
 }
@@ -25,6 +29,12 @@ DtHistory::~DtHistory()
 DtHistory& DtHistory::operator=(const DtHistory& other)
 {
     myElements = other.myElements;
+    return *this;
+}
+
+DtHistory& DtHistory::operator=(DtHistory&& other) noexcept
+{
+    myElements.swap(other.myElements);
     return *this;
 }
 

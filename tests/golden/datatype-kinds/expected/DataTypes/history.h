@@ -30,8 +30,10 @@ public:
     DtHistory();
     explicit DtHistory(const Elements& elements);
     DtHistory(const DtHistory& other);
+    DtHistory(DtHistory&& other) noexcept;
     ~DtHistory();
     DtHistory& operator=(const DtHistory& other);
+    DtHistory& operator=(DtHistory&& other) noexcept;
     bool operator==(const DtHistory& other) const;
     bool operator!=(const DtHistory& other) const;
 

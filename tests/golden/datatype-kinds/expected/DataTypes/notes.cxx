@@ -17,6 +17,10 @@ DtNotes::DtNotes(const DtNotes& other) : myElements(other.myElements)
 {
 }
 
+DtNotes::DtNotes(DtNotes&& other) noexcept : myElements(std::move(other.myElements))
+{
+}
+
 DtNotes::~DtNotes()
 {
 }
@@ -24,6 +28,12 @@ DtNotes::~DtNotes()
 DtNotes& DtNotes::operator=(const DtNotes& other)
 {
     myElements = other.myElements;
+    return *this;
+}
+
+DtNotes& DtNotes::operator=(DtNotes&& other) noexcept
+{
+    myElements.swap(other.myElements);
     return *this;
 }
 

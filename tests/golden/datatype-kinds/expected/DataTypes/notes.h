@@ -28,8 +28,10 @@ public:
     DtNotes();
     explicit DtNotes(const Elements& elements);
     DtNotes(const DtNotes& other);
+    DtNotes(DtNotes&& other) noexcept;
     ~DtNotes();
     DtNotes& operator=(const DtNotes& other);
+    DtNotes& operator=(DtNotes&& other) noexcept;
     bool operator==(const DtNotes& other) const;
     bool operator!=(const DtNotes& other) const;
 

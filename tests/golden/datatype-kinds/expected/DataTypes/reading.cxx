@@ -34,13 +34,20 @@ void DtReading::encode(DtWireWriter& writer) const
 
 bool DtReading::decode(DtWireReader& reader)
 {
-    const DtRecordScope<DtWireReader> scope(reader);
     DtReading taken(*this);
-    if (!DtDecodeValue(reader, taken.Own.myAt, formOf(0)))
+    if (!taken.decodeInto(reader))
         return false;
-    if (!DtDecodeValue(reader, taken.Own.myState, formOf(1)))
+    *this = std::move(taken);
+    return true;
+}
+
+bool DtReading::decodeInto(DtWireReader& reader)
+{
+    const DtRecordScope<DtWireReader> scope(reader);
+    if (!DtDecodePart(reader, Own.myAt, formOf(0)))
         return false;
-    *this = taken;
+    if (!DtDecodePart(reader, Own.myState, formOf(1)))
+        return false;
     return reader.ok();
 }
 
@@ -57,7 +64,7 @@ unsigned int DtReading::octetBoundary(const DtWireTrail* outer)
     return boundary;
 }
 
-DtWireForm DtReading::formOf(unsigned int field)
+const DtWireForm& DtReading::formOf(unsigned int field)
 {
     static const DtWireForm theForms[] = {
         DtWireForm("Hours", "Unsigned16LE", R"qx(HLAvariableArray)qx",

@@ -18,6 +18,10 @@ DtRow::DtRow(const DtRow& other) : myElements(other.myElements)
 {
 }
 
+DtRow::DtRow(DtRow&& other) noexcept : myElements(std::move(other.myElements))
+{
+}
+
 DtRow::~DtRow()
 {
 }
@@ -25,6 +29,12 @@ DtRow::~DtRow()
 DtRow& DtRow::operator=(const DtRow& other)
 {
     myElements = other.myElements;
+    return *this;
+}
+
+DtRow& DtRow::operator=(DtRow&& other) noexcept
+{
+    myElements.swap(other.myElements);
     return *this;
 }
 

@@ -31,8 +31,10 @@ public:
     DtRow();
     explicit DtRow(const Elements& elements);
     DtRow(const DtRow& other);
+    DtRow(DtRow&& other) noexcept;
     ~DtRow();
     DtRow& operator=(const DtRow& other);
+    DtRow& operator=(DtRow&& other) noexcept;
     bool operator==(const DtRow& other) const;
     bool operator!=(const DtRow& other) const;
 

@@ -42,6 +42,11 @@ bool DtQxPacket::decode(DtWireReader& reader)
 }
 #endif
 
+bool DtQxPacket::decodeInto(DtWireReader& reader)
+{
+    return decode(reader);
+}
+
 unsigned int DtQxPacket::octetBoundary(const DtWireTrail* outer)
 {
     static const char theId = 0;
@@ -55,7 +60,7 @@ unsigned int DtQxPacket::octetBoundary(const DtWireTrail* outer)
     return boundary;
 }
 
-DtWireForm DtQxPacket::formOf(unsigned int field)
+const DtWireForm& DtQxPacket::formOf(unsigned int field)
 {
     static const DtWireForm theForms[] = {
         DtWireForm("Seeds", "HLAinteger16BE", R"qx(HLAvariableArray)qx",

@@ -20,6 +20,10 @@ DtQxSeeds::DtQxSeeds(const DtQxSeeds& other) : myElements(other.myElements)
 {
 }
 
+DtQxSeeds::DtQxSeeds(DtQxSeeds&& other) noexcept : myElements(std::move(other.myElements))
+{
+}
+
 DtQxSeeds::~DtQxSeeds()
 {
 }
@@ -27,6 +31,12 @@ DtQxSeeds::~DtQxSeeds()
 DtQxSeeds& DtQxSeeds::operator=(const DtQxSeeds& other)
 {
     myElements = other.myElements;
+    return *this;
+}
+
+DtQxSeeds& DtQxSeeds::operator=(DtQxSeeds&& other) noexcept
+{
+    myElements.swap(other.myElements);
     return *this;
 }
 

@@ -37,15 +37,22 @@ void DtPerson::encode(DtWireWriter& writer) const
 
 bool DtPerson::decode(DtWireReader& reader)
 {
-    const DtRecordScope<DtWireReader> scope(reader);
     DtPerson taken(*this);
-    if (!DtDecodeValue(reader, taken.Own.myFullName, formOf(0)))
+    if (!taken.decodeInto(reader))
         return false;
-    if (!DtDecodeValue(reader, taken.Own.myAge, formOf(1)))
+    *this = std::move(taken);
+    return true;
+}
+
+bool DtPerson::decodeInto(DtWireReader& reader)
+{
+    const DtRecordScope<DtWireReader> scope(reader);
+    if (!DtDecodePart(reader, Own.myFullName, formOf(0)))
         return false;
-    if (!DtDecodeValue(reader, taken.Own.myHeight__cm, formOf(2)))
+    if (!DtDecodePart(reader, Own.myAge, formOf(1)))
         return false;
-    *this = taken;
+    if (!DtDecodePart(reader, Own.myHeight__cm, formOf(2)))
+        return false;
     return reader.ok();
 }
 
@@ -63,7 +70,7 @@ unsigned int DtPerson::octetBoundary(const DtWireTrail* outer)
     return boundary;
 }
 
-DtWireForm DtPerson::formOf(unsigned int field)
+const DtWireForm& DtPerson::formOf(unsigned int field)
 {
     static const DtWireForm theForms[] = {
         DtWireForm("HLAunicodeString", "", R"qx(HLAvariableArray)qx",

@@ -18,6 +18,10 @@ DtPersonList::DtPersonList(const DtPersonList& other) : myElements(other.myEleme
 {
 }
 
+DtPersonList::DtPersonList(DtPersonList&& other) noexcept : myElements(std::move(other.myElements))
+{
+}
+
 DtPersonList::~DtPersonList()
 {
 }
@@ -25,6 +29,12 @@ DtPersonList::~DtPersonList()
 DtPersonList& DtPersonList::operator=(const DtPersonList& other)
 {
     myElements = other.myElements;
+    return *this;
+}
+
+DtPersonList& DtPersonList::operator=(DtPersonList&& other) noexcept
+{
+    myElements.swap(other.myElements);
     return *this;
 }
 

@@ -31,8 +31,10 @@ public:
     DtPersonList();
     explicit DtPersonList(const Elements& elements);
     DtPersonList(const DtPersonList& other);
+    DtPersonList(DtPersonList&& other) noexcept;
     ~DtPersonList();
     DtPersonList& operator=(const DtPersonList& other);
+    DtPersonList& operator=(DtPersonList&& other) noexcept;
     bool operator==(const DtPersonList& other) const;
     bool operator!=(const DtPersonList& other) const;
 

@@ -29,8 +29,10 @@ public:
     DtShortText();
     explicit DtShortText(const Elements& elements);
     DtShortText(const DtShortText& other);
+    DtShortText(DtShortText&& other) noexcept;
     ~DtShortText();
     DtShortText& operator=(const DtShortText& other);
+    DtShortText& operator=(DtShortText&& other) noexcept;
     bool operator==(const DtShortText& other) const;
     bool operator!=(const DtShortText& other) const;
 

@@ -17,6 +17,10 @@ DtBearingList::DtBearingList(const DtBearingList& other) : myElements(other.myEl
 {
 }
 
+DtBearingList::DtBearingList(DtBearingList&& other) noexcept : myElements(std::move(other.myElements))
+{
+}
+
 DtBearingList::~DtBearingList()
 {
 }
@@ -24,6 +28,12 @@ DtBearingList::~DtBearingList()
 DtBearingList& DtBearingList::operator=(const DtBearingList& other)
 {
     myElements = other.myElements;
+    return *this;
+}
+
+DtBearingList& DtBearingList::operator=(DtBearingList&& other) noexcept
+{
+    myElements.swap(other.myElements);
     return *this;
 }
 

@@ -30,8 +30,10 @@ public:
     DtBearingList();
     explicit DtBearingList(const Elements& elements);
     DtBearingList(const DtBearingList& other);
+    DtBearingList(DtBearingList&& other) noexcept;
     ~DtBearingList();
     DtBearingList& operator=(const DtBearingList& other);
+    DtBearingList& operator=(DtBearingList&& other) noexcept;
     bool operator==(const DtBearingList& other) const;
     bool operator!=(const DtBearingList& other) const;
 

@@ -40,17 +40,24 @@ void DtBerthSlot::encode(DtWireWriter& writer) const
 
 bool DtBerthSlot::decode(DtWireReader& reader)
 {
-    const DtRecordScope<DtWireReader> scope(reader);
     DtBerthSlot taken(*this);
-    if (!DtDecodeValue(reader, taken.Own.myNumber, formOf(0)))
+    if (!taken.decodeInto(reader))
         return false;
-    if (!DtDecodeValue(reader, taken.Own.myStart, formOf(1)))
+    *this = std::move(taken);
+    return true;
+}
+
+bool DtBerthSlot::decodeInto(DtWireReader& reader)
+{
+    const DtRecordScope<DtWireReader> scope(reader);
+    if (!DtDecodePart(reader, Own.myNumber, formOf(0)))
         return false;
-    if (!DtDecodeValue(reader, taken.Own.myLoad__Max, formOf(2)))
+    if (!DtDecodePart(reader, Own.myStart, formOf(1)))
         return false;
-    if (!DtDecodeValue(reader, taken.Own.myUntil, formOf(3)))
+    if (!DtDecodePart(reader, Own.myLoad__Max, formOf(2)))
         return false;
-    *this = taken;
+    if (!DtDecodePart(reader, Own.myUntil, formOf(3)))
+        return false;
     return reader.ok();
 }
 
@@ -69,7 +76,7 @@ unsigned int DtBerthSlot::octetBoundary(const DtWireTrail* outer)
     return boundary;
 }
 
-DtWireForm DtBerthSlot::formOf(unsigned int field)
+const DtWireForm& DtBerthSlot::formOf(unsigned int field)
 {
     static const DtWireForm theForms[] = {
         DtWireForm("Count8", "HarbourUnsigned8", R"qx(HLAvariableArray)qx",

@@ -50,6 +50,8 @@ public:
     void encode(DtWireWriter& writer) const;
     // False: the octets are no such record, and this one is as it was.
     bool decode(DtWireReader& reader);
+    // The same, but what was read ahead of a failure stays.
+    bool decodeInto(DtWireReader& reader);
     // Octets on the wire, from an offset of 0.
     template <class Size = unsigned int>
     Size netSize() const
@@ -64,7 +66,7 @@ public:
     static unsigned int octetBoundary(const DtWireTrail* outer);
 
 private:
-    static DtWireForm formOf(unsigned int field);
+    static const DtWireForm& formOf(unsigned int field);
 
     // The values stand in a structure of their own, where no accessor can share their names.
     struct OwnValues

@@ -37,15 +37,22 @@ void DtClockTime::encode(DtWireWriter& writer) const
 
 bool DtClockTime::decode(DtWireReader& reader)
 {
-    const DtRecordScope<DtWireReader> scope(reader);
     DtClockTime taken(*this);
-    if (!DtDecodeValue(reader, taken.Own.myHour, formOf(0)))
+    if (!taken.decodeInto(reader))
         return false;
-    if (!DtDecodeValue(reader, taken.Own.myMinute, formOf(1)))
+    *this = std::move(taken);
+    return true;
+}
+
+bool DtClockTime::decodeInto(DtWireReader& reader)
+{
+    const DtRecordScope<DtWireReader> scope(reader);
+    if (!DtDecodePart(reader, Own.myHour, formOf(0)))
         return false;
-    if (!DtDecodeValue(reader, taken.Own.mySecond, formOf(2)))
+    if (!DtDecodePart(reader, Own.myMinute, formOf(1)))
         return false;
-    *this = taken;
+    if (!DtDecodePart(reader, Own.mySecond, formOf(2)))
+        return false;
     return reader.ok();
 }
 
@@ -63,7 +70,7 @@ unsigned int DtClockTime::octetBoundary(const DtWireTrail* outer)
     return boundary;
 }
 
-DtWireForm DtClockTime::formOf(unsigned int field)
+const DtWireForm& DtClockTime::formOf(unsigned int field)
 {
     static const DtWireForm theForms[] = {
         DtWireForm("Count8", "HarbourUnsigned8", R"qx(HLAvariableArray)qx",

@@ -18,6 +18,10 @@ DtCodeRange::DtCodeRange(const DtCodeRange& other) : myElements(other.myElements
 {
 }
 
+DtCodeRange::DtCodeRange(DtCodeRange&& other) noexcept : myElements(std::move(other.myElements))
+{
+}
+
 DtCodeRange::~DtCodeRange()
 {
 }
@@ -25,6 +29,12 @@ DtCodeRange::~DtCodeRange()
 DtCodeRange& DtCodeRange::operator=(const DtCodeRange& other)
 {
     myElements = other.myElements;
+    return *this;
+}
+
+DtCodeRange& DtCodeRange::operator=(DtCodeRange&& other) noexcept
+{
+    myElements.swap(other.myElements);
     return *this;
 }
 

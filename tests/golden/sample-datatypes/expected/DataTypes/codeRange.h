@@ -32,8 +32,10 @@ public:
     DtCodeRange();
     explicit DtCodeRange(const Elements& elements);
     DtCodeRange(const DtCodeRange& other);
+    DtCodeRange(DtCodeRange&& other) noexcept;
     ~DtCodeRange();
     DtCodeRange& operator=(const DtCodeRange& other);
+    DtCodeRange& operator=(DtCodeRange&& other) noexcept;
     bool operator==(const DtCodeRange& other) const;
     bool operator!=(const DtCodeRange& other) const;
 

@@ -17,6 +17,10 @@ DtDepthGrid::DtDepthGrid(const DtDepthGrid& other) : myElements(other.myElements
 {
 }
 
+DtDepthGrid::DtDepthGrid(DtDepthGrid&& other) noexcept : myElements(std::move(other.myElements))
+{
+}
+
 DtDepthGrid::~DtDepthGrid()
 {
 }
@@ -24,6 +28,12 @@ DtDepthGrid::~DtDepthGrid()
 DtDepthGrid& DtDepthGrid::operator=(const DtDepthGrid& other)
 {
     myElements = other.myElements;
+    return *this;
+}
+
+DtDepthGrid& DtDepthGrid::operator=(DtDepthGrid&& other) noexcept
+{
+    myElements.swap(other.myElements);
     return *this;
 }
 

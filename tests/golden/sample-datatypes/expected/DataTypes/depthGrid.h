@@ -30,8 +30,10 @@ public:
     DtDepthGrid();
     explicit DtDepthGrid(const Elements& elements);
     DtDepthGrid(const DtDepthGrid& other);
+    DtDepthGrid(DtDepthGrid&& other) noexcept;
     ~DtDepthGrid();
     DtDepthGrid& operator=(const DtDepthGrid& other);
+    DtDepthGrid& operator=(DtDepthGrid&& other) noexcept;
     bool operator==(const DtDepthGrid& other) const;
     bool operator!=(const DtDepthGrid& other) const;
 

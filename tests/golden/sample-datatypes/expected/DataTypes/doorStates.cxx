@@ -17,6 +17,10 @@ DtDoorStates::DtDoorStates(const DtDoorStates& other) : myElements(other.myEleme
 {
 }
 
+DtDoorStates::DtDoorStates(DtDoorStates&& other) noexcept : myElements(std::move(other.myElements))
+{
+}
+
 DtDoorStates::~DtDoorStates()
 {
 }
@@ -24,6 +28,12 @@ DtDoorStates::~DtDoorStates()
 DtDoorStates& DtDoorStates::operator=(const DtDoorStates& other)
 {
     myElements = other.myElements;
+    return *this;
+}
+
+DtDoorStates& DtDoorStates::operator=(DtDoorStates&& other) noexcept
+{
+    myElements.swap(other.myElements);
     return *this;
 }
 

@@ -29,8 +29,10 @@ public:
     DtDoorStates();
     explicit DtDoorStates(const Elements& elements);
     DtDoorStates(const DtDoorStates& other);
+    DtDoorStates(DtDoorStates&& other) noexcept;
     ~DtDoorStates();
     DtDoorStates& operator=(const DtDoorStates& other);
+    DtDoorStates& operator=(DtDoorStates&& other) noexcept;
     bool operator==(const DtDoorStates& other) const;
     bool operator!=(const DtDoorStates& other) const;
 

@@ -17,6 +17,10 @@ DtDraughtTable::DtDraughtTable(const DtDraughtTable& other) : myElements(other.m
 {
 }
 
+DtDraughtTable::DtDraughtTable(DtDraughtTable&& other) noexcept : myElements(std::move(other.myElements))
+{
+}
+
 DtDraughtTable::~DtDraughtTable()
 {
 }
@@ -24,6 +28,12 @@ DtDraughtTable::~DtDraughtTable()
 DtDraughtTable& DtDraughtTable::operator=(const DtDraughtTable& other)
 {
     myElements = other.myElements;
+    return *this;
+}
+
+DtDraughtTable& DtDraughtTable::operator=(DtDraughtTable&& other) noexcept
+{
+    myElements.swap(other.myElements);
     return *this;
 }
 

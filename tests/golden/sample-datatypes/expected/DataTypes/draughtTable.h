@@ -29,8 +29,10 @@ public:
     DtDraughtTable();
     explicit DtDraughtTable(const Elements& elements);
     DtDraughtTable(const DtDraughtTable& other);
+    DtDraughtTable(DtDraughtTable&& other) noexcept;
     ~DtDraughtTable();
     DtDraughtTable& operator=(const DtDraughtTable& other);
+    DtDraughtTable& operator=(DtDraughtTable&& other) noexcept;
     bool operator==(const DtDraughtTable& other) const;
     bool operator!=(const DtDraughtTable& other) const;
 

@@ -27,9 +27,16 @@ void DtEmpty__Record::encode(DtWireWriter& writer) const
 
 bool DtEmpty__Record::decode(DtWireReader& reader)
 {
-    const DtRecordScope<DtWireReader> scope(reader);
     DtEmpty__Record taken(*this);
-    *this = taken;
+    if (!taken.decodeInto(reader))
+        return false;
+    *this = std::move(taken);
+    return true;
+}
+
+bool DtEmpty__Record::decodeInto(DtWireReader& reader)
+{
+    const DtRecordScope<DtWireReader> scope(reader);
     return reader.ok();
 }
 
@@ -44,7 +51,7 @@ unsigned int DtEmpty__Record::octetBoundary(const DtWireTrail* outer)
     return boundary;
 }
 
-DtWireForm DtEmpty__Record::formOf(unsigned int field)
+const DtWireForm& DtEmpty__Record::formOf(unsigned int field)
 {
     static const DtWireForm theForms[] = {
         DtWireForm()};

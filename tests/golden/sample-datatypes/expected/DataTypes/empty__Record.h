@@ -32,6 +32,8 @@ public:
     void encode(DtWireWriter& writer) const;
     // False: the octets are no such record, and this one is as it was.
     bool decode(DtWireReader& reader);
+    // The same, but what was read ahead of a failure stays.
+    bool decodeInto(DtWireReader& reader);
     // Octets on the wire, from an offset of 0.
     template <class Size = unsigned int>
     Size netSize() const
@@ -46,7 +48,7 @@ public:
     static unsigned int octetBoundary(const DtWireTrail* outer);
 
 private:
-    static DtWireForm formOf(unsigned int field);
+    static const DtWireForm& formOf(unsigned int field);
 };
 
 // As text for people, such as { name: value }.

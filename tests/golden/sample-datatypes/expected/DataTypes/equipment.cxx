@@ -56,30 +56,36 @@ void DtEquipment::encode(DtWireWriter& writer) const
 
 bool DtEquipment::decode(DtWireReader& reader)
 {
+    DtEquipment taken(*this);
+    if (!taken.decodeInto(reader))
+        return false;
+    *this = std::move(taken);
+    return true;
+}
+
+bool DtEquipment::decodeInto(DtWireReader& reader)
+{
     static const unsigned int theBoundary = Coding::alternativeBoundary(nullptr);
     static_cast<void>(theBoundary); // a record may have no alternatives
     const DtRecordScope<DtWireReader> scope(reader);
-    DtEquipment taken(*this);
-    bool done = DtDecodeValue(reader, taken.Own.selector, Coding::discriminantForm());
-    switch (done ? taken.selected<int>() : -1)
+    bool done = DtDecodeValue(reader, Own.selector, Coding::discriminantForm());
+    switch (done ? selected<int>() : -1)
     {
     case 0:
         done = DtDecodeAlternative(
-            reader, taken.Own.myChain, Coding::formOf(0), Coding::kind(), theBoundary);
+            reader, Own.myChain, Coding::formOf(0), Coding::kind(), theBoundary);
         break;
     case 1:
         done = DtDecodeAlternative(
-            reader, taken.Own.myLift, Coding::formOf(1), Coding::kind(), theBoundary);
+            reader, Own.myLift, Coding::formOf(1), Coding::kind(), theBoundary);
         break;
     case 2:
         done = DtDecodeAlternative(
-            reader, taken.Own.myBand, Coding::formOf(2), Coding::kind(), theBoundary);
+            reader, Own.myBand, Coding::formOf(2), Coding::kind(), theBoundary);
         break;
     default:
         done = done && DtDecodeNoAlternative(reader, Coding::kind());
     }
-    if (done)
-        *this = taken;
     return done;
 }
 
@@ -141,7 +147,7 @@ DtVariantKind DtEquipment::Coding::kind()
     return DtVariantKindOf("HLAextendableVariantRecord");
 }
 
-DtWireForm DtEquipment::Coding::formOf(unsigned int alternative)
+const DtWireForm& DtEquipment::Coding::formOf(unsigned int alternative)
 {
     static const DtWireForm theForms[] = {
         DtWireForm("Weight__Kg", "HarbourUnsigned32", R"qx(HLAvariableArray)qx",

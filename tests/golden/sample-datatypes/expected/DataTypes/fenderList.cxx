@@ -18,6 +18,10 @@ DtFenderList::DtFenderList(const DtFenderList& other) : myElements(other.myEleme
 {
 }
 
+DtFenderList::DtFenderList(DtFenderList&& other) noexcept : myElements(std::move(other.myElements))
+{
+}
+
 DtFenderList::~DtFenderList()
 {
 }
@@ -25,6 +29,12 @@ DtFenderList::~DtFenderList()
 DtFenderList& DtFenderList::operator=(const DtFenderList& other)
 {
     myElements = other.myElements;
+    return *this;
+}
+
+DtFenderList& DtFenderList::operator=(DtFenderList&& other) noexcept
+{
+    myElements.swap(other.myElements);
     return *this;
 }
 

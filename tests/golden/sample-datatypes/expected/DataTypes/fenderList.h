@@ -32,8 +32,10 @@ public:
     DtFenderList();
     explicit DtFenderList(const Elements& elements);
     DtFenderList(const DtFenderList& other);
+    DtFenderList(DtFenderList&& other) noexcept;
     ~DtFenderList();
     DtFenderList& operator=(const DtFenderList& other);
+    DtFenderList& operator=(DtFenderList&& other) noexcept;
     bool operator==(const DtFenderList& other) const;
     bool operator!=(const DtFenderList& other) const;
 

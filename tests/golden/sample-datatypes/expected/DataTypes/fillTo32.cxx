@@ -18,6 +18,10 @@ DtFillTo32::DtFillTo32(const DtFillTo32& other) : myElements(other.myElements)
 {
 }
 
+DtFillTo32::DtFillTo32(DtFillTo32&& other) noexcept : myElements(std::move(other.myElements))
+{
+}
+
 DtFillTo32::~DtFillTo32()
 {
 }
@@ -25,6 +29,12 @@ DtFillTo32::~DtFillTo32()
 DtFillTo32& DtFillTo32::operator=(const DtFillTo32& other)
 {
     myElements = other.myElements;
+    return *this;
+}
+
+DtFillTo32& DtFillTo32::operator=(DtFillTo32&& other) noexcept
+{
+    myElements.swap(other.myElements);
     return *this;
 }
 

@@ -32,8 +32,10 @@ public:
     DtFillTo32();
     explicit DtFillTo32(const Elements& elements);
     DtFillTo32(const DtFillTo32& other);
+    DtFillTo32(DtFillTo32&& other) noexcept;
     ~DtFillTo32();
     DtFillTo32& operator=(const DtFillTo32& other);
+    DtFillTo32& operator=(DtFillTo32&& other) noexcept;
     bool operator==(const DtFillTo32& other) const;
     bool operator!=(const DtFillTo32& other) const;
 

@@ -18,6 +18,10 @@ DtFillTo64::DtFillTo64(const DtFillTo64& other) : myElements(other.myElements)
 {
 }
 
+DtFillTo64::DtFillTo64(DtFillTo64&& other) noexcept : myElements(std::move(other.myElements))
+{
+}
+
 DtFillTo64::~DtFillTo64()
 {
 }
@@ -25,6 +29,12 @@ DtFillTo64::~DtFillTo64()
 DtFillTo64& DtFillTo64::operator=(const DtFillTo64& other)
 {
     myElements = other.myElements;
+    return *this;
+}
+
+DtFillTo64& DtFillTo64::operator=(DtFillTo64&& other) noexcept
+{
+    myElements.swap(other.myElements);
     return *this;
 }
 

@@ -32,8 +32,10 @@ public:
     DtFillTo64();
     explicit DtFillTo64(const Elements& elements);
     DtFillTo64(const DtFillTo64& other);
+    DtFillTo64(DtFillTo64&& other) noexcept;
     ~DtFillTo64();
     DtFillTo64& operator=(const DtFillTo64& other);
+    DtFillTo64& operator=(DtFillTo64&& other) noexcept;
     bool operator==(const DtFillTo64& other) const;
     bool operator!=(const DtFillTo64& other) const;
 

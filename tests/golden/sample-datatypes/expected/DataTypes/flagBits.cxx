@@ -17,6 +17,10 @@ DtFlagBits::DtFlagBits(const DtFlagBits& other) : myElements(other.myElements)
 {
 }
 
+DtFlagBits::DtFlagBits(DtFlagBits&& other) noexcept : myElements(std::move(other.myElements))
+{
+}
+
 DtFlagBits::~DtFlagBits()
 {
 }
@@ -24,6 +28,12 @@ DtFlagBits::~DtFlagBits()
 DtFlagBits& DtFlagBits::operator=(const DtFlagBits& other)
 {
     myElements = other.myElements;
+    return *this;
+}
+
+DtFlagBits& DtFlagBits::operator=(DtFlagBits&& other) noexcept
+{
+    myElements.swap(other.myElements);
     return *this;
 }
 

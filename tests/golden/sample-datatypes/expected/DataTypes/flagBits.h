@@ -29,8 +29,10 @@ public:
     DtFlagBits();
     explicit DtFlagBits(const Elements& elements);
     DtFlagBits(const DtFlagBits& other);
+    DtFlagBits(DtFlagBits&& other) noexcept;
     ~DtFlagBits();
     DtFlagBits& operator=(const DtFlagBits& other);
+    DtFlagBits& operator=(DtFlagBits&& other) noexcept;
     bool operator==(const DtFlagBits& other) const;
     bool operator!=(const DtFlagBits& other) const;
 

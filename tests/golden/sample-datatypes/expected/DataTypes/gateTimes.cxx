@@ -18,6 +18,10 @@ DtGateTimes::DtGateTimes(const DtGateTimes& other) : myElements(other.myElements
 {
 }
 
+DtGateTimes::DtGateTimes(DtGateTimes&& other) noexcept : myElements(std::move(other.myElements))
+{
+}
+
 DtGateTimes::~DtGateTimes()
 {
 }
@@ -25,6 +29,12 @@ DtGateTimes::~DtGateTimes()
 DtGateTimes& DtGateTimes::operator=(const DtGateTimes& other)
 {
     myElements = other.myElements;
+    return *this;
+}
+
+DtGateTimes& DtGateTimes::operator=(DtGateTimes&& other) noexcept
+{
+    myElements.swap(other.myElements);
     return *this;
 }
 

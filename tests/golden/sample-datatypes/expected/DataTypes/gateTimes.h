@@ -31,8 +31,10 @@ public:
     DtGateTimes();
     explicit DtGateTimes(const Elements& elements);
     DtGateTimes(const DtGateTimes& other);
+    DtGateTimes(DtGateTimes&& other) noexcept;
     ~DtGateTimes();
     DtGateTimes& operator=(const DtGateTimes& other);
+    DtGateTimes& operator=(DtGateTimes&& other) noexcept;
     bool operator==(const DtGateTimes& other) const;
     bool operator!=(const DtGateTimes& other) const;
 

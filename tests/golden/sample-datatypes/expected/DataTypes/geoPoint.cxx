@@ -37,15 +37,22 @@ void DtGeoPoint::encode(DtWireWriter& writer) const
 
 bool DtGeoPoint::decode(DtWireReader& reader)
 {
-    const DtRecordScope<DtWireReader> scope(reader);
     DtGeoPoint taken(*this);
-    if (!DtDecodeValue(reader, taken.Own.myLatitude, formOf(0)))
+    if (!taken.decodeInto(reader))
         return false;
-    if (!DtDecodeValue(reader, taken.Own.myLongitude, formOf(1)))
+    *this = std::move(taken);
+    return true;
+}
+
+bool DtGeoPoint::decodeInto(DtWireReader& reader)
+{
+    const DtRecordScope<DtWireReader> scope(reader);
+    if (!DtDecodePart(reader, Own.myLatitude, formOf(0)))
         return false;
-    if (!DtDecodeValue(reader, taken.Own.myHeight, formOf(2)))
+    if (!DtDecodePart(reader, Own.myLongitude, formOf(1)))
         return false;
-    *this = taken;
+    if (!DtDecodePart(reader, Own.myHeight, formOf(2)))
+        return false;
     return reader.ok();
 }
 
@@ -63,7 +70,7 @@ unsigned int DtGeoPoint::octetBoundary(const DtWireTrail* outer)
     return boundary;
 }
 
-DtWireForm DtGeoPoint::formOf(unsigned int field)
+const DtWireForm& DtGeoPoint::formOf(unsigned int field)
 {
     static const DtWireForm theForms[] = {
         DtWireForm("Degrees", "HLAfloat64BE", R"qx(HLAvariableArray)qx",

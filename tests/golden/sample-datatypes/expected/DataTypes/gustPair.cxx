@@ -34,13 +34,20 @@ void DtGustPair::encode(DtWireWriter& writer) const
 
 bool DtGustPair::decode(DtWireReader& reader)
 {
-    const DtRecordScope<DtWireReader> scope(reader);
     DtGustPair taken(*this);
-    if (!DtDecodeValue(reader, taken.Own.myLow, formOf(0)))
+    if (!taken.decodeInto(reader))
         return false;
-    if (!DtDecodeValue(reader, taken.Own.myHigh, formOf(1)))
+    *this = std::move(taken);
+    return true;
+}
+
+bool DtGustPair::decodeInto(DtWireReader& reader)
+{
+    const DtRecordScope<DtWireReader> scope(reader);
+    if (!DtDecodePart(reader, Own.myLow, formOf(0)))
         return false;
-    *this = taken;
+    if (!DtDecodePart(reader, Own.myHigh, formOf(1)))
+        return false;
     return reader.ok();
 }
 
@@ -57,7 +64,7 @@ unsigned int DtGustPair::octetBoundary(const DtWireTrail* outer)
     return boundary;
 }
 
-DtWireForm DtGustPair::formOf(unsigned int field)
+const DtWireForm& DtGustPair::formOf(unsigned int field)
 {
     static const DtWireForm theForms[] = {
         DtWireForm("Knots", "HLAfloat32BE", R"qx(HLAvariableArray)qx",

@@ -40,17 +40,24 @@ void DtHold::encode(DtWireWriter& writer) const
 
 bool DtHold::decode(DtWireReader& reader)
 {
-    const DtRecordScope<DtWireReader> scope(reader);
     DtHold taken(*this);
-    if (!DtDecodeValue(reader, taken.Own.myFull, formOf(0)))
+    if (!taken.decodeInto(reader))
         return false;
-    if (!DtDecodeValue(reader, taken.Own.myLoad, formOf(1)))
+    *this = std::move(taken);
+    return true;
+}
+
+bool DtHold::decodeInto(DtWireReader& reader)
+{
+    const DtRecordScope<DtWireReader> scope(reader);
+    if (!DtDecodePart(reader, Own.myFull, formOf(0)))
         return false;
-    if (!DtDecodeValue(reader, taken.Own.myState, formOf(2)))
+    if (!DtDecodePart(reader, Own.myLoad, formOf(1)))
         return false;
-    if (!DtDecodeValue(reader, taken.Own.mySub, formOf(3)))
+    if (!DtDecodePart(reader, Own.myState, formOf(2)))
         return false;
-    *this = taken;
+    if (!DtDecodePart(reader, Own.mySub, formOf(3)))
+        return false;
     return reader.ok();
 }
 
@@ -69,7 +76,7 @@ unsigned int DtHold::octetBoundary(const DtWireTrail* outer)
     return boundary;
 }
 
-DtWireForm DtHold::formOf(unsigned int field)
+const DtWireForm& DtHold::formOf(unsigned int field)
 {
     static const DtWireForm theForms[] = {
         DtWireForm("HLAboolean", "", R"qx(HLAvariableArray)qx",

@@ -18,6 +18,10 @@ DtHoldTable::DtHoldTable(const DtHoldTable& other) : myElements(other.myElements
 {
 }
 
+DtHoldTable::DtHoldTable(DtHoldTable&& other) noexcept : myElements(std::move(other.myElements))
+{
+}
+
 DtHoldTable::~DtHoldTable()
 {
 }
@@ -25,6 +29,12 @@ DtHoldTable::~DtHoldTable()
 DtHoldTable& DtHoldTable::operator=(const DtHoldTable& other)
 {
     myElements = other.myElements;
+    return *this;
+}
+
+DtHoldTable& DtHoldTable::operator=(DtHoldTable&& other) noexcept
+{
+    myElements.swap(other.myElements);
     return *this;
 }
 

@@ -31,8 +31,10 @@ public:
     DtHoldTable();
     explicit DtHoldTable(const Elements& elements);
     DtHoldTable(const DtHoldTable& other);
+    DtHoldTable(DtHoldTable&& other) noexcept;
     ~DtHoldTable();
     DtHoldTable& operator=(const DtHoldTable& other);
+    DtHoldTable& operator=(DtHoldTable&& other) noexcept;
     bool operator==(const DtHoldTable& other) const;
     bool operator!=(const DtHoldTable& other) const;
 

@@ -56,30 +56,36 @@ void DtInspection::encode(DtWireWriter& writer) const
 
 bool DtInspection::decode(DtWireReader& reader)
 {
+    DtInspection taken(*this);
+    if (!taken.decodeInto(reader))
+        return false;
+    *this = std::move(taken);
+    return true;
+}
+
+bool DtInspection::decodeInto(DtWireReader& reader)
+{
     static const unsigned int theBoundary = Coding::alternativeBoundary(nullptr);
     static_cast<void>(theBoundary); // a record may have no alternatives
     const DtRecordScope<DtWireReader> scope(reader);
-    DtInspection taken(*this);
-    bool done = DtDecodeValue(reader, taken.Own.selector, Coding::discriminantForm());
-    switch (done ? taken.selected<int>() : -1)
+    bool done = DtDecodeValue(reader, Own.selector, Coding::discriminantForm());
+    switch (done ? selected<int>() : -1)
     {
     case 0:
         done = DtDecodeAlternative(
-            reader, taken.Own.myHull, Coding::formOf(0), Coding::kind(), theBoundary);
+            reader, Own.myHull, Coding::formOf(0), Coding::kind(), theBoundary);
         break;
     case 1:
         done = DtDecodeAlternative(
-            reader, taken.Own.myHours, Coding::formOf(1), Coding::kind(), theBoundary);
+            reader, Own.myHours, Coding::formOf(1), Coding::kind(), theBoundary);
         break;
     case 2:
         done = DtDecodeAlternative(
-            reader, taken.Own.myHole, Coding::formOf(2), Coding::kind(), theBoundary);
+            reader, Own.myHole, Coding::formOf(2), Coding::kind(), theBoundary);
         break;
     default:
         done = done && DtDecodeNoAlternative(reader, Coding::kind());
     }
-    if (done)
-        *this = taken;
     return done;
 }
 
@@ -141,7 +147,7 @@ DtVariantKind DtInspection::Coding::kind()
     return DtVariantKindOf("RPRextendedVariantRecord");
 }
 
-DtWireForm DtInspection::Coding::formOf(unsigned int alternative)
+const DtWireForm& DtInspection::Coding::formOf(unsigned int alternative)
 {
     static const DtWireForm theForms[] = {
         DtWireForm("DepthGrid", "HLAinteger16BE", R"qx(HLAfixedArray)qx",

@@ -17,6 +17,10 @@ DtLampMatrix::DtLampMatrix(const DtLampMatrix& other) : myElements(other.myEleme
 {
 }
 
+DtLampMatrix::DtLampMatrix(DtLampMatrix&& other) noexcept : myElements(std::move(other.myElements))
+{
+}
+
 DtLampMatrix::~DtLampMatrix()
 {
 }
@@ -24,6 +28,12 @@ DtLampMatrix::~DtLampMatrix()
 DtLampMatrix& DtLampMatrix::operator=(const DtLampMatrix& other)
 {
     myElements = other.myElements;
+    return *this;
+}
+
+DtLampMatrix& DtLampMatrix::operator=(DtLampMatrix&& other) noexcept
+{
+    myElements.swap(other.myElements);
     return *this;
 }
 

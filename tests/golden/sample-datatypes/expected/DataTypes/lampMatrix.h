@@ -30,8 +30,10 @@ public:
     DtLampMatrix();
     explicit DtLampMatrix(const Elements& elements);
     DtLampMatrix(const DtLampMatrix& other);
+    DtLampMatrix(DtLampMatrix&& other) noexcept;
     ~DtLampMatrix();
     DtLampMatrix& operator=(const DtLampMatrix& other);
+    DtLampMatrix& operator=(DtLampMatrix&& other) noexcept;
     bool operator==(const DtLampMatrix& other) const;
     bool operator!=(const DtLampMatrix& other) const;
 

@@ -17,6 +17,10 @@ DtLineList::DtLineList(const DtLineList& other) : myElements(other.myElements)
 {
 }
 
+DtLineList::DtLineList(DtLineList&& other) noexcept : myElements(std::move(other.myElements))
+{
+}
+
 DtLineList::~DtLineList()
 {
 }
@@ -24,6 +28,12 @@ DtLineList::~DtLineList()
 DtLineList& DtLineList::operator=(const DtLineList& other)
 {
     myElements = other.myElements;
+    return *this;
+}
+
+DtLineList& DtLineList::operator=(DtLineList&& other) noexcept
+{
+    myElements.swap(other.myElements);
     return *this;
 }
 

@@ -30,8 +30,10 @@ public:
     DtLineList();
     explicit DtLineList(const Elements& elements);
     DtLineList(const DtLineList& other);
+    DtLineList(DtLineList&& other) noexcept;
     ~DtLineList();
     DtLineList& operator=(const DtLineList& other);
+    DtLineList& operator=(DtLineList&& other) noexcept;
     bool operator==(const DtLineList& other) const;
     bool operator!=(const DtLineList& other) const;
 

@@ -18,6 +18,10 @@ DtLockGrid::DtLockGrid(const DtLockGrid& other) : myElements(other.myElements)
 {
 }
 
+DtLockGrid::DtLockGrid(DtLockGrid&& other) noexcept : myElements(std::move(other.myElements))
+{
+}
+
 DtLockGrid::~DtLockGrid()
 {
 }
@@ -25,6 +29,12 @@ DtLockGrid::~DtLockGrid()
 DtLockGrid& DtLockGrid::operator=(const DtLockGrid& other)
 {
     myElements = other.myElements;
+    return *this;
+}
+
+DtLockGrid& DtLockGrid::operator=(DtLockGrid&& other) noexcept
+{
+    myElements.swap(other.myElements);
     return *this;
 }
 

@@ -32,8 +32,10 @@ public:
     DtLockGrid();
     explicit DtLockGrid(const Elements& elements);
     DtLockGrid(const DtLockGrid& other);
+    DtLockGrid(DtLockGrid&& other) noexcept;
     ~DtLockGrid();
     DtLockGrid& operator=(const DtLockGrid& other);
+    DtLockGrid& operator=(DtLockGrid&& other) noexcept;
     bool operator==(const DtLockGrid& other) const;
     bool operator!=(const DtLockGrid& other) const;
 

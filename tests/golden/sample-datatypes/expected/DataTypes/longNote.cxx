@@ -40,17 +40,24 @@ void DtLongNote::encode(DtWireWriter& writer) const
 
 bool DtLongNote::decode(DtWireReader& reader)
 {
-    const DtRecordScope<DtWireReader> scope(reader);
     DtLongNote taken(*this);
-    if (!DtDecodeValue(reader, taken.Own.myAuthor, formOf(0)))
+    if (!taken.decodeInto(reader))
         return false;
-    if (!DtDecodeValue(reader, taken.Own.myWords, formOf(1)))
+    *this = std::move(taken);
+    return true;
+}
+
+bool DtLongNote::decodeInto(DtWireReader& reader)
+{
+    const DtRecordScope<DtWireReader> scope(reader);
+    if (!DtDecodePart(reader, Own.myAuthor, formOf(0)))
         return false;
-    if (!DtDecodeValue(reader, taken.Own.myRating, formOf(2)))
+    if (!DtDecodePart(reader, Own.myWords, formOf(1)))
         return false;
-    if (!DtDecodeValue(reader, taken.Own.mySum, formOf(3)))
+    if (!DtDecodePart(reader, Own.myRating, formOf(2)))
         return false;
-    *this = taken;
+    if (!DtDecodePart(reader, Own.mySum, formOf(3)))
+        return false;
     return reader.ok();
 }
 
@@ -69,7 +76,7 @@ unsigned int DtLongNote::octetBoundary(const DtWireTrail* outer)
     return boundary;
 }
 
-DtWireForm DtLongNote::formOf(unsigned int field)
+const DtWireForm& DtLongNote::formOf(unsigned int field)
 {
     static const DtWireForm theForms[] = {
         DtWireForm("Initial", "HLAunicodeChar", R"qx(HLAvariableArray)qx",

@@ -17,6 +17,10 @@ DtNameList::DtNameList(const DtNameList& other) : myElements(other.myElements)
 {
 }
 
+DtNameList::DtNameList(DtNameList&& other) noexcept : myElements(std::move(other.myElements))
+{
+}
+
 DtNameList::~DtNameList()
 {
 }
@@ -24,6 +28,12 @@ DtNameList::~DtNameList()
 DtNameList& DtNameList::operator=(const DtNameList& other)
 {
     myElements = other.myElements;
+    return *this;
+}
+
+DtNameList& DtNameList::operator=(DtNameList&& other) noexcept
+{
+    myElements.swap(other.myElements);
     return *this;
 }
 

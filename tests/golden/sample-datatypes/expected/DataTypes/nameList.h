@@ -29,8 +29,10 @@ public:
     DtNameList();
     explicit DtNameList(const Elements& elements);
     DtNameList(const DtNameList& other);
+    DtNameList(DtNameList&& other) noexcept;
     ~DtNameList();
     DtNameList& operator=(const DtNameList& other);
+    DtNameList& operator=(DtNameList&& other) noexcept;
     bool operator==(const DtNameList& other) const;
     bool operator!=(const DtNameList& other) const;
 

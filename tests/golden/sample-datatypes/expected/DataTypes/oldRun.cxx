@@ -17,6 +17,10 @@ DtOldRun::DtOldRun(const DtOldRun& other) : myElements(other.myElements)
 {
 }
 
+DtOldRun::DtOldRun(DtOldRun&& other) noexcept : myElements(std::move(other.myElements))
+{
+}
+
 DtOldRun::~DtOldRun()
 {
 }
@@ -24,6 +28,12 @@ DtOldRun::~DtOldRun()
 DtOldRun& DtOldRun::operator=(const DtOldRun& other)
 {
     myElements = other.myElements;
+    return *this;
+}
+
+DtOldRun& DtOldRun::operator=(DtOldRun&& other) noexcept
+{
+    myElements.swap(other.myElements);
     return *this;
 }
 

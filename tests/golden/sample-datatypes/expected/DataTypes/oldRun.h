@@ -29,8 +29,10 @@ public:
     DtOldRun();
     explicit DtOldRun(const Elements& elements);
     DtOldRun(const DtOldRun& other);
+    DtOldRun(DtOldRun&& other) noexcept;
     ~DtOldRun();
     DtOldRun& operator=(const DtOldRun& other);
+    DtOldRun& operator=(DtOldRun&& other) noexcept;
     bool operator==(const DtOldRun& other) const;
     bool operator!=(const DtOldRun& other) const;
 

@@ -43,19 +43,26 @@ void DtPaddedReport::encode(DtWireWriter& writer) const
 
 bool DtPaddedReport::decode(DtWireReader& reader)
 {
-    const DtRecordScope<DtWireReader> scope(reader);
     DtPaddedReport taken(*this);
-    if (!DtDecodeValue(reader, taken.Own.myCode, formOf(0)))
+    if (!taken.decodeInto(reader))
         return false;
-    if (!DtDecodeValue(reader, taken.Own.myFill, formOf(1)))
+    *this = std::move(taken);
+    return true;
+}
+
+bool DtPaddedReport::decodeInto(DtWireReader& reader)
+{
+    const DtRecordScope<DtWireReader> scope(reader);
+    if (!DtDecodePart(reader, Own.myCode, formOf(0)))
         return false;
-    if (!DtDecodeValue(reader, taken.Own.myValue, formOf(2)))
+    if (!DtDecodePart(reader, Own.myFill, formOf(1)))
         return false;
-    if (!DtDecodeValue(reader, taken.Own.myRest, formOf(3)))
+    if (!DtDecodePart(reader, Own.myValue, formOf(2)))
         return false;
-    if (!DtDecodeValue(reader, taken.Own.myTail, formOf(4)))
+    if (!DtDecodePart(reader, Own.myRest, formOf(3)))
         return false;
-    *this = taken;
+    if (!DtDecodePart(reader, Own.myTail, formOf(4)))
+        return false;
     return reader.ok();
 }
 
@@ -75,7 +82,7 @@ unsigned int DtPaddedReport::octetBoundary(const DtWireTrail* outer)
     return boundary;
 }
 
-DtWireForm DtPaddedReport::formOf(unsigned int field)
+const DtWireForm& DtPaddedReport::formOf(unsigned int field)
 {
     static const DtWireForm theForms[] = {
         DtWireForm("Count8", "HarbourUnsigned8", R"qx(HLAvariableArray)qx",

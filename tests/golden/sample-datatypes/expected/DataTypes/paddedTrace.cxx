@@ -18,6 +18,10 @@ DtPaddedTrace::DtPaddedTrace(const DtPaddedTrace& other) : myElements(other.myEl
 {
 }
 
+DtPaddedTrace::DtPaddedTrace(DtPaddedTrace&& other) noexcept : myElements(std::move(other.myElements))
+{
+}
+
 DtPaddedTrace::~DtPaddedTrace()
 {
 }
@@ -25,6 +29,12 @@ DtPaddedTrace::~DtPaddedTrace()
 DtPaddedTrace& DtPaddedTrace::operator=(const DtPaddedTrace& other)
 {
     myElements = other.myElements;
+    return *this;
+}
+
+DtPaddedTrace& DtPaddedTrace::operator=(DtPaddedTrace&& other) noexcept
+{
+    myElements.swap(other.myElements);
     return *this;
 }
 

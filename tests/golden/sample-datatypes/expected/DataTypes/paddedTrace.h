@@ -32,8 +32,10 @@ public:
     DtPaddedTrace();
     explicit DtPaddedTrace(const Elements& elements);
     DtPaddedTrace(const DtPaddedTrace& other);
+    DtPaddedTrace(DtPaddedTrace&& other) noexcept;
     ~DtPaddedTrace();
     DtPaddedTrace& operator=(const DtPaddedTrace& other);
+    DtPaddedTrace& operator=(DtPaddedTrace&& other) noexcept;
     bool operator==(const DtPaddedTrace& other) const;
     bool operator!=(const DtPaddedTrace& other) const;
 

@@ -46,22 +46,28 @@ void DtPermit::encode(DtWireWriter& writer) const
 
 bool DtPermit::decode(DtWireReader& reader)
 {
+    DtPermit taken(*this);
+    if (!taken.decodeInto(reader))
+        return false;
+    *this = std::move(taken);
+    return true;
+}
+
+bool DtPermit::decodeInto(DtWireReader& reader)
+{
     static const unsigned int theBoundary = Coding::alternativeBoundary(nullptr);
     static_cast<void>(theBoundary); // a record may have no alternatives
     const DtRecordScope<DtWireReader> scope(reader);
-    DtPermit taken(*this);
-    bool done = DtDecodeValue(reader, taken.Own.selector, Coding::discriminantForm());
-    switch (done ? taken.selected<int>() : -1)
+    bool done = DtDecodeValue(reader, Own.selector, Coding::discriminantForm());
+    switch (done ? selected<int>() : -1)
     {
     case 0:
         done = DtDecodeAlternative(
-            reader, taken.Own.myUntil, Coding::formOf(0), Coding::kind(), theBoundary);
+            reader, Own.myUntil, Coding::formOf(0), Coding::kind(), theBoundary);
         break;
     default:
         done = done && DtDecodeNoAlternative(reader, Coding::kind());
     }
-    if (done)
-        *this = taken;
     return done;
 }
 
@@ -120,7 +126,7 @@ DtVariantKind DtPermit::Coding::kind()
     return DtVariantKindOf("HLAvariantRecord");
 }
 
-DtWireForm DtPermit::Coding::formOf(unsigned int alternative)
+const DtWireForm& DtPermit::Coding::formOf(unsigned int alternative)
 {
     static const DtWireForm theForms[] = {
         DtWireForm("ClockTime", "", R"qx(HLAvariableArray)qx",

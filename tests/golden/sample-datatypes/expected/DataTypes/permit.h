@@ -71,6 +71,8 @@ public:
     void encode(DtWireWriter& writer) const;
     // False: the octets are no such record, and this one is as it was.
     bool decode(DtWireReader& reader);
+    // The same, but what was read ahead of a failure stays.
+    bool decodeInto(DtWireReader& reader);
     // Octets on the wire, from an offset of 0.
     template <class Size = unsigned int>
     Size netSize() const
@@ -91,7 +93,7 @@ private:
         static const DtAlternativeTable& places();
         static DtVariantKind kind();
         static DtWireForm discriminantForm();
-        static DtWireForm formOf(unsigned int alternative);
+        static const DtWireForm& formOf(unsigned int alternative);
         static unsigned int alternativeBoundary(const DtWireTrail* outer);
     };
 

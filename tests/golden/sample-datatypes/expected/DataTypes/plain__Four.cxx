@@ -17,6 +17,10 @@ DtPlain__Four::DtPlain__Four(const DtPlain__Four& other) : myElements(other.myEl
 {
 }
 
+DtPlain__Four::DtPlain__Four(DtPlain__Four&& other) noexcept : myElements(std::move(other.myElements))
+{
+}
+
 DtPlain__Four::~DtPlain__Four()
 {
 }
@@ -24,6 +28,12 @@ DtPlain__Four::~DtPlain__Four()
 DtPlain__Four& DtPlain__Four::operator=(const DtPlain__Four& other)
 {
     myElements = other.myElements;
+    return *this;
+}
+
+DtPlain__Four& DtPlain__Four::operator=(DtPlain__Four&& other) noexcept
+{
+    myElements.swap(other.myElements);
     return *this;
 }
 

@@ -29,8 +29,10 @@ public:
     DtPlain__Four();
     explicit DtPlain__Four(const Elements& elements);
     DtPlain__Four(const DtPlain__Four& other);
+    DtPlain__Four(DtPlain__Four&& other) noexcept;
     ~DtPlain__Four();
     DtPlain__Four& operator=(const DtPlain__Four& other);
+    DtPlain__Four& operator=(DtPlain__Four&& other) noexcept;
     bool operator==(const DtPlain__Four& other) const;
     bool operator!=(const DtPlain__Four& other) const;
 

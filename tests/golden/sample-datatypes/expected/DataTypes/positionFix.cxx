@@ -51,26 +51,32 @@ void DtPositionFix::encode(DtWireWriter& writer) const
 
 bool DtPositionFix::decode(DtWireReader& reader)
 {
+    DtPositionFix taken(*this);
+    if (!taken.decodeInto(reader))
+        return false;
+    *this = std::move(taken);
+    return true;
+}
+
+bool DtPositionFix::decodeInto(DtWireReader& reader)
+{
     static const unsigned int theBoundary = Coding::alternativeBoundary(nullptr);
     static_cast<void>(theBoundary); // a record may have no alternatives
     const DtRecordScope<DtWireReader> scope(reader);
-    DtPositionFix taken(*this);
-    bool done = DtDecodeValue(reader, taken.Own.selector, Coding::discriminantForm());
-    switch (done ? taken.selected<int>() : -1)
+    bool done = DtDecodeValue(reader, Own.selector, Coding::discriminantForm());
+    switch (done ? selected<int>() : -1)
     {
     case 0:
         done = DtDecodeAlternative(
-            reader, taken.Own.myExact, Coding::formOf(0), Coding::kind(), theBoundary);
+            reader, Own.myExact, Coding::formOf(0), Coding::kind(), theBoundary);
         break;
     case 1:
         done = DtDecodeAlternative(
-            reader, taken.Own.myRough, Coding::formOf(1), Coding::kind(), theBoundary);
+            reader, Own.myRough, Coding::formOf(1), Coding::kind(), theBoundary);
         break;
     default:
         done = done && DtDecodeNoAlternative(reader, Coding::kind());
     }
-    if (done)
-        *this = taken;
     return done;
 }
 
@@ -130,7 +136,7 @@ DtVariantKind DtPositionFix::Coding::kind()
     return DtVariantKindOf("HLAvariantRecord");
 }
 
-DtWireForm DtPositionFix::Coding::formOf(unsigned int alternative)
+const DtWireForm& DtPositionFix::Coding::formOf(unsigned int alternative)
 {
     static const DtWireForm theForms[] = {
         DtWireForm("GeoPoint", "", R"qx(HLAvariableArray)qx",

@@ -34,13 +34,20 @@ void DtReportFrame::encode(DtWireWriter& writer) const
 
 bool DtReportFrame::decode(DtWireReader& reader)
 {
-    const DtRecordScope<DtWireReader> scope(reader);
     DtReportFrame taken(*this);
-    if (!DtDecodeValue(reader, taken.Own.myLead, formOf(0)))
+    if (!taken.decodeInto(reader))
         return false;
-    if (!DtDecodeValue(reader, taken.Own.myBody, formOf(1)))
+    *this = std::move(taken);
+    return true;
+}
+
+bool DtReportFrame::decodeInto(DtWireReader& reader)
+{
+    const DtRecordScope<DtWireReader> scope(reader);
+    if (!DtDecodePart(reader, Own.myLead, formOf(0)))
         return false;
-    *this = taken;
+    if (!DtDecodePart(reader, Own.myBody, formOf(1)))
+        return false;
     return reader.ok();
 }
 
@@ -57,7 +64,7 @@ unsigned int DtReportFrame::octetBoundary(const DtWireTrail* outer)
     return boundary;
 }
 
-DtWireForm DtReportFrame::formOf(unsigned int field)
+const DtWireForm& DtReportFrame::formOf(unsigned int field)
 {
     static const DtWireForm theForms[] = {
         DtWireForm("Count8", "HarbourUnsigned8", R"qx(HLAvariableArray)qx",

@@ -17,6 +17,10 @@ DtReportText::DtReportText(const DtReportText& other) : myElements(other.myEleme
 {
 }
 
+DtReportText::DtReportText(DtReportText&& other) noexcept : myElements(std::move(other.myElements))
+{
+}
+
 DtReportText::~DtReportText()
 {
 }
@@ -24,6 +28,12 @@ DtReportText::~DtReportText()
 DtReportText& DtReportText::operator=(const DtReportText& other)
 {
     myElements = other.myElements;
+    return *this;
+}
+
+DtReportText& DtReportText::operator=(DtReportText&& other) noexcept
+{
+    myElements.swap(other.myElements);
     return *this;
 }
 

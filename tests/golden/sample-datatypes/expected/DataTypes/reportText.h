@@ -29,8 +29,10 @@ public:
     DtReportText();
     explicit DtReportText(const Elements& elements);
     DtReportText(const DtReportText& other);
+    DtReportText(DtReportText&& other) noexcept;
     ~DtReportText();
     DtReportText& operator=(const DtReportText& other);
+    DtReportText& operator=(DtReportText&& other) noexcept;
     bool operator==(const DtReportText& other) const;
     bool operator!=(const DtReportText& other) const;
 

@@ -37,15 +37,22 @@ void DtRotation::encode(DtWireWriter& writer) const
 
 bool DtRotation::decode(DtWireReader& reader)
 {
-    const DtRecordScope<DtWireReader> scope(reader);
     DtRotation taken(*this);
-    if (!DtDecodeValue(reader, taken.Own.mySlot, formOf(0)))
+    if (!taken.decodeInto(reader))
         return false;
-    if (!DtDecodeValue(reader, taken.Own.myCentre, formOf(1)))
+    *this = std::move(taken);
+    return true;
+}
+
+bool DtRotation::decodeInto(DtWireReader& reader)
+{
+    const DtRecordScope<DtWireReader> scope(reader);
+    if (!DtDecodePart(reader, Own.mySlot, formOf(0)))
         return false;
-    if (!DtDecodeValue(reader, taken.Own.myTurns, formOf(2)))
+    if (!DtDecodePart(reader, Own.myCentre, formOf(1)))
         return false;
-    *this = taken;
+    if (!DtDecodePart(reader, Own.myTurns, formOf(2)))
+        return false;
     return reader.ok();
 }
 
@@ -63,7 +70,7 @@ unsigned int DtRotation::octetBoundary(const DtWireTrail* outer)
     return boundary;
 }
 
-DtWireForm DtRotation::formOf(unsigned int field)
+const DtWireForm& DtRotation::formOf(unsigned int field)
 {
     static const DtWireForm theForms[] = {
         DtWireForm("BerthSlot", "", R"qx(HLAvariableArray)qx",

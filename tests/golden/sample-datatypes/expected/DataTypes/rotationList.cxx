@@ -18,6 +18,10 @@ DtRotationList::DtRotationList(const DtRotationList& other) : myElements(other.m
 {
 }
 
+DtRotationList::DtRotationList(DtRotationList&& other) noexcept : myElements(std::move(other.myElements))
+{
+}
+
 DtRotationList::~DtRotationList()
 {
 }
@@ -25,6 +29,12 @@ DtRotationList::~DtRotationList()
 DtRotationList& DtRotationList::operator=(const DtRotationList& other)
 {
     myElements = other.myElements;
+    return *this;
+}
+
+DtRotationList& DtRotationList::operator=(DtRotationList&& other) noexcept
+{
+    myElements.swap(other.myElements);
     return *this;
 }
 

@@ -31,8 +31,10 @@ public:
     DtRotationList();
     explicit DtRotationList(const Elements& elements);
     DtRotationList(const DtRotationList& other);
+    DtRotationList(DtRotationList&& other) noexcept;
     ~DtRotationList();
     DtRotationList& operator=(const DtRotationList& other);
+    DtRotationList& operator=(DtRotationList&& other) noexcept;
     bool operator==(const DtRotationList& other) const;
     bool operator!=(const DtRotationList& other) const;
 

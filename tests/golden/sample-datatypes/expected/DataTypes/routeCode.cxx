@@ -17,6 +17,10 @@ DtRouteCode::DtRouteCode(const DtRouteCode& other) : myElements(other.myElements
 {
 }
 
+DtRouteCode::DtRouteCode(DtRouteCode&& other) noexcept : myElements(std::move(other.myElements))
+{
+}
+
 DtRouteCode::~DtRouteCode()
 {
 }
@@ -24,6 +28,12 @@ DtRouteCode::~DtRouteCode()
 DtRouteCode& DtRouteCode::operator=(const DtRouteCode& other)
 {
     myElements = other.myElements;
+    return *this;
+}
+
+DtRouteCode& DtRouteCode::operator=(DtRouteCode&& other) noexcept
+{
+    myElements.swap(other.myElements);
     return *this;
 }
 

@@ -29,8 +29,10 @@ public:
     DtRouteCode();
     explicit DtRouteCode(const Elements& elements);
     DtRouteCode(const DtRouteCode& other);
+    DtRouteCode(DtRouteCode&& other) noexcept;
     ~DtRouteCode();
     DtRouteCode& operator=(const DtRouteCode& other);
+    DtRouteCode& operator=(DtRouteCode&& other) noexcept;
     bool operator==(const DtRouteCode& other) const;
     bool operator!=(const DtRouteCode& other) const;
 

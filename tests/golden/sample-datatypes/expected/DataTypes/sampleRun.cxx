@@ -17,6 +17,10 @@ DtSampleRun::DtSampleRun(const DtSampleRun& other) : myElements(other.myElements
 {
 }
 
+DtSampleRun::DtSampleRun(DtSampleRun&& other) noexcept : myElements(std::move(other.myElements))
+{
+}
+
 DtSampleRun::~DtSampleRun()
 {
 }
@@ -24,6 +28,12 @@ DtSampleRun::~DtSampleRun()
 DtSampleRun& DtSampleRun::operator=(const DtSampleRun& other)
 {
     myElements = other.myElements;
+    return *this;
+}
+
+DtSampleRun& DtSampleRun::operator=(DtSampleRun&& other) noexcept
+{
+    myElements.swap(other.myElements);
     return *this;
 }
 

@@ -30,8 +30,10 @@ public:
     DtSampleRun();
     explicit DtSampleRun(const Elements& elements);
     DtSampleRun(const DtSampleRun& other);
+    DtSampleRun(DtSampleRun&& other) noexcept;
     ~DtSampleRun();
     DtSampleRun& operator=(const DtSampleRun& other);
+    DtSampleRun& operator=(DtSampleRun&& other) noexcept;
     bool operator==(const DtSampleRun& other) const;
     bool operator!=(const DtSampleRun& other) const;
 

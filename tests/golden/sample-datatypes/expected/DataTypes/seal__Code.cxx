@@ -17,6 +17,10 @@ DtSeal__Code::DtSeal__Code(const DtSeal__Code& other) : myElements(other.myEleme
 {
 }
 
+DtSeal__Code::DtSeal__Code(DtSeal__Code&& other) noexcept : myElements(std::move(other.myElements))
+{
+}
+
 DtSeal__Code::~DtSeal__Code()
 {
 }
@@ -24,6 +28,12 @@ DtSeal__Code::~DtSeal__Code()
 DtSeal__Code& DtSeal__Code::operator=(const DtSeal__Code& other)
 {
     myElements = other.myElements;
+    return *this;
+}
+
+DtSeal__Code& DtSeal__Code::operator=(DtSeal__Code&& other) noexcept
+{
+    myElements.swap(other.myElements);
     return *this;
 }
 

@@ -29,8 +29,10 @@ public:
     DtSeal__Code();
     explicit DtSeal__Code(const Elements& elements);
     DtSeal__Code(const DtSeal__Code& other);
+    DtSeal__Code(DtSeal__Code&& other) noexcept;
     ~DtSeal__Code();
     DtSeal__Code& operator=(const DtSeal__Code& other);
+    DtSeal__Code& operator=(DtSeal__Code&& other) noexcept;
     bool operator==(const DtSeal__Code& other) const;
     bool operator!=(const DtSeal__Code& other) const;
 

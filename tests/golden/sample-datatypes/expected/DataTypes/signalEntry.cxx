@@ -34,13 +34,20 @@ void DtSignalEntry::encode(DtWireWriter& writer) const
 
 bool DtSignalEntry::decode(DtWireReader& reader)
 {
-    const DtRecordScope<DtWireReader> scope(reader);
     DtSignalEntry taken(*this);
-    if (!DtDecodeValue(reader, taken.Own.mySentAt, formOf(0)))
+    if (!taken.decodeInto(reader))
         return false;
-    if (!DtDecodeValue(reader, taken.Own.myWhat, formOf(1)))
+    *this = std::move(taken);
+    return true;
+}
+
+bool DtSignalEntry::decodeInto(DtWireReader& reader)
+{
+    const DtRecordScope<DtWireReader> scope(reader);
+    if (!DtDecodePart(reader, Own.mySentAt, formOf(0)))
         return false;
-    *this = taken;
+    if (!DtDecodePart(reader, Own.myWhat, formOf(1)))
+        return false;
     return reader.ok();
 }
 
@@ -57,7 +64,7 @@ unsigned int DtSignalEntry::octetBoundary(const DtWireTrail* outer)
     return boundary;
 }
 
-DtWireForm DtSignalEntry::formOf(unsigned int field)
+const DtWireForm& DtSignalEntry::formOf(unsigned int field)
 {
     static const DtWireForm theForms[] = {
         DtWireForm("ClockTime", "", R"qx(HLAvariableArray)qx",

@@ -18,6 +18,10 @@ DtSignalLog::DtSignalLog(const DtSignalLog& other) : myElements(other.myElements
 {
 }
 
+DtSignalLog::DtSignalLog(DtSignalLog&& other) noexcept : myElements(std::move(other.myElements))
+{
+}
+
 DtSignalLog::~DtSignalLog()
 {
 }
@@ -25,6 +29,12 @@ DtSignalLog::~DtSignalLog()
 DtSignalLog& DtSignalLog::operator=(const DtSignalLog& other)
 {
     myElements = other.myElements;
+    return *this;
+}
+
+DtSignalLog& DtSignalLog::operator=(DtSignalLog&& other) noexcept
+{
+    myElements.swap(other.myElements);
     return *this;
 }
 

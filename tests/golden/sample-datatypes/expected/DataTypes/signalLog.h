@@ -31,8 +31,10 @@ public:
     DtSignalLog();
     explicit DtSignalLog(const Elements& elements);
     DtSignalLog(const DtSignalLog& other);
+    DtSignalLog(DtSignalLog&& other) noexcept;
     ~DtSignalLog();
     DtSignalLog& operator=(const DtSignalLog& other);
+    DtSignalLog& operator=(DtSignalLog&& other) noexcept;
     bool operator==(const DtSignalLog& other) const;
     bool operator!=(const DtSignalLog& other) const;
 

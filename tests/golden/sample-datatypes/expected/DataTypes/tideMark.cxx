@@ -34,13 +34,20 @@ void DtTideMark::encode(DtWireWriter& writer) const
 
 bool DtTideMark::decode(DtWireReader& reader)
 {
-    const DtRecordScope<DtWireReader> scope(reader);
     DtTideMark taken(*this);
-    if (!DtDecodeValue(reader, taken.Own.myAt, formOf(0)))
+    if (!taken.decodeInto(reader))
         return false;
-    if (!DtDecodeValue(reader, taken.Own.myLevel, formOf(1)))
+    *this = std::move(taken);
+    return true;
+}
+
+bool DtTideMark::decodeInto(DtWireReader& reader)
+{
+    const DtRecordScope<DtWireReader> scope(reader);
+    if (!DtDecodePart(reader, Own.myAt, formOf(0)))
         return false;
-    *this = taken;
+    if (!DtDecodePart(reader, Own.myLevel, formOf(1)))
+        return false;
     return reader.ok();
 }
 
@@ -57,7 +64,7 @@ unsigned int DtTideMark::octetBoundary(const DtWireTrail* outer)
     return boundary;
 }
 
-DtWireForm DtTideMark::formOf(unsigned int field)
+const DtWireForm& DtTideMark::formOf(unsigned int field)
 {
     static const DtWireForm theForms[] = {
         DtWireForm("ClockTime", "", R"qx(HLAvariableArray)qx",

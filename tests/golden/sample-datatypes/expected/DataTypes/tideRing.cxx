@@ -18,6 +18,10 @@ DtTideRing::DtTideRing(const DtTideRing& other) : myElements(other.myElements)
 {
 }
 
+DtTideRing::DtTideRing(DtTideRing&& other) noexcept : myElements(std::move(other.myElements))
+{
+}
+
 DtTideRing::~DtTideRing()
 {
 }
@@ -25,6 +29,12 @@ DtTideRing::~DtTideRing()
 DtTideRing& DtTideRing::operator=(const DtTideRing& other)
 {
     myElements = other.myElements;
+    return *this;
+}
+
+DtTideRing& DtTideRing::operator=(DtTideRing&& other) noexcept
+{
+    myElements.swap(other.myElements);
     return *this;
 }
 

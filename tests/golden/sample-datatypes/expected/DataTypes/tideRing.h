@@ -32,8 +32,10 @@ public:
     DtTideRing();
     explicit DtTideRing(const Elements& elements);
     DtTideRing(const DtTideRing& other);
+    DtTideRing(DtTideRing&& other) noexcept;
     ~DtTideRing();
     DtTideRing& operator=(const DtTideRing& other);
+    DtTideRing& operator=(DtTideRing&& other) noexcept;
     bool operator==(const DtTideRing& other) const;
     bool operator!=(const DtTideRing& other) const;
 

@@ -18,6 +18,10 @@ DtTiltTable::DtTiltTable(const DtTiltTable& other) : myElements(other.myElements
 {
 }
 
+DtTiltTable::DtTiltTable(DtTiltTable&& other) noexcept : myElements(std::move(other.myElements))
+{
+}
+
 DtTiltTable::~DtTiltTable()
 {
 }
@@ -25,6 +29,12 @@ DtTiltTable::~DtTiltTable()
 DtTiltTable& DtTiltTable::operator=(const DtTiltTable& other)
 {
     myElements = other.myElements;
+    return *this;
+}
+
+DtTiltTable& DtTiltTable::operator=(DtTiltTable&& other) noexcept
+{
+    myElements.swap(other.myElements);
     return *this;
 }
 

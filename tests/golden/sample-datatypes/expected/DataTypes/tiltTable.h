@@ -32,8 +32,10 @@ public:
     DtTiltTable();
     explicit DtTiltTable(const Elements& elements);
     DtTiltTable(const DtTiltTable& other);
+    DtTiltTable(DtTiltTable&& other) noexcept;
     ~DtTiltTable();
     DtTiltTable& operator=(const DtTiltTable& other);
+    DtTiltTable& operator=(DtTiltTable&& other) noexcept;
     bool operator==(const DtTiltTable& other) const;
     bool operator!=(const DtTiltTable& other) const;
 

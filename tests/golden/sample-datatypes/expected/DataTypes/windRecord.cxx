@@ -40,17 +40,24 @@ void DtWindRecord::encode(DtWireWriter& writer) const
 
 bool DtWindRecord::decode(DtWireReader& reader)
 {
-    const DtRecordScope<DtWireReader> scope(reader);
     DtWindRecord taken(*this);
-    if (!DtDecodeValue(reader, taken.Own.mySpeed, formOf(0)))
+    if (!taken.decodeInto(reader))
         return false;
-    if (!DtDecodeValue(reader, taken.Own.myFrom, formOf(1)))
+    *this = std::move(taken);
+    return true;
+}
+
+bool DtWindRecord::decodeInto(DtWireReader& reader)
+{
+    const DtRecordScope<DtWireReader> scope(reader);
+    if (!DtDecodePart(reader, Own.mySpeed, formOf(0)))
         return false;
-    if (!DtDecodeValue(reader, taken.Own.myGusts, formOf(2)))
+    if (!DtDecodePart(reader, Own.myFrom, formOf(1)))
         return false;
-    if (!DtDecodeValue(reader, taken.Own.myMarks, formOf(3)))
+    if (!DtDecodePart(reader, Own.myGusts, formOf(2)))
         return false;
-    *this = taken;
+    if (!DtDecodePart(reader, Own.myMarks, formOf(3)))
+        return false;
     return reader.ok();
 }
 
@@ -69,7 +76,7 @@ unsigned int DtWindRecord::octetBoundary(const DtWireTrail* outer)
     return boundary;
 }
 
-DtWireForm DtWindRecord::formOf(unsigned int field)
+const DtWireForm& DtWindRecord::formOf(unsigned int field)
 {
     static const DtWireForm theForms[] = {
         DtWireForm("Knots", "HLAfloat32BE", R"qx(HLAvariableArray)qx",

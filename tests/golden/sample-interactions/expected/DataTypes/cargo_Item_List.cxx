@@ -18,6 +18,10 @@ DtCargo_Item_List::DtCargo_Item_List(const DtCargo_Item_List& other) : myElement
 {
 }
 
+DtCargo_Item_List::DtCargo_Item_List(DtCargo_Item_List&& other) noexcept : myElements(std::move(other.myElements))
+{
+}
+
 DtCargo_Item_List::~DtCargo_Item_List()
 {
 }
@@ -25,6 +29,12 @@ DtCargo_Item_List::~DtCargo_Item_List()
 DtCargo_Item_List& DtCargo_Item_List::operator=(const DtCargo_Item_List& other)
 {
     myElements = other.myElements;
+    return *this;
+}
+
+DtCargo_Item_List& DtCargo_Item_List::operator=(DtCargo_Item_List&& other) noexcept
+{
+    myElements.swap(other.myElements);
     return *this;
 }
 

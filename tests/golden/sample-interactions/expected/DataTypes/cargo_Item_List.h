@@ -31,8 +31,10 @@ public:
     DtCargo_Item_List();
     explicit DtCargo_Item_List(const Elements& elements);
     DtCargo_Item_List(const DtCargo_Item_List& other);
+    DtCargo_Item_List(DtCargo_Item_List&& other) noexcept;
     ~DtCargo_Item_List();
     DtCargo_Item_List& operator=(const DtCargo_Item_List& other);
+    DtCargo_Item_List& operator=(DtCargo_Item_List&& other) noexcept;
     bool operator==(const DtCargo_Item_List& other) const;
     bool operator!=(const DtCargo_Item_List& other) const;
 

@@ -37,15 +37,22 @@ void DtCargo__Item::encode(DtWireWriter& writer) const
 
 bool DtCargo__Item::decode(DtWireReader& reader)
 {
-    const DtRecordScope<DtWireReader> scope(reader);
     DtCargo__Item taken(*this);
-    if (!DtDecodeValue(reader, taken.Own.myLabel, formOf(0)))
+    if (!taken.decodeInto(reader))
         return false;
-    if (!DtDecodeValue(reader, taken.Own.myWeight__Gross, formOf(1)))
+    *this = std::move(taken);
+    return true;
+}
+
+bool DtCargo__Item::decodeInto(DtWireReader& reader)
+{
+    const DtRecordScope<DtWireReader> scope(reader);
+    if (!DtDecodePart(reader, Own.myLabel, formOf(0)))
         return false;
-    if (!DtDecodeValue(reader, taken.Own.mytemplate, formOf(2)))
+    if (!DtDecodePart(reader, Own.myWeight__Gross, formOf(1)))
         return false;
-    *this = taken;
+    if (!DtDecodePart(reader, Own.mytemplate, formOf(2)))
+        return false;
     return reader.ok();
 }
 
@@ -63,7 +70,7 @@ unsigned int DtCargo__Item::octetBoundary(const DtWireTrail* outer)
     return boundary;
 }
 
-DtWireForm DtCargo__Item::formOf(unsigned int field)
+const DtWireForm& DtCargo__Item::formOf(unsigned int field)
 {
     static const DtWireForm theForms[] = {
         DtWireForm("OldText", "HLAASCIIchar", R"qx(RPRnullTerminatedArray)qx",

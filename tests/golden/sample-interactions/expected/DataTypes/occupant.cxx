@@ -56,30 +56,36 @@ void DtOccupant::encode(DtWireWriter& writer) const
 
 bool DtOccupant::decode(DtWireReader& reader)
 {
+    DtOccupant taken(*this);
+    if (!taken.decodeInto(reader))
+        return false;
+    *this = std::move(taken);
+    return true;
+}
+
+bool DtOccupant::decodeInto(DtWireReader& reader)
+{
     static const unsigned int theBoundary = Coding::alternativeBoundary(nullptr);
     static_cast<void>(theBoundary); // a record may have no alternatives
     const DtRecordScope<DtWireReader> scope(reader);
-    DtOccupant taken(*this);
-    bool done = DtDecodeValue(reader, taken.Own.selector, Coding::discriminantForm());
-    switch (done ? taken.selected<int>() : -1)
+    bool done = DtDecodeValue(reader, Own.selector, Coding::discriminantForm());
+    switch (done ? selected<int>() : -1)
     {
     case 0:
         done = DtDecodeAlternative(
-            reader, taken.Own.myShip, Coding::formOf(0), Coding::kind(), theBoundary);
+            reader, Own.myShip, Coding::formOf(0), Coding::kind(), theBoundary);
         break;
     case 1:
         done = DtDecodeAlternative(
-            reader, taken.Own.myArrival, Coding::formOf(1), Coding::kind(), theBoundary);
+            reader, Own.myArrival, Coding::formOf(1), Coding::kind(), theBoundary);
         break;
     case 2:
         done = DtDecodeAlternative(
-            reader, taken.Own.myWreck, Coding::formOf(2), Coding::kind(), theBoundary);
+            reader, Own.myWreck, Coding::formOf(2), Coding::kind(), theBoundary);
         break;
     default:
         done = done && DtDecodeNoAlternative(reader, Coding::kind());
     }
-    if (done)
-        *this = taken;
     return done;
 }
 
@@ -142,7 +148,7 @@ DtVariantKind DtOccupant::Coding::kind()
     return DtVariantKindOf("HLAvariantRecord");
 }
 
-DtWireForm DtOccupant::Coding::formOf(unsigned int alternative)
+const DtWireForm& DtOccupant::Coding::formOf(unsigned int alternative)
 {
     static const DtWireForm theForms[] = {
         DtWireForm("ShortText", "HLAASCIIchar", R"qx(HLAfixedArray)qx",

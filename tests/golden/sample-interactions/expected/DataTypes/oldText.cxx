@@ -17,6 +17,10 @@ DtOldText::DtOldText(const DtOldText& other) : myElements(other.myElements)
 {
 }
 
+DtOldText::DtOldText(DtOldText&& other) noexcept : myElements(std::move(other.myElements))
+{
+}
+
 DtOldText::~DtOldText()
 {
 }
@@ -24,6 +28,12 @@ DtOldText::~DtOldText()
 DtOldText& DtOldText::operator=(const DtOldText& other)
 {
     myElements = other.myElements;
+    return *this;
+}
+
+DtOldText& DtOldText::operator=(DtOldText&& other) noexcept
+{
+    myElements.swap(other.myElements);
     return *this;
 }
 

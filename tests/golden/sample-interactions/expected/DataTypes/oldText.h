@@ -29,8 +29,10 @@ public:
     DtOldText();
     explicit DtOldText(const Elements& elements);
     DtOldText(const DtOldText& other);
+    DtOldText(DtOldText&& other) noexcept;
     ~DtOldText();
     DtOldText& operator=(const DtOldText& other);
+    DtOldText& operator=(DtOldText&& other) noexcept;
     bool operator==(const DtOldText& other) const;
     bool operator!=(const DtOldText& other) const;
 

@@ -17,6 +17,10 @@ DtShortText::DtShortText(const DtShortText& other) : myElements(other.myElements
 {
 }
 
+DtShortText::DtShortText(DtShortText&& other) noexcept : myElements(std::move(other.myElements))
+{
+}
+
 DtShortText::~DtShortText()
 {
 }
@@ -24,6 +28,12 @@ DtShortText::~DtShortText()
 DtShortText& DtShortText::operator=(const DtShortText& other)
 {
     myElements = other.myElements;
+    return *this;
+}
+
+DtShortText& DtShortText::operator=(DtShortText&& other) noexcept
+{
+    myElements.swap(other.myElements);
     return *this;
 }
 

@@ -66,38 +66,44 @@ void DtSignalMessage::encode(DtWireWriter& writer) const
 
 bool DtSignalMessage::decode(DtWireReader& reader)
 {
+    DtSignalMessage taken(*this);
+    if (!taken.decodeInto(reader))
+        return false;
+    *this = std::move(taken);
+    return true;
+}
+
+bool DtSignalMessage::decodeInto(DtWireReader& reader)
+{
     static const unsigned int theBoundary = Coding::alternativeBoundary(nullptr);
     static_cast<void>(theBoundary); // a record may have no alternatives
     const DtRecordScope<DtWireReader> scope(reader);
-    DtSignalMessage taken(*this);
-    bool done = DtDecodeValue(reader, taken.Own.selector, Coding::discriminantForm());
-    switch (done ? taken.selected<int>() : -1)
+    bool done = DtDecodeValue(reader, Own.selector, Coding::discriminantForm());
+    switch (done ? selected<int>() : -1)
     {
     case 0:
         done = DtDecodeAlternative(
-            reader, taken.Own.myVisibility, Coding::formOf(0), Coding::kind(), theBoundary);
+            reader, Own.myVisibility, Coding::formOf(0), Coding::kind(), theBoundary);
         break;
     case 1:
         done = DtDecodeAlternative(
-            reader, taken.Own.myStrength, Coding::formOf(1), Coding::kind(), theBoundary);
+            reader, Own.myStrength, Coding::formOf(1), Coding::kind(), theBoundary);
         break;
     case 2:
         done = DtDecodeAlternative(
-            reader, taken.Own.myPlace, Coding::formOf(2), Coding::kind(), theBoundary);
+            reader, Own.myPlace, Coding::formOf(2), Coding::kind(), theBoundary);
         break;
     case 3:
         done = DtDecodeAlternative(
-            reader, taken.Own.myStation, Coding::formOf(3), Coding::kind(), theBoundary);
+            reader, Own.myStation, Coding::formOf(3), Coding::kind(), theBoundary);
         break;
     case 4:
         done = DtDecodeAlternative(
-            reader, taken.Own.myWords, Coding::formOf(4), Coding::kind(), theBoundary);
+            reader, Own.myWords, Coding::formOf(4), Coding::kind(), theBoundary);
         break;
     default:
         done = done && DtDecodeNoAlternative(reader, Coding::kind());
     }
-    if (done)
-        *this = taken;
     return done;
 }
 
@@ -164,7 +170,7 @@ DtVariantKind DtSignalMessage::Coding::kind()
     return DtVariantKindOf("HLAvariantRecord");
 }
 
-DtWireForm DtSignalMessage::Coding::formOf(unsigned int alternative)
+const DtWireForm& DtSignalMessage::Coding::formOf(unsigned int alternative)
 {
     static const DtWireForm theForms[] = {
         DtWireForm("HLAinteger32BE", "", R"qx(HLAvariableArray)qx",

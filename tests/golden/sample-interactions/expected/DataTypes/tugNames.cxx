@@ -18,6 +18,10 @@ DtTugNames::DtTugNames(const DtTugNames& other) : myElements(other.myElements)
 {
 }
 
+DtTugNames::DtTugNames(DtTugNames&& other) noexcept : myElements(std::move(other.myElements))
+{
+}
+
 DtTugNames::~DtTugNames()
 {
 }
@@ -25,6 +29,12 @@ DtTugNames::~DtTugNames()
 DtTugNames& DtTugNames::operator=(const DtTugNames& other)
 {
     myElements = other.myElements;
+    return *this;
+}
+
+DtTugNames& DtTugNames::operator=(DtTugNames&& other) noexcept
+{
+    myElements.swap(other.myElements);
     return *this;
 }
 

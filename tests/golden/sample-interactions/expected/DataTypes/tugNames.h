@@ -31,8 +31,10 @@ public:
     DtTugNames();
     explicit DtTugNames(const Elements& elements);
     DtTugNames(const DtTugNames& other);
+    DtTugNames(DtTugNames&& other) noexcept;
     ~DtTugNames();
     DtTugNames& operator=(const DtTugNames& other);
+    DtTugNames& operator=(DtTugNames&& other) noexcept;
     bool operator==(const DtTugNames& other) const;
     bool operator!=(const DtTugNames& other) const;
 

@@ -31,8 +31,10 @@ public:
     DtQxSeeds();
     explicit DtQxSeeds(const Elements& elements);
     DtQxSeeds(const DtQxSeeds& other);
+    DtQxSeeds(DtQxSeeds&& other) noexcept;
     ~DtQxSeeds();
     DtQxSeeds& operator=(const DtQxSeeds& other);
+    DtQxSeeds& operator=(DtQxSeeds&& other) noexcept;
     bool operator==(const DtQxSeeds& other) const;
     bool operator!=(const DtQxSeeds& other) const;
 

@@ -18,6 +18,13 @@ const DtDataTypeMapper& mapper()
 {
     return *DtDataTypeMapper::instance();
 }
+
+// With the datatype that a reference is coded as.
+DtCustomCodeMember coded(DtCustomCodeMember member)
+{
+    member.datatype = mapper().behindReferences(member.datatype);
+    return member;
+}
 } // namespace
 
 // Rows run top to bottom, and a later row sees what an earlier one put in. The rows behind the prefix make up the form
@@ -55,7 +62,7 @@ const DtTokenTable<DtCustomCodeTokens>& DtCustomCodeTokens::table()
 
 DtCustomCodeTokens::DtCustomCodeTokens(const DtCustomCodeMember& member, const DtOMTTree* tree,
                                        const DtOmtProject* project, const DtString& prefix, DtCCompatibleNames& names)
-    : myMember(member), myTree(tree), myProject(project), myPrefix(prefix), myNames(names)
+    : myMember(coded(member)), myTree(tree), myProject(project), myPrefix(prefix), myNames(names)
 {
 }
 

@@ -20,8 +20,8 @@ struct DtCustomCodeMember
 // The values behind the tokens of the custom code templates, for one member.
 //
 // They are worked out from the model and the project, so they are the same before and after a generation, and what
-// they make up is what generation writes without custom code. Long names get their numbers from the given names. All
-// arguments must outlive the object; tree and project may be null.
+// they make up is what generation writes without custom code. Long names get their numbers from the given names, which
+// must outlive the object, as tree and project must; tree and project may be null.
 class DtCustomCodeTokens
 {
 public:
@@ -45,7 +45,7 @@ private:
     DtString nextRepresentation(const DtString& datatype) const;
     DtValueForm valueForm() const;
 
-    const DtCustomCodeMember& myMember;
+    const DtCustomCodeMember myMember;
     const DtOMTTree* myTree;
     const DtOmtProject* myProject;
     const DtString& myPrefix;

@@ -174,6 +174,9 @@ void DtDataTypeMapper::populateFromOmtTree(DtOMTTree* tree)
 {
     if (tree == nullptr)
         return;
+    myReferences.clear(); // those of an earlier model, whose names may be other datatypes here
+    for (const DtReferenceDatatypeNode* node : tree->referenceDatatypes())
+        myReferences[node->getName()] = node->getRepresentation();
     addBasicTypes(tree);
     addSimpleTypes(tree);
     addArrayTypes(tree);
@@ -274,6 +277,19 @@ bool DtDataTypeMapper::hasVariantRecord(const DtString& name) const
 void DtDataTypeMapper::addNonEncodeableDataType(const DtString& name)
 {
     myNonEncodeableDataTypes.insert(name);
+}
+
+DtString DtDataTypeMapper::behindReferences(const DtString& name) const
+{
+    DtString behind = name;
+    for (std::size_t steps = 0; steps <= myReferences.size(); ++steps)
+    {
+        const auto reference = myReferences.find(behind);
+        if (reference == myReferences.end())
+            return behind;
+        behind = reference->second;
+    }
+    return name;
 }
 
 bool DtDataTypeMapper::refusesCoding(const DtString& name) const

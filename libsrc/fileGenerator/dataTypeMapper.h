@@ -102,6 +102,9 @@ public:
     // Also true for a std::vector of such a type; one level of vector is looked through.
     virtual bool isNonEncodeableDataType(const DtString& name) const;
     // A run calls this at its start: generation marks these types, and a second run gives what the first one gave.
+    // Reference datatypes are coded as what represents them. Asks for the datatype behind all references; a name that
+    // is no reference stands for itself, and so does one that leads back to itself.
+    DtString behindReferences(const DtString& name) const;
     // Likewise, unless the run codes datatypes with several open arrays, which is all that makes one non-encodeable.
     bool refusesCoding(const DtString& name) const;
     void forgetNonEncodeableDataTypes() { myNonEncodeableDataTypes.clear(); }
@@ -188,6 +191,7 @@ private:
     DtStringMap myDatatypeToDiscriminant;
     std::set<DtString> myVariableSizeNetTypes; // beyond those built in
     std::set<DtString> myNonEncodeableDataTypes;
+    std::map<DtString, DtString> myReferences; // representations by name
     std::set<DtString> myEnumerations;
     std::set<DtString> myNetTypesWithVariantRecord;
     bool myMapRtiObjectIdToGlobalId = false;

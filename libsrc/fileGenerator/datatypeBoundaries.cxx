@@ -101,5 +101,6 @@ DtDatatypeBoundaries::Link DtDatatypeBoundaries::linkOf(const DtString& name) co
                   },
                   [&](const DtComplexDatatypeNode&) { return throughVariant(); },
                   [&](const DtVariantDatatypeNode& variant) { return through(variant.getDatatype()); },
+                  [&](const DtReferenceDatatypeNode& reference) { return through(reference.getRepresentation()); },
                   [](DtUnknownDatatype) { return Link(); }});
 }

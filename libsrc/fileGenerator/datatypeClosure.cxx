@@ -119,9 +119,10 @@ void DtDatatypeClosure::complete(const std::set<DtOmtObject>& objects, const std
 
 void DtDatatypeClosure::insertAllDatatypes()
 {
-    static_assert(theFamilyCount == 7, "The names of a new family of datatypes belong here too");
+    static_assert(theFamilyCount == 8, "The names of a new family of datatypes belong here too");
     insertNames(myTree->basicDataRepresentations(), myUsed);
     insertNames(myTree->simpleDatatypes(), myUsed);
+    insertNames(myTree->referenceDatatypes(), myUsed);
     insertNames(myTree->enumeratedDatatypes(), myUsed);
     insertNames(myTree->arrayDatatypes(), myUsed);
     insertNames(myTree->fixedDatatypes(), myUsed);
@@ -148,7 +149,7 @@ void DtDatatypeClosure::insertMemberDatatypes(const std::set<DtOmtObject>& objec
 // datatypes. An enumeration adds nothing.
 std::vector<DtString> DtDatatypeClosure::subDatatypes(const DtString& name) const
 {
-    static_assert(theFamilyCount == 7, "A new family of datatypes may be made of others");
+    static_assert(theFamilyCount == 8, "A new family of datatypes may be made of others");
     std::vector<DtString> datatypes;
     if (const DtArrayDatatypeNode* array = myTree->getArrayDatatypeNode(name))
         datatypes.push_back(array->getDatatype());
@@ -161,6 +162,8 @@ std::vector<DtString> DtDatatypeClosure::subDatatypes(const DtString& name) cons
         datatypes = componentDatatypes(*variant);
         datatypes.push_back(variant->getDatatype());
     }
+    else if (const DtReferenceDatatypeNode* reference = myTree->getReferenceDatatypeNode(name))
+        datatypes.push_back(reference->getRepresentation());
     if (const DtSimpleDatatypeNode* simple = myTree->getSimpleDatatypeNode(name))
         datatypes.push_back(simple->getRepresentation());
     return datatypes;

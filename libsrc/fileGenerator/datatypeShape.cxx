@@ -52,7 +52,7 @@ private:
     {
         if (depth > theMostDepth || ++mySteps > theMostSteps)
             return faulty("holds itself or too many records");
-        static_assert(theFamilyCount == 7, "A new family of datatypes may have components");
+        static_assert(theFamilyCount == 8, "A new family of datatypes may have components");
         const DtString name = belowSimpleTypes(datatype, myTree);
         if (const DtFixedDatatypeNode* record = myTree.getFixedDatatypeNode(name))
             return ofRecord(*record, depth);
@@ -60,6 +60,8 @@ private:
             return ofRecord(*record, depth);
         if (const DtArrayDatatypeNode* array = myTree.getArrayDatatypeNode(name))
             return ofArray(array->getDatatype(), array->getEncoding(), elementCountOf(array->getCardinality()), depth);
+        if (const DtReferenceDatatypeNode* reference = myTree.getReferenceDatatypeNode(name))
+            return of(reference->getRepresentation(), field, depth + 1);
         return ofNumber(name, field);
     }
 

@@ -70,8 +70,9 @@ DtString encodingOf(const DtString& datatype, const DtString& ofMember)
     return ofMember.isEmpty() ? DtString("HLAvariableArray") : ofMember;
 }
 
-DtAttribute makeMember(const DtString& name, const DtString& datatype, const DtString& cardinality)
+DtAttribute makeMember(const DtString& name, const DtString& statedDatatype, const DtString& cardinality)
 {
+    const DtString datatype = DtDataTypeMapper::instance()->behindReferences(statedDatatype);
     DtAttribute member(name, memberType(datatype));
     member.setCardinality(cardinality);
     member.setDatatype(datatype);

@@ -81,7 +81,9 @@ private:
                                     [this](const DtArrayDatatypeNode& array) { visitArray(array); },
                                     [this](const DtFixedDatatypeNode& record) { addComponents(record); },
                                     [this](const DtComplexDatatypeNode& record) { addComponents(record); },
-                                    [this](const DtVariantDatatypeNode& record) { visitVariant(record); }});
+                                    [this](const DtVariantDatatypeNode& record) { visitVariant(record); },
+                                    [this](const DtReferenceDatatypeNode& reference)
+                                    { add(reference.getRepresentation()); }});
     }
 
     void visitVariant(const DtVariantDatatypeNode& record)

@@ -119,7 +119,7 @@ public:
 DtString valueTypeOf(const DtDatatypeFedNode& member)
 {
     const DtString& name = member.getName();
-    return mapper().hasMapping(name) ? mapper().quorvexType(name) : member.getDatatype();
+    return mapper().hasMapping(name) ? mapper().quorvexType(name) : mapper().behindReferences(member.getDatatype());
 }
 
 // The classes above a node but for the root, which no class is generated of, the top one first.
@@ -277,7 +277,7 @@ void DtOMTEnvWriter::setTotalProgress()
     for (const DtString& name : myUsedDatatypes)
     {
         if (!mapper().hasMapping(name) && tree().getEnumeratedDatatypeNode(name) == nullptr &&
-            !mapper().isToBeReplaced(name))
+            !mapper().isToBeReplaced(name) && tree().getReferenceDatatypeNode(name) == nullptr)
             ++datatypes;
     }
     const int objects = static_cast<int>(myObjectsToGenerate.size());

@@ -146,6 +146,8 @@ void DtOMTEnvironment::addSimpleTypes(DtOMTTree* tree)
 {
     for (const DtSimpleDatatypeNode* each : tree->simpleDatatypes())
         addEntry(each->getName(), "simple type", each->getRepresentation(), mySimpleDatatypes);
+    for (const DtReferenceDatatypeNode* each : tree->referenceDatatypes())
+        addEntry(each->getName(), "reference", each->getRepresentation(), mySimpleDatatypes);
 }
 
 void DtOMTEnvironment::addArrayTypes(DtOMTTree* tree)

@@ -110,6 +110,8 @@ public:
     virtual DtMapSubstitute* getObjectContext();
     virtual DtMapSubstitute* getInteractionContext();
 
+    DtMapSubstitute* getReferenceContext();
+
     virtual void addToFileList(const DtString& name);
 
     // Make up the arrays that cardinalities of the selected classes imply, and map the members' names to them.

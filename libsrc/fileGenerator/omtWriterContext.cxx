@@ -1,6 +1,7 @@
 // The tree of named values that DtOMTWriter makes of the model: its root, and what the lists share.
 
 #include "fileGenerator/contextRow.h"
+#include "fileGenerator/dataTypeMapper.h"
 #include "fileGenerator/datatypeBoundaries.h"
 #include "fileGenerator/omtWriter.h"
 #include "omtReader/omtTree.h"
@@ -32,6 +33,7 @@ const DtContextGroup theGroups[] = {
     {"NumVariantRecords",   "VariantRecords",   &DtOMTWriter::getVariantContext        },
     {"NumObjects",          "Objects",          &DtOMTWriter::getObjectContext         },
     {"NumInteractions",     "Interactions",     &DtOMTWriter::getInteractionContext    },
+    {"NumReferences",       "References",       &DtOMTWriter::getReferenceContext      },
 };
 
 // Versions without a row have no protocol name.
@@ -305,8 +307,10 @@ DtString DtOMTWriter::replacedType(const DtEnumeratedDatatypeNode& node) const
     return type != nullptr ? *type : DtString();
 }
 
-void DtOMTWriter::getType(const DtString& prefix, const DtString& datatype, DtMapSubstitute* context)
+// A reference datatype has the type of what represents it.
+void DtOMTWriter::getType(const DtString& prefix, const DtString& statedDatatype, DtMapSubstitute* context)
 {
+    const DtString datatype = DtDataTypeMapper::instance()->behindReferences(statedDatatype);
     const DtSimpleDatatypeNode* simple = tree().getSimpleDatatypeNode(datatype);
     const DtString* mapped = simple != nullptr ? typeOf(simple->getRepresentation()) : nullptr;
     const DtEnumeratedDatatypeNode* enumeration = tree().getEnumeratedDatatypeNode(datatype);

@@ -50,6 +50,16 @@ const DtContextRow<Simple> theSimpleRows[] = {
     {"SimpleDescription",    got<&Simple::getDescription>,           Text },
 };
 
+using Reference = DtReferenceDatatypeNode;
+const DtContextRow<Reference> theReferenceRows[] = {
+    {"ReferenceName",           got<&Reference::getName>,                  Text },
+    {"ReferenceRepresentation", got<&Reference::getRepresentation>,        Text },
+    {"ReferenceBoundary",       boundaryOf<&Reference::getRepresentation>, Plain},
+    {"ReferenceClass",          got<&Reference::getReferenceClass>,        Text },
+    {"ReferenceAttribute",      got<&Reference::getReferencedAttribute>,   Text },
+    {"ReferenceDescription",    got<&Reference::getDescription>,           Text },
+};
+
 using Complex = DtComplexDatatypeNode;
 const DtContextRow<Complex> theComplexRows[] = {
     {"ComplexName", got<&Complex::getName>, Name},
@@ -201,6 +211,7 @@ void DtAddDatatypeKeys(std::vector<DtContextKey>& keys)
 {
     DtContextKeyList(keys, "Representations").add(theBasicRows);
     DtContextKeyList(keys, "SimpleDatatypes").add(theSimpleRows);
+    DtContextKeyList(keys, "References").add(theReferenceRows);
     DtContextKeyList(keys, "ComplexDatatypes").add(theComplexRows).addList("NumComponents", "Components");
     DtContextKeyList(keys, "Components").add(theComponentRows).addType("Component");
     DtContextKeyList(keys, "Enumerations").add(theEnumerationRows).addList("NumEnumerators", "Enumerators");
@@ -321,6 +332,17 @@ DtMapSubstitute* DtOMTWriter::getVariantContext()
         DtPutRows(theVariantRows, *node, *this, entry);
         getType("Variant", node->getDatatype(), &entry);
         DtPutList(entry, "NumAlternatives", "Alternatives", partsOf(*node, theAlternativeRows, "Alternative", *this));
+    }
+    return list.release();
+}
+
+DtMapSubstitute* DtOMTWriter::getReferenceContext()
+{
+    auto list = std::make_unique<DtMapSubstitute>();
+    for (const Reference* node : tree().referenceDatatypes())
+    {
+        if (isUsed(*node))
+            DtPutRows(theReferenceRows, *node, *this, list->putMap(node->getName()));
     }
     return list.release();
 }

@@ -115,6 +115,10 @@ const char* familyOf(const DtSimpleDatatypeNode& /*node*/)
 {
     return "simple";
 }
+const char* familyOf(const DtReferenceDatatypeNode& /*node*/)
+{
+    return "reference";
+}
 const char* familyOf(const DtEnumeratedDatatypeNode& /*node*/)
 {
     return "enumerated";
@@ -145,6 +149,13 @@ void addDetails(const DtBasicDataRepresentationNode& node, Json& object)
 void addDetails(const DtSimpleDatatypeNode& node, Json& object)
 {
     object["representation"] = node.getRepresentation().stdString();
+}
+
+void addDetails(const DtReferenceDatatypeNode& node, Json& object)
+{
+    object["representation"] = node.getRepresentation().stdString();
+    object["class"] = node.getReferenceClass().stdString();
+    object["attribute"] = node.getReferencedAttribute().stdString();
 }
 
 void addDetails(const DtEnumeratedDatatypeNode& node, Json& object)
@@ -209,6 +220,7 @@ void visitDatatypes(const DtOMTTree& tree, const Visit& visit)
     };
     visitAll(tree.basicDataRepresentations());
     visitAll(tree.simpleDatatypes());
+    visitAll(tree.referenceDatatypes());
     visitAll(tree.enumeratedDatatypes());
     visitAll(tree.arrayDatatypes());
     visitAll(tree.fixedDatatypes());

@@ -34,6 +34,7 @@ const DtElementRow theElements[] = {
     {Names::tagParameter,         DtSubject::Parameter,        DtSubject::InteractionClass},
     {Names::tagBasicData,         DtSubject::Datatype,         DtSubject::None            },
     {Names::tagSimpleData,        DtSubject::Datatype,         DtSubject::None            },
+    {Names::tagReferenceDataType, DtSubject::Datatype,         DtSubject::None            },
     {Names::tagEnumeratedData,    DtSubject::Datatype,         DtSubject::None            },
     {Names::tagEnumerator,        DtSubject::Enumerator,       DtSubject::Datatype        },
     {Names::tagArrayData,         DtSubject::Datatype,         DtSubject::None            },

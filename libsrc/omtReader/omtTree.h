@@ -12,6 +12,7 @@
 #include "omtReader/nodeList.h"
 #include "omtReader/noteNode.h"
 #include "omtReader/objectClassFedNode.h"
+#include "omtReader/referenceDatatypeNode.h"
 #include "omtReader/simpleDatatypeNode.h"
 #include "omtReader/tableNodes.h"
 #include "omtReader/variantDatatypeNode.h"
@@ -172,6 +173,13 @@ public:
     virtual std::list<DtSimpleDatatypeNode*>::const_iterator getSimpleDatatypeEndNode() const
     {
         return mySimpleDatatypes.end();
+    }
+
+    const std::list<DtReferenceDatatypeNode*>& referenceDatatypes() const { return myReferenceDatatypes.nodes(); }
+    void addReferenceDatatypeNode(DtReferenceDatatypeNode* node) { myReferenceDatatypes.add(node); }
+    DtReferenceDatatypeNode* getReferenceDatatypeNode(const DtString& name) const
+    {
+        return myReferenceDatatypes.find(name);
     }
 
     const std::list<DtArrayDatatypeNode*>& arrayDatatypes() const { return myArrayDatatypes.nodes(); }
@@ -376,6 +384,7 @@ private:
     DtNodeList<DtEnumeratedDatatypeNode> myEnumeratedDatatypes;
     DtNodeList<DtBasicDataRepresentationNode> myBasicDataRepresentations;
     DtNodeList<DtSimpleDatatypeNode> mySimpleDatatypes;
+    DtNodeList<DtReferenceDatatypeNode> myReferenceDatatypes;
     DtNodeList<DtArrayDatatypeNode> myArrayDatatypes;
     DtNodeList<DtFixedDatatypeNode> myFixedDatatypes;
     DtNodeList<DtVariantDatatypeNode> myVariantDatatypes;

@@ -161,6 +161,7 @@ void DtOMTTree::mergeDatatypes(const DtOMTTree* other)
     myVariantDatatypes.merge(other->myVariantDatatypes);
     myFixedDatatypes.merge(other->myFixedDatatypes);
     mySimpleDatatypes.merge(other->mySimpleDatatypes);
+    myReferenceDatatypes.merge(other->myReferenceDatatypes);
     myComplexDatatypes.merge(other->myComplexDatatypes);
     myArrayDatatypes.merge(other->myArrayDatatypes);
     myEnumeratedDatatypes.merge(other->myEnumeratedDatatypes);

@@ -30,6 +30,7 @@ inline constexpr std::tuple theDatatypeLookups{
     DtDatatypeLookup<DtFixedDatatypeNode>{&DtOMTTree::getFixedDatatypeNode},
     DtDatatypeLookup<DtComplexDatatypeNode>{&DtOMTTree::getComplexDatatypeNode},
     DtDatatypeLookup<DtVariantDatatypeNode>{&DtOMTTree::getVariantDatatypeNode},
+    DtDatatypeLookup<DtReferenceDatatypeNode>{&DtOMTTree::getReferenceDatatypeNode},
 };
 
 // For the places that ask for the families themselves, in an order of their own: they state how many they know, so that
@@ -109,7 +110,7 @@ inline bool isComposite(const DtOMTTree& tree, const DtString& name)
     bool isOne = false;
     visitEachDatatype(tree, name,
                       DtVisitor{[](const DtBasicDataRepresentationNode&) {}, [](const DtSimpleDatatypeNode&) {},
-                                [](const DtEnumeratedDatatypeNode&) {},
+                                [](const DtEnumeratedDatatypeNode&) {}, [](const DtReferenceDatatypeNode&) {},
                                 [&isOne](const DtArrayDatatypeNode&) { isOne = true; },
                                 [&isOne](const DtFixedDatatypeNode&) { isOne = true; },
                                 [&isOne](const DtComplexDatatypeNode&) { isOne = true; },

@@ -104,6 +104,14 @@ struct DtXmlModelFields : DtXmlModelNames
         {attrSemantics,      &DtSimpleDatatypeNode::setDescription   },
     };
 
+    static constexpr DtXmlField<DtReferenceDatatypeNode> theReferenceFields[] = {
+        {attrName,                &DtReferenceDatatypeNode::setName               },
+        {attrRepresentation,      &DtReferenceDatatypeNode::setRepresentation     },
+        {attrReferenceClass,      &DtReferenceDatatypeNode::setReferenceClass     },
+        {attrReferencedAttribute, &DtReferenceDatatypeNode::setReferencedAttribute},
+        {attrSemantics,           &DtReferenceDatatypeNode::setDescription        },
+    };
+
     static constexpr DtXmlField<DtEnumeratedDatatypeNode> theEnumeratedFields[] = {
         {attrName,           &DtEnumeratedDatatypeNode::setName          },
         {attrRepresentation, &DtEnumeratedDatatypeNode::setRepresentation},

@@ -19,6 +19,8 @@ struct DtXmlModelNames
     static constexpr const char* tagDataTypes = "dataTypes";
     static constexpr const char* tagSimpleDataTypes = "simpleDataTypes";
     static constexpr const char* tagSimpleData = "simpleData";
+    static constexpr const char* tagReferenceDataTypes = "referenceDataTypes";
+    static constexpr const char* tagReferenceDataType = "referenceDataType";
     static constexpr const char* tagEnumeratedDataTypes = "enumeratedDataTypes";
     static constexpr const char* tagEnumeratedData = "enumeratedData";
     static constexpr const char* tagEnumerator = "enumerator";
@@ -81,6 +83,8 @@ struct DtXmlModelNames
     static constexpr const char* attrReleaseRestriction = "releaseRestriction";
     static constexpr const char* attrReliable = "reliable";
     static constexpr const char* attrRepresentation = "representation";
+    static constexpr const char* attrReferenceClass = "referenceClass";
+    static constexpr const char* attrReferencedAttribute = "referencedAttribute";
     static constexpr const char* attrResignAction = "resignAction";
     static constexpr const char* attrResolution = "resolution";
     static constexpr const char* attrSecurityClassification = "securityClassification";

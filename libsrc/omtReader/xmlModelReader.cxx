@@ -185,6 +185,7 @@ void DtXMLModelReader::processDatatypes(xmlNode*& node, DtOMTTree* tree)
 {
     static const Construct<Reader> theConstructs[] = {
         {tagSimpleDataTypes,          &Reader::processSimpleDatatypes         },
+        {tagReferenceDataTypes,       &Reader::processReferenceDatatypes      },
         {tagEnumeratedDataTypes,      &Reader::processEnumeratedDatatypes     },
         {tagArrayDataTypes,           &Reader::processArrayDatatypes          },
         {tagFixedRecordDataTypes,     &Reader::processFixedRecordDatatypes    },
@@ -202,6 +203,16 @@ void DtXMLModelReader::processSimpleDatatypes(xmlNode*& node, DtOMTTree* tree)
 void DtXMLModelReader::processSimpleData(xmlNode*& node, DtOMTTree* tree)
 {
     tree->addSimpleDatatypeNode(readNamedItem(node, Fields::theSimpleFields, tagSimpleData).release());
+}
+
+void DtXMLModelReader::processReferenceDatatypes(xmlNode*& node, DtOMTTree* tree)
+{
+    processEach(node, tagReferenceDataType, &Reader::processReferenceData, tree);
+}
+
+void DtXMLModelReader::processReferenceData(xmlNode*& node, DtOMTTree* tree)
+{
+    tree->addReferenceDatatypeNode(readNamedItem(node, Fields::theReferenceFields, tagReferenceDataType).release());
 }
 
 void DtXMLModelReader::processEnumeratedDatatypes(xmlNode*& node, DtOMTTree* tree)

@@ -170,6 +170,9 @@ private:
 
     void warnOfOddEnumerators(const DtEnumeratedDatatypeNode& datatype) const;
 
+    void processReferenceDatatypes(xmlNode*& node, DtOMTTree* tree);
+    void processReferenceData(xmlNode*& node, DtOMTTree* tree);
+
     static const DtString& nameOf(const DtOMTNode& node) { return node.getName(); }
     static const DtString& nameOf(const DtEnumerationNode& node) { return node.getEnum(); }
     // Of an element and of those in it that hold values.

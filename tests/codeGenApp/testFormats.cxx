@@ -25,17 +25,19 @@ const Lines theManagementWarnings = {
     "Warning: Cannot determine type: DtHLAinteractionCounts.",
     "Warning: Cannot determine type: DtHLAresignAction.",
 };
-// The same for the kinds of handles that the later standard tells apart; its reference datatypes are not read.
+// The same for the kinds of handles that the later standard tells apart.
 const Lines theLaterManagementWarnings = {
     "Warning: Cannot encode/decode attributes of type: DtHLAattributeHandleList: contains a + attribute of a type that "
     "contains a + attribute.",
     "Warning: Cannot encode/decode data type DtHLAattributeHandleList.",
+    "Warning: Cannot encode/decode attributes of type: DtHLAfederateReferenceList: contains a + attribute of a type "
+    "that "
+    "contains a + attribute.",
+    "Warning: Cannot encode/decode data type DtHLAfederateReferenceList.",
     "Warning: Cannot encode/decode attributes of type: DtHLAinteractionClassHandleList: contains a + attribute of a "
     "type that contains a + attribute.",
     "Warning: Cannot encode/decode data type DtHLAinteractionClassHandleList.",
-    "Warning: Cannot determine type: HLAfederateReference.",
     "Warning: Cannot determine type: DtHLAinteractionCounts.",
-    "Warning: Cannot determine type: HLAobjectInstanceReference.",
     "Warning: Cannot determine type: DtHLAresignAction.",
 };
 

@@ -19,6 +19,7 @@ private Q_SLOTS:
     void chainOfTypesIsClosedWhateverTheOrderOfNames();
     void simpleTypeReachedThroughRecordAddsItsRepresentation();
     void enumerationAddsNothing();
+    void referenceAddsItsRepresentation();
     void firstKindOfANameCountsAndSimpleBesideIt();
     void unknownClassAddsNothing();
     void cyclesOfDatatypesAreClosed();
@@ -198,6 +199,20 @@ void TestArraySynthesis::enumerationAddsNothing()
     selectObjects(writer, {"HLAobjectRoot.A"});
     writer.checkUsedSubDatatypesFiles();
     QCOMPARE(listed(writer.usedDatatypes()), QStringList({"Enum"}));
+}
+
+void TestArraySynthesis::referenceAddsItsRepresentation()
+{
+    auto* reference = new DtReferenceDatatypeNode;
+    reference->setName("Reference");
+    reference->setRepresentation("Simple");
+    myModel->tree()->addReferenceDatatypeNode(reference);
+    myModel->addSimple("Simple", "Basic");
+    myModel->addAttribute("HLAobjectRoot.A", "a", "Reference");
+    DtOMTEnvWriter writer;
+    selectObjects(writer, {"HLAobjectRoot.A"});
+    writer.checkUsedSubDatatypesFiles();
+    QCOMPARE(listed(writer.usedDatatypes()), QStringList({"Basic", "Reference", "Simple"}));
 }
 
 void TestArraySynthesis::firstKindOfANameCountsAndSimpleBesideIt()

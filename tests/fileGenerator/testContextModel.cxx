@@ -124,6 +124,7 @@ const char theRootKeys[] =
     "NumRepresentations Representations(l) NumSimpleDatatypes SimpleDatatypes(l) NumComplexDatatypes "
     "ComplexDatatypes(l) NumEnumerations Enumerations(l) NumArrays Arrays(l) NumFixedRecords FixedRecords(l) "
     "NumVariantRecords VariantRecords(l) NumObjects Objects(l) NumInteractions Interactions(l) "
+    "NumReferences References(l) "
     "FomDefinitionFileName(t) Namespace(t) Include(t) Prefix(t) BaseName(t) MIMincluded TemplateDir(t) "
     "Language(t) Protocol SolutionUUID1 SolutionUUID2 ProjectUUID1 ProjectUUID2";
 const char theRepresentationsKeys[] =
@@ -279,6 +280,9 @@ void TestContextModel::keysAreThese_data()
         {"root",                   "",                      theRootKeys                                          },
         {"representations",        "Representations",       theRepresentationsKeys                               },
         {"simple",                 "SimpleDatatypes",       theSimpleDatatypesKeys                               },
+        {"references",             "References",
+         "ReferenceName(t) ReferenceRepresentation(t) ReferenceBoundary ReferenceClass(t) ReferenceAttribute(t) "
+         "ReferenceDescription(t)"                                                                               },
         {"complex",                "ComplexDatatypes",      theComplexDatatypesKeys                              },
         {"components",             "Components",            theComponentsKeys                                    },
         {"enumerations",           "Enumerations",          theEnumerationsKeys                                  },
@@ -320,7 +324,7 @@ void TestContextModel::noListHasFurtherKeys()
     std::set<DtString> lists;
     for (const DtContextKey& key : DtOMTWriter::contextKeys())
         lists.insert(key.list);
-    QCOMPARE(int(lists.size()), 18); // the rows above
+    QCOMPARE(int(lists.size()), 19); // the rows above
 }
 
 void TestContextModel::fullModelHasEveryKeyAndNoOther()
@@ -340,6 +344,13 @@ void TestContextModel::fullModelHasEveryKeyAndNoOther()
     auto* simple = new DtAttributeFedNode(*more);
     simple->setDatatype("Metre");
     myTree->getObjectClassNode("HLAobjectRoot.Ship")->addAttribute(simple);
+    auto* reference = new DtReferenceDatatypeNode;
+    reference->setName("Link");
+    reference->setRepresentation("Metre");
+    myTree->addReferenceDatatypeNode(reference);
+    auto* link = new DtAttributeFedNode(*more);
+    link->setDatatype("Link");
+    myTree->getObjectClassNode("HLAobjectRoot.Ship")->addAttribute(link);
     // The alternatives are to have a single value among them.
     auto* alternative = new DtAlternativeComponentNode;
     alternative->setName("colour");

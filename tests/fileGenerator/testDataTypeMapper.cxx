@@ -96,6 +96,7 @@ class TestDataTypeMapper : public QObject
 
 private Q_SLOTS:
     void instanceIsAlwaysTheSame();
+    void referencesLeadToWhatIsCoded();
     void unknownKeysGetTheStatedAnswers();
     void knownTypesAreTheLocalTypes();
     void netTypesAreExact();
@@ -135,6 +136,32 @@ private Q_SLOTS:
     void entriesOfEarlierModelsStay();
     void missingTreeChangesNothing();
 };
+
+void TestDataTypeMapper::referencesLeadToWhatIsCoded()
+{
+    DtOMTTree tree;
+    const std::pair<const char*, const char*> theReferences[] = {
+        {"A", "B"},
+        {"B", "C"},
+        {"R", "S"},
+        {"S", "R"}
+    };
+    for (const auto& [name, representation] : theReferences)
+    {
+        auto* node = new DtReferenceDatatypeNode;
+        node->setName(name);
+        node->setRepresentation(representation);
+        tree.addReferenceDatatypeNode(node);
+    }
+    Mapper mapper;
+    mapper.populateFromOmtTree(&tree);
+    QCOMPARE(text(mapper.behindReferences("A")), QString("C"));
+    QCOMPARE(text(mapper.behindReferences("C")), QString("C"));
+    QCOMPARE(text(mapper.behindReferences("S")), QString("S"));
+    DtOMTTree next;
+    mapper.populateFromOmtTree(&next);
+    QCOMPARE(text(mapper.behindReferences("A")), QString("A"));
+}
 
 void TestDataTypeMapper::instanceIsAlwaysTheSame()
 {

@@ -6,7 +6,8 @@
 namespace
 {
 // The families in the order of a visit.
-const char* const theFamilies[] = {"basic", "simple", "enumerated", "array", "fixed", "complex", "variant"};
+const char* const theFamilies[] = {"basic", "simple",  "enumerated", "array",
+                                   "fixed", "complex", "variant",    "reference"};
 
 template <typename Node>
 Node* named(const char* name)
@@ -32,6 +33,8 @@ void add(DtOMTTree& tree, const QByteArray& family, const char* name)
         tree.addComplexDatatypeNode(named<DtComplexDatatypeNode>(name));
     else if (family == "variant")
         tree.addVariantDatatypeNode(named<DtVariantDatatypeNode>(name));
+    else if (family == "reference")
+        tree.addReferenceDatatypeNode(named<DtReferenceDatatypeNode>(name));
 }
 
 // Family and name of the node that a visit meets; "unknown" without one.
@@ -47,6 +50,7 @@ QByteArray visited(const DtOMTTree& tree, const char* name)
                                    [&](const DtFixedDatatypeNode& node) { return text("fixed", node); },
                                    [&](const DtComplexDatatypeNode& node) { return text("complex", node); },
                                    [&](const DtVariantDatatypeNode& node) { return text("variant", node); },
+                                   [&](const DtReferenceDatatypeNode& node) { return text("reference", node); },
                                    [](DtUnknownDatatype) { return QByteArray("unknown"); }});
 }
 
@@ -59,6 +63,7 @@ struct DtVisitorWithoutArrays
     void operator()(const DtFixedDatatypeNode& /*node*/) const {}
     void operator()(const DtComplexDatatypeNode& /*node*/) const {}
     void operator()(const DtVariantDatatypeNode& /*node*/) const {}
+    void operator()(const DtReferenceDatatypeNode& /*node*/) const {}
     void operator()(DtUnknownDatatype /*none*/) const {}
 };
 
@@ -135,7 +140,8 @@ private Q_SLOTS:
                                         [&](const DtArrayDatatypeNode&) { met += "array"; },
                                         [&](const DtFixedDatatypeNode&) { met += "fixed"; },
                                         [&](const DtComplexDatatypeNode&) { met += "complex"; },
-                                        [&](const DtVariantDatatypeNode&) { met += "variant"; }});
+                                        [&](const DtVariantDatatypeNode&) { met += "variant"; },
+                                        [&](const DtReferenceDatatypeNode&) { met += "reference"; }});
             return met;
         };
         QCOMPARE(visit("Shared"), (QByteArrayList{"simple", "array", "variant"}));
@@ -161,7 +167,7 @@ private Q_SLOTS:
         {
             DtOMTTree tree;
             add(tree, family, "Known");
-            const bool isExpected = !QByteArrayList{"basic", "simple", "enumerated"}.contains(family);
+            const bool isExpected = !QByteArrayList{"basic", "simple", "enumerated", "reference"}.contains(family);
             QVERIFY2(isComposite(tree, "Known") == isExpected, family);
             add(tree, "fixed", "Known"); // a second meaning counts too
             QVERIFY2(isComposite(tree, "Known"), family);

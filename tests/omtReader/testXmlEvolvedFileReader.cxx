@@ -350,6 +350,25 @@ private Q_SLOTS:
                                          "from -2147483648 to 2147483647: a, c\n"));
     }
 
+    void referencesAreReadAndMerged()
+    {
+        const auto tree = readSections(
+            "<dataTypes><referenceDataTypes><referenceDataType><name>Owner</name>"
+            "<representation>HLAunicodeString</representation><referenceClass>HLAobjectRoot.Person</referenceClass>"
+            "<referencedAttribute>Name</referencedAttribute><semantics>Who has it.</semantics></referenceDataType>"
+            "<referenceDataType/></referenceDataTypes></dataTypes>");
+        const DtReferenceDatatypeNode& node = *tree->getReferenceDatatypeNode("Owner");
+        QCOMPARE(toQt(node.getRepresentation() + "|" + node.getReferenceClass() + "|" + node.getReferencedAttribute() +
+                      "|" + node.getDescription()),
+                 QString("HLAunicodeString|HLAobjectRoot.Person|Name|Who has it."));
+        QCOMPARE(tree->referenceDatatypes().size(), std::size_t(1));
+        DtOMTTree other;
+        other.merge(tree.get());
+        other.merge(tree.get());
+        QCOMPARE(other.referenceDatatypes().size(), std::size_t(1));
+        QVERIFY(other.getReferenceDatatypeNode("Owner") != &node);
+    }
+
     // At the element and at those in it that hold values, not at members, which have notes of their own.
     void labelsOfNotesAreRead()
     {

@@ -14,8 +14,12 @@
 
 #include <QtCore/QScopedValueRollback>
 #include <QtGui/QCloseEvent>
+#include <QtGui/QScreen>
+#include <QtWidgets/QLabel>
 #include <QtWidgets/QMenu>
 #include <QtWidgets/QMessageBox>
+#include <QtWidgets/QShortcut>
+#include <QtWidgets/QStyle>
 
 #include <algorithm>
 
@@ -71,6 +75,7 @@ DtCustomCodeGui::DtCustomCodeGui(QApplication* /*application*/, QTreeWidgetItem*
 {
     prepareForm();
     populateListview(item);
+    nameClass();
     connectControls();
     displayInstructions();
 }
@@ -94,6 +99,13 @@ void DtCustomCodeGui::prepareForm()
         widget->setFont(fixed);
     myForm->mySplitter->setSizes({420, 660});
     myForm->mySplitter->setStretchFactor(1, 1);
+    myClassLabel = new QLabel(this);
+    myClassLabel->setObjectName(QStringLiteral("ClassLabel"));
+    myClassLabel->setTextFormat(Qt::PlainText);
+    myClassLabel->setWordWrap(true);
+    myForm->myListLayout->insertWidget(0, myClassLabel);
+    if (myMainWindow != nullptr)
+        centerOn(*myMainWindow);
     myForm->myInstructions->setFocus(); // the list would make its first member current
 }
 
@@ -105,6 +117,7 @@ void DtCustomCodeGui::connectControls()
     connect(form.myEncEditor, &QPlainTextEdit::undoAvailable, this, &DtCustomCodeGui::slot_encTextChanged);
     connect(form.myDecEditor, &QPlainTextEdit::undoAvailable, this, &DtCustomCodeGui::slot_decTextChanged);
     connect(form.mySaveButton, &QPushButton::released, this, &DtCustomCodeGui::slot_saveButtonClicked);
+    connect(new QShortcut(QKeySequence(Qt::Key_Escape), this), &QShortcut::activated, this, &QWidget::close);
 }
 
 void DtCustomCodeGui::populateListview(QTreeWidgetItem* item)
@@ -113,7 +126,54 @@ void DtCustomCodeGui::populateListview(QTreeWidgetItem* item)
         return;
     findClass(item);
     findAttributesAndParameters(item);
-    myForm->myItemList->setColumnWidth(0, 250);
+    myForm->myItemList->resizeColumnToContents(0);
+}
+
+// On the middle of that window, as far as the screen allows.
+void DtCustomCodeGui::centerOn(const QWidget& window)
+{
+    QRect place = QStyle::alignedRect(Qt::LeftToRight, Qt::AlignCenter, size(), window.frameGeometry());
+    if (const QScreen* const screen = window.screen())
+    {
+        const QRect room = screen->availableGeometry();
+        place.moveRight(qMin(place.right(), room.right()));
+        place.moveBottom(qMin(place.bottom(), room.bottom()));
+        place.moveLeft(qMax(place.left(), room.left()));
+        place.moveTop(qMax(place.top(), room.top()));
+    }
+    move(place.topLeft());
+}
+
+void DtCustomCodeGui::nameClass()
+{
+    QString name = text(myClassFullName);
+    if (name.contains('.') && myMembers.empty())
+    {
+        const DtString superclasses = superclassesWithMembers();
+        name += QStringLiteral("\n") + (myIsInteraction ? "This class has no parameters of its own."
+                                                        : "This class has no attributes of its own.");
+        if (!superclasses.isEmpty())
+            name += " Its superclasses have: " + text(superclasses);
+    }
+    myClassLabel->setText(name.replace(QStringLiteral("."), QString(".") + QChar(0x200B))); // a line may break there
+}
+
+DtString DtCustomCodeGui::superclassesWithMembers() const
+{
+    const DtOMTTree& tree = *myMainWindow->tree();
+    DtString found;
+    DtString name = myClassFullName;
+    while (name.stdString().find('.') != std::string::npos)
+    {
+        name.snipBack('.');
+        const auto* const object = myIsInteraction ? nullptr : tree.getObjectClassNode(name);
+        const auto* const interaction = myIsInteraction ? tree.getInteractionClassNode(name) : nullptr;
+        const bool hasMembers = (object != nullptr && !object->getAttributes().empty()) ||
+                                (interaction != nullptr && !interaction->getParameters().empty());
+        if (hasMembers)
+            found += (found.isEmpty() ? "" : ", ") + name;
+    }
+    return found;
 }
 
 // The names from the root of the model down to the item. The lists call the roots by names of their own.
@@ -358,6 +418,7 @@ void DtCustomCodeGui::updateItemModificationIndicators(QTreeWidgetItem* item)
 {
     const QString mark = memberOf(item)->isEdited() ? QStringLiteral("*") : QString();
     item->setText(0, mark + text(itemType(item)));
+    myForm->myItemList->resizeColumnToContents(0); // has room for the mark
 }
 
 bool DtCustomCodeGui::hasUnsavedEdits() const

@@ -14,6 +14,7 @@ class CodeEditor;
 class DtCodeGenAppGui;
 class Highlighter;
 class QApplication;
+class QLabel;
 class QTreeWidgetItem;
 class Ui_QtCustomGenForm;
 
@@ -23,6 +24,8 @@ class Ui_QtCustomGenForm;
 // Opens on an item of the right list of the main window, which is read at construction only. A top item of that list
 // is no class and has no members. The window blocks the main window while it is open, so project and model stay as
 // they are, and it deletes itself when it is closed.
+//
+// The class is named above the list; of one without members of its own it is told which superclasses have some.
 //
 // The list has the key of each member in column 0, the class's full name, a dot and the name of the member, and its
 // datatype in column 1, in the order of the model. A "*" in front of the key marks a member with edits that are not
@@ -79,6 +82,9 @@ private:
 
     void prepareForm();
     void connectControls();
+    void centerOn(const QWidget& window);
+    void nameClass();
+    DtString superclassesWithMembers() const;
     void findClass(const QTreeWidgetItem* item);
     void populateListview(QTreeWidgetItem* item);
     void findAttributesAndParameters(QTreeWidgetItem* item);
@@ -106,6 +112,7 @@ private:
     std::unique_ptr<Ui_QtCustomGenForm> myForm;
     std::unique_ptr<Highlighter> myEncHighlighter; // null while off
     std::unique_ptr<Highlighter> myDecHighlighter;
+    QLabel* myClassLabel = nullptr; // the class, and what there is to say of it
     DtString myClassFullName;
     bool myIsInteraction = false;
     // The window goes on with the numbers of the generated classes and takes none of them: these belong to the lines of

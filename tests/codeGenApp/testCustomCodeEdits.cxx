@@ -77,11 +77,18 @@ void TestCustomCodeEdits::editedItemIsMarked()
     QVERIFY(myGui->hasUnsavedEdits());
 }
 
-// Keys are long: what is left out of one is neither the mark nor the name of the member.
+// Keys are long: the column has room for all of each, and in a narrow one the name of the member is left.
 void TestCustomCodeEdits::markIsSeenInNarrowColumn()
 {
     open("Objects.Ship");
-    QCOMPARE(list().textElideMode(), Qt::ElideMiddle);
+    QCOMPARE(list().textElideMode(), Qt::ElideLeft);
+    myGui->show();
+    const auto room = [this](const char* text)
+    { return list().columnWidth(0) - list().fontMetrics().horizontalAdvance(text); };
+    QVERIFY(room("HLAobjectRoot.Ship.Heading") > 0);
+    select(0);
+    encoder().insertPlainText("x");
+    QVERIFY(room("*HLAobjectRoot.Ship.Heading") > 0);
 }
 
 void TestCustomCodeEdits::undoTakesMarkAwayAndRedoPutsItBack()

@@ -3,6 +3,7 @@
 #include "registerTest.h"
 
 #include "customCodeFixture.h"
+#include "dialogWatch.h"
 
 class TestCustomCodeGui : public QObject, private DtCustomCodeFixture
 {
@@ -34,6 +35,10 @@ private Q_SLOTS:
     void contextMenuLeadsToTexts();
     void contextMenuPutsOriginalTextBack();
     void contextMenuNeedsAnItem();
+    void classIsNamed();
+    void classWithoutMembersNamesSuperclassesThatHaveSome();
+    void windowOpensOnTheMiddleOfItsParent();
+    void escapeClosesBehindItsQuestion();
 };
 
 void TestCustomCodeGui::windowHasItsTexts()
@@ -273,6 +278,71 @@ void TestCustomCodeGui::contextMenuNeedsAnItem()
     myGui->show();
     Q_EMIT list().customContextMenuRequested(QPoint(5, list().height() - 40));
     QVERIFY(myGui->findChild<QMenu*>() == nullptr);
+}
+
+// A line may break behind each dot; what the reader sees is the name.
+static QString shown(const QLabel& label)
+{
+    return label.text().remove(QChar(0x200B));
+}
+
+void TestCustomCodeGui::classIsNamed()
+{
+    open("Objects.Ship.Tug");
+    QCOMPARE(shown(find<QLabel>("ClassLabel")), QString("HLAobjectRoot.Ship.Tug"));
+    open("Objects");
+    QCOMPARE(shown(find<QLabel>("ClassLabel")), QString("HLAobjectRoot"));
+}
+
+void TestCustomCodeGui::classWithoutMembersNamesSuperclassesThatHaveSome()
+{
+    myWindow->preferences()->setIncludeStandardMIM(false);
+    myWindow->newOmtProject(DtFilename(myProgram->bytes(myProgram->path("models/bare.qxproj"))));
+    const QByteArray bare = objectText("Ship", attributeText("Heading") + objectText("Tug", objectText("Pusher")));
+    QCOMPARE(myWindow->loadFile(myProgram->model("bare.xml", moduleText(bare, interactionText("Call"))), ""), 1);
+    myWindow->addAllObjectInteractions();
+    open("Objects.Ship.Tug.Pusher");
+    QCOMPARE(shown(find<QLabel>("ClassLabel")),
+             QString("HLAobjectRoot.Ship.Tug.Pusher\n"
+                     "This class has no attributes of its own. Its superclasses have: HLAobjectRoot.Ship"));
+    open("Interactions.Call");
+    QCOMPARE(shown(find<QLabel>("ClassLabel")),
+             QString("HLAinteractionRoot.Call\nThis class has no parameters of its own."));
+}
+
+void TestCustomCodeGui::windowOpensOnTheMiddleOfItsParent()
+{
+    const QRect screen = QGuiApplication::primaryScreen()->availableGeometry();
+    myWindow->setGeometry(screen);
+    myWindow->show();
+    open("Objects.Ship");
+    myGui->resize(300, 200);
+    const QRect whole(myGui->pos(), QSize(1080, 660)); // the size of the form
+    QVERIFY(whole.left() >= screen.left() && whole.top() >= screen.top());
+    if (screen.width() > 1080)
+        QVERIFY(qAbs(whole.center().x() - myWindow->frameGeometry().center().x()) <= 1);
+}
+
+void TestCustomCodeGui::escapeClosesBehindItsQuestion()
+{
+    open("Objects.Ship");
+    const QPointer<DtCustomCodeGui> gui = myGui;
+    myGui->show();
+    QApplication::setActiveWindow(myGui);
+    QVERIFY(QTest::qWaitForWindowActive(myGui));
+    select(0);
+    encoder().setFocus();
+    encoder().insertPlainText("x");
+    DtDialogWatch dialogs;
+    QTest::keyClick(&encoder(), Qt::Key_Escape);
+    QCOMPARE(dialogs.takeSeen(), QStringList("The document has been modified."));
+    QVERIFY(gui != nullptr && gui->isVisible());
+    encoder().undo();
+    QApplication::setActiveWindow(myGui);
+    QVERIFY(QTest::qWaitForWindowActive(myGui));
+    QTest::keyClick(&encoder(), Qt::Key_Escape);
+    QTRY_VERIFY(gui == nullptr);
+    myGui = nullptr;
 }
 
 QX_REGISTER_TEST(TestCustomCodeGui)

@@ -1,5 +1,6 @@
 #include "codeGenApp/generateListView.h"
 
+#include <QtCore/QFile>
 #include <QtWidgets/QHeaderView>
 
 namespace
@@ -37,11 +38,29 @@ DtGenerateListView::DtGenerateListView(QWidget* parent) : QTreeWidget(parent)
     connect(this, &QTreeWidget::itemChanged, this, &DtGenerateListView::checkCallback);
 }
 
+namespace
+{
+// The sentence with which a command file begins; "genCpp.txt" stands for the C++ without being a file.
+QString firstComment(const QString& script)
+{
+    if (script == QLatin1String("genCpp.txt"))
+        return QStringLiteral("Classes of C++ for the selected classes, and what builds them.");
+    QFile file("../data/" + script);
+    QString text;
+    if (file.open(QIODevice::ReadOnly))
+        for (QString line = file.readLine(); line.startsWith('#') && line.trimmed() != "#"; line = file.readLine())
+            text += line.mid(1).trimmed() + ' ';
+    const int end = text.indexOf(QStringLiteral(". "));
+    return end < 0 ? text.trimmed() : text.left(end + 1);
+}
+} // namespace
+
 void DtGenerateListView::addItem(const char* name, bool generate)
 {
     // In the tree first: the map is kept by the signal of the check box.
     auto* const item = new QCustomTreeWidgetItem(this);
     item->setText(myNameColumn, QString::fromUtf8(name));
+    item->setToolTip(myNameColumn, firstComment(item->text(myNameColumn)));
     setItemGenerated(item, generate);
 }
 

@@ -4,6 +4,12 @@
 #include "codeGenApp/generateListView.h"
 #include "ui_preferencesDialog.h"
 
+#include <QtCore/QRegularExpression>
+#include <QtWidgets/QShortcut>
+#include <QtWidgets/QStyle>
+
+#include <utility>
+
 namespace
 {
 const int theScriptsHeight = 130; // pixels, for header and five rows
@@ -50,6 +56,8 @@ DtPreferencesDialog::DtPreferencesDialog(DtCodeGenInitializer& initializer, QWid
     readInitializer();
     fillControls();
     connectControls();
+    createShortcuts();
+    addToolTips();
 }
 
 DtPreferencesDialog::~DtPreferencesDialog() = default;
@@ -89,6 +97,7 @@ void DtPreferencesDialog::fillControls()
     myForm->mySaveParseTree->setChecked(myDumpParseTree);
     myForm->myGenerateDis->setChecked(myGenerateDis);
     myForm->myFirstPduKind->setValue(myFirstPduKind);
+    myForm->myFirstPduKind->setEnabled(myGenerateDis);
     myForm->myMapRtiObjectId->setChecked(myMapRtiObjectIdToGlobalId);
 }
 
@@ -101,6 +110,78 @@ void DtPreferencesDialog::connectControls()
     connect(myForm->myOkButton, &QPushButton::pressed, this, &DtPreferencesDialog::okButtonPressed);
     connect(myForm->myIncludeStandardMIM, &QCheckBox::pressed, this,
             &DtPreferencesDialog::includeStandardMIMBoxChecked);
+    connect(myForm->myGenerateDis, &QCheckBox::toggled, myForm->myFirstPduKind, &QWidget::setEnabled);
+    for (const QLineEdit* edit : {myForm->myNamespaceName, myForm->myPrefixName})
+        connect(edit, &QLineEdit::textChanged, this, &DtPreferencesDialog::checkNames);
+}
+
+// The texts of the controls have no letters marked, so the keys have no other sign than the tooltips' ends.
+void DtPreferencesDialog::createShortcuts()
+{
+    const std::pair<const char*, QWidget*> theKeys[] = {
+        {"Alt+N", myForm->myUseNamespace      },
+        {"Alt+I", myForm->myCreateIncludeDir  },
+        {"Alt+P", myForm->myPrefixClassnames  },
+        {"Alt+6", myForm->myGenerate64Bit     },
+        {"Alt+E", myForm->myGenerateExamples  },
+        {"Alt+M", myForm->myMapRtiObjectId    },
+        {"Alt+R", myForm->myGenerateErrors    },
+        {"Alt+H", myForm->myIncludeStandardMIM},
+        {"Alt+L", myScripts                   },
+        {"Alt+D", myForm->myGenerateDis       },
+        {"Alt+K", myForm->myFirstPduKind      },
+        {"Alt+T", myForm->mySaveParseTree     },
+        {"Alt+O", myForm->myOkButton          },
+        {"Alt+C", myForm->myCancelButton      },
+    };
+    for (const auto& [key, control] : theKeys)
+        connect(new QShortcut(QKeySequence(QString::fromLatin1(key)), this), &QShortcut::activated, control,
+                [control = control]
+                {
+                    control->setFocus(Qt::ShortcutFocusReason);
+                    if (auto* const button = qobject_cast<QAbstractButton*>(control))
+                        button->click();
+                });
+}
+
+void DtPreferencesDialog::addToolTips()
+{
+    const std::pair<QWidget*, const char*> theToolTips[] = {
+        {myForm->myCreateIncludeDir, "Put the generated headers into a directory of this name"  },
+        {myForm->myIncludeName,      "Name of the directory, below that of the generated files" },
+        {myForm->myPrefixClassnames, "Put a text in front of the names of all generated classes"},
+        {myForm->myPrefixName,       "The text that stands in front of the names"               },
+        {myForm->myOkButton,         "Take the settings over and keep them (Alt+O)"             },
+        {myForm->myCancelButton,     "Leave the settings as they were (Alt+C)"                  },
+    };
+    for (const auto& [control, toolTip] : theToolTips)
+        control->setToolTip(QString::fromLatin1(toolTip));
+    checkNames();
+}
+
+// What C++ does not take is marked; it can be kept all the same.
+void DtPreferencesDialog::checkNames()
+{
+    struct DtNameRow
+    {
+        QLineEdit* edit;
+        const char *pattern, *usual, *fault;
+    };
+    const DtNameRow theNames[] = {
+        {myForm->myNamespaceName, "[A-Za-z_]\\w*(::[A-Za-z_]\\w*)*", "Name of the namespace",
+         "This is no name of a namespace in C++."},
+        {myForm->myPrefixName,    "\\w+",                            "The text that stands in front of the names",
+         "This gives no names of classes in C++."},
+    };
+    for (const DtNameRow& row : theNames)
+    {
+        const QRegularExpression whole(QRegularExpression::anchoredPattern(QString::fromLatin1(row.pattern)));
+        const bool isFaulty = !row.edit->text().isEmpty() && !whole.match(row.edit->text()).hasMatch();
+        row.edit->setToolTip(QString::fromLatin1(isFaulty ? row.fault : row.usual));
+        row.edit->setProperty("isFaulty", isFaulty);
+        row.edit->style()->unpolish(row.edit); // the style sheet looks at properties only then
+        row.edit->style()->polish(row.edit);
+    }
 }
 
 void DtPreferencesDialog::show()

@@ -149,16 +149,16 @@ private Q_SLOTS:
             const char* name;
             QString toolTip;
         } theRows[] = {
-            {"Use Namespace",                               ofNamespace },
-            {"Create Include Directory",                    ""          },
-            {"Prefix Classnames",                           ""          },
-            {"64-bit Linux Makefile",                       ofMakefile  },
-            {"Generate Examples",                           ofExamples  },
-            {"Map RTIObjectID to DtGlobalObjectDesignator", ofDesignator},
-            {"Generate #error for undecodable attributes",  ofError     },
-            {"Include HLA Standard MIM",                    ofMim       },
-            {"Generate DIS PDUs",                           ofPdus      },
-            {"Save Parse Tree",                             ofParseTree },
+            {"Use Namespace",                               ofNamespace                                                },
+            {"Create Include Directory",                    "Put the generated headers into a directory of this name"  },
+            {"Prefix Classnames",                           "Put a text in front of the names of all generated classes"},
+            {"64-bit Linux Makefile",                       ofMakefile                                                 },
+            {"Generate Examples",                           ofExamples                                                 },
+            {"Map RTIObjectID to DtGlobalObjectDesignator", ofDesignator                                               },
+            {"Generate #error for undecodable attributes",  ofError                                                    },
+            {"Include HLA Standard MIM",                    ofMim                                                      },
+            {"Generate DIS PDUs",                           ofPdus                                                     },
+            {"Save Parse Tree",                             ofParseTree                                                },
         };
         for (const auto& row : theRows)
             QTest::newRow(row.name) << row.toolTip;
@@ -376,6 +376,95 @@ private Q_SLOTS:
 
 private:
     int myLevel = 0;
+
+    void keysReachTheControls()
+    {
+        const DtPreferences preferences;
+        preferences.dialog->show();
+        QApplication::setActiveWindow(preferences.dialog.get());
+        QVERIFY(QTest::qWaitForWindowActive(preferences.dialog.get()));
+        QCheckBox& examples = preferences.box("Generate Examples");
+        const bool before = examples.isChecked();
+        QTest::keyClick(preferences.dialog.get(), Qt::Key_E, Qt::AltModifier);
+        QCOMPARE(examples.isChecked(), !before);
+        QCOMPARE(examples.text(), QString("Generate Examples"));
+        const bool mim = preferences.initializer.includeStandardMIM();
+        QTest::keyClick(preferences.dialog.get(), Qt::Key_H, Qt::AltModifier);
+        QCOMPARE(preferences.initializer.includeStandardMIM(), !mim); // at once, as by a click
+        QTest::keyClick(preferences.dialog.get(), Qt::Key_L, Qt::AltModifier);
+        QVERIFY(preferences.scripts().hasFocus());
+        QTest::keyClick(preferences.dialog.get(), Qt::Key_C, Qt::AltModifier);
+        QVERIFY(!preferences.dialog->isVisible());
+    }
+
+    void everyControlHasAToolTip()
+    {
+        const DtPreferences preferences;
+        for (const QWidget* control : preferences.dialog->findChildren<QWidget*>())
+            if (qobject_cast<const QCheckBox*>(control) != nullptr ||
+                qobject_cast<const QPushButton*>(control) != nullptr || control->objectName() == "myNamespaceName" ||
+                control->objectName() == "myPrefixName" || control->objectName() == "myIncludeName")
+                QVERIFY2(!control->toolTip().isEmpty(), qPrintable(control->objectName()));
+    }
+
+    void scriptTellsWhatItMakes()
+    {
+        QTemporaryDir directory;
+        writeTextFile(directory.path() + "/data/own.txt",
+                      "# What it makes. And more,\n# and more.\n#\n# Last.\nwrite\n");
+        QDir(directory.path()).mkpath("bin");
+        const DtInDirectory work(directory.path() + "/bin");
+        DtGenerateListView list;
+        for (const char* script : {"genCpp.txt", "none.txt", "own.txt"})
+            list.addItem(script, true);
+        QCOMPARE(list.topLevelItem(0)->toolTip(1),
+                 QString("Classes of C++ for the selected classes, and what builds them."));
+        QCOMPARE(list.topLevelItem(1)->toolTip(1), QString());
+        QCOMPARE(list.topLevelItem(2)->toolTip(1), QString("What it makes."));
+    }
+
+    void pduKindNeedsDis()
+    {
+        const DtPreferences preferences;
+        preferences.dialog->show();
+        auto& kind = preferences.control<QSpinBox>("myFirstPduKind");
+        QVERIFY(!kind.isEnabled());
+        preferences.box("Generate DIS PDUs").setChecked(true);
+        QVERIFY(kind.isEnabled());
+    }
+
+    void nameThatIsNoneIsMarkedAndKept_data()
+    {
+        QTest::addColumn<QString>("edit");
+        QTest::addColumn<QString>("text");
+        QTest::addColumn<bool>("isFaulty");
+        for (const char* text : {"", "port", "_a1", "port::harbour"})
+            QTest::addRow("namespace %s", text) << "myNamespaceName" << text << false;
+        for (const char* text : {"1a", "a b", "a-b", "a::", ":"})
+            QTest::addRow("namespace %s", text) << "myNamespaceName" << text << true;
+        for (const char* text : {"", "Port", "2", "_x"})
+            QTest::addRow("prefix %s", text) << "myPrefixName" << text << false;
+        for (const char* text : {"a b", "x-", "a::b"})
+            QTest::addRow("prefix %s", text) << "myPrefixName" << text << true;
+    }
+
+    void nameThatIsNoneIsMarkedAndKept()
+    {
+        QFETCH(QString, edit);
+        QFETCH(QString, text);
+        QFETCH(bool, isFaulty);
+        DtPreferences preferences;
+        auto& line = preferences.control<QLineEdit>(qPrintable(edit));
+        const QString usual = line.toolTip();
+        preferences.box(edit == "myPrefixName" ? "Prefix Classnames" : "Use Namespace").setChecked(true);
+        line.setText(text);
+        QCOMPARE(line.property("isFaulty").toBool(), isFaulty);
+        QCOMPARE(line.toolTip() != usual, isFaulty);
+        preferences.dialog->okButtonPressed();
+        const DtString kept =
+            edit == "myPrefixName" ? preferences.initializer.prefixName() : preferences.initializer.namespaceName();
+        QCOMPARE(QString(kept.c_str()), text);
+    }
 };
 
 QX_REGISTER_TEST(TestPreferencesDialog)

@@ -19,6 +19,7 @@
 
 #include <QtCore/QFile>
 #include <QtCore/QProcess>
+#include <QtGui/QDesktopServices>
 #include <QtGui/QStatusTipEvent>
 #include <QtWidgets/QFileDialog>
 #include <QtWidgets/QShortcut>
@@ -279,13 +280,10 @@ void DtCodeGenAppGui::showAboutBox()
 void DtCodeGenAppGui::launchUpdate()
 {
     const QString page = DtDeployment::read().versionPage;
-    QStringList faults;
     if (page.isEmpty())
-        faults += QStringLiteral("No version page is set in ../data/config/deployment.xml.");
-    if (!QProcess::startDetached(QStringLiteral("htmlview"), {page}))
-        faults += QStringLiteral("The program htmlview could not be started.");
-    if (!faults.isEmpty())
-        showStatus(faults.join(QLatin1Char(' ')).toUtf8().constData());
+        return showStatus("No version page is set in ../data/config/deployment.xml.");
+    if (!QProcess::startDetached(QStringLiteral("htmlview"), {page}) && !QDesktopServices::openUrl(QUrl(page)))
+        showStatus("The program htmlview could not be started.");
 }
 
 void DtCodeGenAppGui::slot_showContextMenu(const QPoint& point)

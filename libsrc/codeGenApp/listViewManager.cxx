@@ -359,6 +359,13 @@ void DtListViewManager::reset()
     }
     objects.clear();
     interactions.clear();
+    clearRightList();
+    fitColumns(); // an empty list has nothing to scroll
+}
+
+void DtListViewManager::clearRightList()
+{
+    myRightListView->clear();
     myRightWidgetsByLeftWidgets.clear();
     myRightChildren.clear();
 }
@@ -425,8 +432,9 @@ void DtListViewManager::fitColumns() const
     {
         const QAbstractItemView* const view = list; // which lets everybody ask
         list->header()->setMinimumSectionSize(qMax(view->sizeHintForColumn(0), theLeastWidth));
-        for (const bool isStretched : {false, true}) // the header sees the new limit then
-            list->header()->setStretchLastSection(isStretched);
+        list->header()->setStretchLastSection(false);
+        list->setColumnWidth(0, list->header()->minimumSectionSize());
+        list->header()->setStretchLastSection(true); // sees the new limit
     }
 }
 

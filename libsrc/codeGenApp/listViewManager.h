@@ -54,6 +54,7 @@ public:
     virtual void selectAll();
     // Clears both lists and empties the sets.
     virtual void reset();
+    void clearRightList();
     // Selects nothing, and leads the keyboard to the first item of the left list.
     void startAtTheTop() const;
     virtual void findObjectsAndInteractions(std::vector<QTreeWidgetItem*>& found, bool rightList, bool selectedOnly,

@@ -42,6 +42,11 @@ private:
         waitForEditor(false);
     }
 
+    QUrl myPage;
+
+public Q_SLOTS:
+    void takePage(const QUrl& page) { myPage = page; }
+
 private Q_SLOTS:
     void init()
     {
@@ -68,6 +73,34 @@ private Q_SLOTS:
         buttons.last()->click();
         QCOMPARE(printList(right()), QString("Objects\n Ship\n"));
         QCOMPARE(recorded(), QString("HLAobjectRoot.Ship"));
+    }
+
+    void emptiedListHasNothingToScroll()
+    {
+        loadModel(objectText(QByteArray(200, 'w')));
+        show();
+        QVERIFY(left().horizontalScrollBar()->maximum() > 0);
+        myWindow->closeOpenFiles();
+        QTRY_COMPARE(left().horizontalScrollBar()->maximum(), 0);
+    }
+
+    void gripOfAFileDialogLeavesItsButtonsAlone()
+    {
+        show();
+        bool isLooked = false;
+        QTimer::singleShot(0, this,
+                           [&isLooked]
+                           {
+                               auto* const dialog = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
+                               for (const QSizeGrip* grip : dialog->findChildren<QSizeGrip*>())
+                                   QVERIFY2(grip->width() * grip->height() == 0,
+                                            qPrintable(QString::number(grip->width())));
+                               isLooked = true;
+                           });
+        qApp->removeEventFilter(myDialogs.get());
+        QTimer::singleShot(300, this, [] { QApplication::activeModalWidget()->close(); });
+        myWindow->slot_openFile();
+        QVERIFY(isLooked);
     }
 
     void selectAllTakesTheListWithTheFocus()
@@ -348,20 +381,28 @@ private Q_SLOTS:
     {
         openOnOwnData();
         const DtWithEnvironment search("PATH", bytes("home").c_str());
-        myWindow->launchUpdate();
-        QCOMPARE(status(),
-                 QString("No version page is set in ../data/config/deployment.xml. The program htmlview could "
-                         "not be started."));
         writeTextFile(path("data/config/deployment.xml"),
                       "<deployment><versionPage>https://versions.example/list</versionPage></deployment>");
         myWindow->launchUpdate();
         QCOMPARE(status(), QString("The program htmlview could not be started."));
     }
 
+    void browserOfTheUserIsTheSecondChoice()
+    {
+        openOnOwnData();
+        writeTextFile(path("data/config/deployment.xml"),
+                      "<deployment><versionPage>https://versions.example/list</versionPage></deployment>");
+        const DtWithEnvironment search("PATH", bytes("home").c_str());
+        QDesktopServices::setUrlHandler("https", this, "takePage");
+        action("Version Web Site...").trigger();
+        QDesktopServices::unsetUrlHandler("https");
+        QCOMPARE(myPage, QUrl("https://versions.example/list"));
+        QCOMPARE(status(), QString());
+    }
+
+    // Nothing is started then, whatever there is to start.
     void missingPageIsTold()
     {
-        writeTextFile(path("home/htmlview"), "#!/bin/sh\n");
-        QFile::setPermissions(path("home/htmlview"), QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
         const DtWithEnvironment search("PATH", bytes("home").c_str());
         myWindow->launchUpdate();
         QCOMPARE(status(), QString("No version page is set in ../data/config/deployment.xml."));

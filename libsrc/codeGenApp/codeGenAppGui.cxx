@@ -73,6 +73,8 @@ DtCodeGenAppGui::DtCodeGenAppGui(DtCodeGenInitializer& initializer, QApplication
     createMenus();
     connectLists();
     createMessages();
+    createClassViews();
+    createShortcuts();
 }
 
 DtCodeGenAppGui::~DtCodeGenAppGui()
@@ -157,6 +159,7 @@ void DtCodeGenAppGui::createToolBar()
     QToolBar* const bar = addToolBar(QStringLiteral("Actions"));
     bar->setObjectName(QStringLiteral("Actions"));
     bar->setMovable(false);
+    bar->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
     bar->setFixedHeight(30);
     bar->addActions({myNewProjectAction, myLoadProjectAction, mySaveProjectAction});
     bar->addSeparator();
@@ -237,23 +240,26 @@ void DtCodeGenAppGui::slot_quitMe()
 // Characters beyond Latin-1 are lost on this road, and on no other.
 void DtCodeGenAppGui::slot_openFile()
 {
-    const QString choice = QFileDialog::getOpenFileName(this, QStringLiteral("Open File"), QStringLiteral("."),
+    const QString choice = QFileDialog::getOpenFileName(this, QStringLiteral("Open File"), myLastDirectory,
                                                         QString::fromLatin1(theModelFilter));
     if (choice.isEmpty())
         return;
+    noteDirectory(choice);
     const DtModelFile file = modelFile(choice.toLatin1());
     loadFile(file.first, file.second);
 }
 
 void DtCodeGenAppGui::slot_openFiles()
 {
-    const QStringList choices = QFileDialog::getOpenFileNames(this, QStringLiteral("Open File"), QStringLiteral("."),
+    const QStringList choices = QFileDialog::getOpenFileNames(this, QStringLiteral("Open File"), myLastDirectory,
                                                               QString::fromLatin1(theModelFilter));
     std::vector<DtModelFile> files;
     for (const QString& choice : choices)
         files.push_back(modelFile(choice.toUtf8()));
-    if (!files.empty())
-        loadFiles(files);
+    if (files.empty())
+        return;
+    noteDirectory(choices.first());
+    loadFiles(files);
 }
 
 void DtCodeGenAppGui::slot_closeOpenFiles()
@@ -358,18 +364,21 @@ void DtCodeGenAppGui::selectAllObjectsInteractions()
 
 void DtCodeGenAppGui::addSelectedItems()
 {
+    noteSelection();
     myListViewManager->processAddition(true, myProject.get(), myObjectItems, myInteractionItems, false);
     refreshBadge();
 }
 
 void DtCodeGenAppGui::addAllObjectInteractions()
 {
+    noteSelection();
     myListViewManager->processAddition(false, myProject.get(), myObjectItems, myInteractionItems, false);
     refreshBadge();
 }
 
 void DtCodeGenAppGui::removeSelectedItems()
 {
+    noteSelection();
     myListViewManager->processRemoval(myProject.get());
     refreshBadge();
 }

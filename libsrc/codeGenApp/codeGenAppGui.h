@@ -17,6 +17,7 @@
 class DtAboutBox;
 class DtCodeGenInitializer;
 class DtCustomCodeGui;
+class DtDetailPanel;
 class DtFedNode;
 class DtFindBar;
 class DtGenerationRun;
@@ -30,6 +31,7 @@ class DtPreferencesDialog;
 class DtProjectBadge;
 class QAction;
 class QApplication;
+class QHelpEvent;
 class QKeyEvent;
 class QMenu;
 class QTreeWidget;
@@ -49,7 +51,8 @@ class Ui_QtCodeGenApp;
 //
 // Beside its menus it takes files that are dropped on it: project files to load, and model files to add while the
 // action "Import FOM" is enabled. In the lists Insert adds, Delete removes, and F2 or Enter on the right list
-// customizes the current class. Ctrl+F opens a find bar below the left list.
+// customizes the current class. Ctrl+F opens a find bar below the left list, F4 a panel that tells all of the current
+// class, and Ctrl+Z takes the last addition or removal back.
 class DtCodeGenAppGui : public QMainWindow
 {
     Q_OBJECT
@@ -183,11 +186,22 @@ private:
     bool mayLeaveProject();
     void saveConfiguration();
 
+    void createShortcuts();
+    void noteSelection();
+    void undoLastChange();
+    void noteDirectory(const QString& file);
     bool handleListKey(const QTreeWidget* list, const QKeyEvent& event);
     void customizeCurrentItem();
     void openFindBar();
     bool takesFile(const QString& file) const;
     void takeFile(const QString& file);
+
+    void createClassViews();
+    const DtFedNode* nodeOf(QTreeWidgetItem* item) const;
+    bool showClassToolTip(const QTreeWidget* list, const QHelpEvent& event);
+    void markTakenClasses();
+    void toggleDetails();
+    void showDetails(QTreeWidgetItem* item);
 
     bool canMergeWithLoaded(const DtString& path, DtFomType type);
     std::vector<DtFilename> filesToRead(const DtFilename& newFile, DtFomType type, bool addMim) const;
@@ -251,6 +265,9 @@ private:
     QMenu* myRemovalMenu = nullptr;
     DtFindBar* myFindBar = nullptr;
     DtProjectBadge* myBadge = nullptr;
+    DtDetailPanel* myDetailPanel = nullptr;        // made when it is asked for
+    std::unique_ptr<DtOmtProject> myBeforeChange;  // what was selected ahead of the last addition or removal
+    QString myLastDirectory = QStringLiteral("."); // where the last file was chosen
     std::unique_ptr<DtMessageLog> myMessages;
     DtMessageDock* myMessageDock = nullptr; // made with the first message of a visible window
     QAction* myNewProjectAction = nullptr;

@@ -1,15 +1,20 @@
 // What the window takes beside its menus: keys in the lists, the find bar, files that are dropped on it, and its place
 // on the screen.
 
+#include "codeGenApp/classFacts.h"
 #include "codeGenApp/codeGenAppGui.h"
 #include "codeGenApp/findBar.h"
+#include "codeGenApp/listViewManager.h"
 #include "codeGenApp/windowPlace.h"
+#include "fileGenerator/omtProject.h"
 #include "ui_codeGenAppGui.h"
 
 #include <QtCore/QFileInfo>
 #include <QtCore/QMimeData>
 #include <QtGui/QDropEvent>
+#include <QtGui/QHelpEvent>
 #include <QtWidgets/QApplication>
+#include <QtWidgets/QShortcut>
 
 #include <algorithm>
 #include <iterator>
@@ -41,11 +46,54 @@ QStringList filesOf(const QMimeData& data)
 }
 } // namespace
 
+void DtCodeGenAppGui::createShortcuts()
+{
+    const std::pair<const char*, QAction*> theKeys[] = {
+        {"Ctrl+N", myNewProjectAction },
+        {"Ctrl+S", mySaveProjectAction},
+        {"Ctrl+W", myCloseAction      },
+        {"Ctrl+Q", myExitAction       },
+    };
+    for (const auto& [key, action] : theKeys) // an action that is disabled does nothing
+        connect(new QShortcut(QKeySequence(QString::fromLatin1(key)), this), &QShortcut::activated, action,
+                &QAction::trigger);
+    connect(new QShortcut(QKeySequence(QStringLiteral("Ctrl+Z")), this), &QShortcut::activated, this,
+            &DtCodeGenAppGui::undoLastChange);
+}
+
+void DtCodeGenAppGui::noteSelection()
+{
+    if (isVisible() && myProject != nullptr)
+        myBeforeChange = std::make_unique<DtOmtProject>(*myProject);
+}
+
+// The selected classes alone: custom code that was saved in between stays.
+void DtCodeGenAppGui::undoLastChange()
+{
+    if (myBeforeChange == nullptr || myProject == nullptr)
+        return;
+    myProject->setObjects(myBeforeChange->getObjects());
+    myProject->setInteractions(myBeforeChange->getInteractions());
+    myBeforeChange.reset();
+    myListViewManager->clearRightList();
+    showProjectOnTheRight();
+    showSuccess(QStringLiteral("The last change of the selection is taken back"));
+}
+
+void DtCodeGenAppGui::noteDirectory(const QString& file)
+{
+    if (!file.isEmpty())
+        myLastDirectory = QFileInfo(file).path();
+}
+
 bool DtCodeGenAppGui::eventFilter(QObject* watched, QEvent* event)
 {
     const auto* const list = qobject_cast<const QTreeWidget*>(watched);
     if (list != nullptr && event->type() == QEvent::KeyPress)
         return handleListKey(list, *static_cast<QKeyEvent*>(event));
+    const auto* const listOfViewport = qobject_cast<const QTreeWidget*>(watched->parent());
+    if (listOfViewport != nullptr && event->type() == QEvent::ToolTip)
+        return showClassToolTip(listOfViewport, *static_cast<QHelpEvent*>(event));
     return QMainWindow::eventFilter(watched, event);
 }
 
@@ -93,6 +141,12 @@ void DtCodeGenAppGui::openFindBar()
     {
         QTreeWidget* const list = myForm->myLeftListView;
         myFindBar = new DtFindBar(list, myForm->widget);
+        myFindBar->setMembers(
+            [this](QTreeWidgetItem* item)
+            {
+                const DtFedNode* const node = nodeOf(item);
+                return node != nullptr ? DtMemberNames(*node) : QStringList();
+            });
         auto* const column = new QVBoxLayout;
         myForm->hboxLayout->removeWidget(list);
         column->addWidget(list);

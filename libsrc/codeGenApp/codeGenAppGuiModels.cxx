@@ -211,6 +211,7 @@ void DtCodeGenAppGui::fillLists()
 
 void DtCodeGenAppGui::forgetFiles()
 {
+    myBeforeChange.reset();
     myObjectItems.clear();
     myInteractionItems.clear();
     myListViewManager->reset();

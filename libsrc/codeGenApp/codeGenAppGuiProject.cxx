@@ -90,10 +90,11 @@ void DtCodeGenAppGui::slot_newOmtProject()
     if (isVisible() && myCustomCodeGui != nullptr && !myCustomCodeGui->close())
         return;
     slot_saveOmtProject();
-    const QString choice = QFileDialog::getSaveFileName(this, QStringLiteral("New Project File"), QStringLiteral("."),
+    const QString choice = QFileDialog::getSaveFileName(this, QStringLiteral("New Project File"), myLastDirectory,
                                                         QString::fromLatin1(theProjectFilter));
     if (choice.isEmpty())
         return;
+    noteDirectory(choice);
     DtFilename path(choice.toUtf8().constData());
     if (path.extension().isEmpty())
         path.setExtension(theProjectExtension);
@@ -240,9 +241,10 @@ DtFilename DtCodeGenAppGui::askForFile(const char* title, const char* filter, co
         DtWarn << title << std::endl;
         return DtFilename();
     }
-    const QString start = name.isEmpty() ? QStringLiteral(".") : "./" + QString::fromUtf8(name.c_str());
+    const QString start = name.isEmpty() ? myLastDirectory : myLastDirectory + "/" + QString::fromUtf8(name.c_str());
     const QString choice =
         QFileDialog::getOpenFileName(this, QString::fromLatin1(title), start, QString::fromLatin1(filter));
+    noteDirectory(choice);
     return choice.toUtf8().constData();
 }
 

@@ -66,6 +66,8 @@ void DtCodeGenAppGui::addReasonsToStatus(const QStringList& reasons)
 // The whole bar is there for a failure.
 void DtCodeGenAppGui::refreshBadge()
 {
+    if (isVisible())
+        markTakenClasses();
     if (!isVisible() || myStatusIsFailure || myProject == nullptr || myProjectFile.isEmpty())
         return myBadge->hide();
     DtProjectBadge::DtFacts facts;

@@ -15,7 +15,8 @@ class QLineEdit;
 class Ui_QtPreferencesDialog;
 
 // Edits what the configuration stores. The main window reads every setting from this dialog, which writes changes
-// through to the initializer when OK is pressed. A namespace or prefix that C++ does not take is marked, and can be kept.
+// through to the initializer when OK is pressed. A namespace or prefix that C++ does not take is marked, and can be
+// kept.
 //
 // The initializer is not owned and must outlive the dialog. The dialog keeps copies of the settings: a value put in by
 // setIncludeDir() or setPrefix(), from a project or the command line, holds for the run without entering the store.

@@ -36,6 +36,7 @@ public:
                 myTree, name,
                 DtVisitor{[](const DtBasicDataRepresentationNode&) {},
                           [this](const DtSimpleDatatypeNode& simple) { addPart(simple, simple.getRepresentation()); },
+                          [this](const DtReferenceDatatypeNode& each) { addPart(each, each.getRepresentation()); },
                           [this](const DtEnumeratedDatatypeNode& each) { addPart(each, each.getRepresentation()); },
                           [this](const DtArrayDatatypeNode& array) { addPart(array, array.getDatatype()); },
                           [this](const DtFixedDatatypeNode& record) { addComponents(record); },

@@ -49,6 +49,17 @@ DtCodeGenAppGui::DtModelFile modelFile(const QByteArray& file)
     directory.stripFilename();
     return {path, directory};
 }
+
+// Text stands beside the icons where there is room for all of it; no button may fall off the bar.
+void fitToolBar(QToolBar* bar, int width)
+{
+    if (bar == nullptr) // the window is being made
+        return;
+    bar->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
+    if (bar->sizeHint().width() > width)
+        bar->setToolButtonStyle(Qt::ToolButtonIconOnly);
+    bar->setFixedHeight(bar->maximumHeight()); // the style has taken the lower limit away
+}
 } // namespace
 
 DtCodeGenAppGui::DtCodeGenAppGui(DtCodeGenInitializer& initializer, QApplication* application, QWidget* parent)
@@ -159,7 +170,6 @@ void DtCodeGenAppGui::createToolBar()
     QToolBar* const bar = addToolBar(QStringLiteral("Actions"));
     bar->setObjectName(QStringLiteral("Actions"));
     bar->setMovable(false);
-    bar->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
     bar->setFixedHeight(30);
     bar->addActions({myNewProjectAction, myLoadProjectAction, mySaveProjectAction});
     bar->addSeparator();
@@ -224,6 +234,8 @@ bool DtCodeGenAppGui::event(QEvent* event)
     if (event->type() == QEvent::StatusTip && static_cast<QStatusTipEvent*>(event)->tip().isEmpty())
         return true;
     const bool isHandled = QMainWindow::event(event);
+    if (event->type() == QEvent::Show || event->type() == QEvent::Resize)
+        fitToolBar(findChild<QToolBar*>(QStringLiteral("Actions")), width());
     if (event->type() == QEvent::Show)
         refreshBadge();
     return isHandled;

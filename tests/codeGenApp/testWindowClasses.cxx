@@ -138,9 +138,19 @@ private Q_SLOTS:
         QCOMPARE(boldClasses(), QString("Ship"));
     }
 
-    void toolBarHasTextBesideItsIcons()
+    void toolBarHasTextBesideItsIconsWhereThereIsRoom()
     {
-        QCOMPARE(myWindow->findChild<QToolBar*>()->toolButtonStyle(), Qt::ToolButtonTextBesideIcon);
+        show();
+        const QToolBar& bar = *myWindow->findChild<QToolBar*>();
+        for (const int width : {640, 1200})
+        {
+            myWindow->resize(width, 582);
+            QTRY_COMPARE(bar.width(), width);
+            QCOMPARE(bar.toolButtonStyle() == Qt::ToolButtonTextBesideIcon, width == 1200);
+            QCOMPARE(bar.height(), 30);
+            for (QAction* each : bar.actions())
+                QTRY_VERIFY2(bar.widgetForAction(each)->isVisible(), qPrintable(each->text()));
+        }
     }
 
     // Find bar

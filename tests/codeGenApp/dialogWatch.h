@@ -12,7 +12,8 @@
 
 // Answers every message box and file dialog while it lives, so that no test waits for a user.
 //
-// Message boxes are closed, by a button if one is asked for. A file dialog gets the next answer: a path to choose, or a cancel once they have run out.
+// Message boxes are closed, by a button if one is asked for. A file dialog gets the next answer: a path to choose, or a
+// cancel once they have run out.
 class DtDialogWatch : public QObject
 {
 public:

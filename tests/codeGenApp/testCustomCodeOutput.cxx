@@ -84,7 +84,8 @@ QString codingSources(const DtScratchProgram& program)
     return text;
 }
 
-// The form on the wire in the body of each function, by the function's head.
+// The form on the wire in the body of each function, by the function's head. What tells its numbers to people is left
+// out.
 std::map<QString, QString> wireForms(const QString& sources)
 {
     static const QRegularExpression theFunction(
@@ -92,11 +93,12 @@ std::map<QString, QString> wireForms(const QString& sources)
         QRegularExpression::DotMatchesEverythingOption);
     static const QRegularExpression theForm(QStringLiteral("const DtWireForm form\\((.*?)\\);\\n"),
                                             QRegularExpression::DotMatchesEverythingOption);
+    static const QRegularExpression theComment(QStringLiteral(" /\\*.*?\\*/"));
     std::map<QString, QString> forms;
     for (auto each = theFunction.globalMatch(sources); each.hasNext();)
     {
         const QRegularExpressionMatch match = each.next();
-        forms[match.captured(1)] = theForm.match(match.captured(2)).captured(1).simplified();
+        forms[match.captured(1)] = theForm.match(match.captured(2)).captured(1).remove(theComment).simplified();
     }
     return forms;
 }

@@ -223,6 +223,14 @@ const char theOldModel[] =
     "    (Attribute (Name \"Place\") (DataType \"Point\") (Cardinality \"1\"))\n"
     "    (Attribute (Name \"Track\") (DataType \"Point\") (Cardinality \"1+\"))))\n";
 
+// A format later than that of the sample has a kind of datatypes more.
+const char theLaterModel[] = "<?xml version=\"1.0\"?>\n<objectModel xmlns=\"http://standards.ieee.org/IEEE1516-2025\">"
+                             "<objects><objectClass><name>HLAobjectRoot</name><objectClass><name>Buoy</name>"
+                             "<attribute><name>Owner</name><dataType>OwnerReference</dataType></attribute>"
+                             "</objectClass></objectClass></objects><dataTypes><referenceDataTypes><referenceDataType>"
+                             "<name>OwnerReference</name><representation>HLAunicodeString</representation>"
+                             "</referenceDataType></referenceDataTypes></dataTypes></objectModel>\n";
+
 QString page()
 {
     return QString::fromUtf8(readTextFile(QStringLiteral(QX_SOURCE_DIR "/docs/second-road.md")));
@@ -397,6 +405,7 @@ private Q_SLOTS:
         std::map<QString, Lines> shape;
         collectShape(sample().root(), "", shape);
         collectShape(DtProducts("old.omt", theOldModel).root(), "", shape);
+        collectShape(DtProducts("later.xml", theLaterModel).root(), "", shape);
         shape[""].erase("format");
         shape[""].erase("formatVersion");
         std::map<QString, Lines> expected = documentedShape();

@@ -188,6 +188,15 @@ QString warningsOf(const DtForm& form, const DtConstruct& construct, const DtVal
     return missing(construct.partWarning).repeated(isNameless && !isOwn ? 2 : 1);
 }
 
+// And what it says about an enumerator with that value.
+QString warningOfValue(int index, const char* fault)
+{
+    if (isNone(fault) || qstrcmp(fault, "-1") == 0 || qstrcmp(fault, "0") == 0)
+        return QString();
+    return QString("Warning: Enumeration T%1x has values that are no numbers from -2147483648 to 2147483647: One\n")
+        .arg(index);
+}
+
 DtElement member(const QByteArray& kind, const QByteArray& name, const QByteArray& type)
 {
     return named(kind, name).with("dataType", type);
@@ -312,8 +321,14 @@ void addRow(const QByteArray& name, const DtForm& form, const DtElements& sectio
 void addFaults(const DtForm& form, const DtConstruct& construct, const DtValue& value)
 {
     QString warnings;
+    int index = 0; // of the datatype that has the fault
     for (const char* fault : theFaults)
+    {
         warnings += warningsOf(form, construct, value, fault);
+        if (qstrcmp(value.element, "enumerator") == 0 && qstrcmp(value.name, "value") == 0)
+            warnings += warningOfValue(index, fault);
+        ++index;
+    }
     addRow(QByteArray(value.element) + " " + value.name, form, modelOfFaults(construct, value), warnings);
 }
 

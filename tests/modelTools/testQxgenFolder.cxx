@@ -199,9 +199,8 @@ private Q_SLOTS:
         const DtTestMount disk("tmpfs", "tmpfs", myFolder->path("tmp"), 0, "size=100k");
         if (!disk.isMounted())
             QSKIP(disk.why().c_str());
-        const DtProgramEnd end =
-            myFolder->run({"generate", "models/small.xml", "-o", "out", "--dry-run", "--examples"},
-                          [this] { setenv("TMPDIR", myFolder->path("tmp").c_str(), 1); });
+        const DtProgramEnd end = myFolder->run({"generate", "models/small.xml", "-o", "out", "--dry-run", "--examples"},
+                                               [this] { setenv("TMPDIR", myFolder->path("tmp").c_str(), 1); });
         QCOMPARE(end.code, 5);
         const std::string start = "qxgen: error: " + (myFolder->path("tmp") / ".qxgen-").native();
         QVERIFY2(DtStartsWith(end.err, start) && contains(end.err, "No space left on device"), end.err.c_str());

@@ -228,6 +228,7 @@ private Q_SLOTS:
     void lengthBoundsAnAlternative();
     void alternativeHasAnOriginOfItsOwn();
     void stringsCountUnits();
+    void stringOfAMisfitIsRefused();
     void fixedStringIsFilled();
     void firstReasonStays();
     void surplusIsRefusedAndTheValueStays();
@@ -594,6 +595,15 @@ void TestWireLayer::stringsCountUnits()
     QCOMPARE(encoded(DtGlobalObjectDesignator("x")), QByteArray("7800"));
     QCOMPARE(encoded(DtString("a\0b", 3), DtWireForm("string")),
              QByteArray("refused: an element would end its null-terminated array"));
+}
+
+// A text that stands for a datatype which does not fit into it.
+void TestWireLayer::stringOfAMisfitIsRefused()
+{
+    const DtWireForm misfit("Label", "", "HLAvariableArray", -1, 0, false, &DtWireMisfit::theLayout);
+    const QByteArray reason = "the model's datatype does not fit into the type of the toolkit";
+    QCOMPARE(encoded(DtString("ab"), misfit), "refused: " + reason);
+    QCOMPARE(decoded<DtString>("000000026162", misfit).reason, reason);
 }
 
 void TestWireLayer::fixedStringIsFilled()

@@ -59,7 +59,7 @@ inline bool DtReadValue(DtWireReader& reader, DtString& value, const DtWireForm&
     DtWireReader ahead(reader);
     const char* text = nullptr;
     std::size_t length = 0;
-    const bool isPlain = !ahead.isClosed() && ahead.pad(DtBoundaryOf(value, form)) &&
+    const bool isPlain = !form.isMisfit() && !ahead.isClosed() && ahead.pad(DtBoundaryOf(value, form)) &&
                          DtWireTraits<DtString>::find(ahead, text, length, form) && ahead.atEnd();
     if (!isPlain)
         return DtReadValue<DtString>(reader, value, form);

@@ -2,7 +2,7 @@
 # Builds and runs all tests, under AddressSanitizer and UndefinedBehaviorSanitizer.
 #   ./test.sh             what continuous integration runs; ends with the skipped tests and the summary of ctest
 #   ./test.sh --lint      clang-format and clang-tidy over the sources
-#   ./test.sh --full      all tests and what takes minutes: the program built by clang++, clang++ and make on what was
+#   ./test.sh --full      all tests and what takes minutes: everything built by clang++, clang++ and make on what was
 #                         generated, and the window on a display
 set -eu
 

@@ -18,7 +18,6 @@
 
 namespace
 {
-constexpr std::size_t theNowhere = std::string::npos;
 // Depth at which a file that includes itself is left out.
 constexpr std::size_t theMaximumFileDepth = 64;
 // Depth at which blocks inside blocks are left out: the program's stack holds several times as many.

@@ -75,8 +75,8 @@ private Q_SLOTS:
             "<updateRates/>",
             "<transportations><transportation><reliable/></transportation></transportations>",
             "<objects><objectClass><name>HLAobjectRoot</name></objectClass></objects>",
-            "<objects/><interactions><interactionClass><name>HLAinteractionRoot</name></interactionClass>"
-            "</interactions>",
+            ("<objects/><interactions><interactionClass><name>HLAinteractionRoot</name></interactionClass>"
+             "</interactions>"),
             "<interactions><interactionClass><name>HLAinteractionRoot</name></interactionClass></interactions>"};
         for (const char* space : theNamespaces)
             for (const char* section : sections)

@@ -16,19 +16,24 @@
 
 namespace
 {
-unsigned long theWriteCount = 0;
+// A text is kept in pieces of this size at most.
+constexpr std::size_t theLargestPiece = 1u << 20;
 
 // Of this many printers that collect, the files stay open; a process may have 1024.
 constexpr int theMostOpenFiles = 128;
 int theOpenFiles = 0;
 
-// Names written while printers that collect are there, and the count at which each was written last. A printer asks for
-// what has been written since it was made, so nothing is kept when the last one has gone.
-int theCollectingPrinters = 0;
-std::unordered_map<std::string, unsigned long>& writeCounts()
+// The printers that collect, by the names of their files, so that one that writes finds the others of its file. Never
+// destroyed: the last printers may go with the process.
+std::unordered_multimap<std::string_view, DtFilePrinter*>& collectingPrinters()
 {
-    static std::unordered_map<std::string, unsigned long> theWriteCounts;
-    return theWriteCounts;
+    static auto* const thePrinters = new std::unordered_multimap<std::string_view, DtFilePrinter*>;
+    return *thePrinters;
+}
+
+std::string_view viewOf(const DtString& name)
+{
+    return {name.c_str(), static_cast<std::size_t>(name.length())};
 }
 
 // Memory of texts that are written, for the next ones. Never destroyed: the last printers may go with the process.
@@ -69,15 +74,15 @@ int openForWriting(const DtString& name, int flags)
     return ::open(name.c_str(), O_RDWR | O_CREAT | O_CLOEXEC | flags, 0666);
 }
 
-// Compares piece by piece, so that a difference ends the reading.
-bool holdsText(int descriptor, std::string_view text)
+// Compares bit by bit, so that a difference ends the reading.
+bool holdsText(int descriptor, off_t offset, std::string_view text)
 {
     char piece[32768];
     std::size_t compared = 0;
     while (compared < text.size())
     {
         const std::size_t size = std::min(sizeof piece, text.size() - compared);
-        const ssize_t count = pread(descriptor, piece, size, static_cast<off_t>(compared));
+        const ssize_t count = pread(descriptor, piece, size, offset + static_cast<off_t>(compared));
         if (count != static_cast<ssize_t>(size) || text.compare(compared, size, piece, size) != 0)
             return false;
         compared += size;
@@ -97,21 +102,12 @@ bool writeWhole(int descriptor, const char* text, std::size_t length)
     }
     return true;
 }
-
-// Leaves a file alone that holds the text already, so that its time stamp stays.
-bool updateFile(int descriptor, std::size_t size, const std::string& text)
-{
-    if (size == text.size() && holdsText(descriptor, text))
-        return true;
-    return (size == 0 || ftruncate(descriptor, 0) == 0) && writeWhole(descriptor, text.data(), text.size());
-}
 } // namespace
 
-DtFilePrinter::DtFilePrinter(const char* name, Mode mode)
-    : myName(name), myMode(mode), myText(takeSpareText()), mySerial(theWriteCount)
+DtFilePrinter::DtFilePrinter(const char* name, Mode mode) : myName(name), myMode(mode), myText(takeSpareText())
 {
     if (myMode == Mode::Collect)
-        ++theCollectingPrinters;
+        collectingPrinters().emplace(viewOf(myName), this);
     myDescriptor = openForWriting(myName, mode == Mode::WriteThrough ? O_TRUNC | O_APPEND : 0);
     myIsUsable = myDescriptor >= 0;
     if (!myIsUsable)
@@ -132,8 +128,27 @@ DtFilePrinter::~DtFilePrinter()
     if (myDescriptor >= 0)
         closeFile();
     keepSpareText(std::move(myText));
-    if (myMode == Mode::Collect && --theCollectingPrinters == 0)
-        writeCounts().clear();
+    if (myMode == Mode::Collect)
+        leaveOthers();
+}
+
+std::function<void(const DtString& name)>& DtFilePrinter::replacementListener()
+{
+    static std::function<void(const DtString& name)> theListener;
+    return theListener;
+}
+
+void DtFilePrinter::tellOthers()
+{
+    const auto [first, end] = collectingPrinters().equal_range(viewOf(myName));
+    for (auto entry = first; entry != end; ++entry)
+        entry->second->myIsWrittenByAnother |= entry->second != this;
+}
+
+void DtFilePrinter::leaveOthers()
+{
+    const auto [first, end] = collectingPrinters().equal_range(viewOf(myName));
+    collectingPrinters().erase(std::find_if(first, end, [this](const auto& entry) { return entry.second == this; }));
 }
 
 bool DtFilePrinter::closeFile()
@@ -148,7 +163,15 @@ bool DtFilePrinter::closeFile()
 void DtFilePrinter::print(const char* text, std::size_t length)
 {
     if (myMode == Mode::Collect)
+    {
+        if (myText.size() + length > theLargestPiece && !myText.empty())
+        {
+            myPieces.push_back(std::move(myText));
+            myText = std::string();
+            myText.reserve(theLargestPiece);
+        }
         myText.append(text, length);
+    }
     else if (myIsUsable && !writeWhole(myDescriptor, text, length))
     {
         myIsUsable = false; // first: the report may come back through this very printer
@@ -162,13 +185,45 @@ void DtFilePrinter::flush()
 
 void DtFilePrinter::writeIfChanged()
 {
-    unsigned long& lastWrite = writeCounts()[myName.stdString()];
-    const bool wasWrittenSince = lastWrite > mySerial;
-    if (myText.empty() && (wasWrittenSince || myIsFresh))
+    const bool isSilent = myText.empty() && myPieces.empty();
+    if (isSilent && (myIsWrittenByAnother || myIsFresh))
         return;
-    lastWrite = ++theWriteCount;
+    tellOthers();
     if (!write())
         reportFailure("write");
+}
+
+// The pieces in order, as long as the function is content.
+template <typename Function>
+bool DtFilePrinter::eachPiece(Function&& function) const
+{
+    return std::all_of(myPieces.begin(), myPieces.end(), function) && function(myText);
+}
+
+bool DtFilePrinter::holdsAllText() const
+{
+    off_t offset = 0;
+    return eachPiece(
+        [&](const std::string& piece)
+        {
+            const off_t start = offset;
+            offset += static_cast<off_t>(piece.size());
+            return holdsText(myDescriptor, start, piece);
+        });
+}
+
+// Leaves a file alone that holds the text already, so that its time stamp stays.
+bool DtFilePrinter::update(std::size_t oldSize)
+{
+    std::size_t size = myText.size();
+    for (const std::string& piece : myPieces)
+        size += piece.size();
+    if (oldSize == size && holdsAllText())
+        return true;
+    if (oldSize != 0 && replacementListener())
+        replacementListener()(myName);
+    return (oldSize == 0 || ftruncate(myDescriptor, 0) == 0) &&
+           eachPiece([this](const std::string& piece) { return writeWhole(myDescriptor, piece.data(), piece.size()); });
 }
 
 bool DtFilePrinter::write()
@@ -183,7 +238,7 @@ bool DtFilePrinter::write()
             return false;
         ++theOpenFiles;
     }
-    const bool isWritten = updateFile(myDescriptor, static_cast<std::size_t>(status.st_size), myText);
+    const bool isWritten = update(static_cast<std::size_t>(status.st_size));
     return closeFile() && isWritten;
 }
 

@@ -1,4 +1,5 @@
 #include "foundation/filePrinter.h"
+#include "foundation/restored.h"
 #include "foundationTest.h"
 #include "registerTest.h"
 #include "testSupport.h"
@@ -38,6 +39,9 @@ private Q_SLOTS:
     void fileRemovedInBetweenIsMadeAgain();
     void backslashIsAnOrdinaryCharacterOfAName();
     void nulBytesAreKept();
+    void largeTextIsWrittenWhole();
+    void largeTextThatIsThereKeepsItsTimeStamp();
+    void replacedTextIsToldToTheListener();
 
 private:
     void age(const char* name); // gives the file a time stamp of long ago
@@ -284,6 +288,60 @@ void TestFilePrinter::nulBytesAreKept()
 {
     writeWithPrinter("a", QByteArray("x\0y", 3));
     QCOMPARE(readTextFile("a"), QByteArray("x\0y", 3));
+}
+
+// Larger than the pieces in which it is collected, and no two lines alike.
+QByteArray largeText()
+{
+    QByteArray text;
+    for (int line = 0; line < 400000; ++line)
+        text += QByteArray::number(line) + '\n';
+    return text;
+}
+
+void writeInLines(const char* name, const QByteArray& text)
+{
+    DtFilePrinter printer(name);
+    for (const QByteArray& line : text.split('\n'))
+        printText(printer, line + '\n');
+}
+
+void TestFilePrinter::largeTextIsWrittenWhole()
+{
+    writeTextFile("a", "old");
+    writeInLines("a", largeText());
+    QVERIFY(readTextFile("a") == largeText() + '\n');
+    writeWithPrinter("b", largeText()); // by one call
+    QVERIFY(readTextFile("b") == largeText());
+}
+
+void TestFilePrinter::largeTextThatIsThereKeepsItsTimeStamp()
+{
+    const QByteArray text = largeText();
+    writeInLines("a", text);
+    age("a");
+    const QDateTime stamp = QFileInfo("a").lastModified();
+    writeInLines("a", text);
+    QCOMPARE(QFileInfo("a").lastModified(), stamp);
+    QByteArray other = text;
+    other[other.size() - 2] = 'x';
+    writeInLines("a", other);
+    QVERIFY(QFileInfo("a").lastModified() != stamp);
+    QVERIFY(readTextFile("a") == other + '\n');
+}
+
+void TestFilePrinter::replacedTextIsToldToTheListener()
+{
+    QStringList told;
+    const DtRestored<std::function<void(const DtString&)>> listener(DtFilePrinter::replacementListener(),
+                                                                    [&told](const DtString& name)
+                                                                    { told += QString::fromUtf8(name.c_str()); });
+    writeWithPrinter("a", "text");
+    writeWithPrinter("a", "text");
+    writeWithPrinter("b", "text");
+    QCOMPARE(told, QStringList());
+    writeWithPrinter("a", "other text");
+    QCOMPARE(told, QStringList{"a"});
 }
 
 QX_REGISTER_TEST(TestFilePrinter)

@@ -5,6 +5,7 @@
 #include "fileGenerator/dataFile.h"
 #include "fileGenerator/dataTypeMapper.h"
 #include "fileGenerator/fileWriter.h"
+#include "foundation/filePrinter.h"
 #include "foundation/fileUtils.h"
 #include "foundation/textEnds.h"
 #include "foundation/warningRules.h"
@@ -65,8 +66,8 @@ bool isFileName(const std::string& name)
         return static_cast<unsigned char>(each) < ' ' ||
                std::string_view("/\\<>\"'$").find(each) != std::string_view::npos;
     };
-    return name.size() <= theLongestName && !DtStartsWith(name, ".") &&
-           std::none_of(name.begin(), name.end(), isRefused);
+    return name.size() <= theLongestName && !DtStartsWith(name, ".") && !DtStartsWith(name, " ") &&
+           !DtEndsWith(name, " ") && std::none_of(name.begin(), name.end(), isRefused);
 }
 
 std::set<DtString> withSuperclasses(const std::set<DtString>& fullNames)
@@ -120,7 +121,7 @@ void DtModelGeneration::load()
     if (!isFileName(myRequest.name))
         fail(DtExitCode::Usage, "\"" + myRequest.name +
                                     "\" is no name for a library: it takes up to 100 characters that "
-                                    "files can have, without separators.");
+                                    "files can have, without separators and without blanks at its ends.");
     setUpSettings();
     commandFiles(); // a script that there is not goes ahead of an input that cannot be read
     readConfiguration();
@@ -357,26 +358,46 @@ void DtModelGeneration::writeInto(const fs::path& directory)
     DtGenerationRun run(*myModel.tree, &myProject, DtFilename::stripPath(DtFilename(DtString(myModelFiles.front()))),
                         DtGenerationOptions::of(myConfiguration), myRequest.layout);
     for (const std::string& file : commandFiles())
-    {
-        const DtOutputTree tree(directory);
-        const std::vector<std::string> before = tree.list();
-        run.run(DtString(file));
-        const std::vector<std::string> made = added(before, tree.list());
-        if (DtGenerationRun::isCpp(DtString(file)))
-            myCppFiles = made;
-        else if (made.empty())
-            DtTellWarning(DtToolRules::scriptWithoutOutput, DtSubject::file(DtString(file)),
-                          "The script " + DtString(file) + " has made no file of its own.\n");
-    }
+        runScript(file, run, DtOutputTree(directory));
     checkTemplates();
 }
 
-// The writers leave out what they cannot read.
-void DtModelGeneration::checkTemplates()
+void DtModelGeneration::runScript(const std::string& file, DtGenerationRun& run, const DtOutputTree& tree)
+{
+    const DtString script(file);
+    const std::vector<std::string> before = tree.list();
+    const auto warnOfReplaced = [&](const DtString& name)
+    {
+        const std::string path = fs::path(name.stdString()).lexically_relative(tree.directory()).string();
+        if (std::binary_search(before.begin(), before.end(), path))
+            DtTellWarning(DtToolRules::scriptReplacesOutput, DtSubject::file(script),
+                          "The script " + script + " replaces " + DtString(path) +
+                              ", which another script has made in this run.\n");
+    };
+    {
+        const DtRestored listener(DtFilePrinter::replacementListener(), warnOfReplaced);
+        run.run(script);
+    }
+    const std::vector<std::string> made = added(before, tree.list());
+    if (DtGenerationRun::isCpp(script))
+        myCppFiles = made;
+    else if (made.empty())
+        DtTellWarning(DtToolRules::scriptWithoutOutput, DtSubject::file(script),
+                      "The script " + script + " has made no file of its own.\n");
+}
+
+// The writers leave out what they cannot read, and read the shipped file where a template directory has something else
+// than a file.
+void DtModelGeneration::checkTemplates() const
 {
     for (const std::string& file : DtReadDataFiles())
         if (access(file.c_str(), R_OK) != 0)
-            fail(DtExitCode::Unreadable, "the template " + DtAbsolutePath(file) + " cannot be read.");
+            fail(DtExitCode::Unreadable, "the template " + DtAbsolutePath(file) +
+                                             " cannot be read. Templates are looked for in the directories that "
+                                             "--template-dir names, then in the data directory.");
+    for (const auto& [place, used] : placesAhead())
+        if (DtIsFile(used) && fs::symlink_status(place).type() != fs::file_type::not_found)
+            fail(DtExitCode::Unreadable, place + " is no file, so it cannot stand in for " + used + ".");
 }
 
 std::vector<std::string> DtModelGeneration::commandFiles()
@@ -451,9 +472,18 @@ std::set<std::string> DtModelGeneration::inputs() const
     return files;
 }
 
-// A template directory has a file under the path that the shipped one has below "templates", or below the data
-// directory itself for a command file.
 std::set<std::string> DtModelGeneration::awaited() const
+{
+    std::set<std::string> files = myLookedFor;
+    for (const auto& each : placesAhead())
+        files.insert(each.first);
+    return files;
+}
+
+// Where the template directories have nothing, or no file, for a file that was read: each such place with that file. A
+// template directory has a file under the path that the shipped one has below "templates", or below the data directory
+// itself for a command file.
+std::vector<std::pair<std::string, std::string>> DtModelGeneration::placesAhead() const
 {
     std::vector<std::string> directories;
     for (const std::string& directory : myRequest.templateDirectories)
@@ -461,16 +491,16 @@ std::set<std::string> DtModelGeneration::awaited() const
     std::vector<std::string> places = directories;
     places.push_back(DtAbsolutePath(myRequest.dataDirectory + "templates/"));
     places.push_back(DtAbsolutePath(myRequest.dataDirectory));
-    std::set<std::string> files = myLookedFor;
+    std::vector<std::pair<std::string, std::string>> ahead;
     for (const std::string& read : DtReadDataFiles())
     {
         const std::string file = DtAbsolutePath(read);
         const auto isIn = [&file](const std::string& place) { return DtStartsWith(file, place); };
         const auto place = std::find_if(places.begin(), places.end(), isIn);
         const std::string path = place == places.end() ? std::string() : file.substr(place->size());
-        const std::size_t ahead = std::min<std::size_t>(place - places.begin(), directories.size());
-        for (std::size_t index = 0; index < ahead && !path.empty(); ++index)
-            files.insert(directories[index] + path);
+        const std::size_t passed = std::min<std::size_t>(place - places.begin(), directories.size());
+        for (std::size_t index = 0; index < passed && !path.empty(); ++index)
+            ahead.emplace_back(directories[index] + path, file);
     }
-    return files;
+    return ahead;
 }

@@ -12,7 +12,10 @@
 #include <filesystem>
 #include <set>
 #include <string>
+#include <utility>
 #include <vector>
+
+class DtOutputTree;
 
 // What a run without a window is asked for. Paths count from the working directory.
 struct DtGenerationRequest
@@ -74,7 +77,9 @@ private:
     void selectByPatterns();
     void selectByDefault();
     void fillProject();
-    static void checkTemplates();
+    void runScript(const std::string& file, DtGenerationRun& run, const DtOutputTree& tree);
+    void checkTemplates() const;
+    std::vector<std::pair<std::string, std::string>> placesAhead() const;
     std::vector<DtFilename> filesToLoad();
     bool lookFor(const std::string& file);
     // Absolute, but for the standard management model, which is part of the program; empty when it is nowhere.

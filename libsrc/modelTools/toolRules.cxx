@@ -6,13 +6,13 @@
 namespace
 {
 const DtWarningRule* const theRules[] = {
-    &DtToolRules::editedByHand,        &DtToolRules::includeDirectory,   &DtToolRules::manifestDamaged,
-    &DtToolRules::missingClass,        &DtToolRules::outputCheck,        &DtToolRules::recovery,
-    &DtToolRules::scriptWithoutOutput, &DtToolRules::templateBar,        &DtToolRules::templateCarriageReturn,
-    &DtToolRules::templateCommand,     &DtToolRules::templateCondition,  &DtToolRules::templateCycle,
-    &DtToolRules::templateFile,        &DtToolRules::templateLineLength, &DtToolRules::templateLoop,
-    &DtToolRules::templateToken,       &DtToolRules::templateTokenPlace, &DtToolRules::templateUnopened,
-    &DtToolRules::unknownDatatype,
+    &DtToolRules::editedByHand,           &DtToolRules::includeDirectory,    &DtToolRules::manifestDamaged,
+    &DtToolRules::missingClass,           &DtToolRules::outputCheck,         &DtToolRules::recovery,
+    &DtToolRules::scriptReplacesOutput,   &DtToolRules::scriptWithoutOutput, &DtToolRules::templateBar,
+    &DtToolRules::templateCarriageReturn, &DtToolRules::templateCommand,     &DtToolRules::templateCondition,
+    &DtToolRules::templateCycle,          &DtToolRules::templateFile,        &DtToolRules::templateLineLength,
+    &DtToolRules::templateLoop,           &DtToolRules::templateToken,       &DtToolRules::templateTokenPlace,
+    &DtToolRules::templateUnopened,       &DtToolRules::unknownDatatype,
 };
 
 std::vector<const DtWarningRule*> joinedRules()

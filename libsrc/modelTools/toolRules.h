@@ -21,6 +21,8 @@ inline constexpr DtWarningRule outputCheck = {
     "A file that was made is empty or unfinished, is in no list or lies where none may, or one is missing."};
 inline constexpr DtWarningRule recovery = {
     "recovery", "An earlier run was cut off in the output directory, and something is left of it."};
+inline constexpr DtWarningRule scriptReplacesOutput = {
+    "script-replaces-output", "A script makes a file that another script of the same run has made otherwise."};
 inline constexpr DtWarningRule scriptWithoutOutput = {
     "script-without-output", "A script has made no file, or only files that another script makes too."};
 inline constexpr DtWarningRule templateBar = {"template-bar",

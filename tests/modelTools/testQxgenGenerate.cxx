@@ -11,6 +11,8 @@
 #include <QtCore/QJsonDocument>
 #include <QtCore/QJsonObject>
 
+#include <sys/stat.h>
+
 class TestQxgenGenerate : public QObject
 {
     Q_OBJECT
@@ -258,6 +260,50 @@ private Q_SLOTS:
                  twice.err.c_str());
     }
 
+    // What scripts of one run make alike is no matter.
+    void scriptThatReplacesAFileOfAnotherIsWarnedOf()
+    {
+        const auto script = [this](const char* name, const char* shared, const char* own)
+        {
+            myFolder->write(std::string("my/") + name, std::string("language Text\ntemplateDir my\nfile same.txt ") +
+                                                           shared + "\nfile shared.txt same.tlt\nfile " + own +
+                                                           " same.tlt\n");
+        };
+        for (const char* text : {"one", "two", "same"})
+            myFolder->write(std::string("overlay/my/") + text + ".tlt", std::string(text) + "\n");
+        script("first.txt", "one.tlt", "first.out");
+        script("second.txt", "two.tlt", "second.out");
+        const DtProgramEnd end =
+            generate({"--script", "my/second.txt", "--script", "my/first.txt", "--template-dir", "overlay"});
+        QCOMPARE(end.code, 0);
+        const std::string second = (myFolder->path() / "my/second.txt").native();
+        COMPARE_TEXT(end.err, (second + ": warning: The script " + second +
+                               " replaces same.txt, which another script has made in this run. "
+                               "[script-replaces-output]\n")
+                                  .c_str());
+        COMPARE_TEXT(myFolder->text("out/same.txt"), "two\n");
+    }
+
+    void overlayEntryThatIsNoFileIsRefused()
+    {
+        const std::filesystem::path entry = myFolder->path("overlay/json/model.tlt");
+        const std::string refused = "2\n--\nqxgen: error: " + entry.native() +
+                                    " is no file, so it cannot stand in for " QX_SOURCE_DIR
+                                    "/data/templates/json/model.tlt.\n";
+        const DtArguments arguments = {"--script", "json", "--template-dir", "overlay"};
+        std::filesystem::create_directories(entry);
+        COMPARE_TEXT(textOf(generate(arguments)), refused.c_str());
+        std::filesystem::remove(entry);
+        QCOMPARE(mkfifo(entry.c_str(), 0600), 0);
+        COMPARE_TEXT(textOf(generate(arguments)), refused.c_str());
+        std::filesystem::remove(entry);
+        std::filesystem::create_symlink("gone", entry);
+        COMPARE_TEXT(textOf(generate(arguments)), refused.c_str());
+        QVERIFY(!std::filesystem::exists(myFolder->path("out")));
+        std::filesystem::remove(entry);
+        COMPARE_TEXT(textOf(generate(arguments)), "0\n--\n");
+    }
+
     void missingModelOfAProjectIsToldWithAllPlaces()
     {
         DtOmtProject project;
@@ -482,6 +528,9 @@ private Q_SLOTS:
         row("generate|models/small.xml|-o|out|--prefix|a b", 1, "\"a b\" is no value of the key \"prefixName\"");
         row("generate|models/small.xml|-o|out|--include-dir|../up", 1,
             "\"../up\" is no value of the key \"includeName\"");
+        for (const char* name : {" own", "own ", "a/b"})
+            row((std::string("generate|models/small.xml|-o|out|--name|") + name).c_str(), 1,
+                ("\"" + QByteArray(name) + "\" is no name for a library: it takes").constData());
         row("generate|models/small.xml|-o|out|--script|htm", 1, "there is no script \"htm\". Did you mean html?");
         row("generate|models/small.xml|-o|out|--script|", 1, "--script needs a name.");
         row("generate|@gone.txt", 1, "the file of arguments gone.txt cannot be read.");

@@ -1,10 +1,11 @@
 // Values of the sample model's datatypes and the octets that IEEE 1516.2 lays them out in, worked out by hand.
 //
 // Compiled and run together with the code that is generated from data/samples/sample.xml. Each vector is encoded and
-// compared, decoded and compared, and cut off behind each of its octets, which has to be refused. Without arguments it
-// prints a line for each failure and, at the end, the number of vectors; with --list it prints the vectors themselves,
-// as they stand in wireVectors.txt. The JSON beside each value is for other implementations: records by their fields,
-// variant records with "discriminant", enumerations as numbers, characters of arrays as numbers.
+// compared, decoded and compared, and cut off behind each of its octets, which has to be refused; other and random
+// octets may be anything but trouble. Without arguments it prints a line for each failure and, at the end, the number
+// of vectors and of random buffers that were values; with --list it prints the vectors themselves, as they stand in
+// wireVectors.txt. The JSON beside each value is for other implementations: records by their fields, variant records
+// with "discriminant", enumerations as numbers, characters of arrays as numbers.
 
 #include "allDatatypes.h"
 
@@ -13,6 +14,7 @@
 #include <cstring>
 #include <functional>
 #include <map>
+#include <random>
 #include <set>
 #include <string>
 
@@ -22,6 +24,7 @@ typedef std::vector<DtU8> Octets;
 
 int theVectors = 0;
 int theFailures = 0;
+int theRandomValues = 0; // buffers of random octets that were taken
 bool theListing = false;
 
 // Hexadecimal digits; blanks group them.
@@ -134,6 +137,44 @@ void checkOtherOctets(const Coding<Value>& coding, const std::string& name, cons
     }
 }
 
+// The same on every machine and in every run. Half of them are as long as the usual ones, which go further.
+Octets randomOctets(std::size_t usualLength)
+{
+    static std::mt19937 theGenerator(20);
+    // Small octets are counts and discriminants that lead further than most of the others.
+    const unsigned range = theGenerator() % 3 == 0 ? 256 : 4;
+    Octets octets(theGenerator() % 2 == 0 ? usualLength : theGenerator() % 80);
+    for (DtU8& octet : octets)
+        octet = static_cast<DtU8>(theGenerator() % range);
+    return octets;
+}
+
+// Whatever arrives is refused and leaves the value alone, or is a value: it can be written, and what is written reads
+// as the same again. Values are compared by their octets, since there are numbers that do not equal themselves.
+template <class Value>
+void checkRandomOctets(const Coding<Value>& coding, const std::string& name, std::size_t usualLength)
+{
+    for (int round = 0; round < 50; ++round)
+    {
+        const Octets octets = randomOctets(usualLength);
+        const std::string hex = hexOf(octets.data(), octets.size());
+        Value value = Value();
+        if (!coding.read(octets, value))
+        {
+            if (!(value == Value()))
+                fail(name, hex, "a refused buffer changed the value");
+            continue;
+        }
+        ++theRandomValues;
+        Octets once, twice;
+        Value back = Value();
+        if (!coding.write(value, once))
+            fail(name, hex, "taken, and cannot be written");
+        else if (!coding.read(once, back) || !coding.write(back, twice) || once != twice)
+            fail(name, hex, "taken, and gives another value behind a way there and back");
+    }
+}
+
 template <class Value>
 void check(const Coding<Value>& coding, const std::string& name, const std::string& json, const Value& value,
            const std::string& hex, Cut cut = Refused)
@@ -154,6 +195,7 @@ void check(const Coding<Value>& coding, const std::string& name, const std::stri
         fail(name, json, "decodes to another value");
     checkCuts(coding, name, json, expected, cut);
     checkOtherOctets(coding, name, json, expected);
+    checkRandomOctets(coding, name, expected.size());
     Octets longer = expected;
     longer.push_back(0x5a);
     Value untouched = Value();
@@ -821,6 +863,6 @@ int main(int count, char** arguments)
     checkLongVariantRecords();
     checkAttributes();
     if (!theListing)
-        std::printf("%d vectors, %d failures\n", theVectors, theFailures);
+        std::printf("%d vectors, %d random values, %d failures\n", theVectors, theRandomValues, theFailures);
     return theFailures == 0 ? 0 : 1;
 }

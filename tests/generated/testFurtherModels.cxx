@@ -9,7 +9,8 @@
 
 namespace
 {
-const QStringList theRefusedOf2025 = {"DtHLAattributeHandleList", "DtHLAinteractionClassHandleList"};
+const QStringList theRefusedOf2025 = {"DtHLAattributeHandleList", "DtHLAfederateReferenceList",
+                                      "DtHLAinteractionClassHandleList"};
 } // namespace
 
 class TestFurtherModels : public QObject

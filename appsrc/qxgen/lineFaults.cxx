@@ -37,6 +37,15 @@ const CLI::App& chosenCommand(const CLI::App& program)
     return chosen.empty() ? program : *chosen.front();
 }
 
+// The option that has more values than it takes; empty when none has.
+std::string repeatedOption(const CLI::App& app)
+{
+    for (const CLI::Option* option : app.get_options())
+        if (option->count() > 1 && option->count() > static_cast<std::size_t>(option->get_items_expected_max()))
+            return option->get_name();
+    return std::string();
+}
+
 std::string asSentence(std::string text)
 {
     if (text.empty() || text.back() != '.')
@@ -63,6 +72,9 @@ std::string DtFaultOfCommandName(const CLI::App& program, const Words& arguments
 
 std::string DtFaultOfLine(const CLI::App& program, const CLI::ParseError& error)
 {
+    const std::string repeated = repeatedOption(chosenCommand(program));
+    if (error.get_exit_code() == static_cast<int>(CLI::ExitCodes::ArgumentMismatch) && !repeated.empty())
+        return repeated + " is given more than once.";
     const Words rest = program.remaining(true);
     const auto unknown = std::find_if(rest.begin(), rest.end(), isOption);
     if (error.get_exit_code() != static_cast<int>(CLI::ExitCodes::ExtrasError) || unknown == rest.end())

@@ -507,6 +507,8 @@ private Q_SLOTS:
         row("generate|models/small.xml|-o|out|-Z", 1, "qxgen generate has no option -Z. --help tells more.");
         row("completion|bash|zsh", 1, "The following argument was not expected: zsh. --help tells more.");
         row("generate|models/small.xml|-o", 1, "");
+        row("generate|models/small.xml|-o|out|--name|one|--name|two", 1, "--name is given more than once. --help");
+        row("generate|models/small.xml|-o|out|-o|other", 1, "--output is given more than once. --help");
         row("generate|models/small.xml|-o|out|--layout|flat", 1, "--layout: there is no flat. Known are tree|classic.");
         row("generate|models/small.xml|-o|out|--layout|1", 1, "--layout: there is no 1. Known are tree|classic.");
         row("generate|models/small.xml|-o|out|--format|xml", 1, "--format: there is no xml. Known are text|msvs|json.");

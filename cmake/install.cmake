@@ -24,8 +24,7 @@ install(DIRECTORY ${PROJECT_SOURCE_DIR}/data/ DESTINATION ${QX_INSTALL_DATADIR} 
 configure_package_config_file(
     ${PROJECT_SOURCE_DIR}/cmake/package/QuorvexCodeGenConfig.cmake.in
     ${PROJECT_BINARY_DIR}/package/QuorvexCodeGenConfig.cmake
-    INSTALL_DESTINATION ${QX_INSTALL_CMAKEDIR} PATH_VARS CMAKE_INSTALL_BINDIR
-    NO_CHECK_REQUIRED_COMPONENTS_MACRO)
+    INSTALL_DESTINATION ${QX_INSTALL_CMAKEDIR} PATH_VARS CMAKE_INSTALL_BINDIR)
 # A program that runs while others are built: it need not be of their architecture.
 write_basic_package_version_file(${PROJECT_BINARY_DIR}/package/QuorvexCodeGenConfigVersion.cmake
     COMPATIBILITY SameMajorVersion ARCH_INDEPENDENT)

@@ -195,6 +195,13 @@ function(_qx_add_command)
         set(werror --werror)
     endif()
     list(TRANSFORM qx_files PREPEND "${qx_output}/" OUTPUT_VARIABLE paths)
+    # Make looks at the stamp alone. Without it, files that somebody has removed are made again.
+    foreach(path IN LISTS paths)
+        if(NOT EXISTS "${path}")
+            file(REMOVE "${qx_private}/stamp")
+            break()
+        endif()
+    endforeach()
     set_source_files_properties(${paths} PROPERTIES GENERATED TRUE SKIP_AUTOGEN TRUE)
     add_custom_command(
         OUTPUT "${qx_private}/stamp"

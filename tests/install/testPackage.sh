@@ -100,6 +100,20 @@ END
     check bothClassesAreThere test -e build/t_qxgen/generated/nunPublisherHLA.h
 }
 
+# Make looks at a stamp alone, and leaves it to cmake to find that one of the files is gone.
+test_removed_file() {
+    new_project removed <<'END'
+qx_generate_cpp(TARGET t MODELS small.xml)
+END
+    write_model small.xml Buoy
+    must_configure removedFileConfigures
+    must_build removedFileIsThereAtFirst --target t_qxgen
+    rm build/t_qxgen/generated/dllExport.h
+    must_configure cmakeRunsAgainWithoutTheFile
+    must_build buildWithoutTheFileGoesOn --target t_qxgen
+    check removedFileIsMadeAgain test -e build/t_qxgen/generated/dllExport.h
+}
+
 # Several targets, of every kind, in one project; programs in directories of their own, of which each includes headers
 # that are not there when the build begins.
 test_kinds() {
@@ -162,6 +176,10 @@ END
 test_example one
 test_stale_list
 test_kinds
+chosen_generator=$generator
+generator="Unix Makefiles"
+test_removed_file
+generator=$chosen_generator
 if [ -n "${QX_FULL-}" ]; then
     test_examples
     generator="Unix Makefiles"

@@ -47,6 +47,21 @@ check nothingIsWrittenByCMake test ! -e build/few_qxgen/generated
 configure -DBUILD_SHARED_LIBS=ON
 holds kindOfLibrariesOfTheProjectCounts "<SHARED_LIBRARY>" "$log"
 
+# Components that there are, and one that there is not.
+new_project components <<'END'
+foreach(components IN ITEMS "generator;toolkit" "nothing")
+    find_package(QuorvexCodeGen CONFIG QUIET COMPONENTS ${components})
+    if(QuorvexCodeGen_FOUND)
+        message("found <${components}>")
+    else()
+        message("not found <${components}>")
+    endif()
+endforeach()
+END
+configure
+holds componentsThatThereAreAreFound $'\n''found <generator;toolkit>' "$log"
+holds componentThatThereIsNotIsNotFound "not found <nothing>" "$log"
+
 # A project file brings model and selection, here that of a directory of headers.
 new_project project <<'END'
 qx_generate_cpp(TARGET p PROJECT sub/p.qxproj SETTINGS includeName=heads)

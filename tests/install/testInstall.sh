@@ -35,6 +35,14 @@ holds documentsHaveThoseOfTheRepository share/doc/quorvex-codegen/docs/qxgen.md 
 holds documentsHaveManualPages share/man/man1/qxgen-generate.1 "$(cat "$work/files-doc")"
 holds desktopHasTheMenuEntry share/applications/com.quorvex.CodeGen.desktop "$(cat "$work/files-desktop")"
 holds desktopHasCompletions share/bash-completion/completions/qxgen "$(cat "$work/files-desktop")"
+dead_links() { # directory
+    (cd "$1" && grep -rHo --include='*.md' '](\([^):#]*\)[#)]' . | while IFS=: read -r page link; do
+        link=${link#](}
+        link=${link%[#)]}
+        [ -z "$link" ] || [ -e "$(dirname "$page")/$link" ] || echo "$page $link"
+    done)
+}
+same linksOfInstalledDocumentsLeadSomewhere "" "$(dead_links "$work/doc/share/doc/quorvex-codegen")"
 holds documentsHaveTheExample share/doc/quorvex-codegen/examples/cmake/CMakeLists.txt "$(cat "$work/files-doc")"
 install --prefix "$prefix"
 same componentsAreTheWhole "$(cat "$work"/files-* | LC_ALL=C sort)" "$(files "$prefix")"

@@ -3,6 +3,7 @@
 #include "commands.h"
 #include "lineFaults.h"
 
+#include "foundation/textEnds.h"
 #include "modelTools/argumentFile.h"
 #include "modelTools/diagnostics.h"
 #include "modelTools/outputException.h"
@@ -68,6 +69,23 @@ int endOfOutput(DtExitCode code, const DtFailureTeller& teller)
     return teller.fail(DtGraver(code, DtExitCode::Unwritable), "standard output cannot be written.");
 }
 
+// The option library takes the word behind "--name=" for its value when nothing stands behind the sign. A variable of a
+// script that is empty gives such a word, and has an empty value.
+std::vector<std::string> withEmptyValuesApart(const std::vector<std::string>& arguments)
+{
+    std::vector<std::string> words;
+    const auto last = std::find(arguments.begin(), arguments.end(), "--");
+    for (auto each = arguments.begin(); each != arguments.end(); ++each)
+    {
+        const bool isEmptyValue =
+            each < last && DtStartsWith(*each, "--") && each->find('=') == each->size() - 1 && each->size() > 3;
+        words.push_back(isEmptyValue ? each->substr(0, each->size() - 1) : *each);
+        if (isEmptyValue)
+            words.emplace_back();
+    }
+    return words;
+}
+
 int runCommand(CLI::App& program, const DtCommandRun& run, std::vector<std::string> arguments,
                const DtFailureTeller& teller)
 {
@@ -114,7 +132,7 @@ int runProgram(const std::vector<std::string>& arguments, DtFailureTeller& telle
         return end(DtExitCode::Done);
     }
     teller.setFormat(formatOfErrors(arguments)); // for the files of arguments
-    const std::vector<std::string> words = DtExpandedArguments(arguments);
+    const std::vector<std::string> words = withEmptyValuesApart(DtExpandedArguments(arguments));
     teller.setFormat(formatOfErrors(words));
     const std::string fault = DtFaultOfCommandName(program, words);
     if (!fault.empty())

@@ -8,20 +8,6 @@
 
 namespace
 {
-const char* nameOf(DtSeverity severity)
-{
-    switch (severity)
-    {
-    case DtSeverity::Note:
-        return "note";
-    case DtSeverity::Warning:
-        return "warning";
-    case DtSeverity::Error:
-        break;
-    }
-    return "error";
-}
-
 const char* colorOf(DtSeverity severity)
 {
     switch (severity)
@@ -61,20 +47,21 @@ std::string formattedText(const DtDiagnostic& diagnostic, bool isColored)
     const char* const color = isColored ? colorOf(diagnostic.severity) : "";
     const char* const plain = isColored ? "\033[0m" : "";
     const std::string rule = diagnostic.rule.empty() ? "" : " [" + diagnostic.rule + "]";
-    return bold + textPlace(diagnostic.place) + ": " + plain + color + nameOf(diagnostic.severity) + ": " + plain +
-           diagnostic.text + rule + "\n";
+    return bold + textPlace(diagnostic.place) + ": " + plain + color + DtSeverityName(diagnostic.severity) + ": " +
+           plain + diagnostic.text + rule + "\n";
 }
 
 std::string formattedMsvs(const DtDiagnostic& diagnostic)
 {
     const std::string rule = diagnostic.rule.empty() ? "" : " " + diagnostic.rule;
-    return msvsPlace(diagnostic.place) + ": " + nameOf(diagnostic.severity) + rule + ": " + diagnostic.text + "\n";
+    return msvsPlace(diagnostic.place) + ": " + DtSeverityName(diagnostic.severity) + rule + ": " + diagnostic.text +
+           "\n";
 }
 
 std::string formattedJson(const DtDiagnostic& diagnostic)
 {
     nlohmann::ordered_json object;
-    object["severity"] = nameOf(diagnostic.severity);
+    object["severity"] = DtSeverityName(diagnostic.severity);
     if (!diagnostic.rule.empty())
         object["rule"] = diagnostic.rule;
     if (!diagnostic.place.file.empty())
@@ -96,6 +83,20 @@ std::string withoutPrefix(std::string text, const std::string& prefix)
     return text;
 }
 } // namespace
+
+const char* DtSeverityName(DtSeverity severity)
+{
+    switch (severity)
+    {
+    case DtSeverity::Note:
+        return "note";
+    case DtSeverity::Warning:
+        return "warning";
+    case DtSeverity::Error:
+        break;
+    }
+    return "error";
+}
 
 std::string DtFormatted(const DtDiagnostic& diagnostic, DtDiagnosticFormat format, bool isColored)
 {

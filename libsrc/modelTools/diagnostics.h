@@ -22,6 +22,8 @@ enum class DtSeverity
     Warning,
     Error
 };
+// "note", "warning", "error".
+const char* DtSeverityName(DtSeverity severity);
 
 struct DtDiagnostic
 {

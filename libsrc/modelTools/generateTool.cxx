@@ -69,7 +69,7 @@ void writeWhole(const std::string& path, const std::string& text)
 {
     const DtSignalHold hold;
     std::error_code ignored;
-    fs::create_directories(fs::absolute(path).parent_path(), ignored);
+    fs::create_directories(fs::path(DtAbsolutePath(path)).parent_path(), ignored);
     errno = 0;
     if (!DtReplaceFile(DtString(path), text))
         throw DtOutputException::ofSystem(path, "cannot be written");
@@ -128,7 +128,7 @@ DtExitCode DtGenerateTool::runLocked(DtDiagnostics& diagnostics)
 }
 
 // What is wrong with the command line or with an input goes ahead of an output that cannot be had.
-std::unique_ptr<DtOutputLock> DtGenerateTool::takeLock() const
+std::unique_ptr<DtOutputLock> DtGenerateTool::takeLock()
 {
     const auto notice = [this](const std::string& holder)
     { tellNote("waiting for the run of process " + holder + " in " + myOptions.outputDirectory); };
@@ -139,7 +139,8 @@ std::unique_ptr<DtOutputLock> DtGenerateTool::takeLock() const
     }
     catch (const DtOutputException&)
     {
-        DtModelGeneration(myOptions.request).load();
+        DtModelGeneration generation(myOptions.request);
+        noteInputsBehind(generation, [&generation] { generation.load(); });
         throw;
     }
 }
@@ -154,7 +155,9 @@ DtExitCode DtGenerateTool::runInto(DtOutputStage& stage, DtDiagnostics& diagnost
     if (faults == DtExitCode::Done && myOptions.use != DtOutputUse::List)
         findEdits(stage, diagnostics);
     findPlaces(diagnostics);
-    if (faults == DtExitCode::Done && !myOptions.report.empty())
+    if (faults == DtExitCode::Done && myOptions.use == DtOutputUse::List)
+        myReport.listed = stage.files();
+    else if (faults == DtExitCode::Done && !myOptions.report.empty())
         myReport.setFiles(stage.files(), stage.differences());
     const bool hasFindings = myOptions.warningsAreErrors && diagnostics.count(DtSeverity::Warning) > 0;
     if (faults != DtExitCode::Done || hasFindings)
@@ -226,12 +229,26 @@ void DtGenerateTool::generate(DtOutputStage& stage, DtDiagnostics& diagnostics)
         shown = std::make_unique<DtTerminalProgress>(myErr);
     const DtProgressUse use(shown != nullptr ? static_cast<DtProgressMeter&>(*shown) : quiet);
     DtModelGeneration generation(myOptions.request);
+    noteInputsBehind(generation,
+                     [&]
+                     {
+                         generation.load();
+                         noteTime("load");
+                         generation.writeInto(stage.path());
+                         noteTime("generate");
+                     });
+    myReport.setProject(generation.project());
+    myIncludePath = DtSettings::instance().cpp.includePath();
+    checkOutput(stage, diagnostics);
+}
+
+// Of steps that fail, too.
+template <typename Steps>
+void DtGenerateTool::noteInputsBehind(const DtModelGeneration& generation, const Steps& steps)
+{
     try
     {
-        generation.load();
-        noteTime("load");
-        generation.writeInto(stage.path());
-        noteTime("generate");
+        steps();
     }
     catch (...)
     {
@@ -239,9 +256,6 @@ void DtGenerateTool::generate(DtOutputStage& stage, DtDiagnostics& diagnostics)
         throw;
     }
     noteInputs(generation);
-    myReport.setProject(generation.project());
-    myIncludePath = DtSettings::instance().cpp.includePath();
-    checkOutput(stage, diagnostics);
 }
 
 void DtGenerateTool::noteInputs(const DtModelGeneration& generation)

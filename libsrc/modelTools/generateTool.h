@@ -73,7 +73,7 @@ private:
 
     DtExitCode runCompared(DtDiagnostics& diagnostics);
     DtExitCode runLocked(DtDiagnostics& diagnostics);
-    std::unique_ptr<DtOutputLock> takeLock() const;
+    std::unique_ptr<DtOutputLock> takeLock();
     DtExitCode runInto(DtOutputStage& stage, DtDiagnostics& diagnostics);
     static DtExitCode codeOfFaults(DtDiagnostics& diagnostics);
     void failOnFirstWrite(const DtOutputStage& stage, DtDiagnostics& diagnostics) const;
@@ -81,6 +81,8 @@ private:
     void addNotice(const DtOutputChange& change, DtDiagnostics& diagnostics) const;
     void generate(DtOutputStage& stage, DtDiagnostics& diagnostics);
     void noteInputs(const DtModelGeneration& generation);
+    template <typename Steps>
+    void noteInputsBehind(const DtModelGeneration& generation, const Steps& steps);
     void findPlaces(DtDiagnostics& diagnostics) const;
     void checkOutput(const DtOutputStage& stage, DtDiagnostics& diagnostics) const;
     void findEdits(DtOutputStage& stage, DtDiagnostics& diagnostics) const;

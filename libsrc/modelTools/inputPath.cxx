@@ -1,5 +1,7 @@
 #include "modelTools/inputPath.h"
 
+#include "modelTools/toolFailure.h"
+
 #include <filesystem>
 #include <system_error>
 
@@ -11,5 +13,11 @@ bool DtIsFile(const std::string& path)
 
 std::string DtAbsolutePath(const std::string& path)
 {
-    return path.empty() ? path : std::filesystem::absolute(path).lexically_normal().string();
+    if (path.empty())
+        return path;
+    std::error_code error;
+    const std::filesystem::path absolute = std::filesystem::absolute(path, error);
+    if (error) // of the working directory
+        throw DtToolFailure(DtExitCode::Unreadable, "the working directory cannot be found: " + error.message() + ".");
+    return absolute.lexically_normal().string();
 }

@@ -21,6 +21,8 @@
 #include "omtReader/omtTree.h"
 
 #include <algorithm>
+#include <cerrno>
+#include <cstring>
 #include <iterator>
 #include <string_view>
 #include <system_error>
@@ -201,15 +203,31 @@ void DtModelGeneration::loadModels()
         fail(DtExitCode::Usage, "the management model alone is no model; name a model file.");
     const bool includeMim = myConfiguration.includeStandardMIM();
     DtSettings::instance().cpp.includesMim = includeMim;
+    checkAccess();
     myModel = DtLoadModel(files, includeMim);
     if (myModel.tree == nullptr && myModel.type == DtFomUnknown)
         DtFedReader::checkFomType(files.front()); // once more, to tell what is wrong
     if (myModel.tree == nullptr)
         fail(DtExitCode::Unreadable, "the model cannot be read: " + myModelFiles.front() +
                                          (myModelFiles.size() > 1 ? " and the modules behind it." : "."));
+    if (myModel.type == DtFomOmt13 && myModelFiles.size() > 1)
+        fail(DtExitCode::Unreadable, "the OMT text " + myModelFiles.front() + " is a whole model: " + myModelFiles[1] +
+                                         " cannot be a module of it.");
     DtDataTypeMapper& mapper = *DtDataTypeMapper::instance();
     mapper.setPredefinedTypes(myProject.predefinedTypes());
     mapper.populateFromOmtTree(myModel.tree.get());
+}
+
+// What a reader of models cannot tell.
+void DtModelGeneration::checkAccess() const
+{
+    for (const std::string& file : myModelFiles)
+    {
+        if (access(file.c_str(), R_OK) != 0)
+            fail(DtExitCode::Unreadable, "the model cannot be read: " + file + ": " + std::strerror(errno) + ".");
+        if (fs::path(file).extension() == ".qxproj")
+            fail(DtExitCode::Unreadable, "a project stands behind --project, not among the models: " + file + ".");
+    }
 }
 
 std::vector<DtFilename> DtModelGeneration::filesToLoad()
@@ -269,7 +287,7 @@ DtFilename DtModelGeneration::findModelOnLine(const std::string& name)
 // Where it was when the project was saved, else beside the project, else where any model is looked for.
 DtFilename DtModelGeneration::findProjectModel(const DtOmtProject::DtFilePair& model)
 {
-    const fs::path project = fs::absolute(myRequest.project).parent_path();
+    const fs::path project = fs::path(DtAbsolutePath(myRequest.project)).parent_path();
     for (const auto& [name, directory] : DtModelSpellings(model))
     {
         for (const fs::path& place : {project / directory.stdString(), project})
@@ -279,7 +297,8 @@ DtFilename DtModelGeneration::findProjectModel(const DtOmtProject::DtFilePair& m
         if (!found.isEmpty())
             return found;
     }
-    const std::string saved = DtAbsolutePath((project / model.second.stdString()).string());
+    const fs::path meant = DtAbsolutePath((project / model.second.stdString()).string());
+    const std::string saved = (meant.has_filename() ? meant : meant.parent_path()).string();
     const std::string own = DtAbsolutePath(project.string());
     failWithoutModel(model.first.stdString(), saved + ", " + (saved != own ? own + ", " : ""));
 }

@@ -73,6 +73,7 @@ private:
     void readProject();
     void setUpSettings();
     void loadModels();
+    void checkAccess() const;
     void select();
     void selectByPatterns();
     void selectByDefault();

@@ -46,6 +46,13 @@ std::map<std::string, std::vector<const DtDiagnostic*>> byRule(const std::vector
     return groups;
 }
 
+std::size_t countOf(const std::vector<DtDiagnostic>& diagnostics, DtSeverity severity)
+{
+    return static_cast<std::size_t>(std::count_if(diagnostics.begin(), diagnostics.end(),
+                                                  [severity](const DtDiagnostic& each)
+                                                  { return each.severity == severity; }));
+}
+
 // The datatypes whose values are refused, by their names in the model.
 std::set<std::string> notEncodable(const std::vector<DtDiagnostic>& diagnostics)
 {
@@ -91,19 +98,22 @@ std::string placeText(const DtPlace& place)
     std::string text = place.file;
     if (place.line > 0)
         text += ":" + std::to_string(place.line);
+    if (place.line > 0 && place.column > 0)
+        text += ":" + std::to_string(place.column);
     return text;
 }
 
 std::string diagnosticsTable(const std::vector<DtDiagnostic>& diagnostics)
 {
     if (diagnostics.empty())
-        return "<p>No warnings.</p>\n";
+        return "<p>Nothing was found.</p>\n";
     std::string text;
     for (const auto& [rule, group] : byRule(diagnostics))
     {
         text += "<h3>" + escaped(rule) + " (" + number(group.size()) + ")</h3>\n<table>\n";
         for (const DtDiagnostic* diagnostic : group)
-            text += row(placeText(diagnostic->place), diagnostic->text);
+            text += row(placeText(diagnostic->place),
+                        std::string(DtSeverityName(diagnostic->severity)) + ": " + diagnostic->text);
         text += "</table>\n";
     }
     return text;
@@ -165,13 +175,15 @@ std::string DtRunReport::json() const
         {"removed",            removed.size()    },
         {"kept",               kept.size()       },
         {"unchanged",          unchanged.size()  },
+        {"listed",             listed.size()     },
         {"diagnostics",        diagnostics.size()}
     };
     report["files"] = {
         {"written",   written  },
         {"removed",   removed  },
         {"kept",      kept     },
-        {"unchanged", unchanged}
+        {"unchanged", unchanged},
+        {"listed",    listed   }
     };
     report["diagnostics"] = Json::object();
     for (const auto& [rule, group] : byRule(diagnostics))
@@ -196,14 +208,19 @@ std::string DtRunReport::html() const
         "<!DOCTYPE html>\n<html lang=\"en\"><head><meta charset=\"utf-8\"><title>Generation report</title>"
         "<style>";
     text += std::string(theStyle) + "</style></head>\n<body>\n<h1>Generation report</h1>\n<table>\n";
-    text += row("Program", std::string("qxgen ") + DtProgramVersion()) +
-            row("Output", outputDirectory + (isCommitted ? "" : ", left as it was"));
+    text += row("Program", std::string("qxgen ") + DtProgramVersion());
+    if (!outputDirectory.empty())
+        text += row("Output", outputDirectory + (isCommitted ? "" : ", left as it was"));
     text += row("Object classes", number(objectClasses)) + row("Interaction classes", number(interactionClasses));
+    text += row("Errors", number(countOf(diagnostics, DtSeverity::Error))) +
+            row("Warnings", number(countOf(diagnostics, DtSeverity::Warning)));
     for (const auto& [step, seconds] : times)
         text += row("Seconds, " + step, QString::number(seconds, 'f', 3).toStdString());
     text += "</table>\n<h2>Files</h2>\n" + list("written", written) + list("removed", removed) +
-            list("edited by hand and kept", kept) + list("unchanged", unchanged);
-    text += "<h2>Warnings</h2>\n" + diagnosticsTable(diagnostics);
+            list("edited by hand and kept", kept) + list("unchanged", unchanged) + list("listed", listed);
+    text += "<h2>Errors and warnings</h2>\n" + diagnosticsTable(diagnostics);
+    const std::set<std::string> refused = notEncodable(diagnostics);
+    text += list("datatypes without encoding", {refused.begin(), refused.end()});
     if (!renamed.empty())
         text += "<h2>Renamed classes</h2>\n<table>\n";
     for (const DtRenamed& each : renamed)

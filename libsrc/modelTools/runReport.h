@@ -30,6 +30,7 @@ struct DtRunReport
     std::vector<std::string> removed;
     std::vector<std::string> kept; // edited by hand and not made any more
     std::vector<std::string> unchanged;
+    std::vector<std::string> listed; // by a run that names its outputs and compares them with nothing
     std::vector<DtDiagnostic> diagnostics;
     std::vector<DtRenamed> renamed;
     std::vector<std::pair<std::string, double>> times; // step and its seconds

@@ -69,6 +69,7 @@ private Q_SLOTS:
         }
         qInfo("%d of %d runs were killed, %d with a journal", interrupted, theKills, behindJournal);
         QVERIFY(interrupted > theKills / 4);
+        QVERIFY(behindJournal > 0);
     }
 
     void signalEndsARun_data()

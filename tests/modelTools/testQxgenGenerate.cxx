@@ -304,6 +304,47 @@ private Q_SLOTS:
         COMPARE_TEXT(textOf(generate(arguments)), "0\n--\n");
     }
 
+    void workingDirectoryThatIsGoneIsTold()
+    {
+        myFolder->write("gone/here", "");
+        const DtProgramEnd end = myFolder->run({"generate", "models/small.xml", "-o", "out"},
+                                               []
+                                               {
+                                                   if (chdir("gone") != 0 || system("rm -r ../gone") != 0)
+                                                       _exit(126);
+                                               });
+        COMPARE_TEXT(textOf(end), "2\n--\nqxgen: error: the working directory cannot be found: No such file or "
+                                  "directory.\n");
+    }
+
+    void emptyValuesOfSettingsThatMayBeEmptyTakeNoOtherWord()
+    {
+        const DtProgramEnd end = generate({"--include-dir=", "--prefix=", "--namespace=", "--dry-run"});
+        QCOMPARE(end.code, 0);
+        QVERIFY2(contains(end.out, "A bargeStateRepository.h\n"), end.out.c_str());
+        QVERIFY(!std::filesystem::exists(myFolder->path("out")));
+    }
+
+    void reportOfARunThatListsComparesNothing()
+    {
+        QCOMPARE(myFolder->generate({"models/small.xml", "--list", "--script", "json", "--report", "r.json"}).code, 0);
+        const QJsonObject report =
+            QJsonDocument::fromJson(QByteArray::fromStdString(myFolder->text("r.json"))).object();
+        const QJsonObject counts = report["counts"].toObject();
+        QCOMPARE(counts["listed"].toInt(), 1);
+        QCOMPARE(counts["written"].toInt() + counts["unchanged"].toInt(), 0);
+    }
+
+    void warningsHavePlacesWhereTheOutputCannotBeHad()
+    {
+        myFolder->write("models/typo.xml",
+                        moduleText(objectText("Barge", attributeText("Load", "Loadd"))).toStdString());
+        const DtProgramEnd end = myFolder->generate({"models/typo.xml", "-o", "models/small.xml/out"});
+        QCOMPARE(end.code, 5);
+        QVERIFY2(contains(end.err, "models/typo.xml:"), end.err.c_str());
+        QVERIFY2(contains(end.err, "[unknown-datatype]"), end.err.c_str());
+    }
+
     void missingModelOfAProjectIsToldWithAllPlaces()
     {
         DtOmtProject project;
@@ -315,6 +356,11 @@ private Q_SLOTS:
                      ("2\n--\nqxgen: error: there is no model gone.xml in " + top + "/shelf, " + top +
                       ", the working directory, my or below RTI_CONFIG. --model-path names further directories.\n")
                          .c_str());
+        DtOmtProject beside;
+        beside.addFomDefFile("gone.xml", "");
+        DtOmtProjectXmlWriter(beside, DtFilename(DtString(myFolder->path("lost/own.qxproj").native()))).writeXml();
+        const std::string told = myFolder->generate({"--project", "lost/own.qxproj", "-o", "out"}).err;
+        QVERIFY2(contains(told, "no model gone.xml in " + top + ", the working directory or below"), told.c_str());
     }
 
     void projectGivesModelsSelectionAndNames()
@@ -390,7 +436,7 @@ private Q_SLOTS:
             QJsonDocument::fromJson(QByteArray(myFolder->text("r/report.json").c_str())).object();
         QCOMPARE(
             QJsonDocument(report["files"].toObject()).toJson(QJsonDocument::Compact),
-            QByteArray("{\"kept\":[],\"removed\":[\"model.json\"],\"unchanged\":[],\"written\":[\"model.xhtml\"]}"));
+            QByteArray("{\"kept\":[],\"listed\":[],\"removed\":[\"model.json\"],\"unchanged\":[],\"written\":[\"model.xhtml\"]}"));
         QCOMPARE(report["committed"].toBool(), true);
         QCOMPARE(report["counts"].toObject()["objectClasses"].toInt(), 3);
         QCOMPARE(report["counts"].toObject()["interactionClasses"].toInt(), 1);
@@ -496,10 +542,12 @@ private Q_SLOTS:
         row("generate|models/small.xml", 1, "no output directory is given; -o DIR names it.");
         row("generate||-o|out", 1, "MODEL has an empty value.");
         row("list|", 1, "MODEL has an empty value.");
+        // Another option behind it shows that it does not become the value.
         for (const char* option : {"--project", "--config", "--stamp", "--report", "--depfile", "--data-dir", "--name",
                                    "--model-path", "--template-dir", "--select", "--expect-list"})
-            row((std::string("generate|models/small.xml|-o|out|") + option + "|").c_str(), 1,
-                (std::string(option) + " has an empty value.").c_str());
+            for (const char* form : {"|", "=|--dry-run"})
+                row((std::string("generate|models/small.xml|-o|out|") + option + form).c_str(), 1,
+                    (std::string(option) + " has an empty value.").c_str());
         row("generate|models/gone.xml|-o|out|--script|nope", 1, "there is no script \"nope\".");
         row("generate|models/small.xml|-o|out|--frob", 1, "qxgen generate has no option --frob. --help tells more.");
         row("generate|models/small.xml|-o|out|--lits=x", 1,
@@ -537,6 +585,9 @@ private Q_SLOTS:
         row("generate|models/small.xml|-o|out|--script|", 1, "--script needs a name.");
         row("generate|@gone.txt", 1, "the file of arguments gone.txt cannot be read.");
         row("generate|models/gone.xml|-o|out", 2, "there is no model models/gone.xml");
+        row("generate|models/text.omt|models/small.xml|-o|out", 2, "the OMT text ");
+        row("list|models/text.omt|models/small.xml", 2, "the OMT text ");
+        row("generate|models/own.qxproj|-o|out", 2, "a project stands behind --project, not among the models: ");
         row("generate|models|-o|out", 2, "there is no model models ");
         row("generate|--project|gone.qxproj|-o|out", 2, "there is no project file gone.qxproj.");
         row("generate|--project|models/small.xml|-o|out", 2, "models/small.xml is no project file.");
@@ -561,6 +612,8 @@ private Q_SLOTS:
         writeOwnFiles();
         myFolder->write("my/data/genHtml.txt", readBytes(QX_SOURCE_DIR "/data/genHtml.txt"));
         myFolder->write("models/broken.xml", "<objectModel>");
+        myFolder->write("models/text.omt", "(ObjectModel (Name small) (Class (ID 1) (Name \"Barge\")))\n");
+        myFolder->write("models/own.qxproj", "<objectModel/>");
         DtArguments line;
         if (!arguments.isEmpty())
             for (const QByteArray& each : arguments.split('|'))

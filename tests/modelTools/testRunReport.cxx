@@ -38,6 +38,10 @@ DtRunReport fullReport()
     report.unchanged = {"M\xc3\xa4rz.h", "Makefile", "b.h"};
     report.diagnostics = {warning("second", "text <2> & \"more\"", {"/models/a & b.xml", 7, 3}),
                           warning("first", "line one\nline two"), warning("second", "text 3", {"a.xml", 0, 0})};
+    report.diagnostics[2].severity = DtSeverity::Error;
+    DtDiagnostic refused = warning("no-encoding", "cannot be encoded");
+    refused.subject = DtSubject::datatype("Route");
+    report.diagnostics.push_back(refused);
     report.renamed = {
         {"HLAobjectRoot.A.Ship", "Ship2"}
     };
@@ -99,11 +103,12 @@ private Q_SLOTS:
         QCOMPARE(compact(report["inputs"]), QString("[{\"path\":\"/models/a & b.xml\",\"sha256\":\"00ff\"},"
                                                     "{\"path\":\"/models/\\\"c\\\".xml\",\"sha256\":\"\"}]"));
         QCOMPARE(compact(report["counts"]),
-                 QString("{\"diagnostics\":3,\"interactionClasses\":2,\"kept\":1,"
+                 QString("{\"diagnostics\":4,\"interactionClasses\":2,\"kept\":1,\"listed\":0,"
                          "\"objectClasses\":3,\"removed\":1,\"unchanged\":3,\"written\":2}"));
         QCOMPARE(compact(report["files"]),
-                 QString::fromUtf8("{\"kept\":[\"mine.h\"],\"removed\":[\"old.h\"],\"unchanged\":[\"M\xc3\xa4rz.h\","
-                                   "\"Makefile\",\"b.h\"],\"written\":[\"a.cxx\",\"a.h\"]}"));
+                 QString::fromUtf8(
+                     "{\"kept\":[\"mine.h\"],\"listed\":[],\"removed\":[\"old.h\"],\"unchanged\":[\"M\xc3\xa4rz.h\","
+                     "\"Makefile\",\"b.h\"],\"written\":[\"a.cxx\",\"a.h\"]}"));
         QCOMPARE(compact(report["renamed"]), QString("[{\"class\":\"HLAobjectRoot.A.Ship\",\"name\":\"Ship2\"}]"));
         QCOMPARE(compact(report["seconds"]), QString("{\"load\":0.25,\"total\":1.5}"));
     }
@@ -111,7 +116,7 @@ private Q_SLOTS:
     void jsonHasWarningsByRuleWithTheirPlaces()
     {
         const QJsonObject rules = parsed(fullReport())["diagnostics"].toObject();
-        QCOMPARE(rules.keys().join(' '), QString("first second"));
+        QCOMPARE(rules.keys().join(' '), QString("first no-encoding second"));
         QCOMPARE(rules["first"].toArray().size(), 1);
         QCOMPARE(rules["first"].toArray()[0].toObject()["text"].toString(), QString("line one\nline two"));
         const QJsonArray second = rules["second"].toArray();
@@ -124,7 +129,8 @@ private Q_SLOTS:
     void emptyReportIsWholeToo()
     {
         const QJsonObject report = parsed(DtRunReport());
-        QCOMPARE(compact(report["files"]), QString("{\"kept\":[],\"removed\":[],\"unchanged\":[],\"written\":[]}"));
+        QCOMPARE(compact(report["files"]),
+                 QString("{\"kept\":[],\"listed\":[],\"removed\":[],\"unchanged\":[],\"written\":[]}"));
         QCOMPARE(compact(report["inputs"]), QString("[]"));
         QCOMPARE(compact(report["renamed"]), QString("[]"));
         QCOMPARE(compact(report["diagnostics"]), QString("{}"));
@@ -222,12 +228,39 @@ private Q_SLOTS:
     void pageTellsAll()
     {
         const QString page = QString::fromStdString(fullReport().html());
-        for (const char* text :
-             {"out &lt;1&gt;", "/models/a &amp; b.xml", "<td>00ff</td>", "2 written", "<li>a.cxx</li>", "1 removed",
-              "1 edited by hand and kept", "3 unchanged", "<li>M\xc3\xa4rz.h</li>", "second (2)", "first (1)",
-              "/models/a &amp; b.xml:7", "text &lt;2&gt; &amp; &quot;more&quot;", "HLAobjectRoot.A.Ship", "Ship2",
-              "Seconds, load", "0.250"})
+        for (const char* text : {"out &lt;1&gt;",
+                                 "/models/a &amp; b.xml",
+                                 "<td>00ff</td>",
+                                 "2 written",
+                                 "<li>a.cxx</li>",
+                                 "1 removed",
+                                 "1 edited by hand and kept",
+                                 "3 unchanged",
+                                 "<li>M\xc3\xa4rz.h</li>",
+                                 "second (2)",
+                                 "first (1)",
+                                 "/models/a &amp; b.xml:7:3",
+                                 "<td>warning: text &lt;2&gt; &amp; &quot;more&quot;",
+                                 "HLAobjectRoot.A.Ship",
+                                 "Ship2",
+                                 "<th>a.xml</th><td>error: text 3</td>",
+                                 "<th>Errors</th><td>1</td>",
+                                 "<th>Warnings</th><td>3</td>",
+                                 "1 datatypes without encoding",
+                                 "<li>Route</li>",
+                                 "Seconds, load",
+                                 "0.250"})
             QVERIFY2(page.contains(QString::fromUtf8(text)), text);
+    }
+
+    void runThatListsHasNoOutputDirectory()
+    {
+        DtRunReport report;
+        report.listed = {"a.h", "b.h"};
+        const std::string page = report.html();
+        QVERIFY(page.find("2 listed") != std::string::npos);
+        QVERIFY(page.find("left as it was") == std::string::npos);
+        QCOMPARE(compact(parsed(report)["files"].toObject()["listed"]), QString("[\"a.h\",\"b.h\"]"));
     }
 
     void nameDecidesOnTheKind_data()

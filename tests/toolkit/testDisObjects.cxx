@@ -86,7 +86,7 @@ void TestDisObjects::everyUnitTellsTheWholeState()
     QVERIFY(publisher.tick());
     theirs.drainInput();
     QCOMPARE(list.lines, QStringList({"+ Ada 4 tea", "= Ada 4 tea"}));
-    QCOMPARE(list.first()->stateRepository()->changes(), (std::set<std::string>{"Cargo", "Speed"}));
+    QCOMPARE(list.first()->stateRepository()->changes(), (std::vector<std::string>{"Cargo", "Speed"}));
 }
 
 void TestDisObjects::nothingIsSentWithoutChangeBeforeTheHeartbeat()

@@ -7,6 +7,8 @@
 
 #include <QtTest/QtTest>
 
+#include <set>
+
 namespace
 {
 // A connection at the second of the sixteen ports that says what the test wants it to.

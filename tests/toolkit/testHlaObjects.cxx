@@ -93,7 +93,7 @@ void TestHlaObjects::unreadableValueKeepsTheOldOne()
     theirs.drainInput();
     QCOMPARE(list.lines.last(), QString("= Ada 4 tea"));
     QCOMPARE(list.first()->refused(), std::vector<std::string>{"Speed"});
-    QCOMPARE(list.first()->stateRepository()->changes(), std::set<std::string>{"Cargo"});
+    QCOMPARE(list.first()->stateRepository()->changes(), std::vector<std::string>{"Cargo"});
 }
 
 void TestHlaObjects::objectsStandInTheOrderOfTheirNumbers()

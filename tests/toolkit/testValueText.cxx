@@ -6,6 +6,8 @@
 
 #include <QtTest/QtTest>
 
+#include <sstream>
+
 namespace
 {
 enum class Lamp : DtInt64

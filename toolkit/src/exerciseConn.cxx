@@ -1,7 +1,13 @@
 #include <qx/exerciseConn.h>
 
+#include <qx/exercise.h>
+#include <qx/packets/pduHeader.h>
+
 #include <algorithm>
 #include <chrono>
+#include <deque>
+#include <functional>
+#include <map>
 #include <thread>
 
 #include "exerciseLink.h"
@@ -60,13 +66,87 @@ bool isOfObject(const DtExerciseEvent& event)
     return event.kind == DtExerciseEvent::ObjectAdded || event.kind == DtExerciseEvent::ObjectUpdated ||
            event.kind == DtExerciseEvent::ObjectRemoved;
 }
+
+bool isPduOf(const DtExerciseEvent& event, int kind)
+{
+    DtNetPduHeader header;
+    return event.kind == DtExerciseEvent::MessageSent && header.decodeHeader(event.octets) && header.pduKind() == kind;
+}
+
+bool takeParameters(const DtExerciseEvent& event, DtAttributeValues& values)
+{
+    DtNetPduHeader header;
+    DtValueBuffer body;
+    return DtDecodePdu(event.octets, header, body) && DtDecodeValues(body, values);
+}
 } // namespace
+
+class DtExerciseConn::Own : public DtExerciseMember
+{
+public:
+    typedef unsigned long Key; // of a registration; never used twice, so an event cannot reach a successor
+
+    // Who wants to hear of something. An observer has `observer` set, a callback its callback and kind.
+    struct Registration
+    {
+        Key key;
+        const void* observer;
+        int pduKind; // -1 for an interaction
+        Callback callback;
+        std::function<bool(const DtExerciseEvent&)> wants;
+        std::function<void(const DtExerciseEvent&)> deliver;
+        std::function<void()> drained; // may be empty
+    };
+    // For the registrations from `first` to `last`: an event does not reach one that was made after it.
+    struct Event
+    {
+        DtExerciseEvent what;
+        Key first;
+        Key last;
+    };
+
+    Own(const std::string& exerciseName, unsigned short firstPort);
+    ~Own() override;
+
+    static Registration callbackEntry(int pduKind, const Callback& callback);
+    Key enter(Registration entry);
+    void removeEntry(const Registration& like);
+    void removeObserverEntries(const void* observer);
+    const Registration* find(Key key) const;
+    std::vector<Key> keysFor(const Event& event) const;
+
+    void receive(const DtExerciseEvent& what) override;
+    unsigned int group() const override;
+
+    void push(const Event& event);
+    void queueStanding(Key first, Key last);
+    void queueEverythingAnew();
+    void deliver(const Event& event);
+    void remember(const DtExerciseEvent& what);
+    void tellDrained();
+
+    std::shared_ptr<DtExercise> myExercise;
+    std::unique_ptr<DtExerciseLink> myLink; // null without a port
+    std::deque<Event> myEvents;
+    std::size_t myQueuedOctets;
+    bool myRanOver;
+    std::map<DtExerciseObjectId, std::string> myToldObjects; // full class names of those that observers know
+    std::vector<Registration> myRegistrations;
+    Key myLastKey;
+};
 
 DtExerciseConn::DtExerciseConn(const std::string& exerciseName) : DtExerciseConn(exerciseName, 0)
 {
 }
 
 DtExerciseConn::DtExerciseConn(const std::string& exerciseName, unsigned short firstPort)
+    : myOwn(new Own(exerciseName, firstPort))
+{
+}
+
+DtExerciseConn::~DtExerciseConn() = default;
+
+DtExerciseConn::Own::Own(const std::string& exerciseName, unsigned short firstPort)
     : myExercise(DtExercise::named(exerciseName)),
       myLink(),
       myEvents(),
@@ -87,41 +167,42 @@ DtExerciseConn::DtExerciseConn(const std::string& exerciseName, unsigned short f
     myExercise->join(this);
 }
 
-DtExerciseConn::~DtExerciseConn()
+DtExerciseConn::Own::~Own()
 {
     myExercise->leave(this);
 }
 
 unsigned short DtExerciseConn::port() const
 {
-    return myLink ? myLink->port() : 0;
+    return myOwn->myLink ? myOwn->myLink->port() : 0;
 }
 
 void DtExerciseConn::setHeartbeat(double seconds)
 {
-    if (myLink)
+    if (myOwn->myLink)
     {
-        myLink->setHeartbeat(seconds);
+        myOwn->myLink->setHeartbeat(seconds);
     }
 }
 
 DtExerciseObjectId DtExerciseConn::newObjectId()
 {
-    return myLink ? myLink->newObjectId() : myExercise->newObjectId();
+    return myOwn->myLink ? myOwn->myLink->newObjectId() : myOwn->myExercise->newObjectId();
 }
 
 DtExerciseObjectId DtExerciseConn::addObject(const std::string& fullClassName, const std::string& name)
 {
-    if (myLink && (fullClassName.size() > theLongestName || name.size() > theLongestName || !myLink->hasRoom()))
+    if (myOwn->myLink &&
+        (fullClassName.size() > theLongestName || name.size() > theLongestName || !myOwn->myLink->hasRoom()))
     {
         return 0;
     }
     const DtExerciseObjectId id = newObjectId();
-    myExercise->addObject(this, id, fullClassName, name);
-    if (myLink)
+    myOwn->myExercise->addObject(myOwn.get(), id, fullClassName, name);
+    if (myOwn->myLink)
     {
-        myLink->attend();
-        myLink->tellAdded(id, fullClassName, name);
+        myOwn->myLink->attend();
+        myOwn->myLink->tellAdded(id, fullClassName, name);
     }
     return id;
 }
@@ -129,54 +210,54 @@ DtExerciseObjectId DtExerciseConn::addObject(const std::string& fullClassName, c
 bool DtExerciseConn::updateObject(DtExerciseObjectId id, const DtAttributeValues& values,
                                   std::vector<std::string>* refused)
 {
-    const DtExercise::Object* const object = myExercise->objectOf(this, id);
+    const DtExercise::Object* const object = myOwn->myExercise->objectOf(myOwn.get(), id);
     if (object == nullptr)
     {
         return false;
     }
-    if (!myLink)
+    if (!myOwn->myLink)
     {
-        myExercise->updateObject(id, values);
+        myOwn->myExercise->updateObject(id, values);
         return true;
     }
     const DtAttributeValues sent = DtExerciseLink::sendable(*object, values, refused);
     if (!sent.empty() || values.empty())
     {
-        myExercise->updateObject(id, sent);
-        myLink->attend();
-        myLink->tellUpdated(id, sent);
+        myOwn->myExercise->updateObject(id, sent);
+        myOwn->myLink->attend();
+        myOwn->myLink->tellUpdated(id, sent);
     }
     return sent.size() == values.size();
 }
 
 void DtExerciseConn::removeObject(DtExerciseObjectId id)
 {
-    if (myExercise->objectOf(this, id) == nullptr)
+    if (myOwn->myExercise->objectOf(myOwn.get(), id) == nullptr)
     {
         return;
     }
-    myExercise->removeObject(id);
-    if (myLink)
+    myOwn->myExercise->removeObject(id);
+    if (myOwn->myLink)
     {
-        myLink->attend();
-        myLink->tellRemoved(id);
+        myOwn->myLink->attend();
+        myOwn->myLink->tellRemoved(id);
     }
 }
 
 void DtExerciseConn::addObserver(DtExerciseObserver* observer, const std::string& fullClassName)
 {
-    Registration entry = Registration();
+    Own::Registration entry = Own::Registration();
     entry.observer = observer;
     entry.wants = [fullClassName](const DtExerciseEvent& event)
     { return isOfObject(event) && DtExercise::isKindOf(event.fullClassName, fullClassName); };
     entry.deliver = [observer](const DtExerciseEvent& event) { tell(*observer, event); };
-    const Key key = enter(entry);
-    queueStanding(key, key);
+    const Own::Key key = myOwn->enter(entry);
+    myOwn->queueStanding(key, key);
 }
 
 void DtExerciseConn::removeObserver(const DtExerciseObserver* observer)
 {
-    removeObserverEntries(observer);
+    myOwn->removeObserverEntries(observer);
 }
 
 bool DtExerciseConn::sendInteraction(const DtInteractionWithEncDec& interaction)
@@ -188,18 +269,18 @@ bool DtExerciseConn::sendInteraction(const DtInteractionWithEncDec& interaction)
                              DtAttributeValues(),
                              DtValueBuffer()};
     const bool complete = interaction.encode(event.values);
-    if (!myLink)
+    if (!myOwn->myLink)
     {
-        myExercise->tellOthers(this, event);
+        myOwn->myExercise->tellOthers(myOwn.get(), event);
         return complete;
     }
     if (!DtExerciseLink::canSend(event.fullClassName, event.values))
     {
         return false;
     }
-    myExercise->tellOthers(this, event);
-    myLink->attend();
-    myLink->sendInteraction(event.fullClassName, event.values);
+    myOwn->myExercise->tellOthers(myOwn.get(), event);
+    myOwn->myLink->attend();
+    myOwn->myLink->sendInteraction(event.fullClassName, event.values);
     return complete;
 }
 
@@ -211,27 +292,27 @@ bool DtExerciseConn::sendMessage(const DtValueBuffer& octets)
     }
     const DtExerciseEvent event = {DtExerciseEvent::MessageSent, 0,     std::string(), std::string(),
                                    DtAttributeValues(),          octets};
-    myExercise->tellOthers(this, event);
-    if (myLink)
+    myOwn->myExercise->tellOthers(myOwn.get(), event);
+    if (myOwn->myLink)
     {
-        myLink->attend();
-        myLink->sendMessage(octets);
+        myOwn->myLink->attend();
+        myOwn->myLink->sendMessage(octets);
     }
     return true;
 }
 
 void DtExerciseConn::addMessageObserver(DtMessageObserver* observer)
 {
-    Registration entry = Registration();
+    Own::Registration entry = Own::Registration();
     entry.observer = observer;
     entry.wants = [](const DtExerciseEvent& event) { return event.kind == DtExerciseEvent::MessageSent; };
     entry.deliver = [observer](const DtExerciseEvent& event) { observer->messageReceived(event.octets); };
-    enter(entry);
+    myOwn->enter(entry);
 }
 
 void DtExerciseConn::removeMessageObserver(const DtMessageObserver* observer)
 {
-    removeObserverEntries(observer);
+    myOwn->removeObserverEntries(observer);
 }
 
 bool DtExerciseConn::sendPdu(int kind, const DtValueBuffer& body)
@@ -253,7 +334,7 @@ bool DtExerciseConn::sendPdu(int kind, const DtInteraction& interaction, const D
 
 void DtExerciseConn::addPduObserver(DtPduObserver* observer, int kind)
 {
-    Registration entry = Registration();
+    Own::Registration entry = Own::Registration();
     entry.observer = observer;
     entry.wants = [kind](const DtExerciseEvent& event) { return isPduOf(event, kind); };
     entry.deliver = [observer](const DtExerciseEvent& event)
@@ -266,32 +347,32 @@ void DtExerciseConn::addPduObserver(DtPduObserver* observer, int kind)
         }
     };
     entry.drained = [observer]() { observer->inputDrained(); };
-    enter(entry);
+    myOwn->enter(entry);
 }
 
 void DtExerciseConn::removePduObserver(const DtPduObserver* observer)
 {
-    removeObserverEntries(observer);
+    myOwn->removeObserverEntries(observer);
 }
 
 void DtExerciseConn::drainInput()
 {
-    if (myLink)
+    if (myOwn->myLink)
     {
-        myLink->attend();
+        myOwn->myLink->attend();
     }
-    if (myRanOver)
+    if (myOwn->myRanOver)
     {
-        queueEverythingAnew();
+        myOwn->queueEverythingAnew();
     }
-    std::deque<Event> events;
-    events.swap(myEvents);
-    myQueuedOctets = 0;
+    std::deque<Own::Event> events;
+    events.swap(myOwn->myEvents);
+    myOwn->myQueuedOctets = 0;
     for (std::size_t index = 0; index < events.size(); ++index)
     {
-        deliver(events[index]);
+        myOwn->deliver(events[index]);
     }
-    tellDrained();
+    myOwn->tellDrained();
 }
 
 bool DtExerciseConn::waitForInput(double seconds)
@@ -299,11 +380,11 @@ bool DtExerciseConn::waitForInput(double seconds)
     const Clock::time_point end = Clock::now() + durationOf(seconds);
     for (;;)
     {
-        if (myLink)
+        if (myOwn->myLink)
         {
-            myLink->attend();
+            myOwn->myLink->attend();
         }
-        if (!myEvents.empty() || myRanOver)
+        if (!myOwn->myEvents.empty() || myOwn->myRanOver)
         {
             return true;
         }
@@ -312,9 +393,9 @@ bool DtExerciseConn::waitForInput(double seconds)
         {
             return false;
         }
-        if (myLink)
+        if (myOwn->myLink)
         {
-            myLink->wait(end - now);
+            myOwn->myLink->wait(end - now);
         }
         else
         {
@@ -323,33 +404,64 @@ bool DtExerciseConn::waitForInput(double seconds)
     }
 }
 
-bool DtExerciseConn::isPduOf(const DtExerciseEvent& event, int kind)
+void DtExerciseConn::enterInteraction(const std::string& fullClassName, const Callback& callback)
 {
-    DtNetPduHeader header;
-    return event.kind == DtExerciseEvent::MessageSent && header.decodeHeader(event.octets) && header.pduKind() == kind;
+    Own::Registration entry = Own::callbackEntry(-1, callback);
+    entry.wants = [fullClassName](const DtExerciseEvent& event) {
+        return event.kind == DtExerciseEvent::InteractionSent &&
+               DtExercise::isKindOf(event.fullClassName, fullClassName);
+    };
+    entry.deliver = [callback](const DtExerciseEvent& event) { callback.deliver(callback, nullptr, event.values); };
+    myOwn->enter(entry);
 }
 
-bool DtExerciseConn::takeParameters(const DtExerciseEvent& event, DtAttributeValues& values)
+void DtExerciseConn::removeInteraction(const Callback& callback)
 {
-    DtNetPduHeader header;
-    DtValueBuffer body;
-    return DtDecodePdu(event.octets, header, body) && DtDecodeValues(body, values);
+    myOwn->removeEntry(Own::callbackEntry(-1, callback));
 }
 
-DtExerciseConn::Key DtExerciseConn::enter(Registration entry)
+void DtExerciseConn::enterPdu(int kind, Decoder decoder, const Callback& callback)
+{
+    Own::Registration entry = Own::callbackEntry(kind, callback);
+    entry.wants = [kind](const DtExerciseEvent& event) { return isPduOf(event, kind); };
+    entry.deliver = [decoder, callback](const DtExerciseEvent& event)
+    {
+        DtAttributeValues values;
+        if (takeParameters(event, values))
+        {
+            callback.deliver(callback, decoder, values);
+        }
+    };
+    myOwn->enter(entry);
+}
+
+void DtExerciseConn::removePdu(int kind, const Callback& callback)
+{
+    myOwn->removeEntry(Own::callbackEntry(kind, callback));
+}
+
+DtExerciseConn::Own::Registration DtExerciseConn::Own::callbackEntry(int pduKind, const Callback& callback)
+{
+    Registration entry = Registration();
+    entry.pduKind = pduKind;
+    entry.callback = callback;
+    return entry;
+}
+
+DtExerciseConn::Own::Key DtExerciseConn::Own::enter(Registration entry)
 {
     entry.key = ++myLastKey;
     myRegistrations.push_back(entry);
     return entry.key;
 }
 
-void DtExerciseConn::removeEntry(const Registration& like)
+void DtExerciseConn::Own::removeEntry(const Registration& like)
 {
     for (std::size_t index = 0; index < myRegistrations.size(); ++index)
     {
         const Registration& entry = myRegistrations[index];
-        if (entry.observer == nullptr && entry.pduKind == like.pduKind && entry.callback == like.callback &&
-            entry.user == like.user)
+        if (entry.observer == nullptr && entry.pduKind == like.pduKind &&
+            entry.callback.function == like.callback.function && entry.callback.user == like.callback.user)
         {
             myRegistrations.erase(myRegistrations.begin() + static_cast<std::ptrdiff_t>(index));
             return;
@@ -357,7 +469,7 @@ void DtExerciseConn::removeEntry(const Registration& like)
     }
 }
 
-void DtExerciseConn::removeObserverEntries(const void* observer)
+void DtExerciseConn::Own::removeObserverEntries(const void* observer)
 {
     for (std::size_t index = myRegistrations.size(); index-- > 0;)
     {
@@ -368,7 +480,7 @@ void DtExerciseConn::removeObserverEntries(const void* observer)
     }
 }
 
-const DtExerciseConn::Registration* DtExerciseConn::find(Key key) const
+const DtExerciseConn::Own::Registration* DtExerciseConn::Own::find(Key key) const
 {
     for (std::size_t index = 0; index < myRegistrations.size(); ++index)
     {
@@ -380,7 +492,7 @@ const DtExerciseConn::Registration* DtExerciseConn::find(Key key) const
     return nullptr;
 }
 
-std::vector<DtExerciseConn::Key> DtExerciseConn::keysFor(const Event& event) const
+std::vector<DtExerciseConn::Own::Key> DtExerciseConn::Own::keysFor(const Event& event) const
 {
     std::vector<Key> keys;
     for (std::size_t index = 0; index < myRegistrations.size(); ++index)
@@ -394,18 +506,18 @@ std::vector<DtExerciseConn::Key> DtExerciseConn::keysFor(const Event& event) con
     return keys;
 }
 
-void DtExerciseConn::receive(const DtExerciseEvent& what)
+void DtExerciseConn::Own::receive(const DtExerciseEvent& what)
 {
     const Event event = {what, 0, myLastKey};
     push(event);
 }
 
-unsigned int DtExerciseConn::group() const
+unsigned int DtExerciseConn::Own::group() const
 {
     return myLink ? myLink->firstPort() : 0;
 }
 
-void DtExerciseConn::push(const Event& event)
+void DtExerciseConn::Own::push(const Event& event)
 {
     const std::size_t octets = octetsOf(event.what);
     if (!myRanOver && myEvents.size() < theMostEvents && myQueuedOctets + octets <= theMostQueuedOctets)
@@ -420,7 +532,7 @@ void DtExerciseConn::push(const Event& event)
 }
 
 // As many as there are objects, so no bound is needed.
-void DtExerciseConn::queueStanding(Key first, Key last)
+void DtExerciseConn::Own::queueStanding(Key first, Key last)
 {
     DtExercise::Objects objects;
     const DtExercise::Objects& here = myExercise->objects();
@@ -446,7 +558,7 @@ void DtExerciseConn::queueStanding(Key first, Key last)
 }
 
 // In place of what was lost: removals of all that observers know of, for those that are gone, and all that stands.
-void DtExerciseConn::queueEverythingAnew()
+void DtExerciseConn::Own::queueEverythingAnew()
 {
     myRanOver = false;
     queueStanding(0, myLastKey);
@@ -471,7 +583,7 @@ void DtExerciseConn::queueEverythingAnew()
 
 // Callbacks may add and remove registrations, so each is looked up again by its key before it is called, and what is
 // called is a copy.
-void DtExerciseConn::deliver(const Event& event)
+void DtExerciseConn::Own::deliver(const Event& event)
 {
     remember(event.what);
     const std::vector<Key> keys = keysFor(event);
@@ -486,7 +598,7 @@ void DtExerciseConn::deliver(const Event& event)
     }
 }
 
-void DtExerciseConn::remember(const DtExerciseEvent& what)
+void DtExerciseConn::Own::remember(const DtExerciseEvent& what)
 {
     if (what.kind == DtExerciseEvent::ObjectAdded)
     {
@@ -498,7 +610,7 @@ void DtExerciseConn::remember(const DtExerciseEvent& what)
     }
 }
 
-void DtExerciseConn::tellDrained()
+void DtExerciseConn::Own::tellDrained()
 {
     std::vector<Key> keys;
     for (std::size_t index = 0; index < myRegistrations.size(); ++index)

@@ -1,5 +1,89 @@
 #include <qx/disReflectedList.h>
 #include <qx/hlaReflectedList.h>
+#include <qx/packets/pduHeader.h>
+
+template <class ReflectedObject>
+DtReflectedListBase<ReflectedObject>::DtReflectedListBase() : myObjects(), myCallbacks()
+{
+}
+
+template <class ReflectedObject>
+DtReflectedListBase<ReflectedObject>::~DtReflectedListBase() = default;
+
+template <class ReflectedObject>
+std::size_t DtReflectedListBase<ReflectedObject>::count() const
+{
+    return myObjects.size();
+}
+
+template <class ReflectedObject>
+ReflectedObject* DtReflectedListBase<ReflectedObject>::find(DtExerciseObjectId id) const
+{
+    const typename Objects::const_iterator object = myObjects.find(id);
+    return object == myObjects.end() ? nullptr : object->second.get();
+}
+
+template <class ReflectedObject>
+ReflectedObject* DtReflectedListBase<ReflectedObject>::findAfter(DtExerciseObjectId id) const
+{
+    const typename Objects::const_iterator object = myObjects.upper_bound(id);
+    return object == myObjects.end() ? nullptr : object->second.get();
+}
+
+template <class ReflectedObject>
+void DtReflectedListBase<ReflectedObject>::enter(const Callback& entry)
+{
+    myCallbacks.push_back(entry);
+}
+
+template <class ReflectedObject>
+void DtReflectedListBase<ReflectedObject>::takeOut(const Callback& like)
+{
+    for (std::size_t index = 0; index < myCallbacks.size(); ++index)
+    {
+        const Callback& entry = myCallbacks[index];
+        if (entry.occasion == like.occasion && entry.function == like.function && entry.user == like.user)
+        {
+            myCallbacks.erase(myCallbacks.begin() + static_cast<std::ptrdiff_t>(index));
+            return;
+        }
+    }
+}
+
+template <class ReflectedObject>
+ReflectedObject& DtReflectedListBase<ReflectedObject>::insert(DtExerciseObjectId id, const std::string& name)
+{
+    std::unique_ptr<ReflectedObject>& object = myObjects[id];
+    object = makeObject(id, name);
+    return *object;
+}
+
+template <class ReflectedObject>
+void DtReflectedListBase<ReflectedObject>::remove(DtExerciseObjectId id)
+{
+    ReflectedObject* const object = find(id);
+    if (object != nullptr)
+    {
+        callBack(Removal, *object);
+        myObjects.erase(id);
+    }
+}
+
+template <class ReflectedObject>
+void DtReflectedListBase<ReflectedObject>::callBack(Occasion occasion, ReflectedObject& object)
+{
+    const std::vector<Callback> callbacks = myCallbacks;
+    for (std::size_t index = 0; index < callbacks.size(); ++index)
+    {
+        if (callbacks[index].occasion == occasion)
+        {
+            callbacks[index].call(callbacks[index].function, object, callbacks[index].user);
+        }
+    }
+}
+
+template class DtReflectedListBase<DtHlaReflectedObject>;
+template class DtReflectedListBase<DtDisReflectedObject>;
 
 DtHlaReflectedList::DtHlaReflectedList(DtExerciseConn* exerciseConn, const std::string& fullClassName)
     : myExerciseConn(exerciseConn)

@@ -3,10 +3,8 @@
 
 #include <map>
 #include <string>
-#include <vector>
 
-// The coded form of one value, octet by octet as it goes over the wire.
-typedef std::vector<unsigned char> DtValueBuffer;
+#include <qx/valueTypes.h>
 
 // Coded values by name: what one update of an object or one interaction carries.
 //

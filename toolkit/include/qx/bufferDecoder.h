@@ -1,72 +1,65 @@
 #ifndef QX_BUFFER_DECODER_H
 #define QX_BUFFER_DECODER_H
 
-#include <functional>
-#include <map>
 #include <string>
 #include <vector>
 
 #include <qx/attributeValues.h>
-#include <qx/valueCoding.h>
+#include <qx/wireBuffer.h>
 
-// Puts named buffers back into an object's state or an interaction: the counterpart of DtBufferEncoder.
+// Puts named buffers back into an object's state or an interaction: the counterpart of DtBufferEncoder, with its
+// operations in the library as well.
 //
 // Buffers with a name that no coder knows are passed over, so a class can read what its subclasses sent.
 template <class Target>
 class DtBufferDecoder
 {
 public:
-    virtual ~DtBufferDecoder() {}
+    DtBufferDecoder();
+    DtBufferDecoder(const DtBufferDecoder& other);
+    DtBufferDecoder& operator=(const DtBufferDecoder& other);
+    virtual ~DtBufferDecoder();
 
     // An attribute whose buffer cannot be read keeps its value and is named in `refused`, if given; the answer is then
     // false. The others are set all the same.
-    bool decode(const DtAttributeValues& values, Target& target, std::vector<std::string>* refused = nullptr) const
-    {
-        bool complete = true;
-        for (DtAttributeValues::const_iterator value = values.begin(); value != values.end(); ++value)
-        {
-            complete = decodeOne(*value, target, refused) && complete;
-        }
-        return complete;
-    }
+    bool decode(const DtAttributeValues& values, Target& target, std::vector<std::string>* refused = nullptr) const;
 
-    bool knows(const std::string& name) const { return myCoders.count(name) != 0; }
+    bool knows(const std::string& name) const { return find(name) != nullptr; }
 
 protected:
     template <class Kind>
     void addCoder(const std::string& name, bool (*code)(Kind&, DtWireReader&))
     {
-        myCoders[name] = [code](Target& target, DtWireReader& reader)
-        {
-            Kind* const kind = dynamic_cast<Kind*>(&target);
-            return kind != nullptr && code(*kind, reader);
-        };
+        enter(name.c_str(), reinterpret_cast<AnyFunction>(code), &codeAs<Kind>);
+    }
+    template <class Kind>
+    void addCoder(const char* name, bool (*code)(Kind&, DtWireReader&))
+    {
+        enter(name, reinterpret_cast<AnyFunction>(code), &codeAs<Kind>);
     }
 
 private:
-    typedef std::function<bool(Target&, DtWireReader&)> Coder;
-    typedef std::map<std::string, Coder> Coders;
-
-    bool decodeOne(const DtAttributeValues::value_type& value, Target& target, std::vector<std::string>* refused) const
+    typedef void (*AnyFunction)();
+    typedef bool (*Call)(AnyFunction code, Target& target, DtWireReader& reader);
+    struct Coder
     {
-        const typename Coders::const_iterator coder = myCoders.find(value.first);
-        if (coder == myCoders.end())
-        {
-            return true;
-        }
-        DtWireReader reader(value.second.data(), value.second.size());
-        if (coder->second(target, reader))
-        {
-            return true;
-        }
-        if (refused != nullptr)
-        {
-            refused->push_back(value.first);
-        }
-        return false;
-    }
+        std::string name;
+        AnyFunction code;
+        Call call;
+    };
 
-    Coders myCoders;
+    template <class Kind>
+    static bool codeAs(AnyFunction code, Target& target, DtWireReader& reader)
+    {
+        Kind* const kind = dynamic_cast<Kind*>(&target);
+        return kind != nullptr && reinterpret_cast<bool (*)(Kind&, DtWireReader&)>(code)(*kind, reader);
+    }
+    void enter(const char* name, AnyFunction code, Call call);
+    const Coder* find(const std::string& name) const; // null when there is none
+    bool decodeOne(const std::string& name, const DtValueBuffer& octets, Target& target,
+                   std::vector<std::string>* refused) const;
+
+    std::vector<Coder> myCoders; // in the order of their names
 };
 
 #endif

@@ -8,6 +8,8 @@
 #include <qx/exerciseConn.h>
 #include <qx/reflectedListBase.h>
 
+extern template class DtReflectedListBase<DtDisReflectedObject>;
+
 // Base of the generated DIS reflected lists: the objects that others tell of by protocol data units of one kind. A
 // subclass has a kind, and so a list, of its own.
 //

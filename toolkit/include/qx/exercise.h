@@ -7,9 +7,7 @@
 #include <vector>
 
 #include <qx/attributeValues.h>
-
-// Number of an object within its exercise; 0 is no object.
-typedef unsigned long long DtExerciseObjectId;
+#include <qx/exerciseObjectId.h>
 
 // One thing that happened in an exercise, on its way to a member.
 struct DtExerciseEvent

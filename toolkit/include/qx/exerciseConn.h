@@ -2,18 +2,14 @@
 #define QX_EXERCISE_CONN_H
 
 #include <cstddef>
-#include <deque>
-#include <functional>
-#include <map>
 #include <memory>
 #include <string>
 #include <vector>
 
-#include <qx/exercise.h>
+#include <qx/exerciseObjectId.h>
 #include <qx/interactionWithEncDec.h>
-#include <qx/packets/pduHeader.h>
 
-class DtExerciseLink;
+class DtNetPduHeader;
 
 // Hears of the objects of one class and its subclasses, from DtExerciseConn::drainInput(). An object that stood already
 // when the observer was added may be gone by the time it is told of; its removal follows. After a queue ran over, an
@@ -57,7 +53,7 @@ public:
 // Nothing is delivered but by drainInput(). Publishers and reflected lists hold a pointer to their connection and must
 // go before it. No operation may be called from two threads at once; connections of the same exercise count as one
 // here.
-class DtExerciseConn : private DtExerciseMember
+class DtExerciseConn
 {
 public:
     // Longest message in octets, and as much as one interaction with its class name, or one value of an object with its
@@ -77,7 +73,7 @@ public:
     // `firstPort` is the first of the sixteen; 0 stays within this process.
     DtExerciseConn(const std::string& exerciseName, unsigned short firstPort);
     // Removes the connection's objects.
-    ~DtExerciseConn() override;
+    ~DtExerciseConn();
 
     DtExerciseConn(const DtExerciseConn&) = delete;
     DtExerciseConn& operator=(const DtExerciseConn&) = delete;
@@ -114,24 +110,15 @@ public:
     void addInteractionCallback(void (*callback)(Kind*, void*), void* user)
     {
         const Kind sample;
-        const std::string wanted = static_cast<const DtInteraction&>(sample).fullClassName();
-        Registration entry = callbackEntry(-1, callback, user);
-        entry.wants = [wanted](const DtExerciseEvent& event)
-        { return event.kind == DtExerciseEvent::InteractionSent && DtExercise::isKindOf(event.fullClassName, wanted); };
-        entry.deliver = [callback, user](const DtExerciseEvent& event)
-        {
-            Kind interaction;
-            static_cast<DtInteractionWithEncDec&>(interaction).decode(event.values);
-            callback(&interaction, user);
-        };
-        enter(entry);
+        const DtInteraction& interaction = sample;
+        enterInteraction(interaction.fullClassName(), callbackOf(callback, user, &deliverInteraction<Kind>));
     }
 
     // Takes out one registration of that callback with that user pointer.
     template <class Kind>
     void removeInteractionCallback(void (*callback)(Kind*, void*), void* user)
     {
-        removeEntry(callbackEntry(-1, callback, user));
+        removeInteraction(callbackOf(callback, user, &deliverInteraction<Kind>));
     }
 
     // False, and nothing is sent, if the message is longer than theMaximumMessage.
@@ -153,26 +140,14 @@ public:
     template <class Kind>
     void addPduCallback(int kind, const DtInteractionDecoder& (*decoder)(), void (*callback)(Kind*, void*), void* user)
     {
-        Registration entry = callbackEntry(kind, callback, user);
-        entry.wants = [kind](const DtExerciseEvent& event) { return isPduOf(event, kind); };
-        entry.deliver = [decoder, callback, user](const DtExerciseEvent& event)
-        {
-            DtAttributeValues values;
-            if (takeParameters(event, values))
-            {
-                Kind interaction;
-                decoder().decode(values, interaction);
-                callback(&interaction, user);
-            }
-        };
-        enter(entry);
+        enterPdu(kind, decoder, callbackOf(callback, user, &deliverPdu<Kind>));
     }
 
     // Takes out one registration of that callback for that kind with that user pointer.
     template <class Kind>
     void removePduCallback(int kind, void (*callback)(Kind*, void*), void* user)
     {
-        removeEntry(callbackEntry(kind, callback, user));
+        removePdu(kind, callbackOf(callback, user, &deliverPdu<Kind>));
     }
 
     // Delivers what is in the queue now; what the callbacks cause comes with the next call.
@@ -183,64 +158,44 @@ public:
 
 private:
     typedef void (*AnyFunction)();
-    typedef unsigned long Key; // of a registration; never used twice, so an event cannot reach a successor
+    typedef const DtInteractionDecoder& (*Decoder)();
 
-    // Who wants to hear of something. An observer has `observer` set, a callback the other three.
-    struct Registration
+    // A callback of some class, the pointer that goes with it, and what knows the class.
+    struct Callback
     {
-        Key key;
-        const void* observer;
-        int pduKind; // -1 for an interaction
-        AnyFunction callback;
+        AnyFunction function; // null for none
         void* user;
-        std::function<bool(const DtExerciseEvent&)> wants;
-        std::function<void(const DtExerciseEvent&)> deliver;
-        std::function<void()> drained; // may be empty
+        void (*deliver)(const Callback& callback, Decoder decoder, const DtAttributeValues& values);
     };
-    // For the registrations from `first` to `last`: an event does not reach one that was made after it.
-    struct Event
-    {
-        DtExerciseEvent what;
-        Key first;
-        Key last;
-    };
-
     template <class Kind>
-    static Registration callbackEntry(int pduKind, void (*callback)(Kind*, void*), void* user)
+    static Callback callbackOf(void (*function)(Kind*, void*), void* user,
+                               void (*deliver)(const Callback&, Decoder, const DtAttributeValues&))
     {
-        Registration entry = Registration();
-        entry.pduKind = pduKind;
-        entry.callback = reinterpret_cast<AnyFunction>(callback);
-        entry.user = user;
-        return entry;
+        const Callback callback = {reinterpret_cast<AnyFunction>(function), user, deliver};
+        return callback;
     }
-    static bool isPduOf(const DtExerciseEvent& event, int kind);
-    static bool takeParameters(const DtExerciseEvent& event, DtAttributeValues& values);
+    template <class Kind>
+    static void deliverInteraction(const Callback& callback, Decoder, const DtAttributeValues& values)
+    {
+        Kind interaction;
+        static_cast<DtInteractionWithEncDec&>(interaction).decode(values);
+        reinterpret_cast<void (*)(Kind*, void*)>(callback.function)(&interaction, callback.user);
+    }
+    template <class Kind>
+    static void deliverPdu(const Callback& callback, Decoder decoder, const DtAttributeValues& values)
+    {
+        Kind interaction;
+        decoder().decode(values, interaction);
+        reinterpret_cast<void (*)(Kind*, void*)>(callback.function)(&interaction, callback.user);
+    }
 
-    Key enter(Registration entry);
-    void removeEntry(const Registration& like);
-    void removeObserverEntries(const void* observer);
-    const Registration* find(Key key) const;
-    std::vector<Key> keysFor(const Event& event) const;
+    void enterInteraction(const std::string& fullClassName, const Callback& callback);
+    void removeInteraction(const Callback& callback);
+    void enterPdu(int kind, Decoder decoder, const Callback& callback);
+    void removePdu(int kind, const Callback& callback);
 
-    void receive(const DtExerciseEvent& what) override;
-    unsigned int group() const override;
-
-    void push(const Event& event);
-    void queueStanding(Key first, Key last);
-    void queueEverythingAnew();
-    void deliver(const Event& event);
-    void remember(const DtExerciseEvent& what);
-    void tellDrained();
-
-    std::shared_ptr<DtExercise> myExercise;
-    std::unique_ptr<DtExerciseLink> myLink; // null without a port
-    std::deque<Event> myEvents;
-    std::size_t myQueuedOctets;
-    bool myRanOver;
-    std::map<DtExerciseObjectId, std::string> myToldObjects; // full class names of those that observers know
-    std::vector<Registration> myRegistrations;
-    Key myLastKey;
+    class Own; // the exercise, the way to other processes, the queue and the registrations
+    std::unique_ptr<Own> myOwn;
 };
 
 #endif

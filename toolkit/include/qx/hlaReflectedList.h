@@ -7,6 +7,8 @@
 #include <qx/hlaReflectedObject.h>
 #include <qx/reflectedListBase.h>
 
+extern template class DtReflectedListBase<DtHlaReflectedObject>;
+
 // Base of the generated reflected lists: the objects of one class and its subclasses that others publish.
 //
 // Owns the objects. They come, change and go while DtExerciseConn::drainInput() runs, and the callbacks are called from

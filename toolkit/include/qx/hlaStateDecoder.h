@@ -4,6 +4,8 @@
 #include <qx/bufferDecoder.h>
 #include <qx/stateRepository.h>
 
+extern template class DtBufferDecoder<DtStateRepository>;
+
 // Base of the generated decoders of object classes. By itself it knows no attribute.
 class DtHlaStateDecoder : public DtBufferDecoder<DtStateRepository>
 {

@@ -4,6 +4,8 @@
 #include <qx/bufferEncoder.h>
 #include <qx/stateRepository.h>
 
+extern template class DtBufferEncoder<DtStateRepository>;
+
 // Base of the generated encoders of object classes. By itself it knows no attribute.
 class DtHlaStateEncoder : public DtBufferEncoder<DtStateRepository>
 {

@@ -4,6 +4,8 @@
 #include <qx/bufferDecoder.h>
 #include <qx/interaction.h>
 
+extern template class DtBufferDecoder<DtInteraction>;
+
 // Base of the generated decoders of interaction classes. By itself it knows no parameter.
 class DtInteractionDecoder : public DtBufferDecoder<DtInteraction>
 {

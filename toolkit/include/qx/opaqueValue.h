@@ -1,8 +1,10 @@
 #ifndef QX_OPAQUE_VALUE_H
 #define QX_OPAQUE_VALUE_H
 
-#include <qx/attributeValues.h>
-#include <qx/wireBuffer.h>
+#include <qx/valueTypes.h>
+
+class DtWireReader;
+class DtWireWriter;
 
 // Value of an attribute whose datatype has no C++ form: the octets alone.
 //
@@ -18,8 +20,8 @@ public:
     void setOctets(const DtValueBuffer& octets) { myOctets = octets; }
 
     // As an element or field: never, see above.
-    void encode(DtWireWriter& writer) const { writer.refuse("the model does not define the datatype"); }
-    bool decode(DtWireReader& reader) { return reader.fail("the model does not define the datatype"); }
+    void encode(DtWireWriter& writer) const;
+    bool decode(DtWireReader& reader);
     static unsigned int octetBoundary() { return 1; }
 
 private:

@@ -7,22 +7,23 @@
 #include <string>
 #include <vector>
 
-#include <qx/exercise.h>
+#include <qx/exerciseObjectId.h>
 
 // What the reflected lists of both protocols have in common: the objects by number, and the callbacks.
 //
 // ReflectedObject is DtHlaReflectedObject or DtDisReflectedObject. The list owns the objects and makes them through
-// makeObject(). Callbacks run after an object came or was updated, and before it goes.
+// makeObject(). Callbacks run after an object came or was updated, and before it goes. The operations stand in the
+// library, for these two, and not in every file that includes this.
 template <class ReflectedObject>
 class DtReflectedListBase
 {
 public:
-    virtual ~DtReflectedListBase() {}
+    virtual ~DtReflectedListBase();
 
     DtReflectedListBase(const DtReflectedListBase&) = delete;
     DtReflectedListBase& operator=(const DtReflectedListBase&) = delete;
 
-    std::size_t count() const { return myObjects.size(); }
+    std::size_t count() const;
 
 protected:
     enum Occasion
@@ -32,76 +33,37 @@ protected:
         Removal
     };
 
-    DtReflectedListBase() : myObjects(), myCallbacks() {}
+    DtReflectedListBase();
 
     virtual std::unique_ptr<ReflectedObject> makeObject(DtExerciseObjectId id, const std::string& name) const = 0;
 
     // Null if there is none. Objects stand in the order of their numbers.
-    ReflectedObject* find(DtExerciseObjectId id) const
-    {
-        const typename Objects::const_iterator object = myObjects.find(id);
-        return object == myObjects.end() ? nullptr : object->second.get();
-    }
-    ReflectedObject* findAfter(DtExerciseObjectId id) const
-    {
-        const typename Objects::const_iterator object = myObjects.upper_bound(id);
-        return object == myObjects.end() ? nullptr : object->second.get();
-    }
+    ReflectedObject* find(DtExerciseObjectId id) const;
+    ReflectedObject* findAfter(DtExerciseObjectId id) const;
 
     template <class Object>
     void addCallback(Occasion occasion, void (*callback)(Object*, void*), void* user)
     {
         const Callback entry = {occasion, reinterpret_cast<AnyFunction>(callback), user, &callAs<Object>};
-        myCallbacks.push_back(entry);
+        enter(entry);
     }
 
     // Takes out one registration of that callback with that user pointer.
     template <class Object>
     void removeCallback(Occasion occasion, void (*callback)(Object*, void*), void* user)
     {
-        const AnyFunction wanted = reinterpret_cast<AnyFunction>(callback);
-        for (std::size_t index = 0; index < myCallbacks.size(); ++index)
-        {
-            const Callback& entry = myCallbacks[index];
-            if (entry.occasion == occasion && entry.function == wanted && entry.user == user)
-            {
-                myCallbacks.erase(myCallbacks.begin() + static_cast<std::ptrdiff_t>(index));
-                return;
-            }
-        }
+        const Callback entry = {occasion, reinterpret_cast<AnyFunction>(callback), user, &callAs<Object>};
+        takeOut(entry);
     }
 
     // Makes an object without calling anyone.
-    ReflectedObject& insert(DtExerciseObjectId id, const std::string& name)
-    {
-        std::unique_ptr<ReflectedObject>& object = myObjects[id];
-        object = makeObject(id, name);
-        return *object;
-    }
+    ReflectedObject& insert(DtExerciseObjectId id, const std::string& name);
 
     // Calls the callbacks and deletes the object; a number that has none is passed over.
-    void remove(DtExerciseObjectId id)
-    {
-        ReflectedObject* const object = find(id);
-        if (object != nullptr)
-        {
-            callBack(Removal, *object);
-            myObjects.erase(id);
-        }
-    }
+    void remove(DtExerciseObjectId id);
 
     // Works on a copy: a callback may add and remove callbacks, which counts from the next occasion on.
-    void callBack(Occasion occasion, ReflectedObject& object)
-    {
-        const std::vector<Callback> callbacks = myCallbacks;
-        for (std::size_t index = 0; index < callbacks.size(); ++index)
-        {
-            if (callbacks[index].occasion == occasion)
-            {
-                callbacks[index].call(callbacks[index].function, object, callbacks[index].user);
-            }
-        }
-    }
+    void callBack(Occasion occasion, ReflectedObject& object);
 
 private:
     typedef void (*AnyFunction)();
@@ -120,6 +82,9 @@ private:
     {
         reinterpret_cast<void (*)(Object*, void*)>(function)(static_cast<Object*>(&object), user);
     }
+
+    void enter(const Callback& entry);
+    void takeOut(const Callback& like);
 
     Objects myObjects;
     std::vector<Callback> myCallbacks;

@@ -5,7 +5,7 @@
 #include <string>
 #include <vector>
 
-#include <qx/exercise.h>
+#include <qx/exerciseObjectId.h>
 #include <qx/stateRepository.h>
 
 // What the reflected objects of both protocols have in common: someone else's object with its state.

@@ -5,6 +5,8 @@
 #include <qx/stateMsg.h>
 #include <qx/stateRepository.h>
 
+extern template class DtBufferDecoder<DtStateRepository>;
+
 // Base of the generated decoders that read an object's state from one protocol data unit. By itself it knows no
 // attribute.
 class DtStateDecoder : public DtBufferDecoder<DtStateRepository>

@@ -5,6 +5,8 @@
 #include <qx/stateMsg.h>
 #include <qx/stateRepository.h>
 
+extern template class DtBufferEncoder<DtStateRepository>;
+
 // Base of the generated encoders that write an object's state as one protocol data unit.
 //
 // A generated encoder adds one coder for each attribute of its class, as a DtHlaStateEncoder does. By itself it knows

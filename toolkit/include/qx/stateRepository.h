@@ -1,8 +1,8 @@
 #ifndef QX_STATE_REPOSITORY_H
 #define QX_STATE_REPOSITORY_H
 
-#include <set>
 #include <string>
+#include <vector>
 
 // Base of the generated classes that hold the attribute values of one object.
 //
@@ -15,20 +15,22 @@
 class DtStateRepository
 {
 public:
-    virtual ~DtStateRepository() {}
+    virtual ~DtStateRepository();
 
-    void markChanged(const std::string& attribute) { myChanges.insert(attribute); }
-    bool isChanged(const std::string& attribute) const { return myChanges.count(attribute) != 0; }
-    const std::set<std::string>& changes() const { return myChanges; }
+    void markChanged(const char* attribute);
+    void markChanged(const std::string& attribute) { markChanged(attribute.c_str()); }
+    bool isChanged(const std::string& attribute) const;
+    // In alphabetical order, each once.
+    const std::vector<std::string>& changes() const { return myChanges; }
     void clearChanges() { myChanges.clear(); }
 
 protected:
-    DtStateRepository() : myChanges() {}
-    DtStateRepository(const DtStateRepository&) = default;
-    DtStateRepository& operator=(const DtStateRepository&) = default;
+    DtStateRepository();
+    DtStateRepository(const DtStateRepository& other);
+    DtStateRepository& operator=(const DtStateRepository& other);
 
 private:
-    std::set<std::string> myChanges;
+    std::vector<std::string> myChanges;
 };
 
 #endif

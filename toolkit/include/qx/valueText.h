@@ -8,8 +8,7 @@
 #include <qx/opaqueValue.h>
 #include <qx/wireFormat.h>
 
-#include <limits>
-#include <sstream>
+#include <iosfwd>
 #include <string>
 #include <type_traits>
 
@@ -17,32 +16,20 @@ template <class Value>
 std::string DtValueText(const Value& value);
 
 // Two hexadecimal digits an octet.
-inline std::string DtHexText(const DtU8* octets, std::size_t count)
-{
-    static const char theDigits[] = "0123456789abcdef";
-    std::string text;
-    for (std::size_t i = 0; i < count; ++i)
-    {
-        text += theDigits[octets[i] >> 4];
-        text += theDigits[octets[i] & 15];
-    }
-    return text;
-}
+std::string DtHexText(const DtU8* octets, std::size_t count);
 
 // In quotes; what is no printable character of ASCII as \x and two digits.
-inline std::string DtQuotedText(const std::string& content)
-{
-    std::string text = "\"";
-    for (const char letter : content)
-    {
-        const DtU8 octet = static_cast<DtU8>(letter);
-        if (octet < 0x20 || octet > 0x7e)
-            text += "\\x" + DtHexText(&octet, 1);
-        else
-            text += (letter == '"' || letter == '\\' ? "\\" : "") + std::string(1, letter);
-    }
-    return text + "\"";
-}
+std::string DtQuotedText(const std::string& content);
+
+// Numbers, and an enumerator by its name in the table and its number.
+std::string DtNumberText(DtInt64 number);
+std::string DtNumberText(DtU64 number);
+std::string DtNumberText(DtFloat32 number);
+std::string DtNumberText(DtFloat64 number);
+std::string DtEnumeratorText(const DtEnumeratorTable& table, DtInt64 number);
+
+// What a function writes about a value to a stream, which only the library has to know.
+std::string DtStreamedText(const void* value, void (*write)(std::ostream& out, const void* value));
 
 // The primary template is for classes.
 template <class Value, class Enable = void>
@@ -54,9 +41,8 @@ private:
     template <class Class>
     static auto ofStream(const Class& value, int) -> decltype(std::declval<std::ostream&>() << value, std::string())
     {
-        std::ostringstream stream;
-        stream << value;
-        return stream.str();
+        return DtStreamedText(&value, [](std::ostream& out, const void* written)
+                              { static_cast<void>(out << *static_cast<const Class*>(written)); });
     }
     template <class Class>
     static std::string ofStream(const Class& value, long)
@@ -82,7 +68,8 @@ private:
 template <class Number>
 struct DtTextTraits<Number, typename std::enable_if<std::is_integral<Number>::value>::type>
 {
-    static std::string text(Number value) { return std::to_string(value); }
+    typedef typename std::conditional<std::is_signed<Number>::value, DtInt64, DtU64>::type Widest;
+    static std::string text(Number value) { return DtNumberText(static_cast<Widest>(value)); }
 };
 
 template <>
@@ -94,13 +81,8 @@ struct DtTextTraits<bool, void>
 template <class Number>
 struct DtTextTraits<Number, typename std::enable_if<std::is_floating_point<Number>::value>::type>
 {
-    static std::string text(Number value)
-    {
-        std::ostringstream stream;
-        stream.precision(std::numeric_limits<Number>::digits10);
-        stream << value;
-        return stream.str();
-    }
+    typedef typename std::conditional<sizeof(Number) == sizeof(DtFloat32), DtFloat32, DtFloat64>::type Stored;
+    static std::string text(Number value) { return DtNumberText(static_cast<Stored>(value)); }
 };
 
 template <class Enumeration>
@@ -108,12 +90,7 @@ struct DtTextTraits<Enumeration, typename std::enable_if<std::is_enum<Enumeratio
 {
     static std::string text(Enumeration value)
     {
-        const DtEnumeratorTable table = DtNamesOfType<Enumeration>();
-        const DtInt64 number = static_cast<DtInt64>(value);
-        for (std::size_t i = 0; i < table.count; ++i)
-            if (table.first[i].value == number)
-                return table.first[i].name + (" (" + std::to_string(number) + ")");
-        return std::to_string(number);
+        return DtEnumeratorText(DtNamesOfType<Enumeration>(), static_cast<DtInt64>(value));
     }
 };
 
@@ -169,17 +146,18 @@ std::string DtValueText(const Value& value)
 class DtFieldWriter
 {
 public:
-    explicit DtFieldWriter(std::ostream& out) : myOut(out), myIsFirst(true) { myOut << "{"; }
+    explicit DtFieldWriter(std::ostream& out);
 
     template <class Value>
     void add(const char* name, const Value& value)
     {
-        myOut << (myIsFirst ? " " : ", ") << name << ": " << DtValueText(value);
-        myIsFirst = false;
+        addText(name, DtValueText(value));
     }
-    std::ostream& end() { return myOut << (myIsFirst ? "}" : " }"); }
+    std::ostream& end();
 
 private:
+    void addText(const char* name, const std::string& text);
+
     std::ostream& myOut;
     bool myIsFirst;
 };
@@ -189,49 +167,7 @@ private:
 class DtTextLayout
 {
 public:
-    static std::string of(const std::string& text, std::size_t column)
-    {
-        const std::size_t open = text.find_first_of("{[\"");
-        const bool isStructure = open != std::string::npos && text[open] != '"' && text.size() > open + 2;
-        if (column + text.size() <= 100 || !isStructure || text.find('{') == std::string::npos)
-            return text;
-        const std::string indent(column, ' ');
-        std::string laidOut = text.substr(0, open + 1) + "\n";
-        std::size_t begin = open + 1;
-        for (std::size_t end = begin; end < text.size(); begin = end + 1)
-        {
-            end = endOfPart(text, begin);
-            const std::size_t first = text.find_first_not_of(' ', begin);
-            const std::size_t last = text.find_last_not_of(' ', end - 1);
-            laidOut += indent + "    " + of(text.substr(first, last - first + 1), column + 4);
-            laidOut += std::string(end < text.size() && text[end] == ',' ? "," : "") + "\n";
-            if (end >= text.size() || text[end] != ',')
-                return laidOut + indent + text.substr(end);
-        }
-        return text;
-    }
-
-private:
-    // Where a part ends: at a comma or at the bracket that closes the whole.
-    static std::size_t endOfPart(const std::string& text, std::size_t begin)
-    {
-        std::size_t depth = 0;
-        bool isInQuotes = false;
-        for (std::size_t i = begin; i < text.size(); ++i)
-        {
-            if (isInQuotes && text[i] == '\\')
-                ++i;
-            else if (text[i] == '"')
-                isInQuotes = !isInQuotes;
-            else if (!isInQuotes && std::string("{[(").find(text[i]) != std::string::npos)
-                ++depth;
-            else if (!isInQuotes && depth > 0 && std::string("}])").find(text[i]) != std::string::npos)
-                --depth;
-            else if (!isInQuotes && depth == 0 && std::string(",}]").find(text[i]) != std::string::npos)
-                return i;
-        }
-        return text.size();
-    }
+    static std::string of(const std::string& text, std::size_t column);
 };
 
 // An enumerator by its place in the model's list, which starts again behind the last one; 0 when the list is empty.

@@ -22,6 +22,9 @@ typedef float DtFloat32;
 typedef double DtFloat64;
 typedef double DtFloat; // a floating-point number whose size the model leaves open
 
+// The coded form of one value, octet by octet as it goes over the wire.
+typedef std::vector<unsigned char> DtValueBuffer;
+
 // Text of any content, zero characters included. Narrow text is kept as it comes, wide text as UTF-8.
 class DtString
 {

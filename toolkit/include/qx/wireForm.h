@@ -3,7 +3,7 @@
 
 // What the model says about a value, as far as it decides the octets on the wire.
 
-#include <qx/valueTypes.h>
+#include <qx/numberForm.h>
 
 #include <cstring>
 
@@ -159,19 +159,6 @@ struct DtWireForm
     const DtWireRecordLayout* layout; // of a toolkit class that holds a record; null: the usual one
     DtArrayKind kind;                 // by the encoding
     unsigned int unit;                // octets that a padding array fills up to a multiple of
-};
-
-// Length, sign and byte order of an integer that stands for an enumeration; 0 octets when nobody tells.
-struct DtNumberForm
-{
-    constexpr DtNumberForm(unsigned int octetCount = 0, bool hasSign = false, bool littleEndian = false)
-        : octets(octetCount), isSigned(hasSign), isLittleEndian(littleEndian)
-    {
-    }
-
-    unsigned int octets;
-    bool isSigned;
-    bool isLittleEndian;
 };
 
 struct DtArrayLayout

@@ -161,12 +161,14 @@ struct DtWireTraits<Enumeration, typename std::enable_if<std::is_enum<Enumeratio
 private:
     static DtNumberForm numberForm(const DtWireForm& form)
     {
-        const DtEnumeratorTable table = DtNamesOfType<Enumeration>();
-        if (table.number.octets != 0)
-            return table.number;
+        const DtNumberForm told = DtNumberFormOf(Enumeration());
+        return told.octets != 0 ? told : guessedForm(form);
+    }
+    static DtNumberForm guessedForm(const DtWireForm& form)
+    {
         unsigned int length = form.octets != 0 ? form.octets : DtOctetsByName(form.representation);
         if (length == 0)
-            length = DtOctetsByName(table.typeName);
+            length = DtOctetsByName(DtNamesOfType<Enumeration>().typeName);
         return DtNumberForm(length == 0 || length > 8 ? 4 : length, !DtIsUnsignedByName(form.representation),
                             DtIsLittleEndian(form));
     }

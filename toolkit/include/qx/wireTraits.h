@@ -5,6 +5,7 @@
 
 #include <qx/wireBuffer.h>
 #include <qx/wireForm.h>
+#include <qx/wireNames.h>
 
 // Classes on the way down while a boundary is worked out, so that types that hold themselves come to an end.
 struct DtWireTrail
@@ -116,15 +117,6 @@ QX_IN_PLACE bool DtDecodePart(DtWireReader& reader, Type& value, const DtWireFor
     if (form.isMisfit())
         return reader.fail("the model's datatype does not fit into the type of the toolkit");
     return reader.pad(DtBoundaryOfType<Type>(form)) && DtDecodeWithTraits(reader, value, form, 0);
-}
-
-// Octets of a value that starts at an offset of 0; 0 when it cannot be encoded.
-template <class Class>
-unsigned int DtNetSizeOf(const Class& value)
-{
-    DtWireWriter writer;
-    value.encode(writer);
-    return writer.ok() ? static_cast<unsigned int>(writer.size()) : 0;
 }
 
 // Boundary of a number: the smallest power of two that is not below its length.

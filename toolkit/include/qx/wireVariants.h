@@ -8,7 +8,7 @@
 // What stands behind the discriminant of a variant record. Nothing selected: the discriminant is all, or a length of 0
 // follows it where the encoding has one.
 
-enum DtVariantKind
+enum DtVariantKind : int
 {
     DtPlainVariant,     // the alternative, at the largest boundary of all alternatives
     DtExtendedVariant,  // length in octets and the alternative, without any padding

@@ -151,6 +151,17 @@ DtEnumerationFileWriter::DtEnumerationFileWriter(const DtString& fileName)
     myTokenChain.putAhead({&myEnumerationTokens, &myFieldTokens});
 }
 
+DtEnumerationFileWriter::DtEnumerationFileWriter(const DtString& fileName, const DtString& templateName,
+                                                 const DtEnumerationFileWriter& header)
+    : DtFileWriter(fileName, templateName),
+      myEnumerations(header.myEnumerations),
+      myNames(header.myNames),
+      myEnumerationTokens(DtTokens::ofEnumeration(), this),
+      myFieldTokens(DtTokens::ofField(), this)
+{
+    myTokenChain.putAhead({&myEnumerationTokens, &myFieldTokens});
+}
+
 void DtEnumerationFileWriter::writeMultipleTimes(const DtString& loopName, std::istream& stream)
 {
     if (loopName == "Enumeration")

@@ -55,7 +55,8 @@ private:
     DtString myDocumentation;
 };
 
-// Writes the one header that holds all enumerations, and tells the mapper the name, size and representation of each.
+// Writes the one header that holds all enumerations, and tells the mapper the name, size and representation of each. A
+// second one, made of it, writes the source with what need not stand in the header.
 //
 // Names that cannot stand in C++ side by side are told on the warning stream. The second of two enumerators gets a name
 // of its own; the second of two enumerations is marked, so that the template can leave it out.
@@ -63,9 +64,14 @@ class DtEnumerationFileWriter : public DtFileWriter
 {
 public:
     explicit DtEnumerationFileWriter(const DtString& fileName);
+    // For another file of the header's enumerations, which are told to nobody again.
+    DtEnumerationFileWriter(const DtString& fileName, const DtString& templateName,
+                            const DtEnumerationFileWriter& header);
 
     // Knows "Enumeration" and, inside it, "EnumerationField".
     void writeMultipleTimes(const DtString& loopName, std::istream& stream) override;
+
+    bool hasEnumerations() const { return !myEnumerations.empty(); }
 
     // An enumeration without a size is asked for it by its name: the number behind the last "Enum". When that gives
     // none either, the mapper learns no size and no representation.

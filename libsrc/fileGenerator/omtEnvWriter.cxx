@@ -290,7 +290,8 @@ void DtOMTEnvWriter::setTotalProgress()
 void DtOMTEnvWriter::generateEnumerationsFile()
 {
     const DtString base = withoutDashesAndDots(withoutPathAndExtension(modelBase()));
-    DtEnumerationFileWriter writer(DtString("DataTypes") + DtFilename::separator() + base + "Enums.h");
+    const DtString stem = DtString("DataTypes") + DtFilename::separator() + base + "Enums";
+    DtEnumerationFileWriter writer(stem + ".h");
     for (DtEnumeratedDatatypeNode* node : tree().enumeratedDatatypes())
     {
         // Also of those that a ready-made type stands for: it does not tell how long the number is.
@@ -300,6 +301,11 @@ void DtOMTEnvWriter::generateEnumerationsFile()
     }
     addToFileList(writer.fileName());
     writer.writeFile();
+    if (!writer.hasEnumerations())
+        return; // the header is written all the same
+    DtEnumerationFileWriter source(stem + ".cxx", "../data/templates/enumsSource.tlt", writer);
+    addToFileList(source.fileName());
+    source.writeFile();
 }
 
 bool DtOMTEnvWriter::isGenerated(const DtEnumeratedDatatypeNode& node) const

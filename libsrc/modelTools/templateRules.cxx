@@ -288,6 +288,7 @@ const DtTemplateRow theRows[] = {
     {"customUITemplates/customUIguide.tlt",        customCodeRules                                },
     {"dllExport.tlt",                              baseRules                                      },
     {"enums.tlt",                                  enumRules                                      },
+    {"enumsSource.tlt",                            enumRules                                      },
     {"makefile.tlt",                               makefileRules                                  },
     {"solutionVC14_64.tlt",                        solutionRules                                  },
     {"projectFile.tlt",                            projectRules                                   },

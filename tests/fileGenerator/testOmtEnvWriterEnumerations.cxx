@@ -1,6 +1,7 @@
 #include "registerTest.h"
 
 #include "envWriterFixture.h"
+#include "testSupport.h"
 
 #include <QtTest/QtTest>
 
@@ -14,6 +15,8 @@ private Q_SLOTS:
     void cleanup() { close(); }
 
     void enumerationsFileHoldsUsedUnmappedOnly();
+    void sourceHoldsTheEnumerationsOfTheHeader();
+    void noSourceIsWrittenWithoutEnumerations();
     void enumerationSizeComesFromItsRepresentation_data();
     void enumerationSizeComesFromItsRepresentation();
     void enumerationIsKnownToTheMapper();
@@ -43,6 +46,34 @@ void TestOmtEnvWriterEnumerations::enumerationsFileHoldsUsedUnmappedOnly()
     run();
     QCOMPARE(myFixture->output("DataTypes/modelEnums.h"), QString("DtDeUsedEnum8(red=4,green=-1,)"));
     QVERIFY(isListed("DataTypes/modelEnums.h"));
+}
+
+void TestOmtEnvWriterEnumerations::sourceHoldsTheEnumerationsOfTheHeader()
+{
+    myModel->addObject("HLAobjectRoot.Tank");
+    myModel->addAttribute("HLAobjectRoot.Tank", "deOne", "DeUsedEnum8");
+    myModel->addEnumeration("DeUsedEnum8", "HLAoctet",
+                            {
+                                {"red",  400},
+                                {"Red",  1  },
+                                {"re-d", 2  }
+    });
+    myFixture->writeTemplate("enumsSource.tlt", "<#Enumeration><!EnumerationTypeName!><#EnumerationField> "
+                                                "<!EnumerationFieldIdentifier!><#><#>");
+    select({"HLAobjectRoot.Tank"});
+    const DtCapture capture(DtWarn);
+    run();
+    QCOMPARE(myFixture->output("DataTypes/modelEnums.cxx"), QString("DtDeUsedEnum8 red Red red_2"));
+    QVERIFY(isListed("DataTypes/modelEnums.cxx"));
+    QCOMPARE(capture.text().count("re-d of DeUsedEnum8 is called"), 1); // told for the header alone
+}
+
+void TestOmtEnvWriterEnumerations::noSourceIsWrittenWithoutEnumerations()
+{
+    run();
+    QVERIFY(myFixture->hasOutput("DataTypes/modelEnums.h"));
+    QVERIFY(!myFixture->hasOutput("DataTypes/modelEnums.cxx"));
+    QVERIFY(!isListed("DataTypes/modelEnums.cxx"));
 }
 
 void TestOmtEnvWriterEnumerations::enumerationSizeComesFromItsRepresentation_data()

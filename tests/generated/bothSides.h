@@ -7,6 +7,7 @@
 #include "codeGenApp/compiledOutput.h"
 #include "codeGenApp/scriptRun.h"
 #include "codeGenApp/smallModels.h"
+#include "toolkitObjects.h"
 #include "valuePrinters.h"
 
 #include <QtCore/QXmlStreamReader>
@@ -188,9 +189,14 @@ private:
         writeTextFile(path() + "/probes.h", probes);
         writeTextFile(path() + "/printers.h", printersFor(path(), headers()));
         writeTextFile(path() + "/unit.cpp", unit + "#include \"crossDriver.cxx\"\n");
-        const DtPythonRun run = runProgram("g++", {"-std=c++17", "-Wall", "-Wextra", "-Werror", "-I.",
-                                                   "-I" QX_SOURCE_DIR "/tests/generated",
-                                                   "-I" QX_SOURCE_DIR "/toolkit/include", "unit.cpp", "-o", "driver"});
+        const QStringList options{"-std=c++17",
+                                  "-Wall",
+                                  "-Wextra",
+                                  "-Werror",
+                                  "-I.",
+                                  "-I" QX_SOURCE_DIR "/tests/generated",
+                                  "-I" QX_SOURCE_DIR "/toolkit/include"};
+        const DtPythonRun run = runProgram("g++", options + QStringList{"unit.cpp", "-o", "driver"} + toolkitObjects());
         return run.isGood() ? QString() : run.output.left(4000);
     }
     DtPythonRun runProgram(const QString& program, const QStringList& arguments,

@@ -80,7 +80,7 @@ std::string thereAndBack(const std::string& name, const DtValueBuffer& octets)
     taken[name] = octets;
     if (!theDecoder.decode(taken, theState))
         return DtOpenDecoder::refusal(name, octets);
-    if (!theEncoder.encode(theState, std::set<std::string>{name}, given))
+    if (!theEncoder.encode(theState, std::vector<std::string>{name}, given))
         return DtOpenEncoder::refusal(name, theState) + " (when encoded)";
     return hexOf(given[name]);
 }

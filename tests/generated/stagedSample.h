@@ -5,6 +5,7 @@
 
 #include "codeGenApp/scratchProgram.h"
 #include "fileGenerator/omtProject.h"
+#include "toolkitObjects.h"
 
 #include <QtCore/QProcess>
 
@@ -23,15 +24,6 @@ inline DtProgramRun runProgram(const QString& directory, const QString& program,
     if (!process.waitForFinished(600000) || process.exitStatus() != QProcess::NormalExit)
         return {-1, program + " did not end: " + QString::fromUtf8(process.readAll().left(4000))};
     return {process.exitCode(), QString::fromUtf8(process.readAll())};
-}
-
-// Sources of the toolkit, for programs that need more of it than its headers.
-inline QStringList toolkitSources()
-{
-    QStringList sources;
-    for (const QFileInfo& file : QDir(QStringLiteral(QX_SOURCE_DIR "/toolkit/src")).entryInfoList({"*.cxx"}))
-        sources += file.filePath();
-    return sources;
 }
 
 // The files of one run without the first part of their names, and a scratch directory around them.

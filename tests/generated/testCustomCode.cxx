@@ -299,7 +299,7 @@ private Q_SLOTS:
         const DtStagedOutput output(program.path("out"));
         const QString run = output.path() + "/custom";
         const QString errors =
-            output.compile(output.files("[^/]*\\.cxx"), theProgram, toolkitSources() + QStringList{"-std=c++17"}, run);
+            output.compile(output.files("[^/]*\\.cxx"), theProgram, toolkitObjects() + QStringList{"-std=c++17"}, run);
         QVERIFY2(errors.isEmpty(), qPrintable(errors));
         const DtProgramRun result = runProgram(output.path(), run, {});
         QVERIFY2(result.exitCode == 0, qPrintable(result.output));
@@ -397,8 +397,8 @@ private Q_SLOTS:
             warnings += "Warning: Cannot encode/decode data type Dt" + each + row + ".";
         QCOMPARE(output.warnings().split('\n', Qt::SkipEmptyParts), warnings);
         const QString run = output.path() + "/open";
-        const QString errors =
-            output.compile(output.files("DataTypes/.*\\.cxx"), named(theOpenProgram), {"-std=c++11"}, run);
+        const QString errors = output.compile(output.files("DataTypes/.*\\.cxx"), named(theOpenProgram),
+                                              toolkitObjects() + QStringList{"-std=c++11"}, run);
         QVERIFY2(errors.isEmpty(), qPrintable(errors));
         QCOMPARE(runProgram(output.path(), run, {}).output, coded);
     }
@@ -445,18 +445,6 @@ private:
     static QStringList optionsOf(bool isDis)
     {
         return isDis ? QStringList{"-std=c++11", "-DQX_DIS"} : QStringList{"-std=c++11"};
-    }
-    // The toolkit, compiled once.
-    static QStringList toolkitObjects()
-    {
-        static const QTemporaryDir theDirectory;
-        static const DtProgramRun theRun =
-            runProgram(theDirectory.path(), "g++",
-                       QStringList{"-c", "-std=c++11", "-I" QX_SOURCE_DIR "/toolkit/include"} + toolkitSources());
-        QStringList objects;
-        for (const QFileInfo& file : QDir(theDirectory.path()).entryInfoList({"*.o"}))
-            objects += file.filePath();
-        return objects;
     }
 };
 

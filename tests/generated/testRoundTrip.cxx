@@ -52,7 +52,7 @@ private:
         const QByteArray program = programOf(output, sources, classes);
         const QString file = output.path() + "/roundTrip";
         const QString errors =
-            output.compile(sources, program, toolkitSources() + QStringList{"-std=c++17", "-O0"}, file);
+            output.compile(sources, program, toolkitObjects() + QStringList{"-std=c++17", "-O0"}, file);
         QVERIFY2(errors.isEmpty(), qPrintable(errors));
         const DtProgramRun run = runProgram(output.path(), file, {});
         QVERIFY2(run.exitCode == 0, qPrintable(run.output));

@@ -88,9 +88,10 @@ void TestWireBytes::initTestCase()
 {
     myOutput = std::make_unique<DtStagedOutput>();
     writeTextFile(myOutput->path() + "/allDatatypes.h", allDatatypes(*myOutput));
-    const QString errors =
-        myOutput->compile(sourcesOf(*myOutput), "#include \"wireVectors.cxx\"\n",
-                          {"-std=c++17", "-fsanitize=address,undefined", "-fno-sanitize-recover=all"}, "vectors");
+    const QString errors = myOutput->compile(
+        sourcesOf(*myOutput), "#include \"wireVectors.cxx\"\n",
+        toolkitObjects() + QStringList{"-std=c++17", "-fsanitize=address,undefined", "-fno-sanitize-recover=all"},
+        "vectors");
     QVERIFY2(errors.isEmpty(), qPrintable(errors));
 }
 

@@ -224,8 +224,7 @@ void attribute(const std::string& name, const char* attributeName, void (State::
                                       State state;
                                       (state.*set)(given);
                                       DtAttributeValues values;
-                                      std::set<std::string> names;
-                                      names.insert(key);
+                                      const std::vector<std::string> names(1, key);
                                       const bool done = Encoder().encode(state, names, values);
                                       octets = values[key];
                                       return done;

@@ -10,6 +10,7 @@
 
 #include "codecByHand.h"
 
+#include "DataTypes/codecModelEnums.h"
 #include "DataTypes/motionVariant.h"
 #include "DataTypes/reportRecord.h"
 #include "DataTypes/trackArray.h"

@@ -15,6 +15,7 @@
 #include "foundation/stringUtils.h"
 
 #include <algorithm>
+#include <set>
 #include <string_view>
 
 namespace
@@ -104,14 +105,20 @@ bool hasNoClass(const DtAttribute& attribute)
     return !isKnown && attribute.netType() == attribute.nonVectorType();
 }
 
+// Whether the attribute's type is one of the enumerations header. Not by the type's name, which may be one of the
+// toolkit and that of an enumeration, too.
+bool isOfEnumerationsHeader(const DtAttribute& attribute)
+{
+    const DtString& datatype = attribute.datatype();
+    return mapper().isEnumeration(datatype) && mapper().quorvexType(datatype) == attribute.type();
+}
+
 // The C++ name of the attribute's type. That of an enumeration is never shortened: the enumerations header is written
 // ahead of the classes and takes no number of theirs.
 DtString typeIdentifier(const DtAttribute& attribute)
 {
-    const DtString& datatype = attribute.datatype();
-    const DtString& name = DtDatatypeClassNames::instance().identifierOf(datatype, attribute.type());
-    const bool isEnumeration = mapper().isEnumeration(datatype) && mapper().quorvexType(datatype) == attribute.type();
-    return isEnumeration ? DtCCompatibleNames::wholeIdentifier(name) : identifier(name);
+    const DtString& name = DtDatatypeClassNames::instance().identifierOf(attribute.datatype(), attribute.type());
+    return isOfEnumerationsHeader(attribute) ? DtCCompatibleNames::wholeIdentifier(name) : identifier(name);
 }
 
 DtString bareClassName(const DtString& className)
@@ -388,6 +395,8 @@ void DtClassFileWriter::writeMultipleTimes(const DtString& loopName, std::istrea
         writeNamesakeIncludeFiles(stream);
     else if (loopName == "Attributes")
         writeAttributes(stream);
+    else if (loopName == "Enumerations")
+        writeEnumerations(stream);
     else if (loopName == "FomModules")
         writeFomModules(stream);
     else
@@ -586,6 +595,29 @@ void DtClassFileWriter::writeAttributes(std::istream& stream)
         setCurrentAttribute(&myAttributes[i]);
         writeBodyFrom(stream, start);
         setAttributeCounter(myAttributeCounter + 1);
+    }
+    setCurrentAttribute(nullptr);
+}
+
+std::vector<const DtAttribute*> DtClassFileWriter::typedMembers() const
+{
+    std::vector<const DtAttribute*> members;
+    for (const DtAttribute& attribute : myAttributes)
+        members.push_back(&attribute);
+    return members;
+}
+
+// The attribute that comes first stands for its enumeration.
+void DtClassFileWriter::writeEnumerations(std::istream& stream)
+{
+    const std::streampos start = stream.tellg();
+    std::set<DtString> written;
+    for (const DtAttribute* attribute : typedMembers())
+    {
+        if (!isOfEnumerationsHeader(*attribute) || !written.insert(typeIdentifier(*attribute)).second)
+            continue;
+        setCurrentAttribute(attribute);
+        writeBodyFrom(stream, start);
     }
     setCurrentAttribute(nullptr);
 }

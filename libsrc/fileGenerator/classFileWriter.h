@@ -43,7 +43,8 @@ public:
     // current.
     void decodeFileLine(DtString& line) override;
     // Knows "IncludeFiles", "NamesakeIncludeFiles" (the headers of generated types that are called like types of the
-    // toolkit), "Attributes" (which must not stand inside itself) and "FomModules".
+    // toolkit), "Attributes" (which must not stand inside itself), "Enumerations" (those among the types of the
+    // attributes, each once) and "FomModules".
     void writeMultipleTimes(const DtString& loopName, std::istream& stream) override;
 
     // Stores the class's short name and hands it to setClassName, from where every subclass derives its names.
@@ -89,6 +90,8 @@ protected:
     // To be called behind every change of the names below that is not made by a setter of this class: their tokens are
     // worked out once.
     void namesChanged();
+    // What the loop "Enumerations" looks at: the attributes.
+    virtual std::vector<const DtAttribute*> typedMembers() const;
     // "Dt" taken off, first letter lowered: what the header of a generated type is called.
     static DtString includeNameOf(const DtString& type);
 
@@ -132,6 +135,7 @@ private:
     void writeNamesakeIncludeFiles(std::istream& stream);
     void writeIncludes(std::istream& stream, const std::list<DtString>& includes);
     void writeAttributes(std::istream& stream);
+    void writeEnumerations(std::istream& stream);
     void writeFomModules(std::istream& stream);
     void setCurrentInclude(const DtString& include);
     void setAttributeCounter(int counter);

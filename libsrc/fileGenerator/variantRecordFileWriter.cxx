@@ -186,6 +186,13 @@ void DtVariantRecordFileWriter::setDiscriminant(const DtString& name, const DtSt
         myDiscriminant.setType("DtInt32");
 }
 
+std::vector<const DtAttribute*> DtVariantRecordFileWriter::typedMembers() const
+{
+    std::vector<const DtAttribute*> members = DtCodedDataTypeFileWriter::typedMembers();
+    members.insert(members.begin(), &myDiscriminant);
+    return members;
+}
+
 void DtVariantRecordFileWriter::writeDiscriminant(std::istream& stream)
 {
     const std::streampos start = stream.tellg();

@@ -31,6 +31,10 @@ public:
     // Copies the enumerators of the record to the members of the compiled datatypes that carry its alternatives.
     virtual void addEnumerators(const DtDataTypeMapper::DtVariantRecordStruct& record);
 
+protected:
+    // With the discriminant.
+    std::vector<const DtAttribute*> typedMembers() const override;
+
 private:
     struct DtTokens;
 

@@ -227,6 +227,7 @@ DtTemplateRules classRules()
     for (const std::string& token : replacedTokens(*probe, known))
         if (rules.freeTokens.count(token) == 0)
             rules.loops["Attributes"].insert(token);
+    rules.loops["Enumerations"] = rules.loops["Attributes"]; // the first attribute of its type is the attribute there
     moveTokens(rules, "IncludeFiles", {"<!FileToInclude!>", "<!IncludeIsGenerated!>"});
     rules.loops["NamesakeIncludeFiles"] = rules.loops["IncludeFiles"];
     moveTokens(rules, "FomModules", {"<!FomModule!>"});
@@ -242,7 +243,8 @@ DtTemplateRules datatypeRules()
 {
     DtTemplateRules rules = classRules<Writer>();
     rules.parents = {
-        {"Attributes", "ClassDatatypes"}
+        {"Attributes",   "ClassDatatypes"},
+        {"Enumerations", "ClassDatatypes"}
     };
     rules.loops["ClassDatatypes"];
     moveTokens(

@@ -78,6 +78,37 @@ private Q_SLOTS:
         }
     }
 
+    // Beyond the standard library it reads its own classes, and names in place of the wire layer and the enumerations.
+    void stateRepositoryReadsWhatItsTypesNeed()
+    {
+        const DtStagedOutput& output = outputOf("sample");
+        const QStringList sources = output.files("vesselStateRepository\\.cxx");
+        QCOMPARE(sources.size(), 1);
+        const DtProgramRun run = runProgram(
+            output.path(), "g++", {"-M", "-std=c++17", "-I.", "-I" QX_SOURCE_DIR "/toolkit/include", sources.first()});
+        QCOMPARE(run.exitCode, 0);
+        const QStringList read = run.output.split(QRegularExpression("[\\s\\\\]+"));
+        QVERIFY(read.contains("vesselStateRepository.h"));
+        QCOMPARE(read.filter("Enums.h"), QStringList());
+        QStringList ofToolkit;
+        for (const QString& header : read.filter("toolkit/include/qx/"))
+            ofToolkit += header.section('/', -1);
+        ofToolkit.sort();
+        QCOMPARE(ofToolkit.join(' '), QString("opaqueValue.h stateRepository.h valueTypes.h wireNames.h"));
+    }
+
+    // The names of enumerators are compiled once, in one source.
+    void nameOfAnEnumeratorStandsInOneFile()
+    {
+        const DtStagedOutput& output = outputOf("sample");
+        QStringList holders;
+        for (const QString& file : output.files(".*\\.(h|cxx)"))
+            if (output.text(file).contains("static const DtEnumerator "))
+                holders += file;
+        QCOMPARE(holders.join(' '), QString("DataTypes/sampleEnums.cxx"));
+        QVERIFY(output.text(holders.first()).contains("\"Under-Way\""));
+    }
+
 private:
     const DtStagedOutput& outputOf(const QString& model)
     {

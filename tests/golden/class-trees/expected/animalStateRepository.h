@@ -7,10 +7,11 @@
 #include <qx/stateRepository.h>
 #include <qx/opaqueValue.h>
 #include <qx/valueTypes.h>
+#include <qx/wireNames.h>
 
-#include "DataTypes/caseEnums.h"
 #include "dllExport.h"
 
+#include <iosfwd>
 #include <vector>
 
 // The attribute values of one Animal: its own here, those of its superclasses in the bases.

@@ -6,6 +6,7 @@
 
 #include <qx/hlaPublisherBase.h>
 
+#include "DataTypes/caseEnums.h"
 #include "dogStateRepository.h"
 #include "dllExport.h"
 

@@ -7,8 +7,8 @@
 #include <qx/stateRepository.h>
 #include <qx/opaqueValue.h>
 #include <qx/valueTypes.h>
+#include <qx/wireNames.h>
 
-#include "DataTypes/caseEnums.h"
 #include "DataTypes/unsigned16LE.h"
 #include "DataTypes/hours.h"
 #include "DataTypes/row.h"
@@ -18,7 +18,12 @@
 #include "DataTypes/content.h"
 #include "dllExport.h"
 
+#include <iosfwd>
 #include <vector>
+
+enum class DtState8 : DtInt64;
+DT_DLL_CASE DtEnumeratorTable DtEnumeratorsOf(DtState8);
+DT_DLL_CASE std::ostream& operator<<(std::ostream& out, DtState8 value);
 
 // The attribute values of one Meter: its own here, those of its superclasses in the bases.
 class DT_DLL_CASE DtMeterStateRepository

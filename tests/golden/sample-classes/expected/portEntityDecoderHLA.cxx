@@ -5,6 +5,8 @@
 
 #include <qx/valueCoding.h>
 
+#include "DataTypes/caseEnums.h"
+
 DtPortEntityDecoder::DtPortEntityDecoder()
 {
     addCoder("Position", &DtPortEntityDecoder::decodePosition);

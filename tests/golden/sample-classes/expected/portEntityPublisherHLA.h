@@ -6,6 +6,7 @@
 
 #include <qx/hlaPublisherBase.h>
 
+#include "DataTypes/caseEnums.h"
 #include "portEntityStateRepository.h"
 #include "dllExport.h"
 

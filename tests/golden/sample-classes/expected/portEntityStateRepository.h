@@ -7,12 +7,13 @@
 #include <qx/stateRepository.h>
 #include <qx/opaqueValue.h>
 #include <qx/valueTypes.h>
+#include <qx/wireNames.h>
 
-#include "DataTypes/caseEnums.h"
 #include "DataTypes/geoPoint.h"
 #include "DataTypes/shortText.h"
 #include "dllExport.h"
 
+#include <iosfwd>
 #include <vector>
 
 // The attribute values of one PortEntity: its own here, those of its superclasses in the bases.

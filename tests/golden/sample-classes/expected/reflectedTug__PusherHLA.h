@@ -6,6 +6,7 @@
 
 #include <qx/hlaReflectedObject.h>
 
+#include "DataTypes/caseEnums.h"
 #include "tug__PusherStateRepository.h"
 #include "dllExport.h"
 

@@ -6,6 +6,7 @@
 
 #include <qx/disReflectedObject.h>
 
+#include "DataTypes/caseEnums.h"
 #include "vesselStateRepository.h"
 #include "dllExport.h"
 

@@ -5,6 +5,8 @@
 
 #include <qx/valueCoding.h>
 
+#include "DataTypes/caseEnums.h"
+
 DtTug__PusherDecoder::DtTug__PusherDecoder()
 {
     addCoder("Pull__Push", &DtTug__PusherDecoder::decodePull__Push);

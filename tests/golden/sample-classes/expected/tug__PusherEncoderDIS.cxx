@@ -5,6 +5,8 @@
 
 #include <qx/valueCoding.h>
 
+#include "DataTypes/caseEnums.h"
+
 DtTug__PusherEncoder::DtTug__PusherEncoder()
 {
     addCoder("Pull__Push", &DtTug__PusherEncoder::encodePull__Push);

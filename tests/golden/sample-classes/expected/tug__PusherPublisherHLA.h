@@ -6,6 +6,7 @@
 
 #include <qx/hlaPublisherBase.h>
 
+#include "DataTypes/caseEnums.h"
 #include "tug__PusherStateRepository.h"
 #include "dllExport.h"
 

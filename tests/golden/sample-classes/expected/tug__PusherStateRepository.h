@@ -7,11 +7,16 @@
 #include "vesselStateRepository.h"
 #include <qx/opaqueValue.h>
 #include <qx/valueTypes.h>
+#include <qx/wireNames.h>
 
-#include "DataTypes/caseEnums.h"
 #include "dllExport.h"
 
+#include <iosfwd>
 #include <vector>
+
+enum class DtLineState32 : DtInt64;
+DT_DLL_CASE DtEnumeratorTable DtEnumeratorsOf(DtLineState32);
+DT_DLL_CASE std::ostream& operator<<(std::ostream& out, DtLineState32 value);
 
 // The attribute values of one PortEntity.Vessel.Tug/Pusher: its own here, those of its superclasses in the bases.
 /// Moves other ships.

@@ -5,6 +5,8 @@
 
 #include <qx/valueCoding.h>
 
+#include "DataTypes/caseEnums.h"
+
 DtVesselDecoder::DtVesselDecoder()
 {
     addCoder("Speed", &DtVesselDecoder::decodeSpeed);

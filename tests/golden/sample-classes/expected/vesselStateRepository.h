@@ -7,12 +7,21 @@
 #include "portEntityStateRepository.h"
 #include <qx/opaqueValue.h>
 #include <qx/valueTypes.h>
+#include <qx/wireNames.h>
 
-#include "DataTypes/caseEnums.h"
 #include "DataTypes/personList.h"
 #include "dllExport.h"
 
+#include <iosfwd>
 #include <vector>
+
+enum class DtVesselState8 : DtInt64;
+DT_DLL_CASE DtEnumeratorTable DtEnumeratorsOf(DtVesselState8);
+DT_DLL_CASE std::ostream& operator<<(std::ostream& out, DtVesselState8 value);
+
+enum class DtVesselState16 : DtInt64;
+DT_DLL_CASE DtEnumeratorTable DtEnumeratorsOf(DtVesselState16);
+DT_DLL_CASE std::ostream& operator<<(std::ostream& out, DtVesselState16 value);
 
 // The attribute values of one PortEntity.Vessel: its own here, those of its superclasses in the bases.
 /// Anything that floats.

@@ -7,8 +7,8 @@
 #include "portEntityStateRepository.h"
 #include <qx/opaqueValue.h>
 #include <qx/valueTypes.h>
+#include <qx/wireNames.h>
 
-#include "DataTypes/caseEnums.h"
 #include "DataTypes/lampMatrix.h"
 #include "DataTypes/bearing.h"
 #include "DataTypes/routeCode.h"
@@ -39,7 +39,32 @@
 #include "DataTypes/doorStates.h"
 #include "dllExport.h"
 
+#include <iosfwd>
 #include <vector>
+
+enum class DtLampState : DtInt64;
+DT_DLL_CASE DtEnumeratorTable DtEnumeratorsOf(DtLampState);
+DT_DLL_CASE std::ostream& operator<<(std::ostream& out, DtLampState value);
+
+enum class DtZone64 : DtInt64;
+DT_DLL_CASE DtEnumeratorTable DtEnumeratorsOf(DtZone64);
+DT_DLL_CASE std::ostream& operator<<(std::ostream& out, DtZone64 value);
+
+enum class DtCurrent16 : DtInt64;
+DT_DLL_CASE DtEnumeratorTable DtEnumeratorsOf(DtCurrent16);
+DT_DLL_CASE std::ostream& operator<<(std::ostream& out, DtCurrent16 value);
+
+enum class DtDeep32 : DtInt64;
+DT_DLL_CASE DtEnumeratorTable DtEnumeratorsOf(DtDeep32);
+DT_DLL_CASE std::ostream& operator<<(std::ostream& out, DtDeep32 value);
+
+enum class DtSlack24 : DtInt64;
+DT_DLL_CASE DtEnumeratorTable DtEnumeratorsOf(DtSlack24);
+DT_DLL_CASE std::ostream& operator<<(std::ostream& out, DtSlack24 value);
+
+enum class DtHullPart32 : DtInt64;
+DT_DLL_CASE DtEnumeratorTable DtEnumeratorsOf(DtHullPart32);
+DT_DLL_CASE std::ostream& operator<<(std::ostream& out, DtHullPart32 value);
 
 // The attribute values of one PortEntity.Beacon: its own here, those of its superclasses in the bases.
 /// A light at the entrance; it shows every way to lay a value out.

@@ -7,15 +7,20 @@
 #include "portEntityStateRepository.h"
 #include <qx/opaqueValue.h>
 #include <qx/valueTypes.h>
+#include <qx/wireNames.h>
 
-#include "DataTypes/caseEnums.h"
 #include "DataTypes/depthGrid.h"
 #include "DataTypes/occupant.h"
 #include "DataTypes/flagBits.h"
 #include "DataTypes/fenderList.h"
 #include "dllExport.h"
 
+#include <iosfwd>
 #include <vector>
+
+enum class DtBerthKind64 : DtInt64;
+DT_DLL_CASE DtEnumeratorTable DtEnumeratorsOf(DtBerthKind64);
+DT_DLL_CASE std::ostream& operator<<(std::ostream& out, DtBerthKind64 value);
 
 // The attribute values of one PortEntity.Berth: its own here, those of its superclasses in the bases.
 /// A place to lie at.

@@ -7,13 +7,14 @@
 #include "vesselStateRepository.h"
 #include <qx/opaqueValue.h>
 #include <qx/valueTypes.h>
+#include <qx/wireNames.h>
 
-#include "DataTypes/caseEnums.h"
 #include "DataTypes/holdTable.h"
 #include "DataTypes/cargo_Item_List.h"
 #include "DataTypes/seal__Code.h"
 #include "dllExport.h"
 
+#include <iosfwd>
 #include <vector>
 
 // The attribute values of one PortEntity.Vessel.CargoShip: its own here, those of its superclasses in the bases.

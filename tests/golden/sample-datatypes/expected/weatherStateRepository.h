@@ -7,8 +7,8 @@
 #include <qx/stateRepository.h>
 #include <qx/opaqueValue.h>
 #include <qx/valueTypes.h>
+#include <qx/wireNames.h>
 
-#include "DataTypes/caseEnums.h"
 #include "DataTypes/windRecord.h"
 #include "DataTypes/reportText.h"
 #include "DataTypes/sampleRun.h"
@@ -17,6 +17,7 @@
 #include "DataTypes/paddedTrace.h"
 #include "dllExport.h"
 
+#include <iosfwd>
 #include <vector>
 
 // The attribute values of one Weather: its own here, those of its superclasses in the bases.

@@ -5,6 +5,8 @@
 
 #include <qx/valueCoding.h>
 
+#include "DataTypes/caseEnums.h"
+
 DtAnswerInterDecoder::DtAnswerInterDecoder()
 {
     addCoder("Done", &DtAnswerInterDecoder::decodeDone);

@@ -5,6 +5,8 @@
 
 #include <qx/valueCoding.h>
 
+#include "DataTypes/caseEnums.h"
+
 DtAnswerInterEncoder::DtAnswerInterEncoder()
 {
     if (WithDone)

@@ -5,6 +5,8 @@
 
 #include <qx/valueCoding.h>
 
+#include "DataTypes/caseEnums.h"
+
 DtMove__ToInterDecoder::DtMove__ToInterDecoder()
 {
     addCoder("Target_Point_", &DtMove__ToInterDecoder::decodeTarget_Point_);

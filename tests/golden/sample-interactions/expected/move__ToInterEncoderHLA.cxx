@@ -5,6 +5,8 @@
 
 #include <qx/valueCoding.h>
 
+#include "DataTypes/caseEnums.h"
+
 DtMove__ToInterEncoder::DtMove__ToInterEncoder()
 {
     if (WithTarget_Point_)

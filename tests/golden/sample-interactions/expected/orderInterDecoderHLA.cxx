@@ -5,6 +5,8 @@
 
 #include <qx/valueCoding.h>
 
+#include "DataTypes/caseEnums.h"
+
 DtOrderInterDecoder::DtOrderInterDecoder()
 {
     addCoder("Urgency", &DtOrderInterDecoder::decodeUrgency);

@@ -5,14 +5,16 @@
 // Do not edit: the next generation writes it anew.
 //
 // Every enumerator has the letter e in front, so that digits and keywords are names too. DtEnumeratorsOf gives the
-// names as the model has them, and how long the number is on the wire. A number without a name is a value all the
-// same.
+// names as the model has them, DtNumberFormOf how long the number is on the wire. A number without a name is a value
+// all the same.
 
-#include <qx/enumerators.h>
+#include <qx/numberForm.h>
 
 #include <iosfwd>
 
 #include "dllExport.h"
+
+struct DtEnumeratorTable; // of <qx/enumerators.h>
 
 // What the predefined truth values are called as discriminants; the class of one that the run makes goes first.
 #ifndef DT_DLL_CASE_DtHLAboolean

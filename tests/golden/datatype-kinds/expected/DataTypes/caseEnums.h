@@ -5,14 +5,16 @@
 // Do not edit: the next generation writes it anew.
 //
 // Every enumerator has the letter e in front, so that digits and keywords are names too. DtEnumeratorsOf gives the
-// names as the model has them, and how long the number is on the wire. A number without a name is a value all the
-// same.
+// names as the model has them, DtNumberFormOf how long the number is on the wire. A number without a name is a value
+// all the same.
 
-#include <qx/enumerators.h>
+#include <qx/numberForm.h>
 
 #include <iosfwd>
 
 #include "dllExport.h"
+
+struct DtEnumeratorTable; // of <qx/enumerators.h>
 
 // What the predefined truth values are called as discriminants; the class of one that the run makes goes first.
 #ifndef DT_DLL_CASE_DtHLAboolean
@@ -33,21 +35,11 @@ enum class DtState8 : DtInt64
     eclass = 3,
 };
 
-inline DtEnumeratorTable DtEnumeratorsOf(DtState8)
+constexpr DtNumberForm DtNumberFormOf(DtState8)
 {
-    static const DtEnumerator theEntries[] = {
-        {"Off", 0},
-        {"Half-On", 1},
-        {"2nd", 2},
-        {"class", 3},
-        {"", 0}};
-    static const DtNumberForm theNumber(1, 0, 0);
-    return DtEnumeratorTable("DtState8", theEntries, sizeof theEntries / sizeof *theEntries - 1, theNumber);
+    return DtNumberForm(1, 0, 0);
 }
-
-inline std::ostream& operator<<(std::ostream& out, DtState8 value)
-{
-    return DtWriteEnumerator(out, DtEnumeratorsOf(value), static_cast<DtInt64>(value));
-}
+DT_DLL_CASE DtEnumeratorTable DtEnumeratorsOf(DtState8);
+DT_DLL_CASE std::ostream& operator<<(std::ostream& out, DtState8 value);
 
 #endif

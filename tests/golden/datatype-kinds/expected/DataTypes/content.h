@@ -5,14 +5,17 @@
 // Do not edit: the next generation writes it anew.
 
 #include <qx/opaqueValue.h>
-#include <qx/wireFormat.h>
+#include <qx/wireNames.h>
 
 #include <iosfwd>
 
 #include "dllExport.h"
-#include "DataTypes/caseEnums.h"
 #include "DataTypes/hours.h"
 #include "DataTypes/reading.h"
+
+enum class DtState8 : DtInt64;
+DT_DLL_CASE DtEnumeratorTable DtEnumeratorsOf(DtState8);
+DT_DLL_CASE std::ostream& operator<<(std::ostream& out, DtState8 value);
 
 // A variant record: a discriminant and the alternative that it selects. Setting an alternative selects it.
 //

@@ -4,6 +4,8 @@
 #include "DataTypes/history.h"
 
 #include <qx/sampleValue.h>
+
+#include "DataTypes/caseEnums.h"
 #include "DataTypes/reading.h"
 
 DtHistory::DtHistory() : myElements(layout().kind == DtFixedArray ? layout().count : 0)

@@ -5,13 +5,16 @@
 // Do not edit: the next generation writes it anew.
 
 #include <qx/opaqueValue.h>
-#include <qx/wireFormat.h>
+#include <qx/wireNames.h>
 
 #include <iosfwd>
 
 #include "dllExport.h"
-#include "DataTypes/caseEnums.h"
 #include "DataTypes/hours.h"
+
+enum class DtState8 : DtInt64;
+DT_DLL_CASE DtEnumeratorTable DtEnumeratorsOf(DtState8);
+DT_DLL_CASE std::ostream& operator<<(std::ostream& out, DtState8 value);
 
 // A fixed record. Its own operations take an argument or are templates, so that a field may bear any name.
 class DT_DLL_CASE DtReading

@@ -4,6 +4,8 @@
 #include "DataTypes/row.h"
 
 #include <qx/sampleValue.h>
+
+#include "DataTypes/caseEnums.h"
 #include "DataTypes/hours.h"
 
 DtRow::DtRow() : myElements(layout().kind == DtFixedArray ? layout().count : 0)

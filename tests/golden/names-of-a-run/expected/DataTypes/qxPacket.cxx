@@ -5,6 +5,8 @@
 
 #include <qx/valueText.h>
 
+#include "DataTypes/caseEnums.h"
+
 #error "DtQxPacket holds more than one part of variable length and has no encoding"
 
 namespace garden

@@ -5,6 +5,8 @@
 
 #include <qx/sampleValue.h>
 
+#include "DataTypes/caseEnums.h"
+
 namespace garden
 {
 

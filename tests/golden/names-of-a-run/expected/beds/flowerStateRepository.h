@@ -7,15 +7,20 @@
 #include <qx/stateRepository.h>
 #include <qx/opaqueValue.h>
 #include <qx/valueTypes.h>
+#include <qx/wireNames.h>
 
-#include "DataTypes/caseEnums.h"
 #include "DataTypes/qxPacket.h"
 #include "dllExport.h"
 
+#include <iosfwd>
 #include <vector>
 
 namespace garden
 {
+
+enum class DtColour8 : DtInt64;
+DT_DLL_CASE DtEnumeratorTable DtEnumeratorsOf(DtColour8);
+DT_DLL_CASE std::ostream& operator<<(std::ostream& out, DtColour8 value);
 
 // The attribute values of one Flower: its own here, those of its superclasses in the bases.
 class DT_DLL_CASE DtQxFlowerStateRepository

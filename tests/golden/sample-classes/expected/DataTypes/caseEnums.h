@@ -5,14 +5,16 @@
 // Do not edit: the next generation writes it anew.
 //
 // Every enumerator has the letter e in front, so that digits and keywords are names too. DtEnumeratorsOf gives the
-// names as the model has them, and how long the number is on the wire. A number without a name is a value all the
-// same.
+// names as the model has them, DtNumberFormOf how long the number is on the wire. A number without a name is a value
+// all the same.
 
-#include <qx/enumerators.h>
+#include <qx/numberForm.h>
 
 #include <iosfwd>
 
 #include "dllExport.h"
+
+struct DtEnumeratorTable; // of <qx/enumerators.h>
 
 // What the predefined truth values are called as discriminants; the class of one that the run makes goes first.
 #ifndef DT_DLL_CASE_DtHLAboolean
@@ -34,22 +36,12 @@ enum class DtVesselState8 : DtInt64
     eUnknown = 255,
 };
 
-inline DtEnumeratorTable DtEnumeratorsOf(DtVesselState8)
+constexpr DtNumberForm DtNumberFormOf(DtVesselState8)
 {
-    static const DtEnumerator theEntries[] = {
-        {"Moored", 0},
-        {"Under-Way", 1},
-        {"Aground/Sunk", 2},
-        {"Unknown#", 255},
-        {"", 0}};
-    static const DtNumberForm theNumber(1, 0, 0);
-    return DtEnumeratorTable("DtVesselState8", theEntries, sizeof theEntries / sizeof *theEntries - 1, theNumber);
+    return DtNumberForm(1, 0, 0);
 }
-
-inline std::ostream& operator<<(std::ostream& out, DtVesselState8 value)
-{
-    return DtWriteEnumerator(out, DtEnumeratorsOf(value), static_cast<DtInt64>(value));
-}
+DT_DLL_CASE DtEnumeratorTable DtEnumeratorsOf(DtVesselState8);
+DT_DLL_CASE std::ostream& operator<<(std::ostream& out, DtVesselState8 value);
 
 /// One of several states.
 enum class DtVesselState16 : DtInt64
@@ -59,21 +51,12 @@ enum class DtVesselState16 : DtInt64
     eclass = 2,
 };
 
-inline DtEnumeratorTable DtEnumeratorsOf(DtVesselState16)
+constexpr DtNumberForm DtNumberFormOf(DtVesselState16)
 {
-    static const DtEnumerator theEntries[] = {
-        {"Small", 0},
-        {"Large", 300},
-        {"class", 2},
-        {"", 0}};
-    static const DtNumberForm theNumber(2, 1, 0);
-    return DtEnumeratorTable("DtVesselState16", theEntries, sizeof theEntries / sizeof *theEntries - 1, theNumber);
+    return DtNumberForm(2, 1, 0);
 }
-
-inline std::ostream& operator<<(std::ostream& out, DtVesselState16 value)
-{
-    return DtWriteEnumerator(out, DtEnumeratorsOf(value), static_cast<DtInt64>(value));
-}
+DT_DLL_CASE DtEnumeratorTable DtEnumeratorsOf(DtVesselState16);
+DT_DLL_CASE std::ostream& operator<<(std::ostream& out, DtVesselState16 value);
 
 /// One of several states.
 enum class DtLineState32 : DtInt64
@@ -83,20 +66,11 @@ enum class DtLineState32 : DtInt64
     eBroken = -1,
 };
 
-inline DtEnumeratorTable DtEnumeratorsOf(DtLineState32)
+constexpr DtNumberForm DtNumberFormOf(DtLineState32)
 {
-    static const DtEnumerator theEntries[] = {
-        {"Slack", 0},
-        {"Tight", 1},
-        {"<Broken>", -1},
-        {"", 0}};
-    static const DtNumberForm theNumber(4, 1, 0);
-    return DtEnumeratorTable("DtLineState32", theEntries, sizeof theEntries / sizeof *theEntries - 1, theNumber);
+    return DtNumberForm(4, 1, 0);
 }
-
-inline std::ostream& operator<<(std::ostream& out, DtLineState32 value)
-{
-    return DtWriteEnumerator(out, DtEnumeratorsOf(value), static_cast<DtInt64>(value));
-}
+DT_DLL_CASE DtEnumeratorTable DtEnumeratorsOf(DtLineState32);
+DT_DLL_CASE std::ostream& operator<<(std::ostream& out, DtLineState32 value);
 
 #endif

@@ -4,6 +4,8 @@
 #include "DataTypes/personList.h"
 
 #include <qx/sampleValue.h>
+
+#include "DataTypes/caseEnums.h"
 #include "DataTypes/person.h"
 
 DtPersonList::DtPersonList() : myElements(layout().kind == DtFixedArray ? layout().count : 0)

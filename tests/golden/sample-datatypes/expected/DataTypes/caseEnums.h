@@ -5,14 +5,16 @@
 // Do not edit: the next generation writes it anew.
 //
 // Every enumerator has the letter e in front, so that digits and keywords are names too. DtEnumeratorsOf gives the
-// names as the model has them, and how long the number is on the wire. A number without a name is a value all the
-// same.
+// names as the model has them, DtNumberFormOf how long the number is on the wire. A number without a name is a value
+// all the same.
 
-#include <qx/enumerators.h>
+#include <qx/numberForm.h>
 
 #include <iosfwd>
 
 #include "dllExport.h"
+
+struct DtEnumeratorTable; // of <qx/enumerators.h>
 
 // What the predefined truth values are called as discriminants; the class of one that the run makes goes first.
 #ifndef DT_DLL_CASE_DtHLAboolean
@@ -34,22 +36,12 @@ enum class DtVesselState8 : DtInt64
     eUnknown = 255,
 };
 
-inline DtEnumeratorTable DtEnumeratorsOf(DtVesselState8)
+constexpr DtNumberForm DtNumberFormOf(DtVesselState8)
 {
-    static const DtEnumerator theEntries[] = {
-        {"Moored", 0},
-        {"Under-Way", 1},
-        {"Aground/Sunk", 2},
-        {"Unknown#", 255},
-        {"", 0}};
-    static const DtNumberForm theNumber(1, 0, 0);
-    return DtEnumeratorTable("DtVesselState8", theEntries, sizeof theEntries / sizeof *theEntries - 1, theNumber);
+    return DtNumberForm(1, 0, 0);
 }
-
-inline std::ostream& operator<<(std::ostream& out, DtVesselState8 value)
-{
-    return DtWriteEnumerator(out, DtEnumeratorsOf(value), static_cast<DtInt64>(value));
-}
+DT_DLL_CASE DtEnumeratorTable DtEnumeratorsOf(DtVesselState8);
+DT_DLL_CASE std::ostream& operator<<(std::ostream& out, DtVesselState8 value);
 
 /// One of several states.
 enum class DtLineState32 : DtInt64
@@ -59,21 +51,12 @@ enum class DtLineState32 : DtInt64
     eBroken = -1,
 };
 
-inline DtEnumeratorTable DtEnumeratorsOf(DtLineState32)
+constexpr DtNumberForm DtNumberFormOf(DtLineState32)
 {
-    static const DtEnumerator theEntries[] = {
-        {"Slack", 0},
-        {"Tight", 1},
-        {"<Broken>", -1},
-        {"", 0}};
-    static const DtNumberForm theNumber(4, 1, 0);
-    return DtEnumeratorTable("DtLineState32", theEntries, sizeof theEntries / sizeof *theEntries - 1, theNumber);
+    return DtNumberForm(4, 1, 0);
 }
-
-inline std::ostream& operator<<(std::ostream& out, DtLineState32 value)
-{
-    return DtWriteEnumerator(out, DtEnumeratorsOf(value), static_cast<DtInt64>(value));
-}
+DT_DLL_CASE DtEnumeratorTable DtEnumeratorsOf(DtLineState32);
+DT_DLL_CASE std::ostream& operator<<(std::ostream& out, DtLineState32 value);
 
 /// One of several states.
 enum class DtBerthKind64 : DtInt64
@@ -83,21 +66,12 @@ enum class DtBerthKind64 : DtInt64
     e7th = 2,
 };
 
-inline DtEnumeratorTable DtEnumeratorsOf(DtBerthKind64)
+constexpr DtNumberForm DtNumberFormOf(DtBerthKind64)
 {
-    static const DtEnumerator theEntries[] = {
-        {"Container", 0},
-        {"Oil&Gas", 1},
-        {"7th", 2},
-        {"", 0}};
-    static const DtNumberForm theNumber(8, 1, 0);
-    return DtEnumeratorTable("DtBerthKind64", theEntries, sizeof theEntries / sizeof *theEntries - 1, theNumber);
+    return DtNumberForm(8, 1, 0);
 }
-
-inline std::ostream& operator<<(std::ostream& out, DtBerthKind64 value)
-{
-    return DtWriteEnumerator(out, DtEnumeratorsOf(value), static_cast<DtInt64>(value));
-}
+DT_DLL_CASE DtEnumeratorTable DtEnumeratorsOf(DtBerthKind64);
+DT_DLL_CASE std::ostream& operator<<(std::ostream& out, DtBerthKind64 value);
 
 /// One octet with a sign.
 enum class DtLampState : DtInt64
@@ -107,21 +81,12 @@ enum class DtLampState : DtInt64
     eFaulty = -1,
 };
 
-inline DtEnumeratorTable DtEnumeratorsOf(DtLampState)
+constexpr DtNumberForm DtNumberFormOf(DtLampState)
 {
-    static const DtEnumerator theEntries[] = {
-        {"Dark", 0},
-        {"Flash", 1},
-        {"Faulty", -1},
-        {"", 0}};
-    static const DtNumberForm theNumber(1, 1, 0);
-    return DtEnumeratorTable("DtLampState", theEntries, sizeof theEntries / sizeof *theEntries - 1, theNumber);
+    return DtNumberForm(1, 1, 0);
 }
-
-inline std::ostream& operator<<(std::ostream& out, DtLampState value)
-{
-    return DtWriteEnumerator(out, DtEnumeratorsOf(value), static_cast<DtInt64>(value));
-}
+DT_DLL_CASE DtEnumeratorTable DtEnumeratorsOf(DtLampState);
+DT_DLL_CASE std::ostream& operator<<(std::ostream& out, DtLampState value);
 
 /// Two octets with a sign; the numbers run up and down.
 enum class DtSignalKind16 : DtInt64
@@ -136,26 +101,12 @@ enum class DtSignalKind16 : DtInt64
     eSilence = 100,
 };
 
-inline DtEnumeratorTable DtEnumeratorsOf(DtSignalKind16)
+constexpr DtNumberForm DtNumberFormOf(DtSignalKind16)
 {
-    static const DtEnumerator theEntries[] = {
-        {"Fog", 5},
-        {"Gale", 1},
-        {"Ice", 9},
-        {"Floe", 12},
-        {"Wreck", 3},
-        {"Drill", 7},
-        {"Pilot", 2},
-        {"Silence", 100},
-        {"", 0}};
-    static const DtNumberForm theNumber(2, 1, 0);
-    return DtEnumeratorTable("DtSignalKind16", theEntries, sizeof theEntries / sizeof *theEntries - 1, theNumber);
+    return DtNumberForm(2, 1, 0);
 }
-
-inline std::ostream& operator<<(std::ostream& out, DtSignalKind16 value)
-{
-    return DtWriteEnumerator(out, DtEnumeratorsOf(value), static_cast<DtInt64>(value));
-}
+DT_DLL_CASE DtEnumeratorTable DtEnumeratorsOf(DtSignalKind16);
+DT_DLL_CASE std::ostream& operator<<(std::ostream& out, DtSignalKind16 value);
 
 /// Two octets with a sign, low octet first.
 enum class DtCurrent16 : DtInt64
@@ -165,21 +116,12 @@ enum class DtCurrent16 : DtInt64
     eFlood = 300,
 };
 
-inline DtEnumeratorTable DtEnumeratorsOf(DtCurrent16)
+constexpr DtNumberForm DtNumberFormOf(DtCurrent16)
 {
-    static const DtEnumerator theEntries[] = {
-        {"Still", 0},
-        {"Ebb", -300},
-        {"Flood", 300},
-        {"", 0}};
-    static const DtNumberForm theNumber(2, 1, 1);
-    return DtEnumeratorTable("DtCurrent16", theEntries, sizeof theEntries / sizeof *theEntries - 1, theNumber);
+    return DtNumberForm(2, 1, 1);
 }
-
-inline std::ostream& operator<<(std::ostream& out, DtCurrent16 value)
-{
-    return DtWriteEnumerator(out, DtEnumeratorsOf(value), static_cast<DtInt64>(value));
-}
+DT_DLL_CASE DtEnumeratorTable DtEnumeratorsOf(DtCurrent16);
+DT_DLL_CASE std::ostream& operator<<(std::ostream& out, DtCurrent16 value);
 
 /// Two octets without a sign, low octet first.
 enum class DtTool16 : DtInt64
@@ -189,21 +131,12 @@ enum class DtTool16 : DtInt64
     eRadio = 513,
 };
 
-inline DtEnumeratorTable DtEnumeratorsOf(DtTool16)
+constexpr DtNumberForm DtNumberFormOf(DtTool16)
 {
-    static const DtEnumerator theEntries[] = {
-        {"Anchor", 1},
-        {"Crane", 2},
-        {"Radio", 513},
-        {"", 0}};
-    static const DtNumberForm theNumber(2, 0, 1);
-    return DtEnumeratorTable("DtTool16", theEntries, sizeof theEntries / sizeof *theEntries - 1, theNumber);
+    return DtNumberForm(2, 0, 1);
 }
-
-inline std::ostream& operator<<(std::ostream& out, DtTool16 value)
-{
-    return DtWriteEnumerator(out, DtEnumeratorsOf(value), static_cast<DtInt64>(value));
-}
+DT_DLL_CASE DtEnumeratorTable DtEnumeratorsOf(DtTool16);
+DT_DLL_CASE std::ostream& operator<<(std::ostream& out, DtTool16 value);
 
 /// Three octets with a sign, low octet first.
 enum class DtSlack24 : DtInt64
@@ -212,20 +145,12 @@ enum class DtSlack24 : DtInt64
     eStrong = 70000,
 };
 
-inline DtEnumeratorTable DtEnumeratorsOf(DtSlack24)
+constexpr DtNumberForm DtNumberFormOf(DtSlack24)
 {
-    static const DtEnumerator theEntries[] = {
-        {"Weak", -1},
-        {"Strong", 70000},
-        {"", 0}};
-    static const DtNumberForm theNumber(3, 1, 1);
-    return DtEnumeratorTable("DtSlack24", theEntries, sizeof theEntries / sizeof *theEntries - 1, theNumber);
+    return DtNumberForm(3, 1, 1);
 }
-
-inline std::ostream& operator<<(std::ostream& out, DtSlack24 value)
-{
-    return DtWriteEnumerator(out, DtEnumeratorsOf(value), static_cast<DtInt64>(value));
-}
+DT_DLL_CASE DtEnumeratorTable DtEnumeratorsOf(DtSlack24);
+DT_DLL_CASE std::ostream& operator<<(std::ostream& out, DtSlack24 value);
 
 /// Four octets with a sign, low octet first.
 enum class DtDeep32 : DtInt64
@@ -235,21 +160,12 @@ enum class DtDeep32 : DtInt64
     eBasin = 70000,
 };
 
-inline DtEnumeratorTable DtEnumeratorsOf(DtDeep32)
+constexpr DtNumberForm DtNumberFormOf(DtDeep32)
 {
-    static const DtEnumerator theEntries[] = {
-        {"Shallow", -70000},
-        {"Channel", 0},
-        {"Basin", 70000},
-        {"", 0}};
-    static const DtNumberForm theNumber(4, 1, 1);
-    return DtEnumeratorTable("DtDeep32", theEntries, sizeof theEntries / sizeof *theEntries - 1, theNumber);
+    return DtNumberForm(4, 1, 1);
 }
-
-inline std::ostream& operator<<(std::ostream& out, DtDeep32 value)
-{
-    return DtWriteEnumerator(out, DtEnumeratorsOf(value), static_cast<DtInt64>(value));
-}
+DT_DLL_CASE DtEnumeratorTable DtEnumeratorsOf(DtDeep32);
+DT_DLL_CASE std::ostream& operator<<(std::ostream& out, DtDeep32 value);
 
 /// Eight octets without a sign, low octet first.
 enum class DtZone64 : DtInt64
@@ -259,21 +175,12 @@ enum class DtZone64 : DtInt64
     eOpenSea = 16909060,
 };
 
-inline DtEnumeratorTable DtEnumeratorsOf(DtZone64)
+constexpr DtNumberForm DtNumberFormOf(DtZone64)
 {
-    static const DtEnumerator theEntries[] = {
-        {"Inner", 1},
-        {"Outer", 2},
-        {"Open-Sea", 16909060},
-        {"", 0}};
-    static const DtNumberForm theNumber(8, 0, 1);
-    return DtEnumeratorTable("DtZone64", theEntries, sizeof theEntries / sizeof *theEntries - 1, theNumber);
+    return DtNumberForm(8, 0, 1);
 }
-
-inline std::ostream& operator<<(std::ostream& out, DtZone64 value)
-{
-    return DtWriteEnumerator(out, DtEnumeratorsOf(value), static_cast<DtInt64>(value));
-}
+DT_DLL_CASE DtEnumeratorTable DtEnumeratorsOf(DtZone64);
+DT_DLL_CASE std::ostream& operator<<(std::ostream& out, DtZone64 value);
 
 /// Four octets without a sign.
 enum class DtHullPart32 : DtInt64
@@ -283,20 +190,11 @@ enum class DtHullPart32 : DtInt64
     eScrew = 2,
 };
 
-inline DtEnumeratorTable DtEnumeratorsOf(DtHullPart32)
+constexpr DtNumberForm DtNumberFormOf(DtHullPart32)
 {
-    static const DtEnumerator theEntries[] = {
-        {"Keel", 0},
-        {"Rudder", 1},
-        {"Screw", 2},
-        {"", 0}};
-    static const DtNumberForm theNumber(4, 0, 0);
-    return DtEnumeratorTable("DtHullPart32", theEntries, sizeof theEntries / sizeof *theEntries - 1, theNumber);
+    return DtNumberForm(4, 0, 0);
 }
-
-inline std::ostream& operator<<(std::ostream& out, DtHullPart32 value)
-{
-    return DtWriteEnumerator(out, DtEnumeratorsOf(value), static_cast<DtInt64>(value));
-}
+DT_DLL_CASE DtEnumeratorTable DtEnumeratorsOf(DtHullPart32);
+DT_DLL_CASE std::ostream& operator<<(std::ostream& out, DtHullPart32 value);
 
 #endif

@@ -4,6 +4,8 @@
 #include "DataTypes/codeRange.h"
 
 #include <qx/sampleValue.h>
+
+#include "DataTypes/caseEnums.h"
 #include "DataTypes/weight__Kg.h"
 
 DtCodeRange::DtCodeRange() : myElements(layout().kind == DtFixedArray ? layout().count : 0)

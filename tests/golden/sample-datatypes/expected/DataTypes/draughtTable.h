@@ -5,7 +5,7 @@
 // Do not edit: the next generation writes it anew.
 
 #include <qx/opaqueValue.h>
-#include <qx/wireFormat.h>
+#include <qx/wireNames.h>
 
 #include <iosfwd>
 #include <vector>

@@ -4,6 +4,8 @@
 #include "DataTypes/fenderList.h"
 
 #include <qx/sampleValue.h>
+
+#include "DataTypes/caseEnums.h"
 #include "DataTypes/count8.h"
 
 DtFenderList::DtFenderList() : myElements(layout().kind == DtFixedArray ? layout().count : 0)

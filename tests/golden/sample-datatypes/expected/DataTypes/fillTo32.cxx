@@ -4,6 +4,8 @@
 #include "DataTypes/fillTo32.h"
 
 #include <qx/sampleValue.h>
+
+#include "DataTypes/caseEnums.h"
 #include "DataTypes/count8.h"
 
 DtFillTo32::DtFillTo32() : myElements(layout().kind == DtFixedArray ? layout().count : 0)

@@ -4,6 +4,8 @@
 #include "DataTypes/fillTo64.h"
 
 #include <qx/sampleValue.h>
+
+#include "DataTypes/caseEnums.h"
 #include "DataTypes/count8.h"
 
 DtFillTo64::DtFillTo64() : myElements(layout().kind == DtFixedArray ? layout().count : 0)

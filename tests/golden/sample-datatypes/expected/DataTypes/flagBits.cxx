@@ -5,6 +5,8 @@
 
 #include <qx/sampleValue.h>
 
+#include "DataTypes/caseEnums.h"
+
 DtFlagBits::DtFlagBits() : myElements(layout().kind == DtFixedArray ? layout().count : 0)
 {
 }

@@ -4,6 +4,8 @@
 #include "DataTypes/gateTimes.h"
 
 #include <qx/sampleValue.h>
+
+#include "DataTypes/caseEnums.h"
 #include "DataTypes/clockTime.h"
 
 DtGateTimes::DtGateTimes() : myElements(layout().kind == DtFixedArray ? layout().count : 0)

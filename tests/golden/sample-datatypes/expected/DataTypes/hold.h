@@ -5,14 +5,17 @@
 // Do not edit: the next generation writes it anew.
 
 #include <qx/opaqueValue.h>
-#include <qx/wireFormat.h>
+#include <qx/wireNames.h>
 
 #include <iosfwd>
 
 #include "dllExport.h"
-#include "DataTypes/caseEnums.h"
 #include "DataTypes/weight__Kg.h"
 #include "DataTypes/sub_Count_.h"
+
+enum class DtVesselState8 : DtInt64;
+DT_DLL_CASE DtEnumeratorTable DtEnumeratorsOf(DtVesselState8);
+DT_DLL_CASE std::ostream& operator<<(std::ostream& out, DtVesselState8 value);
 
 // A fixed record. Its own operations take an argument or are templates, so that a field may bear any name.
 /// Values that belong together.

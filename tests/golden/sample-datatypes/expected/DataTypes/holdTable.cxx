@@ -4,6 +4,8 @@
 #include "DataTypes/holdTable.h"
 
 #include <qx/sampleValue.h>
+
+#include "DataTypes/caseEnums.h"
 #include "DataTypes/hold.h"
 
 DtHoldTable::DtHoldTable() : myElements(layout().kind == DtFixedArray ? layout().count : 0)

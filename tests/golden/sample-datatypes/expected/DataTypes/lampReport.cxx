@@ -5,6 +5,8 @@
 
 #include <qx/valueText.h>
 
+#include "DataTypes/caseEnums.h"
+
 DtLampReport::DtLampReport() : Own()
 {
 }

@@ -5,12 +5,15 @@
 // Do not edit: the next generation writes it anew.
 
 #include <qx/opaqueValue.h>
-#include <qx/wireFormat.h>
+#include <qx/wireNames.h>
 
 #include <iosfwd>
 
 #include "dllExport.h"
-#include "DataTypes/caseEnums.h"
+
+enum class DtLampState : DtInt64;
+DT_DLL_CASE DtEnumeratorTable DtEnumeratorsOf(DtLampState);
+DT_DLL_CASE std::ostream& operator<<(std::ostream& out, DtLampState value);
 
 // A variant record: a discriminant and the alternative that it selects. Setting an alternative selects it.
 //

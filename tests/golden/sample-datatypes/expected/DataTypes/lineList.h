@@ -5,15 +5,18 @@
 // Do not edit: the next generation writes it anew.
 
 #include <qx/opaqueValue.h>
-#include <qx/wireFormat.h>
+#include <qx/wireNames.h>
 
 #include <iosfwd>
 #include <vector>
 
 #include "dllExport.h"
-#include "DataTypes/caseEnums.h"
 
 class DtSampleFiller;
+
+enum class DtLineState32 : DtInt64;
+DT_DLL_CASE DtEnumeratorTable DtEnumeratorsOf(DtLineState32);
+DT_DLL_CASE std::ostream& operator<<(std::ostream& out, DtLineState32 value);
 
 // An array. A fixed array starts with all its elements and cannot be encoded while it has another number of them.
 //

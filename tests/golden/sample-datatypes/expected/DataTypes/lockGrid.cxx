@@ -4,6 +4,8 @@
 #include "DataTypes/lockGrid.h"
 
 #include <qx/sampleValue.h>
+
+#include "DataTypes/caseEnums.h"
 #include "DataTypes/weight__Kg.h"
 
 DtLockGrid::DtLockGrid() : myElements(layout().kind == DtFixedArray ? layout().count : 0)

@@ -5,14 +5,17 @@
 // Do not edit: the next generation writes it anew.
 
 #include <qx/opaqueValue.h>
-#include <qx/wireFormat.h>
+#include <qx/wireNames.h>
 
 #include <iosfwd>
 
 #include "dllExport.h"
-#include "DataTypes/caseEnums.h"
 #include "DataTypes/shortText.h"
 #include "DataTypes/cargo__Item.h"
+
+enum class DtVesselState8 : DtInt64;
+DT_DLL_CASE DtEnumeratorTable DtEnumeratorsOf(DtVesselState8);
+DT_DLL_CASE std::ostream& operator<<(std::ostream& out, DtVesselState8 value);
 
 // A variant record: a discriminant and the alternative that it selects. Setting an alternative selects it.
 //

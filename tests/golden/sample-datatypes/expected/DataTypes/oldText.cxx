@@ -5,6 +5,8 @@
 
 #include <qx/sampleValue.h>
 
+#include "DataTypes/caseEnums.h"
+
 DtOldText::DtOldText() : myElements(layout().kind == DtFixedArray ? layout().count : 0)
 {
 }

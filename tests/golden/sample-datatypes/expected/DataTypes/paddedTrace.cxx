@@ -4,6 +4,8 @@
 #include "DataTypes/paddedTrace.h"
 
 #include <qx/sampleValue.h>
+
+#include "DataTypes/caseEnums.h"
 #include "DataTypes/tide16LE.h"
 
 DtPaddedTrace::DtPaddedTrace() : myElements(layout().kind == DtFixedArray ? layout().count : 0)

@@ -4,6 +4,8 @@
 #include "DataTypes/rotationList.h"
 
 #include <qx/sampleValue.h>
+
+#include "DataTypes/caseEnums.h"
 #include "DataTypes/rotation.h"
 
 DtRotationList::DtRotationList() : myElements(layout().kind == DtFixedArray ? layout().count : 0)

@@ -5,6 +5,8 @@
 
 #include <qx/sampleValue.h>
 
+#include "DataTypes/caseEnums.h"
+
 DtSeal__Code::DtSeal__Code() : myElements(layout().kind == DtFixedArray ? layout().count : 0)
 {
 }

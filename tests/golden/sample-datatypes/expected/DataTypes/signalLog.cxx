@@ -4,6 +4,8 @@
 #include "DataTypes/signalLog.h"
 
 #include <qx/sampleValue.h>
+
+#include "DataTypes/caseEnums.h"
 #include "DataTypes/signalEntry.h"
 
 DtSignalLog::DtSignalLog() : myElements(layout().kind == DtFixedArray ? layout().count : 0)

@@ -5,12 +5,11 @@
 // Do not edit: the next generation writes it anew.
 
 #include <qx/opaqueValue.h>
-#include <qx/wireFormat.h>
+#include <qx/wireNames.h>
 
 #include <iosfwd>
 
 #include "dllExport.h"
-#include "DataTypes/caseEnums.h"
 #include "DataTypes/count8.h"
 
 // A variant record: a discriminant and the alternative that it selects. Setting an alternative selects it.

@@ -5,12 +5,11 @@
 // Do not edit: the next generation writes it anew.
 
 #include <qx/opaqueValue.h>
-#include <qx/wireFormat.h>
+#include <qx/wireNames.h>
 
 #include <iosfwd>
 
 #include "dllExport.h"
-#include "DataTypes/caseEnums.h"
 #include "DataTypes/clockTime.h"
 
 // A fixed record. Its own operations take an argument or are templates, so that a field may bear any name.

@@ -4,6 +4,8 @@
 #include "DataTypes/tideRing.h"
 
 #include <qx/sampleValue.h>
+
+#include "DataTypes/caseEnums.h"
 #include "DataTypes/tide16LE.h"
 
 DtTideRing::DtTideRing() : myElements(layout().kind == DtFixedArray ? layout().count : 0)

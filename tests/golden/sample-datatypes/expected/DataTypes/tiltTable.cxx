@@ -4,6 +4,8 @@
 #include "DataTypes/tiltTable.h"
 
 #include <qx/sampleValue.h>
+
+#include "DataTypes/caseEnums.h"
 #include "DataTypes/trim24.h"
 
 DtTiltTable::DtTiltTable() : myElements(layout().kind == DtFixedArray ? layout().count : 0)

@@ -5,13 +5,16 @@
 // Do not edit: the next generation writes it anew.
 
 #include <qx/opaqueValue.h>
-#include <qx/wireFormat.h>
+#include <qx/wireNames.h>
 
 #include <iosfwd>
 
 #include "dllExport.h"
-#include "DataTypes/caseEnums.h"
 #include "DataTypes/count8.h"
+
+enum class DtZone64 : DtInt64;
+DT_DLL_CASE DtEnumeratorTable DtEnumeratorsOf(DtZone64);
+DT_DLL_CASE std::ostream& operator<<(std::ostream& out, DtZone64 value);
 
 // A variant record: a discriminant and the alternative that it selects. Setting an alternative selects it.
 //

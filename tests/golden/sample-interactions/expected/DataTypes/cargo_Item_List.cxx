@@ -4,6 +4,8 @@
 #include "DataTypes/cargo_Item_List.h"
 
 #include <qx/sampleValue.h>
+
+#include "DataTypes/caseEnums.h"
 #include "DataTypes/cargo__Item.h"
 
 DtCargo_Item_List::DtCargo_Item_List() : myElements(layout().kind == DtFixedArray ? layout().count : 0)

@@ -5,12 +5,11 @@
 // Do not edit: the next generation writes it anew.
 
 #include <qx/opaqueValue.h>
-#include <qx/wireFormat.h>
+#include <qx/wireNames.h>
 
 #include <iosfwd>
 
 #include "dllExport.h"
-#include "DataTypes/caseEnums.h"
 #include "DataTypes/oldText.h"
 #include "DataTypes/weight__Kg.h"
 #include "DataTypes/plain__Four.h"

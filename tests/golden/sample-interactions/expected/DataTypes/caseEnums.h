@@ -5,14 +5,16 @@
 // Do not edit: the next generation writes it anew.
 //
 // Every enumerator has the letter e in front, so that digits and keywords are names too. DtEnumeratorsOf gives the
-// names as the model has them, and how long the number is on the wire. A number without a name is a value all the
-// same.
+// names as the model has them, DtNumberFormOf how long the number is on the wire. A number without a name is a value
+// all the same.
 
-#include <qx/enumerators.h>
+#include <qx/numberForm.h>
 
 #include <iosfwd>
 
 #include "dllExport.h"
+
+struct DtEnumeratorTable; // of <qx/enumerators.h>
 
 // What the predefined truth values are called as discriminants; the class of one that the run makes goes first.
 #ifndef DT_DLL_CASE_DtHLAboolean
@@ -34,22 +36,12 @@ enum class DtVesselState8 : DtInt64
     eUnknown = 255,
 };
 
-inline DtEnumeratorTable DtEnumeratorsOf(DtVesselState8)
+constexpr DtNumberForm DtNumberFormOf(DtVesselState8)
 {
-    static const DtEnumerator theEntries[] = {
-        {"Moored", 0},
-        {"Under-Way", 1},
-        {"Aground/Sunk", 2},
-        {"Unknown#", 255},
-        {"", 0}};
-    static const DtNumberForm theNumber(1, 0, 0);
-    return DtEnumeratorTable("DtVesselState8", theEntries, sizeof theEntries / sizeof *theEntries - 1, theNumber);
+    return DtNumberForm(1, 0, 0);
 }
-
-inline std::ostream& operator<<(std::ostream& out, DtVesselState8 value)
-{
-    return DtWriteEnumerator(out, DtEnumeratorsOf(value), static_cast<DtInt64>(value));
-}
+DT_DLL_CASE DtEnumeratorTable DtEnumeratorsOf(DtVesselState8);
+DT_DLL_CASE std::ostream& operator<<(std::ostream& out, DtVesselState8 value);
 
 /// One of several states.
 enum class DtUrgency8 : DtInt64
@@ -58,20 +50,12 @@ enum class DtUrgency8 : DtInt64
     eLater = 2,
 };
 
-inline DtEnumeratorTable DtEnumeratorsOf(DtUrgency8)
+constexpr DtNumberForm DtNumberFormOf(DtUrgency8)
 {
-    static const DtEnumerator theEntries[] = {
-        {"Now", 1},
-        {"Later", 2},
-        {"", 0}};
-    static const DtNumberForm theNumber(1, 0, 0);
-    return DtEnumeratorTable("DtUrgency8", theEntries, sizeof theEntries / sizeof *theEntries - 1, theNumber);
+    return DtNumberForm(1, 0, 0);
 }
-
-inline std::ostream& operator<<(std::ostream& out, DtUrgency8 value)
-{
-    return DtWriteEnumerator(out, DtEnumeratorsOf(value), static_cast<DtInt64>(value));
-}
+DT_DLL_CASE DtEnumeratorTable DtEnumeratorsOf(DtUrgency8);
+DT_DLL_CASE std::ostream& operator<<(std::ostream& out, DtUrgency8 value);
 
 /// Two octets with a sign; the numbers run up and down.
 enum class DtSignalKind16 : DtInt64
@@ -86,25 +70,11 @@ enum class DtSignalKind16 : DtInt64
     eSilence = 100,
 };
 
-inline DtEnumeratorTable DtEnumeratorsOf(DtSignalKind16)
+constexpr DtNumberForm DtNumberFormOf(DtSignalKind16)
 {
-    static const DtEnumerator theEntries[] = {
-        {"Fog", 5},
-        {"Gale", 1},
-        {"Ice", 9},
-        {"Floe", 12},
-        {"Wreck", 3},
-        {"Drill", 7},
-        {"Pilot", 2},
-        {"Silence", 100},
-        {"", 0}};
-    static const DtNumberForm theNumber(2, 1, 0);
-    return DtEnumeratorTable("DtSignalKind16", theEntries, sizeof theEntries / sizeof *theEntries - 1, theNumber);
+    return DtNumberForm(2, 1, 0);
 }
-
-inline std::ostream& operator<<(std::ostream& out, DtSignalKind16 value)
-{
-    return DtWriteEnumerator(out, DtEnumeratorsOf(value), static_cast<DtInt64>(value));
-}
+DT_DLL_CASE DtEnumeratorTable DtEnumeratorsOf(DtSignalKind16);
+DT_DLL_CASE std::ostream& operator<<(std::ostream& out, DtSignalKind16 value);
 
 #endif

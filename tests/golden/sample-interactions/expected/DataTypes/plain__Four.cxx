@@ -5,6 +5,8 @@
 
 #include <qx/sampleValue.h>
 
+#include "DataTypes/caseEnums.h"
+
 DtPlain__Four::DtPlain__Four() : myElements(layout().kind == DtFixedArray ? layout().count : 0)
 {
 }

@@ -4,6 +4,8 @@
 #include "DataTypes/tugNames.h"
 
 #include <qx/sampleValue.h>
+
+#include "DataTypes/caseEnums.h"
 #include "DataTypes/shortText.h"
 
 DtTugNames::DtTugNames() : myElements(layout().kind == DtFixedArray ? layout().count : 0)

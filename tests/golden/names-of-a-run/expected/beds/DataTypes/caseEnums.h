@@ -5,14 +5,16 @@
 // Do not edit: the next generation writes it anew.
 //
 // Every enumerator has the letter e in front, so that digits and keywords are names too. DtEnumeratorsOf gives the
-// names as the model has them, and how long the number is on the wire. A number without a name is a value all the
-// same.
+// names as the model has them, DtNumberFormOf how long the number is on the wire. A number without a name is a value
+// all the same.
 
-#include <qx/enumerators.h>
+#include <qx/numberForm.h>
 
 #include <iosfwd>
 
 #include "dllExport.h"
+
+struct DtEnumeratorTable; // of <qx/enumerators.h>
 
 namespace garden
 {
@@ -34,20 +36,12 @@ enum class DtColour8 : DtInt64
     eBlue = 1,
 };
 
-inline DtEnumeratorTable DtEnumeratorsOf(DtColour8)
+constexpr DtNumberForm DtNumberFormOf(DtColour8)
 {
-    static const DtEnumerator theEntries[] = {
-        {"Red", 0},
-        {"Blue", 1},
-        {"", 0}};
-    static const DtNumberForm theNumber(1, 0, 0);
-    return DtEnumeratorTable("DtColour8", theEntries, sizeof theEntries / sizeof *theEntries - 1, theNumber);
+    return DtNumberForm(1, 0, 0);
 }
-
-inline std::ostream& operator<<(std::ostream& out, DtColour8 value)
-{
-    return DtWriteEnumerator(out, DtEnumeratorsOf(value), static_cast<DtInt64>(value));
-}
+DT_DLL_CASE DtEnumeratorTable DtEnumeratorsOf(DtColour8);
+DT_DLL_CASE std::ostream& operator<<(std::ostream& out, DtColour8 value);
 
 } // namespace garden
 

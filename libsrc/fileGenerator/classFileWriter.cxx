@@ -105,20 +105,23 @@ bool hasNoClass(const DtAttribute& attribute)
     return !isKnown && attribute.netType() == attribute.nonVectorType();
 }
 
-// Whether the attribute's type is one of the enumerations header. Not by the type's name, which may be one of the
-// toolkit and that of an enumeration, too.
-bool isOfEnumerationsHeader(const DtAttribute& attribute)
-{
-    const DtString& datatype = attribute.datatype();
-    return mapper().isEnumeration(datatype) && mapper().quorvexType(datatype) == attribute.type();
-}
-
 // The C++ name of the attribute's type. That of an enumeration is never shortened: the enumerations header is written
 // ahead of the classes and takes no number of theirs.
 DtString typeIdentifier(const DtAttribute& attribute)
 {
-    const DtString& name = DtDatatypeClassNames::instance().identifierOf(attribute.datatype(), attribute.type());
-    return isOfEnumerationsHeader(attribute) ? DtCCompatibleNames::wholeIdentifier(name) : identifier(name);
+    const DtString& datatype = attribute.datatype();
+    const DtString& name = DtDatatypeClassNames::instance().identifierOf(datatype, attribute.type());
+    const bool isEnumeration = mapper().isEnumeration(datatype) && mapper().quorvexType(datatype) == attribute.type();
+    return isEnumeration ? DtCCompatibleNames::wholeIdentifier(name) : identifier(name);
+}
+
+// Whether the attribute's type is one of the enumerations header. The mapper also knows enumerations of earlier runs,
+// and a type of the toolkit can bear the name of one.
+bool isOfEnumerationsHeader(const DtAttribute& attribute)
+{
+    const DtString& datatype = attribute.datatype();
+    return DtDatatypeClassNames::instance().isGeneratedEnumeration(datatype) &&
+           mapper().quorvexType(datatype) == attribute.type();
 }
 
 DtString bareClassName(const DtString& className)

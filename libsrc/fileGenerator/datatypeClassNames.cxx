@@ -36,6 +36,7 @@ void DtDatatypeClassNames::clear()
     myClassNames.clear();
     myFileStems.clear();
     myNamesakes.clear();
+    myGeneratedEnumerations.clear();
     myEnumerationRepresentations.clear();
 }
 

@@ -43,6 +43,13 @@ public:
     // The C++ name of a type that is stated to be called so; that name itself unless it is the one of a namesake.
     const DtString& identifierOf(const DtString& datatype, const DtString& statedName) const;
 
+    // Records an enumeration that the enumerations header of this run has.
+    void addGeneratedEnumeration(const DtString& enumeration) { myGeneratedEnumerations.insert(enumeration); }
+    bool isGeneratedEnumeration(const DtString& enumeration) const
+    {
+        return myGeneratedEnumerations.count(enumeration) != 0;
+    }
+
     // Records the model's representation of an enumeration.
     void addEnumeration(const DtString& enumeration, const DtString& representation);
     // Empty when it was not recorded.
@@ -58,6 +65,7 @@ private:
     std::map<DtString, DtString> myClassNames;
     std::set<DtString> myFileStems;
     std::map<DtString, DtNamesake> myNamesakes;
+    std::set<DtString> myGeneratedEnumerations;
     std::map<DtString, DtString> myEnumerationRepresentations;
 };
 

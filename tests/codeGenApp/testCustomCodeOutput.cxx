@@ -7,6 +7,7 @@
 #include "codeGenApp/listViewManager.h"
 #include "compiledOutput.h"
 #include "fileGenerator/omtProject.h"
+#include "generated/toolkitObjects.h"
 #include "scratchProgram.h"
 #include "smallModels.h"
 
@@ -319,7 +320,7 @@ void TestCustomCodeOutput::exampleOfInstructionsWorks()
     compiler.setProcessChannelMode(QProcess::MergedChannels);
     compiler.start("g++", QStringList{"-std=c++17", "-Wall", "-Wextra", "-Werror", "-I.",
                                       "-I" QX_SOURCE_DIR "/toolkit/include", "-o", "trip"} +
-                              sources);
+                              sources + toolkitObjects());
     QVERIFY(compiler.waitForFinished(300000));
     QVERIFY2(compiler.exitCode() == 0, compiler.readAll().left(3000).constData());
     QCOMPARE(QProcess::execute(program.path("stage/trip"), QStringList()), 0);

@@ -304,7 +304,7 @@ int main()
     return part.selected<int>() == 20 && part.a() == 0 && frame.a() == 0 && frame.myA() == 3 ? 0 : 3;
 }
 )",
-                                          {"-std=c++11"}, run);
+                                          toolkitObjects() + QStringList{"-std=c++11"}, run);
     QVERIFY2(errors.isEmpty(), qPrintable(errors));
     QCOMPARE(runProgram(output.path(), run, {}).exitCode, 0);
 }

@@ -276,8 +276,11 @@ void DtCodeGenAppGui::slot_openFiles()
 
 void DtCodeGenAppGui::slot_closeOpenFiles()
 {
-    if (mayLeaveProject())
-        closeOpenFiles();
+    if (!mayLeaveProject())
+        return;
+    closeOpenFiles();
+    if (isVisible()) // what the user would import now could not be saved
+        enableProjectActions(false);
 }
 
 void DtCodeGenAppGui::slot_generateFiles()

@@ -193,7 +193,11 @@ void DtCodeGenAppGui::loadOmtProject(const DtFilename& path)
         return;
     std::vector<DtModelFile> models;
     if (!locateModels(file, models))
+    {
+        if (isVisible()) // what the user would import now could not be saved
+            enableProjectActions(false);
         return refreshBadge();
+    }
     DtDataTypeMapper::instance()->setPredefinedTypes(myProject->predefinedTypes());
     if (models.empty())
     {

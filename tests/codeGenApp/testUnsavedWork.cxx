@@ -88,6 +88,28 @@ private Q_SLOTS:
                      button == QMessageBox::Save ? QString("Objects\n Ship\n Tug\n") : QString("Objects\n Ship\n"));
     }
 
+    // What could be imported then could not be saved.
+    void importAndSaveWaitForAProjectBehindClose()
+    {
+        changeFleet();
+        myWindow->saveOmtProject();
+        QVERIFY(action("Import FOM").isEnabled() && action("Save Project").isEnabled());
+        action("Close").trigger();
+        QVERIFY(!action("Import FOM").isEnabled() && !action("Save Project").isEnabled());
+        myWindow->loadOmtProject(DtFilename(bytes("models/p.qxproj")));
+        QVERIFY(action("Import FOM").isEnabled() && action("Save Project").isEnabled());
+    }
+
+    void importAndSaveWaitForAProjectBehindALoadThatIsGivenUp()
+    {
+        changeFleet();
+        myWindow->saveOmtProject();
+        QFile::remove(path("models/m.xml"));
+        myWindow->loadOmtProject(DtFilename(bytes("models/p.qxproj")));
+        QCOMPARE(myDialogs->takeSeen(), (QStringList{"m.xml could not be found", "Open File"}));
+        QVERIFY(!action("Import FOM").isEnabled() && !action("Save Project").isEnabled());
+    }
+
     void savedWorkIsNotAskedAbout_data()
     {
         QTest::addColumn<QString>("way");

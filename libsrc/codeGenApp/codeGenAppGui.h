@@ -220,6 +220,7 @@ private:
     bool loadModels(const std::vector<DtModelFile>& models);
     void tellOfProject(bool isReadAgain);
     void completeProject(DtOmtProject& project) const;
+    void tellFailedSave(int cause); // of errno, 0 when it is not known
     bool locateModels(const DtFilename& projectFile, std::vector<DtModelFile>& models);
     bool locateModel(const DtModelFile& model, const DtFilename& projectFile, DtFilename& found);
     // The name is that of the file that is looked for, if there is one.

@@ -22,6 +22,9 @@
 #include <QtWidgets/QFileDialog>
 #include <QtWidgets/QMessageBox>
 
+#include <cerrno>
+#include <cstring>
+
 namespace
 {
 const char theProjectExtension[] = "qxproj";
@@ -90,6 +93,8 @@ void DtCodeGenAppGui::slot_newOmtProject()
     if (isVisible() && myCustomCodeGui != nullptr && !myCustomCodeGui->close())
         return;
     slot_saveOmtProject();
+    if (isVisible() && hasUnsavedWork() && !mayLeaveProject())
+        return;
     const QString choice = QFileDialog::getSaveFileName(this, QStringLiteral("New Project File"), myLastDirectory,
                                                         QString::fromLatin1(theProjectFilter));
     if (choice.isEmpty())
@@ -139,11 +144,24 @@ void DtCodeGenAppGui::saveOmtProject()
     }
     completeProject(*myProject);
     DtOmtProjectXmlWriter writer(*myProject, myProjectFile);
+    errno = 0;
     writer.writeXml();
     if (!writer.isWritten())
-        showStatus("Project file " + myProjectFile + " could not be written.");
+        tellFailedSave(errno);
     else
         showSuccess("Project " + nameOf(myProjectFile) + " saved");
+}
+
+// With the reason of the system, where somebody looks at the window.
+void DtCodeGenAppGui::tellFailedSave(int cause)
+{
+    const DtString text = "Project file " + myProjectFile + " could not be written.";
+    showStatus(text);
+    if (cause == 0 || !isVisible())
+        return;
+    const char* const reason = std::strerror(cause);
+    addReasonsToStatus({QString::fromLocal8Bit(reason)});
+    DtWarn << text << " " << reason << std::endl;
 }
 
 // Puts in what saving adds to a project.

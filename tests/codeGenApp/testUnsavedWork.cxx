@@ -166,6 +166,47 @@ private Q_SLOTS:
         myWindow->hide();
     }
 
+    void newProjectAsksWhenThePresentOneCannotBeSaved_data()
+    {
+        QTest::addColumn<int>("button");
+        QTest::newRow("cancel") << int(QMessageBox::Cancel);
+        QTest::newRow("discard") << int(QMessageBox::Discard);
+    }
+    void newProjectAsksWhenThePresentOneCannotBeSaved()
+    {
+        QFETCH(int, button);
+        changeFleet();
+        QVERIFY(QDir().rename(path("models"), path("elsewhere")));
+        myDialogs->setAnswers({path("out/new.qxproj")});
+        myDialogs->setButton(QMessageBox::StandardButton(button));
+        myWindow->slot_newOmtProject();
+        if (button == QMessageBox::Cancel)
+        {
+            QCOMPARE(myDialogs->takeSeen(), QStringList(question()));
+            QVERIFY(isUntouched());
+        }
+        else
+        {
+            QCOMPARE(myDialogs->takeSeen(), (QStringList{question(), "New Project File"}));
+            QVERIFY(QFile::exists(path("out/new.qxproj")));
+        }
+        myWindow->hide();
+    }
+
+    void saveThatFailsTellsItsReason()
+    {
+        changeFleet();
+        QVERIFY(QDir().rename(path("models"), path("elsewhere")));
+        const DtCapture warnings(DtWarn);
+        myWindow->saveOmtProject();
+        const QString text = "Project file " + path("models/p.qxproj") + " could not be written.";
+        QCOMPARE(status(), text);
+        QVERIFY2(myWindow->statusBar()->toolTip().contains("No such file or directory"),
+                 qPrintable(myWindow->statusBar()->toolTip()));
+        QCOMPARE(warnings.text(), text + " No such file or directory\n");
+        myWindow->hide();
+    }
+
     void projectThatChangedOnDiskIsAskedAbout()
     {
         changeFleet();

@@ -237,7 +237,11 @@ bool DtCodeGenAppGui::event(QEvent* event)
     if (event->type() == QEvent::Show || event->type() == QEvent::Resize)
         fitToolBar(findChild<QToolBar*>(QStringLiteral("Actions")), width());
     if (event->type() == QEvent::Show)
+    {
         refreshBadge();
+        if (myMessages->count() > 0)
+            openMessages();
+    }
     return isHandled;
 }
 

@@ -242,8 +242,11 @@ private Q_SLOTS:
         DtWarn << "early" << std::endl;
         QVERIFY(myWindow->findChild<QDockWidget*>() == nullptr);
         show();
+        QVERIFY(myWindow->findChild<QDockWidget*>() != nullptr);
+        QVERIFY(messages().isVisible());
+        QCOMPARE(messageLines(), QStringList("early"));
         DtWarn << "late" << std::endl;
-        QCOMPARE(messageLines(), (QStringList{"early", "late"}));
+        QTRY_COMPARE(messageLines(), (QStringList{"early", "late"}));
     }
 
     void thousandMessagesAreKept()

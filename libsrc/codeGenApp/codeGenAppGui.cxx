@@ -70,6 +70,7 @@ DtCodeGenAppGui::DtCodeGenAppGui(DtCodeGenInitializer& initializer, QApplication
                                                                { return iconColorMappingsByMode(mode); })),
       myForm(std::make_unique<Ui_QtCodeGenApp>())
 {
+    createMessages();
     myForm->setupUi(this);
     setCentralWidget(myForm->widget);
     setObjectName(QStringLiteral("CodeGenAppGUI"));
@@ -83,7 +84,6 @@ DtCodeGenAppGui::DtCodeGenAppGui(DtCodeGenInitializer& initializer, QApplication
     createToolBar();
     createMenus();
     connectLists();
-    createMessages();
     createClassViews();
     createShortcuts();
 }

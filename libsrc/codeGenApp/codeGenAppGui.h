@@ -70,6 +70,8 @@ public:
     // An unattended window opens no message box and no file dialog: the text goes to DtWarn and the operation goes on
     // as after a cancel.
     void setUnattended(bool unattended) { myIsUnattended = unattended; }
+    // Lines that were told before the window was made; they stand ahead of its own.
+    void takeEarlierMessages(const QStringList& lines);
     // Puts the window where it was closed last, and notes its place from now on whenever it is closed.
     void keepPlace();
 

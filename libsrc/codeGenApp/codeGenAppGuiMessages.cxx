@@ -33,6 +33,11 @@ void DtCodeGenAppGui::createMessages()
     connect(myMessages.get(), &DtMessageLog::added, this, &DtCodeGenAppGui::openMessages);
 }
 
+void DtCodeGenAppGui::takeEarlierMessages(const QStringList& lines)
+{
+    myMessages->putInFront(lines);
+}
+
 // The user may close the dock; then it stays closed.
 void DtCodeGenAppGui::openMessages()
 {

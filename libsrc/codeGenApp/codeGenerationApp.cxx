@@ -91,7 +91,8 @@ void runSplash(QSplashScreen& splash)
 } // namespace
 
 DtCodeGenerationApp::DtCodeGenerationApp(int argc, char** argv)
-    : mySettings("settings", theProduct, theProduct),
+    : myEarlyMessages(std::make_unique<DtMessageLog>()),
+      mySettings("settings", theProduct, theProduct),
       myGenerate(&mySettings, "generate", false,
                  "Perform file generation without opening GUI (requires fom definition, output directory, and 'all' "
                  "flag to be set)",
@@ -164,7 +165,10 @@ void DtCodeGenerationApp::createWindow()
 {
     QSplashScreen splash(QPixmap(QStringLiteral("../data/images/SplashScreen_Quorvex.jpg")));
     runSplash(splash);
+    const QStringList earlyMessages = myEarlyMessages->linesSince(0);
+    myEarlyMessages.reset(); // the window has a log of its own
     myGui = new DtCodeGenAppGui(myInitializer, myApplication, nullptr);
+    myGui->takeEarlierMessages(earlyMessages);
     myGui->setWindowTitle(QStringLiteral("Quorvex Code Generator - No File Loaded"));
     splash.finish(myGui);
 }

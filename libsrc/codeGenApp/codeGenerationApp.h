@@ -2,9 +2,12 @@
 #define CODE_GEN_APP_CODE_GENERATION_APP_H
 
 #include "codeGenApp/codeGenInitializer.h"
+#include "codeGenApp/messageLog.h"
 #include "foundation/applicationSettings.h"
 #include "foundation/configVariable.h"
 #include "foundation/multiConfigVariable.h"
+
+#include <memory>
 
 class DtCodeGenAppGui;
 class QApplication;
@@ -46,6 +49,7 @@ private:
 
     QApplication* myApplication = nullptr;
     DtCodeGenAppGui* myGui = nullptr;
+    std::unique_ptr<DtMessageLog> myEarlyMessages; // until there is a window
     DtCodeGenInitializer myInitializer;
     DtApplicationSettings mySettings;
     DtConfigVariable<bool> myGenerate;

@@ -34,6 +34,14 @@ void DtMessageLog::print(const char* text, std::size_t length)
         Q_EMIT added();
 }
 
+void DtMessageLog::putInFront(const QStringList& lines)
+{
+    myLines = lines + myLines;
+    myCount += lines.size();
+    while (myLines.size() > theMostLines)
+        myLines.removeFirst();
+}
+
 QStringList DtMessageLog::linesSince(int count) const
 {
     return myLines.mid(qMax(0, myLines.size() - (myCount - count)));

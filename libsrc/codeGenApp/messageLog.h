@@ -25,6 +25,9 @@ public:
     // The lines behind that count, as far as they are kept.
     QStringList linesSince(int count) const;
 
+    // Lines from before the log was made. For a log that nobody has read yet.
+    void putInFront(const QStringList& lines);
+
 Q_SIGNALS:
     void added();
 

@@ -249,6 +249,15 @@ private Q_SLOTS:
         QTRY_COMPARE(messageLines(), (QStringList{"early", "late"}));
     }
 
+    // The configuration is read ahead of the window.
+    void messagesFromBeforeTheWindowStandFirst()
+    {
+        DtWarn << "second" << std::endl;
+        myWindow->takeEarlierMessages({"first"});
+        show();
+        QCOMPARE(messageLines(), (QStringList{"first", "second"}));
+    }
+
     void thousandMessagesAreKept()
     {
         show();

@@ -52,7 +52,7 @@ class Ui_QtCodeGenApp;
 // Beside its menus it takes files that are dropped on it: project files to load, and model files to add while the
 // action "Import FOM" is enabled. In the lists Insert adds, Delete removes, and F2 or Enter on the right list
 // customizes the current class. Ctrl+F opens a find bar below the left list, F4 a panel that tells all of the current
-// class, and Ctrl+Z takes the last addition or removal back.
+// class, F5 the messages, and Ctrl+Z takes the last addition or removal back.
 class DtCodeGenAppGui : public QMainWindow
 {
     Q_OBJECT
@@ -172,8 +172,10 @@ private:
     void createStatusBar();
     void createMessages();
     void openMessages();
+    void toggleMessages();
+    void makeMessageDock();
     void selectNamedClass(const QString& line);
-    void addReasonsToStatus(const QStringList& reasons);
+    void addToStatusToolTip(const QStringList& lines);
     // What failed, or cannot be done. The text stays until there is another one.
     void showStatus(const DtString& text);
     // What was done; nothing while the window is not visible.

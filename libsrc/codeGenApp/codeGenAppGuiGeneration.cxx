@@ -85,6 +85,8 @@ void DtCodeGenAppGui::tellOfRun(const DtGenerationWatch& watch, bool isCancelled
         showStatus(watch.failureText());
     else
         showSuccess(isCancelled ? watch.cancelText() : watch.endText(myOutputDir));
+    if (watch.hasWarnings() && isVisible())
+        addToStatusToolTip({QStringLiteral("F5 shows and hides the messages.")});
 }
 
 bool DtCodeGenAppGui::askToStop(const DtString& reason)

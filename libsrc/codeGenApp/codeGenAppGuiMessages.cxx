@@ -7,6 +7,7 @@
 #include "omtReader/fedNode.h"
 
 #include <QtCore/QRegularExpression>
+#include <QtWidgets/QShortcut>
 
 #include <algorithm>
 
@@ -31,6 +32,8 @@ void DtCodeGenAppGui::createMessages()
 {
     myMessages = std::make_unique<DtMessageLog>();
     connect(myMessages.get(), &DtMessageLog::added, this, &DtCodeGenAppGui::openMessages);
+    connect(new QShortcut(QKeySequence(Qt::Key_F5), this), &QShortcut::activated, this,
+            &DtCodeGenAppGui::toggleMessages);
 }
 
 void DtCodeGenAppGui::takeEarlierMessages(const QStringList& lines)
@@ -38,11 +41,23 @@ void DtCodeGenAppGui::takeEarlierMessages(const QStringList& lines)
     myMessages->putInFront(lines);
 }
 
-// The user may close the dock; then it stays closed.
+// The user may close the dock; then it stays closed until the user asks for it.
 void DtCodeGenAppGui::openMessages()
 {
-    if (!isVisible() || myMessageDock != nullptr)
-        return;
+    if (isVisible() && myMessageDock == nullptr)
+        makeMessageDock();
+}
+
+void DtCodeGenAppGui::toggleMessages()
+{
+    if (myMessageDock == nullptr)
+        makeMessageDock();
+    else
+        myMessageDock->setVisible(!myMessageDock->isVisible());
+}
+
+void DtCodeGenAppGui::makeMessageDock()
+{
     myMessageDock = new DtMessageDock(*myMessages, this);
     connect(myMessageDock, &DtMessageDock::lineClicked, this, &DtCodeGenAppGui::selectNamedClass);
     addDockWidget(Qt::BottomDockWidgetArea, myMessageDock);

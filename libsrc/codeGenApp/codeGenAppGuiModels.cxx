@@ -78,7 +78,7 @@ bool DtCodeGenAppGui::readTypedFiles(const std::vector<DtFilename>& files)
 int DtCodeGenAppGui::failedLoad()
 {
     showStatus(theLoadFailure);
-    addReasonsToStatus(myMessages->linesSince(myMessagesBeforeLoad));
+    addToStatusToolTip(myMessages->linesSince(myMessagesBeforeLoad));
     const std::vector<DtFilename> files = std::exchange(myReadFiles, {});
     if (isVisible() && !files.empty() && readTypedFiles(files))
         showProjectOnTheRight();

@@ -160,7 +160,7 @@ void DtCodeGenAppGui::tellFailedSave(int cause)
     if (cause == 0 || !isVisible())
         return;
     const char* const reason = std::strerror(cause);
-    addReasonsToStatus({QString::fromLocal8Bit(reason)});
+    addToStatusToolTip({QString::fromLocal8Bit(reason)});
     DtWarn << text << " " << reason << std::endl;
 }
 

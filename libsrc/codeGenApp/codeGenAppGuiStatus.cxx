@@ -54,12 +54,12 @@ void DtCodeGenAppGui::putStatus(const QString& text, bool isFailure)
     refreshBadge();
 }
 
-// Why a load failed, below the text that tells that it did.
-void DtCodeGenAppGui::addReasonsToStatus(const QStringList& reasons)
+// Below the text itself: why a load failed, or where more is told.
+void DtCodeGenAppGui::addToStatusToolTip(const QStringList& lines)
 {
     QString toolTip = statusBar()->toolTip();
-    for (const QString& reason : reasons)
-        toolTip += QStringLiteral("<p>") + reason.toHtmlEscaped() + QStringLiteral("</p>");
+    for (const QString& line : lines)
+        toolTip += QStringLiteral("<p>") + line.toHtmlEscaped() + QStringLiteral("</p>");
     statusBar()->setToolTip(toolTip);
 }
 

@@ -26,6 +26,7 @@ public:
     // One sentence on a run that ends now. The directory is the one of the output.
     QString endText(const DtString& directory) const;
     QString cancelText() const;
+    bool hasWarnings() const { return myWarnings > 0; }
     bool hasFailures() const { return !myFailures.empty(); }
     // How many of how many files could not be written, and why the first one could not.
     DtString failureText() const;

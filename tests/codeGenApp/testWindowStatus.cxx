@@ -93,6 +93,7 @@ private Q_SLOTS:
         const int count = warnings.text().count('\n');
         QVERIFY2(count > 1, qPrintable(warnings.text()));
         QVERIFY2(status().endsWith(QString(" s, %1 warnings").arg(count)), qPrintable(status()));
+        QVERIFY(myWindow->statusBar()->toolTip().endsWith("<p>F5 shows and hides the messages.</p>"));
     }
 
     void cancelledRunTellsHowFarItCame()
@@ -256,6 +257,21 @@ private Q_SLOTS:
         myWindow->takeEarlierMessages({"first"});
         show();
         QCOMPARE(messageLines(), (QStringList{"first", "second"}));
+    }
+
+    void keyShowsAndHidesTheMessages()
+    {
+        show();
+        QTest::keyClick(myWindow.get(), Qt::Key_F5);
+        QVERIFY(myWindow->findChild<QDockWidget*>() != nullptr && messages().isVisible());
+        QCOMPARE(messageLines(), QStringList());
+        DtWarn << "first" << std::endl;
+        messages().close();
+        QTest::keyClick(myWindow.get(), Qt::Key_F5);
+        QVERIFY(messages().isVisible());
+        QTRY_COMPARE(messageLines(), QStringList("first"));
+        QTest::keyClick(myWindow.get(), Qt::Key_F5);
+        QVERIFY(!messages().isVisible());
     }
 
     void thousandMessagesAreKept()

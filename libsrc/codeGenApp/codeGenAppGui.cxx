@@ -236,6 +236,8 @@ bool DtCodeGenAppGui::event(QEvent* event)
     const bool isHandled = QMainWindow::event(event);
     if (event->type() == QEvent::Show || event->type() == QEvent::Resize)
         fitToolBar(findChild<QToolBar*>(QStringLiteral("Actions")), width());
+    if (event->type() == QEvent::Resize && myBadge != nullptr)
+        fitBadge();
     if (event->type() == QEvent::Show)
     {
         refreshBadge();

@@ -182,6 +182,7 @@ private:
     void showSuccess(const QString& text);
     void putStatus(const QString& text, bool isFailure);
     void refreshBadge();
+    void fitBadge();
     std::size_t moduleCount() const;
     // Whether saving would write something else than what the project file holds.
     bool hasUnsavedWork() const;

@@ -17,6 +17,8 @@
 
 namespace
 {
+const int theEdgesOfTheBar = 40; // pixels left of the text and right of the badge, the grip among them
+
 // What is told when a project is saved need not be told when it is compared with its file.
 class DtSilence : public DtWarningTaker
 {
@@ -76,7 +78,14 @@ void DtCodeGenAppGui::refreshBadge()
     facts.modules = moduleCount();
     facts.classes = myProject->getObjects().size() + myProject->getInteractions().size();
     myBadge->fill(facts);
+    fitBadge();
     myBadge->show();
+}
+
+void DtCodeGenAppGui::fitBadge()
+{
+    const int textWidth = statusBar()->fontMetrics().horizontalAdvance(statusBar()->currentMessage());
+    myBadge->fitInto(width() - theEdgesOfTheBar - textWidth);
 }
 
 // Without the standard management model, which comes by itself.

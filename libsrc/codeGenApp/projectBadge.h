@@ -8,7 +8,8 @@
 #include <cstddef>
 
 // What the status bar tells of the project at its right end: name, modules and selected classes, and a star behind the
-// name while something is not saved. Hidden until it is filled.
+// name while something is not saved. A long name is cut in its middle, and where room is short the counts go; the
+// tooltip has all. Hidden until it is filled.
 class DtProjectBadge : public QLabel
 {
 public:
@@ -22,6 +23,13 @@ public:
 
     explicit DtProjectBadge(QWidget* parent = nullptr);
     void fill(const DtFacts& facts);
+    // Takes the longest form that is not wider than so many pixels, or the shortest.
+    void fitInto(int width);
+
+private:
+    QString countsText() const;
+
+    DtFacts myFacts;
 };
 
 // "1 file", "2 files".

@@ -334,6 +334,7 @@ private Q_SLOTS:
     void badgeNamesWhatIsOpen()
     {
         show();
+        myWindow->resize(1200, 582); // room for all of it
         QCOMPARE(badgeText(), QString());
         loadFleet();
         QCOMPARE(badgeText(), QString("p.qxproj*, 1 module, 0 classes"));
@@ -352,6 +353,39 @@ private Q_SLOTS:
         QCOMPARE(badgeText(), QString("p.qxproj*, 1 module, 1 class"));
         myWindow->closeOpenFiles();
         QCOMPARE(badgeText(), QString());
+    }
+
+    void badgeLeavesTheTextItsRoom()
+    {
+        show();
+        myWindow->preferences()->setIncludeStandardMIM(false);
+        myWindow->newOmtProject(DtFilename(bytes("models/harbour.qxproj")));
+        const DtString model = myProgram->model("HarbourWithAllItsVessels.xml", moduleText(fleet()));
+        QCOMPARE(myWindow->loadFile(model, ""), 1);
+        myWindow->resize(1200, 582);
+        QCOMPARE(badgeText(), QString("harbour.qxproj*, 1 module, 0 classes"));
+        const int end = myWindow->statusBar()->fontMetrics().horizontalAdvance(status());
+        myWindow->resize(badge().sizeHint().width() + end + 10, 582); // both, without what divides them
+        QCOMPARE(badgeText(), QString("harbour.qxproj*"));
+        QTRY_VERIFY(badge().x() > end + 6);
+        QVERIFY(badge().contentsRect().x() >= 12);
+        QVERIFY2(badge().toolTip().contains("harbour.qxproj*, 1 module, 0 classes"), qPrintable(badge().toolTip()));
+        myWindow->resize(1200, 582);
+        QCOMPARE(badgeText(), QString("harbour.qxproj*, 1 module, 0 classes"));
+    }
+
+    void longNameIsCutInTheBadge()
+    {
+        const QString name = QString("harbour").repeated(27);
+        myWindow->newOmtProject(DtFilename(bytes(qPrintable("models/" + name + ".qxproj"))));
+        show();
+        myWindow->resize(1200, 582);
+        QVERIFY2(badgeText().startsWith("harbour") && badgeText().endsWith("proj, 0 modules, 0 classes"),
+                 qPrintable(badgeText()));
+        QVERIFY(badge().width() < 500);
+        QVERIFY(badge().toolTip().contains(name + ".qxproj, 0 modules, 0 classes"));
+        loadFleet();
+        QVERIFY(badge().toolTip().contains("Not all of the project is saved."));
     }
 
     void badgeDoesNotCountTheManagementModel()

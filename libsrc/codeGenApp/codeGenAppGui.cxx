@@ -385,23 +385,21 @@ void DtCodeGenAppGui::selectAllObjectsInteractions()
 
 void DtCodeGenAppGui::addSelectedItems()
 {
-    noteSelection();
-    myListViewManager->processAddition(true, myProject.get(), myObjectItems, myInteractionItems, false);
-    refreshBadge();
+    changeSelection(
+        [this]
+        { myListViewManager->processAddition(true, myProject.get(), myObjectItems, myInteractionItems, false); });
 }
 
 void DtCodeGenAppGui::addAllObjectInteractions()
 {
-    noteSelection();
-    myListViewManager->processAddition(false, myProject.get(), myObjectItems, myInteractionItems, false);
-    refreshBadge();
+    changeSelection(
+        [this]
+        { myListViewManager->processAddition(false, myProject.get(), myObjectItems, myInteractionItems, false); });
 }
 
 void DtCodeGenAppGui::removeSelectedItems()
 {
-    noteSelection();
-    myListViewManager->processRemoval(myProject.get());
-    refreshBadge();
+    changeSelection([this] { myListViewManager->processRemoval(myProject.get()); });
 }
 
 void DtCodeGenAppGui::setOutputDirectory(const QString& directory)

@@ -9,6 +9,7 @@
 #include <QtCore/QPointer>
 #include <QtWidgets/QMainWindow>
 
+#include <functional>
 #include <map>
 #include <memory>
 #include <utility>
@@ -192,7 +193,7 @@ private:
     void saveConfiguration();
 
     void createShortcuts();
-    void noteSelection();
+    void changeSelection(const std::function<void()>& change);
     void undoLastChange();
     void noteDirectory(const QString& file);
     bool handleListKey(const QTreeWidget* list, const QKeyEvent& event);

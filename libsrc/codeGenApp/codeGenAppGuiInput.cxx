@@ -18,6 +18,7 @@
 
 #include <algorithm>
 #include <iterator>
+#include <utility>
 
 namespace
 {
@@ -61,10 +62,17 @@ void DtCodeGenAppGui::createShortcuts()
             &DtCodeGenAppGui::undoLastChange);
 }
 
-void DtCodeGenAppGui::noteSelection()
+// What changes nothing leaves the change before it to be taken back.
+void DtCodeGenAppGui::changeSelection(const std::function<void()>& change)
 {
+    std::unique_ptr<DtOmtProject> before;
     if (isVisible() && myProject != nullptr)
-        myBeforeChange = std::make_unique<DtOmtProject>(*myProject);
+        before = std::make_unique<DtOmtProject>(*myProject);
+    change();
+    if (before != nullptr &&
+        !(before->getObjects() == myProject->getObjects() && before->getInteractions() == myProject->getInteractions()))
+        myBeforeChange = std::move(before);
+    refreshBadge();
 }
 
 // The selected classes alone: custom code that was saved in between stays.

@@ -273,6 +273,24 @@ private Q_SLOTS:
         QCOMPARE(printList(right()), QString("Objects\n Ship\n  Tug\n"));
     }
 
+    void changeOfNothingIsNotTakenBack()
+    {
+        loadFleet();
+        show();
+        itemOf(left(), "Tug")->setSelected(true);
+        myWindow->addSelectedItems();
+        const QString both = recorded();
+        itemOf(right(), "Tug")->setSelected(true);
+        myWindow->removeSelectedItems();
+        QVERIFY(recorded() != both);
+        myWindow->removeSelectedItems(); // nothing is selected
+        left().clearSelection();
+        itemOf(left(), "Ship")->setSelected(true);
+        myWindow->addSelectedItems(); // it is there
+        pressKeys(Qt::Key_Z, Qt::ControlModifier);
+        QCOMPARE(recorded(), both);
+    }
+
     void dialogsStartWhereTheLastFileWasChosen()
     {
         show();

@@ -110,6 +110,8 @@ void DtCodeGenAppGui::showProjectOnTheRight()
     DtOmtProject shown(*myProject);
     putIntoUi(&shown);
     myListViewManager->startAtTheTop();
+    if (isVisible())
+        markTakenClasses();
 }
 
 // The first file decides the format; every further one has to have it, and only modules merge.

@@ -138,6 +138,16 @@ private Q_SLOTS:
         QCOMPARE(boldClasses(), QString("Ship"));
     }
 
+    void takenClassesAreMarkedBehindAFailedImport()
+    {
+        loadFleet();
+        show();
+        itemOf(left(), "Tug")->setSelected(true);
+        myWindow->addSelectedItems();
+        QCOMPARE(myWindow->loadFile(myProgram->model("bad.xml", moduleText("").replace("</objectModel>", "")), ""), 0);
+        QCOMPARE(boldClasses(), QString("Ship Tug"));
+    }
+
     void toolBarHasTextBesideItsIconsWhereThereIsRoom()
     {
         show();

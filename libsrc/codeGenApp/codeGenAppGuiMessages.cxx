@@ -1,6 +1,7 @@
 // The messages of the streams, in the window.
 
 #include "codeGenApp/codeGenAppGui.h"
+#include "codeGenApp/findBar.h"
 #include "codeGenApp/listViewManager.h"
 #include "codeGenApp/messageDock.h"
 #include "codeGenApp/messageLog.h"
@@ -25,6 +26,11 @@ void addNames(const DtCodeGenAppGui::DtItemMap& items, DtItemsByName& full, DtIt
         if (!last.contains(name))
             last.insert(name, item);
     }
+}
+
+bool isOutOfSight(const QTreeWidgetItem& item)
+{
+    return item.isHidden() || (item.parent() != nullptr && isOutOfSight(*item.parent()));
 }
 } // namespace
 
@@ -80,6 +86,8 @@ void DtCodeGenAppGui::selectNamedClass(const QString& line)
                  word.truncate(qMax(0, word.lastIndexOf('.'))))
                 if (QTreeWidgetItem* const item = names->value(word))
                 {
+                    if (isOutOfSight(*item)) // by the find bar
+                        myFindBar->dismiss();
                     QTreeWidget* const list = myListViewManager->leftListView();
                     list->setCurrentItem(item);
                     return list->scrollToItem(item);

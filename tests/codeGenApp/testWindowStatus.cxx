@@ -329,6 +329,32 @@ private Q_SLOTS:
         QCOMPARE(left().currentItem()->text(0), item);
     }
 
+    void clickOnAMessageOfAHiddenClassEndsTheSearch()
+    {
+        loadFleet();
+        show();
+        QTest::keyClick(myWindow.get(), Qt::Key_F, Qt::ControlModifier);
+        const auto* const bar = myWindow->findChild<QWidget*>("FindBar");
+        QVERIFY(bar != nullptr);
+        bar->findChild<QLineEdit*>()->setText("Tug");
+        QVERIFY(itemOf(left(), "Ferry")->parent()->isHidden());
+        DtWarn << "Something of HLAobjectRoot.Tug is odd." << std::endl;
+        DtWarn << "Something of HLAobjectRoot.Ship.Ferry is odd." << std::endl;
+        QTRY_COMPARE(messageLines().size(), 2);
+        const auto click = [this](int row)
+        {
+            QTest::mouseClick(messageList().viewport(), Qt::LeftButton, Qt::NoModifier,
+                              messageList().visualItemRect(messageList().item(row)).center());
+        };
+        click(0);
+        QCOMPARE(left().currentItem()->text(0), QString("Tug"));
+        QVERIFY(bar->isVisible());
+        click(1);
+        QCOMPARE(left().currentItem()->text(0), QString("Ferry"));
+        QVERIFY(!bar->isVisible());
+        QVERIFY(!left().currentItem()->isHidden() && !left().currentItem()->parent()->isHidden());
+    }
+
     // What is open
 
     void badgeNamesWhatIsOpen()

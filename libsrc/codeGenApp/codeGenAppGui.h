@@ -224,6 +224,7 @@ private:
     bool readProject(DtFilename& path, bool& isSound);
     void forgetProject();
     bool loadModels(const std::vector<DtModelFile>& models);
+    void openProject(const DtFilename& file);
     void tellOfProject(bool isReadAgain);
     void completeProject(DtOmtProject& project) const;
     void tellFailedSave(int cause); // of errno, 0 when it is not known

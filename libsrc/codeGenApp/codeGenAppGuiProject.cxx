@@ -221,28 +221,41 @@ void DtCodeGenAppGui::loadOmtProject(const DtFilename& path)
     {
         if (isSound && file == oldFile)
             myProjectFile = oldFile; // the same project, read again: it can still be saved
+        if (isSound && isVisible())
+        {
+            openProject(file); // the user can import now
+            tellOfProject(file == oldFile);
+        }
         return;
     }
     const bool isLoaded = loadModels(models);
     setValidProject(true);
-    myPreferences->setIncludeDir(myProject->includeDir());
-    myPreferences->setPrefix(myProject->classPrefix());
-    DtOMTEnvWriter::setPrefixName(myPreferences->prefixName());
+    openProject(file);
     putIntoUi(myProject.get());
     myListViewManager->startAtTheTop();
-    myBaseName = myProject->baseName();
     myLoadedFiles = models;
-    myProjectFile = file;
-    enableProjectActions(true);
-    myOutputDir = DtString();
     if (isLoaded)
         tellOfProject(file == oldFile);
 }
 
+// What was read becomes the project that is saved.
+void DtCodeGenAppGui::openProject(const DtFilename& file)
+{
+    myPreferences->setIncludeDir(myProject->includeDir());
+    myPreferences->setPrefix(myProject->classPrefix());
+    DtOMTEnvWriter::setPrefixName(myPreferences->prefixName());
+    myBaseName = myProject->baseName();
+    myProjectFile = file;
+    enableProjectActions(true);
+    myOutputDir = DtString();
+}
+
 void DtCodeGenAppGui::tellOfProject(bool isReadAgain)
 {
-    showSuccess("Project " + nameOf(myProjectFile) + (isReadAgain ? " read again: " : " read: ") +
-                DtCounted(moduleCount(), "module", "modules") + ", " +
+    const QString text = "Project " + nameOf(myProjectFile) + (isReadAgain ? " read again: " : " read: ");
+    if (myLoadedFiles.empty())
+        return showSuccess(text + "it has no models");
+    showSuccess(text + DtCounted(moduleCount(), "module", "modules") + ", " +
                 QString::number(myProject->getObjects().size() + myProject->getInteractions().size()) +
                 " of its classes selected");
 }

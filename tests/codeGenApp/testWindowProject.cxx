@@ -420,6 +420,22 @@ private Q_SLOTS:
         QCOMPARE(text("p.qxproj"), before);
     }
 
+    void projectWithoutFilesIsOpenInAVisibleWindow()
+    {
+        myWindow->show();
+        write("p.qxproj", projectText(QByteArray()));
+        myWindow->loadOmtProject(file("p.qxproj"));
+        QCOMPARE(status(), QString("Project p.qxproj read: it has no models"));
+        QCOMPARE(actions(), QString("save import"));
+        QCOMPARE(myWindow->loadFile(module("a.xml", "Ship"), ""), 1);
+        myWindow->saveOmtProject();
+        QVERIFY(text("p.qxproj").contains("a.xml") && text("p.qxproj").contains("harbour"));
+        write("p.qxproj", projectText(QByteArray()));
+        myWindow->loadOmtProject(DtFilename());
+        QCOMPARE(status(), QString("Project p.qxproj read again: it has no models"));
+        QVERIFY(myWindow->loadedFiles().empty());
+    }
+
     void emptyProjectThatIsReadAgainCanBeSaved()
     {
         myWindow->newOmtProject(file("new.qxproj"));

@@ -284,7 +284,10 @@ void DtCodeGenAppGui::slot_closeOpenFiles()
 {
     if (!mayLeaveProject())
         return;
+    const QString project = QString::fromUtf8(DtFilename::stripPath(myProjectFile).c_str());
     closeOpenFiles();
+    if (!project.isEmpty())
+        showSuccess("Project " + project + " closed");
     if (isVisible()) // what the user would import now could not be saved
         enableProjectActions(false);
 }

@@ -64,7 +64,9 @@ private Q_SLOTS:
         QCOMPARE(status(), QString("Project p.qxproj saved"));
         myWindow->loadOmtProject(DtFilename(bytes("models/p.qxproj")));
         QCOMPARE(status(), QString("Project p.qxproj read again: 1 module, 2 of its classes selected"));
-        myWindow->closeOpenFiles();
+        myWindow->slot_closeOpenFiles();
+        QCOMPARE(status(), QString("Project p.qxproj closed"));
+        QCOMPARE(badgeText(), QString());
         myWindow->loadOmtProject(DtFilename(bytes("models/p.qxproj")));
         QCOMPARE(status(), QString("Project p.qxproj read: 1 module, 2 of its classes selected"));
     }

@@ -82,7 +82,7 @@ void DtCodeGenAppGui::generateAllFiles()
 void DtCodeGenAppGui::tellOfRun(const DtGenerationWatch& watch, bool isCancelled)
 {
     if (watch.hasFailures() && isVisible())
-        showStatus(watch.failureText());
+        showStatus((isCancelled ? "Cancelled. " : "") + watch.failureText());
     else
         showSuccess(isCancelled ? watch.cancelText() : watch.endText(myOutputDir));
     if (watch.hasWarnings() && isVisible())

@@ -221,13 +221,17 @@ void DtModelGeneration::loadModels()
 // What a reader of models cannot tell.
 void DtModelGeneration::checkAccess() const
 {
-    for (const std::string& file : myModelFiles)
+    const auto find = [this](const auto& isWrong)
     {
-        if (access(file.c_str(), R_OK) != 0)
-            fail(DtExitCode::Unreadable, "the model cannot be read: " + file + ": " + std::strerror(errno) + ".");
-        if (fs::path(file).extension() == ".qxproj")
-            fail(DtExitCode::Unreadable, "a project stands behind --project, not among the models: " + file + ".");
-    }
+        const auto found = std::find_if(myModelFiles.begin(), myModelFiles.end(), isWrong);
+        return found == myModelFiles.end() ? std::string() : *found;
+    };
+    const std::string locked = find([](const std::string& file) { return access(file.c_str(), R_OK) != 0; });
+    if (!locked.empty())
+        fail(DtExitCode::Unreadable, "the model cannot be read: " + locked + ": " + std::strerror(errno) + ".");
+    const std::string project = find([](const std::string& file) { return fs::path(file).extension() == ".qxproj"; });
+    if (!project.empty())
+        fail(DtExitCode::Unreadable, "a project stands behind --project, not among the models: " + project + ".");
 }
 
 std::vector<DtFilename> DtModelGeneration::filesToLoad()
@@ -414,9 +418,12 @@ void DtModelGeneration::checkTemplates() const
             fail(DtExitCode::Unreadable, "the template " + DtAbsolutePath(file) +
                                              " cannot be read. Templates are looked for in the directories that "
                                              "--template-dir names, then in the data directory.");
-    for (const auto& [place, used] : placesAhead())
-        if (DtIsFile(used) && fs::symlink_status(place).type() != fs::file_type::not_found)
-            fail(DtExitCode::Unreadable, place + " is no file, so it cannot stand in for " + used + ".");
+    const auto ahead = placesAhead();
+    const auto isNoFile = [](const auto& each)
+    { return DtIsFile(each.second) && fs::symlink_status(each.first).type() != fs::file_type::not_found; };
+    const auto found = std::find_if(ahead.begin(), ahead.end(), isNoFile);
+    if (found != ahead.end())
+        fail(DtExitCode::Unreadable, found->first + " is no file, so it cannot stand in for " + found->second + ".");
 }
 
 std::vector<std::string> DtModelGeneration::commandFiles()

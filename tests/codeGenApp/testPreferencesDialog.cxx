@@ -95,6 +95,9 @@ class TestPreferencesDialog : public QObject
 {
     Q_OBJECT
 
+private:
+    int myLevel = 0;
+
 private Q_SLOTS:
     void init() { myLevel = DtNotifyLevel; }
     void cleanup() { DtNotifyLevel = myLevel; }
@@ -373,9 +376,6 @@ private Q_SLOTS:
         QVERIFY(!preferences.box("Prefix Classnames").isChecked());
         QVERIFY(!preferences.control<QLineEdit>("myPrefixName").isEnabled());
     }
-
-private:
-    int myLevel = 0;
 
     void keysReachTheControls()
     {

@@ -2,9 +2,9 @@
 
 #include "codeGenApp/codeGenInitializer.h"
 #include "codeGenApp/generateListView.h"
+#include "codeGenApp/nameRules.h"
 #include "ui_preferencesDialog.h"
 
-#include <QtCore/QRegularExpression>
 #include <QtWidgets/QShortcut>
 #include <QtWidgets/QStyle>
 
@@ -159,24 +159,24 @@ void DtPreferencesDialog::addToolTips()
     checkNames();
 }
 
-// What C++ does not take is marked; it can be kept all the same.
+// What qxgen refuses is marked; it can be kept all the same.
 void DtPreferencesDialog::checkNames()
 {
     struct DtNameRow
     {
         QLineEdit* edit;
-        const char *pattern, *usual, *fault;
+        bool (*fits)(const DtString& text);
+        const char *usual, *fault;
     };
     const DtNameRow theNames[] = {
-        {myForm->myNamespaceName, "[A-Za-z_]\\w*(::[A-Za-z_]\\w*)*", "Name of the namespace",
-         "This is no name of a namespace in C++."},
-        {myForm->myPrefixName,    "\\w+",                            "The text that stands in front of the names",
-         "This gives no names of classes in C++."},
+        {myForm->myNamespaceName, DtFitsNamespace, "Name of the namespace",
+         "The name of a namespace is an identifier of C++ that is no keyword."},
+        {myForm->myPrefixName,    DtFitsPrefix,    "The text that stands in front of the names",
+         "A prefix is an identifier of C++."                                  },
     };
     for (const DtNameRow& row : theNames)
     {
-        const QRegularExpression whole(QRegularExpression::anchoredPattern(QString::fromLatin1(row.pattern)));
-        const bool isFaulty = !row.edit->text().isEmpty() && !whole.match(row.edit->text()).hasMatch();
+        const bool isFaulty = !row.fits(row.edit->text().toUtf8().constData());
         row.edit->setToolTip(QString::fromLatin1(isFaulty ? row.fault : row.usual));
         row.edit->setProperty("isFaulty", isFaulty);
         row.edit->style()->unpolish(row.edit); // the style sheet looks at properties only then

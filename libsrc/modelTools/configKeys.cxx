@@ -1,7 +1,7 @@
 #include "modelTools/configKeys.h"
 
 #include "codeGenApp/codeGenInitializer.h"
-#include "fileGenerator/cCompatibleName.h"
+#include "codeGenApp/nameRules.h"
 #include "fileGenerator/relativePath.h"
 #include "foundation/envXmlReader.h"
 #include "modelTools/nearNames.h"
@@ -14,18 +14,6 @@
 namespace
 {
 constexpr std::size_t theLongestNumber = 9; // digits that fit into an int, whatever they are
-
-bool isIdentifier(const std::string& text)
-{
-    const auto isLetter = [](char each) { return std::isalnum(static_cast<unsigned char>(each)) != 0 || each == '_'; };
-    return text.empty() || (std::isdigit(static_cast<unsigned char>(text.front())) == 0 &&
-                            std::all_of(text.begin(), text.end(), isLetter));
-}
-
-bool isNamespace(const std::string& text)
-{
-    return isIdentifier(text) && !isCPlusPlusKeyword(DtString(text));
-}
 
 bool isNumber(const std::string& text)
 {
@@ -49,13 +37,14 @@ struct DtKindRow
 
 // In the order of DtConfigKey::Kind.
 const DtKindRow theKinds[] = {
-    {[](const std::string&) { return true; },                                               "a text"                                 },
-    {isIdentifier,                                                                          "an identifier of C++"                   },
-    {isNamespace,                                                                           "an identifier of C++ that is no keyword"},
+    {[](const std::string&) { return true; },                                               "a text"              },
+    {[](const std::string& value) { return DtFitsPrefix(DtString(value)); },                "an identifier of C++"},
+    {[](const std::string& value) { return DtFitsNamespace(DtString(value)); },
+     "an identifier of C++ that is no keyword"                                                                    },
     {[](const std::string& value) { return value.empty() || staysBelow(DtString(value)); },
-     "a directory below the output"                                                                                                  },
-    {[](const std::string& value) { return value == "true" || value == "false"; },          "true or false"                          },
-    {isNumber,                                                                              "a number from 0 on"                     },
+     "a directory below the output"                                                                               },
+    {[](const std::string& value) { return value == "true" || value == "false"; },          "true or false"       },
+    {isNumber,                                                                              "a number from 0 on"  },
 };
 
 std::vector<std::string> settableNames()

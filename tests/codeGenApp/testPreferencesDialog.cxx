@@ -438,13 +438,13 @@ private Q_SLOTS:
         QTest::addColumn<QString>("edit");
         QTest::addColumn<QString>("text");
         QTest::addColumn<bool>("isFaulty");
-        for (const char* text : {"", "port", "_a1", "port::harbour"})
+        for (const char* text : {"", "port", "_a1"})
             QTest::addRow("namespace %s", text) << "myNamespaceName" << text << false;
-        for (const char* text : {"1a", "a b", "a-b", "a::", ":"})
+        for (const char* text : {"1a", "a b", "a-b", "a::b", ":", "class"})
             QTest::addRow("namespace %s", text) << "myNamespaceName" << text << true;
-        for (const char* text : {"", "Port", "2", "_x"})
+        for (const char* text : {"", "Port", "P2", "_x", "class"})
             QTest::addRow("prefix %s", text) << "myPrefixName" << text << false;
-        for (const char* text : {"a b", "x-", "a::b"})
+        for (const char* text : {"9x", "a b", "x-", "a::b"})
             QTest::addRow("prefix %s", text) << "myPrefixName" << text << true;
     }
 

@@ -195,6 +195,8 @@ private Q_SLOTS:
     void actionIconCanBeSeenInBothModes();
     void iconGainsDetailAtScaleTwo_data() { addIcons(); }
     void iconGainsDetailAtScaleTwo();
+    void buttonForWhatDoesNotFitCanBeSeen_data() { addModes(); }
+    void buttonForWhatDoesNotFitCanBeSeen();
     void middleIconsHaveTheColorsThatAreReplaced();
     void noOtherImagesShip();
     void splashLeavesRoomForItsMessages();
@@ -482,6 +484,35 @@ void TestStyleSheets::actionIconCanBeSeenInBothModes()
             const double value = contrast(QColor(*colors.begin()), sheet.color(ground, "background-color"));
             QVERIFY2(value >= theShapeContrast, qPrintable(QStringLiteral("%1 %2 %3").arg(mode, ground).arg(value)));
         }
+    }
+}
+
+// At the end of a tool bar or menu bar that is too narrow.
+void TestStyleSheets::buttonForWhatDoesNotFitCanBeSeen()
+{
+    QFETCH(QString, mode);
+    const DtScratchData program(QStringList("config"));
+    const DtSheet sheet(mode);
+    QMainWindow window;
+    window.setStyleSheet(sheetText(mode).replace("$(APP_DIR)", "../data/config"));
+    QToolBar* const bar = window.addToolBar("bar");
+    for (const char* text : {"What is rather long", "and longer", "and wider than the window"})
+    {
+        bar->addAction(text);
+        window.menuBar()->addMenu(text)->addAction(text);
+    }
+    window.resize(200, 100);
+    window.show();
+    for (const char* name : {"qt_toolbar_ext_button", "qt_menubar_ext_button"})
+    {
+        auto* const button = window.findChild<QToolButton*>(name);
+        QVERIFY2(button != nullptr, name);
+        QTRY_VERIFY2(button->isVisible(), name);
+        const std::set<QRgb> colors = opaqueColors(button->icon().pixmap(16, 16).toImage());
+        QVERIFY2(!colors.empty(), name);
+        const char* const ground = button->parent() == bar ? "QToolBar" : "QMenuBar";
+        for (const QRgb color : colors)
+            QVERIFY2(contrast(QColor(color), sheet.color(ground, "background-color")) >= theShapeContrast, name);
     }
 }
 

@@ -52,6 +52,7 @@ void DtCodeGenAppGui::putStatus(const QString& text, bool isFailure)
 {
     myStatusIsFailure = isFailure;
     statusBar()->showMessage(text, 0);
+    statusBar()->setAccessibleDescription(text); // else it is that of the tooltip, with its markup
     statusBar()->setToolTip(QStringLiteral("<p>") + text.toHtmlEscaped() + QStringLiteral("</p>"));
     refreshBadge();
 }

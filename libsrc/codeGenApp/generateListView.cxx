@@ -61,6 +61,7 @@ void DtGenerateListView::addItem(const char* name, bool generate)
     auto* const item = new QCustomTreeWidgetItem(this);
     item->setText(myNameColumn, QString::fromUtf8(name));
     item->setToolTip(myNameColumn, firstComment(item->text(myNameColumn)));
+    item->setData(myGenerateColumn, Qt::AccessibleTextRole, item->text(myNameColumn));
     setItemGenerated(item, generate);
 }
 

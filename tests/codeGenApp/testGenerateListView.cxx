@@ -103,6 +103,14 @@ private Q_SLOTS:
         QVERIFY(list.generateScripts().empty());
     }
 
+    void boxesAreSpokenByTheNamesOfTheirScripts()
+    {
+        DtGenerateListView list;
+        list.addItem("a.txt", true);
+        QCOMPARE(list.topLevelItem(0)->data(0, Qt::AccessibleTextRole).toString(), QString("a.txt"));
+        QCOMPARE(scripts(list), QString("+a.txt"));
+    }
+
     void changesOfTheNameColumnLeaveTheMapAlone()
     {
         DtGenerateListView list;

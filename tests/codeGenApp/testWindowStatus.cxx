@@ -144,6 +144,17 @@ private Q_SLOTS:
         QVERIFY(myWindow->statusBar()->toolTip().contains("No Project loaded... Cannot save OMT Project."));
     }
 
+    void textIsSpokenWithoutItsMarkup()
+    {
+        show();
+        myWindow->newOmtProject(DtFilename(bytes("models/a & b.qxproj")));
+        const auto description = [this]
+        { return QAccessible::queryAccessibleInterface(myWindow->statusBar())->text(QAccessible::Description); };
+        QCOMPARE(description(), QString("Project a & b.qxproj made"));
+        myWindow->slot_closeOpenFiles();
+        QCOMPARE(description(), QString("Project a & b.qxproj closed"));
+    }
+
     // Failures
 
     void filesThatCannotBeWrittenAreCounted()

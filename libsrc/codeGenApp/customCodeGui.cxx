@@ -12,6 +12,7 @@
 #include "omtReader/omtTree.h"
 #include "ui_customCodeGui.h"
 
+#include <QtCore/QRegularExpression>
 #include <QtCore/QScopedValueRollback>
 #include <QtGui/QCloseEvent>
 #include <QtGui/QScreen>
@@ -56,6 +57,13 @@ QString text(const DtString& value)
 DtString bytes(const QString& value)
 {
     return DtString(value.toStdString());
+}
+
+// Lets a line break behind each dot, and within words that are wider than the column.
+QString breakable(QString text)
+{
+    static const QRegularExpression theBreaks(QStringLiteral("(\\.|\\w{24})"));
+    return text.replace(theBreaks, QStringLiteral("\\1") + QChar(0x200B));
 }
 
 void replaceText(CodeEditor* editor, const QString& value)
@@ -155,7 +163,7 @@ void DtCustomCodeGui::nameClass()
         if (!superclasses.isEmpty())
             name += " Its superclasses have: " + text(superclasses);
     }
-    myClassLabel->setText(name.replace(QStringLiteral("."), QString(".") + QChar(0x200B))); // a line may break there
+    myClassLabel->setText(breakable(name));
 }
 
 DtString DtCustomCodeGui::superclassesWithMembers() const

@@ -36,6 +36,7 @@ private Q_SLOTS:
     void contextMenuPutsOriginalTextBack();
     void contextMenuNeedsAnItem();
     void classIsNamed();
+    void longNameLeavesTheWindowItsSize();
     void classWithoutMembersNamesSuperclassesThatHaveSome();
     void windowOpensOnTheMiddleOfItsParent();
     void escapeClosesBehindItsQuestion();
@@ -292,6 +293,19 @@ void TestCustomCodeGui::classIsNamed()
     QCOMPARE(shown(find<QLabel>("ClassLabel")), QString("HLAobjectRoot.Ship.Tug"));
     open("Objects");
     QCOMPARE(shown(find<QLabel>("ClassLabel")), QString("HLAobjectRoot"));
+}
+
+void TestCustomCodeGui::longNameLeavesTheWindowItsSize()
+{
+    const QByteArray name = QByteArray("Ship").repeated(50);
+    myWindow->preferences()->setIncludeStandardMIM(false);
+    myWindow->newOmtProject(DtFilename(myProgram->bytes(myProgram->path("models/long.qxproj"))));
+    const QByteArray text = moduleText(objectText(name, attributeText("Speed")));
+    QCOMPARE(myWindow->loadFile(myProgram->model("long.xml", text), ""), 1);
+    myWindow->addAllObjectInteractions();
+    open("Objects." + name);
+    QCOMPARE(shown(find<QLabel>("ClassLabel")), "HLAobjectRoot." + QString(name));
+    QVERIFY2(myGui->minimumSizeHint().width() < 1080, qPrintable(QString::number(myGui->minimumSizeHint().width())));
 }
 
 void TestCustomCodeGui::classWithoutMembersNamesSuperclassesThatHaveSome()

@@ -213,6 +213,7 @@ private:
     std::vector<DtFilename> filesToRead(const DtFilename& newFile, DtFomType type, bool addMim) const;
     bool readTypedFiles(const std::vector<DtFilename>& files);
     int failedLoad(); // 0, the answer of a load that fails
+    void tellOfLostFiles();
     void takeTree(DtOMTTree* tree);
     void fillLists();
     void forgetFiles();

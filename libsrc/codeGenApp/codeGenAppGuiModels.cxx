@@ -9,6 +9,7 @@
 #include "fileGenerator/dataTypeMapper.h"
 #include "fileGenerator/omtEnvWriter.h"
 #include "fileGenerator/omtProject.h"
+#include "foundation/outputStream.h"
 #include "foundation/stringUtils.h"
 #include "omtReader/fedReader.h"
 #include "omtReader/omtTree.h"
@@ -78,11 +79,27 @@ bool DtCodeGenAppGui::readTypedFiles(const std::vector<DtFilename>& files)
 int DtCodeGenAppGui::failedLoad()
 {
     showStatus(theLoadFailure);
+    tellOfLostFiles();
     addToStatusToolTip(myMessages->linesSince(myMessagesBeforeLoad));
     const std::vector<DtFilename> files = std::exchange(myReadFiles, {});
     if (isVisible() && !files.empty() && readTypedFiles(files))
         showProjectOnTheRight();
     return 0;
+}
+
+// All files are read together, so the one that is missing need not be the one that was asked for.
+void DtCodeGenAppGui::tellOfLostFiles()
+{
+    if (!isVisible())
+        return;
+    for (const DtModelFile& loaded : myLoadedFiles)
+    {
+        const DtFilename file = joined(loaded.first, loaded.second);
+        const DtString mim = mimName(myFomType);
+        const bool isMim = !mim.isEmpty() && DtContainsSubstring(file, mim);
+        if (!isMim && !findFile(file))
+            DtWarn << file << " is loaded, but cannot be opened any more." << std::endl;
+    }
 }
 
 // A project that is being loaded goes to the lists when that is done. The first model of an unseen window belongs to

@@ -473,6 +473,26 @@ private Q_SLOTS:
         QCOMPARE(status(), QString("No file loaded... Cannot generate files."));
     }
 
+    void loadedFileThatIsGoneIsNamed()
+    {
+        myWindow->newOmtProject(DtFilename(myProgram->bytes(myProgram->path("models/p.qxproj"))));
+        const DtString first = module("a.xml", "Ship");
+        QCOMPARE(myWindow->loadFile(first, ""), 1);
+        QCOMPARE(myWindow->loadFile(module("b.xml", "Tug"), ""), 1);
+        myWindow->show();
+        QVERIFY(QFile::rename(first.c_str(), myProgram->path("a.xml")));
+        const DtCapture warnings(DtWarn);
+        QCOMPARE(myWindow->loadFile(module("c.xml", "Buoy"), ""), 0);
+        QCOMPARE(status(), QString(theFailure));
+        const QString text = QString("%1 is loaded, but cannot be opened any more.").arg(first.c_str());
+        QCOMPARE(warnings.text().count("any more."), 1);
+        QVERIFY2(warnings.text().contains(text), qPrintable(warnings.text()));
+        QVERIFY(myWindow->statusBar()->toolTip().contains(text));
+        QVERIFY(QFile::rename(myProgram->path("a.xml"), first.c_str()));
+        QCOMPARE(myWindow->loadFile(module("c.xml", "Buoy"), ""), 1);
+        QVERIFY(myWindow->tree()->getObjectClassNode("HLAobjectRoot.Ship") != nullptr);
+    }
+
     void closedFilesAreNotReadAgain()
     {
         QCOMPARE(myWindow->loadFile(module("a.xml", "Ship"), ""), 1);

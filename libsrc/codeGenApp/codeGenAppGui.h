@@ -217,6 +217,7 @@ private:
     void takeTree(DtOMTTree* tree);
     void fillLists();
     void forgetFiles();
+    void titleWithoutFile();
     void showProjectAfterImport(bool isFurther);
     void tellOfImport(const QString& files);
     void showProjectOnTheRight();

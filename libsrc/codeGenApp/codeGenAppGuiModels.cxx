@@ -238,11 +238,16 @@ void DtCodeGenAppGui::forgetFiles()
     myReadFiles.clear();
 }
 
+void DtCodeGenAppGui::titleWithoutFile()
+{
+    setWindowTitle(QStringLiteral("Quorvex Code Generator - No File Loaded"));
+}
+
 void DtCodeGenAppGui::closeOpenFiles()
 {
     myFileLoaded = false;
     forgetFiles();
-    setWindowTitle(QStringLiteral("Quorvex Code Generator - No File Loaded"));
+    titleWithoutFile();
     myProjectFile = DtString();
     myBaseName = DtString();
     refreshBadge();

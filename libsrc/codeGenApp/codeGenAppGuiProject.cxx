@@ -122,6 +122,8 @@ void DtCodeGenAppGui::newOmtProject(DtFilename path)
         showSuccess("Project " + nameOf(path) + " made");
     enableProjectActions(true);
     myOutputDir = DtString();
+    if (isVisible()) // its files are forgotten
+        titleWithoutFile();
 }
 
 void DtCodeGenAppGui::enableProjectActions(bool enabled)
@@ -224,6 +226,7 @@ void DtCodeGenAppGui::loadOmtProject(const DtFilename& path)
         if (isSound && isVisible())
         {
             openProject(file); // the user can import now
+            titleWithoutFile();
             tellOfProject(file == oldFile);
         }
         return;

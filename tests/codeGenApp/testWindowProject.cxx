@@ -151,6 +151,21 @@ private Q_SLOTS:
         QVERIFY(text("p.qxproj").contains("<foms/>"));
     }
 
+    void titleOfAVisibleWindowForgetsTheModelOfTheProjectBefore()
+    {
+        const QString noFile = "Quorvex Code Generator - No File Loaded";
+        myWindow->newOmtProject(file("p.qxproj"));
+        myWindow->show();
+        QCOMPARE(myWindow->loadFile(module("a.xml", "Ship"), ""), 1);
+        QVERIFY(myWindow->windowTitle() != noFile);
+        myWindow->newOmtProject(file("q.qxproj"));
+        QCOMPARE(myWindow->windowTitle(), noFile);
+        QCOMPARE(myWindow->loadFile(module("a.xml", "Ship"), ""), 1);
+        write("empty.qxproj", projectText(QByteArray()));
+        myWindow->loadOmtProject(file("empty.qxproj"));
+        QCOMPARE(myWindow->windowTitle(), noFile);
+    }
+
     void replacedProjectFilesAreKeptUnderNumbers()
     {
         for (const char* old : {"first", "second", "second", "third"})

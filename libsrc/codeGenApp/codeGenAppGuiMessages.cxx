@@ -65,7 +65,7 @@ void DtCodeGenAppGui::toggleMessages()
 void DtCodeGenAppGui::makeMessageDock()
 {
     myMessageDock = new DtMessageDock(*myMessages, this);
-    connect(myMessageDock, &DtMessageDock::lineClicked, this, &DtCodeGenAppGui::selectNamedClass);
+    connect(myMessageDock, &DtMessageDock::lineChosen, this, &DtCodeGenAppGui::selectNamedClass);
     addDockWidget(Qt::BottomDockWidgetArea, myMessageDock);
     myMessageDock->show();
     resizeDocks({myMessageDock}, {height() / 4}, Qt::Vertical);

@@ -31,8 +31,8 @@ DtMessageDock::DtMessageDock(const DtMessageLog& log, QWidget* parent)
     setWidget(content);
     connect(copy, &QPushButton::clicked, this, &DtMessageDock::copyLines);
     connect(clear, &QPushButton::clicked, myList, &QListWidget::clear);
-    connect(myList, &QListWidget::itemClicked, this,
-            [this](const QListWidgetItem* item) { Q_EMIT lineClicked(item->text()); });
+    for (const auto isChosen : {&QListWidget::itemClicked, &QListWidget::itemActivated}) // by the mouse, by Enter
+        connect(myList, isChosen, this, [this](const QListWidgetItem* item) { Q_EMIT lineChosen(item->text()); });
     connect(&log, &DtMessageLog::added, this,
             [this]
             {

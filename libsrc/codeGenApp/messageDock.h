@@ -21,7 +21,7 @@ public:
     void takeLines();
 
 Q_SIGNALS:
-    void lineClicked(const QString& line);
+    void lineChosen(const QString& line);
 
 private:
     void copyLines() const;

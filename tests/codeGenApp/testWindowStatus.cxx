@@ -344,6 +344,18 @@ private Q_SLOTS:
         QCOMPARE(left().currentItem()->text(0), item);
     }
 
+    void enterOnAMessageSelectsItsClass()
+    {
+        loadFleet();
+        show();
+        DtWarn << "HLAobjectRoot.Tug is odd." << std::endl;
+        QTRY_COMPARE(messageLines().size(), 1);
+        messageList().setFocus();
+        messageList().setCurrentRow(0);
+        QTest::keyClick(&messageList(), Qt::Key_Return);
+        QCOMPARE(left().currentItem()->text(0), QString("Tug"));
+    }
+
     void clickOnAMessageOfAHiddenClassEndsTheSearch()
     {
         loadFleet();

@@ -51,8 +51,8 @@ class Ui_QtCodeGenApp;
 // of the bar what is open.
 //
 // Beside its menus it takes files that are dropped on it: project files to load, and model files to add while the
-// action "Import FOM" is enabled. In the lists Insert adds, Delete removes, and F2 or Enter on the right list
-// customizes the current class. Ctrl+F opens a find bar below the left list, F4 a panel that tells all of the current
+// action "Import FOM" is enabled. In the lists Insert adds; in the right one Delete removes, and F2 or Enter customizes
+// the current class. Ctrl+F opens a find bar below the left list, F4 a panel that tells all of the current
 // class, F5 the messages, and Ctrl+Z takes the last addition or removal back.
 class DtCodeGenAppGui : public QMainWindow
 {

@@ -116,7 +116,7 @@ bool DtCodeGenAppGui::handleListKey(const QTreeWidget* list, const QKeyEvent& ev
     };
     static const DtKeyRow theKeys[] = {
         {Qt::Key_Insert, false, &DtCodeGenAppGui::addSelectedItems    },
-        {Qt::Key_Delete, false, &DtCodeGenAppGui::removeSelectedItems },
+        {Qt::Key_Delete, true,  &DtCodeGenAppGui::removeSelectedItems },
         {Qt::Key_F2,     true,  &DtCodeGenAppGui::customizeCurrentItem},
         {Qt::Key_Return, true,  &DtCodeGenAppGui::customizeCurrentItem},
         {Qt::Key_Enter,  true,  &DtCodeGenAppGui::customizeCurrentItem},

@@ -222,7 +222,8 @@ private Q_SLOTS:
         QCOMPARE(printList(right()), QString("Objects\n Pier\n Buoy\n"));
     }
 
-    void keysWorkInBothLists()
+    // What is removed has to be in sight of who presses the key.
+    void insertWorksInBothListsAndDeleteInTheRightOne()
     {
         loadFleet();
         itemOf(left(), "Pier")->setSelected(true);
@@ -230,6 +231,8 @@ private Q_SLOTS:
         QCOMPARE(printList(right()), QString("Objects\n Pier\n"));
         itemOf(right(), "Pier")->setSelected(true);
         pressOn(left(), Qt::Key_Delete);
+        QCOMPARE(printList(right()), QString("Objects\n Pier\n"));
+        pressOn(right(), Qt::Key_Delete);
         QCOMPARE(printList(right()), QString("Objects\n"));
     }
 

@@ -1,5 +1,7 @@
 #include "codeGenApp/findBar.h"
 
+#include "codeGenApp/listHint.h"
+
 #include <QtGui/QKeyEvent>
 #include <QtWidgets/QHBoxLayout>
 #include <QtWidgets/QLabel>
@@ -57,6 +59,7 @@ DtFindBar::DtFindBar(QTreeWidget* list, QWidget* parent)
     }
     myCount->setObjectName(QStringLiteral("FindCount"));
     setFocusProxy(myText);
+    myHint = new DtListHint(QStringLiteral("Nothing is found."), myList, DtListHint::When::AllHidden);
     hide();
     connect(myText, &QLineEdit::textChanged, this, [this](const QString& text) { showMatches(text); });
     connect(myText, &QLineEdit::returnPressed, this, [this] { goToFirstMatch(); });
@@ -91,6 +94,7 @@ void DtFindBar::showMatches(const QString& text)
         showMatchesBelow(myList->topLevelItem(index), text);
     deselectHidden(myList);
     myList->setUpdatesEnabled(true);
+    myHint->follow();
     tellCount();
 }
 

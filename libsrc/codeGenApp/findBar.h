@@ -7,6 +7,7 @@
 
 #include <functional>
 
+class DtListHint;
 class QLabel;
 class QLineEdit;
 class QTreeWidget;
@@ -46,6 +47,7 @@ private:
     QTreeWidget* myList;
     QLineEdit* myText;
     QLabel* myCount;
+    DtListHint* myHint; // of the list
     DtMembers myMembers;
     QList<QTreeWidgetItem*> myMatches; // below the top items, in their order
 };

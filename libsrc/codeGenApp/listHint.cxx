@@ -3,7 +3,8 @@
 #include <QtCore/QEvent>
 #include <QtWidgets/QTreeWidget>
 
-DtListHint::DtListHint(const QString& text, QTreeWidget* list) : QLabel(text, list->viewport()), myList(list)
+DtListHint::DtListHint(const QString& text, QTreeWidget* list, When when)
+    : QLabel(text, list->viewport()), myList(list), myWhen(when)
 {
     setObjectName(QStringLiteral("ListHint"));
     setAlignment(Qt::AlignCenter);
@@ -27,5 +28,14 @@ bool DtListHint::eventFilter(QObject* watched, QEvent* event)
 void DtListHint::follow()
 {
     setGeometry(myList->viewport()->rect());
-    setVisible(myList->topLevelItemCount() == 0);
+    setVisible(isWanted());
+}
+
+bool DtListHint::isWanted() const
+{
+    const int count = myList->topLevelItemCount();
+    for (int index = 0; index < count; ++index)
+        if (myWhen == When::Empty || !myList->topLevelItem(index)->isHidden())
+            return false;
+    return myWhen == When::Empty || count > 0;
 }

@@ -180,6 +180,20 @@ private Q_SLOTS:
         QCOMPARE(myWindow->findChild<QLineEdit*>()->property("isFaulty").toBool(), false);
     }
 
+    void findBarSaysWhenNothingIsFound()
+    {
+        loadFleet();
+        myWindow->addAllObjectInteractions();
+        show();
+        find("no such class");
+        QCOMPARE(hints(), QStringList("Nothing is found."));
+        find("Tug");
+        QCOMPARE(hints(), QStringList());
+        find("no such class");
+        pressKeys(Qt::Key_Escape);
+        QCOMPARE(hints(), QStringList());
+    }
+
     void findBarStepsThroughWhatItFinds()
     {
         loadFleet();

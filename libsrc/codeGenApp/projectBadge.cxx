@@ -31,7 +31,7 @@ void DtProjectBadge::fill(const DtFacts& facts)
     myFacts = facts;
     QString toolTip = "<p>" + (nameOf(facts) + starOf(facts) + countsText()).toHtmlEscaped() + "</p>";
     if (facts.isUnsaved)
-        toolTip += QStringLiteral("<p>Not all of the project is saved.</p>");
+        toolTip += "<p>" + QStringLiteral("Not all of the project is saved.") + "</p>";
     setToolTip(toolTip);
 }
 

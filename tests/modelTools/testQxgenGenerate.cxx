@@ -434,9 +434,9 @@ private Q_SLOTS:
         COMPARE_TEXT(textOf(generate({"--script", "html", "--report", "r/report.json"})), "0\n--\n");
         const QJsonObject report =
             QJsonDocument::fromJson(QByteArray(myFolder->text("r/report.json").c_str())).object();
-        QCOMPARE(
-            QJsonDocument(report["files"].toObject()).toJson(QJsonDocument::Compact),
-            QByteArray("{\"kept\":[],\"listed\":[],\"removed\":[\"model.json\"],\"unchanged\":[],\"written\":[\"model.xhtml\"]}"));
+        QCOMPARE(QJsonDocument(report["files"].toObject()).toJson(QJsonDocument::Compact),
+                 QByteArray("{\"kept\":[],\"listed\":[],\"removed\":[\"model.json\"],\"unchanged\":[],\"written\":["
+                            "\"model.xhtml\"]}"));
         QCOMPARE(report["committed"].toBool(), true);
         QCOMPARE(report["counts"].toObject()["objectClasses"].toInt(), 3);
         QCOMPARE(report["counts"].toObject()["interactionClasses"].toInt(), 1);

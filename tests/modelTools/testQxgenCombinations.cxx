@@ -1,12 +1,8 @@
-// Every combination of layout, script and selection on the sample, and models of a thousand classes: in one process by
-// the class behind the program, which starts take most of the time of.
+// Every combination of layout, script and selection on the sample, and models of many classes.
 
 #include "compiledOutput.h"
-#include "modelTools/generateTool.h"
 #include "qxgenProgram.h"
 #include "registerTest.h"
-
-#include <sstream>
 
 namespace
 {
@@ -56,20 +52,22 @@ private Q_SLOTS:
         QFETCH(QByteArray, scripts);
         QFETCH(QByteArray, patterns);
         QFETCH(bool, withManagement);
-        DtGenerateOptions options = optionsFor(theSample);
-        options.request.layout = isClassic ? DtCppLayout::Classic : DtCppLayout::Tree;
-        options.request.scripts = words(scripts);
-        options.request.patterns = words(patterns);
-        options.request.withManagement = withManagement;
+        DtArguments arguments = {theSample, "-o", "out", "--layout", isClassic ? "classic" : "tree"};
+        for (const std::string& script : words(scripts))
+            arguments.insert(arguments.end(), {"--script", script});
+        for (const std::string& pattern : words(patterns))
+            arguments.insert(arguments.end(), {"--select", pattern});
+        if (withManagement)
+            arguments.emplace_back("--with-management");
         const auto isGood = [withManagement](const std::string& end) // some datatypes of that model have no encoding
         { return withManagement ? end.rfind("0\n--\n", 0) == 0 && !contains(end, "error") : end == "0\n--\n"; };
-        const std::string end = run(options);
+        const std::string end = textOf(myFolder->generate(arguments));
         QVERIFY2(isGood(end), end.c_str());
         const DtContents contents = treeOf(myFolder->path("out"));
         QVERIFY(contents.size() > (scripts.startsWith("cpp") ? 20u : 0u));
         COMPARE_TEXT(machinePaths(contents), "");
-        options.use = DtOutputUse::Verify;
-        const std::string second = run(options);
+        arguments.emplace_back("--verify");
+        const std::string second = textOf(myFolder->generate(arguments));
         QVERIFY2(isGood(second), second.c_str());
         for (const auto& file : contents)
             QVERIFY2(contains(file.first, "\\") == isClassic || scripts != "cpp", file.first.c_str());
@@ -105,15 +103,6 @@ private Q_SLOTS:
     }
 
 private:
-    DtGenerateOptions optionsFor(const std::string& model) const
-    {
-        DtGenerateOptions options;
-        options.request.models = {model};
-        options.request.dataDirectory = QX_SOURCE_DIR "/data/";
-        options.outputDirectory = myFolder->path("out").native();
-        return options;
-    }
-
     static std::vector<std::string> words(const QByteArray& text)
     {
         std::vector<std::string> result;
@@ -123,19 +112,12 @@ private:
         return result;
     }
 
-    static std::string run(const DtGenerateOptions& options)
-    {
-        std::ostringstream out, err;
-        const DtExitCode code = DtGenerateTool(options, out, err).run();
-        return std::to_string(static_cast<int>(code)) + "\n" + out.str() + "--\n" + err.str();
-    }
-
     DtContents everythingOfTheSample() const
     {
-        DtGenerateOptions options = optionsFor(theSample);
-        options.request.scripts = {"cpp", "html", "json", "python"};
-        options.request.settings = {"generateDIS=true", "generateExamples=true"};
-        if (run(options) != "0\n--\n")
+        const DtProgramEnd end =
+            myFolder->generate({theSample, "-o", "out", "--script", "cpp", "--script", "html", "--script", "json",
+                                "--script", "python", "--set", "generateDIS=true", "--set", "generateExamples=true"});
+        if (textOf(end) != "0\n--\n")
             qFatal("the sample cannot be generated");
         return treeOf(myFolder->path("out"));
     }
@@ -155,8 +137,7 @@ private:
     std::size_t filesFor(int classes) const
     {
         myFolder->write("made.xml", modelOf(classes));
-        const DtGenerateOptions options = optionsFor(myFolder->path("made.xml").native());
-        if (run(options) != "0\n--\n")
+        if (textOf(myFolder->generate({"made.xml", "-o", "out"})) != "0\n--\n")
             qFatal("the made model cannot be generated");
         const std::size_t count = DtOutputTree(myFolder->path("out")).list().size();
         std::filesystem::remove_all(myFolder->path("out"));

@@ -116,12 +116,13 @@ DtString typeIdentifier(const DtAttribute& attribute)
 }
 
 // Whether the attribute's type is one of the enumerations header. The mapper also knows enumerations of earlier runs,
-// and a type of the toolkit can bear the name of one.
+// and a type of the toolkit can bear the name of one. A member that is called like its datatype comes with the name of
+// the type in place of that of the datatype.
 bool isOfEnumerationsHeader(const DtAttribute& attribute)
 {
     const DtString& datatype = attribute.datatype();
     return DtDatatypeClassNames::instance().isGeneratedEnumeration(datatype) &&
-           mapper().quorvexType(datatype) == attribute.type();
+           (mapper().quorvexType(datatype) == attribute.type() || datatype == attribute.type());
 }
 
 DtString bareClassName(const DtString& className)

@@ -43,11 +43,15 @@ public:
     // The C++ name of a type that is stated to be called so; that name itself unless it is the one of a namesake.
     const DtString& identifierOf(const DtString& datatype, const DtString& statedName) const;
 
-    // Records an enumeration that the enumerations header of this run has.
-    void addGeneratedEnumeration(const DtString& enumeration) { myGeneratedEnumerations.insert(enumeration); }
-    bool isGeneratedEnumeration(const DtString& enumeration) const
+    // Records an enumeration that the enumerations header of this run has, by its name and that of its type.
+    void addGeneratedEnumeration(const DtString& enumeration, const DtString& type)
     {
-        return myGeneratedEnumerations.count(enumeration) != 0;
+        myGeneratedEnumerations.insert(enumeration);
+        myGeneratedEnumerations.insert(type);
+    }
+    bool isGeneratedEnumeration(const DtString& enumerationOrType) const
+    {
+        return myGeneratedEnumerations.count(enumerationOrType) != 0;
     }
 
     // Records the model's representation of an enumeration.

@@ -322,7 +322,7 @@ void DtOMTEnvWriter::addEnumeration(DtEnumeratedDatatypeNode& node, DtEnumeratio
         values.back().setDocumentation(DtDocumentation::instance().of(*value));
     }
     const DtString& name = node.getName();
-    DtDatatypeClassNames::instance().addGeneratedEnumeration(name);
+    DtDatatypeClassNames::instance().addGeneratedEnumeration(name, "Dt" + DtFirstCharToUpper(name));
     DtEnumeration enumeration(name, values);
 
     DtString representation = mapper().quorvexType(node.getRepresentation());

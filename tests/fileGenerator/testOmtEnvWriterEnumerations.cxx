@@ -17,6 +17,7 @@ private Q_SLOTS:
     void enumerationsFileHoldsUsedUnmappedOnly();
     void sourceHoldsTheEnumerationsOfTheHeader();
     void noSourceIsWrittenWithoutEnumerations();
+    void enumerationOfAMemberThatIsCalledLikeItIsDeclared();
     void enumerationSizeComesFromItsRepresentation_data();
     void enumerationSizeComesFromItsRepresentation();
     void enumerationIsKnownToTheMapper();
@@ -46,6 +47,20 @@ void TestOmtEnvWriterEnumerations::enumerationsFileHoldsUsedUnmappedOnly()
     run();
     QCOMPARE(myFixture->output("DataTypes/modelEnums.h"), QString("DtDeUsedEnum8(red=4,green=-1,)"));
     QVERIFY(isListed("DataTypes/modelEnums.h"));
+}
+
+void TestOmtEnvWriterEnumerations::enumerationOfAMemberThatIsCalledLikeItIsDeclared()
+{
+    myModel->addObject("HLAobjectRoot.Tank");
+    myModel->addAttribute("HLAobjectRoot.Tank", "DeGearEnum8", "DeGearEnum8");
+    myModel->addEnumeration("DeGearEnum8", "HLAoctet",
+                            {
+                                {"high", 1}
+    });
+    myFixture->writeTemplate("stateRepHeader.tlt", "<#Enumerations><!AttributeTypeIdentifier!>;<#>");
+    select({"HLAobjectRoot.Tank"});
+    run();
+    QCOMPARE(myFixture->output("tankStateRepository.h"), QString("DtDeGearEnum8;"));
 }
 
 void TestOmtEnvWriterEnumerations::sourceHoldsTheEnumerationsOfTheHeader()

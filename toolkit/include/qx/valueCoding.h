@@ -56,14 +56,14 @@ bool DtReadValue(DtWireReader& reader, Value& value, const DtWireForm& form)
 // Without a text on the way, so that one that is read again and again needs no memory anew.
 inline bool DtReadValue(DtWireReader& reader, DtString& value, const DtWireForm& form)
 {
-    DtWireReader ahead(reader);
     const char* text = nullptr;
     std::size_t length = 0;
-    const bool isPlain = !form.isMisfit() && !ahead.isClosed() && ahead.pad(DtBoundaryOf(value, form)) &&
-                         DtWireTraits<DtString>::find(ahead, text, length, form) && ahead.atEnd();
-    if (!isPlain)
+    const bool isFound = !form.isMisfit() && !reader.isClosed() && reader.pad(DtBoundaryOf(value, form)) &&
+                         DtWireTraits<DtString>::find(reader, text, length, form);
+    if (!isFound)
         return DtReadValue<DtString>(reader, value, form);
-    reader = ahead;
+    if (!reader.atEnd())
+        return reader.fail("octets are left over behind the value");
     value.assign(text, length);
     return true;
 }

@@ -38,44 +38,49 @@ inline bool DtEncodeOctets(DtWireWriter& writer, const void* octets, std::size_t
 // Finds the octets where they lie; the reader is left alone otherwise.
 inline bool DtDecodeOctets(DtWireReader& reader, const DtU8*& octets, std::size_t& count, const DtArrayLayout& layout)
 {
-    DtWireReader ahead(reader);
-    DtU64 wanted = layout.count;
-    if (layout.kind == DtVariableArray && !ahead.getInteger(wanted, 4))
-        return false;
-    const std::size_t room = ahead.remaining();
+    const DtU8* const start = reader.next();
+    const std::size_t room = reader.remaining();
+    std::size_t ahead = 0, behind = 0; // of the octets: a count, a terminator
+    DtU32 counted = 0;
     const void* zero = nullptr;
+    if (!start || !reader.ok() || (reader.isClosed() && layout.kind != DtLengthlessArray))
+        return false;
     switch (layout.kind)
     {
     case DtVariableArray:
+        ahead = 4;
+        if (room < ahead)
+            return false;
+        DtLoadBig(start, counted);
+        count = counted;
+        break;
     case DtFixedArray:
+        count = layout.count;
         break;
     case DtNullTerminatedArray:
-        zero = room != 0 ? std::memchr(ahead.next(), 0, room) : nullptr;
+        behind = 1;
+        zero = room != 0 ? std::memchr(start, 0, room) : nullptr;
         if (!zero)
             return false;
-        wanted = static_cast<DtU64>(static_cast<const DtU8*>(zero) - ahead.next());
+        count = static_cast<std::size_t>(static_cast<const DtU8*>(zero) - start);
         break;
     case DtLengthlessArray:
-        wanted = room;
-        ahead.close();
+        count = room;
         break;
     default:
         return false;
     }
-    if (wanted > room || ahead.isClosed() != (layout.kind == DtLengthlessArray))
+    if (count > room - ahead)
         return false;
-    count = static_cast<std::size_t>(wanted);
-    octets = ahead.take(count);
-    if (zero)
-        ahead.skip(1);
-    if (!octets)
-        return false;
-    reader = ahead;
+    octets = start + ahead;
+    reader.skip(ahead + count + behind);
+    if (layout.kind == DtLengthlessArray)
+        reader.close();
     return true;
 }
 
-// Elements that lie one behind the other without padding, and can be coded together: numbers that are as long on the
-// wire as in memory. All others are coded one by one.
+// Elements that are coded together, since the room that they take is known ahead: numbers that are as long on the wire
+// as in memory, and records whose values have the same octets each. All others are coded one by one.
 template <class Element, class Enable = void>
 struct DtElementRun
 {

@@ -42,9 +42,10 @@ struct DtWireTraits<DtString, void>
     static bool find(DtWireReader& reader, const char*& text, std::size_t& length, const DtWireForm& form)
     {
         const DtU8* octets = nullptr;
-        if (form.octets > 1 || DtIsWideString(form) || !DtDecodeOctets(reader, octets, length, layout(form)))
+        const DtArrayLayout known = layout(form);
+        if (form.octets > 1 || DtIsWideString(form) || !DtDecodeOctets(reader, octets, length, known))
             return false;
-        while (layout(form).kind == DtFixedArray && length != 0 && octets[length - 1] == 0)
+        while (known.kind == DtFixedArray && length != 0 && octets[length - 1] == 0)
             --length; // what a shorter text was filled with
         text = reinterpret_cast<const char*>(octets);
         return true;

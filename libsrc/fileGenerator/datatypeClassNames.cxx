@@ -35,6 +35,7 @@ void DtDatatypeClassNames::clear()
 {
     myClassNames.clear();
     myFileStems.clear();
+    mySharedStems.clear();
     myNamesakes.clear();
     myGeneratedEnumerations.clear();
     myEnumerationRepresentations.clear();
@@ -43,7 +44,9 @@ void DtDatatypeClassNames::clear()
 void DtDatatypeClassNames::add(const DtString& datatype, const DtString& className)
 {
     myClassNames[datatype] = className;
-    myFileStems.insert(fileStemOf(datatype));
+    const DtString stem = fileStemOf(datatype);
+    if (!myFileStems.insert(stem).second)
+        mySharedStems.insert(stem);
 }
 
 bool DtDatatypeClassNames::contains(const DtString& datatype) const

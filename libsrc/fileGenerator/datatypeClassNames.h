@@ -35,6 +35,8 @@ public:
 
     // Whether a class of this run stands in files of that name, without directory and extension.
     bool isFileStem(const DtString& stem) const { return myFileStems.count(stem) != 0; }
+    // Whether other datatypes get the class of this one too.
+    bool isShared(const DtString& datatype) const { return mySharedStems.count(fileStemOf(datatype)) != 0; }
 
     // Records that the toolkit has a type of the name that a generated class or enumeration is stated to have, and what
     // it is called in C++ instead. The identifier may be that name where a namespace keeps the two apart.
@@ -68,6 +70,7 @@ private:
 
     std::map<DtString, DtString> myClassNames;
     std::set<DtString> myFileStems;
+    std::set<DtString> mySharedStems;
     std::map<DtString, DtNamesake> myNamesakes;
     std::set<DtString> myGeneratedEnumerations;
     std::map<DtString, DtString> myEnumerationRepresentations;

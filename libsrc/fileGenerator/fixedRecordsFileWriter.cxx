@@ -48,7 +48,10 @@ struct DtFixedRecordFileWriter::DtTokens
     static const DtTokenTable<Writer>& own()
     {
         static const DtTokenRow<Writer> theRows[] = {
-            {"<!ClassNetName!>", [](const Writer& w) { return DtReplaceSubstring(w.myClassName, "Dt", "DtNet"); }},
+            {"<!ClassNetName!>",       [](const Writer& w) { return DtReplaceSubstring(w.myClassName, "Dt", "DtNet"); }},
+            {"<!ClassFixedOctets!>",
+             [](const Writer& w) { return w.extent().octets != 0 ? DtString(w.extent().octets) : DtString(); }         },
+            {"<!ClassFixedBoundary!>", [](const Writer& w) { return DtString(w.extent().boundary); }                   },
         };
         static const DtTokenTable<Writer> theTable(theRows);
         return theTable;
@@ -87,5 +90,12 @@ void DtFixedRecordFileWriter::compileAttributes(DtFixedDatatypeNode* node, DtOMT
         members.push_back(fieldMember(*field));
     const DtString& name = node->getName();
     registerNetTypeTraits(name, DtDataTypeMapper::instance()->quorvexType(name), members, tree);
+    myExtents[node] = DtFixedExtents::instance().ofRecord(*node, *tree);
     addCompiled(node, members, DtDocumentation::instance().of(*node));
+}
+
+DtFixedExtent DtFixedRecordFileWriter::extent() const
+{
+    const auto found = myExtents.find(myCurrentDatatype);
+    return found != myExtents.end() ? found->second : DtFixedExtent();
 }

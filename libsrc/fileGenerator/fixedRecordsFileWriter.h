@@ -2,6 +2,7 @@
 #define FILE_GENERATOR_FIXED_RECORDS_FILE_WRITER_H
 
 #include "fileGenerator/codedDataTypeFileWriter.h"
+#include "fileGenerator/fixedExtents.h"
 
 class DtFixedDatatypeNode;
 class DtOMTTree;
@@ -17,6 +18,10 @@ public:
 private:
     struct DtTokens;
 
+    // Of the current record.
+    DtFixedExtent extent() const;
+
+    std::map<const DtOMTNode*, DtFixedExtent> myExtents; // of the compiled records
     DtTokenValues<DtFixedRecordFileWriter> myOwnTokens;
     DtTokenValues<DtFixedRecordFileWriter> myMemberTokens;
 };

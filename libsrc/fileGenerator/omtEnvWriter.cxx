@@ -7,6 +7,7 @@
 #include "fileGenerator/datatypeClosure.h"
 #include "fileGenerator/documentation.h"
 #include "fileGenerator/enumFileWriter.h"
+#include "fileGenerator/fixedExtents.h"
 #include "fileGenerator/intFileGenerator.h"
 #include "fileGenerator/makeFileWriter.h"
 #include "fileGenerator/nameClashes.h"
@@ -217,6 +218,7 @@ void DtOMTEnvWriter::startRun(const DtString& fomName)
         closure().insertAllArrays();
     settings().baseName = modelBase();
     DtDatatypeClassNames::instance().clear();
+    DtFixedExtents::instance().clear();
     DtCodedDataTypeFileWriter::resetPlusAttributeCounts();
     mapper().forgetNonEncodeableDataTypes();
 }

@@ -411,6 +411,25 @@ DtToolkitLayout toolkitLayoutOf(const DtString& datatype, const DtString& toolki
     return layout;
 }
 
+bool hasToolkitNumbers(const DtString& datatype, const DtOMTTree& tree)
+{
+    const DtToolkitRow* row = rowOf(toolkitTypeOf(datatype, tree));
+    if (row == nullptr || !DtToolkitLayouts::instance().of(datatype).difference.isEmpty())
+        return false;
+    switch (row->kind)
+    {
+    case DtToolkitKind::Number:
+        return numberOf(datatype, tree).octets != 0 && numberOf(datatype, tree).octets == numberFormOf(datatype).octets;
+    case DtToolkitKind::Floats:
+    case DtToolkitKind::Integers:
+        return !DtToolkitLayouts::instance().of(datatype).argument.isEmpty();
+    case DtToolkitKind::Text:
+    case DtToolkitKind::Octets:
+        break;
+    }
+    return false;
+}
+
 DtToolkitLayouts& DtToolkitLayouts::instance()
 {
     return DtPerRun<DtToolkitLayouts>();

@@ -28,6 +28,10 @@ struct DtToolkitLayout
 // and of datatypes that the model does not define: these lie as the toolkit has it.
 DtToolkitLayout toolkitLayoutOf(const DtString& datatype, const DtString& toolkitType, const DtOMTTree& tree);
 
+// Whether the values of a datatype are numbers or records of numbers in a type of the toolkit, so that all have the
+// same octets on the wire as the model has it. False for what does not fit into that type.
+bool hasToolkitNumbers(const DtString& datatype, const DtOMTTree& tree);
+
 // The layouts of the datatypes that the present run maps to types of the toolkit.
 //
 // The name of a datatype decides which type of the toolkit stands for it; the model decides the octets. The driver

@@ -734,8 +734,9 @@ void TestRecordFileWriters::knownTokensOfTheRecords()
             tokens << text(writer.tokenChain().tokens()[static_cast<std::size_t>(i)]);
         return tokens.join(' ');
     };
-    QCOMPARE(own(FixedProbe("", ""), 7),
-             QString("<!ClassNetName!> <!NetTypeIsVariableSize!> <!NetTypeIsVariantRecord!> "
+    QCOMPARE(own(FixedProbe("", ""), 9),
+             QString("<!ClassNetName!> <!ClassFixedOctets!> <!ClassFixedBoundary!> <!NetTypeIsVariableSize!> "
+                     "<!NetTypeIsVariantRecord!> "
                      "<!LocalTypeIsNotEncodeable!> <!LocalTypeHasNoCoding!> <!MyHeaderInclude!> <!ClassIdentifier!>"));
     QCOMPARE(own(VariantProbe("", ""), 11),
              QString("<!ClassNetName!> <!ClassDiscriminantName!> <!ClassDiscriminantType!> <!ClassEncoding!> "

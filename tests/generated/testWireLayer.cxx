@@ -99,6 +99,62 @@ struct Pair
     Second second = Second();
 };
 
+// A record whose values all have the same octets; it may tell of others than its fields have.
+template <class First, class Second, class Third, std::size_t theOctets, std::size_t theBoundary>
+struct Fixed
+{
+    template <class Size>
+    static constexpr Size fixedOctets()
+    {
+        return theOctets;
+    }
+    template <class Size>
+    static constexpr Size fixedBoundary()
+    {
+        return theBoundary;
+    }
+    void encode(DtWireWriter& writer) const { encodeAt(writer.grow(theOctets), writer); }
+    void encodeAt(DtU8* octets, DtWireWriter& writer) const
+    {
+        DtFixedWriter<theOctets> fields(octets, writer);
+        fields.put(first, DtWireForm());
+        fields.put(second, DtWireForm());
+        fields.put(third, DtWireForm());
+    }
+    bool decode(DtWireReader& reader)
+    {
+        const DtU8* const octets = reader.take(theOctets);
+        return octets && decodeAt(octets, reader);
+    }
+    bool decodeAt(const DtU8* octets, DtWireReader& reader)
+    {
+        DtFixedReader<theOctets> fields(octets, reader);
+        return fields.take(first, DtWireForm()) && fields.take(second, DtWireForm()) &&
+               fields.take(third, DtWireForm());
+    }
+    bool operator==(const Fixed& other) const
+    {
+        return first == other.first && second == other.second && third == other.third;
+    }
+
+    First first = First();
+    Second second = Second();
+    Third third = Third();
+};
+typedef Fixed<DtU16, DtU32, DtU8, 9, 4> Inner;
+typedef Fixed<DtU8, Inner, DtU16, 16, 4> Outer;
+
+template <class Record>
+Record fixedOf(const decltype(Record::first)& first, const decltype(Record::second)& second,
+               const decltype(Record::third)& third)
+{
+    Record record;
+    record.first = first;
+    record.second = second;
+    record.third = third;
+    return record;
+}
+
 struct Nothing // a record without fields
 {
     void encode(DtWireWriter&) const {}
@@ -232,6 +288,12 @@ private Q_SLOTS:
     void fixedStringIsFilled();
     void firstReasonStays();
     void surplusIsRefusedAndTheValueStays();
+    void fixedRecordHasItsFieldsInTheirPlaces();
+    void fixedRecordBeginsAtItsBoundary();
+    void arrayOfFixedRecordsLiesAsOneByOne();
+    void shortArrayOfFixedRecordsIsRefused();
+    void refusalInAFixedRecordReachesTheWriter();
+    void fixedRecordKeepsToTheOctetsThatItTellsOf();
 };
 
 void TestWireLayer::layoutFollowsTheEncoding_data()
@@ -639,6 +701,78 @@ void TestWireLayer::surplusIsRefusedAndTheValueStays()
     QCOMPARE(result.reason, QByteArray(theSurplus));
     QCOMPARE(result.value, DtU16(9));
     QCOMPARE(decoded<DtU16>("", DtWireForm(), 9).value, DtU16(9));
+}
+
+// The figures are worked out by hand: each field at a multiple of its length, a record at one of its longest number.
+void TestWireLayer::fixedRecordHasItsFieldsInTheirPlaces()
+{
+    const Inner inner = fixedOf<Inner>(0x0102, 0x03040506, 7);
+    QCOMPARE(encoded(inner), QByteArray("010200000304050607"));
+    QCOMPARE(decoded<Inner>("0102ffff0304050607").value, inner);
+    const Outer outer = fixedOf<Outer>(9, inner, 0x0a0b);
+    QCOMPARE(encoded(outer), QByteArray("09000000010200000304050607000a0b"));
+    QCOMPARE(decoded<Outer>("09000000010200000304050607000a0b").value, outer);
+    QCOMPARE(decoded<Outer>("09000000010200000304050607000a").reason, QByteArray(theShortage));
+    QCOMPARE(decoded<Outer>("09000000010200000304050607000a0b00").reason, QByteArray(theSurplus));
+}
+
+void TestWireLayer::fixedRecordBeginsAtItsBoundary()
+{
+    typedef Pair<DtU8, Inner> Held;
+    Held held;
+    held.first = 1;
+    held.second = fixedOf<Inner>(2, 3, 4);
+    QCOMPARE(encoded(held), QByteArray("01000000000200000000000304"));
+    QCOMPARE(decoded<Held>("01000000000200000000000304").value, held);
+    QCOMPARE(DtBoundaryOfType<Held>(DtWireForm()), 4U);
+}
+
+void TestWireLayer::arrayOfFixedRecordsLiesAsOneByOne()
+{
+    typedef Laid<Inner, DtVariableArray> Counted;
+    const Inner one = fixedOf<Inner>(1, 2, 3);
+    const Inner other = fixedOf<Inner>(4, 5, 6);
+    QCOMPARE(encoded(arrayOf<Counted>({})), QByteArray("00000000"));
+    QCOMPARE(encoded(arrayOf<Counted>({one})), QByteArray("00000001000100000000000203"));
+    const char* const both = "00000002000100000000000203000000000400000000000506"; // no octets behind the last
+    QCOMPARE(encoded(arrayOf<Counted>({one, other})), QByteArray(both));
+    QCOMPARE(decoded<Counted>(both).value, arrayOf<Counted>({one, other}));
+    typedef Laid<Inner, DtFixedArray, 2> Two;
+    QCOMPARE(decoded<Two>("000100000000000203000000000400000000000506").value, arrayOf<Two>({one, other}));
+    typedef Laid<Inner, DtLengthlessArray> Rest;
+    QCOMPARE(decoded<Rest>("000100000000000203000000000400000000000506").value, arrayOf<Rest>({one, other}));
+}
+
+void TestWireLayer::shortArrayOfFixedRecordsIsRefused()
+{
+    typedef Laid<Inner, DtVariableArray> Counted;
+    QCOMPARE(decoded<Counted>("000000020001000000000002030000000004000000000005").reason, QByteArray(theShortage));
+    QCOMPARE(decoded<Counted>("00000003000100000000000203000000000400000000000506").reason, QByteArray(theShortage));
+    QCOMPARE(decoded<Counted>("7fffffff000100000000000203").reason, QByteArray(theShortage));
+    QCOMPARE(decoded<Counted>("00000001").reason, QByteArray(theShortage));
+}
+
+void TestWireLayer::refusalInAFixedRecordReachesTheWriter()
+{
+    typedef Fixed<DtU8, Told, DtU8, 5, 2> WithEnumeration;
+    const WithEnumeration fits = fixedOf<WithEnumeration>(1, static_cast<Told>(0x1234), 2);
+    QCOMPARE(encoded(fits), QByteArray("0100341202"));
+    const WithEnumeration wide = fixedOf<WithEnumeration>(1, static_cast<Told>(0x12345), 2);
+    QCOMPARE(encoded(wide), QByteArray("refused: the enumerator is too large for its octets"));
+    typedef Laid<WithEnumeration, DtVariableArray> Counted;
+    QCOMPARE(encoded(arrayOf<Counted>({fits, wide})),
+             QByteArray("refused: the enumerator is too large for its octets"));
+}
+
+// A class with a wrong figure must not write or read beyond its octets.
+void TestWireLayer::fixedRecordKeepsToTheOctetsThatItTellsOf()
+{
+    typedef Fixed<DtU16, DtU32, DtU64, 8, 4> Liar;
+    QCOMPARE(encoded(fixedOf<Liar>(1, 2, 3)), QByteArray("refused: the record has other octets than it tells of"));
+    typedef Fixed<DtU8, Liar, DtU8, 13, 4> Holder;
+    QCOMPARE(encoded(fixedOf<Holder>(1, fixedOf<Liar>(1, 2, 3), 4)),
+             QByteArray("refused: the record has other octets than it tells of"));
+    QCOMPARE(decoded<Liar>("0001000000000002").reason, QByteArray(theShortage));
 }
 
 QX_REGISTER_TEST(TestWireLayer)

@@ -1,6 +1,7 @@
 #ifndef QX_WIRE_ARRAYS_H
 #define QX_WIRE_ARRAYS_H
 
+#include <qx/wireFixed.h>
 #include <qx/wireNumbers.h>
 
 // Arrays. Elements are padded to their boundary one by one; nothing is added behind the last, and nothing behind a
@@ -152,6 +153,48 @@ struct DtElementRun<Number,
             const Bits bits = DtLoadBits<Bits>(from, little);
             std::memcpy(&elements[i], &bits, sizeof bits);
         }
+        return true;
+    }
+};
+
+template <class Record>
+struct DtElementRun<Record, typename std::enable_if<DtIsFixed<Record>::value>::type>
+{
+    enum : std::size_t
+    {
+        octets = DtFixedOctetsOf<Record>(0),
+        boundary = Record::template fixedBoundary<std::size_t>(),
+        stride = (octets + boundary - 1) / boundary * boundary, // from one element to the next
+        gap = stride - octets
+    };
+
+    static bool isOne(const DtWireForm&) { return true; }
+    template <class Container>
+    static void encode(DtWireWriter& writer, const Container& elements, const DtWireForm&)
+    {
+        writer.pad(boundary);
+        DtU8* to = writer.grow(elements.size() * stride - gap);
+        std::size_t left = elements.size();
+        for (typename Container::const_iterator i = elements.begin(); i != elements.end(); ++i, to += stride)
+        {
+            i->encodeAt(to, writer);
+            if (gap != 0 && --left != 0)
+                std::memset(to + octets, 0, gap);
+        }
+    }
+    template <class Container>
+    static bool decode(DtWireReader& reader, Container& elements, std::size_t count, const DtWireForm&)
+    {
+        if (!reader.pad(boundary))
+            return false;
+        if (count > (reader.remaining() + gap) / stride)
+            return reader.fail("the value ends too early");
+        const DtU8* from = reader.take(count * stride - gap);
+        const std::size_t before = elements.size();
+        elements.resize(before + count);
+        for (std::size_t i = before; i < elements.size(); ++i, from += stride)
+            if (!elements[i].decodeAt(from, reader))
+                return false;
         return true;
     }
 };

@@ -88,11 +88,73 @@ QX_IN_PLACE std::size_t DtPaddingTo(std::size_t boundary, std::size_t offset)
     return over == 0 ? 0 : boundary - over;
 }
 
+// What writers of octets have in common. A writer says where it is, and gives the place for the next octets: offset(),
+// origin() and grow(count).
+template <class Writer>
+class DtOctetWriter
+{
+public:
+    // Zeros up to the next multiple of the boundary; 0 and 1 add none.
+    QX_IN_PLACE void pad(std::size_t boundary)
+    {
+        const std::size_t missing = DtPaddingTo(boundary, own().offset() - own().origin());
+        if (missing != 0)
+            std::memset(own().grow(missing), 0, missing);
+    }
+    QX_IN_PLACE void putByte(DtU8 octet) { *own().grow(1) = octet; }
+    void putBytes(const void* octets, std::size_t count)
+    {
+        if (count != 0)
+            std::memcpy(own().grow(count), octets, count);
+    }
+    // The low octets of a number; beyond the eighth the sign is carried on.
+    QX_IN_PLACE void putInteger(DtU64 bits, unsigned int octets, bool little = false, bool negative = false)
+    {
+        switch (octets)
+        {
+        case 1:
+            return putByte(static_cast<DtU8>(bits));
+        case 2:
+            return DtStoreBits(own().grow(2), static_cast<DtU16>(bits), little);
+        case 4:
+            return DtStoreBits(own().grow(4), static_cast<DtU32>(bits), little);
+        case 8:
+            return DtStoreBits(own().grow(8), bits, little);
+        default:
+            return putOddInteger(bits, octets, little, negative);
+        }
+    }
+    QX_IN_PLACE void putFloat32(DtFloat32 value, bool little = false)
+    {
+        DtU32 bits;
+        std::memcpy(&bits, &value, sizeof bits);
+        DtStoreBits(own().grow(4), bits, little);
+    }
+    QX_IN_PLACE void putFloat64(DtFloat64 value, bool little = false)
+    {
+        DtU64 bits;
+        std::memcpy(&bits, &value, sizeof bits);
+        DtStoreBits(own().grow(8), bits, little);
+    }
+
+private:
+    QX_IN_PLACE Writer& own() { return static_cast<Writer&>(*this); }
+    void putOddInteger(DtU64 bits, unsigned int octets, bool little, bool negative)
+    {
+        for (unsigned int i = 0; i < octets; ++i)
+        {
+            const unsigned int place = little ? i : octets - 1 - i;
+            const DtU8 filler = negative ? 0xff : 0x00;
+            putByte(place < 8 ? static_cast<DtU8>(bits >> (8 * place)) : filler);
+        }
+    }
+};
+
 // A growing buffer that an encoder fills. Used again after clear(), it needs no memory anew.
 //
 // A value that cannot be encoded calls refuse(): the first reason stays, ok() turns false for good, and what the
 // buffer holds must not be sent.
-class DtWireWriter
+class DtWireWriter : public DtOctetWriter<DtWireWriter>
 {
 public:
     DtWireWriter() : myStart(myOwnRoom), myRoom(theOwnRoom), mySize(0), myOrigin(0), myReason(nullptr) {}
@@ -141,19 +203,6 @@ public:
     std::size_t origin() const { return myOrigin; }
     void setOrigin(std::size_t offset) { myOrigin = offset; }
 
-    // Zeros up to the next multiple of the boundary; 0 and 1 add none.
-    QX_IN_PLACE void pad(std::size_t boundary)
-    {
-        const std::size_t missing = DtPaddingTo(boundary, offset() - myOrigin);
-        if (missing != 0)
-            std::memset(grow(missing), 0, missing);
-    }
-    QX_IN_PLACE void putByte(DtU8 octet) { *grow(1) = octet; }
-    void putBytes(const void* octets, std::size_t count)
-    {
-        if (count != 0)
-            std::memcpy(grow(count), octets, count);
-    }
     // Room for this many octets more, to be filled by the caller. Valid until the next operation.
     QX_IN_PLACE DtU8* grow(std::size_t count)
     {
@@ -162,35 +211,6 @@ public:
         DtU8* const room = myStart + mySize;
         mySize += count;
         return room;
-    }
-    // The low octets of a number; beyond the eighth the sign is carried on.
-    QX_IN_PLACE void putInteger(DtU64 bits, unsigned int octets, bool little = false, bool negative = false)
-    {
-        switch (octets)
-        {
-        case 1:
-            return putByte(static_cast<DtU8>(bits));
-        case 2:
-            return DtStoreBits(grow(2), static_cast<DtU16>(bits), little);
-        case 4:
-            return DtStoreBits(grow(4), static_cast<DtU32>(bits), little);
-        case 8:
-            return DtStoreBits(grow(8), bits, little);
-        default:
-            return putOddInteger(bits, octets, little, negative);
-        }
-    }
-    QX_IN_PLACE void putFloat32(DtFloat32 value, bool little = false)
-    {
-        DtU32 bits;
-        std::memcpy(&bits, &value, sizeof bits);
-        DtStoreBits(grow(4), bits, little);
-    }
-    QX_IN_PLACE void putFloat64(DtFloat64 value, bool little = false)
-    {
-        DtU64 bits;
-        std::memcpy(&bits, &value, sizeof bits);
-        DtStoreBits(grow(8), bits, little);
     }
 
 private:
@@ -205,15 +225,6 @@ private:
         myLargeRoom.swap(larger);
         myStart = myLargeRoom.data();
         myRoom = myLargeRoom.size();
-    }
-    void putOddInteger(DtU64 bits, unsigned int octets, bool little, bool negative)
-    {
-        for (unsigned int i = 0; i < octets; ++i)
-        {
-            const unsigned int place = little ? i : octets - 1 - i;
-            const DtU8 filler = negative ? 0xff : 0x00;
-            putByte(place < 8 ? static_cast<DtU8>(bits >> (8 * place)) : filler);
-        }
     }
 
     DtU8 myOwnRoom[theOwnRoom];
@@ -346,7 +357,7 @@ public:
     // Where the remaining octets lie.
     const DtU8* next() const { return myOctets + myOffset; }
     // The next octets, to be read by the caller; null, after a failure, when there are fewer.
-    const DtU8* take(std::size_t count)
+    QX_IN_PLACE const DtU8* take(std::size_t count)
     {
         if (!has(count))
             return nullptr;

@@ -21,6 +21,7 @@
 // the toolkit stands. Enumerations tell theirs themselves.
 
 #include <qx/wireArrays.h>
+#include <qx/wireFixed.h>
 #include <qx/wireNumbers.h>
 #include <qx/wireRecords.h>
 #include <qx/wireStrings.h>

@@ -18,9 +18,9 @@ QX_IN_PLACE bool DtFitsInto(DtU64 bits, bool isSigned, unsigned int octets)
     return rest == 0 || (isSigned && rest == ones);
 }
 
-template <class Number>
-QX_IN_PLACE typename std::enable_if<std::is_integral<Number>::value>::type
-DtPutNumber(DtWireWriter& writer, Number value, unsigned int octets, bool little)
+template <class Writer, class Number>
+QX_IN_PLACE typename std::enable_if<std::is_integral<Number>::value>::type DtPutNumber(Writer& writer, Number value,
+                                                                                       unsigned int octets, bool little)
 {
     const bool isSigned = std::is_signed<Number>::value;
     const DtU64 bits = static_cast<DtU64>(value);
@@ -48,9 +48,9 @@ DtGetNumber(DtWireReader& reader, Number& value, unsigned int octets, bool littl
 }
 
 // Floating-point numbers have 4 or 8 octets; other lengths are refused.
-template <class Number>
+template <class Writer, class Number>
 QX_IN_PLACE typename std::enable_if<std::is_floating_point<Number>::value>::type
-DtPutNumber(DtWireWriter& writer, Number value, unsigned int octets, bool little)
+DtPutNumber(Writer& writer, Number value, unsigned int octets, bool little)
 {
     if (octets == 4)
         return writer.putFloat32(static_cast<DtFloat32>(value), little);
@@ -77,7 +77,8 @@ template <class Number>
 struct DtWireTraits<
     Number, typename std::enable_if<std::is_arithmetic<Number>::value && !std::is_same<Number, bool>::value>::type>
 {
-    static QX_IN_PLACE void encode(DtWireWriter& writer, const Number& value, const DtWireForm& form)
+    template <class Writer>
+    static QX_IN_PLACE void encode(Writer& writer, const Number& value, const DtWireForm& form)
     {
         DtPutNumber(writer, value, octets(form), DtIsLittleEndian(form));
     }
@@ -100,7 +101,8 @@ private:
 template <>
 struct DtWireTraits<bool, void>
 {
-    static QX_IN_PLACE void encode(DtWireWriter& writer, bool value, const DtWireForm& form)
+    template <class Writer>
+    static QX_IN_PLACE void encode(Writer& writer, bool value, const DtWireForm& form)
     {
         writer.putInteger(value ? 1 : 0, octets(form), DtIsLittleEndian(form));
     }
@@ -134,7 +136,8 @@ struct DtWireTraits<Enumeration, typename std::enable_if<std::is_enum<Enumeratio
 {
     typedef typename std::underlying_type<Enumeration>::type Number;
 
-    static QX_IN_PLACE void encode(DtWireWriter& writer, const Enumeration& value, const DtWireForm& form)
+    template <class Writer>
+    static QX_IN_PLACE void encode(Writer& writer, const Enumeration& value, const DtWireForm& form)
     {
         const DtNumberForm number = numberForm(form);
         const DtU64 bits = static_cast<DtU64>(static_cast<Number>(value));
@@ -159,7 +162,7 @@ struct DtWireTraits<Enumeration, typename std::enable_if<std::is_enum<Enumeratio
     }
 
 private:
-    static DtNumberForm numberForm(const DtWireForm& form)
+    static QX_IN_PLACE DtNumberForm numberForm(const DtWireForm& form)
     {
         const DtNumberForm told = DtNumberFormOf(Enumeration());
         return told.octets != 0 ? told : guessedForm(form);

@@ -109,15 +109,18 @@ struct DtWireComponentsOf<DtEntityIdentifier>
 };
 
 // A part that is a floating-point number, and one that is a whole number; components have no sign.
-inline void DtPutWirePart(DtWireWriter& writer, DtFloat64 component, const DtWirePartForm& part)
+template <class Writer>
+void DtPutWirePart(Writer& writer, DtFloat64 component, const DtWirePartForm& part)
 {
     DtPutNumber(writer, component, part.octets, part.isLittleEndian);
 }
-inline void DtPutWirePart(DtWireWriter& writer, DtFloat32 component, const DtWirePartForm& part)
+template <class Writer>
+void DtPutWirePart(Writer& writer, DtFloat32 component, const DtWirePartForm& part)
 {
     DtPutNumber(writer, component, part.octets, part.isLittleEndian);
 }
-inline void DtPutWirePart(DtWireWriter& writer, DtU16 component, const DtWirePartForm& part)
+template <class Writer>
+void DtPutWirePart(Writer& writer, DtU16 component, const DtWirePartForm& part)
 {
     if (!DtFitsInto(component, part.isSigned, part.octets))
         return writer.refuse("the number is too large for its octets");
@@ -145,7 +148,8 @@ struct DtWireRecordTraits
 {
     typedef DtWireComponentsOf<Type> Components;
 
-    static void encode(DtWireWriter& writer, const Type& value, const DtWireForm& form)
+    template <class Writer>
+    static void encode(Writer& writer, const Type& value, const DtWireForm& form)
     {
         const DtWireRecordLayout& layout = layoutOf(form);
         const std::size_t start = writer.offset();

@@ -34,12 +34,9 @@ struct DtWireTraits
     static void encode(DtWireWriter& writer, const Type& value, const DtWireForm&) { value.encode(writer); }
     static bool decode(DtWireReader& reader, Type& value, const DtWireForm&) { return value.decode(reader); }
     static bool decodeInto(DtWireReader& reader, Type& value, const DtWireForm&) { return into(reader, value, 0); }
-    static unsigned int boundary(const DtWireForm&, const DtWireTrail* trail)
+    static QX_IN_PLACE unsigned int boundary(const DtWireForm&, const DtWireTrail* trail)
     {
-        if (trail)
-            return own<Type>(trail, 0);
-        static const unsigned int theBoundary = own<Type>(nullptr, 0);
-        return theBoundary;
+        return known<Type>(trail, 0);
     }
 
 private:
@@ -52,6 +49,20 @@ private:
     static bool into(DtWireReader& reader, Class& value, long)
     {
         return value.decode(reader);
+    }
+    // That of a record whose values have the same octets each stands in its class, all others are worked out once.
+    template <class Class>
+    static constexpr auto known(const DtWireTrail*, int) -> decltype(Class::template fixedBoundary<unsigned int>())
+    {
+        return Class::template fixedBoundary<unsigned int>();
+    }
+    template <class Class>
+    static unsigned int known(const DtWireTrail* trail, long)
+    {
+        if (trail)
+            return own<Class>(trail, 0);
+        static const unsigned int theBoundary = own<Class>(nullptr, 0);
+        return theBoundary;
     }
     template <class Class>
     static auto own(const DtWireTrail* trail, int) -> decltype(Class::octetBoundary(trail))

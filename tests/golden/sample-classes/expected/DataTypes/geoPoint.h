@@ -60,6 +60,20 @@ public:
     }
     static unsigned int octetBoundary(const DtWireTrail* outer);
 
+    // All values have this many octets, in which each field has its place (see <qx/wireFixed.h>).
+    template <class Size>
+    static constexpr Size fixedOctets()
+    {
+        return 20;
+    }
+    template <class Size>
+    static constexpr Size fixedBoundary()
+    {
+        return 8;
+    }
+    void encodeAt(unsigned char* octets, DtWireWriter& writer) const;
+    bool decodeAt(const unsigned char* octets, DtWireReader& reader);
+
 private:
     static const DtWireForm& formOf(unsigned int field);
 

@@ -31,10 +31,15 @@ bool DtGeoPoint::operator!=(const DtGeoPoint& other) const
 
 void DtGeoPoint::encode(DtWireWriter& writer) const
 {
-    const DtRecordScope<DtWireWriter> scope(writer);
-    DtEncodeValue(writer, Own.myLatitude, formOf(0));
-    DtEncodeValue(writer, Own.myLongitude, formOf(1));
-    DtEncodeValue(writer, Own.myHeight, formOf(2));
+    encodeAt(writer.grow(fixedOctets<std::size_t>()), writer);
+}
+
+void DtGeoPoint::encodeAt(unsigned char* octets, DtWireWriter& writer) const
+{
+    DtFixedWriter<fixedOctets<std::size_t>()> fields(octets, writer);
+    fields.put(Own.myLatitude, formOf(0));
+    fields.put(Own.myLongitude, formOf(1));
+    fields.put(Own.myHeight, formOf(2));
 }
 
 bool DtGeoPoint::decode(DtWireReader& reader)
@@ -48,28 +53,26 @@ bool DtGeoPoint::decode(DtWireReader& reader)
 
 bool DtGeoPoint::decodeInto(DtWireReader& reader)
 {
-    const DtRecordScope<DtWireReader> scope(reader);
-    if (!DtDecodePart(reader, Own.myLatitude, formOf(0)))
+    const unsigned char* const octets = reader.take(fixedOctets<std::size_t>());
+    return octets && decodeAt(octets, reader);
+}
+
+bool DtGeoPoint::decodeAt(const unsigned char* octets, DtWireReader& reader)
+{
+    DtFixedReader<fixedOctets<std::size_t>()> fields(octets, reader);
+    if (!fields.take(Own.myLatitude, formOf(0)))
         return false;
-    if (!DtDecodePart(reader, Own.myLongitude, formOf(1)))
+    if (!fields.take(Own.myLongitude, formOf(1)))
         return false;
-    if (!DtDecodePart(reader, Own.myHeight, formOf(2)))
+    if (!fields.take(Own.myHeight, formOf(2)))
         return false;
-    return reader.ok();
+    return true;
 }
 
 unsigned int DtGeoPoint::octetBoundary(const DtWireTrail* outer)
 {
-    static const char theId = 0;
-    unsigned int boundary = 1;
-    if (DtWireTrail::holds(outer, &theId))
-        return boundary;
-    const DtWireTrail trail = {&theId, outer};
-    static_cast<void>(trail);
-    boundary = DtLargerBoundary(boundary, DtBoundaryOfType<DtFloat64>(formOf(0), &trail));
-    boundary = DtLargerBoundary(boundary, DtBoundaryOfType<DtFloat64>(formOf(1), &trail));
-    boundary = DtLargerBoundary(boundary, DtBoundaryOfType<DtFloat32>(formOf(2), &trail));
-    return boundary;
+    static_cast<void>(outer); // no field can hold this record again
+    return fixedBoundary<unsigned int>();
 }
 
 const DtWireForm& DtGeoPoint::formOf(unsigned int field)

@@ -29,9 +29,14 @@ bool DtGustPair::operator!=(const DtGustPair& other) const
 
 void DtGustPair::encode(DtWireWriter& writer) const
 {
-    const DtRecordScope<DtWireWriter> scope(writer);
-    DtEncodeValue(writer, Own.myLow, formOf(0));
-    DtEncodeValue(writer, Own.myHigh, formOf(1));
+    encodeAt(writer.grow(fixedOctets<std::size_t>()), writer);
+}
+
+void DtGustPair::encodeAt(unsigned char* octets, DtWireWriter& writer) const
+{
+    DtFixedWriter<fixedOctets<std::size_t>()> fields(octets, writer);
+    fields.put(Own.myLow, formOf(0));
+    fields.put(Own.myHigh, formOf(1));
 }
 
 bool DtGustPair::decode(DtWireReader& reader)
@@ -45,25 +50,24 @@ bool DtGustPair::decode(DtWireReader& reader)
 
 bool DtGustPair::decodeInto(DtWireReader& reader)
 {
-    const DtRecordScope<DtWireReader> scope(reader);
-    if (!DtDecodePart(reader, Own.myLow, formOf(0)))
+    const unsigned char* const octets = reader.take(fixedOctets<std::size_t>());
+    return octets && decodeAt(octets, reader);
+}
+
+bool DtGustPair::decodeAt(const unsigned char* octets, DtWireReader& reader)
+{
+    DtFixedReader<fixedOctets<std::size_t>()> fields(octets, reader);
+    if (!fields.take(Own.myLow, formOf(0)))
         return false;
-    if (!DtDecodePart(reader, Own.myHigh, formOf(1)))
+    if (!fields.take(Own.myHigh, formOf(1)))
         return false;
-    return reader.ok();
+    return true;
 }
 
 unsigned int DtGustPair::octetBoundary(const DtWireTrail* outer)
 {
-    static const char theId = 0;
-    unsigned int boundary = 1;
-    if (DtWireTrail::holds(outer, &theId))
-        return boundary;
-    const DtWireTrail trail = {&theId, outer};
-    static_cast<void>(trail);
-    boundary = DtLargerBoundary(boundary, DtBoundaryOfType<DtFloat32>(formOf(0), &trail));
-    boundary = DtLargerBoundary(boundary, DtBoundaryOfType<DtFloat32>(formOf(1), &trail));
-    return boundary;
+    static_cast<void>(outer); // no field can hold this record again
+    return fixedBoundary<unsigned int>();
 }
 
 const DtWireForm& DtGustPair::formOf(unsigned int field)

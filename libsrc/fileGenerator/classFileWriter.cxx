@@ -105,16 +105,6 @@ bool hasNoClass(const DtAttribute& attribute)
     return !isKnown && attribute.netType() == attribute.nonVectorType();
 }
 
-// The C++ name of the attribute's type. That of an enumeration is never shortened: the enumerations header is written
-// ahead of the classes and takes no number of theirs.
-DtString typeIdentifier(const DtAttribute& attribute)
-{
-    const DtString& datatype = attribute.datatype();
-    const DtString& name = DtDatatypeClassNames::instance().identifierOf(datatype, attribute.type());
-    const bool isEnumeration = mapper().isEnumeration(datatype) && mapper().quorvexType(datatype) == attribute.type();
-    return isEnumeration ? DtCCompatibleNames::wholeIdentifier(name) : identifier(name);
-}
-
 // Whether the attribute's type is one of the enumerations header. The mapper also knows enumerations of earlier runs,
 // and a type of the toolkit can bear the name of one. A member that is called like its datatype comes with the name of
 // the type in place of that of the datatype.
@@ -123,6 +113,45 @@ bool isOfEnumerationsHeader(const DtAttribute& attribute)
     const DtString& datatype = attribute.datatype();
     return DtDatatypeClassNames::instance().isGeneratedEnumeration(datatype) &&
            (mapper().quorvexType(datatype) == attribute.type() || datatype == attribute.type());
+}
+
+// The C++ name of the attribute's type. That of an enumeration is never shortened: the enumerations header is written
+// ahead of the classes and takes no number of theirs.
+DtString typeIdentifier(const DtAttribute& attribute)
+{
+    const DtString& datatype = attribute.datatype();
+    const DtString& name = DtDatatypeClassNames::instance().identifierOf(datatype, attribute.type());
+    return isOfEnumerationsHeader(attribute) ? DtCCompatibleNames::wholeIdentifier(name) : identifier(name);
+}
+
+bool isVector(const DtAttribute& attribute)
+{
+    return attribute.hasPlusCardinality() || attribute.numericalCardinality() != 1 ||
+           attribute.nonVectorType() != withoutVector(attribute.type());
+}
+
+// Whether the attribute's type is the class that the run makes of its datatype.
+bool isOfDatatypeClass(const DtAttribute& attribute)
+{
+    const DtString& className = DtDatatypeClassNames::instance().className(attribute.datatype());
+    return !className.isEmpty() && className == attribute.type();
+}
+
+// The form of a value as generated code has it. Classes of the run and enumerations know theirs. Where the layout is
+// not known, the form is made of the model's names, which are asked for in any case: long names get their numbers by
+// that.
+DtString wireFormOf(const DtAttribute& attribute)
+{
+    const DtString datatype = identifier(attribute.datatype());
+    const DtString representation = identifier(attribute.datatypeDatatype());
+    const bool isOne = !isVector(attribute);
+    if (isOne && (isOfDatatypeClass(attribute) || isOfEnumerationsHeader(attribute)))
+        return "DtWireForm()";
+    const DtValueForm form = valueFormOf(attribute);
+    const DtToolkitValue kind = toolkitValueOf(withoutVector(attribute.type()));
+    const DtString call =
+        kind == DtToolkitValue::None ? DtString() : wireFormCall(form, !isOne || kind != DtToolkitValue::Number);
+    return call.isEmpty() ? wireFormOfNames(datatype, representation, form) : call;
 }
 
 DtString bareClassName(const DtString& className)
@@ -215,6 +244,7 @@ const DtTokenTable<DtAttribute>& attributeTable()
         {"<!AttributeTypeIdentifier!>",           [](const DtAttribute& a) { return typeIdentifier(a); }},
         {"<!AttributeIsNamesake!>",               [](const DtAttribute& a) { return flag(DtDatatypeClassNames::instance().isNamesake(a.datatype())); }},
         {"<!AttributeLayout!>",                   [](const DtAttribute& a) { return valueFormOf(a).layout; }},
+        {"<!AttributeWireForm!>",                 [](const DtAttribute& a) { return wireFormOf(a); }},
         {"<!AttributeText!>",                     [](const DtAttribute& a) { return literalText(a.name()); }},
         {"<!AttributeDocumentation!>",            [](const DtAttribute& a) { return DtCommentText(a.documentation(), 4); }},
     };

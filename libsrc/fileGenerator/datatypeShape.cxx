@@ -15,18 +15,19 @@ struct DtArrayRow
 {
     const char* encoding;
     DtArrayLength length;
+    const char* toolkitKind; // empty for arrays without a wire form
 };
 const DtArrayRow theArrays[] = {
-    {"",                       DtArrayLength::Open },
-    {"HLAvariableArray",       DtArrayLength::Open },
-    {"HLAfixedArray",          DtArrayLength::Fixed},
-    {"HLAnullTerminatedArray", DtArrayLength::Open },
-    {"NullTerminatedArray",    DtArrayLength::Open },
-    {"RPRnullTerminatedArray", DtArrayLength::Open },
-    {"HLAlengthlessVarArray",  DtArrayLength::Open },
-    {"RPRlengthlessArray",     DtArrayLength::Open },
-    {"HLAbitArray",            DtArrayLength::None },
-    {"BitArray",               DtArrayLength::None },
+    {"",                       DtArrayLength::Open,  "DtVariableArray"      },
+    {"HLAvariableArray",       DtArrayLength::Open,  "DtVariableArray"      },
+    {"HLAfixedArray",          DtArrayLength::Fixed, "DtFixedArray"         },
+    {"HLAnullTerminatedArray", DtArrayLength::Open,  "DtNullTerminatedArray"},
+    {"NullTerminatedArray",    DtArrayLength::Open,  "DtNullTerminatedArray"},
+    {"RPRnullTerminatedArray", DtArrayLength::Open,  "DtNullTerminatedArray"},
+    {"HLAlengthlessVarArray",  DtArrayLength::Open,  "DtLengthlessArray"    },
+    {"RPRlengthlessArray",     DtArrayLength::Open,  "DtLengthlessArray"    },
+    {"HLAbitArray",            DtArrayLength::None,  ""                     },
+    {"BitArray",               DtArrayLength::None,  ""                     },
 };
 
 // The smallest power of two that is not below the length of a number.
@@ -186,4 +187,12 @@ DtArrayLength lengthOfArray(const DtString& encoding, int elementCount)
         if (encoding == row.encoding)
             length = row.length;
     return length == DtArrayLength::Fixed && elementCount < 0 ? DtArrayLength::None : length;
+}
+
+DtString toolkitKindOfArray(const DtString& encoding)
+{
+    for (const DtArrayRow& row : theArrays)
+        if (encoding == row.encoding)
+            return row.toolkitKind;
+    return DtString();
 }

@@ -49,4 +49,8 @@ enum class DtArrayLength
 };
 DtArrayLength lengthOfArray(const DtString& encoding, int elementCount);
 
+// What the toolkit calls the kind of array that an encoding names, such as "DtFixedArray"; empty for encodings without
+// a kind, and for those whose kind the number of elements or a number in the name decides.
+DtString toolkitKindOfArray(const DtString& encoding);
+
 #endif

@@ -83,11 +83,9 @@ DtFixedExtent DtFixedExtents::ofField(const DtString& fieldType, const DtOMTTree
 {
     const DtDatatypeClassNames& names = DtDatatypeClassNames::instance();
     const DtString datatype = DtDataTypeMapper::instance()->behindReferences(fieldType);
-    if (names.contains(datatype))
-    {
-        const DtFixedDatatypeNode* record = tree.getFixedDatatypeNode(datatype);
-        return record != nullptr ? ofRecord(*record, tree) : DtFixedExtent();
-    }
+    const DtFixedDatatypeNode* record = tree.getFixedDatatypeNode(datatype);
+    if (record != nullptr && names.contains(datatype))
+        return ofRecord(*record, tree);
     const DtEnumeratedDatatypeNode* enumeration = tree.getEnumeratedDatatypeNode(datatype);
     if (names.isGeneratedEnumeration(datatype) && enumeration != nullptr)
         return ofEnumeration(*enumeration, tree);

@@ -411,20 +411,38 @@ DtToolkitLayout toolkitLayoutOf(const DtString& datatype, const DtString& toolki
     return layout;
 }
 
-bool hasToolkitNumbers(const DtString& datatype, const DtOMTTree& tree)
+DtToolkitValue toolkitValueOf(const DtString& type)
 {
-    const DtToolkitRow* row = rowOf(toolkitTypeOf(datatype, tree));
-    if (row == nullptr || !DtToolkitLayouts::instance().of(datatype).difference.isEmpty())
-        return false;
+    const DtToolkitRow* row = rowOf(type);
+    if (row == nullptr)
+        return DtToolkitValue::None;
     switch (row->kind)
     {
     case DtToolkitKind::Number:
-        return numberOf(datatype, tree).octets != 0 && numberOf(datatype, tree).octets == numberFormOf(datatype).octets;
-    case DtToolkitKind::Floats:
-    case DtToolkitKind::Integers:
-        return !DtToolkitLayouts::instance().of(datatype).argument.isEmpty();
+        return DtToolkitValue::Number;
     case DtToolkitKind::Text:
     case DtToolkitKind::Octets:
+        return DtToolkitValue::Array;
+    case DtToolkitKind::Floats:
+    case DtToolkitKind::Integers:
+        break;
+    }
+    return DtToolkitValue::Record;
+}
+
+bool hasToolkitNumbers(const DtString& datatype, const DtOMTTree& tree)
+{
+    const DtToolkitLayout& layout = DtToolkitLayouts::instance().of(datatype);
+    if (!layout.difference.isEmpty())
+        return false;
+    switch (toolkitValueOf(toolkitTypeOf(datatype, tree)))
+    {
+    case DtToolkitValue::Number:
+        return numberOf(datatype, tree).octets != 0 && numberOf(datatype, tree).octets == numberFormOf(datatype).octets;
+    case DtToolkitValue::Record:
+        return !layout.argument.isEmpty();
+    case DtToolkitValue::None:
+    case DtToolkitValue::Array:
         break;
     }
     return false;

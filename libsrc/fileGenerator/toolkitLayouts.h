@@ -28,6 +28,16 @@ struct DtToolkitLayout
 // and of datatypes that the model does not define: these lie as the toolkit has it.
 DtToolkitLayout toolkitLayoutOf(const DtString& datatype, const DtString& toolkitType, const DtOMTTree& tree);
 
+// What values a type of the toolkit has.
+enum class DtToolkitValue
+{
+    None, // it is no type of the toolkit
+    Number,
+    Array, // texts and times
+    Record
+};
+DtToolkitValue toolkitValueOf(const DtString& type);
+
 // Whether the values of a datatype are numbers or records of numbers in a type of the toolkit, so that all have the
 // same octets on the wire as the model has it. False for what does not fit into that type.
 bool hasToolkitNumbers(const DtString& datatype, const DtOMTTree& tree);

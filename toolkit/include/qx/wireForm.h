@@ -126,12 +126,26 @@ constexpr DtArrayKind DtArrayKindOf(const char* encoding, int count)
                                                                                          : DtLengthlessArray;
 }
 
-// Names out of a model: the datatype, the last representation that it leads to, and the encoding of an array or record;
-// with them what the model's tables give for the number that the datatype ends at.
+enum DtByteOrder
+{
+    DtBigEndian,
+    DtLittleEndian
+};
+
+// What the model says about a value. Generated code names the layout:
 //
-// Made of literals in generated code. An empty name, a count of -1, a length of 0 and no layout say nothing: the length
-// and the byte order then follow from the names, or from the local type; the classes of the toolkit lie as they usually
-// do. Where there is a length, the names of the datatype and the representation decide nothing.
+//     DtWireForm::number(4), DtWireForm::number(4, DtLittleEndian)     // octets
+//     DtWireForm::array(DtVariableArray, 1)                            // a text or an array, octets of each element
+//     DtWireForm::fixedArray(11, 1)                                    // with a number of elements
+//     DtWireForm::record(&DtWireRecordOf<...>::theLayout)              // in a class of the toolkit
+//     DtWireForm()                                                     // the class of the value knows
+//
+// Where the model leaves the length open, and for types that are neither generated nor the toolkit's, a form is made of
+// names: the datatype, the last representation that it leads to, and the encoding of an array or record; with them what
+// the model's tables give for the number that the datatype ends at. An empty name, a count of -1, a length of 0 and no
+// layout say nothing: the length and the byte order then follow from the names, or from the local type; the classes of
+// the toolkit lie as they usually do. Where there is a length, the names of the datatype and the representation decide
+// nothing.
 struct DtWireForm
 {
     constexpr DtWireForm(const char* datatypeName = "", const char* representationName = "",
@@ -148,6 +162,22 @@ struct DtWireForm
           unit(kind == DtPaddingArray ? DtPaddingUnit(encodingName) : 0)
     {
     }
+    static constexpr DtWireForm number(unsigned int octetCount, DtByteOrder order = DtBigEndian)
+    {
+        return DtWireForm(DtVariableArray, -1, octetCount, order, nullptr);
+    }
+    static constexpr DtWireForm array(DtArrayKind arrayKind, unsigned int octetCount, DtByteOrder order = DtBigEndian)
+    {
+        return DtWireForm(arrayKind, -1, octetCount, order, nullptr);
+    }
+    static constexpr DtWireForm fixedArray(int elementCount, unsigned int octetCount, DtByteOrder order = DtBigEndian)
+    {
+        return DtWireForm(DtFixedArray, elementCount, octetCount, order, nullptr);
+    }
+    static constexpr DtWireForm record(const DtWireRecordLayout* recordLayout)
+    {
+        return DtWireForm(DtVariableArray, -1, 0, DtBigEndian, recordLayout);
+    }
     bool isMisfit() const { return layout && !layout->parts; }
 
     const char* datatype;
@@ -159,6 +189,21 @@ struct DtWireForm
     const DtWireRecordLayout* layout; // of a toolkit class that holds a record; null: the usual one
     DtArrayKind kind;                 // by the encoding
     unsigned int unit;                // octets that a padding array fills up to a multiple of
+
+private:
+    constexpr DtWireForm(DtArrayKind arrayKind, int elementCount, unsigned int numberOctets, DtByteOrder order,
+                         const DtWireRecordLayout* recordLayout)
+        : datatype(""),
+          representation(""),
+          encoding(""),
+          count(elementCount),
+          octets(numberOctets),
+          isLittleEndian(order == DtLittleEndian),
+          layout(recordLayout),
+          kind(arrayKind),
+          unit(0)
+    {
+    }
 };
 
 struct DtArrayLayout

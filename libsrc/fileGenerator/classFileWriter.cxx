@@ -105,6 +105,24 @@ bool hasNoClass(const DtAttribute& attribute)
     return !isKnown && attribute.netType() == attribute.nonVectorType();
 }
 
+// A class of one number, made for a simple datatype or for a representation.
+bool isNumberClass(const DtString& datatype)
+{
+    return !mapper().repOfSimpleType(datatype).isEmpty() || mapper().basicTypeInfoMap().count(datatype) != 0;
+}
+
+// Whether a setter gains by a value that it may take over: of texts, octets, structures and arrays.
+bool isMovable(const DtAttribute& attribute)
+{
+    if (attribute.hasPlusCardinality() || attribute.numericalCardinality() > 1)
+        return true;
+    if (attribute.isEnumeration())
+        return false;
+    const DtString& datatype = attribute.datatype();
+    return isString(attribute) || hasNoClass(attribute) || attribute.type().startsWith("DtHlaLogicalTime") ||
+           (DtDatatypeClassNames::instance().contains(datatype) && !isNumberClass(datatype));
+}
+
 // Whether the attribute's type is one of the enumerations header. The mapper also knows enumerations of earlier runs,
 // and a type of the toolkit can bear the name of one. A member that is called like its datatype comes with the name of
 // the type in place of that of the datatype.
@@ -241,6 +259,7 @@ const DtTokenTable<DtAttribute>& attributeTable()
         {"<!AttributeOctets!>",                   [](const DtAttribute& a) { return DtString(valueFormOf(a).number.octets); }},
         {"<!AttributeIsLittleEndian!>",           [](const DtAttribute& a) -> DtString { return valueFormOf(a).number.isLittleEndian ? "1" : "0"; }},
         {"<!AttributeHasNoClass!>",               [](const DtAttribute& a) { return flag(hasNoClass(a)); }},
+        {"<!AttributeIsMovable!>",                [](const DtAttribute& a) { return flag(isMovable(a)); }},
         {"<!AttributeTypeIdentifier!>",           [](const DtAttribute& a) { return typeIdentifier(a); }},
         {"<!AttributeIsNamesake!>",               [](const DtAttribute& a) { return flag(DtDatatypeClassNames::instance().isNamesake(a.datatype())); }},
         {"<!AttributeLayout!>",                   [](const DtAttribute& a) { return valueFormOf(a).layout; }},

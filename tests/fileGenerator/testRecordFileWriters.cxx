@@ -99,6 +99,7 @@ private Q_SLOTS:
     void fieldsAreMembersInOrder();
     void fixedRecordWithoutFields();
     void fixedRecordTokens();
+    void textsStructuresAndOctetsAreMovable();
     void laterMembersAreKnownAhead();
     void recordIncludesItsMembersButNotItself();
     void textFieldTakesTheEncodingBelow();
@@ -182,6 +183,29 @@ void TestRecordFileWriters::fixedRecordTokens()
     QCOMPARE(writer.expand("<#ClassDatatypes><!ClassNetName!> <!NetTypeIsVariableSize!> <!NetTypeIsVariantRecord!>"
                            "<#Attributes> (<!NetTypeIsVariableSize!>,<!NetTypeIsVariantRecord!>)<#><#>"),
              QString("DtNetRwDtTokens <!NetTypeIsVariableSize!> <!NetTypeIsVariantRecord!> (1,) (,1) (,1)"));
+}
+
+void TestRecordFileWriters::textsStructuresAndOctetsAreMovable()
+{
+    const RunSettings settings;
+    DtOMTTree tree;
+    classNames().add("RwOfRecord", "DtRwOfRecord");
+    classNames().add("RwOfNumber", "DtRwOfNumber");
+    mapper().addSimpleTypeToRepresentationMapping("RwOfNumber", "RwOctet");
+    mapper().addMapping("RwOfText", "DtString");
+    mapper().addMapping("RwOfFloat", "DtFloat64");
+    FixedProbe writer("", "");
+    writer.compileAttributes(addFixed(tree, "RwMovable",
+                                      {
+                                          {"record", "RwOfRecord" },
+                                          {"number", "RwOfNumber" },
+                                          {"text",   "RwOfText"   },
+                                          {"float",  "RwOfFloat"  },
+                                          {"octets", "RwOfNothing"}
+    }),
+                             &tree);
+    QCOMPARE(writer.expand("<#ClassDatatypes><#Attributes> <!ExactAttributeName!>=<!AttributeIsMovable!><#><#>"),
+             QString(" record=1 number= text=1 float= octets=1"));
 }
 
 void TestRecordFileWriters::laterMembersAreKnownAhead()

@@ -13,6 +13,12 @@ void DtAnimalStateRepository::setName(const ValueOfName& value)
     DtStateRepository::markChanged("Name");
 }
 
+void DtAnimalStateRepository::setName(ValueOfName&& value)
+{
+    Own.myName = std::move(value);
+    DtStateRepository::markChanged("Name");
+}
+
 const DtAnimalStateRepository::ValueOfName& DtAnimalStateRepository::name() const
 {
     return Own.myName;

@@ -25,6 +25,7 @@ public:
     typedef DtString ValueOfName;
     const ValueOfName& name() const;
     void setName(const ValueOfName& value);
+    void setName(ValueOfName&& value);
 
     typedef DtInt32 ValueOfLegs;
     const ValueOfLegs& legs() const;

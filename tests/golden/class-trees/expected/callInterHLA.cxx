@@ -32,6 +32,11 @@ void DtCallInter::setText(const ValueOfText& value)
     Own.myText = value;
 }
 
+void DtCallInter::setText(ValueOfText&& value)
+{
+    Own.myText = std::move(value);
+}
+
 const DtCallInter::ValueOfText& DtCallInter::text() const
 {
     return Own.myText;

@@ -34,6 +34,7 @@ public:
     typedef DtString ValueOfText;
     const ValueOfText& text() const;
     void setText(const ValueOfText& value);
+    void setText(ValueOfText&& value);
 
 protected:
     // For subclasses, which have names and coders of their own.

@@ -46,6 +46,12 @@ void DtMeterStateRepository::setWeek(const ValueOfWeek& value)
     DtStateRepository::markChanged("Week");
 }
 
+void DtMeterStateRepository::setWeek(ValueOfWeek&& value)
+{
+    Own.myWeek = std::move(value);
+    DtStateRepository::markChanged("Week");
+}
+
 const DtMeterStateRepository::ValueOfWeek& DtMeterStateRepository::week() const
 {
     return Own.myWeek;
@@ -54,6 +60,12 @@ const DtMeterStateRepository::ValueOfWeek& DtMeterStateRepository::week() const
 void DtMeterStateRepository::setRemarks(const ValueOfRemarks& value)
 {
     Own.myRemarks = value;
+    DtStateRepository::markChanged("Remarks");
+}
+
+void DtMeterStateRepository::setRemarks(ValueOfRemarks&& value)
+{
+    Own.myRemarks = std::move(value);
     DtStateRepository::markChanged("Remarks");
 }
 
@@ -68,6 +80,12 @@ void DtMeterStateRepository::setPast(const ValueOfPast& value)
     DtStateRepository::markChanged("Past");
 }
 
+void DtMeterStateRepository::setPast(ValueOfPast&& value)
+{
+    Own.myPast = std::move(value);
+    DtStateRepository::markChanged("Past");
+}
+
 const DtMeterStateRepository::ValueOfPast& DtMeterStateRepository::past() const
 {
     return Own.myPast;
@@ -79,6 +97,12 @@ void DtMeterStateRepository::setLast(const ValueOfLast& value)
     DtStateRepository::markChanged("Last");
 }
 
+void DtMeterStateRepository::setLast(ValueOfLast&& value)
+{
+    Own.myLast = std::move(value);
+    DtStateRepository::markChanged("Last");
+}
+
 const DtMeterStateRepository::ValueOfLast& DtMeterStateRepository::last() const
 {
     return Own.myLast;
@@ -87,6 +111,12 @@ const DtMeterStateRepository::ValueOfLast& DtMeterStateRepository::last() const
 void DtMeterStateRepository::setInside(const ValueOfInside& value)
 {
     Own.myInside = value;
+    DtStateRepository::markChanged("Inside");
+}
+
+void DtMeterStateRepository::setInside(ValueOfInside&& value)
+{
+    Own.myInside = std::move(value);
     DtStateRepository::markChanged("Inside");
 }
 

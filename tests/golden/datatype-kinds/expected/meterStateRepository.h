@@ -49,22 +49,27 @@ public:
     typedef DtRow ValueOfWeek;
     const ValueOfWeek& week() const;
     void setWeek(const ValueOfWeek& value);
+    void setWeek(ValueOfWeek&& value);
 
     typedef DtNotes ValueOfRemarks;
     const ValueOfRemarks& remarks() const;
     void setRemarks(const ValueOfRemarks& value);
+    void setRemarks(ValueOfRemarks&& value);
 
     typedef DtHistory ValueOfPast;
     const ValueOfPast& past() const;
     void setPast(const ValueOfPast& value);
+    void setPast(ValueOfPast&& value);
 
     typedef DtReading ValueOfLast;
     const ValueOfLast& last() const;
     void setLast(const ValueOfLast& value);
+    void setLast(ValueOfLast&& value);
 
     typedef DtContent ValueOfInside;
     const ValueOfInside& inside() const;
     void setInside(const ValueOfInside& value);
+    void setInside(ValueOfInside&& value);
 
 private:
     // The values stand in a structure of their own, where no accessor can share their names.

@@ -27,6 +27,12 @@ void DtQxFlowerStateRepository::setSeed(const ValueOfSeed& value)
     DtStateRepository::markChanged("Seed");
 }
 
+void DtQxFlowerStateRepository::setSeed(ValueOfSeed&& value)
+{
+    Own.mySeed = std::move(value);
+    DtStateRepository::markChanged("Seed");
+}
+
 const DtQxFlowerStateRepository::ValueOfSeed& DtQxFlowerStateRepository::seed() const
 {
     return Own.mySeed;

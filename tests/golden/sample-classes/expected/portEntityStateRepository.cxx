@@ -13,6 +13,12 @@ void DtPortEntityStateRepository::setPosition(const ValueOfPosition& value)
     DtStateRepository::markChanged("Position");
 }
 
+void DtPortEntityStateRepository::setPosition(ValueOfPosition&& value)
+{
+    Own.myPosition = std::move(value);
+    DtStateRepository::markChanged("Position");
+}
+
 const DtPortEntityStateRepository::ValueOfPosition& DtPortEntityStateRepository::position() const
 {
     return Own.myPosition;
@@ -21,6 +27,12 @@ const DtPortEntityStateRepository::ValueOfPosition& DtPortEntityStateRepository:
 void DtPortEntityStateRepository::setName(const ValueOfName& value)
 {
     Own.myName = value;
+    DtStateRepository::markChanged("Name");
+}
+
+void DtPortEntityStateRepository::setName(ValueOfName&& value)
+{
+    Own.myName = std::move(value);
     DtStateRepository::markChanged("Name");
 }
 

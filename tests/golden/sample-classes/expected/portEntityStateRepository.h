@@ -29,11 +29,13 @@ public:
     /// Where it is.
     const ValueOfPosition& position() const;
     void setPosition(const ValueOfPosition& value);
+    void setPosition(ValueOfPosition&& value);
 
     typedef DtShortText ValueOfName;
     /// What it is called.
     const ValueOfName& name() const;
     void setName(const ValueOfName& value);
+    void setName(ValueOfName&& value);
 
     typedef DtInt64 ValueOfSerial;
     /// Number in the register.

@@ -35,6 +35,12 @@ void DtTug__PusherStateRepository::setOwner(const ValueOfOwner& value)
     DtStateRepository::markChanged("Owner");
 }
 
+void DtTug__PusherStateRepository::setOwner(ValueOfOwner&& value)
+{
+    Own.myOwner = std::move(value);
+    DtStateRepository::markChanged("Owner");
+}
+
 const DtTug__PusherStateRepository::ValueOfOwner& DtTug__PusherStateRepository::owner() const
 {
     return Own.myOwner;

@@ -42,6 +42,7 @@ public:
     /// Company.
     const ValueOfOwner& owner() const;
     void setOwner(const ValueOfOwner& value);
+    void setOwner(ValueOfOwner&& value);
 
 private:
     // The values stand in a structure of their own, where no accessor can share their names.

@@ -46,6 +46,12 @@ void DtVesselStateRepository::setTheClass(const ValueOfTheClass& value)
     DtStateRepository::markChanged("_class");
 }
 
+void DtVesselStateRepository::setTheClass(ValueOfTheClass&& value)
+{
+    Own.myTheClass = std::move(value);
+    DtStateRepository::markChanged("_class");
+}
+
 const DtVesselStateRepository::ValueOfTheClass& DtVesselStateRepository::theClass() const
 {
     return Own.myTheClass;
@@ -76,6 +82,12 @@ const DtVesselStateRepository::ValueOfTheTemplate& DtVesselStateRepository::theT
 void DtVesselStateRepository::setCrew(const ValueOfCrew& value)
 {
     Own.myCrew = value;
+    DtStateRepository::markChanged("Crew");
+}
+
+void DtVesselStateRepository::setCrew(ValueOfCrew&& value)
+{
+    Own.myCrew = std::move(value);
     DtStateRepository::markChanged("Crew");
 }
 

@@ -53,6 +53,7 @@ public:
     /// Class of the register, a word of the language.
     const ValueOfTheClass& theClass() const;
     void setTheClass(const ValueOfTheClass& value);
+    void setTheClass(ValueOfTheClass&& value);
 
     typedef DtInt32 ValueOfTheInt;
     /// Another word of the language.
@@ -68,6 +69,7 @@ public:
     /// Who is aboard.
     const ValueOfCrew& crew() const;
     void setCrew(const ValueOfCrew& value);
+    void setCrew(ValueOfCrew&& value);
 
 private:
     // The values stand in a structure of their own, where no accessor can share their names.

@@ -24,6 +24,12 @@ void DtBeaconStateRepository::setLamps(const ValueOfLamps& value)
     DtStateRepository::markChanged("Lamps");
 }
 
+void DtBeaconStateRepository::setLamps(ValueOfLamps&& value)
+{
+    Own.myLamps = std::move(value);
+    DtStateRepository::markChanged("Lamps");
+}
+
 const DtBeaconStateRepository::ValueOfLamps& DtBeaconStateRepository::lamps() const
 {
     return Own.myLamps;
@@ -43,6 +49,12 @@ const DtBeaconStateRepository::ValueOfSector& DtBeaconStateRepository::sector() 
 void DtBeaconStateRepository::setCallSign(const ValueOfCallSign& value)
 {
     Own.myCallSign = value;
+    DtStateRepository::markChanged("CallSign");
+}
+
+void DtBeaconStateRepository::setCallSign(ValueOfCallSign&& value)
+{
+    Own.myCallSign = std::move(value);
     DtStateRepository::markChanged("CallSign");
 }
 
@@ -79,6 +91,12 @@ void DtBeaconStateRepository::setTilts(const ValueOfTilts& value)
     DtStateRepository::markChanged("Tilts");
 }
 
+void DtBeaconStateRepository::setTilts(ValueOfTilts&& value)
+{
+    Own.myTilts = std::move(value);
+    DtStateRepository::markChanged("Tilts");
+}
+
 const DtBeaconStateRepository::ValueOfTilts& DtBeaconStateRepository::tilts() const
 {
     return Own.myTilts;
@@ -109,6 +127,12 @@ const DtBeaconStateRepository::ValueOfMark& DtBeaconStateRepository::mark() cons
 void DtBeaconStateRepository::setImage(const ValueOfImage& value)
 {
     Own.myImage = value;
+    DtStateRepository::markChanged("Image");
+}
+
+void DtBeaconStateRepository::setImage(ValueOfImage&& value)
+{
+    Own.myImage = std::move(value);
     DtStateRepository::markChanged("Image");
 }
 
@@ -145,6 +169,12 @@ void DtBeaconStateRepository::setNeighbours(const ValueOfNeighbours& value)
     DtStateRepository::markChanged("Neighbours");
 }
 
+void DtBeaconStateRepository::setNeighbours(ValueOfNeighbours&& value)
+{
+    Own.myNeighbours = std::move(value);
+    DtStateRepository::markChanged("Neighbours");
+}
+
 const DtBeaconStateRepository::ValueOfNeighbours& DtBeaconStateRepository::neighbours() const
 {
     return Own.myNeighbours;
@@ -153,6 +183,12 @@ const DtBeaconStateRepository::ValueOfNeighbours& DtBeaconStateRepository::neigh
 void DtBeaconStateRepository::setSights(const ValueOfSights& value)
 {
     Own.mySights = value;
+    DtStateRepository::markChanged("Sights");
+}
+
+void DtBeaconStateRepository::setSights(ValueOfSights&& value)
+{
+    Own.mySights = std::move(value);
     DtStateRepository::markChanged("Sights");
 }
 
@@ -189,6 +225,12 @@ void DtBeaconStateRepository::setWatch(const ValueOfWatch& value)
     DtStateRepository::markChanged("Watch");
 }
 
+void DtBeaconStateRepository::setWatch(ValueOfWatch&& value)
+{
+    Own.myWatch = std::move(value);
+    DtStateRepository::markChanged("Watch");
+}
+
 const DtBeaconStateRepository::ValueOfWatch& DtBeaconStateRepository::watch() const
 {
     return Own.myWatch;
@@ -197,6 +239,12 @@ const DtBeaconStateRepository::ValueOfWatch& DtBeaconStateRepository::watch() co
 void DtBeaconStateRepository::setCalls(const ValueOfCalls& value)
 {
     Own.myCalls = value;
+    DtStateRepository::markChanged("Calls");
+}
+
+void DtBeaconStateRepository::setCalls(ValueOfCalls&& value)
+{
+    Own.myCalls = std::move(value);
     DtStateRepository::markChanged("Calls");
 }
 
@@ -211,6 +259,12 @@ void DtBeaconStateRepository::setFix(const ValueOfFix& value)
     DtStateRepository::markChanged("Fix");
 }
 
+void DtBeaconStateRepository::setFix(ValueOfFix&& value)
+{
+    Own.myFix = std::move(value);
+    DtStateRepository::markChanged("Fix");
+}
+
 const DtBeaconStateRepository::ValueOfFix& DtBeaconStateRepository::fix() const
 {
     return Own.myFix;
@@ -219,6 +273,12 @@ const DtBeaconStateRepository::ValueOfFix& DtBeaconStateRepository::fix() const
 void DtBeaconStateRepository::setTest(const ValueOfTest& value)
 {
     Own.myTest = value;
+    DtStateRepository::markChanged("Test");
+}
+
+void DtBeaconStateRepository::setTest(ValueOfTest&& value)
+{
+    Own.myTest = std::move(value);
     DtStateRepository::markChanged("Test");
 }
 
@@ -233,6 +293,12 @@ void DtBeaconStateRepository::setPass(const ValueOfPass& value)
     DtStateRepository::markChanged("Pass");
 }
 
+void DtBeaconStateRepository::setPass(ValueOfPass&& value)
+{
+    Own.myPass = std::move(value);
+    DtStateRepository::markChanged("Pass");
+}
+
 const DtBeaconStateRepository::ValueOfPass& DtBeaconStateRepository::pass() const
 {
     return Own.myPass;
@@ -241,6 +307,12 @@ const DtBeaconStateRepository::ValueOfPass& DtBeaconStateRepository::pass() cons
 void DtBeaconStateRepository::setCondition(const ValueOfCondition& value)
 {
     Own.myCondition = value;
+    DtStateRepository::markChanged("Condition");
+}
+
+void DtBeaconStateRepository::setCondition(ValueOfCondition&& value)
+{
+    Own.myCondition = std::move(value);
     DtStateRepository::markChanged("Condition");
 }
 
@@ -255,6 +327,12 @@ void DtBeaconStateRepository::setSurvey(const ValueOfSurvey& value)
     DtStateRepository::markChanged("Survey");
 }
 
+void DtBeaconStateRepository::setSurvey(ValueOfSurvey&& value)
+{
+    Own.mySurvey = std::move(value);
+    DtStateRepository::markChanged("Survey");
+}
+
 const DtBeaconStateRepository::ValueOfSurvey& DtBeaconStateRepository::survey() const
 {
     return Own.mySurvey;
@@ -263,6 +341,12 @@ const DtBeaconStateRepository::ValueOfSurvey& DtBeaconStateRepository::survey() 
 void DtBeaconStateRepository::setGear(const ValueOfGear& value)
 {
     Own.myGear = value;
+    DtStateRepository::markChanged("Gear");
+}
+
+void DtBeaconStateRepository::setGear(ValueOfGear&& value)
+{
+    Own.myGear = std::move(value);
     DtStateRepository::markChanged("Gear");
 }
 
@@ -277,6 +361,12 @@ void DtBeaconStateRepository::setRule(const ValueOfRule& value)
     DtStateRepository::markChanged("Rule");
 }
 
+void DtBeaconStateRepository::setRule(ValueOfRule&& value)
+{
+    Own.myRule = std::move(value);
+    DtStateRepository::markChanged("Rule");
+}
+
 const DtBeaconStateRepository::ValueOfRule& DtBeaconStateRepository::rule() const
 {
     return Own.myRule;
@@ -285,6 +375,12 @@ const DtBeaconStateRepository::ValueOfRule& DtBeaconStateRepository::rule() cons
 void DtBeaconStateRepository::setPaper(const ValueOfPaper& value)
 {
     Own.myPaper = value;
+    DtStateRepository::markChanged("Paper");
+}
+
+void DtBeaconStateRepository::setPaper(ValueOfPaper&& value)
+{
+    Own.myPaper = std::move(value);
     DtStateRepository::markChanged("Paper");
 }
 
@@ -299,6 +395,12 @@ void DtBeaconStateRepository::setTimes(const ValueOfTimes& value)
     DtStateRepository::markChanged("Times");
 }
 
+void DtBeaconStateRepository::setTimes(ValueOfTimes&& value)
+{
+    Own.myTimes = std::move(value);
+    DtStateRepository::markChanged("Times");
+}
+
 const DtBeaconStateRepository::ValueOfTimes& DtBeaconStateRepository::times() const
 {
     return Own.myTimes;
@@ -307,6 +409,12 @@ const DtBeaconStateRepository::ValueOfTimes& DtBeaconStateRepository::times() co
 void DtBeaconStateRepository::setChambers(const ValueOfChambers& value)
 {
     Own.myChambers = value;
+    DtStateRepository::markChanged("Chambers");
+}
+
+void DtBeaconStateRepository::setChambers(ValueOfChambers&& value)
+{
+    Own.myChambers = std::move(value);
     DtStateRepository::markChanged("Chambers");
 }
 
@@ -321,6 +429,12 @@ void DtBeaconStateRepository::setRemark(const ValueOfRemark& value)
     DtStateRepository::markChanged("Remark");
 }
 
+void DtBeaconStateRepository::setRemark(ValueOfRemark&& value)
+{
+    Own.myRemark = std::move(value);
+    DtStateRepository::markChanged("Remark");
+}
+
 const DtBeaconStateRepository::ValueOfRemark& DtBeaconStateRepository::remark() const
 {
     return Own.myRemark;
@@ -329,6 +443,12 @@ const DtBeaconStateRepository::ValueOfRemark& DtBeaconStateRepository::remark() 
 void DtBeaconStateRepository::setDraughts(const ValueOfDraughts& value)
 {
     Own.myDraughts = value;
+    DtStateRepository::markChanged("Draughts");
+}
+
+void DtBeaconStateRepository::setDraughts(ValueOfDraughts&& value)
+{
+    Own.myDraughts = std::move(value);
     DtStateRepository::markChanged("Draughts");
 }
 
@@ -343,6 +463,12 @@ void DtBeaconStateRepository::setRing(const ValueOfRing& value)
     DtStateRepository::markChanged("Ring");
 }
 
+void DtBeaconStateRepository::setRing(ValueOfRing&& value)
+{
+    Own.myRing = std::move(value);
+    DtStateRepository::markChanged("Ring");
+}
+
 const DtBeaconStateRepository::ValueOfRing& DtBeaconStateRepository::ring() const
 {
     return Own.myRing;
@@ -351,6 +477,12 @@ const DtBeaconStateRepository::ValueOfRing& DtBeaconStateRepository::ring() cons
 void DtBeaconStateRepository::setLines(const ValueOfLines& value)
 {
     Own.myLines = value;
+    DtStateRepository::markChanged("Lines");
+}
+
+void DtBeaconStateRepository::setLines(ValueOfLines&& value)
+{
+    Own.myLines = std::move(value);
     DtStateRepository::markChanged("Lines");
 }
 
@@ -395,6 +527,12 @@ const DtBeaconStateRepository::ValueOfFind& DtBeaconStateRepository::find() cons
 void DtBeaconStateRepository::setSpare(const ValueOfSpare& value)
 {
     Own.mySpare = value;
+    DtStateRepository::markChanged("Spare");
+}
+
+void DtBeaconStateRepository::setSpare(ValueOfSpare&& value)
+{
+    Own.mySpare = std::move(value);
     DtStateRepository::markChanged("Spare");
 }
 
@@ -472,6 +610,12 @@ const DtBeaconStateRepository::ValueOfSwing& DtBeaconStateRepository::swing() co
 void DtBeaconStateRepository::setDoors(const ValueOfDoors& value)
 {
     Own.myDoors = value;
+    DtStateRepository::markChanged("Doors");
+}
+
+void DtBeaconStateRepository::setDoors(ValueOfDoors&& value)
+{
+    Own.myDoors = std::move(value);
     DtStateRepository::markChanged("Doors");
 }
 

@@ -84,6 +84,7 @@ public:
     /// Every lamp of the front, row by row.
     const ValueOfLamps& lamps() const;
     void setLamps(const ValueOfLamps& value);
+    void setLamps(ValueOfLamps&& value);
 
     typedef DtBearing ValueOfSector;
     /// Direction of the white sector.
@@ -95,6 +96,7 @@ public:
     /// What it is called on the radio.
     const ValueOfCallSign& callSign() const;
     void setCallSign(const ValueOfCallSign& value);
+    void setCallSign(ValueOfCallSign&& value);
 
     typedef DtCelsius ValueOfTemperature;
     /// Of the lamp house.
@@ -112,6 +114,7 @@ public:
     /// The same on three levels.
     const ValueOfTilts& tilts() const;
     void setTilts(const ValueOfTilts& value);
+    void setTilts(ValueOfTilts&& value);
 
     typedef DtRegisterNumber ValueOfTheRegister;
     /// Number in the list of lights.
@@ -128,6 +131,7 @@ public:
     /// Photograph.
     const ValueOfImage& image() const;
     void setImage(const ValueOfImage& value);
+    void setImage(ValueOfImage&& value);
 
     typedef bool ValueOfTested;
     /// Passed its last test.
@@ -143,11 +147,13 @@ public:
     /// Beacons in sight.
     const ValueOfNeighbours& neighbours() const;
     void setNeighbours(const ValueOfNeighbours& value);
+    void setNeighbours(ValueOfNeighbours&& value);
 
     typedef DtBearingList ValueOfSights;
     /// Where those are.
     const ValueOfSights& sights() const;
     void setSights(const ValueOfSights& value);
+    void setSights(ValueOfSights&& value);
 
     typedef DtZone64 ValueOfZone;
     /// Zone of the harbour that it stands in.
@@ -163,81 +169,97 @@ public:
     /// Who looks after it.
     const ValueOfWatch& watch() const;
     void setWatch(const ValueOfWatch& value);
+    void setWatch(ValueOfWatch&& value);
 
     typedef DtSignalLog ValueOfCalls;
     /// Signals that were sent.
     const ValueOfCalls& calls() const;
     void setCalls(const ValueOfCalls& value);
+    void setCalls(ValueOfCalls&& value);
 
     typedef DtPositionFix ValueOfFix;
     /// Where it stands, by survey or by the chart.
     const ValueOfFix& fix() const;
     void setFix(const ValueOfFix& value);
+    void setFix(ValueOfFix&& value);
 
     typedef DtTestResult ValueOfTest;
     /// Outcome of the last test.
     const ValueOfTest& test() const;
     void setTest(const ValueOfTest& value);
+    void setTest(ValueOfTest&& value);
 
     typedef DtPermit ValueOfPass;
     /// Leave to enter.
     const ValueOfPass& pass() const;
     void setPass(const ValueOfPass& value);
+    void setPass(ValueOfPass&& value);
 
     typedef DtLampReport ValueOfCondition;
     /// State of the lamp.
     const ValueOfCondition& condition() const;
     void setCondition(const ValueOfCondition& value);
+    void setCondition(ValueOfCondition&& value);
 
     typedef DtInspection ValueOfSurvey;
     /// What the diver found.
     const ValueOfSurvey& survey() const;
     void setSurvey(const ValueOfSurvey& value);
+    void setSurvey(ValueOfSurvey&& value);
 
     typedef DtEquipment ValueOfGear;
     /// Tools on site.
     const ValueOfGear& gear() const;
     void setGear(const ValueOfGear& value);
+    void setGear(ValueOfGear&& value);
 
     typedef DtZoneRule ValueOfRule;
     /// Limit in its zone.
     const ValueOfRule& rule() const;
     void setRule(const ValueOfRule& value);
+    void setRule(ValueOfRule&& value);
 
     typedef DtReportFrame ValueOfPaper;
     /// Form of the office.
     const ValueOfPaper& paper() const;
     void setPaper(const ValueOfPaper& value);
+    void setPaper(ValueOfPaper&& value);
 
     typedef DtGateTimes ValueOfTimes;
     /// When the gate opens.
     const ValueOfTimes& times() const;
     void setTimes(const ValueOfTimes& value);
+    void setTimes(ValueOfTimes&& value);
 
     typedef DtLockGrid ValueOfChambers;
     /// Water in the lock, by row, column and level.
     const ValueOfChambers& chambers() const;
     void setChambers(const ValueOfChambers& value);
+    void setChambers(ValueOfChambers&& value);
 
     typedef DtLongNote ValueOfRemark;
     /// Note of the keeper.
     const ValueOfRemark& remark() const;
     void setRemark(const ValueOfRemark& value);
+    void setRemark(ValueOfRemark&& value);
 
     typedef DtDraughtTable ValueOfDraughts;
     /// Of the last ships.
     const ValueOfDraughts& draughts() const;
     void setDraughts(const ValueOfDraughts& value);
+    void setDraughts(ValueOfDraughts&& value);
 
     typedef DtTideRing ValueOfRing;
     /// Last levels of the tide.
     const ValueOfRing& ring() const;
     void setRing(const ValueOfRing& value);
+    void setRing(ValueOfRing&& value);
 
     typedef DtLineList ValueOfLines;
     /// State of all lines.
     const ValueOfLines& lines() const;
     void setLines(const ValueOfLines& value);
+    void setLines(ValueOfLines&& value);
 
     typedef DtDeep32 ValueOfDeep;
     /// Class of depth.
@@ -258,6 +280,7 @@ public:
     /// Kept for later.
     const ValueOfSpare& spare() const;
     void setSpare(const ValueOfSpare& value);
+    void setSpare(ValueOfSpare&& value);
 
     typedef DtInt32 ValueOfSteps;
     /// Of the stair.
@@ -294,6 +317,7 @@ public:
     /// Which ones are open.
     const ValueOfDoors& doors() const;
     void setDoors(const ValueOfDoors& value);
+    void setDoors(ValueOfDoors&& value);
 
 private:
     // The values stand in a structure of their own, where no accessor can share their names.

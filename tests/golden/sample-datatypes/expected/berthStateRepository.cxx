@@ -24,6 +24,12 @@ void DtBerthStateRepository::setDepths(const ValueOfDepths& value)
     DtStateRepository::markChanged("Depths");
 }
 
+void DtBerthStateRepository::setDepths(ValueOfDepths&& value)
+{
+    Own.myDepths = std::move(value);
+    DtStateRepository::markChanged("Depths");
+}
+
 const DtBerthStateRepository::ValueOfDepths& DtBerthStateRepository::depths() const
 {
     return Own.myDepths;
@@ -46,6 +52,12 @@ void DtBerthStateRepository::setFlags(const ValueOfFlags& value)
     DtStateRepository::markChanged("Flags");
 }
 
+void DtBerthStateRepository::setFlags(ValueOfFlags&& value)
+{
+    Own.myFlags = std::move(value);
+    DtStateRepository::markChanged("Flags");
+}
+
 const DtBerthStateRepository::ValueOfFlags& DtBerthStateRepository::flags() const
 {
     return Own.myFlags;
@@ -65,6 +77,12 @@ const DtBerthStateRepository::ValueOfKind64& DtBerthStateRepository::kind64() co
 void DtBerthStateRepository::setFenders(const ValueOfFenders& value)
 {
     Own.myFenders = value;
+    DtStateRepository::markChanged("Fenders");
+}
+
+void DtBerthStateRepository::setFenders(ValueOfFenders&& value)
+{
+    Own.myFenders = std::move(value);
     DtStateRepository::markChanged("Fenders");
 }
 

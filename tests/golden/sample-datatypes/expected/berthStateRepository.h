@@ -40,6 +40,7 @@ public:
     /// Soundings, bow to stern and side to side.
     const ValueOfDepths& depths() const;
     void setDepths(const ValueOfDepths& value);
+    void setDepths(ValueOfDepths&& value);
 
     typedef DtOccupant ValueOfOccupant;
     /// Who lies here.
@@ -50,6 +51,7 @@ public:
     /// One bit for every bollard.
     const ValueOfFlags& flags() const;
     void setFlags(const ValueOfFlags& value);
+    void setFlags(ValueOfFlags&& value);
 
     typedef DtBerthKind64 ValueOfKind64;
     /// What the berth is for.
@@ -60,6 +62,7 @@ public:
     /// Fenders, padded.
     const ValueOfFenders& fenders() const;
     void setFenders(const ValueOfFenders& value);
+    void setFenders(ValueOfFenders&& value);
 
 private:
     // The values stand in a structure of their own, where no accessor can share their names.

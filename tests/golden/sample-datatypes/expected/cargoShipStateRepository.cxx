@@ -13,6 +13,12 @@ void DtCargoShipStateRepository::setHolds(const ValueOfHolds& value)
     DtStateRepository::markChanged("Holds");
 }
 
+void DtCargoShipStateRepository::setHolds(ValueOfHolds&& value)
+{
+    Own.myHolds = std::move(value);
+    DtStateRepository::markChanged("Holds");
+}
+
 const DtCargoShipStateRepository::ValueOfHolds& DtCargoShipStateRepository::holds() const
 {
     return Own.myHolds;
@@ -21,6 +27,12 @@ const DtCargoShipStateRepository::ValueOfHolds& DtCargoShipStateRepository::hold
 void DtCargoShipStateRepository::setManifest(const ValueOfManifest& value)
 {
     Own.myManifest = value;
+    DtStateRepository::markChanged("Manifest");
+}
+
+void DtCargoShipStateRepository::setManifest(ValueOfManifest&& value)
+{
+    Own.myManifest = std::move(value);
     DtStateRepository::markChanged("Manifest");
 }
 
@@ -54,6 +66,12 @@ const DtCargoShipStateRepository::ValueOfDangerous& DtCargoShipStateRepository::
 void DtCargoShipStateRepository::setSeal(const ValueOfSeal& value)
 {
     Own.mySeal = value;
+    DtStateRepository::markChanged("Seal");
+}
+
+void DtCargoShipStateRepository::setSeal(ValueOfSeal&& value)
+{
+    Own.mySeal = std::move(value);
     DtStateRepository::markChanged("Seal");
 }
 

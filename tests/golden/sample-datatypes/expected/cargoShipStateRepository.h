@@ -30,11 +30,13 @@ public:
     /// What every hold carries.
     const ValueOfHolds& holds() const;
     void setHolds(const ValueOfHolds& value);
+    void setHolds(ValueOfHolds&& value);
 
     typedef DtCargo_Item_List ValueOfManifest;
     /// What is aboard.
     const ValueOfManifest& manifest() const;
     void setManifest(const ValueOfManifest& value);
+    void setManifest(ValueOfManifest&& value);
 
     typedef DtFloat32 ValueOfDraught;
     /// In metres.
@@ -50,6 +52,7 @@ public:
     /// Seal of the customs.
     const ValueOfSeal& seal() const;
     void setSeal(const ValueOfSeal& value);
+    void setSeal(ValueOfSeal&& value);
 
 private:
     // The values stand in a structure of their own, where no accessor can share their names.

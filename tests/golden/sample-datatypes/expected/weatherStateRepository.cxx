@@ -13,6 +13,12 @@ void DtWeatherStateRepository::setWind(const ValueOfWind& value)
     DtStateRepository::markChanged("Wind");
 }
 
+void DtWeatherStateRepository::setWind(ValueOfWind&& value)
+{
+    Own.myWind = std::move(value);
+    DtStateRepository::markChanged("Wind");
+}
+
 const DtWeatherStateRepository::ValueOfWind& DtWeatherStateRepository::wind() const
 {
     return Own.myWind;
@@ -21,6 +27,12 @@ const DtWeatherStateRepository::ValueOfWind& DtWeatherStateRepository::wind() co
 void DtWeatherStateRepository::setReport(const ValueOfReport& value)
 {
     Own.myReport = value;
+    DtStateRepository::markChanged("Report");
+}
+
+void DtWeatherStateRepository::setReport(ValueOfReport&& value)
+{
+    Own.myReport = std::move(value);
     DtStateRepository::markChanged("Report");
 }
 
@@ -35,6 +47,12 @@ void DtWeatherStateRepository::setSamples(const ValueOfSamples& value)
     DtStateRepository::markChanged("Samples");
 }
 
+void DtWeatherStateRepository::setSamples(ValueOfSamples&& value)
+{
+    Own.mySamples = std::move(value);
+    DtStateRepository::markChanged("Samples");
+}
+
 const DtWeatherStateRepository::ValueOfSamples& DtWeatherStateRepository::samples() const
 {
     return Own.mySamples;
@@ -43,6 +61,12 @@ const DtWeatherStateRepository::ValueOfSamples& DtWeatherStateRepository::sample
 void DtWeatherStateRepository::setCodes(const ValueOfCodes& value)
 {
     Own.myCodes = value;
+    DtStateRepository::markChanged("Codes");
+}
+
+void DtWeatherStateRepository::setCodes(ValueOfCodes&& value)
+{
+    Own.myCodes = std::move(value);
     DtStateRepository::markChanged("Codes");
 }
 
@@ -65,6 +89,12 @@ const DtWeatherStateRepository::ValueOfTide& DtWeatherStateRepository::tide() co
 void DtWeatherStateRepository::setTrace(const ValueOfTrace& value)
 {
     Own.myTrace = value;
+    DtStateRepository::markChanged("Trace");
+}
+
+void DtWeatherStateRepository::setTrace(ValueOfTrace&& value)
+{
+    Own.myTrace = std::move(value);
     DtStateRepository::markChanged("Trace");
 }
 

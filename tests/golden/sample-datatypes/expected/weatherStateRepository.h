@@ -33,21 +33,25 @@ public:
     /// Wind.
     const ValueOfWind& wind() const;
     void setWind(const ValueOfWind& value);
+    void setWind(ValueOfWind&& value);
 
     typedef DtReportText ValueOfReport;
     /// Text that ends with a zero.
     const ValueOfReport& report() const;
     void setReport(const ValueOfReport& value);
+    void setReport(ValueOfReport&& value);
 
     typedef DtSampleRun ValueOfSamples;
     /// Samples to the end of the buffer.
     const ValueOfSamples& samples() const;
     void setSamples(const ValueOfSamples& value);
+    void setSamples(ValueOfSamples&& value);
 
     typedef DtCodeRange ValueOfCodes;
     /// One to ten codes.
     const ValueOfCodes& codes() const;
     void setCodes(const ValueOfCodes& value);
+    void setCodes(ValueOfCodes&& value);
 
     typedef DtTide16LE ValueOfTide;
     /// Tide, low octet first.
@@ -59,6 +63,7 @@ public:
     /// Trace, padded.
     const ValueOfTrace& trace() const;
     void setTrace(const ValueOfTrace& value);
+    void setTrace(ValueOfTrace&& value);
 
 private:
     // The values stand in a structure of their own, where no accessor can share their names.

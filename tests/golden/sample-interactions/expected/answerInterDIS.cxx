@@ -45,6 +45,11 @@ void DtAnswerInterInter::setReason(const ValueOfReason& value)
     Own.myReason = value;
 }
 
+void DtAnswerInterInter::setReason(ValueOfReason&& value)
+{
+    Own.myReason = std::move(value);
+}
+
 const DtAnswerInterInter::ValueOfReason& DtAnswerInterInter::reason() const
 {
     return Own.myReason;

@@ -42,6 +42,11 @@ void DtAnswerInter::setReason(const ValueOfReason& value)
     Own.myReason = value;
 }
 
+void DtAnswerInter::setReason(ValueOfReason&& value)
+{
+    Own.myReason = std::move(value);
+}
+
 const DtAnswerInter::ValueOfReason& DtAnswerInter::reason() const
 {
     return Own.myReason;

@@ -42,6 +42,7 @@ public:
     /// Who is in the way.
     const ValueOfReason& reason() const;
     void setReason(const ValueOfReason& value);
+    void setReason(ValueOfReason&& value);
 
 protected:
     // For subclasses, which have names and coders of their own.

@@ -45,6 +45,11 @@ void DtCollisionInterInter::setWhere(const ValueOfWhere& value)
     Own.myWhere = value;
 }
 
+void DtCollisionInterInter::setWhere(ValueOfWhere&& value)
+{
+    Own.myWhere = std::move(value);
+}
+
 const DtCollisionInterInter::ValueOfWhere& DtCollisionInterInter::where() const
 {
     return Own.myWhere;
@@ -53,6 +58,11 @@ const DtCollisionInterInter::ValueOfWhere& DtCollisionInterInter::where() const
 void DtCollisionInterInter::setDebris(const ValueOfDebris& value)
 {
     Own.myDebris = value;
+}
+
+void DtCollisionInterInter::setDebris(ValueOfDebris&& value)
+{
+    Own.myDebris = std::move(value);
 }
 
 const DtCollisionInterInter::ValueOfDebris& DtCollisionInterInter::debris() const

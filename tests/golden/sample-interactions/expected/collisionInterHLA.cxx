@@ -42,6 +42,11 @@ void DtCollisionInter::setWhere(const ValueOfWhere& value)
     Own.myWhere = value;
 }
 
+void DtCollisionInter::setWhere(ValueOfWhere&& value)
+{
+    Own.myWhere = std::move(value);
+}
+
 const DtCollisionInter::ValueOfWhere& DtCollisionInter::where() const
 {
     return Own.myWhere;
@@ -50,6 +55,11 @@ const DtCollisionInter::ValueOfWhere& DtCollisionInter::where() const
 void DtCollisionInter::setDebris(const ValueOfDebris& value)
 {
     Own.myDebris = value;
+}
+
+void DtCollisionInter::setDebris(ValueOfDebris&& value)
+{
+    Own.myDebris = std::move(value);
 }
 
 const DtCollisionInter::ValueOfDebris& DtCollisionInter::debris() const

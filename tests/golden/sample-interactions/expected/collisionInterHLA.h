@@ -44,11 +44,13 @@ public:
     /// Where.
     const ValueOfWhere& where() const;
     void setWhere(const ValueOfWhere& value);
+    void setWhere(ValueOfWhere&& value);
 
     typedef DtCargo_Item_List ValueOfDebris;
     /// What fell into the water.
     const ValueOfDebris& debris() const;
     void setDebris(const ValueOfDebris& value);
+    void setDebris(ValueOfDebris&& value);
 
 protected:
     // For subclasses, which have names and coders of their own.

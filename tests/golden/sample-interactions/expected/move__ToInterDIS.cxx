@@ -35,6 +35,11 @@ void DtMove__ToInterInter::setTarget_Point_(const ValueOfTarget_Point_& value)
     Own.myTarget_Point_ = value;
 }
 
+void DtMove__ToInterInter::setTarget_Point_(ValueOfTarget_Point_&& value)
+{
+    Own.myTarget_Point_ = std::move(value);
+}
+
 const DtMove__ToInterInter::ValueOfTarget_Point_& DtMove__ToInterInter::target_Point_() const
 {
     return Own.myTarget_Point_;
@@ -53,6 +58,11 @@ const DtMove__ToInterInter::ValueOfBy__Hour& DtMove__ToInterInter::by__Hour() co
 void DtMove__ToInterInter::setTugs(const ValueOfTugs& value)
 {
     Own.myTugs = value;
+}
+
+void DtMove__ToInterInter::setTugs(ValueOfTugs&& value)
+{
+    Own.myTugs = std::move(value);
 }
 
 const DtMove__ToInterInter::ValueOfTugs& DtMove__ToInterInter::tugs() const

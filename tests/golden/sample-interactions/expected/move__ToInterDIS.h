@@ -53,6 +53,7 @@ public:
     /// Where to.
     const ValueOfTarget_Point_& target_Point_() const;
     void setTarget_Point_(const ValueOfTarget_Point_& value);
+    void setTarget_Point_(ValueOfTarget_Point_&& value);
 
     typedef DtFloat64 ValueOfBy__Hour;
     /// Until when.
@@ -63,6 +64,7 @@ public:
     /// Who helps.
     const ValueOfTugs& tugs() const;
     void setTugs(const ValueOfTugs& value);
+    void setTugs(ValueOfTugs&& value);
 
 protected:
     // For subclasses, which have names of their own.

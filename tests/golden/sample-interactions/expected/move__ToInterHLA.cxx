@@ -32,6 +32,11 @@ void DtMove__ToInter::setTarget_Point_(const ValueOfTarget_Point_& value)
     Own.myTarget_Point_ = value;
 }
 
+void DtMove__ToInter::setTarget_Point_(ValueOfTarget_Point_&& value)
+{
+    Own.myTarget_Point_ = std::move(value);
+}
+
 const DtMove__ToInter::ValueOfTarget_Point_& DtMove__ToInter::target_Point_() const
 {
     return Own.myTarget_Point_;
@@ -50,6 +55,11 @@ const DtMove__ToInter::ValueOfBy__Hour& DtMove__ToInter::by__Hour() const
 void DtMove__ToInter::setTugs(const ValueOfTugs& value)
 {
     Own.myTugs = value;
+}
+
+void DtMove__ToInter::setTugs(ValueOfTugs&& value)
+{
+    Own.myTugs = std::move(value);
 }
 
 const DtMove__ToInter::ValueOfTugs& DtMove__ToInter::tugs() const

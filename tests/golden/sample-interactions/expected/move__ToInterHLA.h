@@ -38,6 +38,7 @@ public:
     /// Where to.
     const ValueOfTarget_Point_& target_Point_() const;
     void setTarget_Point_(const ValueOfTarget_Point_& value);
+    void setTarget_Point_(ValueOfTarget_Point_&& value);
 
     typedef DtFloat64 ValueOfBy__Hour;
     /// Until when.
@@ -48,6 +49,7 @@ public:
     /// Who helps.
     const ValueOfTugs& tugs() const;
     void setTugs(const ValueOfTugs& value);
+    void setTugs(ValueOfTugs&& value);
 
 protected:
     // For subclasses, which have names and coders of their own.

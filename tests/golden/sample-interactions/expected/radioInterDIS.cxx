@@ -45,6 +45,11 @@ void DtRadioInterInter::setText(const ValueOfText& value)
     Own.myText = value;
 }
 
+void DtRadioInterInter::setText(ValueOfText&& value)
+{
+    Own.myText = std::move(value);
+}
+
 const DtRadioInterInter::ValueOfText& DtRadioInterInter::text() const
 {
     return Own.myText;

@@ -56,6 +56,7 @@ public:
     /// What is said.
     const ValueOfText& text() const;
     void setText(const ValueOfText& value);
+    void setText(ValueOfText&& value);
 
 protected:
     // For subclasses, which have names of their own.

@@ -42,6 +42,11 @@ void DtRadioInter::setText(const ValueOfText& value)
     Own.myText = value;
 }
 
+void DtRadioInter::setText(ValueOfText&& value)
+{
+    Own.myText = std::move(value);
+}
+
 const DtRadioInter::ValueOfText& DtRadioInter::text() const
 {
     return Own.myText;

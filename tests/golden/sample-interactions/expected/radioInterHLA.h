@@ -41,6 +41,7 @@ public:
     /// What is said.
     const ValueOfText& text() const;
     void setText(const ValueOfText& value);
+    void setText(ValueOfText&& value);
 
 protected:
     // For subclasses, which have names and coders of their own.

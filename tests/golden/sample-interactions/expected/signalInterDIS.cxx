@@ -35,6 +35,11 @@ void DtSignalInterInter::setSent(const ValueOfSent& value)
     Own.mySent = value;
 }
 
+void DtSignalInterInter::setSent(ValueOfSent&& value)
+{
+    Own.mySent = std::move(value);
+}
+
 const DtSignalInterInter::ValueOfSent& DtSignalInterInter::sent() const
 {
     return Own.mySent;
@@ -43,6 +48,11 @@ const DtSignalInterInter::ValueOfSent& DtSignalInterInter::sent() const
 void DtSignalInterInter::setMessage(const ValueOfMessage& value)
 {
     Own.myMessage = value;
+}
+
+void DtSignalInterInter::setMessage(ValueOfMessage&& value)
+{
+    Own.myMessage = std::move(value);
 }
 
 const DtSignalInterInter::ValueOfMessage& DtSignalInterInter::message() const

@@ -32,6 +32,11 @@ void DtSignalInter::setSent(const ValueOfSent& value)
     Own.mySent = value;
 }
 
+void DtSignalInter::setSent(ValueOfSent&& value)
+{
+    Own.mySent = std::move(value);
+}
+
 const DtSignalInter::ValueOfSent& DtSignalInter::sent() const
 {
     return Own.mySent;
@@ -40,6 +45,11 @@ const DtSignalInter::ValueOfSent& DtSignalInter::sent() const
 void DtSignalInter::setMessage(const ValueOfMessage& value)
 {
     Own.myMessage = value;
+}
+
+void DtSignalInter::setMessage(ValueOfMessage&& value)
+{
+    Own.myMessage = std::move(value);
 }
 
 const DtSignalInter::ValueOfMessage& DtSignalInter::message() const

@@ -38,11 +38,13 @@ public:
     /// When.
     const ValueOfSent& sent() const;
     void setSent(const ValueOfSent& value);
+    void setSent(ValueOfSent&& value);
 
     typedef DtSignalMessage ValueOfMessage;
     /// What.
     const ValueOfMessage& message() const;
     void setMessage(const ValueOfMessage& value);
+    void setMessage(ValueOfMessage&& value);
 
     typedef bool ValueOfSure;
     /// Whether it is certain.

@@ -37,6 +37,7 @@ public:
     typedef DtQxPacket ValueOfSeed;
     const ValueOfSeed& seed() const;
     void setSeed(const ValueOfSeed& value);
+    void setSeed(ValueOfSeed&& value);
 
 private:
     // The values stand in a structure of their own, where no accessor can share their names.

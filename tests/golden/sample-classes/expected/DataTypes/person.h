@@ -24,6 +24,7 @@ public:
     /// A part.
     const DtString& fullName() const { return Own.myFullName; }
     void setFullName(const DtString& value) { Own.myFullName = value; }
+    void setFullName(DtString&& value) { Own.myFullName = std::move(value); }
     /// A part.
     /// Units: 1.
     const DtCount8& age() const { return Own.myAge; }

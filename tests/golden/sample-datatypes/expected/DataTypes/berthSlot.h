@@ -29,11 +29,13 @@ public:
     void setNumber(const DtCount8& value) { Own.myNumber = value; }
     const DtTideMark& start() const { return Own.myStart; }
     void setStart(const DtTideMark& value) { Own.myStart = value; }
+    void setStart(DtTideMark&& value) { Own.myStart = std::move(value); }
     /// Units: kg.
     const DtWeight__Kg& load__Max() const { return Own.myLoad__Max; }
     void setLoad__Max(const DtWeight__Kg& value) { Own.myLoad__Max = value; }
     const DtTideMark& until() const { return Own.myUntil; }
     void setUntil(const DtTideMark& value) { Own.myUntil = value; }
+    void setUntil(DtTideMark&& value) { Own.myUntil = std::move(value); }
 
     // Hands each field to the filler, as filler(name, value).
     template <class Filler>

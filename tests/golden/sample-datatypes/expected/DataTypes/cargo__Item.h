@@ -26,6 +26,7 @@ public:
     /// A part.
     const DtOldText& label() const { return Own.myLabel; }
     void setLabel(const DtOldText& value) { Own.myLabel = value; }
+    void setLabel(DtOldText&& value) { Own.myLabel = std::move(value); }
     /// A part.
     /// Units: kg.
     const DtWeight__Kg& weight__Gross() const { return Own.myWeight__Gross; }
@@ -33,6 +34,7 @@ public:
     /// A part.
     const DtPlain__Four& theTemplate() const { return Own.mytemplate; }
     void setTheTemplate(const DtPlain__Four& value) { Own.mytemplate = value; }
+    void setTheTemplate(DtPlain__Four&& value) { Own.mytemplate = std::move(value); }
 
     // Hands each field to the filler, as filler(name, value).
     template <class Filler>

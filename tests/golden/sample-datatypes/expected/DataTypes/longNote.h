@@ -27,6 +27,7 @@ public:
     void setAuthor(const DtU16& value) { Own.myAuthor = value; }
     const DtRouteCode& words() const { return Own.myWords; }
     void setWords(const DtRouteCode& value) { Own.myWords = value; }
+    void setWords(DtRouteCode&& value) { Own.myWords = std::move(value); }
     /// Units: 1.
     const DtCount8& rating() const { return Own.myRating; }
     void setRating(const DtCount8& value) { Own.myRating = value; }

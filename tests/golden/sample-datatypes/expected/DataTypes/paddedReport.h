@@ -30,11 +30,13 @@ public:
     void setCode(const DtCount8& value) { Own.myCode = value; }
     const DtFillTo32& fill() const { return Own.myFill; }
     void setFill(const DtFillTo32& value) { Own.myFill = value; }
+    void setFill(DtFillTo32&& value) { Own.myFill = std::move(value); }
     /// Units: 1.
     const DtCount8& value() const { return Own.myValue; }
     void setValue(const DtCount8& value) { Own.myValue = value; }
     const DtFillTo64& rest() const { return Own.myRest; }
     void setRest(const DtFillTo64& value) { Own.myRest = value; }
+    void setRest(DtFillTo64&& value) { Own.myRest = std::move(value); }
     /// Units: 1.
     const DtCount8& tail() const { return Own.myTail; }
     void setTail(const DtCount8& value) { Own.myTail = value; }

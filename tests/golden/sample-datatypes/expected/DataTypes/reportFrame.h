@@ -27,6 +27,7 @@ public:
     void setLead(const DtCount8& value) { Own.myLead = value; }
     const DtPaddedReport& body() const { return Own.myBody; }
     void setBody(const DtPaddedReport& value) { Own.myBody = value; }
+    void setBody(DtPaddedReport&& value) { Own.myBody = std::move(value); }
 
     // Hands each field to the filler, as filler(name, value).
     template <class Filler>

@@ -25,8 +25,10 @@ public:
 
     const DtBerthSlot& slot() const { return Own.mySlot; }
     void setSlot(const DtBerthSlot& value) { Own.mySlot = value; }
+    void setSlot(DtBerthSlot&& value) { Own.mySlot = std::move(value); }
     const DtGeoPoint& centre() const { return Own.myCentre; }
     void setCentre(const DtGeoPoint& value) { Own.myCentre = value; }
+    void setCentre(DtGeoPoint&& value) { Own.myCentre = std::move(value); }
     /// Units: 1.
     const DtCount8& turns() const { return Own.myTurns; }
     void setTurns(const DtCount8& value) { Own.myTurns = value; }

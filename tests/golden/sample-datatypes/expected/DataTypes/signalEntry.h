@@ -24,8 +24,10 @@ public:
 
     const DtClockTime& sentAt() const { return Own.mySentAt; }
     void setSentAt(const DtClockTime& value) { Own.mySentAt = value; }
+    void setSentAt(DtClockTime&& value) { Own.mySentAt = std::move(value); }
     const DtSignalMessage& what() const { return Own.myWhat; }
     void setWhat(const DtSignalMessage& value) { Own.myWhat = value; }
+    void setWhat(DtSignalMessage&& value) { Own.myWhat = std::move(value); }
 
     // Hands each field to the filler, as filler(name, value).
     template <class Filler>

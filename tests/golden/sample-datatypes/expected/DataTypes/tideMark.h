@@ -23,6 +23,7 @@ public:
 
     const DtClockTime& at() const { return Own.myAt; }
     void setAt(const DtClockTime& value) { Own.myAt = value; }
+    void setAt(DtClockTime&& value) { Own.myAt = std::move(value); }
     /// Units: cm.
     const DtInt16& level() const { return Own.myLevel; }
     void setLevel(const DtInt16& value) { Own.myLevel = value; }

@@ -33,9 +33,11 @@ public:
     /// A part.
     const DtGustPair& gusts() const { return Own.myGusts; }
     void setGusts(const DtGustPair& value) { Own.myGusts = value; }
+    void setGusts(DtGustPair&& value) { Own.myGusts = std::move(value); }
     /// A part.
     const DtOldRun& marks() const { return Own.myMarks; }
     void setMarks(const DtOldRun& value) { Own.myMarks = value; }
+    void setMarks(DtOldRun&& value) { Own.myMarks = std::move(value); }
 
     // Hands each field to the filler, as filler(name, value).
     template <class Filler>

@@ -25,8 +25,10 @@ public:
 
     const DtQxSeeds& front() const { return Own.myFront; }
     void setFront(const DtQxSeeds& value) { Own.myFront = value; }
+    void setFront(DtQxSeeds&& value) { Own.myFront = std::move(value); }
     const DtQxSeeds& back() const { return Own.myBack; }
     void setBack(const DtQxSeeds& value) { Own.myBack = value; }
+    void setBack(DtQxSeeds&& value) { Own.myBack = std::move(value); }
 
     // Hands each field to the filler, as filler(name, value).
     template <class Filler>

@@ -21,6 +21,14 @@ struct DtDataTypeFileWriter::DtTokens
         static const DtTokenTable<Writer> theTable(theRows);
         return theTable;
     }
+    static const DtTokenTable<Writer>& ofAttribute()
+    {
+        static const DtTokenRow<Writer> theRows[] = {
+            {"<!AttributeMutableName!>", [](const Writer& w) { return w.mutableName(); }},
+        };
+        static const DtTokenTable<Writer> theTable(theRows, [](const Writer& w) { return hasCurrentAttribute(w); });
+        return theTable;
+    }
 };
 
 DtDataTypeFileWriter::DtDataTypeFileWriter(const DtString& fileName, const DtString& templateName,
@@ -28,9 +36,10 @@ DtDataTypeFileWriter::DtDataTypeFileWriter(const DtString& fileName, const DtStr
     : DtClassFileWriter(fileName, templateName),
       myIsXmlModel(DtFilename(DtSettings::instance().cpp.fomDefinitionFileName).extension() == "xml"),
       myNames(names),
-      myHeadTokens(DtTokens::head(), this, DtTokenMemory::OneLine)
+      myHeadTokens(DtTokens::head(), this, DtTokenMemory::OneLine),
+      myMemberTokens(DtTokens::ofAttribute(), this, DtTokenMemory::OneLine)
 {
-    myTokenChain.putAhead({&myHeadTokens});
+    myTokenChain.putAhead({&myHeadTokens, &myMemberTokens});
 }
 
 void DtDataTypeFileWriter::writeMultipleTimes(const DtString& loopName, std::istream& stream)
@@ -102,6 +111,19 @@ DtString DtDataTypeFileWriter::classIdentifier() const
     if (myCurrentDatatype == nullptr)
         return DtClassFileWriter::identifierOf(myClassName);
     return DtDatatypeClassNames::instance().identifierOf(myCurrentDatatype->getName(), myClassName);
+}
+
+DtString DtDataTypeFileWriter::mutableName() const
+{
+    DtCCompatibleNames names = namesSoFar();
+    const DtString name = "mutable" + accessorNamesOf(currentAttribute()->name(), names).setter;
+    const auto isCalledSo = [&](const DtAttribute& member)
+    {
+        return DtFirstCharToLower(member.name()).startsWith("mutable") &&
+               accessorNamesOf(member.name(), names).getter == name;
+    };
+    const std::vector<DtAttribute>& members = attributeList();
+    return std::any_of(members.begin(), members.end(), isCalledSo) ? DtString() : name;
 }
 
 void DtDataTypeFileWriter::writeClassDatatypes(std::istream& stream)

@@ -54,11 +54,15 @@ private:
     void writeClassDatatypes(std::istream& stream);
     // The C++ name of the current class.
     DtString classIdentifier() const;
+    // The name of the operation that gives the current attribute to be changed; empty where the accessor of a member is
+    // called so.
+    DtString mutableName() const;
     bool isOwnClass(const DtString& type) const;
 
     DtCCompatibleNames& myNames;
     std::map<const DtOMTNode*, DtString> myDocumentations; // of the compiled datatypes
     DtTokenValues<DtDataTypeFileWriter> myHeadTokens;
+    DtTokenValues<DtDataTypeFileWriter> myMemberTokens;
 };
 
 #endif

@@ -99,6 +99,7 @@ private Q_SLOTS:
     void fieldsAreMembersInOrder();
     void fixedRecordWithoutFields();
     void fixedRecordTokens();
+    void mutableNameGivesWayToAnAccessor();
     void textsStructuresAndOctetsAreMovable();
     void laterMembersAreKnownAhead();
     void recordIncludesItsMembersButNotItself();
@@ -183,6 +184,29 @@ void TestRecordFileWriters::fixedRecordTokens()
     QCOMPARE(writer.expand("<#ClassDatatypes><!ClassNetName!> <!NetTypeIsVariableSize!> <!NetTypeIsVariantRecord!>"
                            "<#Attributes> (<!NetTypeIsVariableSize!>,<!NetTypeIsVariantRecord!>)<#><#>"),
              QString("DtNetRwDtTokens <!NetTypeIsVariableSize!> <!NetTypeIsVariantRecord!> (1,) (,1) (,1)"));
+}
+
+void TestRecordFileWriters::mutableNameGivesWayToAnAccessor()
+{
+    const RunSettings settings;
+    DtOMTTree tree;
+    FixedProbe writer("", "");
+    writer.compileAttributes(addFixed(tree, "RwMutable",
+                                      {
+                                          {"speed",        "RwA"},
+                                          {"MutableSpeed", "RwA"},
+                                          {"Depth",        "RwA"},
+                                          {"mutableDepth", "RwA"},
+                                          {"Template",     "RwA"},
+                                          {"mutable",      "RwA"},
+                                          {"MUtableX",     "RwA"},
+                                          {"X",            "RwA"}
+    }),
+                             &tree);
+    QCOMPARE(writer.expand("<#ClassDatatypes><#Attributes> <!AttributeMutableName!>,<#><#>"),
+             QString(" , mutableMutableSpeed, , mutableMutableDepth, mutableTheTemplate, mutableTheMutable, "
+                     "mutableMUtableX, mutableX,"));
+    QCOMPARE(writer.expand("<!AttributeMutableName!>"), QString("<!AttributeMutableName!>"));
 }
 
 void TestRecordFileWriters::textsStructuresAndOctetsAreMovable()

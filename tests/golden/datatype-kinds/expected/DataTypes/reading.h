@@ -27,8 +27,10 @@ public:
     /// Units: h.
     const DtHours& at() const { return Own.myAt; }
     void setAt(const DtHours& value) { Own.myAt = value; }
+    DtHours& mutableAt() { return Own.myAt; }
     const DtState8& state() const { return Own.myState; }
     void setState(const DtState8& value) { Own.myState = value; }
+    DtState8& mutableState() { return Own.myState; }
 
     // Hands each field to the filler, as filler(name, value).
     template <class Filler>

@@ -25,14 +25,17 @@ public:
     const DtString& fullName() const { return Own.myFullName; }
     void setFullName(const DtString& value) { Own.myFullName = value; }
     void setFullName(DtString&& value) { Own.myFullName = std::move(value); }
+    DtString& mutableFullName() { return Own.myFullName; }
     /// A part.
     /// Units: 1.
     const DtCount8& age() const { return Own.myAge; }
     void setAge(const DtCount8& value) { Own.myAge = value; }
+    DtCount8& mutableAge() { return Own.myAge; }
     /// A part.
     /// Units: cm.
     const DtInt16& height__cm() const { return Own.myHeight__cm; }
     void setHeight__cm(const DtInt16& value) { Own.myHeight__cm = value; }
+    DtInt16& mutableHeight__cm() { return Own.myHeight__cm; }
 
     // Hands each field to the filler, as filler(name, value).
     template <class Filler>

@@ -27,15 +27,19 @@ public:
     /// Units: 1.
     const DtCount8& number() const { return Own.myNumber; }
     void setNumber(const DtCount8& value) { Own.myNumber = value; }
+    DtCount8& mutableNumber() { return Own.myNumber; }
     const DtTideMark& start() const { return Own.myStart; }
     void setStart(const DtTideMark& value) { Own.myStart = value; }
     void setStart(DtTideMark&& value) { Own.myStart = std::move(value); }
+    DtTideMark& mutableStart() { return Own.myStart; }
     /// Units: kg.
     const DtWeight__Kg& load__Max() const { return Own.myLoad__Max; }
     void setLoad__Max(const DtWeight__Kg& value) { Own.myLoad__Max = value; }
+    DtWeight__Kg& mutableLoad__Max() { return Own.myLoad__Max; }
     const DtTideMark& until() const { return Own.myUntil; }
     void setUntil(const DtTideMark& value) { Own.myUntil = value; }
     void setUntil(DtTideMark&& value) { Own.myUntil = std::move(value); }
+    DtTideMark& mutableUntil() { return Own.myUntil; }
 
     // Hands each field to the filler, as filler(name, value).
     template <class Filler>

@@ -24,10 +24,12 @@ public:
     /// Units: kn.
     const DtFloat32& low() const { return Own.myLow; }
     void setLow(const DtFloat32& value) { Own.myLow = value; }
+    DtFloat32& mutableLow() { return Own.myLow; }
     /// A part.
     /// Units: kn.
     const DtFloat32& high() const { return Own.myHigh; }
     void setHigh(const DtFloat32& value) { Own.myHigh = value; }
+    DtFloat32& mutableHigh() { return Own.myHigh; }
 
     // Hands each field to the filler, as filler(name, value).
     template <class Filler>

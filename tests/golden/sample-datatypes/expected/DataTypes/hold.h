@@ -29,17 +29,21 @@ public:
     /// A part.
     const bool& full() const { return Own.myFull; }
     void setFull(const bool& value) { Own.myFull = value; }
+    bool& mutableFull() { return Own.myFull; }
     /// A part.
     /// Units: kg.
     const DtWeight__Kg& load() const { return Own.myLoad; }
     void setLoad(const DtWeight__Kg& value) { Own.myLoad = value; }
+    DtWeight__Kg& mutableLoad() { return Own.myLoad; }
     /// A part.
     const DtVesselState8& state() const { return Own.myState; }
     void setState(const DtVesselState8& value) { Own.myState = value; }
+    DtVesselState8& mutableState() { return Own.myState; }
     /// A part.
     /// Units: 1.
     const DtSub_Count_& sub() const { return Own.mySub; }
     void setSub(const DtSub_Count_& value) { Own.mySub = value; }
+    DtSub_Count_& mutableSub() { return Own.mySub; }
 
     // Hands each field to the filler, as filler(name, value).
     template <class Filler>

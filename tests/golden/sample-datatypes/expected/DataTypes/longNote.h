@@ -25,15 +25,19 @@ public:
 
     const DtU16& author() const { return Own.myAuthor; }
     void setAuthor(const DtU16& value) { Own.myAuthor = value; }
+    DtU16& mutableAuthor() { return Own.myAuthor; }
     const DtRouteCode& words() const { return Own.myWords; }
     void setWords(const DtRouteCode& value) { Own.myWords = value; }
     void setWords(DtRouteCode&& value) { Own.myWords = std::move(value); }
+    DtRouteCode& mutableWords() { return Own.myWords; }
     /// Units: 1.
     const DtCount8& rating() const { return Own.myRating; }
     void setRating(const DtCount8& value) { Own.myRating = value; }
+    DtCount8& mutableRating() { return Own.myRating; }
     /// Units: 1.
     const DtRegisterNumber& sum() const { return Own.mySum; }
     void setSum(const DtRegisterNumber& value) { Own.mySum = value; }
+    DtRegisterNumber& mutableSum() { return Own.mySum; }
 
     // Hands each field to the filler, as filler(name, value).
     template <class Filler>

@@ -28,18 +28,23 @@ public:
     /// Units: 1.
     const DtCount8& code() const { return Own.myCode; }
     void setCode(const DtCount8& value) { Own.myCode = value; }
+    DtCount8& mutableCode() { return Own.myCode; }
     const DtFillTo32& fill() const { return Own.myFill; }
     void setFill(const DtFillTo32& value) { Own.myFill = value; }
     void setFill(DtFillTo32&& value) { Own.myFill = std::move(value); }
+    DtFillTo32& mutableFill() { return Own.myFill; }
     /// Units: 1.
     const DtCount8& value() const { return Own.myValue; }
     void setValue(const DtCount8& value) { Own.myValue = value; }
+    DtCount8& mutableValue() { return Own.myValue; }
     const DtFillTo64& rest() const { return Own.myRest; }
     void setRest(const DtFillTo64& value) { Own.myRest = value; }
     void setRest(DtFillTo64&& value) { Own.myRest = std::move(value); }
+    DtFillTo64& mutableRest() { return Own.myRest; }
     /// Units: 1.
     const DtCount8& tail() const { return Own.myTail; }
     void setTail(const DtCount8& value) { Own.myTail = value; }
+    DtCount8& mutableTail() { return Own.myTail; }
 
     // Hands each field to the filler, as filler(name, value).
     template <class Filler>

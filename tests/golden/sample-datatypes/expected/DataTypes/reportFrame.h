@@ -25,9 +25,11 @@ public:
     /// Units: 1.
     const DtCount8& lead() const { return Own.myLead; }
     void setLead(const DtCount8& value) { Own.myLead = value; }
+    DtCount8& mutableLead() { return Own.myLead; }
     const DtPaddedReport& body() const { return Own.myBody; }
     void setBody(const DtPaddedReport& value) { Own.myBody = value; }
     void setBody(DtPaddedReport&& value) { Own.myBody = std::move(value); }
+    DtPaddedReport& mutableBody() { return Own.myBody; }
 
     // Hands each field to the filler, as filler(name, value).
     template <class Filler>

@@ -26,12 +26,15 @@ public:
     const DtBerthSlot& slot() const { return Own.mySlot; }
     void setSlot(const DtBerthSlot& value) { Own.mySlot = value; }
     void setSlot(DtBerthSlot&& value) { Own.mySlot = std::move(value); }
+    DtBerthSlot& mutableSlot() { return Own.mySlot; }
     const DtGeoPoint& centre() const { return Own.myCentre; }
     void setCentre(const DtGeoPoint& value) { Own.myCentre = value; }
     void setCentre(DtGeoPoint&& value) { Own.myCentre = std::move(value); }
+    DtGeoPoint& mutableCentre() { return Own.myCentre; }
     /// Units: 1.
     const DtCount8& turns() const { return Own.myTurns; }
     void setTurns(const DtCount8& value) { Own.myTurns = value; }
+    DtCount8& mutableTurns() { return Own.myTurns; }
 
     // Hands each field to the filler, as filler(name, value).
     template <class Filler>

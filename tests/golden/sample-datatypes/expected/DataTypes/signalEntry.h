@@ -25,9 +25,11 @@ public:
     const DtClockTime& sentAt() const { return Own.mySentAt; }
     void setSentAt(const DtClockTime& value) { Own.mySentAt = value; }
     void setSentAt(DtClockTime&& value) { Own.mySentAt = std::move(value); }
+    DtClockTime& mutableSentAt() { return Own.mySentAt; }
     const DtSignalMessage& what() const { return Own.myWhat; }
     void setWhat(const DtSignalMessage& value) { Own.myWhat = value; }
     void setWhat(DtSignalMessage&& value) { Own.myWhat = std::move(value); }
+    DtSignalMessage& mutableWhat() { return Own.myWhat; }
 
     // Hands each field to the filler, as filler(name, value).
     template <class Filler>

@@ -24,9 +24,11 @@ public:
     const DtClockTime& at() const { return Own.myAt; }
     void setAt(const DtClockTime& value) { Own.myAt = value; }
     void setAt(DtClockTime&& value) { Own.myAt = std::move(value); }
+    DtClockTime& mutableAt() { return Own.myAt; }
     /// Units: cm.
     const DtInt16& level() const { return Own.myLevel; }
     void setLevel(const DtInt16& value) { Own.myLevel = value; }
+    DtInt16& mutableLevel() { return Own.myLevel; }
 
     // Hands each field to the filler, as filler(name, value).
     template <class Filler>

@@ -26,18 +26,22 @@ public:
     /// Units: kn.
     const DtFloat32& speed() const { return Own.mySpeed; }
     void setSpeed(const DtFloat32& value) { Own.mySpeed = value; }
+    DtFloat32& mutableSpeed() { return Own.mySpeed; }
     /// A part.
     /// Units: deg.
     const DtFloat64& from() const { return Own.myFrom; }
     void setFrom(const DtFloat64& value) { Own.myFrom = value; }
+    DtFloat64& mutableFrom() { return Own.myFrom; }
     /// A part.
     const DtGustPair& gusts() const { return Own.myGusts; }
     void setGusts(const DtGustPair& value) { Own.myGusts = value; }
     void setGusts(DtGustPair&& value) { Own.myGusts = std::move(value); }
+    DtGustPair& mutableGusts() { return Own.myGusts; }
     /// A part.
     const DtOldRun& marks() const { return Own.myMarks; }
     void setMarks(const DtOldRun& value) { Own.myMarks = value; }
     void setMarks(DtOldRun&& value) { Own.myMarks = std::move(value); }
+    DtOldRun& mutableMarks() { return Own.myMarks; }
 
     // Hands each field to the filler, as filler(name, value).
     template <class Filler>

@@ -27,14 +27,17 @@ public:
     const DtOldText& label() const { return Own.myLabel; }
     void setLabel(const DtOldText& value) { Own.myLabel = value; }
     void setLabel(DtOldText&& value) { Own.myLabel = std::move(value); }
+    DtOldText& mutableLabel() { return Own.myLabel; }
     /// A part.
     /// Units: kg.
     const DtWeight__Kg& weight__Gross() const { return Own.myWeight__Gross; }
     void setWeight__Gross(const DtWeight__Kg& value) { Own.myWeight__Gross = value; }
+    DtWeight__Kg& mutableWeight__Gross() { return Own.myWeight__Gross; }
     /// A part.
     const DtPlain__Four& theTemplate() const { return Own.mytemplate; }
     void setTheTemplate(const DtPlain__Four& value) { Own.mytemplate = value; }
     void setTheTemplate(DtPlain__Four&& value) { Own.mytemplate = std::move(value); }
+    DtPlain__Four& mutableTheTemplate() { return Own.mytemplate; }
 
     // Hands each field to the filler, as filler(name, value).
     template <class Filler>

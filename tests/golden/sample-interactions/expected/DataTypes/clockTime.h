@@ -24,12 +24,15 @@ public:
     /// Units: 1.
     const DtCount8& hour() const { return Own.myHour; }
     void setHour(const DtCount8& value) { Own.myHour = value; }
+    DtCount8& mutableHour() { return Own.myHour; }
     /// Units: 1.
     const DtCount8& minute() const { return Own.myMinute; }
     void setMinute(const DtCount8& value) { Own.myMinute = value; }
+    DtCount8& mutableMinute() { return Own.myMinute; }
     /// Units: 1.
     const DtCount8& second() const { return Own.mySecond; }
     void setSecond(const DtCount8& value) { Own.mySecond = value; }
+    DtCount8& mutableSecond() { return Own.mySecond; }
 
     // Hands each field to the filler, as filler(name, value).
     template <class Filler>

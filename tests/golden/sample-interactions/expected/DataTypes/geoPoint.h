@@ -24,13 +24,16 @@ public:
     /// Units: deg.
     const DtFloat64& latitude() const { return Own.myLatitude; }
     void setLatitude(const DtFloat64& value) { Own.myLatitude = value; }
+    DtFloat64& mutableLatitude() { return Own.myLatitude; }
     /// A part.
     /// Units: deg.
     const DtFloat64& longitude() const { return Own.myLongitude; }
     void setLongitude(const DtFloat64& value) { Own.myLongitude = value; }
+    DtFloat64& mutableLongitude() { return Own.myLongitude; }
     /// A part.
     const DtFloat32& height() const { return Own.myHeight; }
     void setHeight(const DtFloat32& value) { Own.myHeight = value; }
+    DtFloat32& mutableHeight() { return Own.myHeight; }
 
     // Hands each field to the filler, as filler(name, value).
     template <class Filler>

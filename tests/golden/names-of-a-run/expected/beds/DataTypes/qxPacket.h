@@ -26,9 +26,11 @@ public:
     const DtQxSeeds& front() const { return Own.myFront; }
     void setFront(const DtQxSeeds& value) { Own.myFront = value; }
     void setFront(DtQxSeeds&& value) { Own.myFront = std::move(value); }
+    DtQxSeeds& mutableFront() { return Own.myFront; }
     const DtQxSeeds& back() const { return Own.myBack; }
     void setBack(const DtQxSeeds& value) { Own.myBack = value; }
     void setBack(DtQxSeeds&& value) { Own.myBack = std::move(value); }
+    DtQxSeeds& mutableBack() { return Own.myBack; }
 
     // Hands each field to the filler, as filler(name, value).
     template <class Filler>

@@ -27,12 +27,12 @@ inline QStringList linesForRecord(const QString& header)
     return lines += "return parts.of(\"record\");";
 }
 
-// An alternative's setter tells its place.
+// An alternative's accessor tells its place.
 inline QStringList linesForVariant(const QString& header)
 {
-    static const QRegularExpression theAlternative("^    const .*& (\\w+)\\(\\) const \\{ return Own\\.my\\w+; \\}\n   "
-                                                   " void set.*\n    \\{\n.*\n +select\\((\\d+)\\);$",
-                                                   QRegularExpression::MultilineOption);
+    static const QRegularExpression theAlternative(
+        "^    const .*& (\\w+)\\(\\) const \\{ return Own\\.value\\.get<(\\d+)>\\(\\); \\}$",
+        QRegularExpression::MultilineOption);
     QStringList lines{"DtPrintedParts parts;", "parts.add(\"discriminant\", value.discriminant());",
                       "parts.add(\"selected\", value.selected());"};
     for (auto each = theAlternative.globalMatch(header); each.hasNext();)

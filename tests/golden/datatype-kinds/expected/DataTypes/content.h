@@ -13,11 +13,14 @@
 #include "DataTypes/hours.h"
 #include "DataTypes/reading.h"
 
+#include <qx/alternatives.h>
+
 enum class DtState8 : DtInt64;
 DT_DLL_CASE DtEnumeratorTable DtEnumeratorsOf(DtState8);
 DT_DLL_CASE std::ostream& operator<<(std::ostream& out, DtState8 value);
 
-// A variant record: a discriminant and the alternative that it selects. Setting an alternative selects it.
+// A variant record: a discriminant and the alternative that it selects. Setting an alternative selects it, and so does
+// the accessor that gives it to be changed. The others have no value then: their accessors give a default one.
 //
 // Its own operations take an argument or are templates, so that an alternative may bear any name.
 class DT_DLL_CASE DtContent
@@ -38,6 +41,7 @@ public:
     void setDiscriminant(Value value)
     {
         Own.selector = value;
+        Own.value.keep(placeOf(Own.selector));
     }
     // The place of the selected alternative among those that have a value, from 0; -1 when none is selected.
     template <class Result = int>
@@ -47,18 +51,13 @@ public:
     }
 
     /// Units: h.
-    const DtHours& idle() const { return Own.myIdle; }
-    void setIdle(const DtHours& value)
-    {
-        Own.myIdle = value;
-        select(0);
-    }
-    const DtReading& busy() const { return Own.myBusy; }
-    void setBusy(const DtReading& value)
-    {
-        Own.myBusy = value;
-        select(1);
-    }
+    const DtHours& idle() const { return Own.value.get<0>(); }
+    void setIdle(const DtHours& value) { take<0>(value); }
+    DtHours& mutableIdle() { return change<0, DtHours>(); }
+    const DtReading& busy() const { return Own.value.get<1>(); }
+    void setBusy(const DtReading& value) { take<1>(value); }
+    void setBusy(DtReading&& value) { take<1>(std::move(value)); }
+    DtReading& mutableBusy() { return change<1, DtReading>(); }
 
     // Selects the alternative that filler.choose(count) names, and hands it to the filler as filler(name, value).
     template <class Filler>
@@ -71,13 +70,13 @@ public:
         switch (placeOf(Own.selector))
         {
         case 0:
-            filler("Idle", Own.myIdle);
+            filler("Idle", Own.value.hold<0>());
             break;
         case 1:
-            filler("Busy", Own.myBusy);
+            filler("Busy", Own.value.hold<1>());
             break;
         default:
-            break;
+            Own.value.clear();
         }
     }
 
@@ -112,13 +111,29 @@ private:
 
     static int placeOf(const Discriminant& selector);
     void select(unsigned int alternative);
+    template <int alternative, class Value>
+    void take(Value&& value)
+    {
+        Own.value.set<alternative>(std::forward<Value>(value));
+        select(alternative);
+    }
+    template <int alternative, class Value>
+    Value& change()
+    {
+        select(alternative);
+        return Own.value.hold<alternative>();
+    }
 
     // The values stand in a structure of their own, where no accessor can share their names.
     struct OwnValues
     {
+        OwnValues() : selector() {}
+
         Discriminant selector;
-        DtHours myIdle;
-        DtReading myBusy;
+        DtAlternatives<
+            DtHours,
+            DtReading>
+            value;
     };
 
     OwnValues Own;

@@ -13,11 +13,14 @@
 #include "DataTypes/weight__Kg.h"
 #include "DataTypes/count8.h"
 
+#include <qx/alternatives.h>
+
 enum class DtTool16 : DtInt64;
 DT_DLL_CASE DtEnumeratorTable DtEnumeratorsOf(DtTool16);
 DT_DLL_CASE std::ostream& operator<<(std::ostream& out, DtTool16 value);
 
-// A variant record: a discriminant and the alternative that it selects. Setting an alternative selects it.
+// A variant record: a discriminant and the alternative that it selects. Setting an alternative selects it, and so does
+// the accessor that gives it to be changed. The others have no value then: their accessors give a default one.
 //
 // Its own operations take an argument or are templates, so that an alternative may bear any name.
 /// With its length; more tools may follow.
@@ -39,6 +42,7 @@ public:
     void setDiscriminant(Value value)
     {
         Own.selector = value;
+        Own.value.keep(placeOf(Own.selector));
     }
     // The place of the selected alternative among those that have a value, from 0; -1 when none is selected.
     template <class Result = int>
@@ -48,25 +52,17 @@ public:
     }
 
     /// Units: kg.
-    const DtWeight__Kg& chain() const { return Own.myChain; }
-    void setChain(const DtWeight__Kg& value)
-    {
-        Own.myChain = value;
-        select(0);
-    }
+    const DtWeight__Kg& chain() const { return Own.value.get<0>(); }
+    void setChain(const DtWeight__Kg& value) { take<0>(value); }
+    DtWeight__Kg& mutableChain() { return change<0, DtWeight__Kg>(); }
     /// Units: 1.
-    const DtCount8& lift() const { return Own.myLift; }
-    void setLift(const DtCount8& value)
-    {
-        Own.myLift = value;
-        select(1);
-    }
-    const DtString& band() const { return Own.myBand; }
-    void setBand(const DtString& value)
-    {
-        Own.myBand = value;
-        select(2);
-    }
+    const DtCount8& lift() const { return Own.value.get<1>(); }
+    void setLift(const DtCount8& value) { take<1>(value); }
+    DtCount8& mutableLift() { return change<1, DtCount8>(); }
+    const DtString& band() const { return Own.value.get<2>(); }
+    void setBand(const DtString& value) { take<2>(value); }
+    void setBand(DtString&& value) { take<2>(std::move(value)); }
+    DtString& mutableBand() { return change<2, DtString>(); }
 
     // Selects the alternative that filler.choose(count) names, and hands it to the filler as filler(name, value).
     template <class Filler>
@@ -79,16 +75,16 @@ public:
         switch (placeOf(Own.selector))
         {
         case 0:
-            filler("Chain", Own.myChain);
+            filler("Chain", Own.value.hold<0>());
             break;
         case 1:
-            filler("Lift", Own.myLift);
+            filler("Lift", Own.value.hold<1>());
             break;
         case 2:
-            filler("Band", Own.myBand);
+            filler("Band", Own.value.hold<2>());
             break;
         default:
-            break;
+            Own.value.clear();
         }
     }
 
@@ -123,14 +119,30 @@ private:
 
     static int placeOf(const Discriminant& selector);
     void select(unsigned int alternative);
+    template <int alternative, class Value>
+    void take(Value&& value)
+    {
+        Own.value.set<alternative>(std::forward<Value>(value));
+        select(alternative);
+    }
+    template <int alternative, class Value>
+    Value& change()
+    {
+        select(alternative);
+        return Own.value.hold<alternative>();
+    }
 
     // The values stand in a structure of their own, where no accessor can share their names.
     struct OwnValues
     {
+        OwnValues() : selector() {}
+
         Discriminant selector;
-        DtWeight__Kg myChain;
-        DtCount8 myLift;
-        DtString myBand;
+        DtAlternatives<
+            DtWeight__Kg,
+            DtCount8,
+            DtString>
+            value;
     };
 
     OwnValues Own;

@@ -11,7 +11,6 @@ DtInspection::DtInspection() : Own()
 {
 }
 
-// Alternatives that are not selected do not count.
 bool DtInspection::operator==(const DtInspection& other) const
 {
     if (Own.selector != other.Own.selector)
@@ -19,11 +18,11 @@ bool DtInspection::operator==(const DtInspection& other) const
     switch (selected<int>())
     {
     case 0:
-        return Own.myHull == other.Own.myHull;
+        return Own.value.get<0>() == other.Own.value.get<0>();
     case 1:
-        return Own.myHours == other.Own.myHours;
+        return Own.value.get<1>() == other.Own.value.get<1>();
     case 2:
-        return Own.myHole == other.Own.myHole;
+        return Own.value.get<2>() == other.Own.value.get<2>();
     default:
         return true;
     }
@@ -44,13 +43,13 @@ void DtInspection::encode(DtWireWriter& writer) const
     {
     case 0:
         return DtEncodeAlternative(
-            writer, Own.myHull, Coding::formOf(0), Coding::kind(), theBoundary);
+            writer, Own.value.get<0>(), Coding::formOf(0), Coding::kind(), theBoundary);
     case 1:
         return DtEncodeAlternative(
-            writer, Own.myHours, Coding::formOf(1), Coding::kind(), theBoundary);
+            writer, Own.value.get<1>(), Coding::formOf(1), Coding::kind(), theBoundary);
     case 2:
         return DtEncodeAlternative(
-            writer, Own.myHole, Coding::formOf(2), Coding::kind(), theBoundary);
+            writer, Own.value.get<2>(), Coding::formOf(2), Coding::kind(), theBoundary);
     default:
         return DtEncodeNoAlternative(writer, Coding::kind());
     }
@@ -75,17 +74,18 @@ bool DtInspection::decodeInto(DtWireReader& reader)
     {
     case 0:
         done = DtDecodeAlternative(
-            reader, Own.myHull, Coding::formOf(0), Coding::kind(), theBoundary);
+            reader, Own.value.hold<0>(), Coding::formOf(0), Coding::kind(), theBoundary);
         break;
     case 1:
         done = DtDecodeAlternative(
-            reader, Own.myHours, Coding::formOf(1), Coding::kind(), theBoundary);
+            reader, Own.value.hold<1>(), Coding::formOf(1), Coding::kind(), theBoundary);
         break;
     case 2:
         done = DtDecodeAlternative(
-            reader, Own.myHole, Coding::formOf(2), Coding::kind(), theBoundary);
+            reader, Own.value.hold<2>(), Coding::formOf(2), Coding::kind(), theBoundary);
         break;
     default:
+        Own.value.keep(placeOf(Own.selector)); // a discriminant that cannot be read stays, and so does its value
         done = done && DtDecodeNoAlternative(reader, Coding::kind());
     }
     return done;

@@ -13,11 +13,14 @@
 #include "DataTypes/depthGrid.h"
 #include "DataTypes/harbourUnsigned16LE.h"
 
+#include <qx/alternatives.h>
+
 enum class DtVesselState8 : DtInt64;
 DT_DLL_CASE DtEnumeratorTable DtEnumeratorsOf(DtVesselState8);
 DT_DLL_CASE std::ostream& operator<<(std::ostream& out, DtVesselState8 value);
 
-// A variant record: a discriminant and the alternative that it selects. Setting an alternative selects it.
+// A variant record: a discriminant and the alternative that it selects. Setting an alternative selects it, and so does
+// the accessor that gives it to be changed. The others have no value then: their accessors give a default one.
 //
 // Its own operations take an argument or are templates, so that an alternative may bear any name.
 /// With its length and without gaps.
@@ -39,6 +42,7 @@ public:
     void setDiscriminant(Value value)
     {
         Own.selector = value;
+        Own.value.keep(placeOf(Own.selector));
     }
     // The place of the selected alternative among those that have a value, from 0; -1 when none is selected.
     template <class Result = int>
@@ -47,25 +51,17 @@ public:
         return placeOf(Own.selector);
     }
 
-    const DtDepthGrid& hull() const { return Own.myHull; }
-    void setHull(const DtDepthGrid& value)
-    {
-        Own.myHull = value;
-        select(0);
-    }
+    const DtDepthGrid& hull() const { return Own.value.get<0>(); }
+    void setHull(const DtDepthGrid& value) { take<0>(value); }
+    void setHull(DtDepthGrid&& value) { take<0>(std::move(value)); }
+    DtDepthGrid& mutableHull() { return change<0, DtDepthGrid>(); }
     /// Units: deg.
-    const DtFloat64& hours() const { return Own.myHours; }
-    void setHours(const DtFloat64& value)
-    {
-        Own.myHours = value;
-        select(1);
-    }
-    const DtHarbourUnsigned16LE& hole() const { return Own.myHole; }
-    void setHole(const DtHarbourUnsigned16LE& value)
-    {
-        Own.myHole = value;
-        select(2);
-    }
+    const DtFloat64& hours() const { return Own.value.get<1>(); }
+    void setHours(const DtFloat64& value) { take<1>(value); }
+    DtFloat64& mutableHours() { return change<1, DtFloat64>(); }
+    const DtHarbourUnsigned16LE& hole() const { return Own.value.get<2>(); }
+    void setHole(const DtHarbourUnsigned16LE& value) { take<2>(value); }
+    DtHarbourUnsigned16LE& mutableHole() { return change<2, DtHarbourUnsigned16LE>(); }
 
     // Selects the alternative that filler.choose(count) names, and hands it to the filler as filler(name, value).
     template <class Filler>
@@ -78,16 +74,16 @@ public:
         switch (placeOf(Own.selector))
         {
         case 0:
-            filler("Hull", Own.myHull);
+            filler("Hull", Own.value.hold<0>());
             break;
         case 1:
-            filler("Hours", Own.myHours);
+            filler("Hours", Own.value.hold<1>());
             break;
         case 2:
-            filler("Hole", Own.myHole);
+            filler("Hole", Own.value.hold<2>());
             break;
         default:
-            break;
+            Own.value.clear();
         }
     }
 
@@ -122,14 +118,30 @@ private:
 
     static int placeOf(const Discriminant& selector);
     void select(unsigned int alternative);
+    template <int alternative, class Value>
+    void take(Value&& value)
+    {
+        Own.value.set<alternative>(std::forward<Value>(value));
+        select(alternative);
+    }
+    template <int alternative, class Value>
+    Value& change()
+    {
+        select(alternative);
+        return Own.value.hold<alternative>();
+    }
 
     // The values stand in a structure of their own, where no accessor can share their names.
     struct OwnValues
     {
+        OwnValues() : selector() {}
+
         Discriminant selector;
-        DtDepthGrid myHull;
-        DtFloat64 myHours;
-        DtHarbourUnsigned16LE myHole;
+        DtAlternatives<
+            DtDepthGrid,
+            DtFloat64,
+            DtHarbourUnsigned16LE>
+            value;
     };
 
     OwnValues Own;

@@ -11,7 +11,6 @@ DtLampReport::DtLampReport() : Own()
 {
 }
 
-// Alternatives that are not selected do not count.
 bool DtLampReport::operator==(const DtLampReport& other) const
 {
     if (Own.selector != other.Own.selector)
@@ -19,9 +18,9 @@ bool DtLampReport::operator==(const DtLampReport& other) const
     switch (selected<int>())
     {
     case 0:
-        return Own.myPeriod == other.Own.myPeriod;
+        return Own.value.get<0>() == other.Own.value.get<0>();
     case 1:
-        return Own.myCause == other.Own.myCause;
+        return Own.value.get<1>() == other.Own.value.get<1>();
     default:
         return true;
     }
@@ -42,10 +41,10 @@ void DtLampReport::encode(DtWireWriter& writer) const
     {
     case 0:
         return DtEncodeAlternative(
-            writer, Own.myPeriod, Coding::formOf(0), Coding::kind(), theBoundary);
+            writer, Own.value.get<0>(), Coding::formOf(0), Coding::kind(), theBoundary);
     case 1:
         return DtEncodeAlternative(
-            writer, Own.myCause, Coding::formOf(1), Coding::kind(), theBoundary);
+            writer, Own.value.get<1>(), Coding::formOf(1), Coding::kind(), theBoundary);
     default:
         return DtEncodeNoAlternative(writer, Coding::kind());
     }
@@ -70,13 +69,14 @@ bool DtLampReport::decodeInto(DtWireReader& reader)
     {
     case 0:
         done = DtDecodeAlternative(
-            reader, Own.myPeriod, Coding::formOf(0), Coding::kind(), theBoundary);
+            reader, Own.value.hold<0>(), Coding::formOf(0), Coding::kind(), theBoundary);
         break;
     case 1:
         done = DtDecodeAlternative(
-            reader, Own.myCause, Coding::formOf(1), Coding::kind(), theBoundary);
+            reader, Own.value.hold<1>(), Coding::formOf(1), Coding::kind(), theBoundary);
         break;
     default:
+        Own.value.keep(placeOf(Own.selector)); // a discriminant that cannot be read stays, and so does its value
         done = done && DtDecodeNoAlternative(reader, Coding::kind());
     }
     return done;

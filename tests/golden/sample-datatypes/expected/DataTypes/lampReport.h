@@ -11,11 +11,14 @@
 
 #include "dllExport.h"
 
+#include <qx/alternatives.h>
+
 enum class DtLampState : DtInt64;
 DT_DLL_CASE DtEnumeratorTable DtEnumeratorsOf(DtLampState);
 DT_DLL_CASE std::ostream& operator<<(std::ostream& out, DtLampState value);
 
-// A variant record: a discriminant and the alternative that it selects. Setting an alternative selects it.
+// A variant record: a discriminant and the alternative that it selects. Setting an alternative selects it, and so does
+// the accessor that gives it to be changed. The others have no value then: their accessors give a default one.
 //
 // Its own operations take an argument or are templates, so that an alternative may bear any name.
 /// By a number below zero, too.
@@ -37,6 +40,7 @@ public:
     void setDiscriminant(Value value)
     {
         Own.selector = value;
+        Own.value.keep(placeOf(Own.selector));
     }
     // The place of the selected alternative among those that have a value, from 0; -1 when none is selected.
     template <class Result = int>
@@ -46,18 +50,13 @@ public:
     }
 
     /// Units: kn.
-    const DtFloat32& period() const { return Own.myPeriod; }
-    void setPeriod(const DtFloat32& value)
-    {
-        Own.myPeriod = value;
-        select(0);
-    }
-    const DtString& cause() const { return Own.myCause; }
-    void setCause(const DtString& value)
-    {
-        Own.myCause = value;
-        select(1);
-    }
+    const DtFloat32& period() const { return Own.value.get<0>(); }
+    void setPeriod(const DtFloat32& value) { take<0>(value); }
+    DtFloat32& mutablePeriod() { return change<0, DtFloat32>(); }
+    const DtString& cause() const { return Own.value.get<1>(); }
+    void setCause(const DtString& value) { take<1>(value); }
+    void setCause(DtString&& value) { take<1>(std::move(value)); }
+    DtString& mutableCause() { return change<1, DtString>(); }
 
     // Selects the alternative that filler.choose(count) names, and hands it to the filler as filler(name, value).
     template <class Filler>
@@ -70,13 +69,13 @@ public:
         switch (placeOf(Own.selector))
         {
         case 0:
-            filler("Period", Own.myPeriod);
+            filler("Period", Own.value.hold<0>());
             break;
         case 1:
-            filler("Cause", Own.myCause);
+            filler("Cause", Own.value.hold<1>());
             break;
         default:
-            break;
+            Own.value.clear();
         }
     }
 
@@ -111,13 +110,29 @@ private:
 
     static int placeOf(const Discriminant& selector);
     void select(unsigned int alternative);
+    template <int alternative, class Value>
+    void take(Value&& value)
+    {
+        Own.value.set<alternative>(std::forward<Value>(value));
+        select(alternative);
+    }
+    template <int alternative, class Value>
+    Value& change()
+    {
+        select(alternative);
+        return Own.value.hold<alternative>();
+    }
 
     // The values stand in a structure of their own, where no accessor can share their names.
     struct OwnValues
     {
+        OwnValues() : selector() {}
+
         Discriminant selector;
-        DtFloat32 myPeriod;
-        DtString myCause;
+        DtAlternatives<
+            DtFloat32,
+            DtString>
+            value;
     };
 
     OwnValues Own;

@@ -11,7 +11,6 @@ DtOccupant::DtOccupant() : Own()
 {
 }
 
-// Alternatives that are not selected do not count.
 bool DtOccupant::operator==(const DtOccupant& other) const
 {
     if (Own.selector != other.Own.selector)
@@ -19,11 +18,11 @@ bool DtOccupant::operator==(const DtOccupant& other) const
     switch (selected<int>())
     {
     case 0:
-        return Own.myShip == other.Own.myShip;
+        return Own.value.get<0>() == other.Own.value.get<0>();
     case 1:
-        return Own.myArrival == other.Own.myArrival;
+        return Own.value.get<1>() == other.Own.value.get<1>();
     case 2:
-        return Own.myWreck == other.Own.myWreck;
+        return Own.value.get<2>() == other.Own.value.get<2>();
     default:
         return true;
     }
@@ -44,13 +43,13 @@ void DtOccupant::encode(DtWireWriter& writer) const
     {
     case 0:
         return DtEncodeAlternative(
-            writer, Own.myShip, Coding::formOf(0), Coding::kind(), theBoundary);
+            writer, Own.value.get<0>(), Coding::formOf(0), Coding::kind(), theBoundary);
     case 1:
         return DtEncodeAlternative(
-            writer, Own.myArrival, Coding::formOf(1), Coding::kind(), theBoundary);
+            writer, Own.value.get<1>(), Coding::formOf(1), Coding::kind(), theBoundary);
     case 2:
         return DtEncodeAlternative(
-            writer, Own.myWreck, Coding::formOf(2), Coding::kind(), theBoundary);
+            writer, Own.value.get<2>(), Coding::formOf(2), Coding::kind(), theBoundary);
     default:
         return DtEncodeNoAlternative(writer, Coding::kind());
     }
@@ -75,17 +74,18 @@ bool DtOccupant::decodeInto(DtWireReader& reader)
     {
     case 0:
         done = DtDecodeAlternative(
-            reader, Own.myShip, Coding::formOf(0), Coding::kind(), theBoundary);
+            reader, Own.value.hold<0>(), Coding::formOf(0), Coding::kind(), theBoundary);
         break;
     case 1:
         done = DtDecodeAlternative(
-            reader, Own.myArrival, Coding::formOf(1), Coding::kind(), theBoundary);
+            reader, Own.value.hold<1>(), Coding::formOf(1), Coding::kind(), theBoundary);
         break;
     case 2:
         done = DtDecodeAlternative(
-            reader, Own.myWreck, Coding::formOf(2), Coding::kind(), theBoundary);
+            reader, Own.value.hold<2>(), Coding::formOf(2), Coding::kind(), theBoundary);
         break;
     default:
+        Own.value.keep(placeOf(Own.selector)); // a discriminant that cannot be read stays, and so does its value
         done = done && DtDecodeNoAlternative(reader, Coding::kind());
     }
     return done;

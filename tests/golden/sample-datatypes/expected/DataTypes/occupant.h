@@ -13,11 +13,14 @@
 #include "DataTypes/shortText.h"
 #include "DataTypes/cargo__Item.h"
 
+#include <qx/alternatives.h>
+
 enum class DtVesselState8 : DtInt64;
 DT_DLL_CASE DtEnumeratorTable DtEnumeratorsOf(DtVesselState8);
 DT_DLL_CASE std::ostream& operator<<(std::ostream& out, DtVesselState8 value);
 
-// A variant record: a discriminant and the alternative that it selects. Setting an alternative selects it.
+// A variant record: a discriminant and the alternative that it selects. Setting an alternative selects it, and so does
+// the accessor that gives it to be changed. The others have no value then: their accessors give a default one.
 //
 // Its own operations take an argument or are templates, so that an alternative may bear any name.
 /// Who lies at a berth.
@@ -39,6 +42,7 @@ public:
     void setDiscriminant(Value value)
     {
         Own.selector = value;
+        Own.value.keep(placeOf(Own.selector));
     }
     // The place of the selected alternative among those that have a value, from 0; -1 when none is selected.
     template <class Result = int>
@@ -48,27 +52,20 @@ public:
     }
 
     /// One of several contents.
-    const DtShortText& ship() const { return Own.myShip; }
-    void setShip(const DtShortText& value)
-    {
-        Own.myShip = value;
-        select(0);
-    }
+    const DtShortText& ship() const { return Own.value.get<0>(); }
+    void setShip(const DtShortText& value) { take<0>(value); }
+    void setShip(DtShortText&& value) { take<0>(std::move(value)); }
+    DtShortText& mutableShip() { return change<0, DtShortText>(); }
     /// One of several contents.
     /// Units: deg.
-    const DtFloat64& arrival() const { return Own.myArrival; }
-    void setArrival(const DtFloat64& value)
-    {
-        Own.myArrival = value;
-        select(1);
-    }
+    const DtFloat64& arrival() const { return Own.value.get<1>(); }
+    void setArrival(const DtFloat64& value) { take<1>(value); }
+    DtFloat64& mutableArrival() { return change<1, DtFloat64>(); }
     /// One of several contents.
-    const DtCargo__Item& wreck() const { return Own.myWreck; }
-    void setWreck(const DtCargo__Item& value)
-    {
-        Own.myWreck = value;
-        select(2);
-    }
+    const DtCargo__Item& wreck() const { return Own.value.get<2>(); }
+    void setWreck(const DtCargo__Item& value) { take<2>(value); }
+    void setWreck(DtCargo__Item&& value) { take<2>(std::move(value)); }
+    DtCargo__Item& mutableWreck() { return change<2, DtCargo__Item>(); }
 
     // Selects the alternative that filler.choose(count) names, and hands it to the filler as filler(name, value).
     template <class Filler>
@@ -81,16 +78,16 @@ public:
         switch (placeOf(Own.selector))
         {
         case 0:
-            filler("Ship", Own.myShip);
+            filler("Ship", Own.value.hold<0>());
             break;
         case 1:
-            filler("Arrival", Own.myArrival);
+            filler("Arrival", Own.value.hold<1>());
             break;
         case 2:
-            filler("Wreck", Own.myWreck);
+            filler("Wreck", Own.value.hold<2>());
             break;
         default:
-            break;
+            Own.value.clear();
         }
     }
 
@@ -125,14 +122,30 @@ private:
 
     static int placeOf(const Discriminant& selector);
     void select(unsigned int alternative);
+    template <int alternative, class Value>
+    void take(Value&& value)
+    {
+        Own.value.set<alternative>(std::forward<Value>(value));
+        select(alternative);
+    }
+    template <int alternative, class Value>
+    Value& change()
+    {
+        select(alternative);
+        return Own.value.hold<alternative>();
+    }
 
     // The values stand in a structure of their own, where no accessor can share their names.
     struct OwnValues
     {
+        OwnValues() : selector() {}
+
         Discriminant selector;
-        DtShortText myShip;
-        DtFloat64 myArrival;
-        DtCargo__Item myWreck;
+        DtAlternatives<
+            DtShortText,
+            DtFloat64,
+            DtCargo__Item>
+            value;
     };
 
     OwnValues Own;

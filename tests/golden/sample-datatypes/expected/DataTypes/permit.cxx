@@ -11,7 +11,6 @@ DtPermit::DtPermit() : Own()
 {
 }
 
-// Alternatives that are not selected do not count.
 bool DtPermit::operator==(const DtPermit& other) const
 {
     if (Own.selector != other.Own.selector)
@@ -19,7 +18,7 @@ bool DtPermit::operator==(const DtPermit& other) const
     switch (selected<int>())
     {
     case 0:
-        return Own.myUntil == other.Own.myUntil;
+        return Own.value.get<0>() == other.Own.value.get<0>();
     default:
         return true;
     }
@@ -40,7 +39,7 @@ void DtPermit::encode(DtWireWriter& writer) const
     {
     case 0:
         return DtEncodeAlternative(
-            writer, Own.myUntil, Coding::formOf(0), Coding::kind(), theBoundary);
+            writer, Own.value.get<0>(), Coding::formOf(0), Coding::kind(), theBoundary);
     default:
         return DtEncodeNoAlternative(writer, Coding::kind());
     }
@@ -65,9 +64,10 @@ bool DtPermit::decodeInto(DtWireReader& reader)
     {
     case 0:
         done = DtDecodeAlternative(
-            reader, Own.myUntil, Coding::formOf(0), Coding::kind(), theBoundary);
+            reader, Own.value.hold<0>(), Coding::formOf(0), Coding::kind(), theBoundary);
         break;
     default:
+        Own.value.keep(placeOf(Own.selector)); // a discriminant that cannot be read stays, and so does its value
         done = done && DtDecodeNoAlternative(reader, Coding::kind());
     }
     return done;

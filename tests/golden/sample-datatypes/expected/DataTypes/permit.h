@@ -12,7 +12,10 @@
 #include "dllExport.h"
 #include "DataTypes/clockTime.h"
 
-// A variant record: a discriminant and the alternative that it selects. Setting an alternative selects it.
+#include <qx/alternatives.h>
+
+// A variant record: a discriminant and the alternative that it selects. Setting an alternative selects it, and so does
+// the accessor that gives it to be changed. The others have no value then: their accessors give a default one.
 //
 // Its own operations take an argument or are templates, so that an alternative may bear any name.
 /// By a truth value of two octets.
@@ -34,6 +37,7 @@ public:
     void setDiscriminant(Value value)
     {
         Own.selector = value;
+        Own.value.keep(placeOf(Own.selector));
     }
     // The place of the selected alternative among those that have a value, from 0; -1 when none is selected.
     template <class Result = int>
@@ -42,12 +46,10 @@ public:
         return placeOf(Own.selector);
     }
 
-    const DtClockTime& until() const { return Own.myUntil; }
-    void setUntil(const DtClockTime& value)
-    {
-        Own.myUntil = value;
-        select(0);
-    }
+    const DtClockTime& until() const { return Own.value.get<0>(); }
+    void setUntil(const DtClockTime& value) { take<0>(value); }
+    void setUntil(DtClockTime&& value) { take<0>(std::move(value)); }
+    DtClockTime& mutableUntil() { return change<0, DtClockTime>(); }
 
     // Selects the alternative that filler.choose(count) names, and hands it to the filler as filler(name, value).
     template <class Filler>
@@ -60,10 +62,10 @@ public:
         switch (placeOf(Own.selector))
         {
         case 0:
-            filler("Until", Own.myUntil);
+            filler("Until", Own.value.hold<0>());
             break;
         default:
-            break;
+            Own.value.clear();
         }
     }
 
@@ -98,12 +100,28 @@ private:
 
     static int placeOf(const Discriminant& selector);
     void select(unsigned int alternative);
+    template <int alternative, class Value>
+    void take(Value&& value)
+    {
+        Own.value.set<alternative>(std::forward<Value>(value));
+        select(alternative);
+    }
+    template <int alternative, class Value>
+    Value& change()
+    {
+        select(alternative);
+        return Own.value.hold<alternative>();
+    }
 
     // The values stand in a structure of their own, where no accessor can share their names.
     struct OwnValues
     {
+        OwnValues() : selector() {}
+
         Discriminant selector;
-        DtClockTime myUntil;
+        DtAlternatives<
+            DtClockTime>
+            value;
     };
 
     OwnValues Own;

@@ -11,7 +11,6 @@ DtPositionFix::DtPositionFix() : Own()
 {
 }
 
-// Alternatives that are not selected do not count.
 bool DtPositionFix::operator==(const DtPositionFix& other) const
 {
     if (Own.selector != other.Own.selector)
@@ -19,9 +18,9 @@ bool DtPositionFix::operator==(const DtPositionFix& other) const
     switch (selected<int>())
     {
     case 0:
-        return Own.myExact == other.Own.myExact;
+        return Own.value.get<0>() == other.Own.value.get<0>();
     case 1:
-        return Own.myRough == other.Own.myRough;
+        return Own.value.get<1>() == other.Own.value.get<1>();
     default:
         return true;
     }
@@ -42,10 +41,10 @@ void DtPositionFix::encode(DtWireWriter& writer) const
     {
     case 0:
         return DtEncodeAlternative(
-            writer, Own.myExact, Coding::formOf(0), Coding::kind(), theBoundary);
+            writer, Own.value.get<0>(), Coding::formOf(0), Coding::kind(), theBoundary);
     case 1:
         return DtEncodeAlternative(
-            writer, Own.myRough, Coding::formOf(1), Coding::kind(), theBoundary);
+            writer, Own.value.get<1>(), Coding::formOf(1), Coding::kind(), theBoundary);
     default:
         return DtEncodeNoAlternative(writer, Coding::kind());
     }
@@ -70,13 +69,14 @@ bool DtPositionFix::decodeInto(DtWireReader& reader)
     {
     case 0:
         done = DtDecodeAlternative(
-            reader, Own.myExact, Coding::formOf(0), Coding::kind(), theBoundary);
+            reader, Own.value.hold<0>(), Coding::formOf(0), Coding::kind(), theBoundary);
         break;
     case 1:
         done = DtDecodeAlternative(
-            reader, Own.myRough, Coding::formOf(1), Coding::kind(), theBoundary);
+            reader, Own.value.hold<1>(), Coding::formOf(1), Coding::kind(), theBoundary);
         break;
     default:
+        Own.value.keep(placeOf(Own.selector)); // a discriminant that cannot be read stays, and so does its value
         done = done && DtDecodeNoAlternative(reader, Coding::kind());
     }
     return done;

@@ -12,7 +12,10 @@
 #include "dllExport.h"
 #include "DataTypes/geoPoint.h"
 
-// A variant record: a discriminant and the alternative that it selects. Setting an alternative selects it.
+#include <qx/alternatives.h>
+
+// A variant record: a discriminant and the alternative that it selects. Setting an alternative selects it, and so does
+// the accessor that gives it to be changed. The others have no value then: their accessors give a default one.
 //
 // Its own operations take an argument or are templates, so that an alternative may bear any name.
 /// By a truth value of four octets.
@@ -34,6 +37,7 @@ public:
     void setDiscriminant(Value value)
     {
         Own.selector = value;
+        Own.value.keep(placeOf(Own.selector));
     }
     // The place of the selected alternative among those that have a value, from 0; -1 when none is selected.
     template <class Result = int>
@@ -42,19 +46,14 @@ public:
         return placeOf(Own.selector);
     }
 
-    const DtGeoPoint& exact() const { return Own.myExact; }
-    void setExact(const DtGeoPoint& value)
-    {
-        Own.myExact = value;
-        select(0);
-    }
+    const DtGeoPoint& exact() const { return Own.value.get<0>(); }
+    void setExact(const DtGeoPoint& value) { take<0>(value); }
+    void setExact(DtGeoPoint&& value) { take<0>(std::move(value)); }
+    DtGeoPoint& mutableExact() { return change<0, DtGeoPoint>(); }
     /// Units: cm.
-    const DtInt16& rough() const { return Own.myRough; }
-    void setRough(const DtInt16& value)
-    {
-        Own.myRough = value;
-        select(1);
-    }
+    const DtInt16& rough() const { return Own.value.get<1>(); }
+    void setRough(const DtInt16& value) { take<1>(value); }
+    DtInt16& mutableRough() { return change<1, DtInt16>(); }
 
     // Selects the alternative that filler.choose(count) names, and hands it to the filler as filler(name, value).
     template <class Filler>
@@ -67,13 +66,13 @@ public:
         switch (placeOf(Own.selector))
         {
         case 0:
-            filler("Exact", Own.myExact);
+            filler("Exact", Own.value.hold<0>());
             break;
         case 1:
-            filler("Rough", Own.myRough);
+            filler("Rough", Own.value.hold<1>());
             break;
         default:
-            break;
+            Own.value.clear();
         }
     }
 
@@ -108,13 +107,29 @@ private:
 
     static int placeOf(const Discriminant& selector);
     void select(unsigned int alternative);
+    template <int alternative, class Value>
+    void take(Value&& value)
+    {
+        Own.value.set<alternative>(std::forward<Value>(value));
+        select(alternative);
+    }
+    template <int alternative, class Value>
+    Value& change()
+    {
+        select(alternative);
+        return Own.value.hold<alternative>();
+    }
 
     // The values stand in a structure of their own, where no accessor can share their names.
     struct OwnValues
     {
+        OwnValues() : selector() {}
+
         Discriminant selector;
-        DtGeoPoint myExact;
-        DtInt16 myRough;
+        DtAlternatives<
+            DtGeoPoint,
+            DtInt16>
+            value;
     };
 
     OwnValues Own;

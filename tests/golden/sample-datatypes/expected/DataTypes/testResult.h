@@ -12,7 +12,10 @@
 #include "dllExport.h"
 #include "DataTypes/count8.h"
 
-// A variant record: a discriminant and the alternative that it selects. Setting an alternative selects it.
+#include <qx/alternatives.h>
+
+// A variant record: a discriminant and the alternative that it selects. Setting an alternative selects it, and so does
+// the accessor that gives it to be changed. The others have no value then: their accessors give a default one.
 //
 // Its own operations take an argument or are templates, so that an alternative may bear any name.
 /// By a truth value of one octet.
@@ -34,6 +37,7 @@ public:
     void setDiscriminant(Value value)
     {
         Own.selector = value;
+        Own.value.keep(placeOf(Own.selector));
     }
     // The place of the selected alternative among those that have a value, from 0; -1 when none is selected.
     template <class Result = int>
@@ -42,19 +46,13 @@ public:
         return placeOf(Own.selector);
     }
 
-    const DtInt16& score() const { return Own.myScore; }
-    void setScore(const DtInt16& value)
-    {
-        Own.myScore = value;
-        select(0);
-    }
+    const DtInt16& score() const { return Own.value.get<0>(); }
+    void setScore(const DtInt16& value) { take<0>(value); }
+    DtInt16& mutableScore() { return change<0, DtInt16>(); }
     /// Units: 1.
-    const DtCount8& fault() const { return Own.myFault; }
-    void setFault(const DtCount8& value)
-    {
-        Own.myFault = value;
-        select(1);
-    }
+    const DtCount8& fault() const { return Own.value.get<1>(); }
+    void setFault(const DtCount8& value) { take<1>(value); }
+    DtCount8& mutableFault() { return change<1, DtCount8>(); }
 
     // Selects the alternative that filler.choose(count) names, and hands it to the filler as filler(name, value).
     template <class Filler>
@@ -67,13 +65,13 @@ public:
         switch (placeOf(Own.selector))
         {
         case 0:
-            filler("Score", Own.myScore);
+            filler("Score", Own.value.hold<0>());
             break;
         case 1:
-            filler("Fault", Own.myFault);
+            filler("Fault", Own.value.hold<1>());
             break;
         default:
-            break;
+            Own.value.clear();
         }
     }
 
@@ -108,13 +106,29 @@ private:
 
     static int placeOf(const Discriminant& selector);
     void select(unsigned int alternative);
+    template <int alternative, class Value>
+    void take(Value&& value)
+    {
+        Own.value.set<alternative>(std::forward<Value>(value));
+        select(alternative);
+    }
+    template <int alternative, class Value>
+    Value& change()
+    {
+        select(alternative);
+        return Own.value.hold<alternative>();
+    }
 
     // The values stand in a structure of their own, where no accessor can share their names.
     struct OwnValues
     {
+        OwnValues() : selector() {}
+
         Discriminant selector;
-        DtInt16 myScore;
-        DtCount8 myFault;
+        DtAlternatives<
+            DtInt16,
+            DtCount8>
+            value;
     };
 
     OwnValues Own;

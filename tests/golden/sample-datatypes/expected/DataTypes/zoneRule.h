@@ -12,11 +12,14 @@
 #include "dllExport.h"
 #include "DataTypes/count8.h"
 
+#include <qx/alternatives.h>
+
 enum class DtZone64 : DtInt64;
 DT_DLL_CASE DtEnumeratorTable DtEnumeratorsOf(DtZone64);
 DT_DLL_CASE std::ostream& operator<<(std::ostream& out, DtZone64 value);
 
-// A variant record: a discriminant and the alternative that it selects. Setting an alternative selects it.
+// A variant record: a discriminant and the alternative that it selects. Setting an alternative selects it, and so does
+// the accessor that gives it to be changed. The others have no value then: their accessors give a default one.
 //
 // Its own operations take an argument or are templates, so that an alternative may bear any name.
 /// By a number of eight octets.
@@ -38,6 +41,7 @@ public:
     void setDiscriminant(Value value)
     {
         Own.selector = value;
+        Own.value.keep(placeOf(Own.selector));
     }
     // The place of the selected alternative among those that have a value, from 0; -1 when none is selected.
     template <class Result = int>
@@ -47,19 +51,13 @@ public:
     }
 
     /// Units: kn.
-    const DtFloat32& limit() const { return Own.myLimit; }
-    void setLimit(const DtFloat32& value)
-    {
-        Own.myLimit = value;
-        select(0);
-    }
+    const DtFloat32& limit() const { return Own.value.get<0>(); }
+    void setLimit(const DtFloat32& value) { take<0>(value); }
+    DtFloat32& mutableLimit() { return change<0, DtFloat32>(); }
     /// Units: 1.
-    const DtCount8& free() const { return Own.myFree; }
-    void setFree(const DtCount8& value)
-    {
-        Own.myFree = value;
-        select(1);
-    }
+    const DtCount8& free() const { return Own.value.get<1>(); }
+    void setFree(const DtCount8& value) { take<1>(value); }
+    DtCount8& mutableFree() { return change<1, DtCount8>(); }
 
     // Selects the alternative that filler.choose(count) names, and hands it to the filler as filler(name, value).
     template <class Filler>
@@ -72,13 +70,13 @@ public:
         switch (placeOf(Own.selector))
         {
         case 0:
-            filler("Limit", Own.myLimit);
+            filler("Limit", Own.value.hold<0>());
             break;
         case 1:
-            filler("Free", Own.myFree);
+            filler("Free", Own.value.hold<1>());
             break;
         default:
-            break;
+            Own.value.clear();
         }
     }
 
@@ -113,13 +111,29 @@ private:
 
     static int placeOf(const Discriminant& selector);
     void select(unsigned int alternative);
+    template <int alternative, class Value>
+    void take(Value&& value)
+    {
+        Own.value.set<alternative>(std::forward<Value>(value));
+        select(alternative);
+    }
+    template <int alternative, class Value>
+    Value& change()
+    {
+        select(alternative);
+        return Own.value.hold<alternative>();
+    }
 
     // The values stand in a structure of their own, where no accessor can share their names.
     struct OwnValues
     {
+        OwnValues() : selector() {}
+
         Discriminant selector;
-        DtFloat32 myLimit;
-        DtCount8 myFree;
+        DtAlternatives<
+            DtFloat32,
+            DtCount8>
+            value;
     };
 
     OwnValues Own;

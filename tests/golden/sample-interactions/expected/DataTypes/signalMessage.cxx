@@ -11,7 +11,6 @@ DtSignalMessage::DtSignalMessage() : Own()
 {
 }
 
-// Alternatives that are not selected do not count.
 bool DtSignalMessage::operator==(const DtSignalMessage& other) const
 {
     if (Own.selector != other.Own.selector)
@@ -19,15 +18,15 @@ bool DtSignalMessage::operator==(const DtSignalMessage& other) const
     switch (selected<int>())
     {
     case 0:
-        return Own.myVisibility == other.Own.myVisibility;
+        return Own.value.get<0>() == other.Own.value.get<0>();
     case 1:
-        return Own.myStrength == other.Own.myStrength;
+        return Own.value.get<1>() == other.Own.value.get<1>();
     case 2:
-        return Own.myPlace == other.Own.myPlace;
+        return Own.value.get<2>() == other.Own.value.get<2>();
     case 3:
-        return Own.myStation == other.Own.myStation;
+        return Own.value.get<3>() == other.Own.value.get<3>();
     case 4:
-        return Own.myWords == other.Own.myWords;
+        return Own.value.get<4>() == other.Own.value.get<4>();
     default:
         return true;
     }
@@ -48,19 +47,19 @@ void DtSignalMessage::encode(DtWireWriter& writer) const
     {
     case 0:
         return DtEncodeAlternative(
-            writer, Own.myVisibility, Coding::formOf(0), Coding::kind(), theBoundary);
+            writer, Own.value.get<0>(), Coding::formOf(0), Coding::kind(), theBoundary);
     case 1:
         return DtEncodeAlternative(
-            writer, Own.myStrength, Coding::formOf(1), Coding::kind(), theBoundary);
+            writer, Own.value.get<1>(), Coding::formOf(1), Coding::kind(), theBoundary);
     case 2:
         return DtEncodeAlternative(
-            writer, Own.myPlace, Coding::formOf(2), Coding::kind(), theBoundary);
+            writer, Own.value.get<2>(), Coding::formOf(2), Coding::kind(), theBoundary);
     case 3:
         return DtEncodeAlternative(
-            writer, Own.myStation, Coding::formOf(3), Coding::kind(), theBoundary);
+            writer, Own.value.get<3>(), Coding::formOf(3), Coding::kind(), theBoundary);
     case 4:
         return DtEncodeAlternative(
-            writer, Own.myWords, Coding::formOf(4), Coding::kind(), theBoundary);
+            writer, Own.value.get<4>(), Coding::formOf(4), Coding::kind(), theBoundary);
     default:
         return DtEncodeNoAlternative(writer, Coding::kind());
     }
@@ -85,25 +84,26 @@ bool DtSignalMessage::decodeInto(DtWireReader& reader)
     {
     case 0:
         done = DtDecodeAlternative(
-            reader, Own.myVisibility, Coding::formOf(0), Coding::kind(), theBoundary);
+            reader, Own.value.hold<0>(), Coding::formOf(0), Coding::kind(), theBoundary);
         break;
     case 1:
         done = DtDecodeAlternative(
-            reader, Own.myStrength, Coding::formOf(1), Coding::kind(), theBoundary);
+            reader, Own.value.hold<1>(), Coding::formOf(1), Coding::kind(), theBoundary);
         break;
     case 2:
         done = DtDecodeAlternative(
-            reader, Own.myPlace, Coding::formOf(2), Coding::kind(), theBoundary);
+            reader, Own.value.hold<2>(), Coding::formOf(2), Coding::kind(), theBoundary);
         break;
     case 3:
         done = DtDecodeAlternative(
-            reader, Own.myStation, Coding::formOf(3), Coding::kind(), theBoundary);
+            reader, Own.value.hold<3>(), Coding::formOf(3), Coding::kind(), theBoundary);
         break;
     case 4:
         done = DtDecodeAlternative(
-            reader, Own.myWords, Coding::formOf(4), Coding::kind(), theBoundary);
+            reader, Own.value.hold<4>(), Coding::formOf(4), Coding::kind(), theBoundary);
         break;
     default:
+        Own.value.keep(placeOf(Own.selector)); // a discriminant that cannot be read stays, and so does its value
         done = done && DtDecodeNoAlternative(reader, Coding::kind());
     }
     return done;

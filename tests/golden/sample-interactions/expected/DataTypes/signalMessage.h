@@ -13,11 +13,14 @@
 #include "DataTypes/count8.h"
 #include "DataTypes/geoPoint.h"
 
+#include <qx/alternatives.h>
+
 enum class DtSignalKind16 : DtInt64;
 DT_DLL_CASE DtEnumeratorTable DtEnumeratorsOf(DtSignalKind16);
 DT_DLL_CASE std::ostream& operator<<(std::ostream& out, DtSignalKind16 value);
 
-// A variant record: a discriminant and the alternative that it selects. Setting an alternative selects it.
+// A variant record: a discriminant and the alternative that it selects. Setting an alternative selects it, and so does
+// the accessor that gives it to be changed. The others have no value then: their accessors give a default one.
 //
 // Its own operations take an argument or are templates, so that an alternative may bear any name.
 /// One, a list, a range in the order of declaration, and all others.
@@ -39,6 +42,7 @@ public:
     void setDiscriminant(Value value)
     {
         Own.selector = value;
+        Own.value.keep(placeOf(Own.selector));
     }
     // The place of the selected alternative among those that have a value, from 0; -1 when none is selected.
     template <class Result = int>
@@ -47,37 +51,25 @@ public:
         return placeOf(Own.selector);
     }
 
-    const DtInt32& visibility() const { return Own.myVisibility; }
-    void setVisibility(const DtInt32& value)
-    {
-        Own.myVisibility = value;
-        select(0);
-    }
+    const DtInt32& visibility() const { return Own.value.get<0>(); }
+    void setVisibility(const DtInt32& value) { take<0>(value); }
+    DtInt32& mutableVisibility() { return change<0, DtInt32>(); }
     /// Units: 1.
-    const DtCount8& strength() const { return Own.myStrength; }
-    void setStrength(const DtCount8& value)
-    {
-        Own.myStrength = value;
-        select(1);
-    }
-    const DtGeoPoint& place() const { return Own.myPlace; }
-    void setPlace(const DtGeoPoint& value)
-    {
-        Own.myPlace = value;
-        select(2);
-    }
-    const DtString& station() const { return Own.myStation; }
-    void setStation(const DtString& value)
-    {
-        Own.myStation = value;
-        select(3);
-    }
-    const DtString& words() const { return Own.myWords; }
-    void setWords(const DtString& value)
-    {
-        Own.myWords = value;
-        select(4);
-    }
+    const DtCount8& strength() const { return Own.value.get<1>(); }
+    void setStrength(const DtCount8& value) { take<1>(value); }
+    DtCount8& mutableStrength() { return change<1, DtCount8>(); }
+    const DtGeoPoint& place() const { return Own.value.get<2>(); }
+    void setPlace(const DtGeoPoint& value) { take<2>(value); }
+    void setPlace(DtGeoPoint&& value) { take<2>(std::move(value)); }
+    DtGeoPoint& mutablePlace() { return change<2, DtGeoPoint>(); }
+    const DtString& station() const { return Own.value.get<3>(); }
+    void setStation(const DtString& value) { take<3>(value); }
+    void setStation(DtString&& value) { take<3>(std::move(value)); }
+    DtString& mutableStation() { return change<3, DtString>(); }
+    const DtString& words() const { return Own.value.get<4>(); }
+    void setWords(const DtString& value) { take<4>(value); }
+    void setWords(DtString&& value) { take<4>(std::move(value)); }
+    DtString& mutableWords() { return change<4, DtString>(); }
 
     // Selects the alternative that filler.choose(count) names, and hands it to the filler as filler(name, value).
     template <class Filler>
@@ -90,22 +82,22 @@ public:
         switch (placeOf(Own.selector))
         {
         case 0:
-            filler("Visibility", Own.myVisibility);
+            filler("Visibility", Own.value.hold<0>());
             break;
         case 1:
-            filler("Strength", Own.myStrength);
+            filler("Strength", Own.value.hold<1>());
             break;
         case 2:
-            filler("Place", Own.myPlace);
+            filler("Place", Own.value.hold<2>());
             break;
         case 3:
-            filler("Station", Own.myStation);
+            filler("Station", Own.value.hold<3>());
             break;
         case 4:
-            filler("Words", Own.myWords);
+            filler("Words", Own.value.hold<4>());
             break;
         default:
-            break;
+            Own.value.clear();
         }
     }
 
@@ -140,16 +132,32 @@ private:
 
     static int placeOf(const Discriminant& selector);
     void select(unsigned int alternative);
+    template <int alternative, class Value>
+    void take(Value&& value)
+    {
+        Own.value.set<alternative>(std::forward<Value>(value));
+        select(alternative);
+    }
+    template <int alternative, class Value>
+    Value& change()
+    {
+        select(alternative);
+        return Own.value.hold<alternative>();
+    }
 
     // The values stand in a structure of their own, where no accessor can share their names.
     struct OwnValues
     {
+        OwnValues() : selector() {}
+
         Discriminant selector;
-        DtInt32 myVisibility;
-        DtCount8 myStrength;
-        DtGeoPoint myPlace;
-        DtString myStation;
-        DtString myWords;
+        DtAlternatives<
+            DtInt32,
+            DtCount8,
+            DtGeoPoint,
+            DtString,
+            DtString>
+            value;
     };
 
     OwnValues Own;

@@ -15,7 +15,7 @@ DtAnimalDecoder::DtAnimalDecoder()
 
 bool DtAnimalDecoder::decodeName(DtAnimalStateRepository& state, DtWireReader& reader)
 {
-    const DtWireForm form("HLAunicodeString", "", R"qx(HLAvariableArray)qx",
+    const DtWireForm form = DtWireForm("HLAunicodeString", "", R"qx(HLAvariableArray)qx",
         -1 /* elements */, 0 /* octets */, 0 /* little-endian */);
     auto value = state.name();
     if (!DtReadValue(reader, value, form))
@@ -28,8 +28,7 @@ bool DtAnimalDecoder::decodeName(DtAnimalStateRepository& state, DtWireReader& r
 
 bool DtAnimalDecoder::decodeLegs(DtAnimalStateRepository& state, DtWireReader& reader)
 {
-    const DtWireForm form("HLAinteger32BE", "", R"qx(HLAvariableArray)qx",
-        -1 /* elements */, 4 /* octets */, 0 /* little-endian */);
+    const DtWireForm form = DtWireForm::number(4);
     auto value = state.legs();
     if (!DtReadValue(reader, value, form))
     {

@@ -15,15 +15,14 @@ DtAnimalEncoder::DtAnimalEncoder()
 
 bool DtAnimalEncoder::encodeName(const DtAnimalStateRepository& state, DtWireWriter& writer)
 {
-    const DtWireForm form("HLAunicodeString", "", R"qx(HLAvariableArray)qx",
+    const DtWireForm form = DtWireForm("HLAunicodeString", "", R"qx(HLAvariableArray)qx",
         -1 /* elements */, 0 /* octets */, 0 /* little-endian */);
     return DtWriteValue(writer, state.name(), form);
 }
 
 bool DtAnimalEncoder::encodeLegs(const DtAnimalStateRepository& state, DtWireWriter& writer)
 {
-    const DtWireForm form("HLAinteger32BE", "", R"qx(HLAvariableArray)qx",
-        -1 /* elements */, 4 /* octets */, 0 /* little-endian */);
+    const DtWireForm form = DtWireForm::number(4);
     return DtWriteValue(writer, state.legs(), form);
 }
 

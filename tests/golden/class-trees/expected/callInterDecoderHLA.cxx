@@ -14,7 +14,7 @@ DtCallInterDecoder::DtCallInterDecoder()
 
 bool DtCallInterDecoder::decodeText(DtCallInter& interaction, DtWireReader& reader)
 {
-    const DtWireForm form("HLAASCIIstring", "", R"qx(HLAvariableArray)qx",
+    const DtWireForm form = DtWireForm("HLAASCIIstring", "", R"qx(HLAvariableArray)qx",
         -1 /* elements */, 0 /* octets */, 0 /* little-endian */);
     auto value = interaction.text();
     if (!DtReadValue(reader, value, form))

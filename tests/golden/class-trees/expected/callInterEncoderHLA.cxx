@@ -17,7 +17,7 @@ DtCallInterEncoder::DtCallInterEncoder()
 
 bool DtCallInterEncoder::encodeText(const DtCallInter& interaction, DtWireWriter& writer)
 {
-    const DtWireForm form("HLAASCIIstring", "", R"qx(HLAvariableArray)qx",
+    const DtWireForm form = DtWireForm("HLAASCIIstring", "", R"qx(HLAvariableArray)qx",
         -1 /* elements */, 0 /* octets */, 0 /* little-endian */);
     return DtWriteValue(writer, interaction.text(), form);
 }

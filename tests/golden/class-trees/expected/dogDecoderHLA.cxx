@@ -15,7 +15,7 @@ DtDogDecoder::DtDogDecoder()
 
 bool DtDogDecoder::decodeBarks(DtDogStateRepository& state, DtWireReader& reader)
 {
-    const DtWireForm form("HLAboolean", "", R"qx(HLAvariableArray)qx",
+    const DtWireForm form = DtWireForm("HLAboolean", "", R"qx(HLAvariableArray)qx",
         -1 /* elements */, 0 /* octets */, 0 /* little-endian */);
     auto value = state.barks();
     if (!DtReadValue(reader, value, form))
@@ -28,8 +28,7 @@ bool DtDogDecoder::decodeBarks(DtDogStateRepository& state, DtWireReader& reader
 
 bool DtDogDecoder::decodeWeight__Kg(DtDogStateRepository& state, DtWireReader& reader)
 {
-    const DtWireForm form("HLAfloat64BE", "", R"qx(HLAvariableArray)qx",
-        -1 /* elements */, 8 /* octets */, 0 /* little-endian */);
+    const DtWireForm form = DtWireForm::number(8);
     auto value = state.weight__Kg();
     if (!DtReadValue(reader, value, form))
     {

@@ -15,15 +15,14 @@ DtDogEncoder::DtDogEncoder()
 
 bool DtDogEncoder::encodeBarks(const DtDogStateRepository& state, DtWireWriter& writer)
 {
-    const DtWireForm form("HLAboolean", "", R"qx(HLAvariableArray)qx",
+    const DtWireForm form = DtWireForm("HLAboolean", "", R"qx(HLAvariableArray)qx",
         -1 /* elements */, 0 /* octets */, 0 /* little-endian */);
     return DtWriteValue(writer, state.barks(), form);
 }
 
 bool DtDogEncoder::encodeWeight__Kg(const DtDogStateRepository& state, DtWireWriter& writer)
 {
-    const DtWireForm form("HLAfloat64BE", "", R"qx(HLAvariableArray)qx",
-        -1 /* elements */, 8 /* octets */, 0 /* little-endian */);
+    const DtWireForm form = DtWireForm::number(8);
     return DtWriteValue(writer, state.weight__Kg(), form);
 }
 

@@ -14,8 +14,7 @@ DtLoudCallInterDecoder::DtLoudCallInterDecoder()
 
 bool DtLoudCallInterDecoder::decodeLoudness(DtLoudCallInter& interaction, DtWireReader& reader)
 {
-    const DtWireForm form("HLAfloat32BE", "", R"qx(HLAvariableArray)qx",
-        -1 /* elements */, 4 /* octets */, 0 /* little-endian */);
+    const DtWireForm form = DtWireForm::number(4);
     auto value = interaction.loudness();
     if (!DtReadValue(reader, value, form))
     {

@@ -17,8 +17,7 @@ DtLoudCallInterEncoder::DtLoudCallInterEncoder()
 
 bool DtLoudCallInterEncoder::encodeLoudness(const DtLoudCallInter& interaction, DtWireWriter& writer)
 {
-    const DtWireForm form("HLAfloat32BE", "", R"qx(HLAvariableArray)qx",
-        -1 /* elements */, 4 /* octets */, 0 /* little-endian */);
+    const DtWireForm form = DtWireForm::number(4);
     return DtWriteValue(writer, interaction.loudness(), form);
 }
 

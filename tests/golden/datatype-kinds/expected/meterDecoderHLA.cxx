@@ -21,8 +21,7 @@ DtMeterDecoder::DtMeterDecoder()
 
 bool DtMeterDecoder::decodeRaw(DtMeterStateRepository& state, DtWireReader& reader)
 {
-    const DtWireForm form("Unsigned16LE", "", R"qx(HLAvariableArray)qx",
-        -1 /* elements */, 2 /* octets */, 1 /* little-endian */);
+    const DtWireForm form = DtWireForm();
     auto value = state.raw();
     if (!DtReadValue(reader, value, form))
     {
@@ -34,8 +33,7 @@ bool DtMeterDecoder::decodeRaw(DtMeterStateRepository& state, DtWireReader& read
 
 bool DtMeterDecoder::decodeRunning(DtMeterStateRepository& state, DtWireReader& reader)
 {
-    const DtWireForm form("Hours", "Unsigned16LE", R"qx(HLAvariableArray)qx",
-        -1 /* elements */, 2 /* octets */, 1 /* little-endian */);
+    const DtWireForm form = DtWireForm();
     auto value = state.running();
     if (!DtReadValue(reader, value, form))
     {
@@ -47,8 +45,7 @@ bool DtMeterDecoder::decodeRunning(DtMeterStateRepository& state, DtWireReader& 
 
 bool DtMeterDecoder::decodeState(DtMeterStateRepository& state, DtWireReader& reader)
 {
-    const DtWireForm form("State8", "HLAoctet", R"qx(HLAvariableArray)qx",
-        -1 /* elements */, 1 /* octets */, 0 /* little-endian */);
+    const DtWireForm form = DtWireForm();
     auto value = state.state();
     if (!DtReadValue(reader, value, form))
     {
@@ -60,8 +57,7 @@ bool DtMeterDecoder::decodeState(DtMeterStateRepository& state, DtWireReader& re
 
 bool DtMeterDecoder::decodeWeek(DtMeterStateRepository& state, DtWireReader& reader)
 {
-    const DtWireForm form("Row", "Unsigned16LE", R"qx(HLAfixedArray)qx",
-        3 /* elements */, 2 /* octets */, 1 /* little-endian */);
+    const DtWireForm form = DtWireForm();
     auto value = state.week();
     if (!DtReadValue(reader, value, form))
     {
@@ -73,8 +69,7 @@ bool DtMeterDecoder::decodeWeek(DtMeterStateRepository& state, DtWireReader& rea
 
 bool DtMeterDecoder::decodeRemarks(DtMeterStateRepository& state, DtWireReader& reader)
 {
-    const DtWireForm form("Notes", "HLAASCIIchar", R"qx(HLAvariableArray)qx",
-        -1 /* elements */, 1 /* octets */, 0 /* little-endian */);
+    const DtWireForm form = DtWireForm();
     auto value = state.remarks();
     if (!DtReadValue(reader, value, form))
     {
@@ -86,8 +81,7 @@ bool DtMeterDecoder::decodeRemarks(DtMeterStateRepository& state, DtWireReader& 
 
 bool DtMeterDecoder::decodePast(DtMeterStateRepository& state, DtWireReader& reader)
 {
-    const DtWireForm form("History", "Reading", R"qx(HLAvariableArray)qx",
-        -1 /* elements */, 0 /* octets */, 0 /* little-endian */);
+    const DtWireForm form = DtWireForm();
     auto value = state.past();
     if (!DtReadValue(reader, value, form))
     {
@@ -99,8 +93,7 @@ bool DtMeterDecoder::decodePast(DtMeterStateRepository& state, DtWireReader& rea
 
 bool DtMeterDecoder::decodeLast(DtMeterStateRepository& state, DtWireReader& reader)
 {
-    const DtWireForm form("Reading", "", R"qx(HLAvariableArray)qx",
-        -1 /* elements */, 0 /* octets */, 0 /* little-endian */);
+    const DtWireForm form = DtWireForm();
     auto value = state.last();
     if (!DtReadValue(reader, value, form))
     {
@@ -112,8 +105,7 @@ bool DtMeterDecoder::decodeLast(DtMeterStateRepository& state, DtWireReader& rea
 
 bool DtMeterDecoder::decodeInside(DtMeterStateRepository& state, DtWireReader& reader)
 {
-    const DtWireForm form("Content", "", R"qx(HLAvariableArray)qx",
-        -1 /* elements */, 0 /* octets */, 0 /* little-endian */);
+    const DtWireForm form = DtWireForm();
     auto value = state.inside();
     if (!DtReadValue(reader, value, form))
     {

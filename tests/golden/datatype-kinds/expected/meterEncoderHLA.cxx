@@ -21,57 +21,49 @@ DtMeterEncoder::DtMeterEncoder()
 
 bool DtMeterEncoder::encodeRaw(const DtMeterStateRepository& state, DtWireWriter& writer)
 {
-    const DtWireForm form("Unsigned16LE", "", R"qx(HLAvariableArray)qx",
-        -1 /* elements */, 2 /* octets */, 1 /* little-endian */);
+    const DtWireForm form = DtWireForm();
     return DtWriteValue(writer, state.raw(), form);
 }
 
 bool DtMeterEncoder::encodeRunning(const DtMeterStateRepository& state, DtWireWriter& writer)
 {
-    const DtWireForm form("Hours", "Unsigned16LE", R"qx(HLAvariableArray)qx",
-        -1 /* elements */, 2 /* octets */, 1 /* little-endian */);
+    const DtWireForm form = DtWireForm();
     return DtWriteValue(writer, state.running(), form);
 }
 
 bool DtMeterEncoder::encodeState(const DtMeterStateRepository& state, DtWireWriter& writer)
 {
-    const DtWireForm form("State8", "HLAoctet", R"qx(HLAvariableArray)qx",
-        -1 /* elements */, 1 /* octets */, 0 /* little-endian */);
+    const DtWireForm form = DtWireForm();
     return DtWriteValue(writer, state.state(), form);
 }
 
 bool DtMeterEncoder::encodeWeek(const DtMeterStateRepository& state, DtWireWriter& writer)
 {
-    const DtWireForm form("Row", "Unsigned16LE", R"qx(HLAfixedArray)qx",
-        3 /* elements */, 2 /* octets */, 1 /* little-endian */);
+    const DtWireForm form = DtWireForm();
     return DtWriteValue(writer, state.week(), form);
 }
 
 bool DtMeterEncoder::encodeRemarks(const DtMeterStateRepository& state, DtWireWriter& writer)
 {
-    const DtWireForm form("Notes", "HLAASCIIchar", R"qx(HLAvariableArray)qx",
-        -1 /* elements */, 1 /* octets */, 0 /* little-endian */);
+    const DtWireForm form = DtWireForm();
     return DtWriteValue(writer, state.remarks(), form);
 }
 
 bool DtMeterEncoder::encodePast(const DtMeterStateRepository& state, DtWireWriter& writer)
 {
-    const DtWireForm form("History", "Reading", R"qx(HLAvariableArray)qx",
-        -1 /* elements */, 0 /* octets */, 0 /* little-endian */);
+    const DtWireForm form = DtWireForm();
     return DtWriteValue(writer, state.past(), form);
 }
 
 bool DtMeterEncoder::encodeLast(const DtMeterStateRepository& state, DtWireWriter& writer)
 {
-    const DtWireForm form("Reading", "", R"qx(HLAvariableArray)qx",
-        -1 /* elements */, 0 /* octets */, 0 /* little-endian */);
+    const DtWireForm form = DtWireForm();
     return DtWriteValue(writer, state.last(), form);
 }
 
 bool DtMeterEncoder::encodeInside(const DtMeterStateRepository& state, DtWireWriter& writer)
 {
-    const DtWireForm form("Content", "", R"qx(HLAvariableArray)qx",
-        -1 /* elements */, 0 /* octets */, 0 /* little-endian */);
+    const DtWireForm form = DtWireForm();
     return DtWriteValue(writer, state.inside(), form);
 }
 

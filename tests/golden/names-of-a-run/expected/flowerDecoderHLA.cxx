@@ -18,8 +18,7 @@ DtQxFlowerDecoder::DtQxFlowerDecoder()
 
 bool DtQxFlowerDecoder::decodeColour(DtQxFlowerStateRepository& state, DtWireReader& reader)
 {
-    const DtWireForm form("Colour8", "HLAoctet", R"qx(HLAvariableArray)qx",
-        -1 /* elements */, 1 /* octets */, 0 /* little-endian */);
+    const DtWireForm form = DtWireForm();
     auto value = state.colour();
     if (!DtReadValue(reader, value, form))
     {
@@ -32,8 +31,7 @@ bool DtQxFlowerDecoder::decodeColour(DtQxFlowerStateRepository& state, DtWireRea
 #error "Seed: values of DtQxPacket cannot be decoded"
 bool DtQxFlowerDecoder::decodeSeed(DtQxFlowerStateRepository& state, DtWireReader& reader)
 {
-    const DtWireForm form("Packet", "", R"qx(HLAvariableArray)qx",
-        -1 /* elements */, 0 /* octets */, 0 /* little-endian */);
+    const DtWireForm form = DtWireForm();
     auto value = state.seed();
     if (!DtReadValue(reader, value, form))
     {

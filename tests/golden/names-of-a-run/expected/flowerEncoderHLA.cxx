@@ -18,16 +18,14 @@ DtQxFlowerEncoder::DtQxFlowerEncoder()
 
 bool DtQxFlowerEncoder::encodeColour(const DtQxFlowerStateRepository& state, DtWireWriter& writer)
 {
-    const DtWireForm form("Colour8", "HLAoctet", R"qx(HLAvariableArray)qx",
-        -1 /* elements */, 1 /* octets */, 0 /* little-endian */);
+    const DtWireForm form = DtWireForm();
     return DtWriteValue(writer, state.colour(), form);
 }
 
 #error "Seed: values of DtQxPacket cannot be encoded"
 bool DtQxFlowerEncoder::encodeSeed(const DtQxFlowerStateRepository& state, DtWireWriter& writer)
 {
-    const DtWireForm form("Packet", "", R"qx(HLAvariableArray)qx",
-        -1 /* elements */, 0 /* octets */, 0 /* little-endian */);
+    const DtWireForm form = DtWireForm();
     return DtWriteValue(writer, state.seed(), form);
 }
 

@@ -17,8 +17,7 @@ DtQxWaterInterDecoder::DtQxWaterInterDecoder()
 
 bool DtQxWaterInterDecoder::decodeLitres(DtQxWaterInter& interaction, DtWireReader& reader)
 {
-    const DtWireForm form("HLAfloat32BE", "", R"qx(HLAvariableArray)qx",
-        -1 /* elements */, 4 /* octets */, 0 /* little-endian */);
+    const DtWireForm form = DtWireForm::number(4);
     auto value = interaction.litres();
     if (!DtReadValue(reader, value, form))
     {

@@ -20,8 +20,7 @@ DtQxWaterInterEncoder::DtQxWaterInterEncoder()
 
 bool DtQxWaterInterEncoder::encodeLitres(const DtQxWaterInter& interaction, DtWireWriter& writer)
 {
-    const DtWireForm form("HLAfloat32BE", "", R"qx(HLAvariableArray)qx",
-        -1 /* elements */, 4 /* octets */, 0 /* little-endian */);
+    const DtWireForm form = DtWireForm::number(4);
     return DtWriteValue(writer, interaction.litres(), form);
 }
 

@@ -16,8 +16,7 @@ DtPortEntityDecoder::DtPortEntityDecoder()
 
 bool DtPortEntityDecoder::decodePosition(DtPortEntityStateRepository& state, DtWireReader& reader)
 {
-    const DtWireForm form("GeoPoint", "", R"qx(HLAvariableArray)qx",
-        -1 /* elements */, 0 /* octets */, 0 /* little-endian */);
+    const DtWireForm form = DtWireForm();
     auto value = state.position();
     if (!DtReadValue(reader, value, form))
     {
@@ -29,8 +28,7 @@ bool DtPortEntityDecoder::decodePosition(DtPortEntityStateRepository& state, DtW
 
 bool DtPortEntityDecoder::decodeName(DtPortEntityStateRepository& state, DtWireReader& reader)
 {
-    const DtWireForm form("ShortText", "HLAASCIIchar", R"qx(HLAfixedArray)qx",
-        16 /* elements */, 1 /* octets */, 0 /* little-endian */);
+    const DtWireForm form = DtWireForm();
     auto value = state.name();
     if (!DtReadValue(reader, value, form))
     {
@@ -42,8 +40,7 @@ bool DtPortEntityDecoder::decodeName(DtPortEntityStateRepository& state, DtWireR
 
 bool DtPortEntityDecoder::decodeSerial(DtPortEntityStateRepository& state, DtWireReader& reader)
 {
-    const DtWireForm form("HLAinteger64BE", "", R"qx(HLAvariableArray)qx",
-        -1 /* elements */, 8 /* octets */, 0 /* little-endian */);
+    const DtWireForm form = DtWireForm::number(8);
     auto value = state.serial();
     if (!DtReadValue(reader, value, form))
     {

@@ -16,22 +16,19 @@ DtPortEntityEncoder::DtPortEntityEncoder()
 
 bool DtPortEntityEncoder::encodePosition(const DtPortEntityStateRepository& state, DtWireWriter& writer)
 {
-    const DtWireForm form("GeoPoint", "", R"qx(HLAvariableArray)qx",
-        -1 /* elements */, 0 /* octets */, 0 /* little-endian */);
+    const DtWireForm form = DtWireForm();
     return DtWriteValue(writer, state.position(), form);
 }
 
 bool DtPortEntityEncoder::encodeName(const DtPortEntityStateRepository& state, DtWireWriter& writer)
 {
-    const DtWireForm form("ShortText", "HLAASCIIchar", R"qx(HLAfixedArray)qx",
-        16 /* elements */, 1 /* octets */, 0 /* little-endian */);
+    const DtWireForm form = DtWireForm();
     return DtWriteValue(writer, state.name(), form);
 }
 
 bool DtPortEntityEncoder::encodeSerial(const DtPortEntityStateRepository& state, DtWireWriter& writer)
 {
-    const DtWireForm form("HLAinteger64BE", "", R"qx(HLAvariableArray)qx",
-        -1 /* elements */, 8 /* octets */, 0 /* little-endian */);
+    const DtWireForm form = DtWireForm::number(8);
     return DtWriteValue(writer, state.serial(), form);
 }
 

@@ -16,8 +16,7 @@ DtTug__PusherDecoder::DtTug__PusherDecoder()
 
 bool DtTug__PusherDecoder::decodePull__Push(DtTug__PusherStateRepository& state, DtWireReader& reader)
 {
-    const DtWireForm form("Newton", "HLAfloat64LE", R"qx(HLAvariableArray)qx",
-        -1 /* elements */, 8 /* octets */, 1 /* little-endian */);
+    const DtWireForm form = DtWireForm::number(8, DtLittleEndian);
     auto value = state.pull__Push();
     if (!DtReadValue(reader, value, form))
     {
@@ -29,8 +28,7 @@ bool DtTug__PusherDecoder::decodePull__Push(DtTug__PusherStateRepository& state,
 
 bool DtTug__PusherDecoder::decodeLine__1(DtTug__PusherStateRepository& state, DtWireReader& reader)
 {
-    const DtWireForm form("LineState32", "HLAinteger32BE", R"qx(HLAvariableArray)qx",
-        -1 /* elements */, 4 /* octets */, 0 /* little-endian */);
+    const DtWireForm form = DtWireForm();
     auto value = state.line__1();
     if (!DtReadValue(reader, value, form))
     {
@@ -42,7 +40,7 @@ bool DtTug__PusherDecoder::decodeLine__1(DtTug__PusherStateRepository& state, Dt
 
 bool DtTug__PusherDecoder::decodeOwner(DtTug__PusherStateRepository& state, DtWireReader& reader)
 {
-    const DtWireForm form("HLAASCIIstring", "", R"qx(HLAvariableArray)qx",
+    const DtWireForm form = DtWireForm("HLAASCIIstring", "", R"qx(HLAvariableArray)qx",
         -1 /* elements */, 0 /* octets */, 0 /* little-endian */);
     auto value = state.owner();
     if (!DtReadValue(reader, value, form))

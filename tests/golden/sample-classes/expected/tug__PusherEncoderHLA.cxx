@@ -16,21 +16,19 @@ DtTug__PusherEncoder::DtTug__PusherEncoder()
 
 bool DtTug__PusherEncoder::encodePull__Push(const DtTug__PusherStateRepository& state, DtWireWriter& writer)
 {
-    const DtWireForm form("Newton", "HLAfloat64LE", R"qx(HLAvariableArray)qx",
-        -1 /* elements */, 8 /* octets */, 1 /* little-endian */);
+    const DtWireForm form = DtWireForm::number(8, DtLittleEndian);
     return DtWriteValue(writer, state.pull__Push(), form);
 }
 
 bool DtTug__PusherEncoder::encodeLine__1(const DtTug__PusherStateRepository& state, DtWireWriter& writer)
 {
-    const DtWireForm form("LineState32", "HLAinteger32BE", R"qx(HLAvariableArray)qx",
-        -1 /* elements */, 4 /* octets */, 0 /* little-endian */);
+    const DtWireForm form = DtWireForm();
     return DtWriteValue(writer, state.line__1(), form);
 }
 
 bool DtTug__PusherEncoder::encodeOwner(const DtTug__PusherStateRepository& state, DtWireWriter& writer)
 {
-    const DtWireForm form("HLAASCIIstring", "", R"qx(HLAvariableArray)qx",
+    const DtWireForm form = DtWireForm("HLAASCIIstring", "", R"qx(HLAvariableArray)qx",
         -1 /* elements */, 0 /* octets */, 0 /* little-endian */);
     return DtWriteValue(writer, state.owner(), form);
 }

@@ -19,8 +19,7 @@ DtVesselDecoder::DtVesselDecoder()
 }
 bool DtVesselDecoder::decodeSpeed(DtVesselStateRepository& state, DtWireReader& reader)
 {
-    const DtWireForm form("Knots", "HLAfloat32BE", R"qx(HLAvariableArray)qx",
-        -1 /* elements */, 4 /* octets */, 0 /* little-endian */);
+    const DtWireForm form = DtWireForm::number(4);
     auto value = state.speed();
     if (!DtReadValue(reader, value, form))
     {
@@ -31,8 +30,7 @@ bool DtVesselDecoder::decodeSpeed(DtVesselStateRepository& state, DtWireReader& 
 }
 bool DtVesselDecoder::decodeHeading__True(DtVesselStateRepository& state, DtWireReader& reader)
 {
-    const DtWireForm form("Degrees", "HLAfloat64BE", R"qx(HLAvariableArray)qx",
-        -1 /* elements */, 8 /* octets */, 0 /* little-endian */);
+    const DtWireForm form = DtWireForm::number(8);
     auto value = state.heading__True();
     if (!DtReadValue(reader, value, form))
     {
@@ -43,8 +41,7 @@ bool DtVesselDecoder::decodeHeading__True(DtVesselStateRepository& state, DtWire
 }
 bool DtVesselDecoder::decodeState(DtVesselStateRepository& state, DtWireReader& reader)
 {
-    const DtWireForm form("VesselState8", "HLAoctet", R"qx(HLAvariableArray)qx",
-        -1 /* elements */, 1 /* octets */, 0 /* little-endian */);
+    const DtWireForm form = DtWireForm();
     auto value = state.state();
     if (!DtReadValue(reader, value, form))
     {
@@ -55,7 +52,7 @@ bool DtVesselDecoder::decodeState(DtVesselStateRepository& state, DtWireReader& 
 }
 bool DtVesselDecoder::decodeTheClass(DtVesselStateRepository& state, DtWireReader& reader)
 {
-    const DtWireForm form("HLAunicodeString", "", R"qx(HLAvariableArray)qx",
+    const DtWireForm form = DtWireForm("HLAunicodeString", "", R"qx(HLAvariableArray)qx",
         -1 /* elements */, 0 /* octets */, 0 /* little-endian */);
     auto value = state.theClass();
     if (!DtReadValue(reader, value, form))
@@ -67,8 +64,7 @@ bool DtVesselDecoder::decodeTheClass(DtVesselStateRepository& state, DtWireReade
 }
 bool DtVesselDecoder::decodeTheInt(DtVesselStateRepository& state, DtWireReader& reader)
 {
-    const DtWireForm form("HLAinteger32BE", "", R"qx(HLAvariableArray)qx",
-        -1 /* elements */, 4 /* octets */, 0 /* little-endian */);
+    const DtWireForm form = DtWireForm::number(4);
     auto value = state.theInt();
     if (!DtReadValue(reader, value, form))
     {
@@ -79,8 +75,7 @@ bool DtVesselDecoder::decodeTheInt(DtVesselStateRepository& state, DtWireReader&
 }
 bool DtVesselDecoder::decodeTheTemplate(DtVesselStateRepository& state, DtWireReader& reader)
 {
-    const DtWireForm form("VesselState16", "HLAinteger16BE", R"qx(HLAvariableArray)qx",
-        -1 /* elements */, 2 /* octets */, 0 /* little-endian */);
+    const DtWireForm form = DtWireForm();
     auto value = state.theTemplate();
     if (!DtReadValue(reader, value, form))
     {
@@ -91,8 +86,7 @@ bool DtVesselDecoder::decodeTheTemplate(DtVesselStateRepository& state, DtWireRe
 }
 bool DtVesselDecoder::decodeCrew(DtVesselStateRepository& state, DtWireReader& reader)
 {
-    const DtWireForm form("PersonList", "Person", R"qx(HLAvariableArray)qx",
-        -1 /* elements */, 0 /* octets */, 0 /* little-endian */);
+    const DtWireForm form = DtWireForm();
     auto value = state.crew();
     if (!DtReadValue(reader, value, form))
     {

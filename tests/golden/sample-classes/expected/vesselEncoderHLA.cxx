@@ -20,50 +20,44 @@ DtVesselEncoder::DtVesselEncoder()
 
 bool DtVesselEncoder::encodeSpeed(const DtVesselStateRepository& state, DtWireWriter& writer)
 {
-    const DtWireForm form("Knots", "HLAfloat32BE", R"qx(HLAvariableArray)qx",
-        -1 /* elements */, 4 /* octets */, 0 /* little-endian */);
+    const DtWireForm form = DtWireForm::number(4);
     return DtWriteValue(writer, state.speed(), form);
 }
 
 bool DtVesselEncoder::encodeHeading__True(const DtVesselStateRepository& state, DtWireWriter& writer)
 {
-    const DtWireForm form("Degrees", "HLAfloat64BE", R"qx(HLAvariableArray)qx",
-        -1 /* elements */, 8 /* octets */, 0 /* little-endian */);
+    const DtWireForm form = DtWireForm::number(8);
     return DtWriteValue(writer, state.heading__True(), form);
 }
 
 bool DtVesselEncoder::encodeState(const DtVesselStateRepository& state, DtWireWriter& writer)
 {
-    const DtWireForm form("VesselState8", "HLAoctet", R"qx(HLAvariableArray)qx",
-        -1 /* elements */, 1 /* octets */, 0 /* little-endian */);
+    const DtWireForm form = DtWireForm();
     return DtWriteValue(writer, state.state(), form);
 }
 
 bool DtVesselEncoder::encodeTheClass(const DtVesselStateRepository& state, DtWireWriter& writer)
 {
-    const DtWireForm form("HLAunicodeString", "", R"qx(HLAvariableArray)qx",
+    const DtWireForm form = DtWireForm("HLAunicodeString", "", R"qx(HLAvariableArray)qx",
         -1 /* elements */, 0 /* octets */, 0 /* little-endian */);
     return DtWriteValue(writer, state.theClass(), form);
 }
 
 bool DtVesselEncoder::encodeTheInt(const DtVesselStateRepository& state, DtWireWriter& writer)
 {
-    const DtWireForm form("HLAinteger32BE", "", R"qx(HLAvariableArray)qx",
-        -1 /* elements */, 4 /* octets */, 0 /* little-endian */);
+    const DtWireForm form = DtWireForm::number(4);
     return DtWriteValue(writer, state.theInt(), form);
 }
 
 bool DtVesselEncoder::encodeTheTemplate(const DtVesselStateRepository& state, DtWireWriter& writer)
 {
-    const DtWireForm form("VesselState16", "HLAinteger16BE", R"qx(HLAvariableArray)qx",
-        -1 /* elements */, 2 /* octets */, 0 /* little-endian */);
+    const DtWireForm form = DtWireForm();
     return DtWriteValue(writer, state.theTemplate(), form);
 }
 
 bool DtVesselEncoder::encodeCrew(const DtVesselStateRepository& state, DtWireWriter& writer)
 {
-    const DtWireForm form("PersonList", "Person", R"qx(HLAvariableArray)qx",
-        -1 /* elements */, 0 /* octets */, 0 /* little-endian */);
+    const DtWireForm form = DtWireForm();
     return DtWriteValue(writer, state.crew(), form);
 }
 

@@ -56,8 +56,7 @@ DtBeaconDecoder::DtBeaconDecoder()
 
 bool DtBeaconDecoder::decodeLamp(DtBeaconStateRepository& state, DtWireReader& reader)
 {
-    const DtWireForm form("lampState", "HarbourInteger8", R"qx(HLAvariableArray)qx",
-        -1 /* elements */, 1 /* octets */, 0 /* little-endian */);
+    const DtWireForm form = DtWireForm();
     auto value = state.lamp();
     if (!DtReadValue(reader, value, form))
     {
@@ -69,8 +68,7 @@ bool DtBeaconDecoder::decodeLamp(DtBeaconStateRepository& state, DtWireReader& r
 
 bool DtBeaconDecoder::decodeLamps(DtBeaconStateRepository& state, DtWireReader& reader)
 {
-    const DtWireForm form("LampMatrix", "HarbourInteger8", R"qx(HLAfixedArray)qx",
-        6 /* elements */, 1 /* octets */, 0 /* little-endian */);
+    const DtWireForm form = DtWireForm();
     auto value = state.lamps();
     if (!DtReadValue(reader, value, form))
     {
@@ -82,8 +80,7 @@ bool DtBeaconDecoder::decodeLamps(DtBeaconStateRepository& state, DtWireReader& 
 
 bool DtBeaconDecoder::decodeSector(DtBeaconStateRepository& state, DtWireReader& reader)
 {
-    const DtWireForm form("Bearing", "HarbourSwappedFloat", R"qx(HLAvariableArray)qx",
-        -1 /* elements */, 4 /* octets */, 1 /* little-endian */);
+    const DtWireForm form = DtWireForm();
     auto value = state.sector();
     if (!DtReadValue(reader, value, form))
     {
@@ -95,8 +92,7 @@ bool DtBeaconDecoder::decodeSector(DtBeaconStateRepository& state, DtWireReader&
 
 bool DtBeaconDecoder::decodeCallSign(DtBeaconStateRepository& state, DtWireReader& reader)
 {
-    const DtWireForm form("RouteCode", "HLAunicodeChar", R"qx(HLAnullTerminatedArray)qx",
-        -1 /* elements */, 2 /* octets */, 0 /* little-endian */);
+    const DtWireForm form = DtWireForm();
     auto value = state.callSign();
     if (!DtReadValue(reader, value, form))
     {
@@ -108,8 +104,7 @@ bool DtBeaconDecoder::decodeCallSign(DtBeaconStateRepository& state, DtWireReade
 
 bool DtBeaconDecoder::decodeTemperature(DtBeaconStateRepository& state, DtWireReader& reader)
 {
-    const DtWireForm form("Celsius", "HarbourInteger8", R"qx(HLAvariableArray)qx",
-        -1 /* elements */, 1 /* octets */, 0 /* little-endian */);
+    const DtWireForm form = DtWireForm();
     auto value = state.temperature();
     if (!DtReadValue(reader, value, form))
     {
@@ -121,8 +116,7 @@ bool DtBeaconDecoder::decodeTemperature(DtBeaconStateRepository& state, DtWireRe
 
 bool DtBeaconDecoder::decodeTilt(DtBeaconStateRepository& state, DtWireReader& reader)
 {
-    const DtWireForm form("Trim24", "HarbourInteger24", R"qx(HLAvariableArray)qx",
-        -1 /* elements */, 3 /* octets */, 0 /* little-endian */);
+    const DtWireForm form = DtWireForm();
     auto value = state.tilt();
     if (!DtReadValue(reader, value, form))
     {
@@ -134,8 +128,7 @@ bool DtBeaconDecoder::decodeTilt(DtBeaconStateRepository& state, DtWireReader& r
 
 bool DtBeaconDecoder::decodeTilts(DtBeaconStateRepository& state, DtWireReader& reader)
 {
-    const DtWireForm form("TiltTable", "HarbourInteger24", R"qx(HLAfixedArray)qx",
-        3 /* elements */, 3 /* octets */, 0 /* little-endian */);
+    const DtWireForm form = DtWireForm();
     auto value = state.tilts();
     if (!DtReadValue(reader, value, form))
     {
@@ -147,8 +140,7 @@ bool DtBeaconDecoder::decodeTilts(DtBeaconStateRepository& state, DtWireReader& 
 
 bool DtBeaconDecoder::decodeTheRegister(DtBeaconStateRepository& state, DtWireReader& reader)
 {
-    const DtWireForm form("RegisterNumber", "HarbourUnsigned64LE", R"qx(HLAvariableArray)qx",
-        -1 /* elements */, 8 /* octets */, 1 /* little-endian */);
+    const DtWireForm form = DtWireForm();
     auto value = state.theRegister();
     if (!DtReadValue(reader, value, form))
     {
@@ -160,8 +152,7 @@ bool DtBeaconDecoder::decodeTheRegister(DtBeaconStateRepository& state, DtWireRe
 
 bool DtBeaconDecoder::decodeMark(DtBeaconStateRepository& state, DtWireReader& reader)
 {
-    const DtWireForm form("Initial", "HLAunicodeChar", R"qx(HLAvariableArray)qx",
-        -1 /* elements */, 2 /* octets */, 0 /* little-endian */);
+    const DtWireForm form = DtWireForm::number(2);
     auto value = state.mark();
     if (!DtReadValue(reader, value, form))
     {
@@ -173,7 +164,7 @@ bool DtBeaconDecoder::decodeMark(DtBeaconStateRepository& state, DtWireReader& r
 
 bool DtBeaconDecoder::decodeImage(DtBeaconStateRepository& state, DtWireReader& reader)
 {
-    const DtWireForm form("HLAopaqueData", "", R"qx(HLAvariableArray)qx",
+    const DtWireForm form = DtWireForm("HLAopaqueData", "", R"qx(HLAvariableArray)qx",
         -1 /* elements */, 0 /* octets */, 0 /* little-endian */);
     auto value = state.image();
     if (!DtReadValue(reader, value, form))
@@ -186,8 +177,7 @@ bool DtBeaconDecoder::decodeImage(DtBeaconStateRepository& state, DtWireReader& 
 
 bool DtBeaconDecoder::decodeTested(DtBeaconStateRepository& state, DtWireReader& reader)
 {
-    const DtWireForm form("RPRboolean", "HLAoctet", R"qx(HLAvariableArray)qx",
-        -1 /* elements */, 1 /* octets */, 0 /* little-endian */);
+    const DtWireForm form = DtWireForm::number(1);
     auto value = state.tested();
     if (!DtReadValue(reader, value, form))
     {
@@ -199,8 +189,7 @@ bool DtBeaconDecoder::decodeTested(DtBeaconStateRepository& state, DtWireReader&
 
 bool DtBeaconDecoder::decodeManned(DtBeaconStateRepository& state, DtWireReader& reader)
 {
-    const DtWireForm form("OMT13boolean", "HLAinteger16BE", R"qx(HLAvariableArray)qx",
-        -1 /* elements */, 2 /* octets */, 0 /* little-endian */);
+    const DtWireForm form = DtWireForm::number(2);
     auto value = state.manned();
     if (!DtReadValue(reader, value, form))
     {
@@ -212,8 +201,7 @@ bool DtBeaconDecoder::decodeManned(DtBeaconStateRepository& state, DtWireReader&
 
 bool DtBeaconDecoder::decodeNeighbours(DtBeaconStateRepository& state, DtWireReader& reader)
 {
-    const DtWireForm form("NameList", "HLAunicodeString", R"qx(HLAvariableArray)qx",
-        -1 /* elements */, 0 /* octets */, 0 /* little-endian */);
+    const DtWireForm form = DtWireForm();
     auto value = state.neighbours();
     if (!DtReadValue(reader, value, form))
     {
@@ -225,8 +213,7 @@ bool DtBeaconDecoder::decodeNeighbours(DtBeaconStateRepository& state, DtWireRea
 
 bool DtBeaconDecoder::decodeSights(DtBeaconStateRepository& state, DtWireReader& reader)
 {
-    const DtWireForm form("BearingList", "HLAfloat64BE", R"qx(HLAvariableArray)qx",
-        -1 /* elements */, 8 /* octets */, 0 /* little-endian */);
+    const DtWireForm form = DtWireForm();
     auto value = state.sights();
     if (!DtReadValue(reader, value, form))
     {
@@ -238,8 +225,7 @@ bool DtBeaconDecoder::decodeSights(DtBeaconStateRepository& state, DtWireReader&
 
 bool DtBeaconDecoder::decodeZone(DtBeaconStateRepository& state, DtWireReader& reader)
 {
-    const DtWireForm form("Zone64", "HarbourUnsigned64LE", R"qx(HLAvariableArray)qx",
-        -1 /* elements */, 8 /* octets */, 1 /* little-endian */);
+    const DtWireForm form = DtWireForm();
     auto value = state.zone();
     if (!DtReadValue(reader, value, form))
     {
@@ -251,8 +237,7 @@ bool DtBeaconDecoder::decodeZone(DtBeaconStateRepository& state, DtWireReader& r
 
 bool DtBeaconDecoder::decodeCurrent(DtBeaconStateRepository& state, DtWireReader& reader)
 {
-    const DtWireForm form("Current16", "HLAinteger16LE", R"qx(HLAvariableArray)qx",
-        -1 /* elements */, 2 /* octets */, 1 /* little-endian */);
+    const DtWireForm form = DtWireForm();
     auto value = state.current();
     if (!DtReadValue(reader, value, form))
     {
@@ -264,8 +249,7 @@ bool DtBeaconDecoder::decodeCurrent(DtBeaconStateRepository& state, DtWireReader
 
 bool DtBeaconDecoder::decodeWatch(DtBeaconStateRepository& state, DtWireReader& reader)
 {
-    const DtWireForm form("RotationList", "Rotation", R"qx(HLAvariableArray)qx",
-        -1 /* elements */, 0 /* octets */, 0 /* little-endian */);
+    const DtWireForm form = DtWireForm();
     auto value = state.watch();
     if (!DtReadValue(reader, value, form))
     {
@@ -277,8 +261,7 @@ bool DtBeaconDecoder::decodeWatch(DtBeaconStateRepository& state, DtWireReader& 
 
 bool DtBeaconDecoder::decodeCalls(DtBeaconStateRepository& state, DtWireReader& reader)
 {
-    const DtWireForm form("SignalLog", "SignalEntry", R"qx(HLAvariableArray)qx",
-        -1 /* elements */, 0 /* octets */, 0 /* little-endian */);
+    const DtWireForm form = DtWireForm();
     auto value = state.calls();
     if (!DtReadValue(reader, value, form))
     {
@@ -290,8 +273,7 @@ bool DtBeaconDecoder::decodeCalls(DtBeaconStateRepository& state, DtWireReader& 
 
 bool DtBeaconDecoder::decodeFix(DtBeaconStateRepository& state, DtWireReader& reader)
 {
-    const DtWireForm form("PositionFix", "", R"qx(HLAvariableArray)qx",
-        -1 /* elements */, 0 /* octets */, 0 /* little-endian */);
+    const DtWireForm form = DtWireForm();
     auto value = state.fix();
     if (!DtReadValue(reader, value, form))
     {
@@ -303,8 +285,7 @@ bool DtBeaconDecoder::decodeFix(DtBeaconStateRepository& state, DtWireReader& re
 
 bool DtBeaconDecoder::decodeTest(DtBeaconStateRepository& state, DtWireReader& reader)
 {
-    const DtWireForm form("TestResult", "", R"qx(HLAvariableArray)qx",
-        -1 /* elements */, 0 /* octets */, 0 /* little-endian */);
+    const DtWireForm form = DtWireForm();
     auto value = state.test();
     if (!DtReadValue(reader, value, form))
     {
@@ -316,8 +297,7 @@ bool DtBeaconDecoder::decodeTest(DtBeaconStateRepository& state, DtWireReader& r
 
 bool DtBeaconDecoder::decodePass(DtBeaconStateRepository& state, DtWireReader& reader)
 {
-    const DtWireForm form("Permit", "", R"qx(HLAvariableArray)qx",
-        -1 /* elements */, 0 /* octets */, 0 /* little-endian */);
+    const DtWireForm form = DtWireForm();
     auto value = state.pass();
     if (!DtReadValue(reader, value, form))
     {
@@ -329,8 +309,7 @@ bool DtBeaconDecoder::decodePass(DtBeaconStateRepository& state, DtWireReader& r
 
 bool DtBeaconDecoder::decodeCondition(DtBeaconStateRepository& state, DtWireReader& reader)
 {
-    const DtWireForm form("LampReport", "", R"qx(HLAvariableArray)qx",
-        -1 /* elements */, 0 /* octets */, 0 /* little-endian */);
+    const DtWireForm form = DtWireForm();
     auto value = state.condition();
     if (!DtReadValue(reader, value, form))
     {
@@ -342,8 +321,7 @@ bool DtBeaconDecoder::decodeCondition(DtBeaconStateRepository& state, DtWireRead
 
 bool DtBeaconDecoder::decodeSurvey(DtBeaconStateRepository& state, DtWireReader& reader)
 {
-    const DtWireForm form("Inspection", "", R"qx(HLAvariableArray)qx",
-        -1 /* elements */, 0 /* octets */, 0 /* little-endian */);
+    const DtWireForm form = DtWireForm();
     auto value = state.survey();
     if (!DtReadValue(reader, value, form))
     {
@@ -355,8 +333,7 @@ bool DtBeaconDecoder::decodeSurvey(DtBeaconStateRepository& state, DtWireReader&
 
 bool DtBeaconDecoder::decodeGear(DtBeaconStateRepository& state, DtWireReader& reader)
 {
-    const DtWireForm form("Equipment", "", R"qx(HLAvariableArray)qx",
-        -1 /* elements */, 0 /* octets */, 0 /* little-endian */);
+    const DtWireForm form = DtWireForm();
     auto value = state.gear();
     if (!DtReadValue(reader, value, form))
     {
@@ -368,8 +345,7 @@ bool DtBeaconDecoder::decodeGear(DtBeaconStateRepository& state, DtWireReader& r
 
 bool DtBeaconDecoder::decodeRule(DtBeaconStateRepository& state, DtWireReader& reader)
 {
-    const DtWireForm form("ZoneRule", "", R"qx(HLAvariableArray)qx",
-        -1 /* elements */, 0 /* octets */, 0 /* little-endian */);
+    const DtWireForm form = DtWireForm();
     auto value = state.rule();
     if (!DtReadValue(reader, value, form))
     {
@@ -381,8 +357,7 @@ bool DtBeaconDecoder::decodeRule(DtBeaconStateRepository& state, DtWireReader& r
 
 bool DtBeaconDecoder::decodePaper(DtBeaconStateRepository& state, DtWireReader& reader)
 {
-    const DtWireForm form("ReportFrame", "", R"qx(HLAvariableArray)qx",
-        -1 /* elements */, 0 /* octets */, 0 /* little-endian */);
+    const DtWireForm form = DtWireForm();
     auto value = state.paper();
     if (!DtReadValue(reader, value, form))
     {
@@ -394,8 +369,7 @@ bool DtBeaconDecoder::decodePaper(DtBeaconStateRepository& state, DtWireReader& 
 
 bool DtBeaconDecoder::decodeTimes(DtBeaconStateRepository& state, DtWireReader& reader)
 {
-    const DtWireForm form("GateTimes", "ClockTime", R"qx(HLAfixedArray)qx",
-        4 /* elements */, 0 /* octets */, 0 /* little-endian */);
+    const DtWireForm form = DtWireForm();
     auto value = state.times();
     if (!DtReadValue(reader, value, form))
     {
@@ -407,8 +381,7 @@ bool DtBeaconDecoder::decodeTimes(DtBeaconStateRepository& state, DtWireReader& 
 
 bool DtBeaconDecoder::decodeChambers(DtBeaconStateRepository& state, DtWireReader& reader)
 {
-    const DtWireForm form("LockGrid", "HarbourUnsigned32", R"qx(HLAfixedArray)qx",
-        8 /* elements */, 4 /* octets */, 0 /* little-endian */);
+    const DtWireForm form = DtWireForm();
     auto value = state.chambers();
     if (!DtReadValue(reader, value, form))
     {
@@ -420,8 +393,7 @@ bool DtBeaconDecoder::decodeChambers(DtBeaconStateRepository& state, DtWireReade
 
 bool DtBeaconDecoder::decodeRemark(DtBeaconStateRepository& state, DtWireReader& reader)
 {
-    const DtWireForm form("LongNote", "", R"qx(HLAvariableArray)qx",
-        -1 /* elements */, 0 /* octets */, 0 /* little-endian */);
+    const DtWireForm form = DtWireForm();
     auto value = state.remark();
     if (!DtReadValue(reader, value, form))
     {
@@ -433,8 +405,7 @@ bool DtBeaconDecoder::decodeRemark(DtBeaconStateRepository& state, DtWireReader&
 
 bool DtBeaconDecoder::decodeDraughts(DtBeaconStateRepository& state, DtWireReader& reader)
 {
-    const DtWireForm form("DraughtTable", "HLAfloat32LE", R"qx(HLAfixedArray)qx",
-        3 /* elements */, 4 /* octets */, 1 /* little-endian */);
+    const DtWireForm form = DtWireForm();
     auto value = state.draughts();
     if (!DtReadValue(reader, value, form))
     {
@@ -446,8 +417,7 @@ bool DtBeaconDecoder::decodeDraughts(DtBeaconStateRepository& state, DtWireReade
 
 bool DtBeaconDecoder::decodeRing(DtBeaconStateRepository& state, DtWireReader& reader)
 {
-    const DtWireForm form("TideRing", "HarbourUnsigned16LE", R"qx(HLAvariableArray)qx",
-        -1 /* elements */, 2 /* octets */, 1 /* little-endian */);
+    const DtWireForm form = DtWireForm();
     auto value = state.ring();
     if (!DtReadValue(reader, value, form))
     {
@@ -459,8 +429,7 @@ bool DtBeaconDecoder::decodeRing(DtBeaconStateRepository& state, DtWireReader& r
 
 bool DtBeaconDecoder::decodeLines(DtBeaconStateRepository& state, DtWireReader& reader)
 {
-    const DtWireForm form("LineList", "HLAinteger32BE", R"qx(HLAvariableArray)qx",
-        4 /* elements */, 4 /* octets */, 0 /* little-endian */);
+    const DtWireForm form = DtWireForm();
     auto value = state.lines();
     if (!DtReadValue(reader, value, form))
     {
@@ -472,8 +441,7 @@ bool DtBeaconDecoder::decodeLines(DtBeaconStateRepository& state, DtWireReader& 
 
 bool DtBeaconDecoder::decodeDeep(DtBeaconStateRepository& state, DtWireReader& reader)
 {
-    const DtWireForm form("Deep32", "HLAinteger32LE", R"qx(HLAvariableArray)qx",
-        -1 /* elements */, 4 /* octets */, 1 /* little-endian */);
+    const DtWireForm form = DtWireForm();
     auto value = state.deep();
     if (!DtReadValue(reader, value, form))
     {
@@ -485,8 +453,7 @@ bool DtBeaconDecoder::decodeDeep(DtBeaconStateRepository& state, DtWireReader& r
 
 bool DtBeaconDecoder::decodeSlack(DtBeaconStateRepository& state, DtWireReader& reader)
 {
-    const DtWireForm form("Slack24", "HarbourInteger24LE", R"qx(HLAvariableArray)qx",
-        -1 /* elements */, 3 /* octets */, 1 /* little-endian */);
+    const DtWireForm form = DtWireForm();
     auto value = state.slack();
     if (!DtReadValue(reader, value, form))
     {
@@ -498,8 +465,7 @@ bool DtBeaconDecoder::decodeSlack(DtBeaconStateRepository& state, DtWireReader& 
 
 bool DtBeaconDecoder::decodeFind(DtBeaconStateRepository& state, DtWireReader& reader)
 {
-    const DtWireForm form("HullPart32", "HarbourUnsigned32", R"qx(HLAvariableArray)qx",
-        -1 /* elements */, 4 /* octets */, 0 /* little-endian */);
+    const DtWireForm form = DtWireForm();
     auto value = state.find();
     if (!DtReadValue(reader, value, form))
     {
@@ -511,8 +477,7 @@ bool DtBeaconDecoder::decodeFind(DtBeaconStateRepository& state, DtWireReader& r
 
 bool DtBeaconDecoder::decodeSpare(DtBeaconStateRepository& state, DtWireReader& reader)
 {
-    const DtWireForm form("Empty__Record", "", R"qx(HLAvariableArray)qx",
-        -1 /* elements */, 0 /* octets */, 0 /* little-endian */);
+    const DtWireForm form = DtWireForm();
     auto value = state.spare();
     if (!DtReadValue(reader, value, form))
     {
@@ -524,8 +489,7 @@ bool DtBeaconDecoder::decodeSpare(DtBeaconStateRepository& state, DtWireReader& 
 
 bool DtBeaconDecoder::decodeSteps(DtBeaconStateRepository& state, DtWireReader& reader)
 {
-    const DtWireForm form("HLAinteger32LE", "", R"qx(HLAvariableArray)qx",
-        -1 /* elements */, 4 /* octets */, 1 /* little-endian */);
+    const DtWireForm form = DtWireForm::number(4, DtLittleEndian);
     auto value = state.steps();
     if (!DtReadValue(reader, value, form))
     {
@@ -537,8 +501,7 @@ bool DtBeaconDecoder::decodeSteps(DtBeaconStateRepository& state, DtWireReader& 
 
 bool DtBeaconDecoder::decodeRank(DtBeaconStateRepository& state, DtWireReader& reader)
 {
-    const DtWireForm form("HLAinteger64LE", "", R"qx(HLAvariableArray)qx",
-        -1 /* elements */, 8 /* octets */, 1 /* little-endian */);
+    const DtWireForm form = DtWireForm::number(8, DtLittleEndian);
     auto value = state.rank();
     if (!DtReadValue(reader, value, form))
     {
@@ -550,8 +513,7 @@ bool DtBeaconDecoder::decodeRank(DtBeaconStateRepository& state, DtWireReader& r
 
 bool DtBeaconDecoder::decodeFloor(DtBeaconStateRepository& state, DtWireReader& reader)
 {
-    const DtWireForm form("HLAinteger16LE", "", R"qx(HLAvariableArray)qx",
-        -1 /* elements */, 2 /* octets */, 1 /* little-endian */);
+    const DtWireForm form = DtWireForm::number(2, DtLittleEndian);
     auto value = state.floor();
     if (!DtReadValue(reader, value, form))
     {
@@ -563,8 +525,7 @@ bool DtBeaconDecoder::decodeFloor(DtBeaconStateRepository& state, DtWireReader& 
 
 bool DtBeaconDecoder::decodeSign(DtBeaconStateRepository& state, DtWireReader& reader)
 {
-    const DtWireForm form("Letter", "HLAASCIIchar", R"qx(HLAvariableArray)qx",
-        -1 /* elements */, 1 /* octets */, 0 /* little-endian */);
+    const DtWireForm form = DtWireForm::number(1);
     auto value = state.sign();
     if (!DtReadValue(reader, value, form))
     {
@@ -576,8 +537,7 @@ bool DtBeaconDecoder::decodeSign(DtBeaconStateRepository& state, DtWireReader& r
 
 bool DtBeaconDecoder::decodeFooting(DtBeaconStateRepository& state, DtWireReader& reader)
 {
-    const DtWireForm form("Depth", "HLAinteger16BE", R"qx(HLAvariableArray)qx",
-        -1 /* elements */, 2 /* octets */, 0 /* little-endian */);
+    const DtWireForm form = DtWireForm::number(2);
     auto value = state.footing();
     if (!DtReadValue(reader, value, form))
     {
@@ -589,8 +549,7 @@ bool DtBeaconDecoder::decodeFooting(DtBeaconStateRepository& state, DtWireReader
 
 bool DtBeaconDecoder::decodeSwing(DtBeaconStateRepository& state, DtWireReader& reader)
 {
-    const DtWireForm form("HarbourInteger24LE", "", R"qx(HLAvariableArray)qx",
-        -1 /* elements */, 3 /* octets */, 1 /* little-endian */);
+    const DtWireForm form = DtWireForm();
     auto value = state.swing();
     if (!DtReadValue(reader, value, form))
     {
@@ -602,8 +561,7 @@ bool DtBeaconDecoder::decodeSwing(DtBeaconStateRepository& state, DtWireReader& 
 
 bool DtBeaconDecoder::decodeDoors(DtBeaconStateRepository& state, DtWireReader& reader)
 {
-    const DtWireForm form("DoorStates", "HLAboolean", R"qx(HLAfixedArray)qx",
-        3 /* elements */, 0 /* octets */, 0 /* little-endian */);
+    const DtWireForm form = DtWireForm();
     auto value = state.doors();
     if (!DtReadValue(reader, value, form))
     {

@@ -56,302 +56,260 @@ DtBeaconEncoder::DtBeaconEncoder()
 
 bool DtBeaconEncoder::encodeLamp(const DtBeaconStateRepository& state, DtWireWriter& writer)
 {
-    const DtWireForm form("lampState", "HarbourInteger8", R"qx(HLAvariableArray)qx",
-        -1 /* elements */, 1 /* octets */, 0 /* little-endian */);
+    const DtWireForm form = DtWireForm();
     return DtWriteValue(writer, state.lamp(), form);
 }
 
 bool DtBeaconEncoder::encodeLamps(const DtBeaconStateRepository& state, DtWireWriter& writer)
 {
-    const DtWireForm form("LampMatrix", "HarbourInteger8", R"qx(HLAfixedArray)qx",
-        6 /* elements */, 1 /* octets */, 0 /* little-endian */);
+    const DtWireForm form = DtWireForm();
     return DtWriteValue(writer, state.lamps(), form);
 }
 
 bool DtBeaconEncoder::encodeSector(const DtBeaconStateRepository& state, DtWireWriter& writer)
 {
-    const DtWireForm form("Bearing", "HarbourSwappedFloat", R"qx(HLAvariableArray)qx",
-        -1 /* elements */, 4 /* octets */, 1 /* little-endian */);
+    const DtWireForm form = DtWireForm();
     return DtWriteValue(writer, state.sector(), form);
 }
 
 bool DtBeaconEncoder::encodeCallSign(const DtBeaconStateRepository& state, DtWireWriter& writer)
 {
-    const DtWireForm form("RouteCode", "HLAunicodeChar", R"qx(HLAnullTerminatedArray)qx",
-        -1 /* elements */, 2 /* octets */, 0 /* little-endian */);
+    const DtWireForm form = DtWireForm();
     return DtWriteValue(writer, state.callSign(), form);
 }
 
 bool DtBeaconEncoder::encodeTemperature(const DtBeaconStateRepository& state, DtWireWriter& writer)
 {
-    const DtWireForm form("Celsius", "HarbourInteger8", R"qx(HLAvariableArray)qx",
-        -1 /* elements */, 1 /* octets */, 0 /* little-endian */);
+    const DtWireForm form = DtWireForm();
     return DtWriteValue(writer, state.temperature(), form);
 }
 
 bool DtBeaconEncoder::encodeTilt(const DtBeaconStateRepository& state, DtWireWriter& writer)
 {
-    const DtWireForm form("Trim24", "HarbourInteger24", R"qx(HLAvariableArray)qx",
-        -1 /* elements */, 3 /* octets */, 0 /* little-endian */);
+    const DtWireForm form = DtWireForm();
     return DtWriteValue(writer, state.tilt(), form);
 }
 
 bool DtBeaconEncoder::encodeTilts(const DtBeaconStateRepository& state, DtWireWriter& writer)
 {
-    const DtWireForm form("TiltTable", "HarbourInteger24", R"qx(HLAfixedArray)qx",
-        3 /* elements */, 3 /* octets */, 0 /* little-endian */);
+    const DtWireForm form = DtWireForm();
     return DtWriteValue(writer, state.tilts(), form);
 }
 
 bool DtBeaconEncoder::encodeTheRegister(const DtBeaconStateRepository& state, DtWireWriter& writer)
 {
-    const DtWireForm form("RegisterNumber", "HarbourUnsigned64LE", R"qx(HLAvariableArray)qx",
-        -1 /* elements */, 8 /* octets */, 1 /* little-endian */);
+    const DtWireForm form = DtWireForm();
     return DtWriteValue(writer, state.theRegister(), form);
 }
 
 bool DtBeaconEncoder::encodeMark(const DtBeaconStateRepository& state, DtWireWriter& writer)
 {
-    const DtWireForm form("Initial", "HLAunicodeChar", R"qx(HLAvariableArray)qx",
-        -1 /* elements */, 2 /* octets */, 0 /* little-endian */);
+    const DtWireForm form = DtWireForm::number(2);
     return DtWriteValue(writer, state.mark(), form);
 }
 
 bool DtBeaconEncoder::encodeImage(const DtBeaconStateRepository& state, DtWireWriter& writer)
 {
-    const DtWireForm form("HLAopaqueData", "", R"qx(HLAvariableArray)qx",
+    const DtWireForm form = DtWireForm("HLAopaqueData", "", R"qx(HLAvariableArray)qx",
         -1 /* elements */, 0 /* octets */, 0 /* little-endian */);
     return DtWriteValue(writer, state.image(), form);
 }
 
 bool DtBeaconEncoder::encodeTested(const DtBeaconStateRepository& state, DtWireWriter& writer)
 {
-    const DtWireForm form("RPRboolean", "HLAoctet", R"qx(HLAvariableArray)qx",
-        -1 /* elements */, 1 /* octets */, 0 /* little-endian */);
+    const DtWireForm form = DtWireForm::number(1);
     return DtWriteValue(writer, state.tested(), form);
 }
 
 bool DtBeaconEncoder::encodeManned(const DtBeaconStateRepository& state, DtWireWriter& writer)
 {
-    const DtWireForm form("OMT13boolean", "HLAinteger16BE", R"qx(HLAvariableArray)qx",
-        -1 /* elements */, 2 /* octets */, 0 /* little-endian */);
+    const DtWireForm form = DtWireForm::number(2);
     return DtWriteValue(writer, state.manned(), form);
 }
 
 bool DtBeaconEncoder::encodeNeighbours(const DtBeaconStateRepository& state, DtWireWriter& writer)
 {
-    const DtWireForm form("NameList", "HLAunicodeString", R"qx(HLAvariableArray)qx",
-        -1 /* elements */, 0 /* octets */, 0 /* little-endian */);
+    const DtWireForm form = DtWireForm();
     return DtWriteValue(writer, state.neighbours(), form);
 }
 
 bool DtBeaconEncoder::encodeSights(const DtBeaconStateRepository& state, DtWireWriter& writer)
 {
-    const DtWireForm form("BearingList", "HLAfloat64BE", R"qx(HLAvariableArray)qx",
-        -1 /* elements */, 8 /* octets */, 0 /* little-endian */);
+    const DtWireForm form = DtWireForm();
     return DtWriteValue(writer, state.sights(), form);
 }
 
 bool DtBeaconEncoder::encodeZone(const DtBeaconStateRepository& state, DtWireWriter& writer)
 {
-    const DtWireForm form("Zone64", "HarbourUnsigned64LE", R"qx(HLAvariableArray)qx",
-        -1 /* elements */, 8 /* octets */, 1 /* little-endian */);
+    const DtWireForm form = DtWireForm();
     return DtWriteValue(writer, state.zone(), form);
 }
 
 bool DtBeaconEncoder::encodeCurrent(const DtBeaconStateRepository& state, DtWireWriter& writer)
 {
-    const DtWireForm form("Current16", "HLAinteger16LE", R"qx(HLAvariableArray)qx",
-        -1 /* elements */, 2 /* octets */, 1 /* little-endian */);
+    const DtWireForm form = DtWireForm();
     return DtWriteValue(writer, state.current(), form);
 }
 
 bool DtBeaconEncoder::encodeWatch(const DtBeaconStateRepository& state, DtWireWriter& writer)
 {
-    const DtWireForm form("RotationList", "Rotation", R"qx(HLAvariableArray)qx",
-        -1 /* elements */, 0 /* octets */, 0 /* little-endian */);
+    const DtWireForm form = DtWireForm();
     return DtWriteValue(writer, state.watch(), form);
 }
 
 bool DtBeaconEncoder::encodeCalls(const DtBeaconStateRepository& state, DtWireWriter& writer)
 {
-    const DtWireForm form("SignalLog", "SignalEntry", R"qx(HLAvariableArray)qx",
-        -1 /* elements */, 0 /* octets */, 0 /* little-endian */);
+    const DtWireForm form = DtWireForm();
     return DtWriteValue(writer, state.calls(), form);
 }
 
 bool DtBeaconEncoder::encodeFix(const DtBeaconStateRepository& state, DtWireWriter& writer)
 {
-    const DtWireForm form("PositionFix", "", R"qx(HLAvariableArray)qx",
-        -1 /* elements */, 0 /* octets */, 0 /* little-endian */);
+    const DtWireForm form = DtWireForm();
     return DtWriteValue(writer, state.fix(), form);
 }
 
 bool DtBeaconEncoder::encodeTest(const DtBeaconStateRepository& state, DtWireWriter& writer)
 {
-    const DtWireForm form("TestResult", "", R"qx(HLAvariableArray)qx",
-        -1 /* elements */, 0 /* octets */, 0 /* little-endian */);
+    const DtWireForm form = DtWireForm();
     return DtWriteValue(writer, state.test(), form);
 }
 
 bool DtBeaconEncoder::encodePass(const DtBeaconStateRepository& state, DtWireWriter& writer)
 {
-    const DtWireForm form("Permit", "", R"qx(HLAvariableArray)qx",
-        -1 /* elements */, 0 /* octets */, 0 /* little-endian */);
+    const DtWireForm form = DtWireForm();
     return DtWriteValue(writer, state.pass(), form);
 }
 
 bool DtBeaconEncoder::encodeCondition(const DtBeaconStateRepository& state, DtWireWriter& writer)
 {
-    const DtWireForm form("LampReport", "", R"qx(HLAvariableArray)qx",
-        -1 /* elements */, 0 /* octets */, 0 /* little-endian */);
+    const DtWireForm form = DtWireForm();
     return DtWriteValue(writer, state.condition(), form);
 }
 
 bool DtBeaconEncoder::encodeSurvey(const DtBeaconStateRepository& state, DtWireWriter& writer)
 {
-    const DtWireForm form("Inspection", "", R"qx(HLAvariableArray)qx",
-        -1 /* elements */, 0 /* octets */, 0 /* little-endian */);
+    const DtWireForm form = DtWireForm();
     return DtWriteValue(writer, state.survey(), form);
 }
 
 bool DtBeaconEncoder::encodeGear(const DtBeaconStateRepository& state, DtWireWriter& writer)
 {
-    const DtWireForm form("Equipment", "", R"qx(HLAvariableArray)qx",
-        -1 /* elements */, 0 /* octets */, 0 /* little-endian */);
+    const DtWireForm form = DtWireForm();
     return DtWriteValue(writer, state.gear(), form);
 }
 
 bool DtBeaconEncoder::encodeRule(const DtBeaconStateRepository& state, DtWireWriter& writer)
 {
-    const DtWireForm form("ZoneRule", "", R"qx(HLAvariableArray)qx",
-        -1 /* elements */, 0 /* octets */, 0 /* little-endian */);
+    const DtWireForm form = DtWireForm();
     return DtWriteValue(writer, state.rule(), form);
 }
 
 bool DtBeaconEncoder::encodePaper(const DtBeaconStateRepository& state, DtWireWriter& writer)
 {
-    const DtWireForm form("ReportFrame", "", R"qx(HLAvariableArray)qx",
-        -1 /* elements */, 0 /* octets */, 0 /* little-endian */);
+    const DtWireForm form = DtWireForm();
     return DtWriteValue(writer, state.paper(), form);
 }
 
 bool DtBeaconEncoder::encodeTimes(const DtBeaconStateRepository& state, DtWireWriter& writer)
 {
-    const DtWireForm form("GateTimes", "ClockTime", R"qx(HLAfixedArray)qx",
-        4 /* elements */, 0 /* octets */, 0 /* little-endian */);
+    const DtWireForm form = DtWireForm();
     return DtWriteValue(writer, state.times(), form);
 }
 
 bool DtBeaconEncoder::encodeChambers(const DtBeaconStateRepository& state, DtWireWriter& writer)
 {
-    const DtWireForm form("LockGrid", "HarbourUnsigned32", R"qx(HLAfixedArray)qx",
-        8 /* elements */, 4 /* octets */, 0 /* little-endian */);
+    const DtWireForm form = DtWireForm();
     return DtWriteValue(writer, state.chambers(), form);
 }
 
 bool DtBeaconEncoder::encodeRemark(const DtBeaconStateRepository& state, DtWireWriter& writer)
 {
-    const DtWireForm form("LongNote", "", R"qx(HLAvariableArray)qx",
-        -1 /* elements */, 0 /* octets */, 0 /* little-endian */);
+    const DtWireForm form = DtWireForm();
     return DtWriteValue(writer, state.remark(), form);
 }
 
 bool DtBeaconEncoder::encodeDraughts(const DtBeaconStateRepository& state, DtWireWriter& writer)
 {
-    const DtWireForm form("DraughtTable", "HLAfloat32LE", R"qx(HLAfixedArray)qx",
-        3 /* elements */, 4 /* octets */, 1 /* little-endian */);
+    const DtWireForm form = DtWireForm();
     return DtWriteValue(writer, state.draughts(), form);
 }
 
 bool DtBeaconEncoder::encodeRing(const DtBeaconStateRepository& state, DtWireWriter& writer)
 {
-    const DtWireForm form("TideRing", "HarbourUnsigned16LE", R"qx(HLAvariableArray)qx",
-        -1 /* elements */, 2 /* octets */, 1 /* little-endian */);
+    const DtWireForm form = DtWireForm();
     return DtWriteValue(writer, state.ring(), form);
 }
 
 bool DtBeaconEncoder::encodeLines(const DtBeaconStateRepository& state, DtWireWriter& writer)
 {
-    const DtWireForm form("LineList", "HLAinteger32BE", R"qx(HLAvariableArray)qx",
-        4 /* elements */, 4 /* octets */, 0 /* little-endian */);
+    const DtWireForm form = DtWireForm();
     return DtWriteValue(writer, state.lines(), form);
 }
 
 bool DtBeaconEncoder::encodeDeep(const DtBeaconStateRepository& state, DtWireWriter& writer)
 {
-    const DtWireForm form("Deep32", "HLAinteger32LE", R"qx(HLAvariableArray)qx",
-        -1 /* elements */, 4 /* octets */, 1 /* little-endian */);
+    const DtWireForm form = DtWireForm();
     return DtWriteValue(writer, state.deep(), form);
 }
 
 bool DtBeaconEncoder::encodeSlack(const DtBeaconStateRepository& state, DtWireWriter& writer)
 {
-    const DtWireForm form("Slack24", "HarbourInteger24LE", R"qx(HLAvariableArray)qx",
-        -1 /* elements */, 3 /* octets */, 1 /* little-endian */);
+    const DtWireForm form = DtWireForm();
     return DtWriteValue(writer, state.slack(), form);
 }
 
 bool DtBeaconEncoder::encodeFind(const DtBeaconStateRepository& state, DtWireWriter& writer)
 {
-    const DtWireForm form("HullPart32", "HarbourUnsigned32", R"qx(HLAvariableArray)qx",
-        -1 /* elements */, 4 /* octets */, 0 /* little-endian */);
+    const DtWireForm form = DtWireForm();
     return DtWriteValue(writer, state.find(), form);
 }
 
 bool DtBeaconEncoder::encodeSpare(const DtBeaconStateRepository& state, DtWireWriter& writer)
 {
-    const DtWireForm form("Empty__Record", "", R"qx(HLAvariableArray)qx",
-        -1 /* elements */, 0 /* octets */, 0 /* little-endian */);
+    const DtWireForm form = DtWireForm();
     return DtWriteValue(writer, state.spare(), form);
 }
 
 bool DtBeaconEncoder::encodeSteps(const DtBeaconStateRepository& state, DtWireWriter& writer)
 {
-    const DtWireForm form("HLAinteger32LE", "", R"qx(HLAvariableArray)qx",
-        -1 /* elements */, 4 /* octets */, 1 /* little-endian */);
+    const DtWireForm form = DtWireForm::number(4, DtLittleEndian);
     return DtWriteValue(writer, state.steps(), form);
 }
 
 bool DtBeaconEncoder::encodeRank(const DtBeaconStateRepository& state, DtWireWriter& writer)
 {
-    const DtWireForm form("HLAinteger64LE", "", R"qx(HLAvariableArray)qx",
-        -1 /* elements */, 8 /* octets */, 1 /* little-endian */);
+    const DtWireForm form = DtWireForm::number(8, DtLittleEndian);
     return DtWriteValue(writer, state.rank(), form);
 }
 
 bool DtBeaconEncoder::encodeFloor(const DtBeaconStateRepository& state, DtWireWriter& writer)
 {
-    const DtWireForm form("HLAinteger16LE", "", R"qx(HLAvariableArray)qx",
-        -1 /* elements */, 2 /* octets */, 1 /* little-endian */);
+    const DtWireForm form = DtWireForm::number(2, DtLittleEndian);
     return DtWriteValue(writer, state.floor(), form);
 }
 
 bool DtBeaconEncoder::encodeSign(const DtBeaconStateRepository& state, DtWireWriter& writer)
 {
-    const DtWireForm form("Letter", "HLAASCIIchar", R"qx(HLAvariableArray)qx",
-        -1 /* elements */, 1 /* octets */, 0 /* little-endian */);
+    const DtWireForm form = DtWireForm::number(1);
     return DtWriteValue(writer, state.sign(), form);
 }
 
 bool DtBeaconEncoder::encodeFooting(const DtBeaconStateRepository& state, DtWireWriter& writer)
 {
-    const DtWireForm form("Depth", "HLAinteger16BE", R"qx(HLAvariableArray)qx",
-        -1 /* elements */, 2 /* octets */, 0 /* little-endian */);
+    const DtWireForm form = DtWireForm::number(2);
     return DtWriteValue(writer, state.footing(), form);
 }
 
 bool DtBeaconEncoder::encodeSwing(const DtBeaconStateRepository& state, DtWireWriter& writer)
 {
-    const DtWireForm form("HarbourInteger24LE", "", R"qx(HLAvariableArray)qx",
-        -1 /* elements */, 3 /* octets */, 1 /* little-endian */);
+    const DtWireForm form = DtWireForm();
     return DtWriteValue(writer, state.swing(), form);
 }
 
 bool DtBeaconEncoder::encodeDoors(const DtBeaconStateRepository& state, DtWireWriter& writer)
 {
-    const DtWireForm form("DoorStates", "HLAboolean", R"qx(HLAfixedArray)qx",
-        3 /* elements */, 0 /* octets */, 0 /* little-endian */);
+    const DtWireForm form = DtWireForm();
     return DtWriteValue(writer, state.doors(), form);
 }
 

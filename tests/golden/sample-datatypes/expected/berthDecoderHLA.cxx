@@ -19,8 +19,7 @@ DtBerthDecoder::DtBerthDecoder()
 
 bool DtBerthDecoder::decodeLength(DtBerthStateRepository& state, DtWireReader& reader)
 {
-    const DtWireForm form("HLAfloat64BE", "", R"qx(HLAvariableArray)qx",
-        -1 /* elements */, 8 /* octets */, 0 /* little-endian */);
+    const DtWireForm form = DtWireForm::number(8);
     auto value = state.length();
     if (!DtReadValue(reader, value, form))
     {
@@ -32,8 +31,7 @@ bool DtBerthDecoder::decodeLength(DtBerthStateRepository& state, DtWireReader& r
 
 bool DtBerthDecoder::decodeDepths(DtBerthStateRepository& state, DtWireReader& reader)
 {
-    const DtWireForm form("DepthGrid", "HLAinteger16BE", R"qx(HLAfixedArray)qx",
-        12 /* elements */, 2 /* octets */, 0 /* little-endian */);
+    const DtWireForm form = DtWireForm();
     auto value = state.depths();
     if (!DtReadValue(reader, value, form))
     {
@@ -45,7 +43,7 @@ bool DtBerthDecoder::decodeDepths(DtBerthStateRepository& state, DtWireReader& r
 
 bool DtBerthDecoder::decodeOccupant(DtBerthStateRepository& state, DtWireReader& reader)
 {
-    const DtWireForm form("DtOccupant", "", R"qx(HLAvariableArray)qx",
+    const DtWireForm form = DtWireForm("DtOccupant", "", R"qx(HLAvariableArray)qx",
         -1 /* elements */, 0 /* octets */, 0 /* little-endian */);
     auto value = state.occupant();
     if (!DtReadValue(reader, value, form))
@@ -58,8 +56,7 @@ bool DtBerthDecoder::decodeOccupant(DtBerthStateRepository& state, DtWireReader&
 
 bool DtBerthDecoder::decodeFlags(DtBerthStateRepository& state, DtWireReader& reader)
 {
-    const DtWireForm form("FlagBits", "HLAoctet", R"qx(HLAbitArray)qx",
-        -1 /* elements */, 1 /* octets */, 0 /* little-endian */);
+    const DtWireForm form = DtWireForm();
     auto value = state.flags();
     if (!DtReadValue(reader, value, form))
     {
@@ -71,8 +68,7 @@ bool DtBerthDecoder::decodeFlags(DtBerthStateRepository& state, DtWireReader& re
 
 bool DtBerthDecoder::decodeKind64(DtBerthStateRepository& state, DtWireReader& reader)
 {
-    const DtWireForm form("BerthKind64", "HLAinteger64BE", R"qx(HLAvariableArray)qx",
-        -1 /* elements */, 8 /* octets */, 0 /* little-endian */);
+    const DtWireForm form = DtWireForm();
     auto value = state.kind64();
     if (!DtReadValue(reader, value, form))
     {
@@ -84,8 +80,7 @@ bool DtBerthDecoder::decodeKind64(DtBerthStateRepository& state, DtWireReader& r
 
 bool DtBerthDecoder::decodeFenders(DtBerthStateRepository& state, DtWireReader& reader)
 {
-    const DtWireForm form("FenderList", "HarbourUnsigned8", R"qx(RPRpaddingTo32Array)qx",
-        -1 /* elements */, 1 /* octets */, 0 /* little-endian */);
+    const DtWireForm form = DtWireForm();
     auto value = state.fenders();
     if (!DtReadValue(reader, value, form))
     {

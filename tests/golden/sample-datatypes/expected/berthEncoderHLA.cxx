@@ -19,43 +19,38 @@ DtBerthEncoder::DtBerthEncoder()
 
 bool DtBerthEncoder::encodeLength(const DtBerthStateRepository& state, DtWireWriter& writer)
 {
-    const DtWireForm form("HLAfloat64BE", "", R"qx(HLAvariableArray)qx",
-        -1 /* elements */, 8 /* octets */, 0 /* little-endian */);
+    const DtWireForm form = DtWireForm::number(8);
     return DtWriteValue(writer, state.length(), form);
 }
 
 bool DtBerthEncoder::encodeDepths(const DtBerthStateRepository& state, DtWireWriter& writer)
 {
-    const DtWireForm form("DepthGrid", "HLAinteger16BE", R"qx(HLAfixedArray)qx",
-        12 /* elements */, 2 /* octets */, 0 /* little-endian */);
+    const DtWireForm form = DtWireForm();
     return DtWriteValue(writer, state.depths(), form);
 }
 
 bool DtBerthEncoder::encodeOccupant(const DtBerthStateRepository& state, DtWireWriter& writer)
 {
-    const DtWireForm form("DtOccupant", "", R"qx(HLAvariableArray)qx",
+    const DtWireForm form = DtWireForm("DtOccupant", "", R"qx(HLAvariableArray)qx",
         -1 /* elements */, 0 /* octets */, 0 /* little-endian */);
     return DtWriteValue(writer, state.occupant(), form);
 }
 
 bool DtBerthEncoder::encodeFlags(const DtBerthStateRepository& state, DtWireWriter& writer)
 {
-    const DtWireForm form("FlagBits", "HLAoctet", R"qx(HLAbitArray)qx",
-        -1 /* elements */, 1 /* octets */, 0 /* little-endian */);
+    const DtWireForm form = DtWireForm();
     return DtWriteValue(writer, state.flags(), form);
 }
 
 bool DtBerthEncoder::encodeKind64(const DtBerthStateRepository& state, DtWireWriter& writer)
 {
-    const DtWireForm form("BerthKind64", "HLAinteger64BE", R"qx(HLAvariableArray)qx",
-        -1 /* elements */, 8 /* octets */, 0 /* little-endian */);
+    const DtWireForm form = DtWireForm();
     return DtWriteValue(writer, state.kind64(), form);
 }
 
 bool DtBerthEncoder::encodeFenders(const DtBerthStateRepository& state, DtWireWriter& writer)
 {
-    const DtWireForm form("FenderList", "HarbourUnsigned8", R"qx(RPRpaddingTo32Array)qx",
-        -1 /* elements */, 1 /* octets */, 0 /* little-endian */);
+    const DtWireForm form = DtWireForm();
     return DtWriteValue(writer, state.fenders(), form);
 }
 

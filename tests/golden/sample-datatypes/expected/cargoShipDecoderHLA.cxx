@@ -18,8 +18,7 @@ DtCargoShipDecoder::DtCargoShipDecoder()
 
 bool DtCargoShipDecoder::decodeHolds(DtCargoShipStateRepository& state, DtWireReader& reader)
 {
-    const DtWireForm form("HoldTable", "Hold", R"qx(HLAfixedArray)qx",
-        4 /* elements */, 0 /* octets */, 0 /* little-endian */);
+    const DtWireForm form = DtWireForm();
     auto value = state.holds();
     if (!DtReadValue(reader, value, form))
     {
@@ -31,8 +30,7 @@ bool DtCargoShipDecoder::decodeHolds(DtCargoShipStateRepository& state, DtWireRe
 
 bool DtCargoShipDecoder::decodeManifest(DtCargoShipStateRepository& state, DtWireReader& reader)
 {
-    const DtWireForm form("Cargo_Item_List", "Cargo__Item", R"qx(HLAvariableArray)qx",
-        -1 /* elements */, 0 /* octets */, 0 /* little-endian */);
+    const DtWireForm form = DtWireForm();
     auto value = state.manifest();
     if (!DtReadValue(reader, value, form))
     {
@@ -44,8 +42,7 @@ bool DtCargoShipDecoder::decodeManifest(DtCargoShipStateRepository& state, DtWir
 
 bool DtCargoShipDecoder::decodeDraught(DtCargoShipStateRepository& state, DtWireReader& reader)
 {
-    const DtWireForm form("HLAfloat32LE", "", R"qx(HLAvariableArray)qx",
-        -1 /* elements */, 4 /* octets */, 1 /* little-endian */);
+    const DtWireForm form = DtWireForm::number(4, DtLittleEndian);
     auto value = state.draught();
     if (!DtReadValue(reader, value, form))
     {
@@ -57,7 +54,7 @@ bool DtCargoShipDecoder::decodeDraught(DtCargoShipStateRepository& state, DtWire
 
 bool DtCargoShipDecoder::decodeDangerous(DtCargoShipStateRepository& state, DtWireReader& reader)
 {
-    const DtWireForm form("HLAboolean", "", R"qx(HLAvariableArray)qx",
+    const DtWireForm form = DtWireForm("HLAboolean", "", R"qx(HLAvariableArray)qx",
         -1 /* elements */, 0 /* octets */, 0 /* little-endian */);
     auto value = state.dangerous();
     if (!DtReadValue(reader, value, form))
@@ -70,8 +67,7 @@ bool DtCargoShipDecoder::decodeDangerous(DtCargoShipStateRepository& state, DtWi
 
 bool DtCargoShipDecoder::decodeSeal(DtCargoShipStateRepository& state, DtWireReader& reader)
 {
-    const DtWireForm form("Seal__Code", "HLAoctet", R"qx(HLAfixedArray)qx",
-        8 /* elements */, 1 /* octets */, 0 /* little-endian */);
+    const DtWireForm form = DtWireForm();
     auto value = state.seal();
     if (!DtReadValue(reader, value, form))
     {

@@ -18,36 +18,32 @@ DtCargoShipEncoder::DtCargoShipEncoder()
 
 bool DtCargoShipEncoder::encodeHolds(const DtCargoShipStateRepository& state, DtWireWriter& writer)
 {
-    const DtWireForm form("HoldTable", "Hold", R"qx(HLAfixedArray)qx",
-        4 /* elements */, 0 /* octets */, 0 /* little-endian */);
+    const DtWireForm form = DtWireForm();
     return DtWriteValue(writer, state.holds(), form);
 }
 
 bool DtCargoShipEncoder::encodeManifest(const DtCargoShipStateRepository& state, DtWireWriter& writer)
 {
-    const DtWireForm form("Cargo_Item_List", "Cargo__Item", R"qx(HLAvariableArray)qx",
-        -1 /* elements */, 0 /* octets */, 0 /* little-endian */);
+    const DtWireForm form = DtWireForm();
     return DtWriteValue(writer, state.manifest(), form);
 }
 
 bool DtCargoShipEncoder::encodeDraught(const DtCargoShipStateRepository& state, DtWireWriter& writer)
 {
-    const DtWireForm form("HLAfloat32LE", "", R"qx(HLAvariableArray)qx",
-        -1 /* elements */, 4 /* octets */, 1 /* little-endian */);
+    const DtWireForm form = DtWireForm::number(4, DtLittleEndian);
     return DtWriteValue(writer, state.draught(), form);
 }
 
 bool DtCargoShipEncoder::encodeDangerous(const DtCargoShipStateRepository& state, DtWireWriter& writer)
 {
-    const DtWireForm form("HLAboolean", "", R"qx(HLAvariableArray)qx",
+    const DtWireForm form = DtWireForm("HLAboolean", "", R"qx(HLAvariableArray)qx",
         -1 /* elements */, 0 /* octets */, 0 /* little-endian */);
     return DtWriteValue(writer, state.dangerous(), form);
 }
 
 bool DtCargoShipEncoder::encodeSeal(const DtCargoShipStateRepository& state, DtWireWriter& writer)
 {
-    const DtWireForm form("Seal__Code", "HLAoctet", R"qx(HLAfixedArray)qx",
-        8 /* elements */, 1 /* octets */, 0 /* little-endian */);
+    const DtWireForm form = DtWireForm();
     return DtWriteValue(writer, state.seal(), form);
 }
 

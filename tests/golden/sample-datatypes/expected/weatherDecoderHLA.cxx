@@ -19,8 +19,7 @@ DtWeatherDecoder::DtWeatherDecoder()
 
 bool DtWeatherDecoder::decodeWind(DtWeatherStateRepository& state, DtWireReader& reader)
 {
-    const DtWireForm form("WindRecord", "", R"qx(HLAvariableArray)qx",
-        -1 /* elements */, 0 /* octets */, 0 /* little-endian */);
+    const DtWireForm form = DtWireForm();
     auto value = state.wind();
     if (!DtReadValue(reader, value, form))
     {
@@ -32,8 +31,7 @@ bool DtWeatherDecoder::decodeWind(DtWeatherStateRepository& state, DtWireReader&
 
 bool DtWeatherDecoder::decodeReport(DtWeatherStateRepository& state, DtWireReader& reader)
 {
-    const DtWireForm form("ReportText", "HLAASCIIchar", R"qx(HLAnullTerminatedArray)qx",
-        -1 /* elements */, 1 /* octets */, 0 /* little-endian */);
+    const DtWireForm form = DtWireForm();
     auto value = state.report();
     if (!DtReadValue(reader, value, form))
     {
@@ -45,8 +43,7 @@ bool DtWeatherDecoder::decodeReport(DtWeatherStateRepository& state, DtWireReade
 
 bool DtWeatherDecoder::decodeSamples(DtWeatherStateRepository& state, DtWireReader& reader)
 {
-    const DtWireForm form("SampleRun", "HLAinteger16BE", R"qx(HLAlengthlessVarArray)qx",
-        -1 /* elements */, 2 /* octets */, 0 /* little-endian */);
+    const DtWireForm form = DtWireForm();
     auto value = state.samples();
     if (!DtReadValue(reader, value, form))
     {
@@ -58,8 +55,7 @@ bool DtWeatherDecoder::decodeSamples(DtWeatherStateRepository& state, DtWireRead
 
 bool DtWeatherDecoder::decodeCodes(DtWeatherStateRepository& state, DtWireReader& reader)
 {
-    const DtWireForm form("CodeRange", "HarbourUnsigned32", R"qx(HLAvariableArray)qx",
-        -1 /* elements */, 4 /* octets */, 0 /* little-endian */);
+    const DtWireForm form = DtWireForm();
     auto value = state.codes();
     if (!DtReadValue(reader, value, form))
     {
@@ -71,8 +67,7 @@ bool DtWeatherDecoder::decodeCodes(DtWeatherStateRepository& state, DtWireReader
 
 bool DtWeatherDecoder::decodeTide(DtWeatherStateRepository& state, DtWireReader& reader)
 {
-    const DtWireForm form("Tide16LE", "HarbourUnsigned16LE", R"qx(HLAvariableArray)qx",
-        -1 /* elements */, 2 /* octets */, 1 /* little-endian */);
+    const DtWireForm form = DtWireForm();
     auto value = state.tide();
     if (!DtReadValue(reader, value, form))
     {
@@ -84,8 +79,7 @@ bool DtWeatherDecoder::decodeTide(DtWeatherStateRepository& state, DtWireReader&
 
 bool DtWeatherDecoder::decodeTrace(DtWeatherStateRepository& state, DtWireReader& reader)
 {
-    const DtWireForm form("PaddedTrace", "HarbourUnsigned16LE", R"qx(HLApaddingTo64Array)qx",
-        -1 /* elements */, 2 /* octets */, 1 /* little-endian */);
+    const DtWireForm form = DtWireForm();
     auto value = state.trace();
     if (!DtReadValue(reader, value, form))
     {

@@ -19,43 +19,37 @@ DtWeatherEncoder::DtWeatherEncoder()
 
 bool DtWeatherEncoder::encodeWind(const DtWeatherStateRepository& state, DtWireWriter& writer)
 {
-    const DtWireForm form("WindRecord", "", R"qx(HLAvariableArray)qx",
-        -1 /* elements */, 0 /* octets */, 0 /* little-endian */);
+    const DtWireForm form = DtWireForm();
     return DtWriteValue(writer, state.wind(), form);
 }
 
 bool DtWeatherEncoder::encodeReport(const DtWeatherStateRepository& state, DtWireWriter& writer)
 {
-    const DtWireForm form("ReportText", "HLAASCIIchar", R"qx(HLAnullTerminatedArray)qx",
-        -1 /* elements */, 1 /* octets */, 0 /* little-endian */);
+    const DtWireForm form = DtWireForm();
     return DtWriteValue(writer, state.report(), form);
 }
 
 bool DtWeatherEncoder::encodeSamples(const DtWeatherStateRepository& state, DtWireWriter& writer)
 {
-    const DtWireForm form("SampleRun", "HLAinteger16BE", R"qx(HLAlengthlessVarArray)qx",
-        -1 /* elements */, 2 /* octets */, 0 /* little-endian */);
+    const DtWireForm form = DtWireForm();
     return DtWriteValue(writer, state.samples(), form);
 }
 
 bool DtWeatherEncoder::encodeCodes(const DtWeatherStateRepository& state, DtWireWriter& writer)
 {
-    const DtWireForm form("CodeRange", "HarbourUnsigned32", R"qx(HLAvariableArray)qx",
-        -1 /* elements */, 4 /* octets */, 0 /* little-endian */);
+    const DtWireForm form = DtWireForm();
     return DtWriteValue(writer, state.codes(), form);
 }
 
 bool DtWeatherEncoder::encodeTide(const DtWeatherStateRepository& state, DtWireWriter& writer)
 {
-    const DtWireForm form("Tide16LE", "HarbourUnsigned16LE", R"qx(HLAvariableArray)qx",
-        -1 /* elements */, 2 /* octets */, 1 /* little-endian */);
+    const DtWireForm form = DtWireForm();
     return DtWriteValue(writer, state.tide(), form);
 }
 
 bool DtWeatherEncoder::encodeTrace(const DtWeatherStateRepository& state, DtWireWriter& writer)
 {
-    const DtWireForm form("PaddedTrace", "HarbourUnsigned16LE", R"qx(HLApaddingTo64Array)qx",
-        -1 /* elements */, 2 /* octets */, 1 /* little-endian */);
+    const DtWireForm form = DtWireForm();
     return DtWriteValue(writer, state.trace(), form);
 }
 

@@ -58,14 +58,14 @@ const DtAnswerInterInter::ValueOfReason& DtAnswerInterInter::reason() const
 // ---- coding
 static bool encode_DtAnswerInter_Done(const DtAnswerInterInter& interaction, DtWireWriter& writer)
 {
-    const DtWireForm form("HLAboolean", "", R"qx(HLAvariableArray)qx",
+    const DtWireForm form = DtWireForm("HLAboolean", "", R"qx(HLAvariableArray)qx",
         -1 /* elements */, 0 /* octets */, 0 /* little-endian */);
     return DtWriteValue(writer, interaction.done(), form);
 }
 
 static bool decode_DtAnswerInter_Done(DtAnswerInterInter& interaction, DtWireReader& reader)
 {
-    const DtWireForm form("HLAboolean", "", R"qx(HLAvariableArray)qx",
+    const DtWireForm form = DtWireForm("HLAboolean", "", R"qx(HLAvariableArray)qx",
         -1 /* elements */, 0 /* octets */, 0 /* little-endian */);
     auto value = interaction.done();
     if (!DtReadValue(reader, value, form))
@@ -77,15 +77,13 @@ static bool decode_DtAnswerInter_Done(DtAnswerInterInter& interaction, DtWireRea
 }
 static bool encode_DtAnswerInter_Reason(const DtAnswerInterInter& interaction, DtWireWriter& writer)
 {
-    const DtWireForm form("Occupant", "", R"qx(HLAvariableArray)qx",
-        -1 /* elements */, 0 /* octets */, 0 /* little-endian */);
+    const DtWireForm form = DtWireForm();
     return DtWriteValue(writer, interaction.reason(), form);
 }
 
 static bool decode_DtAnswerInter_Reason(DtAnswerInterInter& interaction, DtWireReader& reader)
 {
-    const DtWireForm form("Occupant", "", R"qx(HLAvariableArray)qx",
-        -1 /* elements */, 0 /* octets */, 0 /* little-endian */);
+    const DtWireForm form = DtWireForm();
     auto value = interaction.reason();
     if (!DtReadValue(reader, value, form))
     {

@@ -15,7 +15,7 @@ DtAnswerInterDecoder::DtAnswerInterDecoder()
 
 bool DtAnswerInterDecoder::decodeDone(DtAnswerInter& interaction, DtWireReader& reader)
 {
-    const DtWireForm form("HLAboolean", "", R"qx(HLAvariableArray)qx",
+    const DtWireForm form = DtWireForm("HLAboolean", "", R"qx(HLAvariableArray)qx",
         -1 /* elements */, 0 /* octets */, 0 /* little-endian */);
     auto value = interaction.done();
     if (!DtReadValue(reader, value, form))
@@ -28,8 +28,7 @@ bool DtAnswerInterDecoder::decodeDone(DtAnswerInter& interaction, DtWireReader& 
 
 bool DtAnswerInterDecoder::decodeReason(DtAnswerInter& interaction, DtWireReader& reader)
 {
-    const DtWireForm form("Occupant", "", R"qx(HLAvariableArray)qx",
-        -1 /* elements */, 0 /* octets */, 0 /* little-endian */);
+    const DtWireForm form = DtWireForm();
     auto value = interaction.reason();
     if (!DtReadValue(reader, value, form))
     {

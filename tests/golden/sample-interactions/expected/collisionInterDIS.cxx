@@ -73,15 +73,13 @@ const DtCollisionInterInter::ValueOfDebris& DtCollisionInterInter::debris() cons
 // ---- coding
 static bool encode_DtCollisionInter_Force(const DtCollisionInterInter& interaction, DtWireWriter& writer)
 {
-    const DtWireForm form("Newton", "HLAfloat64LE", R"qx(HLAvariableArray)qx",
-        -1 /* elements */, 8 /* octets */, 1 /* little-endian */);
+    const DtWireForm form = DtWireForm::number(8, DtLittleEndian);
     return DtWriteValue(writer, interaction.force(), form);
 }
 
 static bool decode_DtCollisionInter_Force(DtCollisionInterInter& interaction, DtWireReader& reader)
 {
-    const DtWireForm form("Newton", "HLAfloat64LE", R"qx(HLAvariableArray)qx",
-        -1 /* elements */, 8 /* octets */, 1 /* little-endian */);
+    const DtWireForm form = DtWireForm::number(8, DtLittleEndian);
     auto value = interaction.force();
     if (!DtReadValue(reader, value, form))
     {
@@ -92,15 +90,13 @@ static bool decode_DtCollisionInter_Force(DtCollisionInterInter& interaction, Dt
 }
 static bool encode_DtCollisionInter_Where(const DtCollisionInterInter& interaction, DtWireWriter& writer)
 {
-    const DtWireForm form("GeoPoint", "", R"qx(HLAvariableArray)qx",
-        -1 /* elements */, 0 /* octets */, 0 /* little-endian */);
+    const DtWireForm form = DtWireForm();
     return DtWriteValue(writer, interaction.where(), form);
 }
 
 static bool decode_DtCollisionInter_Where(DtCollisionInterInter& interaction, DtWireReader& reader)
 {
-    const DtWireForm form("GeoPoint", "", R"qx(HLAvariableArray)qx",
-        -1 /* elements */, 0 /* octets */, 0 /* little-endian */);
+    const DtWireForm form = DtWireForm();
     auto value = interaction.where();
     if (!DtReadValue(reader, value, form))
     {
@@ -111,15 +107,13 @@ static bool decode_DtCollisionInter_Where(DtCollisionInterInter& interaction, Dt
 }
 static bool encode_DtCollisionInter_Debris(const DtCollisionInterInter& interaction, DtWireWriter& writer)
 {
-    const DtWireForm form("Cargo_Item_List", "Cargo__Item", R"qx(HLAvariableArray)qx",
-        -1 /* elements */, 0 /* octets */, 0 /* little-endian */);
+    const DtWireForm form = DtWireForm();
     return DtWriteValue(writer, interaction.debris(), form);
 }
 
 static bool decode_DtCollisionInter_Debris(DtCollisionInterInter& interaction, DtWireReader& reader)
 {
-    const DtWireForm form("Cargo_Item_List", "Cargo__Item", R"qx(HLAvariableArray)qx",
-        -1 /* elements */, 0 /* octets */, 0 /* little-endian */);
+    const DtWireForm form = DtWireForm();
     auto value = interaction.debris();
     if (!DtReadValue(reader, value, form))
     {

@@ -16,8 +16,7 @@ DtCollisionInterDecoder::DtCollisionInterDecoder()
 
 bool DtCollisionInterDecoder::decodeForce(DtCollisionInter& interaction, DtWireReader& reader)
 {
-    const DtWireForm form("Newton", "HLAfloat64LE", R"qx(HLAvariableArray)qx",
-        -1 /* elements */, 8 /* octets */, 1 /* little-endian */);
+    const DtWireForm form = DtWireForm::number(8, DtLittleEndian);
     auto value = interaction.force();
     if (!DtReadValue(reader, value, form))
     {
@@ -29,8 +28,7 @@ bool DtCollisionInterDecoder::decodeForce(DtCollisionInter& interaction, DtWireR
 
 bool DtCollisionInterDecoder::decodeWhere(DtCollisionInter& interaction, DtWireReader& reader)
 {
-    const DtWireForm form("GeoPoint", "", R"qx(HLAvariableArray)qx",
-        -1 /* elements */, 0 /* octets */, 0 /* little-endian */);
+    const DtWireForm form = DtWireForm();
     auto value = interaction.where();
     if (!DtReadValue(reader, value, form))
     {
@@ -42,8 +40,7 @@ bool DtCollisionInterDecoder::decodeWhere(DtCollisionInter& interaction, DtWireR
 
 bool DtCollisionInterDecoder::decodeDebris(DtCollisionInter& interaction, DtWireReader& reader)
 {
-    const DtWireForm form("Cargo_Item_List", "Cargo__Item", R"qx(HLAvariableArray)qx",
-        -1 /* elements */, 0 /* octets */, 0 /* little-endian */);
+    const DtWireForm form = DtWireForm();
     auto value = interaction.debris();
     if (!DtReadValue(reader, value, form))
     {

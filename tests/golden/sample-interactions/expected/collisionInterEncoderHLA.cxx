@@ -25,22 +25,19 @@ DtCollisionInterEncoder::DtCollisionInterEncoder()
 
 bool DtCollisionInterEncoder::encodeForce(const DtCollisionInter& interaction, DtWireWriter& writer)
 {
-    const DtWireForm form("Newton", "HLAfloat64LE", R"qx(HLAvariableArray)qx",
-        -1 /* elements */, 8 /* octets */, 1 /* little-endian */);
+    const DtWireForm form = DtWireForm::number(8, DtLittleEndian);
     return DtWriteValue(writer, interaction.force(), form);
 }
 
 bool DtCollisionInterEncoder::encodeWhere(const DtCollisionInter& interaction, DtWireWriter& writer)
 {
-    const DtWireForm form("GeoPoint", "", R"qx(HLAvariableArray)qx",
-        -1 /* elements */, 0 /* octets */, 0 /* little-endian */);
+    const DtWireForm form = DtWireForm();
     return DtWriteValue(writer, interaction.where(), form);
 }
 
 bool DtCollisionInterEncoder::encodeDebris(const DtCollisionInter& interaction, DtWireWriter& writer)
 {
-    const DtWireForm form("Cargo_Item_List", "Cargo__Item", R"qx(HLAvariableArray)qx",
-        -1 /* elements */, 0 /* octets */, 0 /* little-endian */);
+    const DtWireForm form = DtWireForm();
     return DtWriteValue(writer, interaction.debris(), form);
 }
 

@@ -73,15 +73,13 @@ const DtMove__ToInterInter::ValueOfTugs& DtMove__ToInterInter::tugs() const
 // ---- coding
 static bool encode_DtMove__ToInter_Target_Point_(const DtMove__ToInterInter& interaction, DtWireWriter& writer)
 {
-    const DtWireForm form("GeoPoint", "", R"qx(HLAvariableArray)qx",
-        -1 /* elements */, 0 /* octets */, 0 /* little-endian */);
+    const DtWireForm form = DtWireForm();
     return DtWriteValue(writer, interaction.target_Point_(), form);
 }
 
 static bool decode_DtMove__ToInter_Target_Point_(DtMove__ToInterInter& interaction, DtWireReader& reader)
 {
-    const DtWireForm form("GeoPoint", "", R"qx(HLAvariableArray)qx",
-        -1 /* elements */, 0 /* octets */, 0 /* little-endian */);
+    const DtWireForm form = DtWireForm();
     auto value = interaction.target_Point_();
     if (!DtReadValue(reader, value, form))
     {
@@ -92,15 +90,13 @@ static bool decode_DtMove__ToInter_Target_Point_(DtMove__ToInterInter& interacti
 }
 static bool encode_DtMove__ToInter_By__Hour(const DtMove__ToInterInter& interaction, DtWireWriter& writer)
 {
-    const DtWireForm form("HLAfloat64LE", "", R"qx(HLAvariableArray)qx",
-        -1 /* elements */, 8 /* octets */, 1 /* little-endian */);
+    const DtWireForm form = DtWireForm::number(8, DtLittleEndian);
     return DtWriteValue(writer, interaction.by__Hour(), form);
 }
 
 static bool decode_DtMove__ToInter_By__Hour(DtMove__ToInterInter& interaction, DtWireReader& reader)
 {
-    const DtWireForm form("HLAfloat64LE", "", R"qx(HLAvariableArray)qx",
-        -1 /* elements */, 8 /* octets */, 1 /* little-endian */);
+    const DtWireForm form = DtWireForm::number(8, DtLittleEndian);
     auto value = interaction.by__Hour();
     if (!DtReadValue(reader, value, form))
     {
@@ -111,15 +107,13 @@ static bool decode_DtMove__ToInter_By__Hour(DtMove__ToInterInter& interaction, D
 }
 static bool encode_DtMove__ToInter_Tugs(const DtMove__ToInterInter& interaction, DtWireWriter& writer)
 {
-    const DtWireForm form("TugNames", "HLAASCIIchar", R"qx(HLAvariableArray)qx",
-        -1 /* elements */, 1 /* octets */, 0 /* little-endian */);
+    const DtWireForm form = DtWireForm();
     return DtWriteValue(writer, interaction.tugs(), form);
 }
 
 static bool decode_DtMove__ToInter_Tugs(DtMove__ToInterInter& interaction, DtWireReader& reader)
 {
-    const DtWireForm form("TugNames", "HLAASCIIchar", R"qx(HLAvariableArray)qx",
-        -1 /* elements */, 1 /* octets */, 0 /* little-endian */);
+    const DtWireForm form = DtWireForm();
     auto value = interaction.tugs();
     if (!DtReadValue(reader, value, form))
     {

@@ -16,8 +16,7 @@ DtMove__ToInterDecoder::DtMove__ToInterDecoder()
 
 bool DtMove__ToInterDecoder::decodeTarget_Point_(DtMove__ToInter& interaction, DtWireReader& reader)
 {
-    const DtWireForm form("GeoPoint", "", R"qx(HLAvariableArray)qx",
-        -1 /* elements */, 0 /* octets */, 0 /* little-endian */);
+    const DtWireForm form = DtWireForm();
     auto value = interaction.target_Point_();
     if (!DtReadValue(reader, value, form))
     {
@@ -29,8 +28,7 @@ bool DtMove__ToInterDecoder::decodeTarget_Point_(DtMove__ToInter& interaction, D
 
 bool DtMove__ToInterDecoder::decodeBy__Hour(DtMove__ToInter& interaction, DtWireReader& reader)
 {
-    const DtWireForm form("HLAfloat64LE", "", R"qx(HLAvariableArray)qx",
-        -1 /* elements */, 8 /* octets */, 1 /* little-endian */);
+    const DtWireForm form = DtWireForm::number(8, DtLittleEndian);
     auto value = interaction.by__Hour();
     if (!DtReadValue(reader, value, form))
     {
@@ -42,8 +40,7 @@ bool DtMove__ToInterDecoder::decodeBy__Hour(DtMove__ToInter& interaction, DtWire
 
 bool DtMove__ToInterDecoder::decodeTugs(DtMove__ToInter& interaction, DtWireReader& reader)
 {
-    const DtWireForm form("TugNames", "HLAASCIIchar", R"qx(HLAvariableArray)qx",
-        -1 /* elements */, 1 /* octets */, 0 /* little-endian */);
+    const DtWireForm form = DtWireForm();
     auto value = interaction.tugs();
     if (!DtReadValue(reader, value, form))
     {

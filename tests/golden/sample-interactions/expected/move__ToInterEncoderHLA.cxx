@@ -25,22 +25,19 @@ DtMove__ToInterEncoder::DtMove__ToInterEncoder()
 
 bool DtMove__ToInterEncoder::encodeTarget_Point_(const DtMove__ToInter& interaction, DtWireWriter& writer)
 {
-    const DtWireForm form("GeoPoint", "", R"qx(HLAvariableArray)qx",
-        -1 /* elements */, 0 /* octets */, 0 /* little-endian */);
+    const DtWireForm form = DtWireForm();
     return DtWriteValue(writer, interaction.target_Point_(), form);
 }
 
 bool DtMove__ToInterEncoder::encodeBy__Hour(const DtMove__ToInter& interaction, DtWireWriter& writer)
 {
-    const DtWireForm form("HLAfloat64LE", "", R"qx(HLAvariableArray)qx",
-        -1 /* elements */, 8 /* octets */, 1 /* little-endian */);
+    const DtWireForm form = DtWireForm::number(8, DtLittleEndian);
     return DtWriteValue(writer, interaction.by__Hour(), form);
 }
 
 bool DtMove__ToInterEncoder::encodeTugs(const DtMove__ToInter& interaction, DtWireWriter& writer)
 {
-    const DtWireForm form("TugNames", "HLAASCIIchar", R"qx(HLAvariableArray)qx",
-        -1 /* elements */, 1 /* octets */, 0 /* little-endian */);
+    const DtWireForm form = DtWireForm();
     return DtWriteValue(writer, interaction.tugs(), form);
 }
 

@@ -53,15 +53,13 @@ const DtOrderInterInter::ValueOfTheRegister& DtOrderInterInter::theRegister() co
 // ---- coding
 static bool encode_DtOrderInter_Urgency(const DtOrderInterInter& interaction, DtWireWriter& writer)
 {
-    const DtWireForm form("Urgency8", "HarbourUnsigned8", R"qx(HLAvariableArray)qx",
-        -1 /* elements */, 1 /* octets */, 0 /* little-endian */);
+    const DtWireForm form = DtWireForm();
     return DtWriteValue(writer, interaction.urgency(), form);
 }
 
 static bool decode_DtOrderInter_Urgency(DtOrderInterInter& interaction, DtWireReader& reader)
 {
-    const DtWireForm form("Urgency8", "HarbourUnsigned8", R"qx(HLAvariableArray)qx",
-        -1 /* elements */, 1 /* octets */, 0 /* little-endian */);
+    const DtWireForm form = DtWireForm();
     auto value = interaction.urgency();
     if (!DtReadValue(reader, value, form))
     {
@@ -72,15 +70,13 @@ static bool decode_DtOrderInter_Urgency(DtOrderInterInter& interaction, DtWireRe
 }
 static bool encode_DtOrderInter_TheRegister(const DtOrderInterInter& interaction, DtWireWriter& writer)
 {
-    const DtWireForm form("HLAinteger32LE", "", R"qx(HLAvariableArray)qx",
-        -1 /* elements */, 4 /* octets */, 1 /* little-endian */);
+    const DtWireForm form = DtWireForm::number(4, DtLittleEndian);
     return DtWriteValue(writer, interaction.theRegister(), form);
 }
 
 static bool decode_DtOrderInter_TheRegister(DtOrderInterInter& interaction, DtWireReader& reader)
 {
-    const DtWireForm form("HLAinteger32LE", "", R"qx(HLAvariableArray)qx",
-        -1 /* elements */, 4 /* octets */, 1 /* little-endian */);
+    const DtWireForm form = DtWireForm::number(4, DtLittleEndian);
     auto value = interaction.theRegister();
     if (!DtReadValue(reader, value, form))
     {

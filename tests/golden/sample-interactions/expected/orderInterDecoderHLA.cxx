@@ -15,8 +15,7 @@ DtOrderInterDecoder::DtOrderInterDecoder()
 
 bool DtOrderInterDecoder::decodeUrgency(DtOrderInter& interaction, DtWireReader& reader)
 {
-    const DtWireForm form("Urgency8", "HarbourUnsigned8", R"qx(HLAvariableArray)qx",
-        -1 /* elements */, 1 /* octets */, 0 /* little-endian */);
+    const DtWireForm form = DtWireForm();
     auto value = interaction.urgency();
     if (!DtReadValue(reader, value, form))
     {
@@ -28,8 +27,7 @@ bool DtOrderInterDecoder::decodeUrgency(DtOrderInter& interaction, DtWireReader&
 
 bool DtOrderInterDecoder::decodeTheRegister(DtOrderInter& interaction, DtWireReader& reader)
 {
-    const DtWireForm form("HLAinteger32LE", "", R"qx(HLAvariableArray)qx",
-        -1 /* elements */, 4 /* octets */, 1 /* little-endian */);
+    const DtWireForm form = DtWireForm::number(4, DtLittleEndian);
     auto value = interaction.theRegister();
     if (!DtReadValue(reader, value, form))
     {

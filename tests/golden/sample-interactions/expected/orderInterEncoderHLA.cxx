@@ -21,15 +21,13 @@ DtOrderInterEncoder::DtOrderInterEncoder()
 
 bool DtOrderInterEncoder::encodeUrgency(const DtOrderInter& interaction, DtWireWriter& writer)
 {
-    const DtWireForm form("Urgency8", "HarbourUnsigned8", R"qx(HLAvariableArray)qx",
-        -1 /* elements */, 1 /* octets */, 0 /* little-endian */);
+    const DtWireForm form = DtWireForm();
     return DtWriteValue(writer, interaction.urgency(), form);
 }
 
 bool DtOrderInterEncoder::encodeTheRegister(const DtOrderInter& interaction, DtWireWriter& writer)
 {
-    const DtWireForm form("HLAinteger32LE", "", R"qx(HLAvariableArray)qx",
-        -1 /* elements */, 4 /* octets */, 1 /* little-endian */);
+    const DtWireForm form = DtWireForm::number(4, DtLittleEndian);
     return DtWriteValue(writer, interaction.theRegister(), form);
 }
 

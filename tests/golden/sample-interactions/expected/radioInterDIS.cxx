@@ -58,15 +58,13 @@ const DtRadioInterInter::ValueOfText& DtRadioInterInter::text() const
 // ---- coding
 static bool encode_DtRadioInter_Channel(const DtRadioInterInter& interaction, DtWireWriter& writer)
 {
-    const DtWireForm form("HLAinteger16BE", "", R"qx(HLAvariableArray)qx",
-        -1 /* elements */, 2 /* octets */, 0 /* little-endian */);
+    const DtWireForm form = DtWireForm::number(2);
     return DtWriteValue(writer, interaction.channel(), form);
 }
 
 static bool decode_DtRadioInter_Channel(DtRadioInterInter& interaction, DtWireReader& reader)
 {
-    const DtWireForm form("HLAinteger16BE", "", R"qx(HLAvariableArray)qx",
-        -1 /* elements */, 2 /* octets */, 0 /* little-endian */);
+    const DtWireForm form = DtWireForm::number(2);
     auto value = interaction.channel();
     if (!DtReadValue(reader, value, form))
     {
@@ -77,14 +75,14 @@ static bool decode_DtRadioInter_Channel(DtRadioInterInter& interaction, DtWireRe
 }
 static bool encode_DtRadioInter_Text(const DtRadioInterInter& interaction, DtWireWriter& writer)
 {
-    const DtWireForm form("HLAunicodeString", "", R"qx(HLAvariableArray)qx",
+    const DtWireForm form = DtWireForm("HLAunicodeString", "", R"qx(HLAvariableArray)qx",
         -1 /* elements */, 0 /* octets */, 0 /* little-endian */);
     return DtWriteValue(writer, interaction.text(), form);
 }
 
 static bool decode_DtRadioInter_Text(DtRadioInterInter& interaction, DtWireReader& reader)
 {
-    const DtWireForm form("HLAunicodeString", "", R"qx(HLAvariableArray)qx",
+    const DtWireForm form = DtWireForm("HLAunicodeString", "", R"qx(HLAvariableArray)qx",
         -1 /* elements */, 0 /* octets */, 0 /* little-endian */);
     auto value = interaction.text();
     if (!DtReadValue(reader, value, form))

@@ -15,8 +15,7 @@ DtRadioInterDecoder::DtRadioInterDecoder()
 
 bool DtRadioInterDecoder::decodeChannel(DtRadioInter& interaction, DtWireReader& reader)
 {
-    const DtWireForm form("HLAinteger16BE", "", R"qx(HLAvariableArray)qx",
-        -1 /* elements */, 2 /* octets */, 0 /* little-endian */);
+    const DtWireForm form = DtWireForm::number(2);
     auto value = interaction.channel();
     if (!DtReadValue(reader, value, form))
     {
@@ -28,7 +27,7 @@ bool DtRadioInterDecoder::decodeChannel(DtRadioInter& interaction, DtWireReader&
 
 bool DtRadioInterDecoder::decodeText(DtRadioInter& interaction, DtWireReader& reader)
 {
-    const DtWireForm form("HLAunicodeString", "", R"qx(HLAvariableArray)qx",
+    const DtWireForm form = DtWireForm("HLAunicodeString", "", R"qx(HLAvariableArray)qx",
         -1 /* elements */, 0 /* octets */, 0 /* little-endian */);
     auto value = interaction.text();
     if (!DtReadValue(reader, value, form))

@@ -21,14 +21,13 @@ DtRadioInterEncoder::DtRadioInterEncoder()
 
 bool DtRadioInterEncoder::encodeChannel(const DtRadioInter& interaction, DtWireWriter& writer)
 {
-    const DtWireForm form("HLAinteger16BE", "", R"qx(HLAvariableArray)qx",
-        -1 /* elements */, 2 /* octets */, 0 /* little-endian */);
+    const DtWireForm form = DtWireForm::number(2);
     return DtWriteValue(writer, interaction.channel(), form);
 }
 
 bool DtRadioInterEncoder::encodeText(const DtRadioInter& interaction, DtWireWriter& writer)
 {
-    const DtWireForm form("HLAunicodeString", "", R"qx(HLAvariableArray)qx",
+    const DtWireForm form = DtWireForm("HLAunicodeString", "", R"qx(HLAvariableArray)qx",
         -1 /* elements */, 0 /* octets */, 0 /* little-endian */);
     return DtWriteValue(writer, interaction.text(), form);
 }

@@ -73,15 +73,13 @@ const DtSignalInterInter::ValueOfSure& DtSignalInterInter::sure() const
 // ---- coding
 static bool encode_DtSignalInter_Sent(const DtSignalInterInter& interaction, DtWireWriter& writer)
 {
-    const DtWireForm form("ClockTime", "", R"qx(HLAvariableArray)qx",
-        -1 /* elements */, 0 /* octets */, 0 /* little-endian */);
+    const DtWireForm form = DtWireForm();
     return DtWriteValue(writer, interaction.sent(), form);
 }
 
 static bool decode_DtSignalInter_Sent(DtSignalInterInter& interaction, DtWireReader& reader)
 {
-    const DtWireForm form("ClockTime", "", R"qx(HLAvariableArray)qx",
-        -1 /* elements */, 0 /* octets */, 0 /* little-endian */);
+    const DtWireForm form = DtWireForm();
     auto value = interaction.sent();
     if (!DtReadValue(reader, value, form))
     {
@@ -92,15 +90,13 @@ static bool decode_DtSignalInter_Sent(DtSignalInterInter& interaction, DtWireRea
 }
 static bool encode_DtSignalInter_Message(const DtSignalInterInter& interaction, DtWireWriter& writer)
 {
-    const DtWireForm form("SignalMessage", "", R"qx(HLAvariableArray)qx",
-        -1 /* elements */, 0 /* octets */, 0 /* little-endian */);
+    const DtWireForm form = DtWireForm();
     return DtWriteValue(writer, interaction.message(), form);
 }
 
 static bool decode_DtSignalInter_Message(DtSignalInterInter& interaction, DtWireReader& reader)
 {
-    const DtWireForm form("SignalMessage", "", R"qx(HLAvariableArray)qx",
-        -1 /* elements */, 0 /* octets */, 0 /* little-endian */);
+    const DtWireForm form = DtWireForm();
     auto value = interaction.message();
     if (!DtReadValue(reader, value, form))
     {
@@ -111,14 +107,14 @@ static bool decode_DtSignalInter_Message(DtSignalInterInter& interaction, DtWire
 }
 static bool encode_DtSignalInter_Sure(const DtSignalInterInter& interaction, DtWireWriter& writer)
 {
-    const DtWireForm form("HLAboolean", "", R"qx(HLAvariableArray)qx",
+    const DtWireForm form = DtWireForm("HLAboolean", "", R"qx(HLAvariableArray)qx",
         -1 /* elements */, 0 /* octets */, 0 /* little-endian */);
     return DtWriteValue(writer, interaction.sure(), form);
 }
 
 static bool decode_DtSignalInter_Sure(DtSignalInterInter& interaction, DtWireReader& reader)
 {
-    const DtWireForm form("HLAboolean", "", R"qx(HLAvariableArray)qx",
+    const DtWireForm form = DtWireForm("HLAboolean", "", R"qx(HLAvariableArray)qx",
         -1 /* elements */, 0 /* octets */, 0 /* little-endian */);
     auto value = interaction.sure();
     if (!DtReadValue(reader, value, form))

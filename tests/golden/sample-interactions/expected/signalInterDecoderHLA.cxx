@@ -16,8 +16,7 @@ DtSignalInterDecoder::DtSignalInterDecoder()
 
 bool DtSignalInterDecoder::decodeSent(DtSignalInter& interaction, DtWireReader& reader)
 {
-    const DtWireForm form("ClockTime", "", R"qx(HLAvariableArray)qx",
-        -1 /* elements */, 0 /* octets */, 0 /* little-endian */);
+    const DtWireForm form = DtWireForm();
     auto value = interaction.sent();
     if (!DtReadValue(reader, value, form))
     {
@@ -29,8 +28,7 @@ bool DtSignalInterDecoder::decodeSent(DtSignalInter& interaction, DtWireReader& 
 
 bool DtSignalInterDecoder::decodeMessage(DtSignalInter& interaction, DtWireReader& reader)
 {
-    const DtWireForm form("SignalMessage", "", R"qx(HLAvariableArray)qx",
-        -1 /* elements */, 0 /* octets */, 0 /* little-endian */);
+    const DtWireForm form = DtWireForm();
     auto value = interaction.message();
     if (!DtReadValue(reader, value, form))
     {
@@ -42,7 +40,7 @@ bool DtSignalInterDecoder::decodeMessage(DtSignalInter& interaction, DtWireReade
 
 bool DtSignalInterDecoder::decodeSure(DtSignalInter& interaction, DtWireReader& reader)
 {
-    const DtWireForm form("HLAboolean", "", R"qx(HLAvariableArray)qx",
+    const DtWireForm form = DtWireForm("HLAboolean", "", R"qx(HLAvariableArray)qx",
         -1 /* elements */, 0 /* octets */, 0 /* little-endian */);
     auto value = interaction.sure();
     if (!DtReadValue(reader, value, form))

@@ -25,21 +25,19 @@ DtSignalInterEncoder::DtSignalInterEncoder()
 
 bool DtSignalInterEncoder::encodeSent(const DtSignalInter& interaction, DtWireWriter& writer)
 {
-    const DtWireForm form("ClockTime", "", R"qx(HLAvariableArray)qx",
-        -1 /* elements */, 0 /* octets */, 0 /* little-endian */);
+    const DtWireForm form = DtWireForm();
     return DtWriteValue(writer, interaction.sent(), form);
 }
 
 bool DtSignalInterEncoder::encodeMessage(const DtSignalInter& interaction, DtWireWriter& writer)
 {
-    const DtWireForm form("SignalMessage", "", R"qx(HLAvariableArray)qx",
-        -1 /* elements */, 0 /* octets */, 0 /* little-endian */);
+    const DtWireForm form = DtWireForm();
     return DtWriteValue(writer, interaction.message(), form);
 }
 
 bool DtSignalInterEncoder::encodeSure(const DtSignalInter& interaction, DtWireWriter& writer)
 {
-    const DtWireForm form("HLAboolean", "", R"qx(HLAvariableArray)qx",
+    const DtWireForm form = DtWireForm("HLAboolean", "", R"qx(HLAvariableArray)qx",
         -1 /* elements */, 0 /* octets */, 0 /* little-endian */);
     return DtWriteValue(writer, interaction.sure(), form);
 }

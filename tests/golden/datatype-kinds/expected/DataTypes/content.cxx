@@ -130,8 +130,7 @@ void DtContent::select(unsigned int alternative)
 // Discriminant: Kind.
 DtWireForm DtContent::Coding::discriminantForm()
 {
-    return DtWireForm("State8", "HLAoctet", R"qx(HLAvariableArray)qx",
-        -1 /* elements */, 1 /* octets */, 0 /* little-endian */);
+    return DtWireForm();
 }
 
 DtVariantKind DtContent::Coding::kind()
@@ -142,10 +141,8 @@ DtVariantKind DtContent::Coding::kind()
 const DtWireForm& DtContent::Coding::formOf(unsigned int alternative)
 {
     static const DtWireForm theForms[] = {
-        DtWireForm("Hours", "Unsigned16LE", R"qx(HLAvariableArray)qx",
-            -1 /* elements */, 2 /* octets */, 1 /* little-endian */),
-        DtWireForm("Reading", "", R"qx(HLAvariableArray)qx",
-            -1 /* elements */, 0 /* octets */, 0 /* little-endian */),
+        DtWireForm(),
+        DtWireForm(),
         DtWireForm()};
     return theForms[alternative];
 }

@@ -131,8 +131,7 @@ DtArrayLayout DtNotes::layout()
 
 DtWireForm DtNotes::elementForm()
 {
-    return DtWireForm("HLAASCIIchar", "", R"qx(HLAvariableArray)qx",
-        -1 /* elements */, 1 /* octets */, 0 /* little-endian */);
+    return DtWireForm::array(DtVariableArray, 1);
 }
 
 std::ostream& operator<<(std::ostream& out, const DtNotes& value)

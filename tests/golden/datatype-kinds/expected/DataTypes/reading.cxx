@@ -69,10 +69,8 @@ unsigned int DtReading::octetBoundary(const DtWireTrail* outer)
 const DtWireForm& DtReading::formOf(unsigned int field)
 {
     static const DtWireForm theForms[] = {
-        DtWireForm("Hours", "Unsigned16LE", R"qx(HLAvariableArray)qx",
-            -1 /* elements */, 2 /* octets */, 1 /* little-endian */),
-        DtWireForm("State8", "HLAoctet", R"qx(HLAvariableArray)qx",
-            -1 /* elements */, 1 /* octets */, 0 /* little-endian */),
+        DtWireForm(),
+        DtWireForm(),
         DtWireForm()};
     return theForms[field];
 }

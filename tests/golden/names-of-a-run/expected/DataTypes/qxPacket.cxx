@@ -65,10 +65,8 @@ unsigned int DtQxPacket::octetBoundary(const DtWireTrail* outer)
 const DtWireForm& DtQxPacket::formOf(unsigned int field)
 {
     static const DtWireForm theForms[] = {
-        DtWireForm("Seeds", "HLAinteger16BE", R"qx(HLAvariableArray)qx",
-            -1 /* elements */, 2 /* octets */, 0 /* little-endian */),
-        DtWireForm("Seeds", "HLAinteger16BE", R"qx(HLAvariableArray)qx",
-            -1 /* elements */, 2 /* octets */, 0 /* little-endian */),
+        DtWireForm(),
+        DtWireForm(),
         DtWireForm()};
     return theForms[field];
 }

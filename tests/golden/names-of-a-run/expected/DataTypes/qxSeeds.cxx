@@ -134,8 +134,7 @@ DtArrayLayout DtQxSeeds::layout()
 
 DtWireForm DtQxSeeds::elementForm()
 {
-    return DtWireForm("HLAinteger16BE", "", R"qx(HLAvariableArray)qx",
-        -1 /* elements */, 2 /* octets */, 0 /* little-endian */);
+    return DtWireForm::array(DtVariableArray, 2);
 }
 
 std::ostream& operator<<(std::ostream& out, const DtQxSeeds& value)

@@ -76,11 +76,9 @@ const DtWireForm& DtPerson::formOf(unsigned int field)
 {
     static const DtWireForm theForms[] = {
         DtWireForm("HLAunicodeString", "", R"qx(HLAvariableArray)qx",
-            -1 /* elements */, 0 /* octets */, 0 /* little-endian */),
-        DtWireForm("Count8", "HarbourUnsigned8", R"qx(HLAvariableArray)qx",
-            -1 /* elements */, 1 /* octets */, 0 /* little-endian */),
-        DtWireForm("Depth", "HLAinteger16BE", R"qx(HLAvariableArray)qx",
-            -1 /* elements */, 2 /* octets */, 0 /* little-endian */),
+        -1 /* elements */, 0 /* octets */, 0 /* little-endian */),
+        DtWireForm(),
+        DtWireForm::number(2),
         DtWireForm()};
     return theForms[field];
 }

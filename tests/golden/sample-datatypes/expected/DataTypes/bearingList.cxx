@@ -131,8 +131,7 @@ DtArrayLayout DtBearingList::layout()
 
 DtWireForm DtBearingList::elementForm()
 {
-    return DtWireForm("Degrees", "HLAfloat64BE", R"qx(HLAvariableArray)qx",
-        -1 /* elements */, 8 /* octets */, 0 /* little-endian */);
+    return DtWireForm::array(DtVariableArray, 8);
 }
 
 std::ostream& operator<<(std::ostream& out, const DtBearingList& value)

@@ -81,14 +81,10 @@ unsigned int DtBerthSlot::octetBoundary(const DtWireTrail* outer)
 const DtWireForm& DtBerthSlot::formOf(unsigned int field)
 {
     static const DtWireForm theForms[] = {
-        DtWireForm("Count8", "HarbourUnsigned8", R"qx(HLAvariableArray)qx",
-            -1 /* elements */, 1 /* octets */, 0 /* little-endian */),
-        DtWireForm("TideMark", "", R"qx(HLAvariableArray)qx",
-            -1 /* elements */, 0 /* octets */, 0 /* little-endian */),
-        DtWireForm("Weight__Kg", "HarbourUnsigned32", R"qx(HLAvariableArray)qx",
-            -1 /* elements */, 4 /* octets */, 0 /* little-endian */),
-        DtWireForm("TideMark", "", R"qx(HLAvariableArray)qx",
-            -1 /* elements */, 0 /* octets */, 0 /* little-endian */),
+        DtWireForm(),
+        DtWireForm(),
+        DtWireForm(),
+        DtWireForm(),
         DtWireForm()};
     return theForms[field];
 }

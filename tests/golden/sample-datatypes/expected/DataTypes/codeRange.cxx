@@ -132,8 +132,7 @@ DtArrayLayout DtCodeRange::layout()
 
 DtWireForm DtCodeRange::elementForm()
 {
-    return DtWireForm("Weight__Kg", "HarbourUnsigned32", R"qx(HLAvariableArray)qx",
-        -1 /* elements */, 4 /* octets */, 0 /* little-endian */);
+    return DtWireForm();
 }
 
 std::ostream& operator<<(std::ostream& out, const DtCodeRange& value)

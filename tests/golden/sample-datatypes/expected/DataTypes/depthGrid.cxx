@@ -131,8 +131,7 @@ DtArrayLayout DtDepthGrid::layout()
 
 DtWireForm DtDepthGrid::elementForm()
 {
-    return DtWireForm("Depth", "HLAinteger16BE", R"qx(HLAvariableArray)qx",
-        -1 /* elements */, 2 /* octets */, 0 /* little-endian */);
+    return DtWireForm::array(DtVariableArray, 2);
 }
 
 std::ostream& operator<<(std::ostream& out, const DtDepthGrid& value)

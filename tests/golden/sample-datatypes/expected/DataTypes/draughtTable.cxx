@@ -131,8 +131,7 @@ DtArrayLayout DtDraughtTable::layout()
 
 DtWireForm DtDraughtTable::elementForm()
 {
-    return DtWireForm("HLAfloat32LE", "", R"qx(HLAvariableArray)qx",
-        -1 /* elements */, 4 /* octets */, 1 /* little-endian */);
+    return DtWireForm::array(DtVariableArray, 4, DtLittleEndian);
 }
 
 std::ostream& operator<<(std::ostream& out, const DtDraughtTable& value)

@@ -140,8 +140,7 @@ void DtEquipment::select(unsigned int alternative)
 // Discriminant: Tool.
 DtWireForm DtEquipment::Coding::discriminantForm()
 {
-    return DtWireForm("Tool16", "HarbourUnsigned16LE", R"qx(HLAvariableArray)qx",
-        -1 /* elements */, 2 /* octets */, 1 /* little-endian */);
+    return DtWireForm();
 }
 
 DtVariantKind DtEquipment::Coding::kind()
@@ -152,12 +151,10 @@ DtVariantKind DtEquipment::Coding::kind()
 const DtWireForm& DtEquipment::Coding::formOf(unsigned int alternative)
 {
     static const DtWireForm theForms[] = {
-        DtWireForm("Weight__Kg", "HarbourUnsigned32", R"qx(HLAvariableArray)qx",
-            -1 /* elements */, 4 /* octets */, 0 /* little-endian */),
-        DtWireForm("Count8", "HarbourUnsigned8", R"qx(HLAvariableArray)qx",
-            -1 /* elements */, 1 /* octets */, 0 /* little-endian */),
+        DtWireForm(),
+        DtWireForm(),
         DtWireForm("HLAASCIIstring", "", R"qx(HLAvariableArray)qx",
-            -1 /* elements */, 0 /* octets */, 0 /* little-endian */),
+        -1 /* elements */, 0 /* octets */, 0 /* little-endian */),
         DtWireForm()};
     return theForms[alternative];
 }

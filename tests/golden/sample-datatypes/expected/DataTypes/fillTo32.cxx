@@ -132,8 +132,7 @@ DtArrayLayout DtFillTo32::layout()
 
 DtWireForm DtFillTo32::elementForm()
 {
-    return DtWireForm("Count8", "HarbourUnsigned8", R"qx(HLAvariableArray)qx",
-        -1 /* elements */, 1 /* octets */, 0 /* little-endian */);
+    return DtWireForm();
 }
 
 std::ostream& operator<<(std::ostream& out, const DtFillTo32& value)

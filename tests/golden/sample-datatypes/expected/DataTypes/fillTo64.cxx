@@ -132,8 +132,7 @@ DtArrayLayout DtFillTo64::layout()
 
 DtWireForm DtFillTo64::elementForm()
 {
-    return DtWireForm("Count8", "HarbourUnsigned8", R"qx(HLAvariableArray)qx",
-        -1 /* elements */, 1 /* octets */, 0 /* little-endian */);
+    return DtWireForm();
 }
 
 std::ostream& operator<<(std::ostream& out, const DtFillTo64& value)

@@ -78,12 +78,9 @@ unsigned int DtGeoPoint::octetBoundary(const DtWireTrail* outer)
 const DtWireForm& DtGeoPoint::formOf(unsigned int field)
 {
     static const DtWireForm theForms[] = {
-        DtWireForm("Degrees", "HLAfloat64BE", R"qx(HLAvariableArray)qx",
-            -1 /* elements */, 8 /* octets */, 0 /* little-endian */),
-        DtWireForm("Degrees", "HLAfloat64BE", R"qx(HLAvariableArray)qx",
-            -1 /* elements */, 8 /* octets */, 0 /* little-endian */),
-        DtWireForm("HLAfloat32BE", "", R"qx(HLAvariableArray)qx",
-            -1 /* elements */, 4 /* octets */, 0 /* little-endian */),
+        DtWireForm::number(8),
+        DtWireForm::number(8),
+        DtWireForm::number(4),
         DtWireForm()};
     return theForms[field];
 }

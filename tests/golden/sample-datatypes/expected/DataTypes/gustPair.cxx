@@ -73,10 +73,8 @@ unsigned int DtGustPair::octetBoundary(const DtWireTrail* outer)
 const DtWireForm& DtGustPair::formOf(unsigned int field)
 {
     static const DtWireForm theForms[] = {
-        DtWireForm("Knots", "HLAfloat32BE", R"qx(HLAvariableArray)qx",
-            -1 /* elements */, 4 /* octets */, 0 /* little-endian */),
-        DtWireForm("Knots", "HLAfloat32BE", R"qx(HLAvariableArray)qx",
-            -1 /* elements */, 4 /* octets */, 0 /* little-endian */),
+        DtWireForm::number(4),
+        DtWireForm::number(4),
         DtWireForm()};
     return theForms[field];
 }

@@ -82,13 +82,10 @@ const DtWireForm& DtHold::formOf(unsigned int field)
 {
     static const DtWireForm theForms[] = {
         DtWireForm("HLAboolean", "", R"qx(HLAvariableArray)qx",
-            -1 /* elements */, 0 /* octets */, 0 /* little-endian */),
-        DtWireForm("Weight__Kg", "HarbourUnsigned32", R"qx(HLAvariableArray)qx",
-            -1 /* elements */, 4 /* octets */, 0 /* little-endian */),
-        DtWireForm("VesselState8", "HLAoctet", R"qx(HLAvariableArray)qx",
-            -1 /* elements */, 1 /* octets */, 0 /* little-endian */),
-        DtWireForm("Sub_Count_", "HarbourUnsigned8", R"qx(HLAvariableArray)qx",
-            -1 /* elements */, 1 /* octets */, 0 /* little-endian */),
+        -1 /* elements */, 0 /* octets */, 0 /* little-endian */),
+        DtWireForm(),
+        DtWireForm(),
+        DtWireForm(),
         DtWireForm()};
     return theForms[field];
 }

@@ -140,8 +140,7 @@ void DtInspection::select(unsigned int alternative)
 // Discriminant: Part.
 DtWireForm DtInspection::Coding::discriminantForm()
 {
-    return DtWireForm("VesselState8", "HLAoctet", R"qx(HLAvariableArray)qx",
-        -1 /* elements */, 1 /* octets */, 0 /* little-endian */);
+    return DtWireForm();
 }
 
 DtVariantKind DtInspection::Coding::kind()
@@ -152,12 +151,9 @@ DtVariantKind DtInspection::Coding::kind()
 const DtWireForm& DtInspection::Coding::formOf(unsigned int alternative)
 {
     static const DtWireForm theForms[] = {
-        DtWireForm("DepthGrid", "HLAinteger16BE", R"qx(HLAfixedArray)qx",
-            12 /* elements */, 2 /* octets */, 0 /* little-endian */),
-        DtWireForm("Degrees", "HLAfloat64BE", R"qx(HLAvariableArray)qx",
-            -1 /* elements */, 8 /* octets */, 0 /* little-endian */),
-        DtWireForm("HarbourUnsigned16LE", "", R"qx(HLAvariableArray)qx",
-            -1 /* elements */, 2 /* octets */, 1 /* little-endian */),
+        DtWireForm(),
+        DtWireForm::number(8),
+        DtWireForm(),
         DtWireForm()};
     return theForms[alternative];
 }

@@ -130,8 +130,7 @@ void DtLampReport::select(unsigned int alternative)
 // Discriminant: Lamp.
 DtWireForm DtLampReport::Coding::discriminantForm()
 {
-    return DtWireForm("lampState", "HarbourInteger8", R"qx(HLAvariableArray)qx",
-        -1 /* elements */, 1 /* octets */, 0 /* little-endian */);
+    return DtWireForm();
 }
 
 DtVariantKind DtLampReport::Coding::kind()
@@ -142,10 +141,9 @@ DtVariantKind DtLampReport::Coding::kind()
 const DtWireForm& DtLampReport::Coding::formOf(unsigned int alternative)
 {
     static const DtWireForm theForms[] = {
-        DtWireForm("Knots", "HLAfloat32BE", R"qx(HLAvariableArray)qx",
-            -1 /* elements */, 4 /* octets */, 0 /* little-endian */),
+        DtWireForm::number(4),
         DtWireForm("HLAASCIIstring", "", R"qx(HLAvariableArray)qx",
-            -1 /* elements */, 0 /* octets */, 0 /* little-endian */),
+        -1 /* elements */, 0 /* octets */, 0 /* little-endian */),
         DtWireForm()};
     return theForms[alternative];
 }

@@ -81,14 +81,10 @@ unsigned int DtLongNote::octetBoundary(const DtWireTrail* outer)
 const DtWireForm& DtLongNote::formOf(unsigned int field)
 {
     static const DtWireForm theForms[] = {
-        DtWireForm("Initial", "HLAunicodeChar", R"qx(HLAvariableArray)qx",
-            -1 /* elements */, 2 /* octets */, 0 /* little-endian */),
-        DtWireForm("RouteCode", "HLAunicodeChar", R"qx(HLAnullTerminatedArray)qx",
-            -1 /* elements */, 2 /* octets */, 0 /* little-endian */),
-        DtWireForm("Count8", "HarbourUnsigned8", R"qx(HLAvariableArray)qx",
-            -1 /* elements */, 1 /* octets */, 0 /* little-endian */),
-        DtWireForm("RegisterNumber", "HarbourUnsigned64LE", R"qx(HLAvariableArray)qx",
-            -1 /* elements */, 8 /* octets */, 1 /* little-endian */),
+        DtWireForm::number(2),
+        DtWireForm(),
+        DtWireForm(),
+        DtWireForm(),
         DtWireForm()};
     return theForms[field];
 }

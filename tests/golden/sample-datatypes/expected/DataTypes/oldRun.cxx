@@ -131,8 +131,7 @@ DtArrayLayout DtOldRun::layout()
 
 DtWireForm DtOldRun::elementForm()
 {
-    return DtWireForm("Letter", "HLAASCIIchar", R"qx(HLAvariableArray)qx",
-        -1 /* elements */, 1 /* octets */, 0 /* little-endian */);
+    return DtWireForm::array(DtVariableArray, 1);
 }
 
 std::ostream& operator<<(std::ostream& out, const DtOldRun& value)

@@ -131,8 +131,7 @@ DtArrayLayout DtOldText::layout()
 
 DtWireForm DtOldText::elementForm()
 {
-    return DtWireForm("HLAASCIIchar", "", R"qx(HLAvariableArray)qx",
-        -1 /* elements */, 1 /* octets */, 0 /* little-endian */);
+    return DtWireForm::array(DtVariableArray, 1);
 }
 
 std::ostream& operator<<(std::ostream& out, const DtOldText& value)

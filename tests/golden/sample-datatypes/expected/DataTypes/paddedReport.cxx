@@ -87,16 +87,11 @@ unsigned int DtPaddedReport::octetBoundary(const DtWireTrail* outer)
 const DtWireForm& DtPaddedReport::formOf(unsigned int field)
 {
     static const DtWireForm theForms[] = {
-        DtWireForm("Count8", "HarbourUnsigned8", R"qx(HLAvariableArray)qx",
-            -1 /* elements */, 1 /* octets */, 0 /* little-endian */),
-        DtWireForm("FillTo32", "HarbourUnsigned8", R"qx(RPRpaddingTo32Array)qx",
-            -1 /* elements */, 1 /* octets */, 0 /* little-endian */),
-        DtWireForm("Count8", "HarbourUnsigned8", R"qx(HLAvariableArray)qx",
-            -1 /* elements */, 1 /* octets */, 0 /* little-endian */),
-        DtWireForm("FillTo64", "HarbourUnsigned8", R"qx(RPRpaddingTo64Array)qx",
-            -1 /* elements */, 1 /* octets */, 0 /* little-endian */),
-        DtWireForm("Count8", "HarbourUnsigned8", R"qx(HLAvariableArray)qx",
-            -1 /* elements */, 1 /* octets */, 0 /* little-endian */),
+        DtWireForm(),
+        DtWireForm(),
+        DtWireForm(),
+        DtWireForm(),
+        DtWireForm(),
         DtWireForm()};
     return theForms[field];
 }

@@ -119,8 +119,7 @@ void DtPermit::select(unsigned int alternative)
 // Discriminant: Given.
 DtWireForm DtPermit::Coding::discriminantForm()
 {
-    return DtWireForm("OMT13boolean", "HLAinteger16BE", R"qx(HLAvariableArray)qx",
-        -1 /* elements */, 2 /* octets */, 0 /* little-endian */);
+    return DtWireForm::number(2);
 }
 
 DtVariantKind DtPermit::Coding::kind()
@@ -131,8 +130,7 @@ DtVariantKind DtPermit::Coding::kind()
 const DtWireForm& DtPermit::Coding::formOf(unsigned int alternative)
 {
     static const DtWireForm theForms[] = {
-        DtWireForm("ClockTime", "", R"qx(HLAvariableArray)qx",
-            -1 /* elements */, 0 /* octets */, 0 /* little-endian */),
+        DtWireForm(),
         DtWireForm()};
     return theForms[alternative];
 }

@@ -141,10 +141,8 @@ DtVariantKind DtPositionFix::Coding::kind()
 const DtWireForm& DtPositionFix::Coding::formOf(unsigned int alternative)
 {
     static const DtWireForm theForms[] = {
-        DtWireForm("GeoPoint", "", R"qx(HLAvariableArray)qx",
-            -1 /* elements */, 0 /* octets */, 0 /* little-endian */),
-        DtWireForm("Depth", "HLAinteger16BE", R"qx(HLAvariableArray)qx",
-            -1 /* elements */, 2 /* octets */, 0 /* little-endian */),
+        DtWireForm(),
+        DtWireForm::number(2),
         DtWireForm()};
     return theForms[alternative];
 }

@@ -69,10 +69,8 @@ unsigned int DtReportFrame::octetBoundary(const DtWireTrail* outer)
 const DtWireForm& DtReportFrame::formOf(unsigned int field)
 {
     static const DtWireForm theForms[] = {
-        DtWireForm("Count8", "HarbourUnsigned8", R"qx(HLAvariableArray)qx",
-            -1 /* elements */, 1 /* octets */, 0 /* little-endian */),
-        DtWireForm("PaddedReport", "", R"qx(HLAvariableArray)qx",
-            -1 /* elements */, 0 /* octets */, 0 /* little-endian */),
+        DtWireForm(),
+        DtWireForm(),
         DtWireForm()};
     return theForms[field];
 }

@@ -131,8 +131,7 @@ DtArrayLayout DtRouteCode::layout()
 
 DtWireForm DtRouteCode::elementForm()
 {
-    return DtWireForm("HLAunicodeChar", "", R"qx(HLAvariableArray)qx",
-        -1 /* elements */, 2 /* octets */, 0 /* little-endian */);
+    return DtWireForm::array(DtVariableArray, 2);
 }
 
 std::ostream& operator<<(std::ostream& out, const DtRouteCode& value)

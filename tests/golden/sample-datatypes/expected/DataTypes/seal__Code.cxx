@@ -131,8 +131,7 @@ DtArrayLayout DtSeal__Code::layout()
 
 DtWireForm DtSeal__Code::elementForm()
 {
-    return DtWireForm("HLAoctet", "", R"qx(HLAvariableArray)qx",
-        -1 /* elements */, 1 /* octets */, 0 /* little-endian */);
+    return DtWireForm::array(DtVariableArray, 1);
 }
 
 std::ostream& operator<<(std::ostream& out, const DtSeal__Code& value)

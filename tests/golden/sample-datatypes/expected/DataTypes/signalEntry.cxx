@@ -69,10 +69,8 @@ unsigned int DtSignalEntry::octetBoundary(const DtWireTrail* outer)
 const DtWireForm& DtSignalEntry::formOf(unsigned int field)
 {
     static const DtWireForm theForms[] = {
-        DtWireForm("ClockTime", "", R"qx(HLAvariableArray)qx",
-            -1 /* elements */, 0 /* octets */, 0 /* little-endian */),
-        DtWireForm("SignalMessage", "", R"qx(HLAvariableArray)qx",
-            -1 /* elements */, 0 /* octets */, 0 /* little-endian */),
+        DtWireForm(),
+        DtWireForm(),
         DtWireForm()};
     return theForms[field];
 }

@@ -129,8 +129,7 @@ void DtTestResult::select(unsigned int alternative)
 // Discriminant: Passed.
 DtWireForm DtTestResult::Coding::discriminantForm()
 {
-    return DtWireForm("RPRboolean", "HLAoctet", R"qx(HLAvariableArray)qx",
-        -1 /* elements */, 1 /* octets */, 0 /* little-endian */);
+    return DtWireForm::number(1);
 }
 
 DtVariantKind DtTestResult::Coding::kind()
@@ -141,10 +140,8 @@ DtVariantKind DtTestResult::Coding::kind()
 const DtWireForm& DtTestResult::Coding::formOf(unsigned int alternative)
 {
     static const DtWireForm theForms[] = {
-        DtWireForm("HLAinteger16BE", "", R"qx(HLAvariableArray)qx",
-            -1 /* elements */, 2 /* octets */, 0 /* little-endian */),
-        DtWireForm("Count8", "HarbourUnsigned8", R"qx(HLAvariableArray)qx",
-            -1 /* elements */, 1 /* octets */, 0 /* little-endian */),
+        DtWireForm::number(2),
+        DtWireForm(),
         DtWireForm()};
     return theForms[alternative];
 }

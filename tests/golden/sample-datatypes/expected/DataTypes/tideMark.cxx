@@ -69,10 +69,8 @@ unsigned int DtTideMark::octetBoundary(const DtWireTrail* outer)
 const DtWireForm& DtTideMark::formOf(unsigned int field)
 {
     static const DtWireForm theForms[] = {
-        DtWireForm("ClockTime", "", R"qx(HLAvariableArray)qx",
-            -1 /* elements */, 0 /* octets */, 0 /* little-endian */),
-        DtWireForm("Depth", "HLAinteger16BE", R"qx(HLAvariableArray)qx",
-            -1 /* elements */, 2 /* octets */, 0 /* little-endian */),
+        DtWireForm(),
+        DtWireForm::number(2),
         DtWireForm()};
     return theForms[field];
 }

@@ -132,8 +132,7 @@ DtArrayLayout DtTideRing::layout()
 
 DtWireForm DtTideRing::elementForm()
 {
-    return DtWireForm("Tide16LE", "HarbourUnsigned16LE", R"qx(HLAvariableArray)qx",
-        -1 /* elements */, 2 /* octets */, 1 /* little-endian */);
+    return DtWireForm();
 }
 
 std::ostream& operator<<(std::ostream& out, const DtTideRing& value)

@@ -81,14 +81,10 @@ unsigned int DtWindRecord::octetBoundary(const DtWireTrail* outer)
 const DtWireForm& DtWindRecord::formOf(unsigned int field)
 {
     static const DtWireForm theForms[] = {
-        DtWireForm("Knots", "HLAfloat32BE", R"qx(HLAvariableArray)qx",
-            -1 /* elements */, 4 /* octets */, 0 /* little-endian */),
-        DtWireForm("Degrees", "HLAfloat64BE", R"qx(HLAvariableArray)qx",
-            -1 /* elements */, 8 /* octets */, 0 /* little-endian */),
-        DtWireForm("GustPair", "", R"qx(HLAvariableArray)qx",
-            -1 /* elements */, 0 /* octets */, 0 /* little-endian */),
-        DtWireForm("OldRun", "HLAASCIIchar", R"qx(RPRlengthlessArray)qx",
-            -1 /* elements */, 1 /* octets */, 0 /* little-endian */),
+        DtWireForm::number(4),
+        DtWireForm::number(8),
+        DtWireForm(),
+        DtWireForm(),
         DtWireForm()};
     return theForms[field];
 }

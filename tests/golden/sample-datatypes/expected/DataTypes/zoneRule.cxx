@@ -129,8 +129,7 @@ void DtZoneRule::select(unsigned int alternative)
 // Discriminant: Zone.
 DtWireForm DtZoneRule::Coding::discriminantForm()
 {
-    return DtWireForm("Zone64", "HarbourUnsigned64LE", R"qx(HLAvariableArray)qx",
-        -1 /* elements */, 8 /* octets */, 1 /* little-endian */);
+    return DtWireForm();
 }
 
 DtVariantKind DtZoneRule::Coding::kind()
@@ -141,10 +140,8 @@ DtVariantKind DtZoneRule::Coding::kind()
 const DtWireForm& DtZoneRule::Coding::formOf(unsigned int alternative)
 {
     static const DtWireForm theForms[] = {
-        DtWireForm("Knots", "HLAfloat32BE", R"qx(HLAvariableArray)qx",
-            -1 /* elements */, 4 /* octets */, 0 /* little-endian */),
-        DtWireForm("Count8", "HarbourUnsigned8", R"qx(HLAvariableArray)qx",
-            -1 /* elements */, 1 /* octets */, 0 /* little-endian */),
+        DtWireForm::number(4),
+        DtWireForm(),
         DtWireForm()};
     return theForms[alternative];
 }

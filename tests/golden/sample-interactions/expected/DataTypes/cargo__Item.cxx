@@ -75,12 +75,9 @@ unsigned int DtCargo__Item::octetBoundary(const DtWireTrail* outer)
 const DtWireForm& DtCargo__Item::formOf(unsigned int field)
 {
     static const DtWireForm theForms[] = {
-        DtWireForm("OldText", "HLAASCIIchar", R"qx(RPRnullTerminatedArray)qx",
-            -1 /* elements */, 1 /* octets */, 0 /* little-endian */),
-        DtWireForm("Weight__Kg", "HarbourUnsigned32", R"qx(HLAvariableArray)qx",
-            -1 /* elements */, 4 /* octets */, 0 /* little-endian */),
-        DtWireForm("Plain__Four", "HLAfloat32BE", R"qx(PlainArray)qx",
-            4 /* elements */, 4 /* octets */, 0 /* little-endian */),
+        DtWireForm(),
+        DtWireForm(),
+        DtWireForm(),
         DtWireForm()};
     return theForms[field];
 }

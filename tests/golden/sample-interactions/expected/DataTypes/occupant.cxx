@@ -141,8 +141,7 @@ void DtOccupant::select(unsigned int alternative)
 // Discriminant: Kind.
 DtWireForm DtOccupant::Coding::discriminantForm()
 {
-    return DtWireForm("VesselState8", "HLAoctet", R"qx(HLAvariableArray)qx",
-        -1 /* elements */, 1 /* octets */, 0 /* little-endian */);
+    return DtWireForm();
 }
 
 DtVariantKind DtOccupant::Coding::kind()
@@ -153,12 +152,9 @@ DtVariantKind DtOccupant::Coding::kind()
 const DtWireForm& DtOccupant::Coding::formOf(unsigned int alternative)
 {
     static const DtWireForm theForms[] = {
-        DtWireForm("ShortText", "HLAASCIIchar", R"qx(HLAfixedArray)qx",
-            16 /* elements */, 1 /* octets */, 0 /* little-endian */),
-        DtWireForm("Degrees", "HLAfloat64BE", R"qx(HLAvariableArray)qx",
-            -1 /* elements */, 8 /* octets */, 0 /* little-endian */),
-        DtWireForm("Cargo__Item", "", R"qx(HLAvariableArray)qx",
-            -1 /* elements */, 0 /* octets */, 0 /* little-endian */),
+        DtWireForm(),
+        DtWireForm::number(8),
+        DtWireForm(),
         DtWireForm()};
     return theForms[alternative];
 }

@@ -131,8 +131,7 @@ DtArrayLayout DtPlain__Four::layout()
 
 DtWireForm DtPlain__Four::elementForm()
 {
-    return DtWireForm("HLAfloat32BE", "", R"qx(HLAvariableArray)qx",
-        -1 /* elements */, 4 /* octets */, 0 /* little-endian */);
+    return DtWireForm::array(DtVariableArray, 4);
 }
 
 std::ostream& operator<<(std::ostream& out, const DtPlain__Four& value)

@@ -163,8 +163,7 @@ void DtSignalMessage::select(unsigned int alternative)
 // Discriminant: Kind.
 DtWireForm DtSignalMessage::Coding::discriminantForm()
 {
-    return DtWireForm("SignalKind16", "HLAinteger16BE", R"qx(HLAvariableArray)qx",
-        -1 /* elements */, 2 /* octets */, 0 /* little-endian */);
+    return DtWireForm();
 }
 
 DtVariantKind DtSignalMessage::Coding::kind()
@@ -175,16 +174,13 @@ DtVariantKind DtSignalMessage::Coding::kind()
 const DtWireForm& DtSignalMessage::Coding::formOf(unsigned int alternative)
 {
     static const DtWireForm theForms[] = {
-        DtWireForm("HLAinteger32BE", "", R"qx(HLAvariableArray)qx",
-            -1 /* elements */, 4 /* octets */, 0 /* little-endian */),
-        DtWireForm("Count8", "HarbourUnsigned8", R"qx(HLAvariableArray)qx",
-            -1 /* elements */, 1 /* octets */, 0 /* little-endian */),
-        DtWireForm("GeoPoint", "", R"qx(HLAvariableArray)qx",
-            -1 /* elements */, 0 /* octets */, 0 /* little-endian */),
+        DtWireForm::number(4),
+        DtWireForm(),
+        DtWireForm(),
         DtWireForm("HLAASCIIstring", "", R"qx(HLAvariableArray)qx",
-            -1 /* elements */, 0 /* octets */, 0 /* little-endian */),
+        -1 /* elements */, 0 /* octets */, 0 /* little-endian */),
         DtWireForm("HLAunicodeString", "", R"qx(HLAvariableArray)qx",
-            -1 /* elements */, 0 /* octets */, 0 /* little-endian */),
+        -1 /* elements */, 0 /* octets */, 0 /* little-endian */),
         DtWireForm()};
     return theForms[alternative];
 }

@@ -2,12 +2,14 @@
 
 #include "fileGenerator/classFileWriter.h"
 #include "fileGenerator/dataTypeMapper.h"
+#include "fileGenerator/datatypeShape.h"
 #include "fileGenerator/memberTypes.h"
 #include "fileGenerator/omtProject.h"
 #include "fileGenerator/toolkitLayouts.h"
 #include "foundation/stringUtils.h"
 #include "omtReader/enumeratedDatatypeNode.h"
 #include "omtReader/omtTree.h"
+#include "omtReader/visitDatatype.h"
 
 #include <iterator>
 #include <set>
@@ -54,6 +56,7 @@ const DtTokenTable<DtCustomCodeTokens>& DtCustomCodeTokens::table()
         {"<!AttributeLayout!>",           [](const Tokens& t) { return t.valueForm().layout; }},
         {"<!AttributeEncoding!>",         [](const Tokens& t) { return encodingOf(t.myMember.datatype, DtString()); }},
         {"<!AttributeWireEncoding!>",     [](const Tokens& t) { return t.valueForm().encoding; }},
+        {"<!AttributeWireForm!>",         [](const Tokens& t) { return t.wireForm(); }},
     };
     // clang-format on
     static const DtTokenTable<DtCustomCodeTokens> theTable(theRows);
@@ -142,4 +145,29 @@ DtValueForm DtCustomCodeTokens::valueForm() const
     if (layout.element.octets == 0)
         form.number = numberFormOfRepresentation(representation.isEmpty() ? datatype : representation);
     return form;
+}
+
+// What a value of the datatype is in C++. The mapper learns which types stand for numbers when it generates.
+DtToolkitValue DtCustomCodeTokens::toolkitValue() const
+{
+    if (myTree == nullptr)
+        return toolkitValueOf(mapper().quorvexType(myMember.datatype));
+    const DtToolkitValue value = toolkitValueOf(toolkitTypeOf(myMember.datatype, *myTree));
+    const bool isNumber = numberOf(myMember.datatype, *myTree).octets != 0;
+    return value == DtToolkitValue::None && isNumber ? DtToolkitValue::Number : value;
+}
+
+// Enumerations, and what the model defines and no type of the toolkit stands for, get types that know their form.
+DtString DtCustomCodeTokens::wireForm() const
+{
+    const DtString datatype = identifier(myMember.datatype);
+    const DtString representation = identifier(lastRepresentation());
+    const DtToolkitValue value = toolkitValue();
+    const bool isOfModel = myTree != nullptr && isDefined(*myTree, myMember.datatype);
+    if (isEnumeration() || (value == DtToolkitValue::None && isOfModel))
+        return "DtWireForm()";
+    const DtValueForm form = valueForm();
+    const DtString call =
+        value == DtToolkitValue::None ? DtString() : wireFormCall(form, value != DtToolkitValue::Number);
+    return call.isEmpty() ? wireFormOfNames(datatype, representation, form) : call;
 }

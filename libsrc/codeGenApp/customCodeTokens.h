@@ -6,6 +6,7 @@
 #include "fileGenerator/valueForm.h"
 
 struct DtAccessorNames;
+enum class DtToolkitValue;
 class DtOMTTree;
 class DtOmtProject;
 
@@ -44,6 +45,8 @@ private:
     DtString lastRepresentation() const;
     DtString nextRepresentation(const DtString& datatype) const;
     DtValueForm valueForm() const;
+    DtToolkitValue toolkitValue() const;
+    DtString wireForm() const;
 
     const DtCustomCodeMember myMember;
     const DtOMTTree* myTree;

@@ -386,18 +386,6 @@ DtToolkitLayout layoutOfRow(const DtString& datatype, const DtToolkitRow& row, c
     return {};
 }
 
-// The type that stands for a datatype, or for the first of the representations below it that is mapped.
-DtString toolkitTypeOf(const DtString& datatype, const DtOMTTree& tree)
-{
-    for (const DtString& name : simpleTypesBelow(datatype, tree).names)
-    {
-        const DtString& type = DtDataTypeMapper::instance()->quorvexType(name);
-        if (!name.isEmpty() && !type.isEmpty())
-            return type;
-    }
-    return DtString();
-}
-
 } // namespace
 
 DtToolkitLayout toolkitLayoutOf(const DtString& datatype, const DtString& toolkitType, const DtOMTTree& tree)
@@ -409,6 +397,17 @@ DtToolkitLayout toolkitLayoutOf(const DtString& datatype, const DtString& toolki
     if (!layout.difference.isEmpty())
         layout.argument = ", &DtWireMisfit::theLayout";
     return layout;
+}
+
+DtString toolkitTypeOf(const DtString& datatype, const DtOMTTree& tree)
+{
+    for (const DtString& name : simpleTypesBelow(datatype, tree).names)
+    {
+        const DtString& type = DtDataTypeMapper::instance()->quorvexType(name);
+        if (!name.isEmpty() && !type.isEmpty())
+            return type;
+    }
+    return DtString();
 }
 
 DtToolkitValue toolkitValueOf(const DtString& type)

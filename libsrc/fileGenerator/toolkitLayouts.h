@@ -38,6 +38,10 @@ enum class DtToolkitValue
 };
 DtToolkitValue toolkitValueOf(const DtString& type);
 
+// The type that stands for a datatype, or for the first of the representations below it that is mapped; empty when none
+// does.
+DtString toolkitTypeOf(const DtString& datatype, const DtOMTTree& tree);
+
 // Whether the values of a datatype are numbers or records of numbers in a type of the toolkit, so that all have the
 // same octets on the wire as the model has it. False for what does not fit into that type.
 bool hasToolkitNumbers(const DtString& datatype, const DtOMTTree& tree);

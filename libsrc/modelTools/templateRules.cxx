@@ -162,6 +162,7 @@ DtTemplateRules customCodeRules()
         "<!AttributeIsLittleEndian!>",
         "<!AttributeLayout!>",
         "<!AttributeWireEncoding!>",
+        "<!AttributeWireForm!>",
     };
     return rules;
 }

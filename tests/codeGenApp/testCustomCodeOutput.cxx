@@ -92,7 +92,7 @@ std::map<QString, QString> wireForms(const QString& sources)
     static const QRegularExpression theFunction(
         QStringLiteral("\\n(bool \\w+::(?:en|de)code[^\\n]*\\))\\n\\{(.*?)\\n\\}"),
         QRegularExpression::DotMatchesEverythingOption);
-    static const QRegularExpression theForm(QStringLiteral("const DtWireForm form\\((.*?)\\);\\n"),
+    static const QRegularExpression theForm(QStringLiteral("const DtWireForm form = (.*?);\\n"),
                                             QRegularExpression::DotMatchesEverythingOption);
     static const QRegularExpression theComment(QStringLiteral(" /\\*.*?\\*/"));
     std::map<QString, QString> forms;
@@ -167,16 +167,24 @@ void TestCustomCodeOutput::defaultTextsAreWhatIsGenerated()
     DtScratchProgram program(myTree);
     const auto window = runBatch(program, files(program));
     plain = wireForms(codingSources(program));
-    int compared = 0;
+    int compared = 0, numberClasses = 0;
     for (const auto& [function, form] : plain)
     {
         // A member that is called like a datatype counts as one of that class; its text has the model's datatype.
-        if (form.startsWith("\"Dt"))
+        if (form.startsWith("DtWireForm(\"Dt"))
             continue;
+        // Ahead of a run nobody knows of which numbers a class is made, which knows its form; the text tells it as
+        // well.
+        if (form == "DtWireForm()" && custom[function].startsWith("DtWireForm::number("))
+        {
+            ++numberClasses;
+            continue;
+        }
         QCOMPARE(function + ": " + custom[function], function + ": " + form);
         ++compared;
     }
     QCOMPARE(custom.size(), plain.size());
+    QVERIFY(numberClasses < static_cast<int>(plain.size()) / 20);
     QVERIFY(compared > 100 && compared > static_cast<int>(plain.size()) * 9 / 10);
     qInfo("%d of %d functions", compared, static_cast<int>(plain.size()));
 }

@@ -844,7 +844,7 @@ void TestClassFileWriter::knownTokensAreAllReplaced()
     const DtAttribute attribute = speedAttribute();
     ship.writer.setCurrentAttribute(&attribute);
     const std::vector<DtString> tokens = ship.writer.tokenChain().tokens();
-    QCOMPARE(tokens.size(), std::size_t(1 + 42 + 50 + 1 + 2 + 2 + 14));
+    QCOMPARE(tokens.size(), std::size_t(1 + 42 + 52 + 1 + 2 + 2 + 14));
     for (const DtString& token : tokens)
         QVERIFY2(!ship.writer.decode(token).contains("<!"), token.c_str());
 }

@@ -641,13 +641,14 @@ void TestDataTypeFileWriters::knownTokensOfTheFamilies()
         return tokens.join(' ');
     };
     QCOMPARE(own(SimpleProbe("", "")), QString("<!NumberType!> <!LocalTypeIsNotEncodeable!> <!LocalTypeHasNoCoding!> "
-                                               "<!MyHeaderInclude!> <!ClassIdentifier!>"));
-    QCOMPARE(own(BasicProbe("", "")),
-             QString("<!BasicSize!> <!ClassPrefix!> <!size!> <!EndianMatch!> <!NumberType!> "
-                     "<!LocalTypeIsNotEncodeable!> <!LocalTypeHasNoCoding!> <!MyHeaderInclude!> <!ClassIdentifier!>"));
+                                               "<!MyHeaderInclude!> <!ClassIdentifier!> <!AttributeMutableName!>"));
+    QCOMPARE(own(BasicProbe("", "")), QString("<!BasicSize!> <!ClassPrefix!> <!size!> <!EndianMatch!> <!NumberType!> "
+                                              "<!LocalTypeIsNotEncodeable!> <!LocalTypeHasNoCoding!> "
+                                              "<!MyHeaderInclude!> <!ClassIdentifier!> <!AttributeMutableName!>"));
     QCOMPARE(own(ArrayProbe("", "")),
              QString("<!MyEncoding!> <!ClassPrefix!> <!ArrayElementCount!> <!ArrayEncoding!> <!TokenCardinality!> "
-                     "<!LocalTypeIsNotEncodeable!> <!LocalTypeHasNoCoding!> <!MyHeaderInclude!> <!ClassIdentifier!>"));
+                     "<!LocalTypeIsNotEncodeable!> <!LocalTypeHasNoCoding!> <!MyHeaderInclude!> <!ClassIdentifier!> "
+                     "<!AttributeMutableName!>"));
 }
 
 QX_REGISTER_TEST(TestDataTypeFileWriters)

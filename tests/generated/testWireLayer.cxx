@@ -288,6 +288,7 @@ private Q_SLOTS:
     void fixedStringIsFilled();
     void firstReasonStays();
     void surplusIsRefusedAndTheValueStays();
+    void formsOfLayoutsGiveTheOctetsOfThoseByNames();
     void fixedRecordHasItsFieldsInTheirPlaces();
     void fixedRecordBeginsAtItsBoundary();
     void arrayOfFixedRecordsLiesAsOneByOne();
@@ -701,6 +702,25 @@ void TestWireLayer::surplusIsRefusedAndTheValueStays()
     QCOMPARE(result.reason, QByteArray(theSurplus));
     QCOMPARE(result.value, DtU16(9));
     QCOMPARE(decoded<DtU16>("", DtWireForm(), 9).value, DtU16(9));
+}
+
+void TestWireLayer::formsOfLayoutsGiveTheOctetsOfThoseByNames()
+{
+    QCOMPARE(encoded(DtU32(0x01020304), DtWireForm::number(4)), QByteArray("01020304"));
+    QCOMPARE(encoded(DtU32(0x01020304), DtWireForm::number(4, DtLittleEndian)), QByteArray("04030201"));
+    QCOMPARE(encoded(DtInt32(-2), DtWireForm::number(3)), QByteArray("fffffe"));
+    const DtString text("ab");
+    QCOMPARE(encoded(text, DtWireForm::array(DtVariableArray, 1)), QByteArray("000000026162"));
+    QCOMPARE(encoded(text, DtWireForm::array(DtNullTerminatedArray, 1)), QByteArray("616200"));
+    QCOMPARE(encoded(text, DtWireForm::array(DtLengthlessArray, 1)), QByteArray("6162"));
+    QCOMPARE(encoded(text, DtWireForm::fixedArray(4, 1)), QByteArray("61620000"));
+    QCOMPARE(encoded(text, DtWireForm::array(DtVariableArray, 2, DtLittleEndian)), QByteArray("0000000261006200"));
+    QCOMPARE(encoded(std::vector<DtU16>{1, 2}, DtWireForm::array(DtVariableArray, 2)), QByteArray("0000000200010002"));
+    typedef DtWireRecordOf<4, DtWirePart<2, 0, 4>, DtWirePart<1, 4, 4>, DtWirePart<0, 8, 4>> Reversed;
+    const DtVector32 vector(1, 2, 3);
+    QCOMPARE(encoded(vector, DtWireForm::record(&Reversed::theLayout)), QByteArray("40400000400000003f800000"));
+    QCOMPARE(encoded(vector, DtWireForm()), QByteArray("3f8000004000000040400000"));
+    QVERIFY(encoded(vector, DtWireForm::record(&DtWireMisfit::theLayout)).startsWith("refused"));
 }
 
 // The figures are worked out by hand: each field at a multiple of its length, a record at one of its longest number.

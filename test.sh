@@ -3,7 +3,7 @@
 #   ./test.sh             what continuous integration runs; ends with the skipped tests and the summary of ctest
 #   ./test.sh --lint      clang-format and clang-tidy over the sources
 #   ./test.sh --full      all tests and what takes minutes: everything built by clang++, clang++ and make on what was
-#                         generated, and the window on a display
+#                         generated, the window on a display, and the page in a browser
 set -eu
 
 top=$(cd "$(dirname "${BASH_SOURCE[0]}")" && pwd)
@@ -45,7 +45,7 @@ case ${1-} in
     --lint) lint ;;
     --full)
         "$top/.ci/setup" clang git lintian desktop-file-utils appstream debootstrap dpkg-dev file gzip scdoc \
-            xvfb openbox xdotool
+            xvfb openbox xdotool chromium
         cmake --preset clang
         cmake --build --preset clang
         export QX_FULL=1

@@ -8,33 +8,43 @@
 #include <type_traits>
 #include <utility>
 
-// What can be done to a value whose type is known by its place among the alternatives alone.
+// What can be done to a value whose type is known by its place among the alternatives alone. The values that are read
+// from are not const, so that one function can serve copies and moves.
 struct DtAlternativeKind
 {
-    void (*copy)(void* room, const void* value);
-    void (*move)(void* room, void* value);
-    void (*assign)(void* to, const void* value);
-    void (*moveAssign)(void* to, void* value);
+    typedef void (*Transfer)(void* to, void* from);
+
+    Transfer copy, move;         // into a room
+    Transfer assign, moveAssign; // to a value
     void (*destroy)(void* value);
 };
 
-template <class Type>
+template <class Type, bool isOctetsAlone = std::is_trivially_copyable<Type>::value>
 struct DtAlternativeOf
 {
-    static void copy(void* room, const void* value) { new (room) Type(*static_cast<const Type*>(value)); }
-    static void move(void* room, void* value) { new (room) Type(std::move(*static_cast<Type*>(value))); }
-    static void assign(void* to, const void* value) { *static_cast<Type*>(to) = *static_cast<const Type*>(value); }
-    static void moveAssign(void* to, void* value) { *static_cast<Type*>(to) = std::move(*static_cast<Type*>(value)); }
+    static void copy(void* room, void* from) { new (room) Type(*static_cast<const Type*>(from)); }
+    static void move(void* room, void* from) { new (room) Type(std::move(*static_cast<Type*>(from))); }
+    static void assign(void* to, void* from) { *static_cast<Type*>(to) = *static_cast<const Type*>(from); }
+    static void moveAssign(void* to, void* from) { *static_cast<Type*>(to) = std::move(*static_cast<Type*>(from)); }
     static void destroy(void* value) { static_cast<Type*>(value)->~Type(); }
     static constexpr DtAlternativeKind kind() { return {&copy, &move, &assign, &moveAssign, &destroy}; }
-
-    // Never destroyed, so that it may still be asked for while the program ends.
-    static const Type& defaultValue()
-    {
-        static const Type& theValue = *new Type();
-        return theValue;
-    }
 };
+
+// A type whose values are their octets and no more: one function does it all, which is less to compile.
+template <class Type>
+struct DtAlternativeOf<Type, true>
+{
+    static void copy(void* to, void* from) { new (to) Type(*static_cast<const Type*>(from)); }
+    static constexpr DtAlternativeKind kind() { return {&copy, &copy, &copy, &copy, nullptr}; }
+};
+
+// Never destroyed, so that it may still be asked for while the program ends.
+template <class Type>
+const Type& DtDefaultAlternative()
+{
+    static const Type& theValue = *new Type();
+    return theValue;
+}
 
 // A list of types, and what is left of it from a place on.
 template <class... Types>
@@ -82,7 +92,7 @@ public:
         if (myPlace != other.myPlace)
             return *this = DtAlternatives(other); // it may be a part of what this one holds
         if (myPlace != theNone)
-            kind().assign(myRoom, other.myRoom);
+            kind().assign(myRoom, const_cast<unsigned char*>(other.myRoom));
         return *this;
     }
     DtAlternatives& operator=(DtAlternatives&& other) noexcept(
@@ -102,7 +112,7 @@ public:
     template <int place>
     const TypeAt<place>& get() const
     {
-        return myPlace == place ? held<place>() : DtAlternativeOf<TypeAt<place>>::defaultValue();
+        return myPlace == place ? held<place>() : DtDefaultAlternative<TypeAt<place>>();
     }
 
     // The value, made anew when another alternative was held. Nothing is held when that throws.
@@ -149,9 +159,7 @@ public:
     }
     void clear()
     {
-        if (myPlace == theNone)
-            return;
-        if (!areAll<std::is_trivially_destructible<Types>::value...>())
+        if (!areAll<std::is_trivially_copyable<Types>::value...>() && myPlace != theNone && kind().destroy != nullptr)
             kind().destroy(myRoom);
         myPlace = theNone;
     }
@@ -199,7 +207,7 @@ private:
     {
         if (other.myPlace == theNone)
             return;
-        other.kind().copy(myRoom, other.myRoom);
+        other.kind().copy(myRoom, const_cast<unsigned char*>(other.myRoom));
         myPlace = other.myPlace;
     }
     void moveFrom(DtAlternatives& other)
@@ -212,7 +220,7 @@ private:
     // The other one may be a part of what is held, which it cannot be when that owns nothing.
     void replaceBy(DtAlternatives& other)
     {
-        if (myPlace == theNone || areAll<std::is_trivially_destructible<Types>::value...>())
+        if (myPlace == theNone || areAll<std::is_trivially_copyable<Types>::value...>())
         {
             clear();
             moveFrom(other);

@@ -3,6 +3,9 @@
 #include "foundation/stringUtils.h"
 
 #include <algorithm>
+#include <charconv>
+#include <iterator>
+#include <string_view>
 
 namespace
 {
@@ -45,7 +48,12 @@ DtString DtEnumerationNode::numberText() const
     return integer.empty() ? DtString(myNumber) : DtString(integer);
 }
 
+// Nearly all models state each value as the digits of the number.
 bool DtEnumerationNode::isNumberTheValue() const
 {
+    char digits[16];
+    const char* const end = std::to_chars(std::begin(digits), std::end(digits), myNumber).ptr;
+    if (std::string_view(digits, static_cast<std::size_t>(end - digits)) == myValueText.stdString())
+        return true;
     return trimmed(myValueText.stdString()).empty() || DtString(integerOf(myValueText)) == DtString(myNumber);
 }

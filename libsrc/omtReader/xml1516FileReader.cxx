@@ -10,6 +10,7 @@ DtXML1516FileReader::DtXML1516FileReader(DtExerciseConn* connection)
 DtXML1516FileReader::Values DtXML1516FileReader::valuesOf(xmlNode* node)
 {
     Values values;
+    values.reserve(theUsualValues);
     for (xmlAttr* attribute = node->properties; attribute != nullptr; attribute = attribute->next)
         values.push_back({reinterpret_cast<const char*>(attribute->name), childNodeString(attribute)});
     return values;

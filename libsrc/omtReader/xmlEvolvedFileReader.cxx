@@ -15,6 +15,7 @@ DtXMLEvolvedFileReader::DtXMLEvolvedFileReader(DtExerciseConn* connection, DtHLA
 DtXMLEvolvedFileReader::Values DtXMLEvolvedFileReader::valuesOf(xmlNode* node)
 {
     Values values;
+    values.reserve(theUsualValues);
     for (xmlNode*& child : DtXmlElements(node))
         values.push_back({reinterpret_cast<const char*>(child->name), childNodeString(child)});
     return values;

@@ -6,6 +6,7 @@
 #include <algorithm>
 #include <charconv>
 #include <cstdlib>
+#include <string_view>
 
 using Reader = DtXMLModelReader;
 using Fields = DtXmlModelFields;
@@ -36,10 +37,12 @@ namespace
 // "notes" of 2000 and 2010, with "semanticsNotes" and its like in the former, and "noteReferences" of 2025.
 bool isOfNotes(const xmlAttr* attribute)
 {
-    const std::string name(reinterpret_cast<const char*>(attribute->name));
-    const std::string ending = "Notes";
+    const std::string_view name(reinterpret_cast<const char*>(attribute->name));
+    if (name.empty() || name.back() != 's') // asked of each attribute of the model
+        return false;
+    const std::string_view ending = "Notes";
     return name == "notes" || name == "noteReferences" ||
-           (name.size() > ending.size() && name.compare(name.size() - ending.size(), ending.size(), ending) == 0);
+           (name.size() > ending.size() && name.substr(name.size() - ending.size()) == ending);
 }
 
 void addNoteLabels(const xmlNode* node, DtString& labels)

@@ -112,6 +112,8 @@ protected:
         DtString text;
     };
     using Values = std::vector<Value>;
+    // Most constructs have no more; what makes the values sets room for so many aside at once.
+    static constexpr std::size_t theUsualValues = 8;
     // Names the operation that reads each child element of a name.
     template <typename Reader>
     struct Construct

@@ -136,14 +136,15 @@ bool contains(const Table& table, const DtString& name)
     return std::find(std::begin(table), std::end(table), name) != std::end(table);
 }
 
-template <typename Value>
-const Value& lookUp(const std::map<DtString, Value>& table, const DtString& name, const Value& unknown)
+template <typename Table, typename Value>
+const Value& lookUp(const Table& table, const DtString& name, const Value& unknown)
 {
     const auto found = table.find(name);
     return found != table.end() ? found->second : unknown;
 }
 
-const DtString& lookUp(const std::map<DtString, DtString>& table, const DtString& name)
+template <typename Table>
+const DtString& lookUp(const Table& table, const DtString& name)
 {
     return lookUp(table, name, DtString::nullString());
 }
@@ -187,7 +188,7 @@ void DtDataTypeMapper::populateFromOmtTree(DtOMTTree* tree)
 
 void DtDataTypeMapper::setPredefinedTypes(const DtStringMap& types)
 {
-    myMappings = types;
+    myMappings = {types.begin(), types.end()};
 }
 
 void DtDataTypeMapper::addMapping(const DtString& name, const DtString& type)

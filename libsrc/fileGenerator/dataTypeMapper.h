@@ -6,6 +6,8 @@
 
 #include <map>
 #include <set>
+#include <unordered_map>
+#include <unordered_set>
 #include <utility>
 #include <vector>
 
@@ -179,20 +181,23 @@ private:
     template <typename Node>
     void addRecord(const Node& node);
 
-    DtStringMap myMappings;
-    DtStringMap myEnumerationSizes;
-    DtStringMap mySimpleTypeToRepresentation;
-    DtStringMap myArrayTypeToRepresentation;
-    DtStringMap myArrayTypeToCardinality;
-    DtStringMap myDatatypeToEncoding;
-    DtStringMap myEnumNameToRep;
+    // What is asked for by name only, many times for each attribute.
+    using DtNamedTexts = std::unordered_map<DtString, DtString>;
+
+    DtNamedTexts myMappings;
+    DtNamedTexts myEnumerationSizes;
+    DtNamedTexts mySimpleTypeToRepresentation;
+    DtNamedTexts myArrayTypeToRepresentation;
+    DtNamedTexts myArrayTypeToCardinality;
+    DtNamedTexts myDatatypeToEncoding;
+    DtNamedTexts myEnumNameToRep;
     std::map<DtString, DtBasicTypeInfo> myBasicTypeInfo;
     std::map<DtString, DtVariantRecordStruct> myVariantData;
-    DtStringMap myDatatypeToDiscriminant;
+    DtNamedTexts myDatatypeToDiscriminant;
     std::set<DtString> myVariableSizeNetTypes; // beyond those built in
-    std::set<DtString> myNonEncodeableDataTypes;
-    std::map<DtString, DtString> myReferences; // representations by name
-    std::set<DtString> myEnumerations;
+    std::unordered_set<DtString> myNonEncodeableDataTypes;
+    DtNamedTexts myReferences; // representations by name
+    std::unordered_set<DtString> myEnumerations;
     std::set<DtString> myNetTypesWithVariantRecord;
     bool myMapRtiObjectIdToGlobalId = false;
     DtString myDefaultEnumerationSize = "32";

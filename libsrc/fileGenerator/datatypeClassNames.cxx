@@ -8,7 +8,7 @@
 namespace
 {
 
-const DtString& valueOrEmpty(const std::map<DtString, DtString>& map, const DtString& key)
+const DtString& valueOrEmpty(const std::unordered_map<DtString, DtString>& map, const DtString& key)
 {
     const auto entry = map.find(key);
     return entry == map.end() ? DtString::nullString() : entry->second;

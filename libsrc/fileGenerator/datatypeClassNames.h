@@ -5,6 +5,7 @@
 
 #include <map>
 #include <set>
+#include <unordered_map>
 
 class DtCCompatibleNames;
 
@@ -68,12 +69,12 @@ private:
         DtString identifier;
     };
 
-    std::map<DtString, DtString> myClassNames;
+    std::unordered_map<DtString, DtString> myClassNames; // asked for by name only, like the representations
     std::set<DtString> myFileStems;
     std::set<DtString> mySharedStems;
     std::map<DtString, DtNamesake> myNamesakes;
     std::set<DtString> myGeneratedEnumerations;
-    std::map<DtString, DtString> myEnumerationRepresentations;
+    std::unordered_map<DtString, DtString> myEnumerationRepresentations;
 };
 
 #endif

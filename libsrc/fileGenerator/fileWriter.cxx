@@ -155,6 +155,8 @@ private:
 
 void DtFileWriter::writeFileStream(std::istream& in)
 {
+    if (myBlockDepth == 0)
+        myIsDirect = false;
     DtTemplateBuffer* const buffer = DtTemplateBuffer::of(in);
     const bool isAtStart = buffer != nullptr && in.good() && buffer->position() == 0;
     if (!isAtStart || !writeParts(buffer->text()->parts(pieceLimit()), in, *buffer))
@@ -169,12 +171,20 @@ void DtFileWriter::scan(std::istream& in)
 
 bool DtFileWriter::writeParts(const DtTemplateParts& parts, std::istream& in, DtTemplateBuffer& buffer)
 {
-    for (const DtTemplateStep& step : parts.steps)
+    for (std::size_t index = 0; index < parts.steps.size(); ++index)
     {
+        const DtTemplateStep& step = parts.steps[index];
+        if (myIsDirect && step.literalSteps > 0)
+        {
+            writeText(step.literalText);
+            index += step.literalSteps - 1;
+            continue;
+        }
         writeLineFeeds(step.lineFeeds);
         if (step.block == nullptr)
         {
-            writeLine(step.line);
+            if (!myIsDirect || !writeDirectly(step.line))
+                writeLine(step.line);
             continue;
         }
         buffer.moveToBlock(*step.block, step.start);
@@ -217,11 +227,25 @@ void DtFileWriter::writeLine(const DtCompiledLine& line)
     myStreamBuffer.pubsync();
 }
 
+bool DtFileWriter::writeDirectly(const DtCompiledLine& line)
+{
+    std::string text = std::move(myExpandedText); // taken out while in use: a value may be a line that is expanded
+    text.clear();
+    const bool isExpanded = myTokenChain.append(line, text);
+    if (isExpanded)
+        writeText(text);
+    myExpandedText = std::move(text);
+    return isExpanded;
+}
+
 void DtFileWriter::decode(const DtCompiledLine& line, DtString& text)
 {
     DtAssignText(text, line.text());
     const DtRestored current(myCompiledLine, &line);
+    if (myIsDirect && expandCompiled(text))
+        return;
     decodeFileLine(text);
+    myIsDirect = myHasOwnDecoding;
 }
 
 const DtTokenTable<DtFileWriter>& DtFileWriter::baseTable()
@@ -353,7 +377,11 @@ void DtFileWriter::expandBlock(const DtString& header, DtTemplateStream& body, c
     const DtInsideFile inside(myOpenFiles, body.fileName());
     body.seekg(0); // fails for a file that could not be opened, and nothing is read from it then
     if (delimiter == '#')
+    {
+        myIsPlainLoop = false;
         writeMultipleTimes(header, body);
+        myIsDirect = myIsDirect && myIsPlainLoop;
+    }
     else
         writeConditional(header, body);
 }
@@ -412,10 +440,17 @@ void DtFileWriter::writeMultipleTimes(const DtString& header, std::istream& body
     const int count = header.toInt();
     const std::streampos position = count > 0 ? body.tellg() : std::streampos(0);
     for (int repetition = 0; repetition < count; ++repetition)
-        writeBodyFrom(body, position);
+        repeatBody(body, position);
+    myIsPlainLoop = true; // only now: there may be other loops in the body
 }
 
 void DtFileWriter::writeBodyFrom(std::istream& body, std::streampos position)
+{
+    myIsDirect = false;
+    repeatBody(body, position);
+}
+
+void DtFileWriter::repeatBody(std::istream& body, std::streampos position)
 {
     DtTemplateBuffer* const buffer = DtTemplateBuffer::of(body);
     body.clear();

@@ -32,6 +32,9 @@ struct DtTemplateBlock;
 // over such a text writeFileStream() walks the parts that were found; on any other it scans. All operations are called
 // the same way on both, with the same texts and with the stream at the same positions.
 //
+// Nearly all lines of a run go out without a call of decodeFileLine(), which would be that of the library: see
+// setHasOwnDecoding().
+//
 // One object, one output file: construct, writeFile() once, destroy, which closes the output. The class-wide settings
 // are set before the writers of a run are made.
 class DtFileWriter
@@ -61,6 +64,11 @@ public:
     virtual void writeMultipleTimes(const DtString& header, std::istream& body);
     // Expands the body if the condition holds: exists, notexists, greaterthan, lessthan, equals, notequals.
     virtual void writeConditional(const DtString& header, std::istream& body);
+
+    // Tells that decodeFileLine() is that of this class or of DtClassFileWriter. It is then called for the first line
+    // or operand behind each change that a loop of a derived class may have made: at the start of a repetition, and
+    // behind the loop. What follows is expanded along the chain, with the same outcome.
+    void setHasOwnDecoding(bool hasOwnDecoding) { myHasOwnDecoding = hasOwnDecoding; }
 
     // Takes the body of an inline block, from index start of the line on, and leaves the stream behind its terminator.
     // linePosition is where the line starts in the stream; line and position follow the reading. delimiter: '#' or '?'.
@@ -125,8 +133,11 @@ private:
     void writeLineFeeds(std::size_t count);
     void writePiece(std::string_view piece); // with its tokens replaced
     void writeLine(const DtCompiledLine& line);
+    // False, with nothing written, for a line that only decodeFileLine() can do.
+    bool writeDirectly(const DtCompiledLine& line);
     void decode(const DtCompiledLine& line, DtString& text); // through decodeFileLine()
     void handleBlock(std::istream& in, char delimiter);
+    void repeatBody(std::istream& body, std::streampos position);
     void scanBlock(std::istream& in, char delimiter, DtTemplateBlock& memory);
     void expandPart(const DtTemplateBlockPart& part, DtTemplateStream& body);
     void expandBlock(const DtString& header, DtTemplateStream& body, char delimiter);
@@ -143,6 +154,9 @@ private:
     std::vector<std::string> myOpenFiles; // of the file blocks around the current position, outermost first
     int myBlockDepth = 0;
     bool myIsWritten = false;
+    bool myHasOwnDecoding = false;
+    bool myIsDirect = false;    // whether lines need not go through decodeFileLine() at present
+    bool myIsPlainLoop = false; // whether the last loop was one by number, which changes nothing
     bool myHasWarnedOfFiles = false;
     bool myHasWarnedOfBlocks = false;
     DtTokenValues<DtFileWriter> myBaseTokens;

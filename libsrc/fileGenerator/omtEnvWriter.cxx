@@ -14,6 +14,7 @@
 #include "fileGenerator/numberForm.h"
 #include "fileGenerator/objFileGenerator.h"
 #include "fileGenerator/omtProject.h"
+#include "fileGenerator/ownDecoding.h"
 #include "fileGenerator/progressMeter.h"
 #include "fileGenerator/projectFileWriter.h"
 #include "fileGenerator/relativePath.h"
@@ -294,6 +295,7 @@ void DtOMTEnvWriter::generateEnumerationsFile()
     const DtString base = withoutDashesAndDots(withoutPathAndExtension(modelBase()));
     const DtString stem = DtString("DataTypes") + DtFilename::separator() + base + "Enums";
     DtEnumerationFileWriter writer(stem + ".h");
+    tellOwnDecoding(writer);
     for (DtEnumeratedDatatypeNode* node : tree().enumeratedDatatypes())
     {
         // Also of those that a ready-made type stands for: it does not tell how long the number is.
@@ -306,6 +308,7 @@ void DtOMTEnvWriter::generateEnumerationsFile()
     if (!writer.hasEnumerations())
         return; // the header is written all the same
     DtEnumerationFileWriter source(stem + ".cxx", "../data/templates/enumsSource.tlt", writer);
+    tellOwnDecoding(source);
     addToFileList(source.fileName());
     source.writeFile();
 }
@@ -453,6 +456,7 @@ void DtOMTEnvWriter::writeProjectFiles()
     {
         const int compiler = 9; // VC14, 64 bit
         DtProjectFileWriter project(base + "VC14_64" + ".vcxproj", myFileList, compiler);
+        tellOwnDecoding(project);
         project.setProjectName(base);
         project.setGenerateDis(myGenerateDis);
         project.writeFile();
@@ -461,6 +465,7 @@ void DtOMTEnvWriter::writeProjectFiles()
         return;
     {
         DtMakefileWriter makefile("Makefile", myFileList);
+        tellOwnDecoding(makefile);
         makefile.setLibraryName(base);
         makefile.setGenerateDis(myGenerateDis);
         makefile.writeFile();
@@ -468,6 +473,7 @@ void DtOMTEnvWriter::writeProjectFiles()
     if (isCancelled())
         return;
     DtSolutionsFileWriter solution(base + "VC14_64.sln", "solutionVC14_64.tlt");
+    tellOwnDecoding(solution);
     if (myGenerateExamples)
     {
         solution.setObjects(myObjectsToGenerate);

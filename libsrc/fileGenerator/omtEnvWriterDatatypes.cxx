@@ -8,6 +8,7 @@
 #include "fileGenerator/nameClashes.h"
 #include "fileGenerator/omtEnvWriter.h"
 #include "fileGenerator/omtProject.h"
+#include "fileGenerator/ownDecoding.h"
 #include "fileGenerator/progressMeter.h"
 #include "fileGenerator/simpleDataTypeFileWriter.h"
 #include "fileGenerator/toolkitNames.h"
@@ -219,6 +220,8 @@ void DtOMTEnvWriter::writePair(typename Family::Node* node)
     const DtString file = DtString("DataTypes") + DtFilename::separator() + stem;
     auto header = Family::make(file + ".h", Family::header, item);
     auto source = Family::make(file + ".cxx", Family::source, item);
+    tellOwnDecoding(header);
+    tellOwnDecoding(source);
     Family::prepare(header, item, names());
     Family::prepare(source, item, names());
     Family::compile(header, node, myTree, item);

@@ -2,6 +2,7 @@
 #define FILE_GENERATOR_OUTPUT_TABLE_H
 
 #include "fileGenerator/classFileWriter.h"
+#include "fileGenerator/ownDecoding.h"
 
 #include <algorithm>
 #include <iterator>
@@ -41,10 +42,13 @@ template <typename Writer, typename Record>
 std::unique_ptr<DtClassFileWriter> makeWriter(const DtString& fileName, const DtString& templateName,
                                               const Record& record)
 {
+    std::unique_ptr<DtClassFileWriter> writer;
     if constexpr (std::is_constructible_v<Writer, const DtString&, const DtString&, const Record&>)
-        return std::make_unique<Writer>(fileName, templateName, record);
+        writer = std::make_unique<Writer>(fileName, templateName, record);
     else
-        return std::make_unique<Writer>(fileName, templateName);
+        writer = std::make_unique<Writer>(fileName, templateName);
+    writer->setHasOwnDecoding(hasOwnDecoding<Writer>);
+    return writer;
 }
 
 #endif

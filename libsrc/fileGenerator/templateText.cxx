@@ -22,6 +22,7 @@ public:
 
 private:
     DtTemplateStep& addStep();
+    void joinLiterals();
     std::unique_ptr<DtTemplateBlockPart> readBlock(DtTemplateCursor& cursor, char delimiter) const;
     bool readBody(DtTemplateBlock& block, DtTemplateCursor& cursor, DtTemplateBlockPart& part) const;
 
@@ -84,8 +85,34 @@ bool DtPartsTaker::readBody(DtTemplateBlock& block, DtTemplateCursor& cursor, Dt
     return part.body->text() == body;
 }
 
+// From the back, so that each step finds its follower joined. The text of a step begins with its line feeds where they
+// stand in the template next to the line, as they do but for bars.
+void DtPartsTaker::joinLiterals()
+{
+    const DtTemplateStep* next = nullptr;
+    for (auto step = myParts.steps.rbegin(); step != myParts.steps.rend(); next = &*step++)
+    {
+        const std::string_view line = step->line.text();
+        const bool isInTemplate = line.data() >= myText.data() && line.data() <= myText.data() + myText.size();
+        if (step->block != nullptr || !step->line.isLiteral() || !isInTemplate)
+            continue;
+        const std::size_t start = static_cast<std::size_t>(line.data() - myText.data());
+        const std::size_t feeds = step->lineFeeds;
+        if (feeds > start || myText.substr(start - feeds, feeds).find_first_not_of('\n') != std::string_view::npos)
+            continue;
+        step->literalText = myText.substr(start - feeds, feeds + line.size());
+        step->literalSteps = 1;
+        const char* const end = line.data() + line.size();
+        if (next == nullptr || next->literalSteps == 0 || next->literalText.data() != end)
+            continue;
+        step->literalText = myText.substr(start - feeds, feeds + line.size() + next->literalText.size());
+        step->literalSteps += next->literalSteps;
+    }
+}
+
 void DtPartsTaker::finish()
 {
+    joinLiterals();
     myParts.lineFeeds = myLineFeeds;
     if (myHasStopped)
         return;

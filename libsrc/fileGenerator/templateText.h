@@ -44,6 +44,10 @@ struct DtTemplateStep
     DtCompiledLine line;
     std::unique_ptr<DtTemplateBlockPart> block; // null for a line
     std::streamoff start = 0;                   // position of the stream ahead of a block
+    // Of a line without tokens: the text from its line feeds to the end of the last such line that follows without a
+    // gap, and the number of steps that it stands for; 0 for any other step.
+    std::string_view literalText;
+    std::size_t literalSteps = 0;
 };
 
 // All steps of a text, for pieces of one length.

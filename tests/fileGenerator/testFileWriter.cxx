@@ -102,6 +102,20 @@ private:
     static QString position(std::istream& in) { return QString::number(std::streamoff(in.tellg())); }
 };
 
+// Knows a loop "Twice" and one "None".
+class DtTwiceWriter : public DtNotingWriter
+{
+public:
+    void writeMultipleTimes(const DtString& header, std::istream& body) override
+    {
+        const std::streampos position = body.tellg();
+        if (header != "Twice" && header != "None")
+            return DtNotingWriter::writeMultipleTimes(header, body);
+        for (int repetition = 0; header == "Twice" && repetition < 2; ++repetition)
+            writeBodyFrom(body, position);
+    }
+};
+
 // Takes the rest of the stream away behind each loop.
 class DtTakingWriter : public DtMemoryWriter
 {
@@ -154,6 +168,7 @@ private Q_SLOTS:
     void operandsAreDecodedOneByOne();
     void bodyIsTakenFromItsPosition();
     void operationsAreCalledAlikeForEveryStream();
+    void ownDecodingIsAskedAtFirstLinesOnly();
     void operationThatLeavesTheStreamElsewhereIsFollowed();
     void directCallsWithoutOpening();
     void directCallLeavesStreamBehindTerminator();
@@ -469,6 +484,23 @@ void TestFileWriter::operationsAreCalledAlikeForEveryStream()
     QVERIFY(own.calls.size() > 30);
     QCOMPARE(own.calls, plain.calls);
     QCOMPARE(own.text(), plain.text());
+}
+
+// A loop by number changes nothing that lines are made of; one of a derived class may.
+void TestFileWriter::ownDecodingIsAskedAtFirstLinesOnly()
+{
+    const std::string text = "a\nb <!BitCount!>\n\n|c<?exists <!BitCount!>>d\ne<?>f\n<#2>x\ny<#>g\n"
+                             "<#Twice><?exists 1>x\ny<?>z <!BitCount!><#>h\ni <!Foo!><#None>x<#>j\nk";
+    DtTwiceWriter all;
+    all.expand(text);
+    DtTwiceWriter first;
+    first.setHasOwnDecoding(true);
+    first.expand(text);
+    QCOMPARE(first.text(), all.text());
+    QCOMPARE(all.calls.filter("line ").size(), 24);
+    QCOMPARE(first.calls.filter("line "), (QStringList{"line a", "line 1", "line 1", "line h", "line j"}));
+    first.expand("l\nm");
+    QCOMPARE(first.calls.last(), QString("line l"));
 }
 
 void TestFileWriter::operationThatLeavesTheStreamElsewhereIsFollowed()

@@ -6,6 +6,7 @@
 #include "fileGenerator/hobjEncoderHeaderWriter.h"
 #include "fileGenerator/hobjEncoderSourceWriter.h"
 #include "fileGenerator/objFileGenerator.h"
+#include "fileGenerator/ownDecoding.h"
 #include "foundation/exception.h"
 
 #include <QtTest/QtTest>
@@ -22,6 +23,7 @@ private Q_SLOTS:
     void init();
     void cleanup();
     void classHasTwelveFiles();
+    void writerThatDecodesGetsEveryLine();
     void classHasTwentyEightFilesWithDis();
     void everyFileComesFromItsTemplate_data();
     void everyFileComesFromItsTemplate();
@@ -137,6 +139,18 @@ private:
     bool myCancels;
 };
 
+// Has a decoding of its own.
+class MarkingWriter : public DtClassFileWriter
+{
+public:
+    using DtClassFileWriter::DtClassFileWriter;
+    void decodeFileLine(DtString& line) override
+    {
+        DtClassFileWriter::decodeFileLine(line);
+        line += "!";
+    }
+};
+
 DtOmtObject tank()
 {
     DtOmtObject object;
@@ -168,6 +182,17 @@ void TestObjFileGenerator::classHasTwelveFiles()
     QCOMPARE(listed(files), sorted(theHlaFiles));
     QCOMPARE(myFixture->outputs(), sorted(theHlaFiles));
     QCOMPARE(DtObjectFileGenerator::fileCount(false), 12);
+}
+
+void TestObjFileGenerator::writerThatDecodesGetsEveryLine()
+{
+    static_assert(hasOwnDecoding<DtClassFileWriter> && hasOwnDecoding<DtHlaObjectEncoderSourceWriter>);
+    static_assert(hasOwnDecoding<DtFileWriter> && !hasOwnDecoding<MarkingWriter>);
+    myFixture->writeTemplate("own.tlt", "a\nb\n<!DllExport!>\nc");
+    makeWriter<MarkingWriter, DtOmtObject>("marked.txt", "../data/templates/own.tlt", tank())->writeFile();
+    makeWriter<DtClassFileWriter, DtOmtObject>("plain.txt", "../data/templates/own.tlt", tank())->writeFile();
+    QCOMPARE(myFixture->output("marked.txt"), QString("a!\nb!\nDT_DLL_MODEL!\nc!"));
+    QCOMPARE(myFixture->output("plain.txt"), QString("a\nb\nDT_DLL_MODEL\nc"));
 }
 
 void TestObjFileGenerator::classHasTwentyEightFilesWithDis()

@@ -298,14 +298,21 @@ void TestTemplateCases::compareTemplate(const std::string& text, const DtTexts& 
         return;
     }
     const QByteArray expected = QByteArray::fromStdString(reference.output() + "\nWARNINGS " + reference.warnings());
-    for (const bool isPlain : {false, true})
+    enum
+    {
+        OwnStream,
+        OwnDecoding,
+        PlainStream
+    };
+    for (const int way : {OwnStream, OwnDecoding, PlainStream})
     {
         const DtCapture warnings(DtWarn);
         DtMemoryWriter writer;
-        const std::string output = isPlain ? writer.expandPlain(text) : writer.expand(text);
+        writer.setHasOwnDecoding(way == OwnDecoding);
+        const std::string output = way == PlainStream ? writer.expandPlain(text) : writer.expand(text);
         const QByteArray got = QByteArray::fromStdString(output) + "\nWARNINGS " + warnings.text().toUtf8();
         if (got != expected)
-            qWarning("%s: \"%s\"", isPlain ? "plain stream" : "own stream", text.c_str());
+            qWarning("way %d: \"%s\"", way, text.c_str());
         QCOMPARE(got, expected);
     }
 }

@@ -124,6 +124,18 @@ private Q_SLOTS:
                  QString("l s t c"));
     }
 
+    // Each value has an attribute for its notes. What only looks like one is passed over.
+    void labelsOfNotesStandAtEveryValue()
+    {
+        const auto tree = readSections1516("<dataTypes><enumeratedDataTypes><enumeratedData name='e' notes='a' "
+                                           "nameNotes='b c' Notes='x' notesOf='x' status='x' noteReferences='d'>"
+                                           "<enumerator name='v' values='1' valuesNotes='f'/></enumeratedData>"
+                                           "</enumeratedDataTypes></dataTypes>");
+        const DtEnumeratedDatatypeNode& enumeration = *tree->getEnumeratedDatatypeNode("e");
+        QCOMPARE(toQt(enumeration.noteLabels()), QString("a b c d f"));
+        QCOMPARE(toQt(enumeration.getEnumerationNode("v")->noteLabels()), QString("f"));
+    }
+
     void noteIsNumberedByItsName_data()
     {
         QTest::addColumn<QByteArray>("name");

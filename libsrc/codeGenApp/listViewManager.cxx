@@ -105,6 +105,75 @@ void addShownRows(const QTreeWidget& list, const QModelIndex& parent, QItemSelec
     }
 }
 
+// Guesses how wide texts are drawn in one font: the sum of the advances of their characters, each asked for once. What
+// is drawn differs from it by kerning and ligatures.
+class DtWidthGuess
+{
+public:
+    explicit DtWidthGuess(const QFont& font) : myMetrics(font) {}
+
+    int operator()(const QString& text)
+    {
+        int width = 0;
+        for (const QChar character : text)
+            width += advance(character);
+        return width;
+    }
+
+private:
+    int advance(QChar character)
+    {
+        const auto known = myAdvances.constFind(character);
+        return known != myAdvances.constEnd() ? *known
+                                              : *myAdvances.insert(character, myMetrics.horizontalAdvance(character));
+    }
+
+    QFontMetrics myMetrics;
+    QHash<QChar, int> myAdvances;
+};
+
+struct DtShownRow
+{
+    QModelIndex index;
+    int indentation; // in pixels
+    int guessedWidth;
+};
+
+// Adds the rows below an index, but for hidden ones and for what is below a collapsed one.
+void addShownRows(const QTreeWidget& list, const QModelIndex& parent, int indentation, DtWidthGuess& guess,
+                  std::vector<DtShownRow>& shown)
+{
+    const QAbstractItemModel& model = *list.model();
+    for (int row = 0; row < model.rowCount(parent); ++row)
+    {
+        if (list.isRowHidden(row, parent))
+            continue;
+        const QModelIndex index = model.index(row, 0, parent);
+        shown.push_back({index, indentation, indentation + guess(index.data().toString())});
+        if (model.hasChildren(index) && list.isExpanded(index))
+            addShownRows(list, index, indentation + list.indentation(), guess, shown);
+    }
+}
+
+// Width in pixels that the column needs for the rows that are not hidden or collapsed, 0 for an empty list. The widths
+// of all are guessed, and those that are the widest by that are asked for.
+int widthOfShownRows(QTreeWidget& list)
+{
+    constexpr std::size_t theMostCandidates = 8;
+    list.ensurePolished(); // the style sheet may set the font
+    DtWidthGuess guess(list.font());
+    std::vector<DtShownRow> shown;
+    addShownRows(list, QModelIndex(), list.rootIsDecorated() ? list.indentation() : 0, guess, shown);
+    const auto end = shown.begin() + static_cast<std::ptrdiff_t>(qMin(shown.size(), theMostCandidates));
+    std::partial_sort(shown.begin(), end, shown.end(),
+                      [](const DtShownRow& left, const DtShownRow& right)
+                      { return left.guessedWidth > right.guessedWidth; });
+    int width = 0;
+    for (auto each = shown.begin(); each != end; ++each)
+        width = qMax(width, each->indentation + list.sizeHintForIndex(each->index).width());
+    return width;
+}
+
 // How the root of one kind of class is called in the lists and in the two families of models.
 struct DtRootNames
 {
@@ -426,12 +495,12 @@ void DtListViewManager::findItems(QTreeWidgetItem* root, std::vector<QTreeWidget
         appendIf(root, found, [](QTreeWidgetItem*) { return true; });
 }
 
+// Asking Qt for the hint of the whole column would lay out the list and shape the text of every row.
 void DtListViewManager::fitColumns() const
 {
     for (QTreeWidget* list : {myLeftListView, myRightListView})
     {
-        const QAbstractItemView* const view = list; // which lets everybody ask
-        list->header()->setMinimumSectionSize(qMax(view->sizeHintForColumn(0), theLeastWidth));
+        list->header()->setMinimumSectionSize(qMax(widthOfShownRows(*list), theLeastWidth));
         list->header()->setStretchLastSection(false);
         list->setColumnWidth(0, list->header()->minimumSectionSize());
         list->header()->setStretchLastSection(true); // sees the new limit

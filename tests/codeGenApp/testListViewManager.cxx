@@ -14,6 +14,7 @@
 
 #include <QtCore/QTemporaryDir>
 #include <QtTest/QtTest>
+#include <QtWidgets/QHeaderView>
 #include <QtWidgets/QTreeWidget>
 
 #include <memory>
@@ -115,6 +116,35 @@ private Q_SLOTS:
         QCOMPARE(lists.manager.leftInteractionList()->text(0), QString("Interactions"));
         lists.manager.reset();
         QVERIFY(lists.manager.leftObjectList() == nullptr && lists.manager.leftInteractionList() == nullptr);
+    }
+
+    void columnIsAsWideAsItsWidestShownRow_data()
+    {
+        QTest::addColumn<QByteArray>("hiddenOrCollapsed");
+        QTest::newRow("all rows") << QByteArray();
+        QTest::newRow("without a hidden one") << QByteArray("hide");
+        QTest::newRow("without those below a collapsed one") << QByteArray("collapse");
+    }
+
+    // Wide characters, many narrow ones, and a short name far to the right.
+    void columnIsAsWideAsItsWidestShownRow()
+    {
+        QFETCH(QByteArray, hiddenOrCollapsed);
+        QByteArray deep = objectText("End");
+        for (int level = 0; level < 12; ++level)
+            deep = objectText("Level" + QByteArray::number(level), deep);
+        DtLists lists(moduleText(objectText(QByteArray(30, 'W')) + objectText(QByteArray(50, 'i')) +
+                                     objectText("Outer", objectText("\xc3\x96" + QByteArray(40, 'M'))) + deep,
+                                 interactionText("AVAVAVAVAVAVAVAVAVAVAVAVAVAVAVAV")));
+        QTreeWidgetItem* const outer = itemOf(lists.left, "Outer");
+        outer->setHidden(hiddenOrCollapsed == "hide");
+        outer->setExpanded(hiddenOrCollapsed != "collapse");
+        lists.manager.fitColumns();
+        const QAbstractItemView& list = lists.left;
+        const int wanted = list.sizeHintForColumn(0);
+        QVERIFY(wanted > 200);
+        QCOMPARE(lists.left.header()->minimumSectionSize(), wanted); // the section itself fills the list
+        QCOMPARE(lists.right.header()->minimumSectionSize(), 50);
     }
 
     void deepClassBringsItsSuperclasses()

@@ -15,9 +15,9 @@ class DtOmtNode;
 // The talk and listen examples of one class: two programs, their project files and their makefile, in a directory of
 // their own below the output directory.
 //
-// Owns the writers. It makes the writers of both kinds of class, and those of objects and of interactions write the
-// same two files: one of the two create operations is called, once, and the other pair never writes. The files exist,
-// at least empty, as soon as the creator stands.
+// Owns the writers. Those of objects and of interactions write the same two files: one of the two create operations is
+// called, once. The pair for the kind of the record is made at once, so that the files exist, at least empty, as soon
+// as the creator stands; the other pair is made when it is called for all the same.
 class DtExamplesCreator
 {
 public:
@@ -38,18 +38,27 @@ public:
 private:
     using DtSourceWriter = std::unique_ptr<DtClassFileWriter>;
 
-    DtSourceWriter makeSource(const char* fileName, const char* templateName, const DtOmtProject& project) const;
-    void writeExamples(const DtSourceWriter& talk, const DtSourceWriter& listen);
+    // The two programs of one kind of class; empty until they are made.
+    struct DtSources
+    {
+        DtSourceWriter talk;
+        DtSourceWriter listen;
+    };
+
+    DtSourceWriter makeSource(const DtString& fileName, const DtString& templateName) const;
+    DtSources makeSources(const char* kind) const;
+    // Gives what the other pair was told to those that are made only now.
+    void makeLate(DtSources& sources, const char* kind, const DtSources& other) const;
+    void writeExamples(const DtSources& sources);
 
     DtString myName;
+    DtOmtProject myProject;
     DtString myDirectory; // from the output directory
     std::unique_ptr<DtExamplesProjectFileWriter> myTalkProject;
     std::unique_ptr<DtExamplesProjectFileWriter> myListenProject;
     std::unique_ptr<DtExamplesMakefileWriter> myMakefile;
-    DtSourceWriter myTalkObject;
-    DtSourceWriter myListenObject;
-    DtSourceWriter myTalkInteraction; // these two close first
-    DtSourceWriter myListenInteraction;
+    DtSources myObjectSources;
+    DtSources myInteractionSources; // these close first
     bool myHasWrittenInteraction = false;
 };
 

@@ -18,6 +18,7 @@ private Q_SLOTS:
     void sourceHoldsTheEnumerationsOfTheHeader();
     void noSourceIsWrittenWithoutEnumerations();
     void enumerationOfAMemberThatIsCalledLikeItIsDeclared();
+    void longNameOfSuchAnEnumerationIsNotShortened();
     void enumerationSizeComesFromItsRepresentation_data();
     void enumerationSizeComesFromItsRepresentation();
     void enumerationIsKnownToTheMapper();
@@ -61,6 +62,25 @@ void TestOmtEnvWriterEnumerations::enumerationOfAMemberThatIsCalledLikeItIsDecla
     select({"HLAobjectRoot.Tank"});
     run();
     QCOMPARE(myFixture->output("tankStateRepository.h"), QString("DtDeGearEnum8;"));
+}
+
+// The enumerations header never shortens, so nobody else may.
+void TestOmtEnvWriterEnumerations::longNameOfSuchAnEnumerationIsNotShortened()
+{
+    const std::string name = "Long" + std::string(110, 'g') + "Enum";
+    myModel->addObject("HLAobjectRoot.Tank");
+    myModel->addAttribute("HLAobjectRoot.Tank", name.c_str(), name.c_str());
+    myModel->addEnumeration(name.c_str(), "HLAoctet",
+                            {
+                                {"high", 1}
+    });
+    myFixture->writeTemplate("enums.tlt", "<#Enumeration><!EnumerationTypeName!>;<#>");
+    myFixture->writeTemplate("stateRepHeader.tlt", "<#Enumerations><!AttributeTypeIdentifier!>;<#>");
+    select({"HLAobjectRoot.Tank"});
+    run();
+    const QString type = "Dt" + QString::fromStdString(name) + ";";
+    QCOMPARE(myFixture->output("DataTypes/modelEnums.h"), type);
+    QCOMPARE(myFixture->output("tankStateRepository.h"), type);
 }
 
 void TestOmtEnvWriterEnumerations::sourceHoldsTheEnumerationsOfTheHeader()

@@ -19,11 +19,11 @@ const char* const theNamesInGeneratedCode[] = {
     "DtHlaStateDecoder", "DtHlaStateEncoder", "DtInt64", "DtInteraction", "DtInteractionCoding",
     "DtInteractionDecoder", "DtInteractionEncoder", "DtInteractionWithEncDec", "DtLargerBoundary", "DtLayoutOf",
     "DtLengthlessArray", "DtLittleEndian", "DtNamesOfType", "DtNetSizeOf", "DtNullTerminatedArray", "DtNumberBoundary",
-    "DtNumberForm", "DtNumberFormOf", "DtNumberOfDiscriminant", "DtOpaqueValue", "DtPutNumber", "DtReadValue",
-    "DtRecordScope", "DtSampleFiller", "DtSampleOf", "DtSharedDecoder", "DtSharedEncoder", "DtStateDecoder",
-    "DtStateEncoder", "DtStateRepository", "DtTextLayout", "DtValueText", "DtVariableArray", "DtVariantBoundary",
-    "DtVariantKind", "DtVariantKindOf", "DtWireForm", "DtWireMisfit", "DtWirePart", "DtWireReader", "DtWireRecordOf",
-    "DtWireTrail", "DtWireWriter", "DtWriteEnumerator", "DtWriteValue",
+    "DtNumberForm", "DtNumberFormOf", "DtNumberOfDiscriminant", "DtOpaqueValue", "DtPutNumber", "DtReadInto",
+    "DtReadValue", "DtRecordScope", "DtSampleFiller", "DtSampleOf", "DtSharedDecoder", "DtSharedEncoder", "DtStartOf",
+    "DtStateDecoder", "DtStateEncoder", "DtStateRepository", "DtTextLayout", "DtValueText", "DtVariableArray",
+    "DtVariantBoundary", "DtVariantKind", "DtVariantKindOf", "DtWireForm", "DtWireMisfit", "DtWirePart",
+    "DtWireReader", "DtWireRecordOf", "DtWireTrail", "DtWireWriter", "DtWriteEnumerator", "DtWriteValue",
 };
 
 const char* const theOtherNames[] = {
@@ -44,11 +44,11 @@ const char* const theOtherNames[] = {
     "DtNumberImage", "DtNumberText", "DtOctetWriter", "DtOctetsByName", "DtOctetsOfBits", "DtPaddingArray",
     "DtPaddingTo", "DtPaddingUnit", "DtPduObserver", "DtPlainVariant", "DtPublisherBase", "DtPutAlternativeLength",
     "DtPutWirePart", "DtQuotedText", "DtReflectedListBase", "DtReflectedObjectBase", "DtRepresentationOf",
-    "DtSelectorRange", "DtSplitAlternative", "DtStartOf", "DtStateMsg", "DtStoreBig", "DtStoreBits", "DtStreamedText",
-    "DtString", "DtSwappedOctets", "DtTaitBryan", "DtTerminator", "DtTextBegins", "DtTextEquals", "DtTextIs",
-    "DtTextTraits", "DtTrailingNumber", "DtTriple", "DtU16", "DtU32", "DtU64", "DtU8", "DtUnknownArray",
-    "DtValueBuffer", "DtVector", "DtVector32", "DtVector64", "DtVectorImage", "DtWideUnits", "DtWireComponentsOf",
-    "DtWirePartForm", "DtWireRecordLayout", "DtWireRecordTraits", "DtWireTraits", "DtWrittenOctets",
+    "DtSelectorRange", "DtSplitAlternative", "DtStateMsg", "DtStoreBig", "DtStoreBits", "DtStreamedText", "DtString",
+    "DtSwappedOctets", "DtTaitBryan", "DtTerminator", "DtTextBegins", "DtTextEquals", "DtTextIs", "DtTextTraits",
+    "DtTrailingNumber", "DtTriple", "DtU16", "DtU32", "DtU64", "DtU8", "DtUnknownArray", "DtValueBuffer", "DtVector",
+    "DtVector32", "DtVector64", "DtVectorImage", "DtWideUnits", "DtWireComponentsOf", "DtWirePartForm",
+    "DtWireRecordLayout", "DtWireRecordTraits", "DtWireTraits", "DtWrittenOctets",
 };
 // clang-format on
 

@@ -23,8 +23,8 @@ inline bool DtWriteValue(DtWireWriter& writer, const DtOpaqueValue&, const DtWir
     return false;
 }
 
-// What a value is read into: a copy, since a record keeps what has no wire form, but an empty array, which is replaced
-// as a whole.
+// What a value is read into: a copy, since a record keeps what has no wire form, but an empty text or array, which is
+// replaced as a whole.
 template <class Value>
 Value DtStartOf(const Value& value, long)
 {
@@ -40,37 +40,64 @@ std::vector<Element> DtStartOf(const std::vector<Element>&, int)
 {
     return std::vector<Element>();
 }
-
-template <class Value>
-bool DtReadValue(DtWireReader& reader, Value& value, const DtWireForm& form)
+inline DtString DtStartOf(const DtString&, int)
 {
-    Value taken(DtStartOf(value, 0));
-    if (!DtDecodePart(reader, taken, form))
-        return false;
-    if (!reader.atEnd())
-        return reader.fail("octets are left over behind the value");
-    value = std::move(taken);
-    return true;
+    return DtString();
+}
+template <class Value>
+Value DtStartOf(const Value& value)
+{
+    return DtStartOf(value, 0);
 }
 
-// Without a text on the way, so that one that is read again and again needs no memory anew.
-inline bool DtReadValue(DtWireReader& reader, DtString& value, const DtWireForm& form)
+// Reads into such a start, which holds part of what was read after a failure and is to be thrown away.
+template <class Value>
+bool DtReadInto(DtWireReader& reader, Value& value, const DtWireForm& form)
+{
+    if (!DtDecodePart(reader, value, form))
+        return false;
+    return reader.atEnd() || reader.fail("octets are left over behind the value");
+}
+
+// Without a text on the way, so that one that is read again and again needs no memory anew. It stays on a failure.
+inline bool DtReadInto(DtWireReader& reader, DtString& value, const DtWireForm& form)
 {
     const char* text = nullptr;
     std::size_t length = 0;
     const bool isFound = !form.isMisfit() && !reader.isClosed() && reader.pad(DtBoundaryOf(value, form)) &&
                          DtWireTraits<DtString>::find(reader, text, length, form);
     if (!isFound)
-        return DtReadValue<DtString>(reader, value, form);
+    {
+        DtString taken;
+        if (!DtReadInto<DtString>(reader, taken, form))
+            return false;
+        value = std::move(taken);
+        return true;
+    }
     if (!reader.atEnd())
         return reader.fail("octets are left over behind the value");
     value.assign(text, length);
     return true;
 }
 
-inline bool DtReadValue(DtWireReader& reader, DtOpaqueValue&, const DtWireForm&)
+inline bool DtReadInto(DtWireReader& reader, DtOpaqueValue&, const DtWireForm&)
 {
     return reader.fail("no class stands for the datatype");
+}
+
+template <class Value>
+bool DtReadValue(DtWireReader& reader, Value& value, const DtWireForm& form)
+{
+    Value taken(DtStartOf(value));
+    if (!DtReadInto(reader, taken, form))
+        return false;
+    value = std::move(taken);
+    return true;
+}
+
+inline bool DtReadValue(DtWireReader& reader, DtString& value, const DtWireForm& form)
+{
+    return DtReadInto(reader, value, form);
 }
 
 #endif

@@ -17,24 +17,24 @@ bool DtAnimalDecoder::decodeName(DtAnimalStateRepository& state, DtWireReader& r
 {
     const DtWireForm form = DtWireForm("HLAunicodeString", "", R"qx(HLAvariableArray)qx",
         -1 /* elements */, 0 /* octets */, 0 /* little-endian */);
-    auto value = state.name();
-    if (!DtReadValue(reader, value, form))
+    auto value = DtStartOf(state.name());
+    if (!DtReadInto(reader, value, form))
     {
         return false;
     }
-    state.setName(value);
+    state.setName(std::move(value));
     return true;
 }
 
 bool DtAnimalDecoder::decodeLegs(DtAnimalStateRepository& state, DtWireReader& reader)
 {
     const DtWireForm form = DtWireForm::number(4);
-    auto value = state.legs();
-    if (!DtReadValue(reader, value, form))
+    auto value = DtStartOf(state.legs());
+    if (!DtReadInto(reader, value, form))
     {
         return false;
     }
-    state.setLegs(value);
+    state.setLegs(std::move(value));
     return true;
 }
 

@@ -16,12 +16,12 @@ bool DtCallInterDecoder::decodeText(DtCallInter& interaction, DtWireReader& read
 {
     const DtWireForm form = DtWireForm("HLAASCIIstring", "", R"qx(HLAvariableArray)qx",
         -1 /* elements */, 0 /* octets */, 0 /* little-endian */);
-    auto value = interaction.text();
-    if (!DtReadValue(reader, value, form))
+    auto value = DtStartOf(interaction.text());
+    if (!DtReadInto(reader, value, form))
     {
         return false;
     }
-    interaction.setText(value);
+    interaction.setText(std::move(value));
     return true;
 }
 

@@ -17,24 +17,24 @@ bool DtDogDecoder::decodeBarks(DtDogStateRepository& state, DtWireReader& reader
 {
     const DtWireForm form = DtWireForm("HLAboolean", "", R"qx(HLAvariableArray)qx",
         -1 /* elements */, 0 /* octets */, 0 /* little-endian */);
-    auto value = state.barks();
-    if (!DtReadValue(reader, value, form))
+    auto value = DtStartOf(state.barks());
+    if (!DtReadInto(reader, value, form))
     {
         return false;
     }
-    state.setBarks(value);
+    state.setBarks(std::move(value));
     return true;
 }
 
 bool DtDogDecoder::decodeWeight__Kg(DtDogStateRepository& state, DtWireReader& reader)
 {
     const DtWireForm form = DtWireForm::number(8);
-    auto value = state.weight__Kg();
-    if (!DtReadValue(reader, value, form))
+    auto value = DtStartOf(state.weight__Kg());
+    if (!DtReadInto(reader, value, form))
     {
         return false;
     }
-    state.setWeight__Kg(value);
+    state.setWeight__Kg(std::move(value));
     return true;
 }
 

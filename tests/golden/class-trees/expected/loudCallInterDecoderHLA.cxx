@@ -15,12 +15,12 @@ DtLoudCallInterDecoder::DtLoudCallInterDecoder()
 bool DtLoudCallInterDecoder::decodeLoudness(DtLoudCallInter& interaction, DtWireReader& reader)
 {
     const DtWireForm form = DtWireForm::number(4);
-    auto value = interaction.loudness();
-    if (!DtReadValue(reader, value, form))
+    auto value = DtStartOf(interaction.loudness());
+    if (!DtReadInto(reader, value, form))
     {
         return false;
     }
-    interaction.setLoudness(value);
+    interaction.setLoudness(std::move(value));
     return true;
 }
 

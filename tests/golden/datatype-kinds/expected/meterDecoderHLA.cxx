@@ -22,96 +22,96 @@ DtMeterDecoder::DtMeterDecoder()
 bool DtMeterDecoder::decodeRaw(DtMeterStateRepository& state, DtWireReader& reader)
 {
     const DtWireForm form = DtWireForm();
-    auto value = state.raw();
-    if (!DtReadValue(reader, value, form))
+    auto value = DtStartOf(state.raw());
+    if (!DtReadInto(reader, value, form))
     {
         return false;
     }
-    state.setRaw(value);
+    state.setRaw(std::move(value));
     return true;
 }
 
 bool DtMeterDecoder::decodeRunning(DtMeterStateRepository& state, DtWireReader& reader)
 {
     const DtWireForm form = DtWireForm();
-    auto value = state.running();
-    if (!DtReadValue(reader, value, form))
+    auto value = DtStartOf(state.running());
+    if (!DtReadInto(reader, value, form))
     {
         return false;
     }
-    state.setRunning(value);
+    state.setRunning(std::move(value));
     return true;
 }
 
 bool DtMeterDecoder::decodeState(DtMeterStateRepository& state, DtWireReader& reader)
 {
     const DtWireForm form = DtWireForm();
-    auto value = state.state();
-    if (!DtReadValue(reader, value, form))
+    auto value = DtStartOf(state.state());
+    if (!DtReadInto(reader, value, form))
     {
         return false;
     }
-    state.setState(value);
+    state.setState(std::move(value));
     return true;
 }
 
 bool DtMeterDecoder::decodeWeek(DtMeterStateRepository& state, DtWireReader& reader)
 {
     const DtWireForm form = DtWireForm();
-    auto value = state.week();
-    if (!DtReadValue(reader, value, form))
+    auto value = DtStartOf(state.week());
+    if (!DtReadInto(reader, value, form))
     {
         return false;
     }
-    state.setWeek(value);
+    state.setWeek(std::move(value));
     return true;
 }
 
 bool DtMeterDecoder::decodeRemarks(DtMeterStateRepository& state, DtWireReader& reader)
 {
     const DtWireForm form = DtWireForm();
-    auto value = state.remarks();
-    if (!DtReadValue(reader, value, form))
+    auto value = DtStartOf(state.remarks());
+    if (!DtReadInto(reader, value, form))
     {
         return false;
     }
-    state.setRemarks(value);
+    state.setRemarks(std::move(value));
     return true;
 }
 
 bool DtMeterDecoder::decodePast(DtMeterStateRepository& state, DtWireReader& reader)
 {
     const DtWireForm form = DtWireForm();
-    auto value = state.past();
-    if (!DtReadValue(reader, value, form))
+    auto value = DtStartOf(state.past());
+    if (!DtReadInto(reader, value, form))
     {
         return false;
     }
-    state.setPast(value);
+    state.setPast(std::move(value));
     return true;
 }
 
 bool DtMeterDecoder::decodeLast(DtMeterStateRepository& state, DtWireReader& reader)
 {
     const DtWireForm form = DtWireForm();
-    auto value = state.last();
-    if (!DtReadValue(reader, value, form))
+    auto value = DtStartOf(state.last());
+    if (!DtReadInto(reader, value, form))
     {
         return false;
     }
-    state.setLast(value);
+    state.setLast(std::move(value));
     return true;
 }
 
 bool DtMeterDecoder::decodeInside(DtMeterStateRepository& state, DtWireReader& reader)
 {
     const DtWireForm form = DtWireForm();
-    auto value = state.inside();
-    if (!DtReadValue(reader, value, form))
+    auto value = DtStartOf(state.inside());
+    if (!DtReadInto(reader, value, form))
     {
         return false;
     }
-    state.setInside(value);
+    state.setInside(std::move(value));
     return true;
 }
 

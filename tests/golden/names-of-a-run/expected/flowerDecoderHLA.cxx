@@ -19,12 +19,12 @@ DtQxFlowerDecoder::DtQxFlowerDecoder()
 bool DtQxFlowerDecoder::decodeColour(DtQxFlowerStateRepository& state, DtWireReader& reader)
 {
     const DtWireForm form = DtWireForm();
-    auto value = state.colour();
-    if (!DtReadValue(reader, value, form))
+    auto value = DtStartOf(state.colour());
+    if (!DtReadInto(reader, value, form))
     {
         return false;
     }
-    state.setColour(value);
+    state.setColour(std::move(value));
     return true;
 }
 
@@ -32,12 +32,12 @@ bool DtQxFlowerDecoder::decodeColour(DtQxFlowerStateRepository& state, DtWireRea
 bool DtQxFlowerDecoder::decodeSeed(DtQxFlowerStateRepository& state, DtWireReader& reader)
 {
     const DtWireForm form = DtWireForm();
-    auto value = state.seed();
-    if (!DtReadValue(reader, value, form))
+    auto value = DtStartOf(state.seed());
+    if (!DtReadInto(reader, value, form))
     {
         return false;
     }
-    state.setSeed(value);
+    state.setSeed(std::move(value));
     return true;
 }
 

@@ -18,12 +18,12 @@ DtQxWaterInterDecoder::DtQxWaterInterDecoder()
 bool DtQxWaterInterDecoder::decodeLitres(DtQxWaterInter& interaction, DtWireReader& reader)
 {
     const DtWireForm form = DtWireForm::number(4);
-    auto value = interaction.litres();
-    if (!DtReadValue(reader, value, form))
+    auto value = DtStartOf(interaction.litres());
+    if (!DtReadInto(reader, value, form))
     {
         return false;
     }
-    interaction.setLitres(value);
+    interaction.setLitres(std::move(value));
     return true;
 }
 

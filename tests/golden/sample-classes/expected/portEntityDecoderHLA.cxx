@@ -17,36 +17,36 @@ DtPortEntityDecoder::DtPortEntityDecoder()
 bool DtPortEntityDecoder::decodePosition(DtPortEntityStateRepository& state, DtWireReader& reader)
 {
     const DtWireForm form = DtWireForm();
-    auto value = state.position();
-    if (!DtReadValue(reader, value, form))
+    auto value = DtStartOf(state.position());
+    if (!DtReadInto(reader, value, form))
     {
         return false;
     }
-    state.setPosition(value);
+    state.setPosition(std::move(value));
     return true;
 }
 
 bool DtPortEntityDecoder::decodeName(DtPortEntityStateRepository& state, DtWireReader& reader)
 {
     const DtWireForm form = DtWireForm();
-    auto value = state.name();
-    if (!DtReadValue(reader, value, form))
+    auto value = DtStartOf(state.name());
+    if (!DtReadInto(reader, value, form))
     {
         return false;
     }
-    state.setName(value);
+    state.setName(std::move(value));
     return true;
 }
 
 bool DtPortEntityDecoder::decodeSerial(DtPortEntityStateRepository& state, DtWireReader& reader)
 {
     const DtWireForm form = DtWireForm::number(8);
-    auto value = state.serial();
-    if (!DtReadValue(reader, value, form))
+    auto value = DtStartOf(state.serial());
+    if (!DtReadInto(reader, value, form))
     {
         return false;
     }
-    state.setSerial(value);
+    state.setSerial(std::move(value));
     return true;
 }
 

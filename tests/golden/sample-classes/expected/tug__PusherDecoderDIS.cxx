@@ -16,35 +16,35 @@ DtTug__PusherDecoder::DtTug__PusherDecoder()
 bool DtTug__PusherDecoder::decodePull__Push(DtTug__PusherStateRepository& state, DtWireReader& reader)
 {
     const DtWireForm form = DtWireForm::number(8, DtLittleEndian);
-    auto value = state.pull__Push();
-    if (!DtReadValue(reader, value, form))
+    auto value = DtStartOf(state.pull__Push());
+    if (!DtReadInto(reader, value, form))
     {
         return false;
     }
-    state.setPull__Push(value);
+    state.setPull__Push(std::move(value));
     return true;
 }
 bool DtTug__PusherDecoder::decodeLine__1(DtTug__PusherStateRepository& state, DtWireReader& reader)
 {
     const DtWireForm form = DtWireForm();
-    auto value = state.line__1();
-    if (!DtReadValue(reader, value, form))
+    auto value = DtStartOf(state.line__1());
+    if (!DtReadInto(reader, value, form))
     {
         return false;
     }
-    state.setLine__1(value);
+    state.setLine__1(std::move(value));
     return true;
 }
 bool DtTug__PusherDecoder::decodeOwner(DtTug__PusherStateRepository& state, DtWireReader& reader)
 {
     const DtWireForm form = DtWireForm("HLAASCIIstring", "", R"qx(HLAvariableArray)qx",
         -1 /* elements */, 0 /* octets */, 0 /* little-endian */);
-    auto value = state.owner();
-    if (!DtReadValue(reader, value, form))
+    auto value = DtStartOf(state.owner());
+    if (!DtReadInto(reader, value, form))
     {
         return false;
     }
-    state.setOwner(value);
+    state.setOwner(std::move(value));
     return true;
 }
 

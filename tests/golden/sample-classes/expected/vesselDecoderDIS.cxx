@@ -20,79 +20,79 @@ DtVesselDecoder::DtVesselDecoder()
 bool DtVesselDecoder::decodeSpeed(DtVesselStateRepository& state, DtWireReader& reader)
 {
     const DtWireForm form = DtWireForm::number(4);
-    auto value = state.speed();
-    if (!DtReadValue(reader, value, form))
+    auto value = DtStartOf(state.speed());
+    if (!DtReadInto(reader, value, form))
     {
         return false;
     }
-    state.setSpeed(value);
+    state.setSpeed(std::move(value));
     return true;
 }
 bool DtVesselDecoder::decodeHeading__True(DtVesselStateRepository& state, DtWireReader& reader)
 {
     const DtWireForm form = DtWireForm::number(8);
-    auto value = state.heading__True();
-    if (!DtReadValue(reader, value, form))
+    auto value = DtStartOf(state.heading__True());
+    if (!DtReadInto(reader, value, form))
     {
         return false;
     }
-    state.setHeading__True(value);
+    state.setHeading__True(std::move(value));
     return true;
 }
 bool DtVesselDecoder::decodeState(DtVesselStateRepository& state, DtWireReader& reader)
 {
     const DtWireForm form = DtWireForm();
-    auto value = state.state();
-    if (!DtReadValue(reader, value, form))
+    auto value = DtStartOf(state.state());
+    if (!DtReadInto(reader, value, form))
     {
         return false;
     }
-    state.setState(value);
+    state.setState(std::move(value));
     return true;
 }
 bool DtVesselDecoder::decodeTheClass(DtVesselStateRepository& state, DtWireReader& reader)
 {
     const DtWireForm form = DtWireForm("HLAunicodeString", "", R"qx(HLAvariableArray)qx",
         -1 /* elements */, 0 /* octets */, 0 /* little-endian */);
-    auto value = state.theClass();
-    if (!DtReadValue(reader, value, form))
+    auto value = DtStartOf(state.theClass());
+    if (!DtReadInto(reader, value, form))
     {
         return false;
     }
-    state.setTheClass(value);
+    state.setTheClass(std::move(value));
     return true;
 }
 bool DtVesselDecoder::decodeTheInt(DtVesselStateRepository& state, DtWireReader& reader)
 {
     const DtWireForm form = DtWireForm::number(4);
-    auto value = state.theInt();
-    if (!DtReadValue(reader, value, form))
+    auto value = DtStartOf(state.theInt());
+    if (!DtReadInto(reader, value, form))
     {
         return false;
     }
-    state.setTheInt(value);
+    state.setTheInt(std::move(value));
     return true;
 }
 bool DtVesselDecoder::decodeTheTemplate(DtVesselStateRepository& state, DtWireReader& reader)
 {
     const DtWireForm form = DtWireForm();
-    auto value = state.theTemplate();
-    if (!DtReadValue(reader, value, form))
+    auto value = DtStartOf(state.theTemplate());
+    if (!DtReadInto(reader, value, form))
     {
         return false;
     }
-    state.setTheTemplate(value);
+    state.setTheTemplate(std::move(value));
     return true;
 }
 bool DtVesselDecoder::decodeCrew(DtVesselStateRepository& state, DtWireReader& reader)
 {
     const DtWireForm form = DtWireForm();
-    auto value = state.crew();
-    if (!DtReadValue(reader, value, form))
+    auto value = DtStartOf(state.crew());
+    if (!DtReadInto(reader, value, form))
     {
         return false;
     }
-    state.setCrew(value);
+    state.setCrew(std::move(value));
     return true;
 }
 

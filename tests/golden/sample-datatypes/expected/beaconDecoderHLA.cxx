@@ -57,108 +57,108 @@ DtBeaconDecoder::DtBeaconDecoder()
 bool DtBeaconDecoder::decodeLamp(DtBeaconStateRepository& state, DtWireReader& reader)
 {
     const DtWireForm form = DtWireForm();
-    auto value = state.lamp();
-    if (!DtReadValue(reader, value, form))
+    auto value = DtStartOf(state.lamp());
+    if (!DtReadInto(reader, value, form))
     {
         return false;
     }
-    state.setLamp(value);
+    state.setLamp(std::move(value));
     return true;
 }
 
 bool DtBeaconDecoder::decodeLamps(DtBeaconStateRepository& state, DtWireReader& reader)
 {
     const DtWireForm form = DtWireForm();
-    auto value = state.lamps();
-    if (!DtReadValue(reader, value, form))
+    auto value = DtStartOf(state.lamps());
+    if (!DtReadInto(reader, value, form))
     {
         return false;
     }
-    state.setLamps(value);
+    state.setLamps(std::move(value));
     return true;
 }
 
 bool DtBeaconDecoder::decodeSector(DtBeaconStateRepository& state, DtWireReader& reader)
 {
     const DtWireForm form = DtWireForm();
-    auto value = state.sector();
-    if (!DtReadValue(reader, value, form))
+    auto value = DtStartOf(state.sector());
+    if (!DtReadInto(reader, value, form))
     {
         return false;
     }
-    state.setSector(value);
+    state.setSector(std::move(value));
     return true;
 }
 
 bool DtBeaconDecoder::decodeCallSign(DtBeaconStateRepository& state, DtWireReader& reader)
 {
     const DtWireForm form = DtWireForm();
-    auto value = state.callSign();
-    if (!DtReadValue(reader, value, form))
+    auto value = DtStartOf(state.callSign());
+    if (!DtReadInto(reader, value, form))
     {
         return false;
     }
-    state.setCallSign(value);
+    state.setCallSign(std::move(value));
     return true;
 }
 
 bool DtBeaconDecoder::decodeTemperature(DtBeaconStateRepository& state, DtWireReader& reader)
 {
     const DtWireForm form = DtWireForm();
-    auto value = state.temperature();
-    if (!DtReadValue(reader, value, form))
+    auto value = DtStartOf(state.temperature());
+    if (!DtReadInto(reader, value, form))
     {
         return false;
     }
-    state.setTemperature(value);
+    state.setTemperature(std::move(value));
     return true;
 }
 
 bool DtBeaconDecoder::decodeTilt(DtBeaconStateRepository& state, DtWireReader& reader)
 {
     const DtWireForm form = DtWireForm();
-    auto value = state.tilt();
-    if (!DtReadValue(reader, value, form))
+    auto value = DtStartOf(state.tilt());
+    if (!DtReadInto(reader, value, form))
     {
         return false;
     }
-    state.setTilt(value);
+    state.setTilt(std::move(value));
     return true;
 }
 
 bool DtBeaconDecoder::decodeTilts(DtBeaconStateRepository& state, DtWireReader& reader)
 {
     const DtWireForm form = DtWireForm();
-    auto value = state.tilts();
-    if (!DtReadValue(reader, value, form))
+    auto value = DtStartOf(state.tilts());
+    if (!DtReadInto(reader, value, form))
     {
         return false;
     }
-    state.setTilts(value);
+    state.setTilts(std::move(value));
     return true;
 }
 
 bool DtBeaconDecoder::decodeTheRegister(DtBeaconStateRepository& state, DtWireReader& reader)
 {
     const DtWireForm form = DtWireForm();
-    auto value = state.theRegister();
-    if (!DtReadValue(reader, value, form))
+    auto value = DtStartOf(state.theRegister());
+    if (!DtReadInto(reader, value, form))
     {
         return false;
     }
-    state.setTheRegister(value);
+    state.setTheRegister(std::move(value));
     return true;
 }
 
 bool DtBeaconDecoder::decodeMark(DtBeaconStateRepository& state, DtWireReader& reader)
 {
     const DtWireForm form = DtWireForm::number(2);
-    auto value = state.mark();
-    if (!DtReadValue(reader, value, form))
+    auto value = DtStartOf(state.mark());
+    if (!DtReadInto(reader, value, form))
     {
         return false;
     }
-    state.setMark(value);
+    state.setMark(std::move(value));
     return true;
 }
 
@@ -166,408 +166,408 @@ bool DtBeaconDecoder::decodeImage(DtBeaconStateRepository& state, DtWireReader& 
 {
     const DtWireForm form = DtWireForm("HLAopaqueData", "", R"qx(HLAvariableArray)qx",
         -1 /* elements */, 0 /* octets */, 0 /* little-endian */);
-    auto value = state.image();
-    if (!DtReadValue(reader, value, form))
+    auto value = DtStartOf(state.image());
+    if (!DtReadInto(reader, value, form))
     {
         return false;
     }
-    state.setImage(value);
+    state.setImage(std::move(value));
     return true;
 }
 
 bool DtBeaconDecoder::decodeTested(DtBeaconStateRepository& state, DtWireReader& reader)
 {
     const DtWireForm form = DtWireForm::number(1);
-    auto value = state.tested();
-    if (!DtReadValue(reader, value, form))
+    auto value = DtStartOf(state.tested());
+    if (!DtReadInto(reader, value, form))
     {
         return false;
     }
-    state.setTested(value);
+    state.setTested(std::move(value));
     return true;
 }
 
 bool DtBeaconDecoder::decodeManned(DtBeaconStateRepository& state, DtWireReader& reader)
 {
     const DtWireForm form = DtWireForm::number(2);
-    auto value = state.manned();
-    if (!DtReadValue(reader, value, form))
+    auto value = DtStartOf(state.manned());
+    if (!DtReadInto(reader, value, form))
     {
         return false;
     }
-    state.setManned(value);
+    state.setManned(std::move(value));
     return true;
 }
 
 bool DtBeaconDecoder::decodeNeighbours(DtBeaconStateRepository& state, DtWireReader& reader)
 {
     const DtWireForm form = DtWireForm();
-    auto value = state.neighbours();
-    if (!DtReadValue(reader, value, form))
+    auto value = DtStartOf(state.neighbours());
+    if (!DtReadInto(reader, value, form))
     {
         return false;
     }
-    state.setNeighbours(value);
+    state.setNeighbours(std::move(value));
     return true;
 }
 
 bool DtBeaconDecoder::decodeSights(DtBeaconStateRepository& state, DtWireReader& reader)
 {
     const DtWireForm form = DtWireForm();
-    auto value = state.sights();
-    if (!DtReadValue(reader, value, form))
+    auto value = DtStartOf(state.sights());
+    if (!DtReadInto(reader, value, form))
     {
         return false;
     }
-    state.setSights(value);
+    state.setSights(std::move(value));
     return true;
 }
 
 bool DtBeaconDecoder::decodeZone(DtBeaconStateRepository& state, DtWireReader& reader)
 {
     const DtWireForm form = DtWireForm();
-    auto value = state.zone();
-    if (!DtReadValue(reader, value, form))
+    auto value = DtStartOf(state.zone());
+    if (!DtReadInto(reader, value, form))
     {
         return false;
     }
-    state.setZone(value);
+    state.setZone(std::move(value));
     return true;
 }
 
 bool DtBeaconDecoder::decodeCurrent(DtBeaconStateRepository& state, DtWireReader& reader)
 {
     const DtWireForm form = DtWireForm();
-    auto value = state.current();
-    if (!DtReadValue(reader, value, form))
+    auto value = DtStartOf(state.current());
+    if (!DtReadInto(reader, value, form))
     {
         return false;
     }
-    state.setCurrent(value);
+    state.setCurrent(std::move(value));
     return true;
 }
 
 bool DtBeaconDecoder::decodeWatch(DtBeaconStateRepository& state, DtWireReader& reader)
 {
     const DtWireForm form = DtWireForm();
-    auto value = state.watch();
-    if (!DtReadValue(reader, value, form))
+    auto value = DtStartOf(state.watch());
+    if (!DtReadInto(reader, value, form))
     {
         return false;
     }
-    state.setWatch(value);
+    state.setWatch(std::move(value));
     return true;
 }
 
 bool DtBeaconDecoder::decodeCalls(DtBeaconStateRepository& state, DtWireReader& reader)
 {
     const DtWireForm form = DtWireForm();
-    auto value = state.calls();
-    if (!DtReadValue(reader, value, form))
+    auto value = DtStartOf(state.calls());
+    if (!DtReadInto(reader, value, form))
     {
         return false;
     }
-    state.setCalls(value);
+    state.setCalls(std::move(value));
     return true;
 }
 
 bool DtBeaconDecoder::decodeFix(DtBeaconStateRepository& state, DtWireReader& reader)
 {
     const DtWireForm form = DtWireForm();
-    auto value = state.fix();
-    if (!DtReadValue(reader, value, form))
+    auto value = DtStartOf(state.fix());
+    if (!DtReadInto(reader, value, form))
     {
         return false;
     }
-    state.setFix(value);
+    state.setFix(std::move(value));
     return true;
 }
 
 bool DtBeaconDecoder::decodeTest(DtBeaconStateRepository& state, DtWireReader& reader)
 {
     const DtWireForm form = DtWireForm();
-    auto value = state.test();
-    if (!DtReadValue(reader, value, form))
+    auto value = DtStartOf(state.test());
+    if (!DtReadInto(reader, value, form))
     {
         return false;
     }
-    state.setTest(value);
+    state.setTest(std::move(value));
     return true;
 }
 
 bool DtBeaconDecoder::decodePass(DtBeaconStateRepository& state, DtWireReader& reader)
 {
     const DtWireForm form = DtWireForm();
-    auto value = state.pass();
-    if (!DtReadValue(reader, value, form))
+    auto value = DtStartOf(state.pass());
+    if (!DtReadInto(reader, value, form))
     {
         return false;
     }
-    state.setPass(value);
+    state.setPass(std::move(value));
     return true;
 }
 
 bool DtBeaconDecoder::decodeCondition(DtBeaconStateRepository& state, DtWireReader& reader)
 {
     const DtWireForm form = DtWireForm();
-    auto value = state.condition();
-    if (!DtReadValue(reader, value, form))
+    auto value = DtStartOf(state.condition());
+    if (!DtReadInto(reader, value, form))
     {
         return false;
     }
-    state.setCondition(value);
+    state.setCondition(std::move(value));
     return true;
 }
 
 bool DtBeaconDecoder::decodeSurvey(DtBeaconStateRepository& state, DtWireReader& reader)
 {
     const DtWireForm form = DtWireForm();
-    auto value = state.survey();
-    if (!DtReadValue(reader, value, form))
+    auto value = DtStartOf(state.survey());
+    if (!DtReadInto(reader, value, form))
     {
         return false;
     }
-    state.setSurvey(value);
+    state.setSurvey(std::move(value));
     return true;
 }
 
 bool DtBeaconDecoder::decodeGear(DtBeaconStateRepository& state, DtWireReader& reader)
 {
     const DtWireForm form = DtWireForm();
-    auto value = state.gear();
-    if (!DtReadValue(reader, value, form))
+    auto value = DtStartOf(state.gear());
+    if (!DtReadInto(reader, value, form))
     {
         return false;
     }
-    state.setGear(value);
+    state.setGear(std::move(value));
     return true;
 }
 
 bool DtBeaconDecoder::decodeRule(DtBeaconStateRepository& state, DtWireReader& reader)
 {
     const DtWireForm form = DtWireForm();
-    auto value = state.rule();
-    if (!DtReadValue(reader, value, form))
+    auto value = DtStartOf(state.rule());
+    if (!DtReadInto(reader, value, form))
     {
         return false;
     }
-    state.setRule(value);
+    state.setRule(std::move(value));
     return true;
 }
 
 bool DtBeaconDecoder::decodePaper(DtBeaconStateRepository& state, DtWireReader& reader)
 {
     const DtWireForm form = DtWireForm();
-    auto value = state.paper();
-    if (!DtReadValue(reader, value, form))
+    auto value = DtStartOf(state.paper());
+    if (!DtReadInto(reader, value, form))
     {
         return false;
     }
-    state.setPaper(value);
+    state.setPaper(std::move(value));
     return true;
 }
 
 bool DtBeaconDecoder::decodeTimes(DtBeaconStateRepository& state, DtWireReader& reader)
 {
     const DtWireForm form = DtWireForm();
-    auto value = state.times();
-    if (!DtReadValue(reader, value, form))
+    auto value = DtStartOf(state.times());
+    if (!DtReadInto(reader, value, form))
     {
         return false;
     }
-    state.setTimes(value);
+    state.setTimes(std::move(value));
     return true;
 }
 
 bool DtBeaconDecoder::decodeChambers(DtBeaconStateRepository& state, DtWireReader& reader)
 {
     const DtWireForm form = DtWireForm();
-    auto value = state.chambers();
-    if (!DtReadValue(reader, value, form))
+    auto value = DtStartOf(state.chambers());
+    if (!DtReadInto(reader, value, form))
     {
         return false;
     }
-    state.setChambers(value);
+    state.setChambers(std::move(value));
     return true;
 }
 
 bool DtBeaconDecoder::decodeRemark(DtBeaconStateRepository& state, DtWireReader& reader)
 {
     const DtWireForm form = DtWireForm();
-    auto value = state.remark();
-    if (!DtReadValue(reader, value, form))
+    auto value = DtStartOf(state.remark());
+    if (!DtReadInto(reader, value, form))
     {
         return false;
     }
-    state.setRemark(value);
+    state.setRemark(std::move(value));
     return true;
 }
 
 bool DtBeaconDecoder::decodeDraughts(DtBeaconStateRepository& state, DtWireReader& reader)
 {
     const DtWireForm form = DtWireForm();
-    auto value = state.draughts();
-    if (!DtReadValue(reader, value, form))
+    auto value = DtStartOf(state.draughts());
+    if (!DtReadInto(reader, value, form))
     {
         return false;
     }
-    state.setDraughts(value);
+    state.setDraughts(std::move(value));
     return true;
 }
 
 bool DtBeaconDecoder::decodeRing(DtBeaconStateRepository& state, DtWireReader& reader)
 {
     const DtWireForm form = DtWireForm();
-    auto value = state.ring();
-    if (!DtReadValue(reader, value, form))
+    auto value = DtStartOf(state.ring());
+    if (!DtReadInto(reader, value, form))
     {
         return false;
     }
-    state.setRing(value);
+    state.setRing(std::move(value));
     return true;
 }
 
 bool DtBeaconDecoder::decodeLines(DtBeaconStateRepository& state, DtWireReader& reader)
 {
     const DtWireForm form = DtWireForm();
-    auto value = state.lines();
-    if (!DtReadValue(reader, value, form))
+    auto value = DtStartOf(state.lines());
+    if (!DtReadInto(reader, value, form))
     {
         return false;
     }
-    state.setLines(value);
+    state.setLines(std::move(value));
     return true;
 }
 
 bool DtBeaconDecoder::decodeDeep(DtBeaconStateRepository& state, DtWireReader& reader)
 {
     const DtWireForm form = DtWireForm();
-    auto value = state.deep();
-    if (!DtReadValue(reader, value, form))
+    auto value = DtStartOf(state.deep());
+    if (!DtReadInto(reader, value, form))
     {
         return false;
     }
-    state.setDeep(value);
+    state.setDeep(std::move(value));
     return true;
 }
 
 bool DtBeaconDecoder::decodeSlack(DtBeaconStateRepository& state, DtWireReader& reader)
 {
     const DtWireForm form = DtWireForm();
-    auto value = state.slack();
-    if (!DtReadValue(reader, value, form))
+    auto value = DtStartOf(state.slack());
+    if (!DtReadInto(reader, value, form))
     {
         return false;
     }
-    state.setSlack(value);
+    state.setSlack(std::move(value));
     return true;
 }
 
 bool DtBeaconDecoder::decodeFind(DtBeaconStateRepository& state, DtWireReader& reader)
 {
     const DtWireForm form = DtWireForm();
-    auto value = state.find();
-    if (!DtReadValue(reader, value, form))
+    auto value = DtStartOf(state.find());
+    if (!DtReadInto(reader, value, form))
     {
         return false;
     }
-    state.setFind(value);
+    state.setFind(std::move(value));
     return true;
 }
 
 bool DtBeaconDecoder::decodeSpare(DtBeaconStateRepository& state, DtWireReader& reader)
 {
     const DtWireForm form = DtWireForm();
-    auto value = state.spare();
-    if (!DtReadValue(reader, value, form))
+    auto value = DtStartOf(state.spare());
+    if (!DtReadInto(reader, value, form))
     {
         return false;
     }
-    state.setSpare(value);
+    state.setSpare(std::move(value));
     return true;
 }
 
 bool DtBeaconDecoder::decodeSteps(DtBeaconStateRepository& state, DtWireReader& reader)
 {
     const DtWireForm form = DtWireForm::number(4, DtLittleEndian);
-    auto value = state.steps();
-    if (!DtReadValue(reader, value, form))
+    auto value = DtStartOf(state.steps());
+    if (!DtReadInto(reader, value, form))
     {
         return false;
     }
-    state.setSteps(value);
+    state.setSteps(std::move(value));
     return true;
 }
 
 bool DtBeaconDecoder::decodeRank(DtBeaconStateRepository& state, DtWireReader& reader)
 {
     const DtWireForm form = DtWireForm::number(8, DtLittleEndian);
-    auto value = state.rank();
-    if (!DtReadValue(reader, value, form))
+    auto value = DtStartOf(state.rank());
+    if (!DtReadInto(reader, value, form))
     {
         return false;
     }
-    state.setRank(value);
+    state.setRank(std::move(value));
     return true;
 }
 
 bool DtBeaconDecoder::decodeFloor(DtBeaconStateRepository& state, DtWireReader& reader)
 {
     const DtWireForm form = DtWireForm::number(2, DtLittleEndian);
-    auto value = state.floor();
-    if (!DtReadValue(reader, value, form))
+    auto value = DtStartOf(state.floor());
+    if (!DtReadInto(reader, value, form))
     {
         return false;
     }
-    state.setFloor(value);
+    state.setFloor(std::move(value));
     return true;
 }
 
 bool DtBeaconDecoder::decodeSign(DtBeaconStateRepository& state, DtWireReader& reader)
 {
     const DtWireForm form = DtWireForm::number(1);
-    auto value = state.sign();
-    if (!DtReadValue(reader, value, form))
+    auto value = DtStartOf(state.sign());
+    if (!DtReadInto(reader, value, form))
     {
         return false;
     }
-    state.setSign(value);
+    state.setSign(std::move(value));
     return true;
 }
 
 bool DtBeaconDecoder::decodeFooting(DtBeaconStateRepository& state, DtWireReader& reader)
 {
     const DtWireForm form = DtWireForm::number(2);
-    auto value = state.footing();
-    if (!DtReadValue(reader, value, form))
+    auto value = DtStartOf(state.footing());
+    if (!DtReadInto(reader, value, form))
     {
         return false;
     }
-    state.setFooting(value);
+    state.setFooting(std::move(value));
     return true;
 }
 
 bool DtBeaconDecoder::decodeSwing(DtBeaconStateRepository& state, DtWireReader& reader)
 {
     const DtWireForm form = DtWireForm();
-    auto value = state.swing();
-    if (!DtReadValue(reader, value, form))
+    auto value = DtStartOf(state.swing());
+    if (!DtReadInto(reader, value, form))
     {
         return false;
     }
-    state.setSwing(value);
+    state.setSwing(std::move(value));
     return true;
 }
 
 bool DtBeaconDecoder::decodeDoors(DtBeaconStateRepository& state, DtWireReader& reader)
 {
     const DtWireForm form = DtWireForm();
-    auto value = state.doors();
-    if (!DtReadValue(reader, value, form))
+    auto value = DtStartOf(state.doors());
+    if (!DtReadInto(reader, value, form))
     {
         return false;
     }
-    state.setDoors(value);
+    state.setDoors(std::move(value));
     return true;
 }
 

@@ -20,24 +20,24 @@ DtBerthDecoder::DtBerthDecoder()
 bool DtBerthDecoder::decodeLength(DtBerthStateRepository& state, DtWireReader& reader)
 {
     const DtWireForm form = DtWireForm::number(8);
-    auto value = state.length();
-    if (!DtReadValue(reader, value, form))
+    auto value = DtStartOf(state.length());
+    if (!DtReadInto(reader, value, form))
     {
         return false;
     }
-    state.setLength(value);
+    state.setLength(std::move(value));
     return true;
 }
 
 bool DtBerthDecoder::decodeDepths(DtBerthStateRepository& state, DtWireReader& reader)
 {
     const DtWireForm form = DtWireForm();
-    auto value = state.depths();
-    if (!DtReadValue(reader, value, form))
+    auto value = DtStartOf(state.depths());
+    if (!DtReadInto(reader, value, form))
     {
         return false;
     }
-    state.setDepths(value);
+    state.setDepths(std::move(value));
     return true;
 }
 
@@ -45,48 +45,48 @@ bool DtBerthDecoder::decodeOccupant(DtBerthStateRepository& state, DtWireReader&
 {
     const DtWireForm form = DtWireForm("DtOccupant", "", R"qx(HLAvariableArray)qx",
         -1 /* elements */, 0 /* octets */, 0 /* little-endian */);
-    auto value = state.occupant();
-    if (!DtReadValue(reader, value, form))
+    auto value = DtStartOf(state.occupant());
+    if (!DtReadInto(reader, value, form))
     {
         return false;
     }
-    state.setOccupant(value);
+    state.setOccupant(std::move(value));
     return true;
 }
 
 bool DtBerthDecoder::decodeFlags(DtBerthStateRepository& state, DtWireReader& reader)
 {
     const DtWireForm form = DtWireForm();
-    auto value = state.flags();
-    if (!DtReadValue(reader, value, form))
+    auto value = DtStartOf(state.flags());
+    if (!DtReadInto(reader, value, form))
     {
         return false;
     }
-    state.setFlags(value);
+    state.setFlags(std::move(value));
     return true;
 }
 
 bool DtBerthDecoder::decodeKind64(DtBerthStateRepository& state, DtWireReader& reader)
 {
     const DtWireForm form = DtWireForm();
-    auto value = state.kind64();
-    if (!DtReadValue(reader, value, form))
+    auto value = DtStartOf(state.kind64());
+    if (!DtReadInto(reader, value, form))
     {
         return false;
     }
-    state.setKind64(value);
+    state.setKind64(std::move(value));
     return true;
 }
 
 bool DtBerthDecoder::decodeFenders(DtBerthStateRepository& state, DtWireReader& reader)
 {
     const DtWireForm form = DtWireForm();
-    auto value = state.fenders();
-    if (!DtReadValue(reader, value, form))
+    auto value = DtStartOf(state.fenders());
+    if (!DtReadInto(reader, value, form))
     {
         return false;
     }
-    state.setFenders(value);
+    state.setFenders(std::move(value));
     return true;
 }
 

@@ -19,36 +19,36 @@ DtCargoShipDecoder::DtCargoShipDecoder()
 bool DtCargoShipDecoder::decodeHolds(DtCargoShipStateRepository& state, DtWireReader& reader)
 {
     const DtWireForm form = DtWireForm();
-    auto value = state.holds();
-    if (!DtReadValue(reader, value, form))
+    auto value = DtStartOf(state.holds());
+    if (!DtReadInto(reader, value, form))
     {
         return false;
     }
-    state.setHolds(value);
+    state.setHolds(std::move(value));
     return true;
 }
 
 bool DtCargoShipDecoder::decodeManifest(DtCargoShipStateRepository& state, DtWireReader& reader)
 {
     const DtWireForm form = DtWireForm();
-    auto value = state.manifest();
-    if (!DtReadValue(reader, value, form))
+    auto value = DtStartOf(state.manifest());
+    if (!DtReadInto(reader, value, form))
     {
         return false;
     }
-    state.setManifest(value);
+    state.setManifest(std::move(value));
     return true;
 }
 
 bool DtCargoShipDecoder::decodeDraught(DtCargoShipStateRepository& state, DtWireReader& reader)
 {
     const DtWireForm form = DtWireForm::number(4, DtLittleEndian);
-    auto value = state.draught();
-    if (!DtReadValue(reader, value, form))
+    auto value = DtStartOf(state.draught());
+    if (!DtReadInto(reader, value, form))
     {
         return false;
     }
-    state.setDraught(value);
+    state.setDraught(std::move(value));
     return true;
 }
 
@@ -56,24 +56,24 @@ bool DtCargoShipDecoder::decodeDangerous(DtCargoShipStateRepository& state, DtWi
 {
     const DtWireForm form = DtWireForm("HLAboolean", "", R"qx(HLAvariableArray)qx",
         -1 /* elements */, 0 /* octets */, 0 /* little-endian */);
-    auto value = state.dangerous();
-    if (!DtReadValue(reader, value, form))
+    auto value = DtStartOf(state.dangerous());
+    if (!DtReadInto(reader, value, form))
     {
         return false;
     }
-    state.setDangerous(value);
+    state.setDangerous(std::move(value));
     return true;
 }
 
 bool DtCargoShipDecoder::decodeSeal(DtCargoShipStateRepository& state, DtWireReader& reader)
 {
     const DtWireForm form = DtWireForm();
-    auto value = state.seal();
-    if (!DtReadValue(reader, value, form))
+    auto value = DtStartOf(state.seal());
+    if (!DtReadInto(reader, value, form))
     {
         return false;
     }
-    state.setSeal(value);
+    state.setSeal(std::move(value));
     return true;
 }
 

@@ -20,72 +20,72 @@ DtWeatherDecoder::DtWeatherDecoder()
 bool DtWeatherDecoder::decodeWind(DtWeatherStateRepository& state, DtWireReader& reader)
 {
     const DtWireForm form = DtWireForm();
-    auto value = state.wind();
-    if (!DtReadValue(reader, value, form))
+    auto value = DtStartOf(state.wind());
+    if (!DtReadInto(reader, value, form))
     {
         return false;
     }
-    state.setWind(value);
+    state.setWind(std::move(value));
     return true;
 }
 
 bool DtWeatherDecoder::decodeReport(DtWeatherStateRepository& state, DtWireReader& reader)
 {
     const DtWireForm form = DtWireForm();
-    auto value = state.report();
-    if (!DtReadValue(reader, value, form))
+    auto value = DtStartOf(state.report());
+    if (!DtReadInto(reader, value, form))
     {
         return false;
     }
-    state.setReport(value);
+    state.setReport(std::move(value));
     return true;
 }
 
 bool DtWeatherDecoder::decodeSamples(DtWeatherStateRepository& state, DtWireReader& reader)
 {
     const DtWireForm form = DtWireForm();
-    auto value = state.samples();
-    if (!DtReadValue(reader, value, form))
+    auto value = DtStartOf(state.samples());
+    if (!DtReadInto(reader, value, form))
     {
         return false;
     }
-    state.setSamples(value);
+    state.setSamples(std::move(value));
     return true;
 }
 
 bool DtWeatherDecoder::decodeCodes(DtWeatherStateRepository& state, DtWireReader& reader)
 {
     const DtWireForm form = DtWireForm();
-    auto value = state.codes();
-    if (!DtReadValue(reader, value, form))
+    auto value = DtStartOf(state.codes());
+    if (!DtReadInto(reader, value, form))
     {
         return false;
     }
-    state.setCodes(value);
+    state.setCodes(std::move(value));
     return true;
 }
 
 bool DtWeatherDecoder::decodeTide(DtWeatherStateRepository& state, DtWireReader& reader)
 {
     const DtWireForm form = DtWireForm();
-    auto value = state.tide();
-    if (!DtReadValue(reader, value, form))
+    auto value = DtStartOf(state.tide());
+    if (!DtReadInto(reader, value, form))
     {
         return false;
     }
-    state.setTide(value);
+    state.setTide(std::move(value));
     return true;
 }
 
 bool DtWeatherDecoder::decodeTrace(DtWeatherStateRepository& state, DtWireReader& reader)
 {
     const DtWireForm form = DtWireForm();
-    auto value = state.trace();
-    if (!DtReadValue(reader, value, form))
+    auto value = DtStartOf(state.trace());
+    if (!DtReadInto(reader, value, form))
     {
         return false;
     }
-    state.setTrace(value);
+    state.setTrace(std::move(value));
     return true;
 }
 

@@ -67,12 +67,12 @@ static bool decode_DtAnswerInter_Done(DtAnswerInterInter& interaction, DtWireRea
 {
     const DtWireForm form = DtWireForm("HLAboolean", "", R"qx(HLAvariableArray)qx",
         -1 /* elements */, 0 /* octets */, 0 /* little-endian */);
-    auto value = interaction.done();
-    if (!DtReadValue(reader, value, form))
+    auto value = DtStartOf(interaction.done());
+    if (!DtReadInto(reader, value, form))
     {
         return false;
     }
-    interaction.setDone(value);
+    interaction.setDone(std::move(value));
     return true;
 }
 static bool encode_DtAnswerInter_Reason(const DtAnswerInterInter& interaction, DtWireWriter& writer)
@@ -84,12 +84,12 @@ static bool encode_DtAnswerInter_Reason(const DtAnswerInterInter& interaction, D
 static bool decode_DtAnswerInter_Reason(DtAnswerInterInter& interaction, DtWireReader& reader)
 {
     const DtWireForm form = DtWireForm();
-    auto value = interaction.reason();
-    if (!DtReadValue(reader, value, form))
+    auto value = DtStartOf(interaction.reason());
+    if (!DtReadInto(reader, value, form))
     {
         return false;
     }
-    interaction.setReason(value);
+    interaction.setReason(std::move(value));
     return true;
 }
 

@@ -17,24 +17,24 @@ bool DtAnswerInterDecoder::decodeDone(DtAnswerInter& interaction, DtWireReader& 
 {
     const DtWireForm form = DtWireForm("HLAboolean", "", R"qx(HLAvariableArray)qx",
         -1 /* elements */, 0 /* octets */, 0 /* little-endian */);
-    auto value = interaction.done();
-    if (!DtReadValue(reader, value, form))
+    auto value = DtStartOf(interaction.done());
+    if (!DtReadInto(reader, value, form))
     {
         return false;
     }
-    interaction.setDone(value);
+    interaction.setDone(std::move(value));
     return true;
 }
 
 bool DtAnswerInterDecoder::decodeReason(DtAnswerInter& interaction, DtWireReader& reader)
 {
     const DtWireForm form = DtWireForm();
-    auto value = interaction.reason();
-    if (!DtReadValue(reader, value, form))
+    auto value = DtStartOf(interaction.reason());
+    if (!DtReadInto(reader, value, form))
     {
         return false;
     }
-    interaction.setReason(value);
+    interaction.setReason(std::move(value));
     return true;
 }
 

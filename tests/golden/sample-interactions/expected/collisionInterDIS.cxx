@@ -80,12 +80,12 @@ static bool encode_DtCollisionInter_Force(const DtCollisionInterInter& interacti
 static bool decode_DtCollisionInter_Force(DtCollisionInterInter& interaction, DtWireReader& reader)
 {
     const DtWireForm form = DtWireForm::number(8, DtLittleEndian);
-    auto value = interaction.force();
-    if (!DtReadValue(reader, value, form))
+    auto value = DtStartOf(interaction.force());
+    if (!DtReadInto(reader, value, form))
     {
         return false;
     }
-    interaction.setForce(value);
+    interaction.setForce(std::move(value));
     return true;
 }
 static bool encode_DtCollisionInter_Where(const DtCollisionInterInter& interaction, DtWireWriter& writer)
@@ -97,12 +97,12 @@ static bool encode_DtCollisionInter_Where(const DtCollisionInterInter& interacti
 static bool decode_DtCollisionInter_Where(DtCollisionInterInter& interaction, DtWireReader& reader)
 {
     const DtWireForm form = DtWireForm();
-    auto value = interaction.where();
-    if (!DtReadValue(reader, value, form))
+    auto value = DtStartOf(interaction.where());
+    if (!DtReadInto(reader, value, form))
     {
         return false;
     }
-    interaction.setWhere(value);
+    interaction.setWhere(std::move(value));
     return true;
 }
 static bool encode_DtCollisionInter_Debris(const DtCollisionInterInter& interaction, DtWireWriter& writer)
@@ -114,12 +114,12 @@ static bool encode_DtCollisionInter_Debris(const DtCollisionInterInter& interact
 static bool decode_DtCollisionInter_Debris(DtCollisionInterInter& interaction, DtWireReader& reader)
 {
     const DtWireForm form = DtWireForm();
-    auto value = interaction.debris();
-    if (!DtReadValue(reader, value, form))
+    auto value = DtStartOf(interaction.debris());
+    if (!DtReadInto(reader, value, form))
     {
         return false;
     }
-    interaction.setDebris(value);
+    interaction.setDebris(std::move(value));
     return true;
 }
 

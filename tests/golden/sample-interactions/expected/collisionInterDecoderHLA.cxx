@@ -17,36 +17,36 @@ DtCollisionInterDecoder::DtCollisionInterDecoder()
 bool DtCollisionInterDecoder::decodeForce(DtCollisionInter& interaction, DtWireReader& reader)
 {
     const DtWireForm form = DtWireForm::number(8, DtLittleEndian);
-    auto value = interaction.force();
-    if (!DtReadValue(reader, value, form))
+    auto value = DtStartOf(interaction.force());
+    if (!DtReadInto(reader, value, form))
     {
         return false;
     }
-    interaction.setForce(value);
+    interaction.setForce(std::move(value));
     return true;
 }
 
 bool DtCollisionInterDecoder::decodeWhere(DtCollisionInter& interaction, DtWireReader& reader)
 {
     const DtWireForm form = DtWireForm();
-    auto value = interaction.where();
-    if (!DtReadValue(reader, value, form))
+    auto value = DtStartOf(interaction.where());
+    if (!DtReadInto(reader, value, form))
     {
         return false;
     }
-    interaction.setWhere(value);
+    interaction.setWhere(std::move(value));
     return true;
 }
 
 bool DtCollisionInterDecoder::decodeDebris(DtCollisionInter& interaction, DtWireReader& reader)
 {
     const DtWireForm form = DtWireForm();
-    auto value = interaction.debris();
-    if (!DtReadValue(reader, value, form))
+    auto value = DtStartOf(interaction.debris());
+    if (!DtReadInto(reader, value, form))
     {
         return false;
     }
-    interaction.setDebris(value);
+    interaction.setDebris(std::move(value));
     return true;
 }
 

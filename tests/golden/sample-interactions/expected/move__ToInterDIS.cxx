@@ -80,12 +80,12 @@ static bool encode_DtMove__ToInter_Target_Point_(const DtMove__ToInterInter& int
 static bool decode_DtMove__ToInter_Target_Point_(DtMove__ToInterInter& interaction, DtWireReader& reader)
 {
     const DtWireForm form = DtWireForm();
-    auto value = interaction.target_Point_();
-    if (!DtReadValue(reader, value, form))
+    auto value = DtStartOf(interaction.target_Point_());
+    if (!DtReadInto(reader, value, form))
     {
         return false;
     }
-    interaction.setTarget_Point_(value);
+    interaction.setTarget_Point_(std::move(value));
     return true;
 }
 static bool encode_DtMove__ToInter_By__Hour(const DtMove__ToInterInter& interaction, DtWireWriter& writer)
@@ -97,12 +97,12 @@ static bool encode_DtMove__ToInter_By__Hour(const DtMove__ToInterInter& interact
 static bool decode_DtMove__ToInter_By__Hour(DtMove__ToInterInter& interaction, DtWireReader& reader)
 {
     const DtWireForm form = DtWireForm::number(8, DtLittleEndian);
-    auto value = interaction.by__Hour();
-    if (!DtReadValue(reader, value, form))
+    auto value = DtStartOf(interaction.by__Hour());
+    if (!DtReadInto(reader, value, form))
     {
         return false;
     }
-    interaction.setBy__Hour(value);
+    interaction.setBy__Hour(std::move(value));
     return true;
 }
 static bool encode_DtMove__ToInter_Tugs(const DtMove__ToInterInter& interaction, DtWireWriter& writer)
@@ -114,12 +114,12 @@ static bool encode_DtMove__ToInter_Tugs(const DtMove__ToInterInter& interaction,
 static bool decode_DtMove__ToInter_Tugs(DtMove__ToInterInter& interaction, DtWireReader& reader)
 {
     const DtWireForm form = DtWireForm();
-    auto value = interaction.tugs();
-    if (!DtReadValue(reader, value, form))
+    auto value = DtStartOf(interaction.tugs());
+    if (!DtReadInto(reader, value, form))
     {
         return false;
     }
-    interaction.setTugs(value);
+    interaction.setTugs(std::move(value));
     return true;
 }
 

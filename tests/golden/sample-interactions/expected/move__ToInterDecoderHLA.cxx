@@ -17,36 +17,36 @@ DtMove__ToInterDecoder::DtMove__ToInterDecoder()
 bool DtMove__ToInterDecoder::decodeTarget_Point_(DtMove__ToInter& interaction, DtWireReader& reader)
 {
     const DtWireForm form = DtWireForm();
-    auto value = interaction.target_Point_();
-    if (!DtReadValue(reader, value, form))
+    auto value = DtStartOf(interaction.target_Point_());
+    if (!DtReadInto(reader, value, form))
     {
         return false;
     }
-    interaction.setTarget_Point_(value);
+    interaction.setTarget_Point_(std::move(value));
     return true;
 }
 
 bool DtMove__ToInterDecoder::decodeBy__Hour(DtMove__ToInter& interaction, DtWireReader& reader)
 {
     const DtWireForm form = DtWireForm::number(8, DtLittleEndian);
-    auto value = interaction.by__Hour();
-    if (!DtReadValue(reader, value, form))
+    auto value = DtStartOf(interaction.by__Hour());
+    if (!DtReadInto(reader, value, form))
     {
         return false;
     }
-    interaction.setBy__Hour(value);
+    interaction.setBy__Hour(std::move(value));
     return true;
 }
 
 bool DtMove__ToInterDecoder::decodeTugs(DtMove__ToInter& interaction, DtWireReader& reader)
 {
     const DtWireForm form = DtWireForm();
-    auto value = interaction.tugs();
-    if (!DtReadValue(reader, value, form))
+    auto value = DtStartOf(interaction.tugs());
+    if (!DtReadInto(reader, value, form))
     {
         return false;
     }
-    interaction.setTugs(value);
+    interaction.setTugs(std::move(value));
     return true;
 }
 

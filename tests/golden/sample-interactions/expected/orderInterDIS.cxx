@@ -60,12 +60,12 @@ static bool encode_DtOrderInter_Urgency(const DtOrderInterInter& interaction, Dt
 static bool decode_DtOrderInter_Urgency(DtOrderInterInter& interaction, DtWireReader& reader)
 {
     const DtWireForm form = DtWireForm();
-    auto value = interaction.urgency();
-    if (!DtReadValue(reader, value, form))
+    auto value = DtStartOf(interaction.urgency());
+    if (!DtReadInto(reader, value, form))
     {
         return false;
     }
-    interaction.setUrgency(value);
+    interaction.setUrgency(std::move(value));
     return true;
 }
 static bool encode_DtOrderInter_TheRegister(const DtOrderInterInter& interaction, DtWireWriter& writer)
@@ -77,12 +77,12 @@ static bool encode_DtOrderInter_TheRegister(const DtOrderInterInter& interaction
 static bool decode_DtOrderInter_TheRegister(DtOrderInterInter& interaction, DtWireReader& reader)
 {
     const DtWireForm form = DtWireForm::number(4, DtLittleEndian);
-    auto value = interaction.theRegister();
-    if (!DtReadValue(reader, value, form))
+    auto value = DtStartOf(interaction.theRegister());
+    if (!DtReadInto(reader, value, form))
     {
         return false;
     }
-    interaction.setTheRegister(value);
+    interaction.setTheRegister(std::move(value));
     return true;
 }
 

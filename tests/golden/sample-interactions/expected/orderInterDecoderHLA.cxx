@@ -16,24 +16,24 @@ DtOrderInterDecoder::DtOrderInterDecoder()
 bool DtOrderInterDecoder::decodeUrgency(DtOrderInter& interaction, DtWireReader& reader)
 {
     const DtWireForm form = DtWireForm();
-    auto value = interaction.urgency();
-    if (!DtReadValue(reader, value, form))
+    auto value = DtStartOf(interaction.urgency());
+    if (!DtReadInto(reader, value, form))
     {
         return false;
     }
-    interaction.setUrgency(value);
+    interaction.setUrgency(std::move(value));
     return true;
 }
 
 bool DtOrderInterDecoder::decodeTheRegister(DtOrderInter& interaction, DtWireReader& reader)
 {
     const DtWireForm form = DtWireForm::number(4, DtLittleEndian);
-    auto value = interaction.theRegister();
-    if (!DtReadValue(reader, value, form))
+    auto value = DtStartOf(interaction.theRegister());
+    if (!DtReadInto(reader, value, form))
     {
         return false;
     }
-    interaction.setTheRegister(value);
+    interaction.setTheRegister(std::move(value));
     return true;
 }
 

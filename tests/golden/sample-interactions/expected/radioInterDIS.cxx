@@ -65,12 +65,12 @@ static bool encode_DtRadioInter_Channel(const DtRadioInterInter& interaction, Dt
 static bool decode_DtRadioInter_Channel(DtRadioInterInter& interaction, DtWireReader& reader)
 {
     const DtWireForm form = DtWireForm::number(2);
-    auto value = interaction.channel();
-    if (!DtReadValue(reader, value, form))
+    auto value = DtStartOf(interaction.channel());
+    if (!DtReadInto(reader, value, form))
     {
         return false;
     }
-    interaction.setChannel(value);
+    interaction.setChannel(std::move(value));
     return true;
 }
 static bool encode_DtRadioInter_Text(const DtRadioInterInter& interaction, DtWireWriter& writer)
@@ -84,12 +84,12 @@ static bool decode_DtRadioInter_Text(DtRadioInterInter& interaction, DtWireReade
 {
     const DtWireForm form = DtWireForm("HLAunicodeString", "", R"qx(HLAvariableArray)qx",
         -1 /* elements */, 0 /* octets */, 0 /* little-endian */);
-    auto value = interaction.text();
-    if (!DtReadValue(reader, value, form))
+    auto value = DtStartOf(interaction.text());
+    if (!DtReadInto(reader, value, form))
     {
         return false;
     }
-    interaction.setText(value);
+    interaction.setText(std::move(value));
     return true;
 }
 

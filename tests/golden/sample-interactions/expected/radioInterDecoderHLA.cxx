@@ -16,12 +16,12 @@ DtRadioInterDecoder::DtRadioInterDecoder()
 bool DtRadioInterDecoder::decodeChannel(DtRadioInter& interaction, DtWireReader& reader)
 {
     const DtWireForm form = DtWireForm::number(2);
-    auto value = interaction.channel();
-    if (!DtReadValue(reader, value, form))
+    auto value = DtStartOf(interaction.channel());
+    if (!DtReadInto(reader, value, form))
     {
         return false;
     }
-    interaction.setChannel(value);
+    interaction.setChannel(std::move(value));
     return true;
 }
 
@@ -29,12 +29,12 @@ bool DtRadioInterDecoder::decodeText(DtRadioInter& interaction, DtWireReader& re
 {
     const DtWireForm form = DtWireForm("HLAunicodeString", "", R"qx(HLAvariableArray)qx",
         -1 /* elements */, 0 /* octets */, 0 /* little-endian */);
-    auto value = interaction.text();
-    if (!DtReadValue(reader, value, form))
+    auto value = DtStartOf(interaction.text());
+    if (!DtReadInto(reader, value, form))
     {
         return false;
     }
-    interaction.setText(value);
+    interaction.setText(std::move(value));
     return true;
 }
 

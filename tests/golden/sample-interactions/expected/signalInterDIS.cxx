@@ -80,12 +80,12 @@ static bool encode_DtSignalInter_Sent(const DtSignalInterInter& interaction, DtW
 static bool decode_DtSignalInter_Sent(DtSignalInterInter& interaction, DtWireReader& reader)
 {
     const DtWireForm form = DtWireForm();
-    auto value = interaction.sent();
-    if (!DtReadValue(reader, value, form))
+    auto value = DtStartOf(interaction.sent());
+    if (!DtReadInto(reader, value, form))
     {
         return false;
     }
-    interaction.setSent(value);
+    interaction.setSent(std::move(value));
     return true;
 }
 static bool encode_DtSignalInter_Message(const DtSignalInterInter& interaction, DtWireWriter& writer)
@@ -97,12 +97,12 @@ static bool encode_DtSignalInter_Message(const DtSignalInterInter& interaction, 
 static bool decode_DtSignalInter_Message(DtSignalInterInter& interaction, DtWireReader& reader)
 {
     const DtWireForm form = DtWireForm();
-    auto value = interaction.message();
-    if (!DtReadValue(reader, value, form))
+    auto value = DtStartOf(interaction.message());
+    if (!DtReadInto(reader, value, form))
     {
         return false;
     }
-    interaction.setMessage(value);
+    interaction.setMessage(std::move(value));
     return true;
 }
 static bool encode_DtSignalInter_Sure(const DtSignalInterInter& interaction, DtWireWriter& writer)
@@ -116,12 +116,12 @@ static bool decode_DtSignalInter_Sure(DtSignalInterInter& interaction, DtWireRea
 {
     const DtWireForm form = DtWireForm("HLAboolean", "", R"qx(HLAvariableArray)qx",
         -1 /* elements */, 0 /* octets */, 0 /* little-endian */);
-    auto value = interaction.sure();
-    if (!DtReadValue(reader, value, form))
+    auto value = DtStartOf(interaction.sure());
+    if (!DtReadInto(reader, value, form))
     {
         return false;
     }
-    interaction.setSure(value);
+    interaction.setSure(std::move(value));
     return true;
 }
 

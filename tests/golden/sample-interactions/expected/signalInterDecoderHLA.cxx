@@ -17,24 +17,24 @@ DtSignalInterDecoder::DtSignalInterDecoder()
 bool DtSignalInterDecoder::decodeSent(DtSignalInter& interaction, DtWireReader& reader)
 {
     const DtWireForm form = DtWireForm();
-    auto value = interaction.sent();
-    if (!DtReadValue(reader, value, form))
+    auto value = DtStartOf(interaction.sent());
+    if (!DtReadInto(reader, value, form))
     {
         return false;
     }
-    interaction.setSent(value);
+    interaction.setSent(std::move(value));
     return true;
 }
 
 bool DtSignalInterDecoder::decodeMessage(DtSignalInter& interaction, DtWireReader& reader)
 {
     const DtWireForm form = DtWireForm();
-    auto value = interaction.message();
-    if (!DtReadValue(reader, value, form))
+    auto value = DtStartOf(interaction.message());
+    if (!DtReadInto(reader, value, form))
     {
         return false;
     }
-    interaction.setMessage(value);
+    interaction.setMessage(std::move(value));
     return true;
 }
 
@@ -42,12 +42,12 @@ bool DtSignalInterDecoder::decodeSure(DtSignalInter& interaction, DtWireReader& 
 {
     const DtWireForm form = DtWireForm("HLAboolean", "", R"qx(HLAvariableArray)qx",
         -1 /* elements */, 0 /* octets */, 0 /* little-endian */);
-    auto value = interaction.sure();
-    if (!DtReadValue(reader, value, form))
+    auto value = DtStartOf(interaction.sure());
+    if (!DtReadInto(reader, value, form))
     {
         return false;
     }
-    interaction.setSure(value);
+    interaction.setSure(std::move(value));
     return true;
 }
 

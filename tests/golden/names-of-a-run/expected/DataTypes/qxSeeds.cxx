@@ -38,7 +38,8 @@ DtQxSeeds& DtQxSeeds::operator=(const DtQxSeeds& other)
 
 DtQxSeeds& DtQxSeeds::operator=(DtQxSeeds&& other) noexcept
 {
-    myElements.swap(other.myElements);
+    Elements taken(std::move(other.myElements)); // the other array may be a part of an element of this one
+    myElements.swap(taken);
     return *this;
 }
 

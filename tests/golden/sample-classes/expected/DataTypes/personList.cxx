@@ -36,7 +36,8 @@ DtPersonList& DtPersonList::operator=(const DtPersonList& other)
 
 DtPersonList& DtPersonList::operator=(DtPersonList&& other) noexcept
 {
-    myElements.swap(other.myElements);
+    Elements taken(std::move(other.myElements)); // the other array may be a part of an element of this one
+    myElements.swap(taken);
     return *this;
 }
 

@@ -36,7 +36,8 @@ DtCargo_Item_List& DtCargo_Item_List::operator=(const DtCargo_Item_List& other)
 
 DtCargo_Item_List& DtCargo_Item_List::operator=(DtCargo_Item_List&& other) noexcept
 {
-    myElements.swap(other.myElements);
+    Elements taken(std::move(other.myElements)); // the other array may be a part of an element of this one
+    myElements.swap(taken);
     return *this;
 }
 

@@ -36,7 +36,8 @@ DtFillTo32& DtFillTo32::operator=(const DtFillTo32& other)
 
 DtFillTo32& DtFillTo32::operator=(DtFillTo32&& other) noexcept
 {
-    myElements.swap(other.myElements);
+    Elements taken(std::move(other.myElements)); // the other array may be a part of an element of this one
+    myElements.swap(taken);
     return *this;
 }
 

@@ -36,7 +36,8 @@ DtFillTo64& DtFillTo64::operator=(const DtFillTo64& other)
 
 DtFillTo64& DtFillTo64::operator=(DtFillTo64&& other) noexcept
 {
-    myElements.swap(other.myElements);
+    Elements taken(std::move(other.myElements)); // the other array may be a part of an element of this one
+    myElements.swap(taken);
     return *this;
 }
 

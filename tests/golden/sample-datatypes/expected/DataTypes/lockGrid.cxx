@@ -36,7 +36,8 @@ DtLockGrid& DtLockGrid::operator=(const DtLockGrid& other)
 
 DtLockGrid& DtLockGrid::operator=(DtLockGrid&& other) noexcept
 {
-    myElements.swap(other.myElements);
+    Elements taken(std::move(other.myElements)); // the other array may be a part of an element of this one
+    myElements.swap(taken);
     return *this;
 }
 

@@ -35,7 +35,8 @@ DtOldRun& DtOldRun::operator=(const DtOldRun& other)
 
 DtOldRun& DtOldRun::operator=(DtOldRun&& other) noexcept
 {
-    myElements.swap(other.myElements);
+    Elements taken(std::move(other.myElements)); // the other array may be a part of an element of this one
+    myElements.swap(taken);
     return *this;
 }
 

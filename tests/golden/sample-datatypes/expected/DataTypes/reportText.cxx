@@ -35,7 +35,8 @@ DtReportText& DtReportText::operator=(const DtReportText& other)
 
 DtReportText& DtReportText::operator=(DtReportText&& other) noexcept
 {
-    myElements.swap(other.myElements);
+    Elements taken(std::move(other.myElements)); // the other array may be a part of an element of this one
+    myElements.swap(taken);
     return *this;
 }
 

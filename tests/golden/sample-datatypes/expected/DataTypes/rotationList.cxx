@@ -36,7 +36,8 @@ DtRotationList& DtRotationList::operator=(const DtRotationList& other)
 
 DtRotationList& DtRotationList::operator=(DtRotationList&& other) noexcept
 {
-    myElements.swap(other.myElements);
+    Elements taken(std::move(other.myElements)); // the other array may be a part of an element of this one
+    myElements.swap(taken);
     return *this;
 }
 

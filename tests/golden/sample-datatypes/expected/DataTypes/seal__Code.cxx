@@ -35,7 +35,8 @@ DtSeal__Code& DtSeal__Code::operator=(const DtSeal__Code& other)
 
 DtSeal__Code& DtSeal__Code::operator=(DtSeal__Code&& other) noexcept
 {
-    myElements.swap(other.myElements);
+    Elements taken(std::move(other.myElements)); // the other array may be a part of an element of this one
+    myElements.swap(taken);
     return *this;
 }
 

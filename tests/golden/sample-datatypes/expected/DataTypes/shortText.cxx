@@ -35,7 +35,8 @@ DtShortText& DtShortText::operator=(const DtShortText& other)
 
 DtShortText& DtShortText::operator=(DtShortText&& other) noexcept
 {
-    myElements.swap(other.myElements);
+    Elements taken(std::move(other.myElements)); // the other array may be a part of an element of this one
+    myElements.swap(taken);
     return *this;
 }
 

@@ -35,7 +35,8 @@ DtPlain__Four& DtPlain__Four::operator=(const DtPlain__Four& other)
 
 DtPlain__Four& DtPlain__Four::operator=(DtPlain__Four&& other) noexcept
 {
-    myElements.swap(other.myElements);
+    Elements taken(std::move(other.myElements)); // the other array may be a part of an element of this one
+    myElements.swap(taken);
     return *this;
 }
 

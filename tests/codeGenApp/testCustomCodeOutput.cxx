@@ -82,7 +82,7 @@ QString codingSources(const DtScratchProgram& program)
     for (const QString& file : filesBelow(program.path("out")))
         if (file.endsWith("EncoderHLA.cxx") || file.endsWith("DecoderHLA.cxx"))
             text += QString::fromUtf8(readTextFile(program.path("out/") + file));
-    return text;
+    return text.replace("(\n    ", "("); // heads of functions in one line, as the window shows them
 }
 
 // The form on the wire in the body of each function, by the function's head. What tells its numbers to people is left

@@ -186,6 +186,8 @@ private Q_SLOTS:
     void runGivesTheExpectedFiles();
     void everyCaseIsComplete_data() { addCases(); }
     void everyCaseIsComplete();
+    void generatedLinesAreNotTooWide_data() { addCases(); }
+    void generatedLinesAreNotTooWide();
 
 private:
     static void addCases()
@@ -246,6 +248,25 @@ void TestGolden::runGivesTheExpectedFiles()
     const QString kept = QCoreApplication::applicationDirPath() + "/golden-output/" + QFileInfo(directory).fileName();
     writeFiles(kept, actual);
     QFAIL(qPrintable(report + "The files are kept in " + kept));
+}
+
+// Names of half a line leave no choice; those of the cases are shorter.
+void TestGolden::generatedLinesAreNotTooWide()
+{
+    constexpr int theWidth = 120; // columns
+    QFETCH(QString, directory);
+    int lines = 0;
+    for (const auto& [name, text] : readFiles(directory + "/expected"))
+    {
+        if (!name.endsWith(".h") && !name.endsWith(".cxx"))
+            continue;
+        for (const QByteArray& line : text.split('\n'))
+        {
+            ++lines;
+            QVERIFY2(QString::fromUtf8(line).size() <= theWidth, qPrintable(name + ": " + QString::fromUtf8(line)));
+        }
+    }
+    QVERIFY(lines > 100);
 }
 
 QX_REGISTER_TEST(TestGolden)

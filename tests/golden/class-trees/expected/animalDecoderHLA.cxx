@@ -13,7 +13,8 @@ DtAnimalDecoder::DtAnimalDecoder()
     addCoder("Legs", &DtAnimalDecoder::decodeLegs);
 }
 
-bool DtAnimalDecoder::decodeName(DtAnimalStateRepository& state, DtWireReader& reader)
+bool DtAnimalDecoder::decodeName(
+    DtAnimalStateRepository& state, DtWireReader& reader)
 {
     const DtWireForm form = DtWireForm("HLAunicodeString", "", R"qx(HLAvariableArray)qx",
         -1 /* elements */, 0 /* octets */, 0 /* little-endian */);
@@ -26,7 +27,8 @@ bool DtAnimalDecoder::decodeName(DtAnimalStateRepository& state, DtWireReader& r
     return true;
 }
 
-bool DtAnimalDecoder::decodeLegs(DtAnimalStateRepository& state, DtWireReader& reader)
+bool DtAnimalDecoder::decodeLegs(
+    DtAnimalStateRepository& state, DtWireReader& reader)
 {
     const DtWireForm form = DtWireForm::number(4);
     auto value = DtStartOf(state.legs());

@@ -8,7 +8,8 @@
 #include "animalStateRepository.h"
 #include "dllExport.h"
 
-// Sets the attributes of HLAobjectRoot.Animal and of its superclasses from named buffers.
+// Sets the attributes of HLAobjectRoot.Animal
+// and of its superclasses from named buffers.
 class DT_DLL_CASE DtAnimalDecoder
     : public DtHlaStateDecoder
 {
@@ -17,8 +18,10 @@ public:
 
 protected:
     // One for each attribute; false if the buffer holds no value of it.
-    static bool decodeName(DtAnimalStateRepository& state, DtWireReader& reader);
-    static bool decodeLegs(DtAnimalStateRepository& state, DtWireReader& reader);
+    static bool decodeName(
+        DtAnimalStateRepository& state, DtWireReader& reader);
+    static bool decodeLegs(
+        DtAnimalStateRepository& state, DtWireReader& reader);
 };
 
 #endif

@@ -13,14 +13,16 @@ DtAnimalEncoder::DtAnimalEncoder()
     addCoder("Legs", &DtAnimalEncoder::encodeLegs);
 }
 
-bool DtAnimalEncoder::encodeName(const DtAnimalStateRepository& state, DtWireWriter& writer)
+bool DtAnimalEncoder::encodeName(
+    const DtAnimalStateRepository& state, DtWireWriter& writer)
 {
     const DtWireForm form = DtWireForm("HLAunicodeString", "", R"qx(HLAvariableArray)qx",
         -1 /* elements */, 0 /* octets */, 0 /* little-endian */);
     return DtWriteValue(writer, state.name(), form);
 }
 
-bool DtAnimalEncoder::encodeLegs(const DtAnimalStateRepository& state, DtWireWriter& writer)
+bool DtAnimalEncoder::encodeLegs(
+    const DtAnimalStateRepository& state, DtWireWriter& writer)
 {
     const DtWireForm form = DtWireForm::number(4);
     return DtWriteValue(writer, state.legs(), form);

@@ -8,7 +8,8 @@
 #include "animalStateRepository.h"
 #include "dllExport.h"
 
-// Puts the attributes of HLAobjectRoot.Animal into named buffers, behind those of its superclasses.
+// Puts the attributes of HLAobjectRoot.Animal
+// into named buffers, behind those of its superclasses.
 class DT_DLL_CASE DtAnimalEncoder
     : public DtHlaStateEncoder
 {
@@ -17,8 +18,10 @@ public:
 
 protected:
     // One for each attribute; false if the value has no wire form.
-    static bool encodeName(const DtAnimalStateRepository& state, DtWireWriter& writer);
-    static bool encodeLegs(const DtAnimalStateRepository& state, DtWireWriter& writer);
+    static bool encodeName(
+        const DtAnimalStateRepository& state, DtWireWriter& writer);
+    static bool encodeLegs(
+        const DtAnimalStateRepository& state, DtWireWriter& writer);
 };
 
 #endif

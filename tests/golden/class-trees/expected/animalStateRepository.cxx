@@ -19,7 +19,8 @@ void DtAnimalStateRepository::setName(ValueOfName&& value)
     DtStateRepository::markChanged("Name");
 }
 
-const DtAnimalStateRepository::ValueOfName& DtAnimalStateRepository::name() const
+const DtAnimalStateRepository::ValueOfName&
+DtAnimalStateRepository::name() const
 {
     return Own.myName;
 }
@@ -30,7 +31,8 @@ void DtAnimalStateRepository::setLegs(const ValueOfLegs& value)
     DtStateRepository::markChanged("Legs");
 }
 
-const DtAnimalStateRepository::ValueOfLegs& DtAnimalStateRepository::legs() const
+const DtAnimalStateRepository::ValueOfLegs&
+DtAnimalStateRepository::legs() const
 {
     return Own.myLegs;
 }

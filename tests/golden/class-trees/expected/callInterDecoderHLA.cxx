@@ -12,7 +12,8 @@ DtCallInterDecoder::DtCallInterDecoder()
     addCoder("Text", &DtCallInterDecoder::decodeText);
 }
 
-bool DtCallInterDecoder::decodeText(DtCallInter& interaction, DtWireReader& reader)
+bool DtCallInterDecoder::decodeText(
+    DtCallInter& interaction, DtWireReader& reader)
 {
     const DtWireForm form = DtWireForm("HLAASCIIstring", "", R"qx(HLAvariableArray)qx",
         -1 /* elements */, 0 /* octets */, 0 /* little-endian */);

@@ -8,7 +8,8 @@
 #include "callInterHLA.h"
 #include "dllExport.h"
 
-// Sets the parameters of HLAinteractionRoot.Call and of its superclasses from named buffers.
+// Sets the parameters of HLAinteractionRoot.Call
+// and of its superclasses from named buffers.
 class DT_DLL_CASE DtCallInterDecoder
     : public DtInteractionDecoder
 {
@@ -17,7 +18,8 @@ public:
 
 protected:
     // One for each parameter; false if the buffer holds no value of it.
-    static bool decodeText(DtCallInter& interaction, DtWireReader& reader);
+    static bool decodeText(
+        DtCallInter& interaction, DtWireReader& reader);
 };
 
 #endif

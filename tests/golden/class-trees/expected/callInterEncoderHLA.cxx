@@ -15,7 +15,8 @@ DtCallInterEncoder::DtCallInterEncoder()
     }
 }
 
-bool DtCallInterEncoder::encodeText(const DtCallInter& interaction, DtWireWriter& writer)
+bool DtCallInterEncoder::encodeText(
+    const DtCallInter& interaction, DtWireWriter& writer)
 {
     const DtWireForm form = DtWireForm("HLAASCIIstring", "", R"qx(HLAvariableArray)qx",
         -1 /* elements */, 0 /* octets */, 0 /* little-endian */);

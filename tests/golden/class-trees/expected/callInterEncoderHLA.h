@@ -8,7 +8,8 @@
 #include "callInterHLA.h"
 #include "dllExport.h"
 
-// Puts the parameters of HLAinteractionRoot.Call into named buffers, behind those of its superclasses.
+// Puts the parameters of HLAinteractionRoot.Call
+// into named buffers, behind those of its superclasses.
 class DT_DLL_CASE DtCallInterEncoder
     : public DtInteractionEncoder
 {
@@ -17,7 +18,8 @@ public:
 
 protected:
     // One for each parameter; false if the value has no wire form.
-    static bool encodeText(const DtCallInter& interaction, DtWireWriter& writer);
+    static bool encodeText(
+        const DtCallInter& interaction, DtWireWriter& writer);
 
 private:
     // What the project leaves out has a coder all the same, but is not sent.

@@ -8,7 +8,9 @@
 
 DtCallInter::DtCallInter()
     : DtCallInter(DtInteractionCoding{
-          "Call", &DtSharedEncoder<DtCallInterEncoder>, &DtSharedDecoder<DtCallInterDecoder>})
+          "Call",
+          &DtSharedEncoder<DtCallInterEncoder>,
+          &DtSharedDecoder<DtCallInterDecoder>})
 {
 }
 
@@ -17,12 +19,14 @@ DtCallInter::DtCallInter(const DtInteractionCoding& coding)
 {
 }
 
-void DtCallInter::addCallback(DtExerciseConn* exerciseConn, DtCallInterCb callback, void* user)
+void DtCallInter::addCallback(
+    DtExerciseConn* exerciseConn, DtCallInterCb callback, void* user)
 {
     exerciseConn->addInteractionCallback(callback, user);
 }
 
-void DtCallInter::removeCallback(DtExerciseConn* exerciseConn, DtCallInterCb callback, void* user)
+void DtCallInter::removeCallback(
+    DtExerciseConn* exerciseConn, DtCallInterCb callback, void* user)
 {
     exerciseConn->removeInteractionCallback(callback, user);
 }
@@ -37,7 +41,8 @@ void DtCallInter::setText(ValueOfText&& value)
     Own.myText = std::move(value);
 }
 
-const DtCallInter::ValueOfText& DtCallInter::text() const
+const DtCallInter::ValueOfText&
+DtCallInter::text() const
 {
     return Own.myText;
 }

@@ -13,7 +13,8 @@ DtDogDecoder::DtDogDecoder()
     addCoder("Weight__Kg", &DtDogDecoder::decodeWeight__Kg);
 }
 
-bool DtDogDecoder::decodeBarks(DtDogStateRepository& state, DtWireReader& reader)
+bool DtDogDecoder::decodeBarks(
+    DtDogStateRepository& state, DtWireReader& reader)
 {
     const DtWireForm form = DtWireForm("HLAboolean", "", R"qx(HLAvariableArray)qx",
         -1 /* elements */, 0 /* octets */, 0 /* little-endian */);
@@ -26,7 +27,8 @@ bool DtDogDecoder::decodeBarks(DtDogStateRepository& state, DtWireReader& reader
     return true;
 }
 
-bool DtDogDecoder::decodeWeight__Kg(DtDogStateRepository& state, DtWireReader& reader)
+bool DtDogDecoder::decodeWeight__Kg(
+    DtDogStateRepository& state, DtWireReader& reader)
 {
     const DtWireForm form = DtWireForm::number(8);
     auto value = DtStartOf(state.weight__Kg());

@@ -8,7 +8,8 @@
 #include "dogStateRepository.h"
 #include "dllExport.h"
 
-// Sets the attributes of HLAobjectRoot.Animal.Dog and of its superclasses from named buffers.
+// Sets the attributes of HLAobjectRoot.Animal.Dog
+// and of its superclasses from named buffers.
 class DT_DLL_CASE DtDogDecoder
     : public DtAnimalDecoder
 {
@@ -17,8 +18,10 @@ public:
 
 protected:
     // One for each attribute; false if the buffer holds no value of it.
-    static bool decodeBarks(DtDogStateRepository& state, DtWireReader& reader);
-    static bool decodeWeight__Kg(DtDogStateRepository& state, DtWireReader& reader);
+    static bool decodeBarks(
+        DtDogStateRepository& state, DtWireReader& reader);
+    static bool decodeWeight__Kg(
+        DtDogStateRepository& state, DtWireReader& reader);
 };
 
 #endif

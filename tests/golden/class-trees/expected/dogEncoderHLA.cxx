@@ -13,14 +13,16 @@ DtDogEncoder::DtDogEncoder()
     addCoder("Weight__Kg", &DtDogEncoder::encodeWeight__Kg);
 }
 
-bool DtDogEncoder::encodeBarks(const DtDogStateRepository& state, DtWireWriter& writer)
+bool DtDogEncoder::encodeBarks(
+    const DtDogStateRepository& state, DtWireWriter& writer)
 {
     const DtWireForm form = DtWireForm("HLAboolean", "", R"qx(HLAvariableArray)qx",
         -1 /* elements */, 0 /* octets */, 0 /* little-endian */);
     return DtWriteValue(writer, state.barks(), form);
 }
 
-bool DtDogEncoder::encodeWeight__Kg(const DtDogStateRepository& state, DtWireWriter& writer)
+bool DtDogEncoder::encodeWeight__Kg(
+    const DtDogStateRepository& state, DtWireWriter& writer)
 {
     const DtWireForm form = DtWireForm::number(8);
     return DtWriteValue(writer, state.weight__Kg(), form);

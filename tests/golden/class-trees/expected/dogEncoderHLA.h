@@ -8,7 +8,8 @@
 #include "dogStateRepository.h"
 #include "dllExport.h"
 
-// Puts the attributes of HLAobjectRoot.Animal.Dog into named buffers, behind those of its superclasses.
+// Puts the attributes of HLAobjectRoot.Animal.Dog
+// into named buffers, behind those of its superclasses.
 class DT_DLL_CASE DtDogEncoder
     : public DtAnimalEncoder
 {
@@ -17,8 +18,10 @@ public:
 
 protected:
     // One for each attribute; false if the value has no wire form.
-    static bool encodeBarks(const DtDogStateRepository& state, DtWireWriter& writer);
-    static bool encodeWeight__Kg(const DtDogStateRepository& state, DtWireWriter& writer);
+    static bool encodeBarks(
+        const DtDogStateRepository& state, DtWireWriter& writer);
+    static bool encodeWeight__Kg(
+        const DtDogStateRepository& state, DtWireWriter& writer);
 };
 
 #endif

@@ -13,7 +13,8 @@ void DtDogStateRepository::setBarks(const ValueOfBarks& value)
     DtStateRepository::markChanged("Barks");
 }
 
-const DtDogStateRepository::ValueOfBarks& DtDogStateRepository::barks() const
+const DtDogStateRepository::ValueOfBarks&
+DtDogStateRepository::barks() const
 {
     return Own.myBarks;
 }
@@ -24,7 +25,8 @@ void DtDogStateRepository::setWeight__Kg(const ValueOfWeight__Kg& value)
     DtStateRepository::markChanged("Weight__Kg");
 }
 
-const DtDogStateRepository::ValueOfWeight__Kg& DtDogStateRepository::weight__Kg() const
+const DtDogStateRepository::ValueOfWeight__Kg&
+DtDogStateRepository::weight__Kg() const
 {
     return Own.myWeight__Kg;
 }

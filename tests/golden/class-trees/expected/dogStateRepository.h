@@ -14,7 +14,8 @@
 #include <iosfwd>
 #include <vector>
 
-// The attribute values of one Animal.Dog: its own here, those of its superclasses in the bases.
+// The attribute values of one Animal.Dog:
+// its own here, those of its superclasses in the bases.
 class DT_DLL_CASE DtDogStateRepository
     : public DtAnimalStateRepository
 {

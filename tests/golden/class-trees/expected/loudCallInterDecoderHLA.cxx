@@ -12,7 +12,8 @@ DtLoudCallInterDecoder::DtLoudCallInterDecoder()
     addCoder("Loudness", &DtLoudCallInterDecoder::decodeLoudness);
 }
 
-bool DtLoudCallInterDecoder::decodeLoudness(DtLoudCallInter& interaction, DtWireReader& reader)
+bool DtLoudCallInterDecoder::decodeLoudness(
+    DtLoudCallInter& interaction, DtWireReader& reader)
 {
     const DtWireForm form = DtWireForm::number(4);
     auto value = DtStartOf(interaction.loudness());

@@ -8,7 +8,8 @@
 #include "loudCallInterHLA.h"
 #include "dllExport.h"
 
-// Sets the parameters of HLAinteractionRoot.Call.LoudCall and of its superclasses from named buffers.
+// Sets the parameters of HLAinteractionRoot.Call.LoudCall
+// and of its superclasses from named buffers.
 class DT_DLL_CASE DtLoudCallInterDecoder
     : public DtCallInterDecoder
 {
@@ -17,7 +18,8 @@ public:
 
 protected:
     // One for each parameter; false if the buffer holds no value of it.
-    static bool decodeLoudness(DtLoudCallInter& interaction, DtWireReader& reader);
+    static bool decodeLoudness(
+        DtLoudCallInter& interaction, DtWireReader& reader);
 };
 
 #endif

@@ -15,7 +15,8 @@ DtLoudCallInterEncoder::DtLoudCallInterEncoder()
     }
 }
 
-bool DtLoudCallInterEncoder::encodeLoudness(const DtLoudCallInter& interaction, DtWireWriter& writer)
+bool DtLoudCallInterEncoder::encodeLoudness(
+    const DtLoudCallInter& interaction, DtWireWriter& writer)
 {
     const DtWireForm form = DtWireForm::number(4);
     return DtWriteValue(writer, interaction.loudness(), form);

@@ -8,7 +8,8 @@
 #include "loudCallInterHLA.h"
 #include "dllExport.h"
 
-// Puts the parameters of HLAinteractionRoot.Call.LoudCall into named buffers, behind those of its superclasses.
+// Puts the parameters of HLAinteractionRoot.Call.LoudCall
+// into named buffers, behind those of its superclasses.
 class DT_DLL_CASE DtLoudCallInterEncoder
     : public DtCallInterEncoder
 {
@@ -17,7 +18,8 @@ public:
 
 protected:
     // One for each parameter; false if the value has no wire form.
-    static bool encodeLoudness(const DtLoudCallInter& interaction, DtWireWriter& writer);
+    static bool encodeLoudness(
+        const DtLoudCallInter& interaction, DtWireWriter& writer);
 
 private:
     // What the project leaves out has a coder all the same, but is not sent.

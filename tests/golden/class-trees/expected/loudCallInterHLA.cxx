@@ -8,7 +8,9 @@
 
 DtLoudCallInter::DtLoudCallInter()
     : DtLoudCallInter(DtInteractionCoding{
-          "Call.LoudCall", &DtSharedEncoder<DtLoudCallInterEncoder>, &DtSharedDecoder<DtLoudCallInterDecoder>})
+          "Call.LoudCall",
+          &DtSharedEncoder<DtLoudCallInterEncoder>,
+          &DtSharedDecoder<DtLoudCallInterDecoder>})
 {
 }
 
@@ -17,12 +19,14 @@ DtLoudCallInter::DtLoudCallInter(const DtInteractionCoding& coding)
 {
 }
 
-void DtLoudCallInter::addCallback(DtExerciseConn* exerciseConn, DtLoudCallInterCb callback, void* user)
+void DtLoudCallInter::addCallback(
+    DtExerciseConn* exerciseConn, DtLoudCallInterCb callback, void* user)
 {
     exerciseConn->addInteractionCallback(callback, user);
 }
 
-void DtLoudCallInter::removeCallback(DtExerciseConn* exerciseConn, DtLoudCallInterCb callback, void* user)
+void DtLoudCallInter::removeCallback(
+    DtExerciseConn* exerciseConn, DtLoudCallInterCb callback, void* user)
 {
     exerciseConn->removeInteractionCallback(callback, user);
 }
@@ -32,7 +36,8 @@ void DtLoudCallInter::setLoudness(const ValueOfLoudness& value)
     Own.myLoudness = value;
 }
 
-const DtLoudCallInter::ValueOfLoudness& DtLoudCallInter::loudness() const
+const DtLoudCallInter::ValueOfLoudness&
+DtLoudCallInter::loudness() const
 {
     return Own.myLoudness;
 }

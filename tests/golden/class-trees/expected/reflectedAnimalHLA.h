@@ -15,7 +15,8 @@
 class DtReflectedAnimal;
 typedef void (*DtAnimalCallbackFunction)(DtReflectedAnimal* object, void* user);
 
-// A Animal that someone else publishes. DtReflectedAnimalList makes it and keeps it up to date.
+// A Animal that someone else publishes.
+// DtReflectedAnimalList makes it and keeps it up to date.
 class DT_DLL_CASE DtReflectedAnimal : public DtHlaReflectedObject
 {
 public:

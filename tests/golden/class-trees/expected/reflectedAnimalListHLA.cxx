@@ -18,7 +18,8 @@ DtReflectedAnimal* DtReflectedAnimalList::first() const
     return static_cast<DtReflectedAnimal*>(findAfter(0));
 }
 
-DtReflectedAnimal* DtReflectedAnimalList::next(const DtReflectedAnimal* object) const
+DtReflectedAnimal*
+DtReflectedAnimalList::next(const DtReflectedAnimal* object) const
 {
     return static_cast<DtReflectedAnimal*>(findAfter(object->objectId()));
 }
@@ -28,32 +29,38 @@ DtReflectedAnimal* DtReflectedAnimalList::lookup(DtExerciseObjectId id) const
     return static_cast<DtReflectedAnimal*>(find(id));
 }
 
-void DtReflectedAnimalList::addAdditionCallback(DtAnimalCallbackFunction callback, void* user)
+void DtReflectedAnimalList::addAdditionCallback(
+    DtAnimalCallbackFunction callback, void* user)
 {
     addCallback(Addition, callback, user);
 }
 
-void DtReflectedAnimalList::removeAdditionCallback(DtAnimalCallbackFunction callback, void* user)
+void DtReflectedAnimalList::removeAdditionCallback(
+    DtAnimalCallbackFunction callback, void* user)
 {
     removeCallback(Addition, callback, user);
 }
 
-void DtReflectedAnimalList::addUpdateCallback(DtAnimalCallbackFunction callback, void* user)
+void DtReflectedAnimalList::addUpdateCallback(
+    DtAnimalCallbackFunction callback, void* user)
 {
     addCallback(Update, callback, user);
 }
 
-void DtReflectedAnimalList::removeUpdateCallback(DtAnimalCallbackFunction callback, void* user)
+void DtReflectedAnimalList::removeUpdateCallback(
+    DtAnimalCallbackFunction callback, void* user)
 {
     removeCallback(Update, callback, user);
 }
 
-void DtReflectedAnimalList::addRemovalCallback(DtAnimalCallbackFunction callback, void* user)
+void DtReflectedAnimalList::addRemovalCallback(
+    DtAnimalCallbackFunction callback, void* user)
 {
     addCallback(Removal, callback, user);
 }
 
-void DtReflectedAnimalList::removeRemovalCallback(DtAnimalCallbackFunction callback, void* user)
+void DtReflectedAnimalList::removeRemovalCallback(
+    DtAnimalCallbackFunction callback, void* user)
 {
     removeCallback(Removal, callback, user);
 }

@@ -15,7 +15,8 @@
 class DtReflectedDog;
 typedef void (*DtDogCallbackFunction)(DtReflectedDog* object, void* user);
 
-// A Dog that someone else publishes. DtReflectedDogList makes it and keeps it up to date.
+// A Dog that someone else publishes.
+// DtReflectedDogList makes it and keeps it up to date.
 class DT_DLL_CASE DtReflectedDog : public DtHlaReflectedObject
 {
 public:

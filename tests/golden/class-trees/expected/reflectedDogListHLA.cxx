@@ -18,7 +18,8 @@ DtReflectedDog* DtReflectedDogList::first() const
     return static_cast<DtReflectedDog*>(findAfter(0));
 }
 
-DtReflectedDog* DtReflectedDogList::next(const DtReflectedDog* object) const
+DtReflectedDog*
+DtReflectedDogList::next(const DtReflectedDog* object) const
 {
     return static_cast<DtReflectedDog*>(findAfter(object->objectId()));
 }
@@ -28,32 +29,38 @@ DtReflectedDog* DtReflectedDogList::lookup(DtExerciseObjectId id) const
     return static_cast<DtReflectedDog*>(find(id));
 }
 
-void DtReflectedDogList::addAdditionCallback(DtDogCallbackFunction callback, void* user)
+void DtReflectedDogList::addAdditionCallback(
+    DtDogCallbackFunction callback, void* user)
 {
     addCallback(Addition, callback, user);
 }
 
-void DtReflectedDogList::removeAdditionCallback(DtDogCallbackFunction callback, void* user)
+void DtReflectedDogList::removeAdditionCallback(
+    DtDogCallbackFunction callback, void* user)
 {
     removeCallback(Addition, callback, user);
 }
 
-void DtReflectedDogList::addUpdateCallback(DtDogCallbackFunction callback, void* user)
+void DtReflectedDogList::addUpdateCallback(
+    DtDogCallbackFunction callback, void* user)
 {
     addCallback(Update, callback, user);
 }
 
-void DtReflectedDogList::removeUpdateCallback(DtDogCallbackFunction callback, void* user)
+void DtReflectedDogList::removeUpdateCallback(
+    DtDogCallbackFunction callback, void* user)
 {
     removeCallback(Update, callback, user);
 }
 
-void DtReflectedDogList::addRemovalCallback(DtDogCallbackFunction callback, void* user)
+void DtReflectedDogList::addRemovalCallback(
+    DtDogCallbackFunction callback, void* user)
 {
     addCallback(Removal, callback, user);
 }
 
-void DtReflectedDogList::removeRemovalCallback(DtDogCallbackFunction callback, void* user)
+void DtReflectedDogList::removeRemovalCallback(
+    DtDogCallbackFunction callback, void* user)
 {
     removeCallback(Removal, callback, user);
 }

@@ -19,7 +19,8 @@ DtMeterDecoder::DtMeterDecoder()
     addCoder("Inside", &DtMeterDecoder::decodeInside);
 }
 
-bool DtMeterDecoder::decodeRaw(DtMeterStateRepository& state, DtWireReader& reader)
+bool DtMeterDecoder::decodeRaw(
+    DtMeterStateRepository& state, DtWireReader& reader)
 {
     const DtWireForm form = DtWireForm();
     auto value = DtStartOf(state.raw());
@@ -31,7 +32,8 @@ bool DtMeterDecoder::decodeRaw(DtMeterStateRepository& state, DtWireReader& read
     return true;
 }
 
-bool DtMeterDecoder::decodeRunning(DtMeterStateRepository& state, DtWireReader& reader)
+bool DtMeterDecoder::decodeRunning(
+    DtMeterStateRepository& state, DtWireReader& reader)
 {
     const DtWireForm form = DtWireForm();
     auto value = DtStartOf(state.running());
@@ -43,7 +45,8 @@ bool DtMeterDecoder::decodeRunning(DtMeterStateRepository& state, DtWireReader& 
     return true;
 }
 
-bool DtMeterDecoder::decodeState(DtMeterStateRepository& state, DtWireReader& reader)
+bool DtMeterDecoder::decodeState(
+    DtMeterStateRepository& state, DtWireReader& reader)
 {
     const DtWireForm form = DtWireForm();
     auto value = DtStartOf(state.state());
@@ -55,7 +58,8 @@ bool DtMeterDecoder::decodeState(DtMeterStateRepository& state, DtWireReader& re
     return true;
 }
 
-bool DtMeterDecoder::decodeWeek(DtMeterStateRepository& state, DtWireReader& reader)
+bool DtMeterDecoder::decodeWeek(
+    DtMeterStateRepository& state, DtWireReader& reader)
 {
     const DtWireForm form = DtWireForm();
     auto value = DtStartOf(state.week());
@@ -67,7 +71,8 @@ bool DtMeterDecoder::decodeWeek(DtMeterStateRepository& state, DtWireReader& rea
     return true;
 }
 
-bool DtMeterDecoder::decodeRemarks(DtMeterStateRepository& state, DtWireReader& reader)
+bool DtMeterDecoder::decodeRemarks(
+    DtMeterStateRepository& state, DtWireReader& reader)
 {
     const DtWireForm form = DtWireForm();
     auto value = DtStartOf(state.remarks());
@@ -79,7 +84,8 @@ bool DtMeterDecoder::decodeRemarks(DtMeterStateRepository& state, DtWireReader& 
     return true;
 }
 
-bool DtMeterDecoder::decodePast(DtMeterStateRepository& state, DtWireReader& reader)
+bool DtMeterDecoder::decodePast(
+    DtMeterStateRepository& state, DtWireReader& reader)
 {
     const DtWireForm form = DtWireForm();
     auto value = DtStartOf(state.past());
@@ -91,7 +97,8 @@ bool DtMeterDecoder::decodePast(DtMeterStateRepository& state, DtWireReader& rea
     return true;
 }
 
-bool DtMeterDecoder::decodeLast(DtMeterStateRepository& state, DtWireReader& reader)
+bool DtMeterDecoder::decodeLast(
+    DtMeterStateRepository& state, DtWireReader& reader)
 {
     const DtWireForm form = DtWireForm();
     auto value = DtStartOf(state.last());
@@ -103,7 +110,8 @@ bool DtMeterDecoder::decodeLast(DtMeterStateRepository& state, DtWireReader& rea
     return true;
 }
 
-bool DtMeterDecoder::decodeInside(DtMeterStateRepository& state, DtWireReader& reader)
+bool DtMeterDecoder::decodeInside(
+    DtMeterStateRepository& state, DtWireReader& reader)
 {
     const DtWireForm form = DtWireForm();
     auto value = DtStartOf(state.inside());

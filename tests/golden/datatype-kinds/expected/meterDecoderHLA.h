@@ -8,7 +8,8 @@
 #include "meterStateRepository.h"
 #include "dllExport.h"
 
-// Sets the attributes of HLAobjectRoot.Meter and of its superclasses from named buffers.
+// Sets the attributes of HLAobjectRoot.Meter
+// and of its superclasses from named buffers.
 class DT_DLL_CASE DtMeterDecoder
     : public DtHlaStateDecoder
 {
@@ -17,14 +18,22 @@ public:
 
 protected:
     // One for each attribute; false if the buffer holds no value of it.
-    static bool decodeRaw(DtMeterStateRepository& state, DtWireReader& reader);
-    static bool decodeRunning(DtMeterStateRepository& state, DtWireReader& reader);
-    static bool decodeState(DtMeterStateRepository& state, DtWireReader& reader);
-    static bool decodeWeek(DtMeterStateRepository& state, DtWireReader& reader);
-    static bool decodeRemarks(DtMeterStateRepository& state, DtWireReader& reader);
-    static bool decodePast(DtMeterStateRepository& state, DtWireReader& reader);
-    static bool decodeLast(DtMeterStateRepository& state, DtWireReader& reader);
-    static bool decodeInside(DtMeterStateRepository& state, DtWireReader& reader);
+    static bool decodeRaw(
+        DtMeterStateRepository& state, DtWireReader& reader);
+    static bool decodeRunning(
+        DtMeterStateRepository& state, DtWireReader& reader);
+    static bool decodeState(
+        DtMeterStateRepository& state, DtWireReader& reader);
+    static bool decodeWeek(
+        DtMeterStateRepository& state, DtWireReader& reader);
+    static bool decodeRemarks(
+        DtMeterStateRepository& state, DtWireReader& reader);
+    static bool decodePast(
+        DtMeterStateRepository& state, DtWireReader& reader);
+    static bool decodeLast(
+        DtMeterStateRepository& state, DtWireReader& reader);
+    static bool decodeInside(
+        DtMeterStateRepository& state, DtWireReader& reader);
 };
 
 #endif

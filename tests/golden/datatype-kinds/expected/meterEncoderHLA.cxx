@@ -19,49 +19,57 @@ DtMeterEncoder::DtMeterEncoder()
     addCoder("Inside", &DtMeterEncoder::encodeInside);
 }
 
-bool DtMeterEncoder::encodeRaw(const DtMeterStateRepository& state, DtWireWriter& writer)
+bool DtMeterEncoder::encodeRaw(
+    const DtMeterStateRepository& state, DtWireWriter& writer)
 {
     const DtWireForm form = DtWireForm();
     return DtWriteValue(writer, state.raw(), form);
 }
 
-bool DtMeterEncoder::encodeRunning(const DtMeterStateRepository& state, DtWireWriter& writer)
+bool DtMeterEncoder::encodeRunning(
+    const DtMeterStateRepository& state, DtWireWriter& writer)
 {
     const DtWireForm form = DtWireForm();
     return DtWriteValue(writer, state.running(), form);
 }
 
-bool DtMeterEncoder::encodeState(const DtMeterStateRepository& state, DtWireWriter& writer)
+bool DtMeterEncoder::encodeState(
+    const DtMeterStateRepository& state, DtWireWriter& writer)
 {
     const DtWireForm form = DtWireForm();
     return DtWriteValue(writer, state.state(), form);
 }
 
-bool DtMeterEncoder::encodeWeek(const DtMeterStateRepository& state, DtWireWriter& writer)
+bool DtMeterEncoder::encodeWeek(
+    const DtMeterStateRepository& state, DtWireWriter& writer)
 {
     const DtWireForm form = DtWireForm();
     return DtWriteValue(writer, state.week(), form);
 }
 
-bool DtMeterEncoder::encodeRemarks(const DtMeterStateRepository& state, DtWireWriter& writer)
+bool DtMeterEncoder::encodeRemarks(
+    const DtMeterStateRepository& state, DtWireWriter& writer)
 {
     const DtWireForm form = DtWireForm();
     return DtWriteValue(writer, state.remarks(), form);
 }
 
-bool DtMeterEncoder::encodePast(const DtMeterStateRepository& state, DtWireWriter& writer)
+bool DtMeterEncoder::encodePast(
+    const DtMeterStateRepository& state, DtWireWriter& writer)
 {
     const DtWireForm form = DtWireForm();
     return DtWriteValue(writer, state.past(), form);
 }
 
-bool DtMeterEncoder::encodeLast(const DtMeterStateRepository& state, DtWireWriter& writer)
+bool DtMeterEncoder::encodeLast(
+    const DtMeterStateRepository& state, DtWireWriter& writer)
 {
     const DtWireForm form = DtWireForm();
     return DtWriteValue(writer, state.last(), form);
 }
 
-bool DtMeterEncoder::encodeInside(const DtMeterStateRepository& state, DtWireWriter& writer)
+bool DtMeterEncoder::encodeInside(
+    const DtMeterStateRepository& state, DtWireWriter& writer)
 {
     const DtWireForm form = DtWireForm();
     return DtWriteValue(writer, state.inside(), form);

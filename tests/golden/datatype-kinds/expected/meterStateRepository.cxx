@@ -13,7 +13,8 @@ void DtMeterStateRepository::setRaw(const ValueOfRaw& value)
     DtStateRepository::markChanged("Raw");
 }
 
-const DtMeterStateRepository::ValueOfRaw& DtMeterStateRepository::raw() const
+const DtMeterStateRepository::ValueOfRaw&
+DtMeterStateRepository::raw() const
 {
     return Own.myRaw;
 }
@@ -24,7 +25,8 @@ void DtMeterStateRepository::setRunning(const ValueOfRunning& value)
     DtStateRepository::markChanged("Running");
 }
 
-const DtMeterStateRepository::ValueOfRunning& DtMeterStateRepository::running() const
+const DtMeterStateRepository::ValueOfRunning&
+DtMeterStateRepository::running() const
 {
     return Own.myRunning;
 }
@@ -35,7 +37,8 @@ void DtMeterStateRepository::setState(const ValueOfState& value)
     DtStateRepository::markChanged("State");
 }
 
-const DtMeterStateRepository::ValueOfState& DtMeterStateRepository::state() const
+const DtMeterStateRepository::ValueOfState&
+DtMeterStateRepository::state() const
 {
     return Own.myState;
 }
@@ -52,7 +55,8 @@ void DtMeterStateRepository::setWeek(ValueOfWeek&& value)
     DtStateRepository::markChanged("Week");
 }
 
-const DtMeterStateRepository::ValueOfWeek& DtMeterStateRepository::week() const
+const DtMeterStateRepository::ValueOfWeek&
+DtMeterStateRepository::week() const
 {
     return Own.myWeek;
 }
@@ -69,7 +73,8 @@ void DtMeterStateRepository::setRemarks(ValueOfRemarks&& value)
     DtStateRepository::markChanged("Remarks");
 }
 
-const DtMeterStateRepository::ValueOfRemarks& DtMeterStateRepository::remarks() const
+const DtMeterStateRepository::ValueOfRemarks&
+DtMeterStateRepository::remarks() const
 {
     return Own.myRemarks;
 }
@@ -86,7 +91,8 @@ void DtMeterStateRepository::setPast(ValueOfPast&& value)
     DtStateRepository::markChanged("Past");
 }
 
-const DtMeterStateRepository::ValueOfPast& DtMeterStateRepository::past() const
+const DtMeterStateRepository::ValueOfPast&
+DtMeterStateRepository::past() const
 {
     return Own.myPast;
 }
@@ -103,7 +109,8 @@ void DtMeterStateRepository::setLast(ValueOfLast&& value)
     DtStateRepository::markChanged("Last");
 }
 
-const DtMeterStateRepository::ValueOfLast& DtMeterStateRepository::last() const
+const DtMeterStateRepository::ValueOfLast&
+DtMeterStateRepository::last() const
 {
     return Own.myLast;
 }
@@ -120,7 +127,8 @@ void DtMeterStateRepository::setInside(ValueOfInside&& value)
     DtStateRepository::markChanged("Inside");
 }
 
-const DtMeterStateRepository::ValueOfInside& DtMeterStateRepository::inside() const
+const DtMeterStateRepository::ValueOfInside&
+DtMeterStateRepository::inside() const
 {
     return Own.myInside;
 }

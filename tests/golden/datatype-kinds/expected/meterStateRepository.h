@@ -25,7 +25,8 @@ enum class DtState8 : DtInt64;
 DT_DLL_CASE DtEnumeratorTable DtEnumeratorsOf(DtState8);
 DT_DLL_CASE std::ostream& operator<<(std::ostream& out, DtState8 value);
 
-// The attribute values of one Meter: its own here, those of its superclasses in the bases.
+// The attribute values of one Meter:
+// its own here, those of its superclasses in the bases.
 class DT_DLL_CASE DtMeterStateRepository
     : public DtStateRepository
 {

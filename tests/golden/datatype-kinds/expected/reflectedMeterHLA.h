@@ -15,7 +15,8 @@
 class DtReflectedMeter;
 typedef void (*DtMeterCallbackFunction)(DtReflectedMeter* object, void* user);
 
-// A Meter that someone else publishes. DtReflectedMeterList makes it and keeps it up to date.
+// A Meter that someone else publishes.
+// DtReflectedMeterList makes it and keeps it up to date.
 class DT_DLL_CASE DtReflectedMeter : public DtHlaReflectedObject
 {
 public:

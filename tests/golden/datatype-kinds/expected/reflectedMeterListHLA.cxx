@@ -18,7 +18,8 @@ DtReflectedMeter* DtReflectedMeterList::first() const
     return static_cast<DtReflectedMeter*>(findAfter(0));
 }
 
-DtReflectedMeter* DtReflectedMeterList::next(const DtReflectedMeter* object) const
+DtReflectedMeter*
+DtReflectedMeterList::next(const DtReflectedMeter* object) const
 {
     return static_cast<DtReflectedMeter*>(findAfter(object->objectId()));
 }
@@ -28,32 +29,38 @@ DtReflectedMeter* DtReflectedMeterList::lookup(DtExerciseObjectId id) const
     return static_cast<DtReflectedMeter*>(find(id));
 }
 
-void DtReflectedMeterList::addAdditionCallback(DtMeterCallbackFunction callback, void* user)
+void DtReflectedMeterList::addAdditionCallback(
+    DtMeterCallbackFunction callback, void* user)
 {
     addCallback(Addition, callback, user);
 }
 
-void DtReflectedMeterList::removeAdditionCallback(DtMeterCallbackFunction callback, void* user)
+void DtReflectedMeterList::removeAdditionCallback(
+    DtMeterCallbackFunction callback, void* user)
 {
     removeCallback(Addition, callback, user);
 }
 
-void DtReflectedMeterList::addUpdateCallback(DtMeterCallbackFunction callback, void* user)
+void DtReflectedMeterList::addUpdateCallback(
+    DtMeterCallbackFunction callback, void* user)
 {
     addCallback(Update, callback, user);
 }
 
-void DtReflectedMeterList::removeUpdateCallback(DtMeterCallbackFunction callback, void* user)
+void DtReflectedMeterList::removeUpdateCallback(
+    DtMeterCallbackFunction callback, void* user)
 {
     removeCallback(Update, callback, user);
 }
 
-void DtReflectedMeterList::addRemovalCallback(DtMeterCallbackFunction callback, void* user)
+void DtReflectedMeterList::addRemovalCallback(
+    DtMeterCallbackFunction callback, void* user)
 {
     addCallback(Removal, callback, user);
 }
 
-void DtReflectedMeterList::removeRemovalCallback(DtMeterCallbackFunction callback, void* user)
+void DtReflectedMeterList::removeRemovalCallback(
+    DtMeterCallbackFunction callback, void* user)
 {
     removeCallback(Removal, callback, user);
 }

@@ -16,7 +16,8 @@ DtQxFlowerDecoder::DtQxFlowerDecoder()
     addCoder("Seed", &DtQxFlowerDecoder::decodeSeed);
 }
 
-bool DtQxFlowerDecoder::decodeColour(DtQxFlowerStateRepository& state, DtWireReader& reader)
+bool DtQxFlowerDecoder::decodeColour(
+    DtQxFlowerStateRepository& state, DtWireReader& reader)
 {
     const DtWireForm form = DtWireForm();
     auto value = DtStartOf(state.colour());
@@ -29,7 +30,8 @@ bool DtQxFlowerDecoder::decodeColour(DtQxFlowerStateRepository& state, DtWireRea
 }
 
 #error "Seed: values of DtQxPacket cannot be decoded"
-bool DtQxFlowerDecoder::decodeSeed(DtQxFlowerStateRepository& state, DtWireReader& reader)
+bool DtQxFlowerDecoder::decodeSeed(
+    DtQxFlowerStateRepository& state, DtWireReader& reader)
 {
     const DtWireForm form = DtWireForm();
     auto value = DtStartOf(state.seed());

@@ -16,14 +16,16 @@ DtQxFlowerEncoder::DtQxFlowerEncoder()
     addCoder("Seed", &DtQxFlowerEncoder::encodeSeed);
 }
 
-bool DtQxFlowerEncoder::encodeColour(const DtQxFlowerStateRepository& state, DtWireWriter& writer)
+bool DtQxFlowerEncoder::encodeColour(
+    const DtQxFlowerStateRepository& state, DtWireWriter& writer)
 {
     const DtWireForm form = DtWireForm();
     return DtWriteValue(writer, state.colour(), form);
 }
 
 #error "Seed: values of DtQxPacket cannot be encoded"
-bool DtQxFlowerEncoder::encodeSeed(const DtQxFlowerStateRepository& state, DtWireWriter& writer)
+bool DtQxFlowerEncoder::encodeSeed(
+    const DtQxFlowerStateRepository& state, DtWireWriter& writer)
 {
     const DtWireForm form = DtWireForm();
     return DtWriteValue(writer, state.seed(), form);

@@ -16,7 +16,8 @@ void DtQxFlowerStateRepository::setColour(const ValueOfColour& value)
     DtStateRepository::markChanged("Colour");
 }
 
-const DtQxFlowerStateRepository::ValueOfColour& DtQxFlowerStateRepository::colour() const
+const DtQxFlowerStateRepository::ValueOfColour&
+DtQxFlowerStateRepository::colour() const
 {
     return Own.myColour;
 }
@@ -33,7 +34,8 @@ void DtQxFlowerStateRepository::setSeed(ValueOfSeed&& value)
     DtStateRepository::markChanged("Seed");
 }
 
-const DtQxFlowerStateRepository::ValueOfSeed& DtQxFlowerStateRepository::seed() const
+const DtQxFlowerStateRepository::ValueOfSeed&
+DtQxFlowerStateRepository::seed() const
 {
     return Own.mySeed;
 }

@@ -21,7 +21,8 @@ DtReflectedQxFlower* DtReflectedQxFlowerList::first() const
     return static_cast<DtReflectedQxFlower*>(findAfter(0));
 }
 
-DtReflectedQxFlower* DtReflectedQxFlowerList::next(const DtReflectedQxFlower* object) const
+DtReflectedQxFlower*
+DtReflectedQxFlowerList::next(const DtReflectedQxFlower* object) const
 {
     return static_cast<DtReflectedQxFlower*>(findAfter(object->objectId()));
 }
@@ -31,32 +32,38 @@ DtReflectedQxFlower* DtReflectedQxFlowerList::lookup(DtExerciseObjectId id) cons
     return static_cast<DtReflectedQxFlower*>(find(id));
 }
 
-void DtReflectedQxFlowerList::addAdditionCallback(DtQxFlowerCallbackFunction callback, void* user)
+void DtReflectedQxFlowerList::addAdditionCallback(
+    DtQxFlowerCallbackFunction callback, void* user)
 {
     addCallback(Addition, callback, user);
 }
 
-void DtReflectedQxFlowerList::removeAdditionCallback(DtQxFlowerCallbackFunction callback, void* user)
+void DtReflectedQxFlowerList::removeAdditionCallback(
+    DtQxFlowerCallbackFunction callback, void* user)
 {
     removeCallback(Addition, callback, user);
 }
 
-void DtReflectedQxFlowerList::addUpdateCallback(DtQxFlowerCallbackFunction callback, void* user)
+void DtReflectedQxFlowerList::addUpdateCallback(
+    DtQxFlowerCallbackFunction callback, void* user)
 {
     addCallback(Update, callback, user);
 }
 
-void DtReflectedQxFlowerList::removeUpdateCallback(DtQxFlowerCallbackFunction callback, void* user)
+void DtReflectedQxFlowerList::removeUpdateCallback(
+    DtQxFlowerCallbackFunction callback, void* user)
 {
     removeCallback(Update, callback, user);
 }
 
-void DtReflectedQxFlowerList::addRemovalCallback(DtQxFlowerCallbackFunction callback, void* user)
+void DtReflectedQxFlowerList::addRemovalCallback(
+    DtQxFlowerCallbackFunction callback, void* user)
 {
     addCallback(Removal, callback, user);
 }
 
-void DtReflectedQxFlowerList::removeRemovalCallback(DtQxFlowerCallbackFunction callback, void* user)
+void DtReflectedQxFlowerList::removeRemovalCallback(
+    DtQxFlowerCallbackFunction callback, void* user)
 {
     removeCallback(Removal, callback, user);
 }

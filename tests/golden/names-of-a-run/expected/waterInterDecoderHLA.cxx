@@ -15,7 +15,8 @@ DtQxWaterInterDecoder::DtQxWaterInterDecoder()
     addCoder("Litres", &DtQxWaterInterDecoder::decodeLitres);
 }
 
-bool DtQxWaterInterDecoder::decodeLitres(DtQxWaterInter& interaction, DtWireReader& reader)
+bool DtQxWaterInterDecoder::decodeLitres(
+    DtQxWaterInter& interaction, DtWireReader& reader)
 {
     const DtWireForm form = DtWireForm::number(4);
     auto value = DtStartOf(interaction.litres());

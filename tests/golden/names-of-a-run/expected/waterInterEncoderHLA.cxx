@@ -18,7 +18,8 @@ DtQxWaterInterEncoder::DtQxWaterInterEncoder()
     }
 }
 
-bool DtQxWaterInterEncoder::encodeLitres(const DtQxWaterInter& interaction, DtWireWriter& writer)
+bool DtQxWaterInterEncoder::encodeLitres(
+    const DtQxWaterInter& interaction, DtWireWriter& writer)
 {
     const DtWireForm form = DtWireForm::number(4);
     return DtWriteValue(writer, interaction.litres(), form);

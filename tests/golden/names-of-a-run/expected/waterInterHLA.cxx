@@ -11,7 +11,9 @@ namespace garden
 
 DtQxWaterInter::DtQxWaterInter()
     : DtQxWaterInter(DtInteractionCoding{
-          "Water", &DtSharedEncoder<DtQxWaterInterEncoder>, &DtSharedDecoder<DtQxWaterInterDecoder>})
+          "Water",
+          &DtSharedEncoder<DtQxWaterInterEncoder>,
+          &DtSharedDecoder<DtQxWaterInterDecoder>})
 {
 }
 
@@ -20,12 +22,14 @@ DtQxWaterInter::DtQxWaterInter(const DtInteractionCoding& coding)
 {
 }
 
-void DtQxWaterInter::addCallback(DtExerciseConn* exerciseConn, DtQxWaterInterCb callback, void* user)
+void DtQxWaterInter::addCallback(
+    DtExerciseConn* exerciseConn, DtQxWaterInterCb callback, void* user)
 {
     exerciseConn->addInteractionCallback(callback, user);
 }
 
-void DtQxWaterInter::removeCallback(DtExerciseConn* exerciseConn, DtQxWaterInterCb callback, void* user)
+void DtQxWaterInter::removeCallback(
+    DtExerciseConn* exerciseConn, DtQxWaterInterCb callback, void* user)
 {
     exerciseConn->removeInteractionCallback(callback, user);
 }
@@ -35,7 +39,8 @@ void DtQxWaterInter::setLitres(const ValueOfLitres& value)
     Own.myLitres = value;
 }
 
-const DtQxWaterInter::ValueOfLitres& DtQxWaterInter::litres() const
+const DtQxWaterInter::ValueOfLitres&
+DtQxWaterInter::litres() const
 {
     return Own.myLitres;
 }

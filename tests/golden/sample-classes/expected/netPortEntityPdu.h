@@ -7,7 +7,8 @@
 #include <qx/packets/pduHeader.h>
 #include "dllExport.h"
 
-// Header of the protocol data units that tell of a HLAobjectRoot.PortEntity, by their kind.
+// Header of the protocol data units that tell of a
+// HLAobjectRoot.PortEntity, by their kind.
 class DT_DLL_CASE DtNetPortEntityPdu : public DtNetPduHeader
 {
 public:

@@ -7,7 +7,8 @@
 #include "netVesselPdu.h"
 #include "dllExport.h"
 
-// Header of the protocol data units that tell of a HLAobjectRoot.PortEntity.Vessel.Tug/Pusher, by their kind.
+// Header of the protocol data units that tell of a
+// HLAobjectRoot.PortEntity.Vessel.Tug/Pusher, by their kind.
 class DT_DLL_CASE DtNetTug__PusherPdu : public DtNetVesselPdu
 {
 public:

@@ -7,7 +7,8 @@
 #include "netPortEntityPdu.h"
 #include "dllExport.h"
 
-// Header of the protocol data units that tell of a HLAobjectRoot.PortEntity.Vessel, by their kind.
+// Header of the protocol data units that tell of a
+// HLAobjectRoot.PortEntity.Vessel, by their kind.
 class DT_DLL_CASE DtNetVesselPdu : public DtNetPortEntityPdu
 {
 public:

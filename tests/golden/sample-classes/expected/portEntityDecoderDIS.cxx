@@ -13,7 +13,8 @@ DtPortEntityDecoder::DtPortEntityDecoder()
     addCoder("Name", &DtPortEntityDecoder::decodeName);
     addCoder("Serial", &DtPortEntityDecoder::decodeSerial);
 }
-bool DtPortEntityDecoder::decodePosition(DtPortEntityStateRepository& state, DtWireReader& reader)
+bool DtPortEntityDecoder::decodePosition(
+    DtPortEntityStateRepository& state, DtWireReader& reader)
 {
     const DtWireForm form = DtWireForm();
     auto value = DtStartOf(state.position());
@@ -24,7 +25,8 @@ bool DtPortEntityDecoder::decodePosition(DtPortEntityStateRepository& state, DtW
     state.setPosition(std::move(value));
     return true;
 }
-bool DtPortEntityDecoder::decodeName(DtPortEntityStateRepository& state, DtWireReader& reader)
+bool DtPortEntityDecoder::decodeName(
+    DtPortEntityStateRepository& state, DtWireReader& reader)
 {
     const DtWireForm form = DtWireForm();
     auto value = DtStartOf(state.name());
@@ -35,7 +37,8 @@ bool DtPortEntityDecoder::decodeName(DtPortEntityStateRepository& state, DtWireR
     state.setName(std::move(value));
     return true;
 }
-bool DtPortEntityDecoder::decodeSerial(DtPortEntityStateRepository& state, DtWireReader& reader)
+bool DtPortEntityDecoder::decodeSerial(
+    DtPortEntityStateRepository& state, DtWireReader& reader)
 {
     const DtWireForm form = DtWireForm::number(8);
     auto value = DtStartOf(state.serial());

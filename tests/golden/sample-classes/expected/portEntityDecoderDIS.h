@@ -8,7 +8,8 @@
 #include "portEntityStateRepository.h"
 #include "dllExport.h"
 
-// Sets the attributes of HLAobjectRoot.PortEntity and of its superclasses from the body of a protocol data unit.
+// Sets the attributes of HLAobjectRoot.PortEntity
+// and of its superclasses from the body of a protocol data unit.
 class DT_DLL_CASE DtPortEntityDecoder : public DtStateDecoder
 {
 public:
@@ -16,9 +17,12 @@ public:
 
 protected:
     // One for each attribute; false if the body holds no value of it.
-    static bool decodePosition(DtPortEntityStateRepository& state, DtWireReader& reader);
-    static bool decodeName(DtPortEntityStateRepository& state, DtWireReader& reader);
-    static bool decodeSerial(DtPortEntityStateRepository& state, DtWireReader& reader);
+    static bool decodePosition(
+        DtPortEntityStateRepository& state, DtWireReader& reader);
+    static bool decodeName(
+        DtPortEntityStateRepository& state, DtWireReader& reader);
+    static bool decodeSerial(
+        DtPortEntityStateRepository& state, DtWireReader& reader);
 };
 
 #endif

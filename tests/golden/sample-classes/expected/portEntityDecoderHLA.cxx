@@ -14,7 +14,8 @@ DtPortEntityDecoder::DtPortEntityDecoder()
     addCoder("Serial", &DtPortEntityDecoder::decodeSerial);
 }
 
-bool DtPortEntityDecoder::decodePosition(DtPortEntityStateRepository& state, DtWireReader& reader)
+bool DtPortEntityDecoder::decodePosition(
+    DtPortEntityStateRepository& state, DtWireReader& reader)
 {
     const DtWireForm form = DtWireForm();
     auto value = DtStartOf(state.position());
@@ -26,7 +27,8 @@ bool DtPortEntityDecoder::decodePosition(DtPortEntityStateRepository& state, DtW
     return true;
 }
 
-bool DtPortEntityDecoder::decodeName(DtPortEntityStateRepository& state, DtWireReader& reader)
+bool DtPortEntityDecoder::decodeName(
+    DtPortEntityStateRepository& state, DtWireReader& reader)
 {
     const DtWireForm form = DtWireForm();
     auto value = DtStartOf(state.name());
@@ -38,7 +40,8 @@ bool DtPortEntityDecoder::decodeName(DtPortEntityStateRepository& state, DtWireR
     return true;
 }
 
-bool DtPortEntityDecoder::decodeSerial(DtPortEntityStateRepository& state, DtWireReader& reader)
+bool DtPortEntityDecoder::decodeSerial(
+    DtPortEntityStateRepository& state, DtWireReader& reader)
 {
     const DtWireForm form = DtWireForm::number(8);
     auto value = DtStartOf(state.serial());

@@ -8,7 +8,8 @@
 #include "portEntityStateRepository.h"
 #include "dllExport.h"
 
-// Sets the attributes of HLAobjectRoot.PortEntity and of its superclasses from named buffers.
+// Sets the attributes of HLAobjectRoot.PortEntity
+// and of its superclasses from named buffers.
 class DT_DLL_CASE DtPortEntityDecoder
     : public DtHlaStateDecoder
 {
@@ -17,9 +18,12 @@ public:
 
 protected:
     // One for each attribute; false if the buffer holds no value of it.
-    static bool decodePosition(DtPortEntityStateRepository& state, DtWireReader& reader);
-    static bool decodeName(DtPortEntityStateRepository& state, DtWireReader& reader);
-    static bool decodeSerial(DtPortEntityStateRepository& state, DtWireReader& reader);
+    static bool decodePosition(
+        DtPortEntityStateRepository& state, DtWireReader& reader);
+    static bool decodeName(
+        DtPortEntityStateRepository& state, DtWireReader& reader);
+    static bool decodeSerial(
+        DtPortEntityStateRepository& state, DtWireReader& reader);
 };
 
 #endif

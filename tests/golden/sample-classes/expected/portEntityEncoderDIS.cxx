@@ -13,17 +13,20 @@ DtPortEntityEncoder::DtPortEntityEncoder()
     addCoder("Name", &DtPortEntityEncoder::encodeName);
     addCoder("Serial", &DtPortEntityEncoder::encodeSerial);
 }
-bool DtPortEntityEncoder::encodePosition(const DtPortEntityStateRepository& state, DtWireWriter& writer)
+bool DtPortEntityEncoder::encodePosition(
+    const DtPortEntityStateRepository& state, DtWireWriter& writer)
 {
     const DtWireForm form = DtWireForm();
     return DtWriteValue(writer, state.position(), form);
 }
-bool DtPortEntityEncoder::encodeName(const DtPortEntityStateRepository& state, DtWireWriter& writer)
+bool DtPortEntityEncoder::encodeName(
+    const DtPortEntityStateRepository& state, DtWireWriter& writer)
 {
     const DtWireForm form = DtWireForm();
     return DtWriteValue(writer, state.name(), form);
 }
-bool DtPortEntityEncoder::encodeSerial(const DtPortEntityStateRepository& state, DtWireWriter& writer)
+bool DtPortEntityEncoder::encodeSerial(
+    const DtPortEntityStateRepository& state, DtWireWriter& writer)
 {
     const DtWireForm form = DtWireForm::number(8);
     return DtWriteValue(writer, state.serial(), form);

@@ -8,7 +8,8 @@
 #include "portEntityStateRepository.h"
 #include "dllExport.h"
 
-// Puts the attributes of HLAobjectRoot.PortEntity into named buffers, behind those of its superclasses.
+// Puts the attributes of HLAobjectRoot.PortEntity
+// into named buffers, behind those of its superclasses.
 class DT_DLL_CASE DtPortEntityEncoder
     : public DtHlaStateEncoder
 {
@@ -17,9 +18,12 @@ public:
 
 protected:
     // One for each attribute; false if the value has no wire form.
-    static bool encodePosition(const DtPortEntityStateRepository& state, DtWireWriter& writer);
-    static bool encodeName(const DtPortEntityStateRepository& state, DtWireWriter& writer);
-    static bool encodeSerial(const DtPortEntityStateRepository& state, DtWireWriter& writer);
+    static bool encodePosition(
+        const DtPortEntityStateRepository& state, DtWireWriter& writer);
+    static bool encodeName(
+        const DtPortEntityStateRepository& state, DtWireWriter& writer);
+    static bool encodeSerial(
+        const DtPortEntityStateRepository& state, DtWireWriter& writer);
 };
 
 #endif

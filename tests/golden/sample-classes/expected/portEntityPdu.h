@@ -8,7 +8,8 @@
 #include "netPortEntityPdu.h"
 #include "dllExport.h"
 
-// The protocol data unit that tells the whole state of a HLAobjectRoot.PortEntity.
+// The protocol data unit that tells the whole state of a
+// HLAobjectRoot.PortEntity.
 class DT_DLL_CASE DtPortEntityPdu : public DtStateMsg
 {
 public:

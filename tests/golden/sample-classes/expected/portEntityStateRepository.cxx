@@ -19,7 +19,8 @@ void DtPortEntityStateRepository::setPosition(ValueOfPosition&& value)
     DtStateRepository::markChanged("Position");
 }
 
-const DtPortEntityStateRepository::ValueOfPosition& DtPortEntityStateRepository::position() const
+const DtPortEntityStateRepository::ValueOfPosition&
+DtPortEntityStateRepository::position() const
 {
     return Own.myPosition;
 }
@@ -36,7 +37,8 @@ void DtPortEntityStateRepository::setName(ValueOfName&& value)
     DtStateRepository::markChanged("Name");
 }
 
-const DtPortEntityStateRepository::ValueOfName& DtPortEntityStateRepository::name() const
+const DtPortEntityStateRepository::ValueOfName&
+DtPortEntityStateRepository::name() const
 {
     return Own.myName;
 }
@@ -47,7 +49,8 @@ void DtPortEntityStateRepository::setSerial(const ValueOfSerial& value)
     DtStateRepository::markChanged("Serial");
 }
 
-const DtPortEntityStateRepository::ValueOfSerial& DtPortEntityStateRepository::serial() const
+const DtPortEntityStateRepository::ValueOfSerial&
+DtPortEntityStateRepository::serial() const
 {
     return Own.mySerial;
 }

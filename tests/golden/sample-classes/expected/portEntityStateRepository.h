@@ -16,7 +16,8 @@
 #include <iosfwd>
 #include <vector>
 
-// The attribute values of one PortEntity: its own here, those of its superclasses in the bases.
+// The attribute values of one PortEntity:
+// its own here, those of its superclasses in the bases.
 /// Anything with a place in the harbour.
 class DT_DLL_CASE DtPortEntityStateRepository
     : public DtStateRepository

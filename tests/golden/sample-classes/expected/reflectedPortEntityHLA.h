@@ -15,7 +15,8 @@
 class DtReflectedPortEntity;
 typedef void (*DtPortEntityCallbackFunction)(DtReflectedPortEntity* object, void* user);
 
-// A PortEntity that someone else publishes. DtReflectedPortEntityList makes it and keeps it up to date.
+// A PortEntity that someone else publishes.
+// DtReflectedPortEntityList makes it and keeps it up to date.
 class DT_DLL_CASE DtReflectedPortEntity : public DtHlaReflectedObject
 {
 public:

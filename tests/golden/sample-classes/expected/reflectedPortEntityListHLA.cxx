@@ -18,7 +18,8 @@ DtReflectedPortEntity* DtReflectedPortEntityList::first() const
     return static_cast<DtReflectedPortEntity*>(findAfter(0));
 }
 
-DtReflectedPortEntity* DtReflectedPortEntityList::next(const DtReflectedPortEntity* object) const
+DtReflectedPortEntity*
+DtReflectedPortEntityList::next(const DtReflectedPortEntity* object) const
 {
     return static_cast<DtReflectedPortEntity*>(findAfter(object->objectId()));
 }
@@ -28,32 +29,38 @@ DtReflectedPortEntity* DtReflectedPortEntityList::lookup(DtExerciseObjectId id) 
     return static_cast<DtReflectedPortEntity*>(find(id));
 }
 
-void DtReflectedPortEntityList::addAdditionCallback(DtPortEntityCallbackFunction callback, void* user)
+void DtReflectedPortEntityList::addAdditionCallback(
+    DtPortEntityCallbackFunction callback, void* user)
 {
     addCallback(Addition, callback, user);
 }
 
-void DtReflectedPortEntityList::removeAdditionCallback(DtPortEntityCallbackFunction callback, void* user)
+void DtReflectedPortEntityList::removeAdditionCallback(
+    DtPortEntityCallbackFunction callback, void* user)
 {
     removeCallback(Addition, callback, user);
 }
 
-void DtReflectedPortEntityList::addUpdateCallback(DtPortEntityCallbackFunction callback, void* user)
+void DtReflectedPortEntityList::addUpdateCallback(
+    DtPortEntityCallbackFunction callback, void* user)
 {
     addCallback(Update, callback, user);
 }
 
-void DtReflectedPortEntityList::removeUpdateCallback(DtPortEntityCallbackFunction callback, void* user)
+void DtReflectedPortEntityList::removeUpdateCallback(
+    DtPortEntityCallbackFunction callback, void* user)
 {
     removeCallback(Update, callback, user);
 }
 
-void DtReflectedPortEntityList::addRemovalCallback(DtPortEntityCallbackFunction callback, void* user)
+void DtReflectedPortEntityList::addRemovalCallback(
+    DtPortEntityCallbackFunction callback, void* user)
 {
     addCallback(Removal, callback, user);
 }
 
-void DtReflectedPortEntityList::removeRemovalCallback(DtPortEntityCallbackFunction callback, void* user)
+void DtReflectedPortEntityList::removeRemovalCallback(
+    DtPortEntityCallbackFunction callback, void* user)
 {
     removeCallback(Removal, callback, user);
 }

@@ -15,7 +15,8 @@
 class DtReflectedTug__Pusher;
 typedef void (*DtTug__PusherCallbackFunction)(DtReflectedTug__Pusher* object, void* user);
 
-// A Tug__Pusher that someone else publishes. DtReflectedTug__PusherList makes it and keeps it up to date.
+// A Tug__Pusher that someone else publishes.
+// DtReflectedTug__PusherList makes it and keeps it up to date.
 class DT_DLL_CASE DtReflectedTug__Pusher : public DtHlaReflectedObject
 {
 public:

@@ -15,7 +15,8 @@
 class DtReflectedVessel;
 typedef void (*DtVesselCallbackFunction)(DtReflectedVessel* object, void* user);
 
-// A HLAobjectRoot.PortEntity.Vessel that someone else publishes. DtReflectedVesselList makes it and keeps it up to date.
+// A HLAobjectRoot.PortEntity.Vessel
+// that someone else publishes. DtReflectedVesselList makes it and keeps it up to date.
 class DT_DLL_CASE DtReflectedVessel : public DtDisReflectedObject
 {
 public:

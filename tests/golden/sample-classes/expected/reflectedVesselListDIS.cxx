@@ -15,7 +15,8 @@ DtReflectedVessel* DtReflectedVesselList::first() const
     return static_cast<DtReflectedVessel*>(findAfter(0));
 }
 
-DtReflectedVessel* DtReflectedVesselList::next(const DtReflectedVessel* object) const
+DtReflectedVessel*
+DtReflectedVesselList::next(const DtReflectedVessel* object) const
 {
     return static_cast<DtReflectedVessel*>(findAfter(object->objectId()));
 }
@@ -25,32 +26,38 @@ DtReflectedVessel* DtReflectedVesselList::lookup(DtExerciseObjectId id) const
     return static_cast<DtReflectedVessel*>(find(id));
 }
 
-void DtReflectedVesselList::addAdditionCallback(DtVesselCallbackFunction callback, void* user)
+void DtReflectedVesselList::addAdditionCallback(
+    DtVesselCallbackFunction callback, void* user)
 {
     addCallback(Addition, callback, user);
 }
 
-void DtReflectedVesselList::removeAdditionCallback(DtVesselCallbackFunction callback, void* user)
+void DtReflectedVesselList::removeAdditionCallback(
+    DtVesselCallbackFunction callback, void* user)
 {
     removeCallback(Addition, callback, user);
 }
 
-void DtReflectedVesselList::addUpdateCallback(DtVesselCallbackFunction callback, void* user)
+void DtReflectedVesselList::addUpdateCallback(
+    DtVesselCallbackFunction callback, void* user)
 {
     addCallback(Update, callback, user);
 }
 
-void DtReflectedVesselList::removeUpdateCallback(DtVesselCallbackFunction callback, void* user)
+void DtReflectedVesselList::removeUpdateCallback(
+    DtVesselCallbackFunction callback, void* user)
 {
     removeCallback(Update, callback, user);
 }
 
-void DtReflectedVesselList::addRemovalCallback(DtVesselCallbackFunction callback, void* user)
+void DtReflectedVesselList::addRemovalCallback(
+    DtVesselCallbackFunction callback, void* user)
 {
     addCallback(Removal, callback, user);
 }
 
-void DtReflectedVesselList::removeRemovalCallback(DtVesselCallbackFunction callback, void* user)
+void DtReflectedVesselList::removeRemovalCallback(
+    DtVesselCallbackFunction callback, void* user)
 {
     removeCallback(Removal, callback, user);
 }

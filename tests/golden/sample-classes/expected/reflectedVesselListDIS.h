@@ -12,7 +12,8 @@
 #include <memory>
 #include <string>
 
-// Every HLAobjectRoot.PortEntity.Vessel that others tell of by its kind of protocol data unit; a subclass has a list of its own. The
+// Every HLAobjectRoot.PortEntity.Vessel
+// that others tell of by its kind of protocol data unit; a subclass has a list of its own. The
 // connection must outlive the list.
 class DT_DLL_CASE DtReflectedVesselList : public DtDisReflectedList
 {

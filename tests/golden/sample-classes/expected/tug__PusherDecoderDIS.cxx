@@ -13,7 +13,8 @@ DtTug__PusherDecoder::DtTug__PusherDecoder()
     addCoder("Line__1", &DtTug__PusherDecoder::decodeLine__1);
     addCoder("Owner", &DtTug__PusherDecoder::decodeOwner);
 }
-bool DtTug__PusherDecoder::decodePull__Push(DtTug__PusherStateRepository& state, DtWireReader& reader)
+bool DtTug__PusherDecoder::decodePull__Push(
+    DtTug__PusherStateRepository& state, DtWireReader& reader)
 {
     const DtWireForm form = DtWireForm::number(8, DtLittleEndian);
     auto value = DtStartOf(state.pull__Push());
@@ -24,7 +25,8 @@ bool DtTug__PusherDecoder::decodePull__Push(DtTug__PusherStateRepository& state,
     state.setPull__Push(std::move(value));
     return true;
 }
-bool DtTug__PusherDecoder::decodeLine__1(DtTug__PusherStateRepository& state, DtWireReader& reader)
+bool DtTug__PusherDecoder::decodeLine__1(
+    DtTug__PusherStateRepository& state, DtWireReader& reader)
 {
     const DtWireForm form = DtWireForm();
     auto value = DtStartOf(state.line__1());
@@ -35,7 +37,8 @@ bool DtTug__PusherDecoder::decodeLine__1(DtTug__PusherStateRepository& state, Dt
     state.setLine__1(std::move(value));
     return true;
 }
-bool DtTug__PusherDecoder::decodeOwner(DtTug__PusherStateRepository& state, DtWireReader& reader)
+bool DtTug__PusherDecoder::decodeOwner(
+    DtTug__PusherStateRepository& state, DtWireReader& reader)
 {
     const DtWireForm form = DtWireForm("HLAASCIIstring", "", R"qx(HLAvariableArray)qx",
         -1 /* elements */, 0 /* octets */, 0 /* little-endian */);

@@ -8,7 +8,8 @@
 #include "tug__PusherStateRepository.h"
 #include "dllExport.h"
 
-// Sets the attributes of HLAobjectRoot.PortEntity.Vessel.Tug/Pusher and of its superclasses from the body of a protocol data unit.
+// Sets the attributes of HLAobjectRoot.PortEntity.Vessel.Tug/Pusher
+// and of its superclasses from the body of a protocol data unit.
 class DT_DLL_CASE DtTug__PusherDecoder : public DtVesselDecoder
 {
 public:
@@ -16,9 +17,12 @@ public:
 
 protected:
     // One for each attribute; false if the body holds no value of it.
-    static bool decodePull__Push(DtTug__PusherStateRepository& state, DtWireReader& reader);
-    static bool decodeLine__1(DtTug__PusherStateRepository& state, DtWireReader& reader);
-    static bool decodeOwner(DtTug__PusherStateRepository& state, DtWireReader& reader);
+    static bool decodePull__Push(
+        DtTug__PusherStateRepository& state, DtWireReader& reader);
+    static bool decodeLine__1(
+        DtTug__PusherStateRepository& state, DtWireReader& reader);
+    static bool decodeOwner(
+        DtTug__PusherStateRepository& state, DtWireReader& reader);
 };
 
 #endif

@@ -14,7 +14,8 @@ DtTug__PusherDecoder::DtTug__PusherDecoder()
     addCoder("Owner", &DtTug__PusherDecoder::decodeOwner);
 }
 
-bool DtTug__PusherDecoder::decodePull__Push(DtTug__PusherStateRepository& state, DtWireReader& reader)
+bool DtTug__PusherDecoder::decodePull__Push(
+    DtTug__PusherStateRepository& state, DtWireReader& reader)
 {
     const DtWireForm form = DtWireForm::number(8, DtLittleEndian);
     auto value = DtStartOf(state.pull__Push());
@@ -26,7 +27,8 @@ bool DtTug__PusherDecoder::decodePull__Push(DtTug__PusherStateRepository& state,
     return true;
 }
 
-bool DtTug__PusherDecoder::decodeLine__1(DtTug__PusherStateRepository& state, DtWireReader& reader)
+bool DtTug__PusherDecoder::decodeLine__1(
+    DtTug__PusherStateRepository& state, DtWireReader& reader)
 {
     const DtWireForm form = DtWireForm();
     auto value = DtStartOf(state.line__1());
@@ -38,7 +40,8 @@ bool DtTug__PusherDecoder::decodeLine__1(DtTug__PusherStateRepository& state, Dt
     return true;
 }
 
-bool DtTug__PusherDecoder::decodeOwner(DtTug__PusherStateRepository& state, DtWireReader& reader)
+bool DtTug__PusherDecoder::decodeOwner(
+    DtTug__PusherStateRepository& state, DtWireReader& reader)
 {
     const DtWireForm form = DtWireForm("HLAASCIIstring", "", R"qx(HLAvariableArray)qx",
         -1 /* elements */, 0 /* octets */, 0 /* little-endian */);

@@ -13,17 +13,20 @@ DtTug__PusherEncoder::DtTug__PusherEncoder()
     addCoder("Line__1", &DtTug__PusherEncoder::encodeLine__1);
     addCoder("Owner", &DtTug__PusherEncoder::encodeOwner);
 }
-bool DtTug__PusherEncoder::encodePull__Push(const DtTug__PusherStateRepository& state, DtWireWriter& writer)
+bool DtTug__PusherEncoder::encodePull__Push(
+    const DtTug__PusherStateRepository& state, DtWireWriter& writer)
 {
     const DtWireForm form = DtWireForm::number(8, DtLittleEndian);
     return DtWriteValue(writer, state.pull__Push(), form);
 }
-bool DtTug__PusherEncoder::encodeLine__1(const DtTug__PusherStateRepository& state, DtWireWriter& writer)
+bool DtTug__PusherEncoder::encodeLine__1(
+    const DtTug__PusherStateRepository& state, DtWireWriter& writer)
 {
     const DtWireForm form = DtWireForm();
     return DtWriteValue(writer, state.line__1(), form);
 }
-bool DtTug__PusherEncoder::encodeOwner(const DtTug__PusherStateRepository& state, DtWireWriter& writer)
+bool DtTug__PusherEncoder::encodeOwner(
+    const DtTug__PusherStateRepository& state, DtWireWriter& writer)
 {
     const DtWireForm form = DtWireForm("HLAASCIIstring", "", R"qx(HLAvariableArray)qx",
         -1 /* elements */, 0 /* octets */, 0 /* little-endian */);

@@ -8,7 +8,8 @@
 #include "tug__PusherStateRepository.h"
 #include "dllExport.h"
 
-// Puts the attributes of HLAobjectRoot.PortEntity.Vessel.Tug/Pusher into named buffers, behind those of its superclasses.
+// Puts the attributes of HLAobjectRoot.PortEntity.Vessel.Tug/Pusher
+// into named buffers, behind those of its superclasses.
 class DT_DLL_CASE DtTug__PusherEncoder
     : public DtVesselEncoder
 {
@@ -17,9 +18,12 @@ public:
 
 protected:
     // One for each attribute; false if the value has no wire form.
-    static bool encodePull__Push(const DtTug__PusherStateRepository& state, DtWireWriter& writer);
-    static bool encodeLine__1(const DtTug__PusherStateRepository& state, DtWireWriter& writer);
-    static bool encodeOwner(const DtTug__PusherStateRepository& state, DtWireWriter& writer);
+    static bool encodePull__Push(
+        const DtTug__PusherStateRepository& state, DtWireWriter& writer);
+    static bool encodeLine__1(
+        const DtTug__PusherStateRepository& state, DtWireWriter& writer);
+    static bool encodeOwner(
+        const DtTug__PusherStateRepository& state, DtWireWriter& writer);
 };
 
 #endif

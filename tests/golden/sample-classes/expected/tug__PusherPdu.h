@@ -8,7 +8,8 @@
 #include "netTug__PusherPdu.h"
 #include "dllExport.h"
 
-// The protocol data unit that tells the whole state of a HLAobjectRoot.PortEntity.Vessel.Tug/Pusher.
+// The protocol data unit that tells the whole state of a
+// HLAobjectRoot.PortEntity.Vessel.Tug/Pusher.
 class DT_DLL_CASE DtTug__PusherPdu : public DtVesselPdu
 {
 public:

@@ -13,7 +13,8 @@ void DtTug__PusherStateRepository::setPull__Push(const ValueOfPull__Push& value)
     DtStateRepository::markChanged("Pull__Push");
 }
 
-const DtTug__PusherStateRepository::ValueOfPull__Push& DtTug__PusherStateRepository::pull__Push() const
+const DtTug__PusherStateRepository::ValueOfPull__Push&
+DtTug__PusherStateRepository::pull__Push() const
 {
     return Own.myPull__Push;
 }
@@ -24,7 +25,8 @@ void DtTug__PusherStateRepository::setLine__1(const ValueOfLine__1& value)
     DtStateRepository::markChanged("Line__1");
 }
 
-const DtTug__PusherStateRepository::ValueOfLine__1& DtTug__PusherStateRepository::line__1() const
+const DtTug__PusherStateRepository::ValueOfLine__1&
+DtTug__PusherStateRepository::line__1() const
 {
     return Own.myLine__1;
 }
@@ -41,7 +43,8 @@ void DtTug__PusherStateRepository::setOwner(ValueOfOwner&& value)
     DtStateRepository::markChanged("Owner");
 }
 
-const DtTug__PusherStateRepository::ValueOfOwner& DtTug__PusherStateRepository::owner() const
+const DtTug__PusherStateRepository::ValueOfOwner&
+DtTug__PusherStateRepository::owner() const
 {
     return Own.myOwner;
 }

@@ -18,7 +18,8 @@ enum class DtLineState32 : DtInt64;
 DT_DLL_CASE DtEnumeratorTable DtEnumeratorsOf(DtLineState32);
 DT_DLL_CASE std::ostream& operator<<(std::ostream& out, DtLineState32 value);
 
-// The attribute values of one PortEntity.Vessel.Tug/Pusher: its own here, those of its superclasses in the bases.
+// The attribute values of one PortEntity.Vessel.Tug/Pusher:
+// its own here, those of its superclasses in the bases.
 /// Moves other ships.
 class DT_DLL_CASE DtTug__PusherStateRepository
     : public DtVesselStateRepository

@@ -17,7 +17,8 @@ DtVesselDecoder::DtVesselDecoder()
     addCoder("Template", &DtVesselDecoder::decodeTheTemplate);
     addCoder("Crew", &DtVesselDecoder::decodeCrew);
 }
-bool DtVesselDecoder::decodeSpeed(DtVesselStateRepository& state, DtWireReader& reader)
+bool DtVesselDecoder::decodeSpeed(
+    DtVesselStateRepository& state, DtWireReader& reader)
 {
     const DtWireForm form = DtWireForm::number(4);
     auto value = DtStartOf(state.speed());
@@ -28,7 +29,8 @@ bool DtVesselDecoder::decodeSpeed(DtVesselStateRepository& state, DtWireReader& 
     state.setSpeed(std::move(value));
     return true;
 }
-bool DtVesselDecoder::decodeHeading__True(DtVesselStateRepository& state, DtWireReader& reader)
+bool DtVesselDecoder::decodeHeading__True(
+    DtVesselStateRepository& state, DtWireReader& reader)
 {
     const DtWireForm form = DtWireForm::number(8);
     auto value = DtStartOf(state.heading__True());
@@ -39,7 +41,8 @@ bool DtVesselDecoder::decodeHeading__True(DtVesselStateRepository& state, DtWire
     state.setHeading__True(std::move(value));
     return true;
 }
-bool DtVesselDecoder::decodeState(DtVesselStateRepository& state, DtWireReader& reader)
+bool DtVesselDecoder::decodeState(
+    DtVesselStateRepository& state, DtWireReader& reader)
 {
     const DtWireForm form = DtWireForm();
     auto value = DtStartOf(state.state());
@@ -50,7 +53,8 @@ bool DtVesselDecoder::decodeState(DtVesselStateRepository& state, DtWireReader& 
     state.setState(std::move(value));
     return true;
 }
-bool DtVesselDecoder::decodeTheClass(DtVesselStateRepository& state, DtWireReader& reader)
+bool DtVesselDecoder::decodeTheClass(
+    DtVesselStateRepository& state, DtWireReader& reader)
 {
     const DtWireForm form = DtWireForm("HLAunicodeString", "", R"qx(HLAvariableArray)qx",
         -1 /* elements */, 0 /* octets */, 0 /* little-endian */);
@@ -62,7 +66,8 @@ bool DtVesselDecoder::decodeTheClass(DtVesselStateRepository& state, DtWireReade
     state.setTheClass(std::move(value));
     return true;
 }
-bool DtVesselDecoder::decodeTheInt(DtVesselStateRepository& state, DtWireReader& reader)
+bool DtVesselDecoder::decodeTheInt(
+    DtVesselStateRepository& state, DtWireReader& reader)
 {
     const DtWireForm form = DtWireForm::number(4);
     auto value = DtStartOf(state.theInt());
@@ -73,7 +78,8 @@ bool DtVesselDecoder::decodeTheInt(DtVesselStateRepository& state, DtWireReader&
     state.setTheInt(std::move(value));
     return true;
 }
-bool DtVesselDecoder::decodeTheTemplate(DtVesselStateRepository& state, DtWireReader& reader)
+bool DtVesselDecoder::decodeTheTemplate(
+    DtVesselStateRepository& state, DtWireReader& reader)
 {
     const DtWireForm form = DtWireForm();
     auto value = DtStartOf(state.theTemplate());
@@ -84,7 +90,8 @@ bool DtVesselDecoder::decodeTheTemplate(DtVesselStateRepository& state, DtWireRe
     state.setTheTemplate(std::move(value));
     return true;
 }
-bool DtVesselDecoder::decodeCrew(DtVesselStateRepository& state, DtWireReader& reader)
+bool DtVesselDecoder::decodeCrew(
+    DtVesselStateRepository& state, DtWireReader& reader)
 {
     const DtWireForm form = DtWireForm();
     auto value = DtStartOf(state.crew());

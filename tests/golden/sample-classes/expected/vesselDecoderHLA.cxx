@@ -18,7 +18,8 @@ DtVesselDecoder::DtVesselDecoder()
     addCoder("Crew", &DtVesselDecoder::decodeCrew);
 }
 
-bool DtVesselDecoder::decodeSpeed(DtVesselStateRepository& state, DtWireReader& reader)
+bool DtVesselDecoder::decodeSpeed(
+    DtVesselStateRepository& state, DtWireReader& reader)
 {
     const DtWireForm form = DtWireForm::number(4);
     auto value = DtStartOf(state.speed());
@@ -30,7 +31,8 @@ bool DtVesselDecoder::decodeSpeed(DtVesselStateRepository& state, DtWireReader& 
     return true;
 }
 
-bool DtVesselDecoder::decodeHeading__True(DtVesselStateRepository& state, DtWireReader& reader)
+bool DtVesselDecoder::decodeHeading__True(
+    DtVesselStateRepository& state, DtWireReader& reader)
 {
     const DtWireForm form = DtWireForm::number(8);
     auto value = DtStartOf(state.heading__True());
@@ -42,7 +44,8 @@ bool DtVesselDecoder::decodeHeading__True(DtVesselStateRepository& state, DtWire
     return true;
 }
 
-bool DtVesselDecoder::decodeState(DtVesselStateRepository& state, DtWireReader& reader)
+bool DtVesselDecoder::decodeState(
+    DtVesselStateRepository& state, DtWireReader& reader)
 {
     const DtWireForm form = DtWireForm();
     auto value = DtStartOf(state.state());
@@ -54,7 +57,8 @@ bool DtVesselDecoder::decodeState(DtVesselStateRepository& state, DtWireReader& 
     return true;
 }
 
-bool DtVesselDecoder::decodeTheClass(DtVesselStateRepository& state, DtWireReader& reader)
+bool DtVesselDecoder::decodeTheClass(
+    DtVesselStateRepository& state, DtWireReader& reader)
 {
     const DtWireForm form = DtWireForm("HLAunicodeString", "", R"qx(HLAvariableArray)qx",
         -1 /* elements */, 0 /* octets */, 0 /* little-endian */);
@@ -67,7 +71,8 @@ bool DtVesselDecoder::decodeTheClass(DtVesselStateRepository& state, DtWireReade
     return true;
 }
 
-bool DtVesselDecoder::decodeTheInt(DtVesselStateRepository& state, DtWireReader& reader)
+bool DtVesselDecoder::decodeTheInt(
+    DtVesselStateRepository& state, DtWireReader& reader)
 {
     const DtWireForm form = DtWireForm::number(4);
     auto value = DtStartOf(state.theInt());
@@ -79,7 +84,8 @@ bool DtVesselDecoder::decodeTheInt(DtVesselStateRepository& state, DtWireReader&
     return true;
 }
 
-bool DtVesselDecoder::decodeTheTemplate(DtVesselStateRepository& state, DtWireReader& reader)
+bool DtVesselDecoder::decodeTheTemplate(
+    DtVesselStateRepository& state, DtWireReader& reader)
 {
     const DtWireForm form = DtWireForm();
     auto value = DtStartOf(state.theTemplate());
@@ -91,7 +97,8 @@ bool DtVesselDecoder::decodeTheTemplate(DtVesselStateRepository& state, DtWireRe
     return true;
 }
 
-bool DtVesselDecoder::decodeCrew(DtVesselStateRepository& state, DtWireReader& reader)
+bool DtVesselDecoder::decodeCrew(
+    DtVesselStateRepository& state, DtWireReader& reader)
 {
     const DtWireForm form = DtWireForm();
     auto value = DtStartOf(state.crew());

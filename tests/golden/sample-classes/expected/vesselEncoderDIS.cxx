@@ -17,38 +17,45 @@ DtVesselEncoder::DtVesselEncoder()
     addCoder("Template", &DtVesselEncoder::encodeTheTemplate);
     addCoder("Crew", &DtVesselEncoder::encodeCrew);
 }
-bool DtVesselEncoder::encodeSpeed(const DtVesselStateRepository& state, DtWireWriter& writer)
+bool DtVesselEncoder::encodeSpeed(
+    const DtVesselStateRepository& state, DtWireWriter& writer)
 {
     const DtWireForm form = DtWireForm::number(4);
     return DtWriteValue(writer, state.speed(), form);
 }
-bool DtVesselEncoder::encodeHeading__True(const DtVesselStateRepository& state, DtWireWriter& writer)
+bool DtVesselEncoder::encodeHeading__True(
+    const DtVesselStateRepository& state, DtWireWriter& writer)
 {
     const DtWireForm form = DtWireForm::number(8);
     return DtWriteValue(writer, state.heading__True(), form);
 }
-bool DtVesselEncoder::encodeState(const DtVesselStateRepository& state, DtWireWriter& writer)
+bool DtVesselEncoder::encodeState(
+    const DtVesselStateRepository& state, DtWireWriter& writer)
 {
     const DtWireForm form = DtWireForm();
     return DtWriteValue(writer, state.state(), form);
 }
-bool DtVesselEncoder::encodeTheClass(const DtVesselStateRepository& state, DtWireWriter& writer)
+bool DtVesselEncoder::encodeTheClass(
+    const DtVesselStateRepository& state, DtWireWriter& writer)
 {
     const DtWireForm form = DtWireForm("HLAunicodeString", "", R"qx(HLAvariableArray)qx",
         -1 /* elements */, 0 /* octets */, 0 /* little-endian */);
     return DtWriteValue(writer, state.theClass(), form);
 }
-bool DtVesselEncoder::encodeTheInt(const DtVesselStateRepository& state, DtWireWriter& writer)
+bool DtVesselEncoder::encodeTheInt(
+    const DtVesselStateRepository& state, DtWireWriter& writer)
 {
     const DtWireForm form = DtWireForm::number(4);
     return DtWriteValue(writer, state.theInt(), form);
 }
-bool DtVesselEncoder::encodeTheTemplate(const DtVesselStateRepository& state, DtWireWriter& writer)
+bool DtVesselEncoder::encodeTheTemplate(
+    const DtVesselStateRepository& state, DtWireWriter& writer)
 {
     const DtWireForm form = DtWireForm();
     return DtWriteValue(writer, state.theTemplate(), form);
 }
-bool DtVesselEncoder::encodeCrew(const DtVesselStateRepository& state, DtWireWriter& writer)
+bool DtVesselEncoder::encodeCrew(
+    const DtVesselStateRepository& state, DtWireWriter& writer)
 {
     const DtWireForm form = DtWireForm();
     return DtWriteValue(writer, state.crew(), form);

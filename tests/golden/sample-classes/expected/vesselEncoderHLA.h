@@ -8,7 +8,8 @@
 #include "vesselStateRepository.h"
 #include "dllExport.h"
 
-// Puts the attributes of HLAobjectRoot.PortEntity.Vessel into named buffers, behind those of its superclasses.
+// Puts the attributes of HLAobjectRoot.PortEntity.Vessel
+// into named buffers, behind those of its superclasses.
 class DT_DLL_CASE DtVesselEncoder
     : public DtPortEntityEncoder
 {
@@ -17,13 +18,20 @@ public:
 
 protected:
     // One for each attribute; false if the value has no wire form.
-    static bool encodeSpeed(const DtVesselStateRepository& state, DtWireWriter& writer);
-    static bool encodeHeading__True(const DtVesselStateRepository& state, DtWireWriter& writer);
-    static bool encodeState(const DtVesselStateRepository& state, DtWireWriter& writer);
-    static bool encodeTheClass(const DtVesselStateRepository& state, DtWireWriter& writer);
-    static bool encodeTheInt(const DtVesselStateRepository& state, DtWireWriter& writer);
-    static bool encodeTheTemplate(const DtVesselStateRepository& state, DtWireWriter& writer);
-    static bool encodeCrew(const DtVesselStateRepository& state, DtWireWriter& writer);
+    static bool encodeSpeed(
+        const DtVesselStateRepository& state, DtWireWriter& writer);
+    static bool encodeHeading__True(
+        const DtVesselStateRepository& state, DtWireWriter& writer);
+    static bool encodeState(
+        const DtVesselStateRepository& state, DtWireWriter& writer);
+    static bool encodeTheClass(
+        const DtVesselStateRepository& state, DtWireWriter& writer);
+    static bool encodeTheInt(
+        const DtVesselStateRepository& state, DtWireWriter& writer);
+    static bool encodeTheTemplate(
+        const DtVesselStateRepository& state, DtWireWriter& writer);
+    static bool encodeCrew(
+        const DtVesselStateRepository& state, DtWireWriter& writer);
 };
 
 #endif

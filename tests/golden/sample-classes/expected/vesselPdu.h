@@ -8,7 +8,8 @@
 #include "netVesselPdu.h"
 #include "dllExport.h"
 
-// The protocol data unit that tells the whole state of a HLAobjectRoot.PortEntity.Vessel.
+// The protocol data unit that tells the whole state of a
+// HLAobjectRoot.PortEntity.Vessel.
 class DT_DLL_CASE DtVesselPdu : public DtPortEntityPdu
 {
 public:

@@ -12,7 +12,8 @@
 
 #include <string>
 
-// Publishes one PortEntity.Vessel as protocol data units: set attributes in its state, and call tick() again and again.
+// Publishes one PortEntity.Vessel
+// as protocol data units: set attributes in its state, and call tick() again and again.
 class DT_DLL_CASE DtVesselPublisher : public DtDisPublisherBase
 {
 public:

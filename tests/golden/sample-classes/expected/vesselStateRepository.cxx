@@ -13,7 +13,8 @@ void DtVesselStateRepository::setSpeed(const ValueOfSpeed& value)
     DtStateRepository::markChanged("Speed");
 }
 
-const DtVesselStateRepository::ValueOfSpeed& DtVesselStateRepository::speed() const
+const DtVesselStateRepository::ValueOfSpeed&
+DtVesselStateRepository::speed() const
 {
     return Own.mySpeed;
 }
@@ -24,7 +25,8 @@ void DtVesselStateRepository::setHeading__True(const ValueOfHeading__True& value
     DtStateRepository::markChanged("Heading__True");
 }
 
-const DtVesselStateRepository::ValueOfHeading__True& DtVesselStateRepository::heading__True() const
+const DtVesselStateRepository::ValueOfHeading__True&
+DtVesselStateRepository::heading__True() const
 {
     return Own.myHeading__True;
 }
@@ -35,7 +37,8 @@ void DtVesselStateRepository::setState(const ValueOfState& value)
     DtStateRepository::markChanged("State");
 }
 
-const DtVesselStateRepository::ValueOfState& DtVesselStateRepository::state() const
+const DtVesselStateRepository::ValueOfState&
+DtVesselStateRepository::state() const
 {
     return Own.myState;
 }
@@ -52,7 +55,8 @@ void DtVesselStateRepository::setTheClass(ValueOfTheClass&& value)
     DtStateRepository::markChanged("_class");
 }
 
-const DtVesselStateRepository::ValueOfTheClass& DtVesselStateRepository::theClass() const
+const DtVesselStateRepository::ValueOfTheClass&
+DtVesselStateRepository::theClass() const
 {
     return Own.myTheClass;
 }
@@ -63,7 +67,8 @@ void DtVesselStateRepository::setTheInt(const ValueOfTheInt& value)
     DtStateRepository::markChanged("int");
 }
 
-const DtVesselStateRepository::ValueOfTheInt& DtVesselStateRepository::theInt() const
+const DtVesselStateRepository::ValueOfTheInt&
+DtVesselStateRepository::theInt() const
 {
     return Own.myTheInt;
 }
@@ -74,7 +79,8 @@ void DtVesselStateRepository::setTheTemplate(const ValueOfTheTemplate& value)
     DtStateRepository::markChanged("Template");
 }
 
-const DtVesselStateRepository::ValueOfTheTemplate& DtVesselStateRepository::theTemplate() const
+const DtVesselStateRepository::ValueOfTheTemplate&
+DtVesselStateRepository::theTemplate() const
 {
     return Own.myTheTemplate;
 }
@@ -91,7 +97,8 @@ void DtVesselStateRepository::setCrew(ValueOfCrew&& value)
     DtStateRepository::markChanged("Crew");
 }
 
-const DtVesselStateRepository::ValueOfCrew& DtVesselStateRepository::crew() const
+const DtVesselStateRepository::ValueOfCrew&
+DtVesselStateRepository::crew() const
 {
     return Own.myCrew;
 }

@@ -23,7 +23,8 @@ enum class DtVesselState16 : DtInt64;
 DT_DLL_CASE DtEnumeratorTable DtEnumeratorsOf(DtVesselState16);
 DT_DLL_CASE std::ostream& operator<<(std::ostream& out, DtVesselState16 value);
 
-// The attribute values of one PortEntity.Vessel: its own here, those of its superclasses in the bases.
+// The attribute values of one PortEntity.Vessel:
+// its own here, those of its superclasses in the bases.
 /// Anything that floats.
 class DT_DLL_CASE DtVesselStateRepository
     : public DtPortEntityStateRepository

@@ -54,7 +54,8 @@ DtBeaconDecoder::DtBeaconDecoder()
     addCoder("Doors", &DtBeaconDecoder::decodeDoors);
 }
 
-bool DtBeaconDecoder::decodeLamp(DtBeaconStateRepository& state, DtWireReader& reader)
+bool DtBeaconDecoder::decodeLamp(
+    DtBeaconStateRepository& state, DtWireReader& reader)
 {
     const DtWireForm form = DtWireForm();
     auto value = DtStartOf(state.lamp());
@@ -66,7 +67,8 @@ bool DtBeaconDecoder::decodeLamp(DtBeaconStateRepository& state, DtWireReader& r
     return true;
 }
 
-bool DtBeaconDecoder::decodeLamps(DtBeaconStateRepository& state, DtWireReader& reader)
+bool DtBeaconDecoder::decodeLamps(
+    DtBeaconStateRepository& state, DtWireReader& reader)
 {
     const DtWireForm form = DtWireForm();
     auto value = DtStartOf(state.lamps());
@@ -78,7 +80,8 @@ bool DtBeaconDecoder::decodeLamps(DtBeaconStateRepository& state, DtWireReader& 
     return true;
 }
 
-bool DtBeaconDecoder::decodeSector(DtBeaconStateRepository& state, DtWireReader& reader)
+bool DtBeaconDecoder::decodeSector(
+    DtBeaconStateRepository& state, DtWireReader& reader)
 {
     const DtWireForm form = DtWireForm();
     auto value = DtStartOf(state.sector());
@@ -90,7 +93,8 @@ bool DtBeaconDecoder::decodeSector(DtBeaconStateRepository& state, DtWireReader&
     return true;
 }
 
-bool DtBeaconDecoder::decodeCallSign(DtBeaconStateRepository& state, DtWireReader& reader)
+bool DtBeaconDecoder::decodeCallSign(
+    DtBeaconStateRepository& state, DtWireReader& reader)
 {
     const DtWireForm form = DtWireForm();
     auto value = DtStartOf(state.callSign());
@@ -102,7 +106,8 @@ bool DtBeaconDecoder::decodeCallSign(DtBeaconStateRepository& state, DtWireReade
     return true;
 }
 
-bool DtBeaconDecoder::decodeTemperature(DtBeaconStateRepository& state, DtWireReader& reader)
+bool DtBeaconDecoder::decodeTemperature(
+    DtBeaconStateRepository& state, DtWireReader& reader)
 {
     const DtWireForm form = DtWireForm();
     auto value = DtStartOf(state.temperature());
@@ -114,7 +119,8 @@ bool DtBeaconDecoder::decodeTemperature(DtBeaconStateRepository& state, DtWireRe
     return true;
 }
 
-bool DtBeaconDecoder::decodeTilt(DtBeaconStateRepository& state, DtWireReader& reader)
+bool DtBeaconDecoder::decodeTilt(
+    DtBeaconStateRepository& state, DtWireReader& reader)
 {
     const DtWireForm form = DtWireForm();
     auto value = DtStartOf(state.tilt());
@@ -126,7 +132,8 @@ bool DtBeaconDecoder::decodeTilt(DtBeaconStateRepository& state, DtWireReader& r
     return true;
 }
 
-bool DtBeaconDecoder::decodeTilts(DtBeaconStateRepository& state, DtWireReader& reader)
+bool DtBeaconDecoder::decodeTilts(
+    DtBeaconStateRepository& state, DtWireReader& reader)
 {
     const DtWireForm form = DtWireForm();
     auto value = DtStartOf(state.tilts());
@@ -138,7 +145,8 @@ bool DtBeaconDecoder::decodeTilts(DtBeaconStateRepository& state, DtWireReader& 
     return true;
 }
 
-bool DtBeaconDecoder::decodeTheRegister(DtBeaconStateRepository& state, DtWireReader& reader)
+bool DtBeaconDecoder::decodeTheRegister(
+    DtBeaconStateRepository& state, DtWireReader& reader)
 {
     const DtWireForm form = DtWireForm();
     auto value = DtStartOf(state.theRegister());
@@ -150,7 +158,8 @@ bool DtBeaconDecoder::decodeTheRegister(DtBeaconStateRepository& state, DtWireRe
     return true;
 }
 
-bool DtBeaconDecoder::decodeMark(DtBeaconStateRepository& state, DtWireReader& reader)
+bool DtBeaconDecoder::decodeMark(
+    DtBeaconStateRepository& state, DtWireReader& reader)
 {
     const DtWireForm form = DtWireForm::number(2);
     auto value = DtStartOf(state.mark());
@@ -162,7 +171,8 @@ bool DtBeaconDecoder::decodeMark(DtBeaconStateRepository& state, DtWireReader& r
     return true;
 }
 
-bool DtBeaconDecoder::decodeImage(DtBeaconStateRepository& state, DtWireReader& reader)
+bool DtBeaconDecoder::decodeImage(
+    DtBeaconStateRepository& state, DtWireReader& reader)
 {
     const DtWireForm form = DtWireForm("HLAopaqueData", "", R"qx(HLAvariableArray)qx",
         -1 /* elements */, 0 /* octets */, 0 /* little-endian */);
@@ -175,7 +185,8 @@ bool DtBeaconDecoder::decodeImage(DtBeaconStateRepository& state, DtWireReader& 
     return true;
 }
 
-bool DtBeaconDecoder::decodeTested(DtBeaconStateRepository& state, DtWireReader& reader)
+bool DtBeaconDecoder::decodeTested(
+    DtBeaconStateRepository& state, DtWireReader& reader)
 {
     const DtWireForm form = DtWireForm::number(1);
     auto value = DtStartOf(state.tested());
@@ -187,7 +198,8 @@ bool DtBeaconDecoder::decodeTested(DtBeaconStateRepository& state, DtWireReader&
     return true;
 }
 
-bool DtBeaconDecoder::decodeManned(DtBeaconStateRepository& state, DtWireReader& reader)
+bool DtBeaconDecoder::decodeManned(
+    DtBeaconStateRepository& state, DtWireReader& reader)
 {
     const DtWireForm form = DtWireForm::number(2);
     auto value = DtStartOf(state.manned());
@@ -199,7 +211,8 @@ bool DtBeaconDecoder::decodeManned(DtBeaconStateRepository& state, DtWireReader&
     return true;
 }
 
-bool DtBeaconDecoder::decodeNeighbours(DtBeaconStateRepository& state, DtWireReader& reader)
+bool DtBeaconDecoder::decodeNeighbours(
+    DtBeaconStateRepository& state, DtWireReader& reader)
 {
     const DtWireForm form = DtWireForm();
     auto value = DtStartOf(state.neighbours());
@@ -211,7 +224,8 @@ bool DtBeaconDecoder::decodeNeighbours(DtBeaconStateRepository& state, DtWireRea
     return true;
 }
 
-bool DtBeaconDecoder::decodeSights(DtBeaconStateRepository& state, DtWireReader& reader)
+bool DtBeaconDecoder::decodeSights(
+    DtBeaconStateRepository& state, DtWireReader& reader)
 {
     const DtWireForm form = DtWireForm();
     auto value = DtStartOf(state.sights());
@@ -223,7 +237,8 @@ bool DtBeaconDecoder::decodeSights(DtBeaconStateRepository& state, DtWireReader&
     return true;
 }
 
-bool DtBeaconDecoder::decodeZone(DtBeaconStateRepository& state, DtWireReader& reader)
+bool DtBeaconDecoder::decodeZone(
+    DtBeaconStateRepository& state, DtWireReader& reader)
 {
     const DtWireForm form = DtWireForm();
     auto value = DtStartOf(state.zone());
@@ -235,7 +250,8 @@ bool DtBeaconDecoder::decodeZone(DtBeaconStateRepository& state, DtWireReader& r
     return true;
 }
 
-bool DtBeaconDecoder::decodeCurrent(DtBeaconStateRepository& state, DtWireReader& reader)
+bool DtBeaconDecoder::decodeCurrent(
+    DtBeaconStateRepository& state, DtWireReader& reader)
 {
     const DtWireForm form = DtWireForm();
     auto value = DtStartOf(state.current());
@@ -247,7 +263,8 @@ bool DtBeaconDecoder::decodeCurrent(DtBeaconStateRepository& state, DtWireReader
     return true;
 }
 
-bool DtBeaconDecoder::decodeWatch(DtBeaconStateRepository& state, DtWireReader& reader)
+bool DtBeaconDecoder::decodeWatch(
+    DtBeaconStateRepository& state, DtWireReader& reader)
 {
     const DtWireForm form = DtWireForm();
     auto value = DtStartOf(state.watch());
@@ -259,7 +276,8 @@ bool DtBeaconDecoder::decodeWatch(DtBeaconStateRepository& state, DtWireReader& 
     return true;
 }
 
-bool DtBeaconDecoder::decodeCalls(DtBeaconStateRepository& state, DtWireReader& reader)
+bool DtBeaconDecoder::decodeCalls(
+    DtBeaconStateRepository& state, DtWireReader& reader)
 {
     const DtWireForm form = DtWireForm();
     auto value = DtStartOf(state.calls());
@@ -271,7 +289,8 @@ bool DtBeaconDecoder::decodeCalls(DtBeaconStateRepository& state, DtWireReader& 
     return true;
 }
 
-bool DtBeaconDecoder::decodeFix(DtBeaconStateRepository& state, DtWireReader& reader)
+bool DtBeaconDecoder::decodeFix(
+    DtBeaconStateRepository& state, DtWireReader& reader)
 {
     const DtWireForm form = DtWireForm();
     auto value = DtStartOf(state.fix());
@@ -283,7 +302,8 @@ bool DtBeaconDecoder::decodeFix(DtBeaconStateRepository& state, DtWireReader& re
     return true;
 }
 
-bool DtBeaconDecoder::decodeTest(DtBeaconStateRepository& state, DtWireReader& reader)
+bool DtBeaconDecoder::decodeTest(
+    DtBeaconStateRepository& state, DtWireReader& reader)
 {
     const DtWireForm form = DtWireForm();
     auto value = DtStartOf(state.test());
@@ -295,7 +315,8 @@ bool DtBeaconDecoder::decodeTest(DtBeaconStateRepository& state, DtWireReader& r
     return true;
 }
 
-bool DtBeaconDecoder::decodePass(DtBeaconStateRepository& state, DtWireReader& reader)
+bool DtBeaconDecoder::decodePass(
+    DtBeaconStateRepository& state, DtWireReader& reader)
 {
     const DtWireForm form = DtWireForm();
     auto value = DtStartOf(state.pass());
@@ -307,7 +328,8 @@ bool DtBeaconDecoder::decodePass(DtBeaconStateRepository& state, DtWireReader& r
     return true;
 }
 
-bool DtBeaconDecoder::decodeCondition(DtBeaconStateRepository& state, DtWireReader& reader)
+bool DtBeaconDecoder::decodeCondition(
+    DtBeaconStateRepository& state, DtWireReader& reader)
 {
     const DtWireForm form = DtWireForm();
     auto value = DtStartOf(state.condition());
@@ -319,7 +341,8 @@ bool DtBeaconDecoder::decodeCondition(DtBeaconStateRepository& state, DtWireRead
     return true;
 }
 
-bool DtBeaconDecoder::decodeSurvey(DtBeaconStateRepository& state, DtWireReader& reader)
+bool DtBeaconDecoder::decodeSurvey(
+    DtBeaconStateRepository& state, DtWireReader& reader)
 {
     const DtWireForm form = DtWireForm();
     auto value = DtStartOf(state.survey());
@@ -331,7 +354,8 @@ bool DtBeaconDecoder::decodeSurvey(DtBeaconStateRepository& state, DtWireReader&
     return true;
 }
 
-bool DtBeaconDecoder::decodeGear(DtBeaconStateRepository& state, DtWireReader& reader)
+bool DtBeaconDecoder::decodeGear(
+    DtBeaconStateRepository& state, DtWireReader& reader)
 {
     const DtWireForm form = DtWireForm();
     auto value = DtStartOf(state.gear());
@@ -343,7 +367,8 @@ bool DtBeaconDecoder::decodeGear(DtBeaconStateRepository& state, DtWireReader& r
     return true;
 }
 
-bool DtBeaconDecoder::decodeRule(DtBeaconStateRepository& state, DtWireReader& reader)
+bool DtBeaconDecoder::decodeRule(
+    DtBeaconStateRepository& state, DtWireReader& reader)
 {
     const DtWireForm form = DtWireForm();
     auto value = DtStartOf(state.rule());
@@ -355,7 +380,8 @@ bool DtBeaconDecoder::decodeRule(DtBeaconStateRepository& state, DtWireReader& r
     return true;
 }
 
-bool DtBeaconDecoder::decodePaper(DtBeaconStateRepository& state, DtWireReader& reader)
+bool DtBeaconDecoder::decodePaper(
+    DtBeaconStateRepository& state, DtWireReader& reader)
 {
     const DtWireForm form = DtWireForm();
     auto value = DtStartOf(state.paper());
@@ -367,7 +393,8 @@ bool DtBeaconDecoder::decodePaper(DtBeaconStateRepository& state, DtWireReader& 
     return true;
 }
 
-bool DtBeaconDecoder::decodeTimes(DtBeaconStateRepository& state, DtWireReader& reader)
+bool DtBeaconDecoder::decodeTimes(
+    DtBeaconStateRepository& state, DtWireReader& reader)
 {
     const DtWireForm form = DtWireForm();
     auto value = DtStartOf(state.times());
@@ -379,7 +406,8 @@ bool DtBeaconDecoder::decodeTimes(DtBeaconStateRepository& state, DtWireReader& 
     return true;
 }
 
-bool DtBeaconDecoder::decodeChambers(DtBeaconStateRepository& state, DtWireReader& reader)
+bool DtBeaconDecoder::decodeChambers(
+    DtBeaconStateRepository& state, DtWireReader& reader)
 {
     const DtWireForm form = DtWireForm();
     auto value = DtStartOf(state.chambers());
@@ -391,7 +419,8 @@ bool DtBeaconDecoder::decodeChambers(DtBeaconStateRepository& state, DtWireReade
     return true;
 }
 
-bool DtBeaconDecoder::decodeRemark(DtBeaconStateRepository& state, DtWireReader& reader)
+bool DtBeaconDecoder::decodeRemark(
+    DtBeaconStateRepository& state, DtWireReader& reader)
 {
     const DtWireForm form = DtWireForm();
     auto value = DtStartOf(state.remark());
@@ -403,7 +432,8 @@ bool DtBeaconDecoder::decodeRemark(DtBeaconStateRepository& state, DtWireReader&
     return true;
 }
 
-bool DtBeaconDecoder::decodeDraughts(DtBeaconStateRepository& state, DtWireReader& reader)
+bool DtBeaconDecoder::decodeDraughts(
+    DtBeaconStateRepository& state, DtWireReader& reader)
 {
     const DtWireForm form = DtWireForm();
     auto value = DtStartOf(state.draughts());
@@ -415,7 +445,8 @@ bool DtBeaconDecoder::decodeDraughts(DtBeaconStateRepository& state, DtWireReade
     return true;
 }
 
-bool DtBeaconDecoder::decodeRing(DtBeaconStateRepository& state, DtWireReader& reader)
+bool DtBeaconDecoder::decodeRing(
+    DtBeaconStateRepository& state, DtWireReader& reader)
 {
     const DtWireForm form = DtWireForm();
     auto value = DtStartOf(state.ring());
@@ -427,7 +458,8 @@ bool DtBeaconDecoder::decodeRing(DtBeaconStateRepository& state, DtWireReader& r
     return true;
 }
 
-bool DtBeaconDecoder::decodeLines(DtBeaconStateRepository& state, DtWireReader& reader)
+bool DtBeaconDecoder::decodeLines(
+    DtBeaconStateRepository& state, DtWireReader& reader)
 {
     const DtWireForm form = DtWireForm();
     auto value = DtStartOf(state.lines());
@@ -439,7 +471,8 @@ bool DtBeaconDecoder::decodeLines(DtBeaconStateRepository& state, DtWireReader& 
     return true;
 }
 
-bool DtBeaconDecoder::decodeDeep(DtBeaconStateRepository& state, DtWireReader& reader)
+bool DtBeaconDecoder::decodeDeep(
+    DtBeaconStateRepository& state, DtWireReader& reader)
 {
     const DtWireForm form = DtWireForm();
     auto value = DtStartOf(state.deep());
@@ -451,7 +484,8 @@ bool DtBeaconDecoder::decodeDeep(DtBeaconStateRepository& state, DtWireReader& r
     return true;
 }
 
-bool DtBeaconDecoder::decodeSlack(DtBeaconStateRepository& state, DtWireReader& reader)
+bool DtBeaconDecoder::decodeSlack(
+    DtBeaconStateRepository& state, DtWireReader& reader)
 {
     const DtWireForm form = DtWireForm();
     auto value = DtStartOf(state.slack());
@@ -463,7 +497,8 @@ bool DtBeaconDecoder::decodeSlack(DtBeaconStateRepository& state, DtWireReader& 
     return true;
 }
 
-bool DtBeaconDecoder::decodeFind(DtBeaconStateRepository& state, DtWireReader& reader)
+bool DtBeaconDecoder::decodeFind(
+    DtBeaconStateRepository& state, DtWireReader& reader)
 {
     const DtWireForm form = DtWireForm();
     auto value = DtStartOf(state.find());
@@ -475,7 +510,8 @@ bool DtBeaconDecoder::decodeFind(DtBeaconStateRepository& state, DtWireReader& r
     return true;
 }
 
-bool DtBeaconDecoder::decodeSpare(DtBeaconStateRepository& state, DtWireReader& reader)
+bool DtBeaconDecoder::decodeSpare(
+    DtBeaconStateRepository& state, DtWireReader& reader)
 {
     const DtWireForm form = DtWireForm();
     auto value = DtStartOf(state.spare());
@@ -487,7 +523,8 @@ bool DtBeaconDecoder::decodeSpare(DtBeaconStateRepository& state, DtWireReader& 
     return true;
 }
 
-bool DtBeaconDecoder::decodeSteps(DtBeaconStateRepository& state, DtWireReader& reader)
+bool DtBeaconDecoder::decodeSteps(
+    DtBeaconStateRepository& state, DtWireReader& reader)
 {
     const DtWireForm form = DtWireForm::number(4, DtLittleEndian);
     auto value = DtStartOf(state.steps());
@@ -499,7 +536,8 @@ bool DtBeaconDecoder::decodeSteps(DtBeaconStateRepository& state, DtWireReader& 
     return true;
 }
 
-bool DtBeaconDecoder::decodeRank(DtBeaconStateRepository& state, DtWireReader& reader)
+bool DtBeaconDecoder::decodeRank(
+    DtBeaconStateRepository& state, DtWireReader& reader)
 {
     const DtWireForm form = DtWireForm::number(8, DtLittleEndian);
     auto value = DtStartOf(state.rank());
@@ -511,7 +549,8 @@ bool DtBeaconDecoder::decodeRank(DtBeaconStateRepository& state, DtWireReader& r
     return true;
 }
 
-bool DtBeaconDecoder::decodeFloor(DtBeaconStateRepository& state, DtWireReader& reader)
+bool DtBeaconDecoder::decodeFloor(
+    DtBeaconStateRepository& state, DtWireReader& reader)
 {
     const DtWireForm form = DtWireForm::number(2, DtLittleEndian);
     auto value = DtStartOf(state.floor());
@@ -523,7 +562,8 @@ bool DtBeaconDecoder::decodeFloor(DtBeaconStateRepository& state, DtWireReader& 
     return true;
 }
 
-bool DtBeaconDecoder::decodeSign(DtBeaconStateRepository& state, DtWireReader& reader)
+bool DtBeaconDecoder::decodeSign(
+    DtBeaconStateRepository& state, DtWireReader& reader)
 {
     const DtWireForm form = DtWireForm::number(1);
     auto value = DtStartOf(state.sign());
@@ -535,7 +575,8 @@ bool DtBeaconDecoder::decodeSign(DtBeaconStateRepository& state, DtWireReader& r
     return true;
 }
 
-bool DtBeaconDecoder::decodeFooting(DtBeaconStateRepository& state, DtWireReader& reader)
+bool DtBeaconDecoder::decodeFooting(
+    DtBeaconStateRepository& state, DtWireReader& reader)
 {
     const DtWireForm form = DtWireForm::number(2);
     auto value = DtStartOf(state.footing());
@@ -547,7 +588,8 @@ bool DtBeaconDecoder::decodeFooting(DtBeaconStateRepository& state, DtWireReader
     return true;
 }
 
-bool DtBeaconDecoder::decodeSwing(DtBeaconStateRepository& state, DtWireReader& reader)
+bool DtBeaconDecoder::decodeSwing(
+    DtBeaconStateRepository& state, DtWireReader& reader)
 {
     const DtWireForm form = DtWireForm();
     auto value = DtStartOf(state.swing());
@@ -559,7 +601,8 @@ bool DtBeaconDecoder::decodeSwing(DtBeaconStateRepository& state, DtWireReader& 
     return true;
 }
 
-bool DtBeaconDecoder::decodeDoors(DtBeaconStateRepository& state, DtWireReader& reader)
+bool DtBeaconDecoder::decodeDoors(
+    DtBeaconStateRepository& state, DtWireReader& reader)
 {
     const DtWireForm form = DtWireForm();
     auto value = DtStartOf(state.doors());

@@ -54,260 +54,303 @@ DtBeaconEncoder::DtBeaconEncoder()
     addCoder("Doors", &DtBeaconEncoder::encodeDoors);
 }
 
-bool DtBeaconEncoder::encodeLamp(const DtBeaconStateRepository& state, DtWireWriter& writer)
+bool DtBeaconEncoder::encodeLamp(
+    const DtBeaconStateRepository& state, DtWireWriter& writer)
 {
     const DtWireForm form = DtWireForm();
     return DtWriteValue(writer, state.lamp(), form);
 }
 
-bool DtBeaconEncoder::encodeLamps(const DtBeaconStateRepository& state, DtWireWriter& writer)
+bool DtBeaconEncoder::encodeLamps(
+    const DtBeaconStateRepository& state, DtWireWriter& writer)
 {
     const DtWireForm form = DtWireForm();
     return DtWriteValue(writer, state.lamps(), form);
 }
 
-bool DtBeaconEncoder::encodeSector(const DtBeaconStateRepository& state, DtWireWriter& writer)
+bool DtBeaconEncoder::encodeSector(
+    const DtBeaconStateRepository& state, DtWireWriter& writer)
 {
     const DtWireForm form = DtWireForm();
     return DtWriteValue(writer, state.sector(), form);
 }
 
-bool DtBeaconEncoder::encodeCallSign(const DtBeaconStateRepository& state, DtWireWriter& writer)
+bool DtBeaconEncoder::encodeCallSign(
+    const DtBeaconStateRepository& state, DtWireWriter& writer)
 {
     const DtWireForm form = DtWireForm();
     return DtWriteValue(writer, state.callSign(), form);
 }
 
-bool DtBeaconEncoder::encodeTemperature(const DtBeaconStateRepository& state, DtWireWriter& writer)
+bool DtBeaconEncoder::encodeTemperature(
+    const DtBeaconStateRepository& state, DtWireWriter& writer)
 {
     const DtWireForm form = DtWireForm();
     return DtWriteValue(writer, state.temperature(), form);
 }
 
-bool DtBeaconEncoder::encodeTilt(const DtBeaconStateRepository& state, DtWireWriter& writer)
+bool DtBeaconEncoder::encodeTilt(
+    const DtBeaconStateRepository& state, DtWireWriter& writer)
 {
     const DtWireForm form = DtWireForm();
     return DtWriteValue(writer, state.tilt(), form);
 }
 
-bool DtBeaconEncoder::encodeTilts(const DtBeaconStateRepository& state, DtWireWriter& writer)
+bool DtBeaconEncoder::encodeTilts(
+    const DtBeaconStateRepository& state, DtWireWriter& writer)
 {
     const DtWireForm form = DtWireForm();
     return DtWriteValue(writer, state.tilts(), form);
 }
 
-bool DtBeaconEncoder::encodeTheRegister(const DtBeaconStateRepository& state, DtWireWriter& writer)
+bool DtBeaconEncoder::encodeTheRegister(
+    const DtBeaconStateRepository& state, DtWireWriter& writer)
 {
     const DtWireForm form = DtWireForm();
     return DtWriteValue(writer, state.theRegister(), form);
 }
 
-bool DtBeaconEncoder::encodeMark(const DtBeaconStateRepository& state, DtWireWriter& writer)
+bool DtBeaconEncoder::encodeMark(
+    const DtBeaconStateRepository& state, DtWireWriter& writer)
 {
     const DtWireForm form = DtWireForm::number(2);
     return DtWriteValue(writer, state.mark(), form);
 }
 
-bool DtBeaconEncoder::encodeImage(const DtBeaconStateRepository& state, DtWireWriter& writer)
+bool DtBeaconEncoder::encodeImage(
+    const DtBeaconStateRepository& state, DtWireWriter& writer)
 {
     const DtWireForm form = DtWireForm("HLAopaqueData", "", R"qx(HLAvariableArray)qx",
         -1 /* elements */, 0 /* octets */, 0 /* little-endian */);
     return DtWriteValue(writer, state.image(), form);
 }
 
-bool DtBeaconEncoder::encodeTested(const DtBeaconStateRepository& state, DtWireWriter& writer)
+bool DtBeaconEncoder::encodeTested(
+    const DtBeaconStateRepository& state, DtWireWriter& writer)
 {
     const DtWireForm form = DtWireForm::number(1);
     return DtWriteValue(writer, state.tested(), form);
 }
 
-bool DtBeaconEncoder::encodeManned(const DtBeaconStateRepository& state, DtWireWriter& writer)
+bool DtBeaconEncoder::encodeManned(
+    const DtBeaconStateRepository& state, DtWireWriter& writer)
 {
     const DtWireForm form = DtWireForm::number(2);
     return DtWriteValue(writer, state.manned(), form);
 }
 
-bool DtBeaconEncoder::encodeNeighbours(const DtBeaconStateRepository& state, DtWireWriter& writer)
+bool DtBeaconEncoder::encodeNeighbours(
+    const DtBeaconStateRepository& state, DtWireWriter& writer)
 {
     const DtWireForm form = DtWireForm();
     return DtWriteValue(writer, state.neighbours(), form);
 }
 
-bool DtBeaconEncoder::encodeSights(const DtBeaconStateRepository& state, DtWireWriter& writer)
+bool DtBeaconEncoder::encodeSights(
+    const DtBeaconStateRepository& state, DtWireWriter& writer)
 {
     const DtWireForm form = DtWireForm();
     return DtWriteValue(writer, state.sights(), form);
 }
 
-bool DtBeaconEncoder::encodeZone(const DtBeaconStateRepository& state, DtWireWriter& writer)
+bool DtBeaconEncoder::encodeZone(
+    const DtBeaconStateRepository& state, DtWireWriter& writer)
 {
     const DtWireForm form = DtWireForm();
     return DtWriteValue(writer, state.zone(), form);
 }
 
-bool DtBeaconEncoder::encodeCurrent(const DtBeaconStateRepository& state, DtWireWriter& writer)
+bool DtBeaconEncoder::encodeCurrent(
+    const DtBeaconStateRepository& state, DtWireWriter& writer)
 {
     const DtWireForm form = DtWireForm();
     return DtWriteValue(writer, state.current(), form);
 }
 
-bool DtBeaconEncoder::encodeWatch(const DtBeaconStateRepository& state, DtWireWriter& writer)
+bool DtBeaconEncoder::encodeWatch(
+    const DtBeaconStateRepository& state, DtWireWriter& writer)
 {
     const DtWireForm form = DtWireForm();
     return DtWriteValue(writer, state.watch(), form);
 }
 
-bool DtBeaconEncoder::encodeCalls(const DtBeaconStateRepository& state, DtWireWriter& writer)
+bool DtBeaconEncoder::encodeCalls(
+    const DtBeaconStateRepository& state, DtWireWriter& writer)
 {
     const DtWireForm form = DtWireForm();
     return DtWriteValue(writer, state.calls(), form);
 }
 
-bool DtBeaconEncoder::encodeFix(const DtBeaconStateRepository& state, DtWireWriter& writer)
+bool DtBeaconEncoder::encodeFix(
+    const DtBeaconStateRepository& state, DtWireWriter& writer)
 {
     const DtWireForm form = DtWireForm();
     return DtWriteValue(writer, state.fix(), form);
 }
 
-bool DtBeaconEncoder::encodeTest(const DtBeaconStateRepository& state, DtWireWriter& writer)
+bool DtBeaconEncoder::encodeTest(
+    const DtBeaconStateRepository& state, DtWireWriter& writer)
 {
     const DtWireForm form = DtWireForm();
     return DtWriteValue(writer, state.test(), form);
 }
 
-bool DtBeaconEncoder::encodePass(const DtBeaconStateRepository& state, DtWireWriter& writer)
+bool DtBeaconEncoder::encodePass(
+    const DtBeaconStateRepository& state, DtWireWriter& writer)
 {
     const DtWireForm form = DtWireForm();
     return DtWriteValue(writer, state.pass(), form);
 }
 
-bool DtBeaconEncoder::encodeCondition(const DtBeaconStateRepository& state, DtWireWriter& writer)
+bool DtBeaconEncoder::encodeCondition(
+    const DtBeaconStateRepository& state, DtWireWriter& writer)
 {
     const DtWireForm form = DtWireForm();
     return DtWriteValue(writer, state.condition(), form);
 }
 
-bool DtBeaconEncoder::encodeSurvey(const DtBeaconStateRepository& state, DtWireWriter& writer)
+bool DtBeaconEncoder::encodeSurvey(
+    const DtBeaconStateRepository& state, DtWireWriter& writer)
 {
     const DtWireForm form = DtWireForm();
     return DtWriteValue(writer, state.survey(), form);
 }
 
-bool DtBeaconEncoder::encodeGear(const DtBeaconStateRepository& state, DtWireWriter& writer)
+bool DtBeaconEncoder::encodeGear(
+    const DtBeaconStateRepository& state, DtWireWriter& writer)
 {
     const DtWireForm form = DtWireForm();
     return DtWriteValue(writer, state.gear(), form);
 }
 
-bool DtBeaconEncoder::encodeRule(const DtBeaconStateRepository& state, DtWireWriter& writer)
+bool DtBeaconEncoder::encodeRule(
+    const DtBeaconStateRepository& state, DtWireWriter& writer)
 {
     const DtWireForm form = DtWireForm();
     return DtWriteValue(writer, state.rule(), form);
 }
 
-bool DtBeaconEncoder::encodePaper(const DtBeaconStateRepository& state, DtWireWriter& writer)
+bool DtBeaconEncoder::encodePaper(
+    const DtBeaconStateRepository& state, DtWireWriter& writer)
 {
     const DtWireForm form = DtWireForm();
     return DtWriteValue(writer, state.paper(), form);
 }
 
-bool DtBeaconEncoder::encodeTimes(const DtBeaconStateRepository& state, DtWireWriter& writer)
+bool DtBeaconEncoder::encodeTimes(
+    const DtBeaconStateRepository& state, DtWireWriter& writer)
 {
     const DtWireForm form = DtWireForm();
     return DtWriteValue(writer, state.times(), form);
 }
 
-bool DtBeaconEncoder::encodeChambers(const DtBeaconStateRepository& state, DtWireWriter& writer)
+bool DtBeaconEncoder::encodeChambers(
+    const DtBeaconStateRepository& state, DtWireWriter& writer)
 {
     const DtWireForm form = DtWireForm();
     return DtWriteValue(writer, state.chambers(), form);
 }
 
-bool DtBeaconEncoder::encodeRemark(const DtBeaconStateRepository& state, DtWireWriter& writer)
+bool DtBeaconEncoder::encodeRemark(
+    const DtBeaconStateRepository& state, DtWireWriter& writer)
 {
     const DtWireForm form = DtWireForm();
     return DtWriteValue(writer, state.remark(), form);
 }
 
-bool DtBeaconEncoder::encodeDraughts(const DtBeaconStateRepository& state, DtWireWriter& writer)
+bool DtBeaconEncoder::encodeDraughts(
+    const DtBeaconStateRepository& state, DtWireWriter& writer)
 {
     const DtWireForm form = DtWireForm();
     return DtWriteValue(writer, state.draughts(), form);
 }
 
-bool DtBeaconEncoder::encodeRing(const DtBeaconStateRepository& state, DtWireWriter& writer)
+bool DtBeaconEncoder::encodeRing(
+    const DtBeaconStateRepository& state, DtWireWriter& writer)
 {
     const DtWireForm form = DtWireForm();
     return DtWriteValue(writer, state.ring(), form);
 }
 
-bool DtBeaconEncoder::encodeLines(const DtBeaconStateRepository& state, DtWireWriter& writer)
+bool DtBeaconEncoder::encodeLines(
+    const DtBeaconStateRepository& state, DtWireWriter& writer)
 {
     const DtWireForm form = DtWireForm();
     return DtWriteValue(writer, state.lines(), form);
 }
 
-bool DtBeaconEncoder::encodeDeep(const DtBeaconStateRepository& state, DtWireWriter& writer)
+bool DtBeaconEncoder::encodeDeep(
+    const DtBeaconStateRepository& state, DtWireWriter& writer)
 {
     const DtWireForm form = DtWireForm();
     return DtWriteValue(writer, state.deep(), form);
 }
 
-bool DtBeaconEncoder::encodeSlack(const DtBeaconStateRepository& state, DtWireWriter& writer)
+bool DtBeaconEncoder::encodeSlack(
+    const DtBeaconStateRepository& state, DtWireWriter& writer)
 {
     const DtWireForm form = DtWireForm();
     return DtWriteValue(writer, state.slack(), form);
 }
 
-bool DtBeaconEncoder::encodeFind(const DtBeaconStateRepository& state, DtWireWriter& writer)
+bool DtBeaconEncoder::encodeFind(
+    const DtBeaconStateRepository& state, DtWireWriter& writer)
 {
     const DtWireForm form = DtWireForm();
     return DtWriteValue(writer, state.find(), form);
 }
 
-bool DtBeaconEncoder::encodeSpare(const DtBeaconStateRepository& state, DtWireWriter& writer)
+bool DtBeaconEncoder::encodeSpare(
+    const DtBeaconStateRepository& state, DtWireWriter& writer)
 {
     const DtWireForm form = DtWireForm();
     return DtWriteValue(writer, state.spare(), form);
 }
 
-bool DtBeaconEncoder::encodeSteps(const DtBeaconStateRepository& state, DtWireWriter& writer)
+bool DtBeaconEncoder::encodeSteps(
+    const DtBeaconStateRepository& state, DtWireWriter& writer)
 {
     const DtWireForm form = DtWireForm::number(4, DtLittleEndian);
     return DtWriteValue(writer, state.steps(), form);
 }
 
-bool DtBeaconEncoder::encodeRank(const DtBeaconStateRepository& state, DtWireWriter& writer)
+bool DtBeaconEncoder::encodeRank(
+    const DtBeaconStateRepository& state, DtWireWriter& writer)
 {
     const DtWireForm form = DtWireForm::number(8, DtLittleEndian);
     return DtWriteValue(writer, state.rank(), form);
 }
 
-bool DtBeaconEncoder::encodeFloor(const DtBeaconStateRepository& state, DtWireWriter& writer)
+bool DtBeaconEncoder::encodeFloor(
+    const DtBeaconStateRepository& state, DtWireWriter& writer)
 {
     const DtWireForm form = DtWireForm::number(2, DtLittleEndian);
     return DtWriteValue(writer, state.floor(), form);
 }
 
-bool DtBeaconEncoder::encodeSign(const DtBeaconStateRepository& state, DtWireWriter& writer)
+bool DtBeaconEncoder::encodeSign(
+    const DtBeaconStateRepository& state, DtWireWriter& writer)
 {
     const DtWireForm form = DtWireForm::number(1);
     return DtWriteValue(writer, state.sign(), form);
 }
 
-bool DtBeaconEncoder::encodeFooting(const DtBeaconStateRepository& state, DtWireWriter& writer)
+bool DtBeaconEncoder::encodeFooting(
+    const DtBeaconStateRepository& state, DtWireWriter& writer)
 {
     const DtWireForm form = DtWireForm::number(2);
     return DtWriteValue(writer, state.footing(), form);
 }
 
-bool DtBeaconEncoder::encodeSwing(const DtBeaconStateRepository& state, DtWireWriter& writer)
+bool DtBeaconEncoder::encodeSwing(
+    const DtBeaconStateRepository& state, DtWireWriter& writer)
 {
     const DtWireForm form = DtWireForm();
     return DtWriteValue(writer, state.swing(), form);
 }
 
-bool DtBeaconEncoder::encodeDoors(const DtBeaconStateRepository& state, DtWireWriter& writer)
+bool DtBeaconEncoder::encodeDoors(
+    const DtBeaconStateRepository& state, DtWireWriter& writer)
 {
     const DtWireForm form = DtWireForm();
     return DtWriteValue(writer, state.doors(), form);

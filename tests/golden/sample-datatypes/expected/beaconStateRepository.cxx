@@ -13,7 +13,8 @@ void DtBeaconStateRepository::setLamp(const ValueOfLamp& value)
     DtStateRepository::markChanged("Lamp");
 }
 
-const DtBeaconStateRepository::ValueOfLamp& DtBeaconStateRepository::lamp() const
+const DtBeaconStateRepository::ValueOfLamp&
+DtBeaconStateRepository::lamp() const
 {
     return Own.myLamp;
 }
@@ -30,7 +31,8 @@ void DtBeaconStateRepository::setLamps(ValueOfLamps&& value)
     DtStateRepository::markChanged("Lamps");
 }
 
-const DtBeaconStateRepository::ValueOfLamps& DtBeaconStateRepository::lamps() const
+const DtBeaconStateRepository::ValueOfLamps&
+DtBeaconStateRepository::lamps() const
 {
     return Own.myLamps;
 }
@@ -41,7 +43,8 @@ void DtBeaconStateRepository::setSector(const ValueOfSector& value)
     DtStateRepository::markChanged("Sector");
 }
 
-const DtBeaconStateRepository::ValueOfSector& DtBeaconStateRepository::sector() const
+const DtBeaconStateRepository::ValueOfSector&
+DtBeaconStateRepository::sector() const
 {
     return Own.mySector;
 }
@@ -58,7 +61,8 @@ void DtBeaconStateRepository::setCallSign(ValueOfCallSign&& value)
     DtStateRepository::markChanged("CallSign");
 }
 
-const DtBeaconStateRepository::ValueOfCallSign& DtBeaconStateRepository::callSign() const
+const DtBeaconStateRepository::ValueOfCallSign&
+DtBeaconStateRepository::callSign() const
 {
     return Own.myCallSign;
 }
@@ -69,7 +73,8 @@ void DtBeaconStateRepository::setTemperature(const ValueOfTemperature& value)
     DtStateRepository::markChanged("Temperature");
 }
 
-const DtBeaconStateRepository::ValueOfTemperature& DtBeaconStateRepository::temperature() const
+const DtBeaconStateRepository::ValueOfTemperature&
+DtBeaconStateRepository::temperature() const
 {
     return Own.myTemperature;
 }
@@ -80,7 +85,8 @@ void DtBeaconStateRepository::setTilt(const ValueOfTilt& value)
     DtStateRepository::markChanged("Tilt");
 }
 
-const DtBeaconStateRepository::ValueOfTilt& DtBeaconStateRepository::tilt() const
+const DtBeaconStateRepository::ValueOfTilt&
+DtBeaconStateRepository::tilt() const
 {
     return Own.myTilt;
 }
@@ -97,7 +103,8 @@ void DtBeaconStateRepository::setTilts(ValueOfTilts&& value)
     DtStateRepository::markChanged("Tilts");
 }
 
-const DtBeaconStateRepository::ValueOfTilts& DtBeaconStateRepository::tilts() const
+const DtBeaconStateRepository::ValueOfTilts&
+DtBeaconStateRepository::tilts() const
 {
     return Own.myTilts;
 }
@@ -108,7 +115,8 @@ void DtBeaconStateRepository::setTheRegister(const ValueOfTheRegister& value)
     DtStateRepository::markChanged("Register");
 }
 
-const DtBeaconStateRepository::ValueOfTheRegister& DtBeaconStateRepository::theRegister() const
+const DtBeaconStateRepository::ValueOfTheRegister&
+DtBeaconStateRepository::theRegister() const
 {
     return Own.myTheRegister;
 }
@@ -119,7 +127,8 @@ void DtBeaconStateRepository::setMark(const ValueOfMark& value)
     DtStateRepository::markChanged("Mark");
 }
 
-const DtBeaconStateRepository::ValueOfMark& DtBeaconStateRepository::mark() const
+const DtBeaconStateRepository::ValueOfMark&
+DtBeaconStateRepository::mark() const
 {
     return Own.myMark;
 }
@@ -136,7 +145,8 @@ void DtBeaconStateRepository::setImage(ValueOfImage&& value)
     DtStateRepository::markChanged("Image");
 }
 
-const DtBeaconStateRepository::ValueOfImage& DtBeaconStateRepository::image() const
+const DtBeaconStateRepository::ValueOfImage&
+DtBeaconStateRepository::image() const
 {
     return Own.myImage;
 }
@@ -147,7 +157,8 @@ void DtBeaconStateRepository::setTested(const ValueOfTested& value)
     DtStateRepository::markChanged("Tested");
 }
 
-const DtBeaconStateRepository::ValueOfTested& DtBeaconStateRepository::tested() const
+const DtBeaconStateRepository::ValueOfTested&
+DtBeaconStateRepository::tested() const
 {
     return Own.myTested;
 }
@@ -158,7 +169,8 @@ void DtBeaconStateRepository::setManned(const ValueOfManned& value)
     DtStateRepository::markChanged("Manned");
 }
 
-const DtBeaconStateRepository::ValueOfManned& DtBeaconStateRepository::manned() const
+const DtBeaconStateRepository::ValueOfManned&
+DtBeaconStateRepository::manned() const
 {
     return Own.myManned;
 }
@@ -175,7 +187,8 @@ void DtBeaconStateRepository::setNeighbours(ValueOfNeighbours&& value)
     DtStateRepository::markChanged("Neighbours");
 }
 
-const DtBeaconStateRepository::ValueOfNeighbours& DtBeaconStateRepository::neighbours() const
+const DtBeaconStateRepository::ValueOfNeighbours&
+DtBeaconStateRepository::neighbours() const
 {
     return Own.myNeighbours;
 }
@@ -192,7 +205,8 @@ void DtBeaconStateRepository::setSights(ValueOfSights&& value)
     DtStateRepository::markChanged("Sights");
 }
 
-const DtBeaconStateRepository::ValueOfSights& DtBeaconStateRepository::sights() const
+const DtBeaconStateRepository::ValueOfSights&
+DtBeaconStateRepository::sights() const
 {
     return Own.mySights;
 }
@@ -203,7 +217,8 @@ void DtBeaconStateRepository::setZone(const ValueOfZone& value)
     DtStateRepository::markChanged("Zone");
 }
 
-const DtBeaconStateRepository::ValueOfZone& DtBeaconStateRepository::zone() const
+const DtBeaconStateRepository::ValueOfZone&
+DtBeaconStateRepository::zone() const
 {
     return Own.myZone;
 }
@@ -214,7 +229,8 @@ void DtBeaconStateRepository::setCurrent(const ValueOfCurrent& value)
     DtStateRepository::markChanged("Current");
 }
 
-const DtBeaconStateRepository::ValueOfCurrent& DtBeaconStateRepository::current() const
+const DtBeaconStateRepository::ValueOfCurrent&
+DtBeaconStateRepository::current() const
 {
     return Own.myCurrent;
 }
@@ -231,7 +247,8 @@ void DtBeaconStateRepository::setWatch(ValueOfWatch&& value)
     DtStateRepository::markChanged("Watch");
 }
 
-const DtBeaconStateRepository::ValueOfWatch& DtBeaconStateRepository::watch() const
+const DtBeaconStateRepository::ValueOfWatch&
+DtBeaconStateRepository::watch() const
 {
     return Own.myWatch;
 }
@@ -248,7 +265,8 @@ void DtBeaconStateRepository::setCalls(ValueOfCalls&& value)
     DtStateRepository::markChanged("Calls");
 }
 
-const DtBeaconStateRepository::ValueOfCalls& DtBeaconStateRepository::calls() const
+const DtBeaconStateRepository::ValueOfCalls&
+DtBeaconStateRepository::calls() const
 {
     return Own.myCalls;
 }
@@ -265,7 +283,8 @@ void DtBeaconStateRepository::setFix(ValueOfFix&& value)
     DtStateRepository::markChanged("Fix");
 }
 
-const DtBeaconStateRepository::ValueOfFix& DtBeaconStateRepository::fix() const
+const DtBeaconStateRepository::ValueOfFix&
+DtBeaconStateRepository::fix() const
 {
     return Own.myFix;
 }
@@ -282,7 +301,8 @@ void DtBeaconStateRepository::setTest(ValueOfTest&& value)
     DtStateRepository::markChanged("Test");
 }
 
-const DtBeaconStateRepository::ValueOfTest& DtBeaconStateRepository::test() const
+const DtBeaconStateRepository::ValueOfTest&
+DtBeaconStateRepository::test() const
 {
     return Own.myTest;
 }
@@ -299,7 +319,8 @@ void DtBeaconStateRepository::setPass(ValueOfPass&& value)
     DtStateRepository::markChanged("Pass");
 }
 
-const DtBeaconStateRepository::ValueOfPass& DtBeaconStateRepository::pass() const
+const DtBeaconStateRepository::ValueOfPass&
+DtBeaconStateRepository::pass() const
 {
     return Own.myPass;
 }
@@ -316,7 +337,8 @@ void DtBeaconStateRepository::setCondition(ValueOfCondition&& value)
     DtStateRepository::markChanged("Condition");
 }
 
-const DtBeaconStateRepository::ValueOfCondition& DtBeaconStateRepository::condition() const
+const DtBeaconStateRepository::ValueOfCondition&
+DtBeaconStateRepository::condition() const
 {
     return Own.myCondition;
 }
@@ -333,7 +355,8 @@ void DtBeaconStateRepository::setSurvey(ValueOfSurvey&& value)
     DtStateRepository::markChanged("Survey");
 }
 
-const DtBeaconStateRepository::ValueOfSurvey& DtBeaconStateRepository::survey() const
+const DtBeaconStateRepository::ValueOfSurvey&
+DtBeaconStateRepository::survey() const
 {
     return Own.mySurvey;
 }
@@ -350,7 +373,8 @@ void DtBeaconStateRepository::setGear(ValueOfGear&& value)
     DtStateRepository::markChanged("Gear");
 }
 
-const DtBeaconStateRepository::ValueOfGear& DtBeaconStateRepository::gear() const
+const DtBeaconStateRepository::ValueOfGear&
+DtBeaconStateRepository::gear() const
 {
     return Own.myGear;
 }
@@ -367,7 +391,8 @@ void DtBeaconStateRepository::setRule(ValueOfRule&& value)
     DtStateRepository::markChanged("Rule");
 }
 
-const DtBeaconStateRepository::ValueOfRule& DtBeaconStateRepository::rule() const
+const DtBeaconStateRepository::ValueOfRule&
+DtBeaconStateRepository::rule() const
 {
     return Own.myRule;
 }
@@ -384,7 +409,8 @@ void DtBeaconStateRepository::setPaper(ValueOfPaper&& value)
     DtStateRepository::markChanged("Paper");
 }
 
-const DtBeaconStateRepository::ValueOfPaper& DtBeaconStateRepository::paper() const
+const DtBeaconStateRepository::ValueOfPaper&
+DtBeaconStateRepository::paper() const
 {
     return Own.myPaper;
 }
@@ -401,7 +427,8 @@ void DtBeaconStateRepository::setTimes(ValueOfTimes&& value)
     DtStateRepository::markChanged("Times");
 }
 
-const DtBeaconStateRepository::ValueOfTimes& DtBeaconStateRepository::times() const
+const DtBeaconStateRepository::ValueOfTimes&
+DtBeaconStateRepository::times() const
 {
     return Own.myTimes;
 }
@@ -418,7 +445,8 @@ void DtBeaconStateRepository::setChambers(ValueOfChambers&& value)
     DtStateRepository::markChanged("Chambers");
 }
 
-const DtBeaconStateRepository::ValueOfChambers& DtBeaconStateRepository::chambers() const
+const DtBeaconStateRepository::ValueOfChambers&
+DtBeaconStateRepository::chambers() const
 {
     return Own.myChambers;
 }
@@ -435,7 +463,8 @@ void DtBeaconStateRepository::setRemark(ValueOfRemark&& value)
     DtStateRepository::markChanged("Remark");
 }
 
-const DtBeaconStateRepository::ValueOfRemark& DtBeaconStateRepository::remark() const
+const DtBeaconStateRepository::ValueOfRemark&
+DtBeaconStateRepository::remark() const
 {
     return Own.myRemark;
 }
@@ -452,7 +481,8 @@ void DtBeaconStateRepository::setDraughts(ValueOfDraughts&& value)
     DtStateRepository::markChanged("Draughts");
 }
 
-const DtBeaconStateRepository::ValueOfDraughts& DtBeaconStateRepository::draughts() const
+const DtBeaconStateRepository::ValueOfDraughts&
+DtBeaconStateRepository::draughts() const
 {
     return Own.myDraughts;
 }
@@ -469,7 +499,8 @@ void DtBeaconStateRepository::setRing(ValueOfRing&& value)
     DtStateRepository::markChanged("Ring");
 }
 
-const DtBeaconStateRepository::ValueOfRing& DtBeaconStateRepository::ring() const
+const DtBeaconStateRepository::ValueOfRing&
+DtBeaconStateRepository::ring() const
 {
     return Own.myRing;
 }
@@ -486,7 +517,8 @@ void DtBeaconStateRepository::setLines(ValueOfLines&& value)
     DtStateRepository::markChanged("Lines");
 }
 
-const DtBeaconStateRepository::ValueOfLines& DtBeaconStateRepository::lines() const
+const DtBeaconStateRepository::ValueOfLines&
+DtBeaconStateRepository::lines() const
 {
     return Own.myLines;
 }
@@ -497,7 +529,8 @@ void DtBeaconStateRepository::setDeep(const ValueOfDeep& value)
     DtStateRepository::markChanged("Deep");
 }
 
-const DtBeaconStateRepository::ValueOfDeep& DtBeaconStateRepository::deep() const
+const DtBeaconStateRepository::ValueOfDeep&
+DtBeaconStateRepository::deep() const
 {
     return Own.myDeep;
 }
@@ -508,7 +541,8 @@ void DtBeaconStateRepository::setSlack(const ValueOfSlack& value)
     DtStateRepository::markChanged("Slack");
 }
 
-const DtBeaconStateRepository::ValueOfSlack& DtBeaconStateRepository::slack() const
+const DtBeaconStateRepository::ValueOfSlack&
+DtBeaconStateRepository::slack() const
 {
     return Own.mySlack;
 }
@@ -519,7 +553,8 @@ void DtBeaconStateRepository::setFind(const ValueOfFind& value)
     DtStateRepository::markChanged("Find");
 }
 
-const DtBeaconStateRepository::ValueOfFind& DtBeaconStateRepository::find() const
+const DtBeaconStateRepository::ValueOfFind&
+DtBeaconStateRepository::find() const
 {
     return Own.myFind;
 }
@@ -536,7 +571,8 @@ void DtBeaconStateRepository::setSpare(ValueOfSpare&& value)
     DtStateRepository::markChanged("Spare");
 }
 
-const DtBeaconStateRepository::ValueOfSpare& DtBeaconStateRepository::spare() const
+const DtBeaconStateRepository::ValueOfSpare&
+DtBeaconStateRepository::spare() const
 {
     return Own.mySpare;
 }
@@ -547,7 +583,8 @@ void DtBeaconStateRepository::setSteps(const ValueOfSteps& value)
     DtStateRepository::markChanged("Steps");
 }
 
-const DtBeaconStateRepository::ValueOfSteps& DtBeaconStateRepository::steps() const
+const DtBeaconStateRepository::ValueOfSteps&
+DtBeaconStateRepository::steps() const
 {
     return Own.mySteps;
 }
@@ -558,7 +595,8 @@ void DtBeaconStateRepository::setRank(const ValueOfRank& value)
     DtStateRepository::markChanged("Rank");
 }
 
-const DtBeaconStateRepository::ValueOfRank& DtBeaconStateRepository::rank() const
+const DtBeaconStateRepository::ValueOfRank&
+DtBeaconStateRepository::rank() const
 {
     return Own.myRank;
 }
@@ -569,7 +607,8 @@ void DtBeaconStateRepository::setFloor(const ValueOfFloor& value)
     DtStateRepository::markChanged("Floor");
 }
 
-const DtBeaconStateRepository::ValueOfFloor& DtBeaconStateRepository::floor() const
+const DtBeaconStateRepository::ValueOfFloor&
+DtBeaconStateRepository::floor() const
 {
     return Own.myFloor;
 }
@@ -580,7 +619,8 @@ void DtBeaconStateRepository::setSign(const ValueOfSign& value)
     DtStateRepository::markChanged("Sign");
 }
 
-const DtBeaconStateRepository::ValueOfSign& DtBeaconStateRepository::sign() const
+const DtBeaconStateRepository::ValueOfSign&
+DtBeaconStateRepository::sign() const
 {
     return Own.mySign;
 }
@@ -591,7 +631,8 @@ void DtBeaconStateRepository::setFooting(const ValueOfFooting& value)
     DtStateRepository::markChanged("Footing");
 }
 
-const DtBeaconStateRepository::ValueOfFooting& DtBeaconStateRepository::footing() const
+const DtBeaconStateRepository::ValueOfFooting&
+DtBeaconStateRepository::footing() const
 {
     return Own.myFooting;
 }
@@ -602,7 +643,8 @@ void DtBeaconStateRepository::setSwing(const ValueOfSwing& value)
     DtStateRepository::markChanged("Swing");
 }
 
-const DtBeaconStateRepository::ValueOfSwing& DtBeaconStateRepository::swing() const
+const DtBeaconStateRepository::ValueOfSwing&
+DtBeaconStateRepository::swing() const
 {
     return Own.mySwing;
 }
@@ -619,7 +661,8 @@ void DtBeaconStateRepository::setDoors(ValueOfDoors&& value)
     DtStateRepository::markChanged("Doors");
 }
 
-const DtBeaconStateRepository::ValueOfDoors& DtBeaconStateRepository::doors() const
+const DtBeaconStateRepository::ValueOfDoors&
+DtBeaconStateRepository::doors() const
 {
     return Own.myDoors;
 }

@@ -66,7 +66,8 @@ enum class DtHullPart32 : DtInt64;
 DT_DLL_CASE DtEnumeratorTable DtEnumeratorsOf(DtHullPart32);
 DT_DLL_CASE std::ostream& operator<<(std::ostream& out, DtHullPart32 value);
 
-// The attribute values of one PortEntity.Beacon: its own here, those of its superclasses in the bases.
+// The attribute values of one PortEntity.Beacon:
+// its own here, those of its superclasses in the bases.
 /// A light at the entrance; it shows every way to lay a value out.
 class DT_DLL_CASE DtBeaconStateRepository
     : public DtPortEntityStateRepository

@@ -17,7 +17,8 @@ DtBerthDecoder::DtBerthDecoder()
     addCoder("Fenders", &DtBerthDecoder::decodeFenders);
 }
 
-bool DtBerthDecoder::decodeLength(DtBerthStateRepository& state, DtWireReader& reader)
+bool DtBerthDecoder::decodeLength(
+    DtBerthStateRepository& state, DtWireReader& reader)
 {
     const DtWireForm form = DtWireForm::number(8);
     auto value = DtStartOf(state.length());
@@ -29,7 +30,8 @@ bool DtBerthDecoder::decodeLength(DtBerthStateRepository& state, DtWireReader& r
     return true;
 }
 
-bool DtBerthDecoder::decodeDepths(DtBerthStateRepository& state, DtWireReader& reader)
+bool DtBerthDecoder::decodeDepths(
+    DtBerthStateRepository& state, DtWireReader& reader)
 {
     const DtWireForm form = DtWireForm();
     auto value = DtStartOf(state.depths());
@@ -41,7 +43,8 @@ bool DtBerthDecoder::decodeDepths(DtBerthStateRepository& state, DtWireReader& r
     return true;
 }
 
-bool DtBerthDecoder::decodeOccupant(DtBerthStateRepository& state, DtWireReader& reader)
+bool DtBerthDecoder::decodeOccupant(
+    DtBerthStateRepository& state, DtWireReader& reader)
 {
     const DtWireForm form = DtWireForm("DtOccupant", "", R"qx(HLAvariableArray)qx",
         -1 /* elements */, 0 /* octets */, 0 /* little-endian */);
@@ -54,7 +57,8 @@ bool DtBerthDecoder::decodeOccupant(DtBerthStateRepository& state, DtWireReader&
     return true;
 }
 
-bool DtBerthDecoder::decodeFlags(DtBerthStateRepository& state, DtWireReader& reader)
+bool DtBerthDecoder::decodeFlags(
+    DtBerthStateRepository& state, DtWireReader& reader)
 {
     const DtWireForm form = DtWireForm();
     auto value = DtStartOf(state.flags());
@@ -66,7 +70,8 @@ bool DtBerthDecoder::decodeFlags(DtBerthStateRepository& state, DtWireReader& re
     return true;
 }
 
-bool DtBerthDecoder::decodeKind64(DtBerthStateRepository& state, DtWireReader& reader)
+bool DtBerthDecoder::decodeKind64(
+    DtBerthStateRepository& state, DtWireReader& reader)
 {
     const DtWireForm form = DtWireForm();
     auto value = DtStartOf(state.kind64());
@@ -78,7 +83,8 @@ bool DtBerthDecoder::decodeKind64(DtBerthStateRepository& state, DtWireReader& r
     return true;
 }
 
-bool DtBerthDecoder::decodeFenders(DtBerthStateRepository& state, DtWireReader& reader)
+bool DtBerthDecoder::decodeFenders(
+    DtBerthStateRepository& state, DtWireReader& reader)
 {
     const DtWireForm form = DtWireForm();
     auto value = DtStartOf(state.fenders());

@@ -8,7 +8,8 @@
 #include "berthStateRepository.h"
 #include "dllExport.h"
 
-// Sets the attributes of HLAobjectRoot.PortEntity.Berth and of its superclasses from named buffers.
+// Sets the attributes of HLAobjectRoot.PortEntity.Berth
+// and of its superclasses from named buffers.
 class DT_DLL_CASE DtBerthDecoder
     : public DtPortEntityDecoder
 {
@@ -17,12 +18,18 @@ public:
 
 protected:
     // One for each attribute; false if the buffer holds no value of it.
-    static bool decodeLength(DtBerthStateRepository& state, DtWireReader& reader);
-    static bool decodeDepths(DtBerthStateRepository& state, DtWireReader& reader);
-    static bool decodeOccupant(DtBerthStateRepository& state, DtWireReader& reader);
-    static bool decodeFlags(DtBerthStateRepository& state, DtWireReader& reader);
-    static bool decodeKind64(DtBerthStateRepository& state, DtWireReader& reader);
-    static bool decodeFenders(DtBerthStateRepository& state, DtWireReader& reader);
+    static bool decodeLength(
+        DtBerthStateRepository& state, DtWireReader& reader);
+    static bool decodeDepths(
+        DtBerthStateRepository& state, DtWireReader& reader);
+    static bool decodeOccupant(
+        DtBerthStateRepository& state, DtWireReader& reader);
+    static bool decodeFlags(
+        DtBerthStateRepository& state, DtWireReader& reader);
+    static bool decodeKind64(
+        DtBerthStateRepository& state, DtWireReader& reader);
+    static bool decodeFenders(
+        DtBerthStateRepository& state, DtWireReader& reader);
 };
 
 #endif

@@ -17,38 +17,44 @@ DtBerthEncoder::DtBerthEncoder()
     addCoder("Fenders", &DtBerthEncoder::encodeFenders);
 }
 
-bool DtBerthEncoder::encodeLength(const DtBerthStateRepository& state, DtWireWriter& writer)
+bool DtBerthEncoder::encodeLength(
+    const DtBerthStateRepository& state, DtWireWriter& writer)
 {
     const DtWireForm form = DtWireForm::number(8);
     return DtWriteValue(writer, state.length(), form);
 }
 
-bool DtBerthEncoder::encodeDepths(const DtBerthStateRepository& state, DtWireWriter& writer)
+bool DtBerthEncoder::encodeDepths(
+    const DtBerthStateRepository& state, DtWireWriter& writer)
 {
     const DtWireForm form = DtWireForm();
     return DtWriteValue(writer, state.depths(), form);
 }
 
-bool DtBerthEncoder::encodeOccupant(const DtBerthStateRepository& state, DtWireWriter& writer)
+bool DtBerthEncoder::encodeOccupant(
+    const DtBerthStateRepository& state, DtWireWriter& writer)
 {
     const DtWireForm form = DtWireForm("DtOccupant", "", R"qx(HLAvariableArray)qx",
         -1 /* elements */, 0 /* octets */, 0 /* little-endian */);
     return DtWriteValue(writer, state.occupant(), form);
 }
 
-bool DtBerthEncoder::encodeFlags(const DtBerthStateRepository& state, DtWireWriter& writer)
+bool DtBerthEncoder::encodeFlags(
+    const DtBerthStateRepository& state, DtWireWriter& writer)
 {
     const DtWireForm form = DtWireForm();
     return DtWriteValue(writer, state.flags(), form);
 }
 
-bool DtBerthEncoder::encodeKind64(const DtBerthStateRepository& state, DtWireWriter& writer)
+bool DtBerthEncoder::encodeKind64(
+    const DtBerthStateRepository& state, DtWireWriter& writer)
 {
     const DtWireForm form = DtWireForm();
     return DtWriteValue(writer, state.kind64(), form);
 }
 
-bool DtBerthEncoder::encodeFenders(const DtBerthStateRepository& state, DtWireWriter& writer)
+bool DtBerthEncoder::encodeFenders(
+    const DtBerthStateRepository& state, DtWireWriter& writer)
 {
     const DtWireForm form = DtWireForm();
     return DtWriteValue(writer, state.fenders(), form);

@@ -13,7 +13,8 @@ void DtBerthStateRepository::setLength(const ValueOfLength& value)
     DtStateRepository::markChanged("Length");
 }
 
-const DtBerthStateRepository::ValueOfLength& DtBerthStateRepository::length() const
+const DtBerthStateRepository::ValueOfLength&
+DtBerthStateRepository::length() const
 {
     return Own.myLength;
 }
@@ -30,7 +31,8 @@ void DtBerthStateRepository::setDepths(ValueOfDepths&& value)
     DtStateRepository::markChanged("Depths");
 }
 
-const DtBerthStateRepository::ValueOfDepths& DtBerthStateRepository::depths() const
+const DtBerthStateRepository::ValueOfDepths&
+DtBerthStateRepository::depths() const
 {
     return Own.myDepths;
 }
@@ -41,7 +43,8 @@ void DtBerthStateRepository::setOccupant(const ValueOfOccupant& value)
     DtStateRepository::markChanged("Occupant");
 }
 
-const DtBerthStateRepository::ValueOfOccupant& DtBerthStateRepository::occupant() const
+const DtBerthStateRepository::ValueOfOccupant&
+DtBerthStateRepository::occupant() const
 {
     return Own.myOccupant;
 }
@@ -58,7 +61,8 @@ void DtBerthStateRepository::setFlags(ValueOfFlags&& value)
     DtStateRepository::markChanged("Flags");
 }
 
-const DtBerthStateRepository::ValueOfFlags& DtBerthStateRepository::flags() const
+const DtBerthStateRepository::ValueOfFlags&
+DtBerthStateRepository::flags() const
 {
     return Own.myFlags;
 }
@@ -69,7 +73,8 @@ void DtBerthStateRepository::setKind64(const ValueOfKind64& value)
     DtStateRepository::markChanged("Kind64");
 }
 
-const DtBerthStateRepository::ValueOfKind64& DtBerthStateRepository::kind64() const
+const DtBerthStateRepository::ValueOfKind64&
+DtBerthStateRepository::kind64() const
 {
     return Own.myKind64;
 }
@@ -86,7 +91,8 @@ void DtBerthStateRepository::setFenders(ValueOfFenders&& value)
     DtStateRepository::markChanged("Fenders");
 }
 
-const DtBerthStateRepository::ValueOfFenders& DtBerthStateRepository::fenders() const
+const DtBerthStateRepository::ValueOfFenders&
+DtBerthStateRepository::fenders() const
 {
     return Own.myFenders;
 }

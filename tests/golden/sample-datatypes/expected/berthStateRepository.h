@@ -22,7 +22,8 @@ enum class DtBerthKind64 : DtInt64;
 DT_DLL_CASE DtEnumeratorTable DtEnumeratorsOf(DtBerthKind64);
 DT_DLL_CASE std::ostream& operator<<(std::ostream& out, DtBerthKind64 value);
 
-// The attribute values of one PortEntity.Berth: its own here, those of its superclasses in the bases.
+// The attribute values of one PortEntity.Berth:
+// its own here, those of its superclasses in the bases.
 /// A place to lie at.
 class DT_DLL_CASE DtBerthStateRepository
     : public DtPortEntityStateRepository

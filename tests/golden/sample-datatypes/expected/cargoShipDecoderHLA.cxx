@@ -16,7 +16,8 @@ DtCargoShipDecoder::DtCargoShipDecoder()
     addCoder("Seal", &DtCargoShipDecoder::decodeSeal);
 }
 
-bool DtCargoShipDecoder::decodeHolds(DtCargoShipStateRepository& state, DtWireReader& reader)
+bool DtCargoShipDecoder::decodeHolds(
+    DtCargoShipStateRepository& state, DtWireReader& reader)
 {
     const DtWireForm form = DtWireForm();
     auto value = DtStartOf(state.holds());
@@ -28,7 +29,8 @@ bool DtCargoShipDecoder::decodeHolds(DtCargoShipStateRepository& state, DtWireRe
     return true;
 }
 
-bool DtCargoShipDecoder::decodeManifest(DtCargoShipStateRepository& state, DtWireReader& reader)
+bool DtCargoShipDecoder::decodeManifest(
+    DtCargoShipStateRepository& state, DtWireReader& reader)
 {
     const DtWireForm form = DtWireForm();
     auto value = DtStartOf(state.manifest());
@@ -40,7 +42,8 @@ bool DtCargoShipDecoder::decodeManifest(DtCargoShipStateRepository& state, DtWir
     return true;
 }
 
-bool DtCargoShipDecoder::decodeDraught(DtCargoShipStateRepository& state, DtWireReader& reader)
+bool DtCargoShipDecoder::decodeDraught(
+    DtCargoShipStateRepository& state, DtWireReader& reader)
 {
     const DtWireForm form = DtWireForm::number(4, DtLittleEndian);
     auto value = DtStartOf(state.draught());
@@ -52,7 +55,8 @@ bool DtCargoShipDecoder::decodeDraught(DtCargoShipStateRepository& state, DtWire
     return true;
 }
 
-bool DtCargoShipDecoder::decodeDangerous(DtCargoShipStateRepository& state, DtWireReader& reader)
+bool DtCargoShipDecoder::decodeDangerous(
+    DtCargoShipStateRepository& state, DtWireReader& reader)
 {
     const DtWireForm form = DtWireForm("HLAboolean", "", R"qx(HLAvariableArray)qx",
         -1 /* elements */, 0 /* octets */, 0 /* little-endian */);
@@ -65,7 +69,8 @@ bool DtCargoShipDecoder::decodeDangerous(DtCargoShipStateRepository& state, DtWi
     return true;
 }
 
-bool DtCargoShipDecoder::decodeSeal(DtCargoShipStateRepository& state, DtWireReader& reader)
+bool DtCargoShipDecoder::decodeSeal(
+    DtCargoShipStateRepository& state, DtWireReader& reader)
 {
     const DtWireForm form = DtWireForm();
     auto value = DtStartOf(state.seal());

@@ -16,32 +16,37 @@ DtCargoShipEncoder::DtCargoShipEncoder()
     addCoder("Seal", &DtCargoShipEncoder::encodeSeal);
 }
 
-bool DtCargoShipEncoder::encodeHolds(const DtCargoShipStateRepository& state, DtWireWriter& writer)
+bool DtCargoShipEncoder::encodeHolds(
+    const DtCargoShipStateRepository& state, DtWireWriter& writer)
 {
     const DtWireForm form = DtWireForm();
     return DtWriteValue(writer, state.holds(), form);
 }
 
-bool DtCargoShipEncoder::encodeManifest(const DtCargoShipStateRepository& state, DtWireWriter& writer)
+bool DtCargoShipEncoder::encodeManifest(
+    const DtCargoShipStateRepository& state, DtWireWriter& writer)
 {
     const DtWireForm form = DtWireForm();
     return DtWriteValue(writer, state.manifest(), form);
 }
 
-bool DtCargoShipEncoder::encodeDraught(const DtCargoShipStateRepository& state, DtWireWriter& writer)
+bool DtCargoShipEncoder::encodeDraught(
+    const DtCargoShipStateRepository& state, DtWireWriter& writer)
 {
     const DtWireForm form = DtWireForm::number(4, DtLittleEndian);
     return DtWriteValue(writer, state.draught(), form);
 }
 
-bool DtCargoShipEncoder::encodeDangerous(const DtCargoShipStateRepository& state, DtWireWriter& writer)
+bool DtCargoShipEncoder::encodeDangerous(
+    const DtCargoShipStateRepository& state, DtWireWriter& writer)
 {
     const DtWireForm form = DtWireForm("HLAboolean", "", R"qx(HLAvariableArray)qx",
         -1 /* elements */, 0 /* octets */, 0 /* little-endian */);
     return DtWriteValue(writer, state.dangerous(), form);
 }
 
-bool DtCargoShipEncoder::encodeSeal(const DtCargoShipStateRepository& state, DtWireWriter& writer)
+bool DtCargoShipEncoder::encodeSeal(
+    const DtCargoShipStateRepository& state, DtWireWriter& writer)
 {
     const DtWireForm form = DtWireForm();
     return DtWriteValue(writer, state.seal(), form);

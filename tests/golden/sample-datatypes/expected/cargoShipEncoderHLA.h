@@ -8,7 +8,8 @@
 #include "cargoShipStateRepository.h"
 #include "dllExport.h"
 
-// Puts the attributes of HLAobjectRoot.PortEntity.Vessel.CargoShip into named buffers, behind those of its superclasses.
+// Puts the attributes of HLAobjectRoot.PortEntity.Vessel.CargoShip
+// into named buffers, behind those of its superclasses.
 class DT_DLL_CASE DtCargoShipEncoder
     : public DtVesselEncoder
 {
@@ -17,11 +18,16 @@ public:
 
 protected:
     // One for each attribute; false if the value has no wire form.
-    static bool encodeHolds(const DtCargoShipStateRepository& state, DtWireWriter& writer);
-    static bool encodeManifest(const DtCargoShipStateRepository& state, DtWireWriter& writer);
-    static bool encodeDraught(const DtCargoShipStateRepository& state, DtWireWriter& writer);
-    static bool encodeDangerous(const DtCargoShipStateRepository& state, DtWireWriter& writer);
-    static bool encodeSeal(const DtCargoShipStateRepository& state, DtWireWriter& writer);
+    static bool encodeHolds(
+        const DtCargoShipStateRepository& state, DtWireWriter& writer);
+    static bool encodeManifest(
+        const DtCargoShipStateRepository& state, DtWireWriter& writer);
+    static bool encodeDraught(
+        const DtCargoShipStateRepository& state, DtWireWriter& writer);
+    static bool encodeDangerous(
+        const DtCargoShipStateRepository& state, DtWireWriter& writer);
+    static bool encodeSeal(
+        const DtCargoShipStateRepository& state, DtWireWriter& writer);
 };
 
 #endif

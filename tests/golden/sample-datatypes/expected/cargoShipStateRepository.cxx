@@ -19,7 +19,8 @@ void DtCargoShipStateRepository::setHolds(ValueOfHolds&& value)
     DtStateRepository::markChanged("Holds");
 }
 
-const DtCargoShipStateRepository::ValueOfHolds& DtCargoShipStateRepository::holds() const
+const DtCargoShipStateRepository::ValueOfHolds&
+DtCargoShipStateRepository::holds() const
 {
     return Own.myHolds;
 }
@@ -36,7 +37,8 @@ void DtCargoShipStateRepository::setManifest(ValueOfManifest&& value)
     DtStateRepository::markChanged("Manifest");
 }
 
-const DtCargoShipStateRepository::ValueOfManifest& DtCargoShipStateRepository::manifest() const
+const DtCargoShipStateRepository::ValueOfManifest&
+DtCargoShipStateRepository::manifest() const
 {
     return Own.myManifest;
 }
@@ -47,7 +49,8 @@ void DtCargoShipStateRepository::setDraught(const ValueOfDraught& value)
     DtStateRepository::markChanged("Draught");
 }
 
-const DtCargoShipStateRepository::ValueOfDraught& DtCargoShipStateRepository::draught() const
+const DtCargoShipStateRepository::ValueOfDraught&
+DtCargoShipStateRepository::draught() const
 {
     return Own.myDraught;
 }
@@ -58,7 +61,8 @@ void DtCargoShipStateRepository::setDangerous(const ValueOfDangerous& value)
     DtStateRepository::markChanged("Dangerous");
 }
 
-const DtCargoShipStateRepository::ValueOfDangerous& DtCargoShipStateRepository::dangerous() const
+const DtCargoShipStateRepository::ValueOfDangerous&
+DtCargoShipStateRepository::dangerous() const
 {
     return Own.myDangerous;
 }
@@ -75,7 +79,8 @@ void DtCargoShipStateRepository::setSeal(ValueOfSeal&& value)
     DtStateRepository::markChanged("Seal");
 }
 
-const DtCargoShipStateRepository::ValueOfSeal& DtCargoShipStateRepository::seal() const
+const DtCargoShipStateRepository::ValueOfSeal&
+DtCargoShipStateRepository::seal() const
 {
     return Own.mySeal;
 }

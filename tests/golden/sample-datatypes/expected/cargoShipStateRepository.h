@@ -17,7 +17,8 @@
 #include <iosfwd>
 #include <vector>
 
-// The attribute values of one PortEntity.Vessel.CargoShip: its own here, those of its superclasses in the bases.
+// The attribute values of one PortEntity.Vessel.CargoShip:
+// its own here, those of its superclasses in the bases.
 /// Carries goods.
 class DT_DLL_CASE DtCargoShipStateRepository
     : public DtVesselStateRepository

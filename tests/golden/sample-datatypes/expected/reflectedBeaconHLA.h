@@ -15,7 +15,8 @@
 class DtReflectedBeacon;
 typedef void (*DtBeaconCallbackFunction)(DtReflectedBeacon* object, void* user);
 
-// A Beacon that someone else publishes. DtReflectedBeaconList makes it and keeps it up to date.
+// A Beacon that someone else publishes.
+// DtReflectedBeaconList makes it and keeps it up to date.
 class DT_DLL_CASE DtReflectedBeacon : public DtHlaReflectedObject
 {
 public:

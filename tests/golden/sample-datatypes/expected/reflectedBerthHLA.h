@@ -15,7 +15,8 @@
 class DtReflectedBerth;
 typedef void (*DtBerthCallbackFunction)(DtReflectedBerth* object, void* user);
 
-// A Berth that someone else publishes. DtReflectedBerthList makes it and keeps it up to date.
+// A Berth that someone else publishes.
+// DtReflectedBerthList makes it and keeps it up to date.
 class DT_DLL_CASE DtReflectedBerth : public DtHlaReflectedObject
 {
 public:

@@ -18,7 +18,8 @@ DtReflectedBerth* DtReflectedBerthList::first() const
     return static_cast<DtReflectedBerth*>(findAfter(0));
 }
 
-DtReflectedBerth* DtReflectedBerthList::next(const DtReflectedBerth* object) const
+DtReflectedBerth*
+DtReflectedBerthList::next(const DtReflectedBerth* object) const
 {
     return static_cast<DtReflectedBerth*>(findAfter(object->objectId()));
 }
@@ -28,32 +29,38 @@ DtReflectedBerth* DtReflectedBerthList::lookup(DtExerciseObjectId id) const
     return static_cast<DtReflectedBerth*>(find(id));
 }
 
-void DtReflectedBerthList::addAdditionCallback(DtBerthCallbackFunction callback, void* user)
+void DtReflectedBerthList::addAdditionCallback(
+    DtBerthCallbackFunction callback, void* user)
 {
     addCallback(Addition, callback, user);
 }
 
-void DtReflectedBerthList::removeAdditionCallback(DtBerthCallbackFunction callback, void* user)
+void DtReflectedBerthList::removeAdditionCallback(
+    DtBerthCallbackFunction callback, void* user)
 {
     removeCallback(Addition, callback, user);
 }
 
-void DtReflectedBerthList::addUpdateCallback(DtBerthCallbackFunction callback, void* user)
+void DtReflectedBerthList::addUpdateCallback(
+    DtBerthCallbackFunction callback, void* user)
 {
     addCallback(Update, callback, user);
 }
 
-void DtReflectedBerthList::removeUpdateCallback(DtBerthCallbackFunction callback, void* user)
+void DtReflectedBerthList::removeUpdateCallback(
+    DtBerthCallbackFunction callback, void* user)
 {
     removeCallback(Update, callback, user);
 }
 
-void DtReflectedBerthList::addRemovalCallback(DtBerthCallbackFunction callback, void* user)
+void DtReflectedBerthList::addRemovalCallback(
+    DtBerthCallbackFunction callback, void* user)
 {
     addCallback(Removal, callback, user);
 }
 
-void DtReflectedBerthList::removeRemovalCallback(DtBerthCallbackFunction callback, void* user)
+void DtReflectedBerthList::removeRemovalCallback(
+    DtBerthCallbackFunction callback, void* user)
 {
     removeCallback(Removal, callback, user);
 }

@@ -15,7 +15,8 @@
 class DtReflectedCargoShip;
 typedef void (*DtCargoShipCallbackFunction)(DtReflectedCargoShip* object, void* user);
 
-// A CargoShip that someone else publishes. DtReflectedCargoShipList makes it and keeps it up to date.
+// A CargoShip that someone else publishes.
+// DtReflectedCargoShipList makes it and keeps it up to date.
 class DT_DLL_CASE DtReflectedCargoShip : public DtHlaReflectedObject
 {
 public:

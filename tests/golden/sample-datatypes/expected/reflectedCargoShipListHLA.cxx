@@ -18,7 +18,8 @@ DtReflectedCargoShip* DtReflectedCargoShipList::first() const
     return static_cast<DtReflectedCargoShip*>(findAfter(0));
 }
 
-DtReflectedCargoShip* DtReflectedCargoShipList::next(const DtReflectedCargoShip* object) const
+DtReflectedCargoShip*
+DtReflectedCargoShipList::next(const DtReflectedCargoShip* object) const
 {
     return static_cast<DtReflectedCargoShip*>(findAfter(object->objectId()));
 }
@@ -28,32 +29,38 @@ DtReflectedCargoShip* DtReflectedCargoShipList::lookup(DtExerciseObjectId id) co
     return static_cast<DtReflectedCargoShip*>(find(id));
 }
 
-void DtReflectedCargoShipList::addAdditionCallback(DtCargoShipCallbackFunction callback, void* user)
+void DtReflectedCargoShipList::addAdditionCallback(
+    DtCargoShipCallbackFunction callback, void* user)
 {
     addCallback(Addition, callback, user);
 }
 
-void DtReflectedCargoShipList::removeAdditionCallback(DtCargoShipCallbackFunction callback, void* user)
+void DtReflectedCargoShipList::removeAdditionCallback(
+    DtCargoShipCallbackFunction callback, void* user)
 {
     removeCallback(Addition, callback, user);
 }
 
-void DtReflectedCargoShipList::addUpdateCallback(DtCargoShipCallbackFunction callback, void* user)
+void DtReflectedCargoShipList::addUpdateCallback(
+    DtCargoShipCallbackFunction callback, void* user)
 {
     addCallback(Update, callback, user);
 }
 
-void DtReflectedCargoShipList::removeUpdateCallback(DtCargoShipCallbackFunction callback, void* user)
+void DtReflectedCargoShipList::removeUpdateCallback(
+    DtCargoShipCallbackFunction callback, void* user)
 {
     removeCallback(Update, callback, user);
 }
 
-void DtReflectedCargoShipList::addRemovalCallback(DtCargoShipCallbackFunction callback, void* user)
+void DtReflectedCargoShipList::addRemovalCallback(
+    DtCargoShipCallbackFunction callback, void* user)
 {
     addCallback(Removal, callback, user);
 }
 
-void DtReflectedCargoShipList::removeRemovalCallback(DtCargoShipCallbackFunction callback, void* user)
+void DtReflectedCargoShipList::removeRemovalCallback(
+    DtCargoShipCallbackFunction callback, void* user)
 {
     removeCallback(Removal, callback, user);
 }

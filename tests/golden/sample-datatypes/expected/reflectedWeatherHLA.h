@@ -15,7 +15,8 @@
 class DtReflectedWeather;
 typedef void (*DtWeatherCallbackFunction)(DtReflectedWeather* object, void* user);
 
-// A Weather that someone else publishes. DtReflectedWeatherList makes it and keeps it up to date.
+// A Weather that someone else publishes.
+// DtReflectedWeatherList makes it and keeps it up to date.
 class DT_DLL_CASE DtReflectedWeather : public DtHlaReflectedObject
 {
 public:

@@ -18,7 +18,8 @@ DtReflectedWeather* DtReflectedWeatherList::first() const
     return static_cast<DtReflectedWeather*>(findAfter(0));
 }
 
-DtReflectedWeather* DtReflectedWeatherList::next(const DtReflectedWeather* object) const
+DtReflectedWeather*
+DtReflectedWeatherList::next(const DtReflectedWeather* object) const
 {
     return static_cast<DtReflectedWeather*>(findAfter(object->objectId()));
 }
@@ -28,32 +29,38 @@ DtReflectedWeather* DtReflectedWeatherList::lookup(DtExerciseObjectId id) const
     return static_cast<DtReflectedWeather*>(find(id));
 }
 
-void DtReflectedWeatherList::addAdditionCallback(DtWeatherCallbackFunction callback, void* user)
+void DtReflectedWeatherList::addAdditionCallback(
+    DtWeatherCallbackFunction callback, void* user)
 {
     addCallback(Addition, callback, user);
 }
 
-void DtReflectedWeatherList::removeAdditionCallback(DtWeatherCallbackFunction callback, void* user)
+void DtReflectedWeatherList::removeAdditionCallback(
+    DtWeatherCallbackFunction callback, void* user)
 {
     removeCallback(Addition, callback, user);
 }
 
-void DtReflectedWeatherList::addUpdateCallback(DtWeatherCallbackFunction callback, void* user)
+void DtReflectedWeatherList::addUpdateCallback(
+    DtWeatherCallbackFunction callback, void* user)
 {
     addCallback(Update, callback, user);
 }
 
-void DtReflectedWeatherList::removeUpdateCallback(DtWeatherCallbackFunction callback, void* user)
+void DtReflectedWeatherList::removeUpdateCallback(
+    DtWeatherCallbackFunction callback, void* user)
 {
     removeCallback(Update, callback, user);
 }
 
-void DtReflectedWeatherList::addRemovalCallback(DtWeatherCallbackFunction callback, void* user)
+void DtReflectedWeatherList::addRemovalCallback(
+    DtWeatherCallbackFunction callback, void* user)
 {
     addCallback(Removal, callback, user);
 }
 
-void DtReflectedWeatherList::removeRemovalCallback(DtWeatherCallbackFunction callback, void* user)
+void DtReflectedWeatherList::removeRemovalCallback(
+    DtWeatherCallbackFunction callback, void* user)
 {
     removeCallback(Removal, callback, user);
 }

@@ -17,7 +17,8 @@ DtWeatherDecoder::DtWeatherDecoder()
     addCoder("Trace", &DtWeatherDecoder::decodeTrace);
 }
 
-bool DtWeatherDecoder::decodeWind(DtWeatherStateRepository& state, DtWireReader& reader)
+bool DtWeatherDecoder::decodeWind(
+    DtWeatherStateRepository& state, DtWireReader& reader)
 {
     const DtWireForm form = DtWireForm();
     auto value = DtStartOf(state.wind());
@@ -29,7 +30,8 @@ bool DtWeatherDecoder::decodeWind(DtWeatherStateRepository& state, DtWireReader&
     return true;
 }
 
-bool DtWeatherDecoder::decodeReport(DtWeatherStateRepository& state, DtWireReader& reader)
+bool DtWeatherDecoder::decodeReport(
+    DtWeatherStateRepository& state, DtWireReader& reader)
 {
     const DtWireForm form = DtWireForm();
     auto value = DtStartOf(state.report());
@@ -41,7 +43,8 @@ bool DtWeatherDecoder::decodeReport(DtWeatherStateRepository& state, DtWireReade
     return true;
 }
 
-bool DtWeatherDecoder::decodeSamples(DtWeatherStateRepository& state, DtWireReader& reader)
+bool DtWeatherDecoder::decodeSamples(
+    DtWeatherStateRepository& state, DtWireReader& reader)
 {
     const DtWireForm form = DtWireForm();
     auto value = DtStartOf(state.samples());
@@ -53,7 +56,8 @@ bool DtWeatherDecoder::decodeSamples(DtWeatherStateRepository& state, DtWireRead
     return true;
 }
 
-bool DtWeatherDecoder::decodeCodes(DtWeatherStateRepository& state, DtWireReader& reader)
+bool DtWeatherDecoder::decodeCodes(
+    DtWeatherStateRepository& state, DtWireReader& reader)
 {
     const DtWireForm form = DtWireForm();
     auto value = DtStartOf(state.codes());
@@ -65,7 +69,8 @@ bool DtWeatherDecoder::decodeCodes(DtWeatherStateRepository& state, DtWireReader
     return true;
 }
 
-bool DtWeatherDecoder::decodeTide(DtWeatherStateRepository& state, DtWireReader& reader)
+bool DtWeatherDecoder::decodeTide(
+    DtWeatherStateRepository& state, DtWireReader& reader)
 {
     const DtWireForm form = DtWireForm();
     auto value = DtStartOf(state.tide());
@@ -77,7 +82,8 @@ bool DtWeatherDecoder::decodeTide(DtWeatherStateRepository& state, DtWireReader&
     return true;
 }
 
-bool DtWeatherDecoder::decodeTrace(DtWeatherStateRepository& state, DtWireReader& reader)
+bool DtWeatherDecoder::decodeTrace(
+    DtWeatherStateRepository& state, DtWireReader& reader)
 {
     const DtWireForm form = DtWireForm();
     auto value = DtStartOf(state.trace());

@@ -17,37 +17,43 @@ DtWeatherEncoder::DtWeatherEncoder()
     addCoder("Trace", &DtWeatherEncoder::encodeTrace);
 }
 
-bool DtWeatherEncoder::encodeWind(const DtWeatherStateRepository& state, DtWireWriter& writer)
+bool DtWeatherEncoder::encodeWind(
+    const DtWeatherStateRepository& state, DtWireWriter& writer)
 {
     const DtWireForm form = DtWireForm();
     return DtWriteValue(writer, state.wind(), form);
 }
 
-bool DtWeatherEncoder::encodeReport(const DtWeatherStateRepository& state, DtWireWriter& writer)
+bool DtWeatherEncoder::encodeReport(
+    const DtWeatherStateRepository& state, DtWireWriter& writer)
 {
     const DtWireForm form = DtWireForm();
     return DtWriteValue(writer, state.report(), form);
 }
 
-bool DtWeatherEncoder::encodeSamples(const DtWeatherStateRepository& state, DtWireWriter& writer)
+bool DtWeatherEncoder::encodeSamples(
+    const DtWeatherStateRepository& state, DtWireWriter& writer)
 {
     const DtWireForm form = DtWireForm();
     return DtWriteValue(writer, state.samples(), form);
 }
 
-bool DtWeatherEncoder::encodeCodes(const DtWeatherStateRepository& state, DtWireWriter& writer)
+bool DtWeatherEncoder::encodeCodes(
+    const DtWeatherStateRepository& state, DtWireWriter& writer)
 {
     const DtWireForm form = DtWireForm();
     return DtWriteValue(writer, state.codes(), form);
 }
 
-bool DtWeatherEncoder::encodeTide(const DtWeatherStateRepository& state, DtWireWriter& writer)
+bool DtWeatherEncoder::encodeTide(
+    const DtWeatherStateRepository& state, DtWireWriter& writer)
 {
     const DtWireForm form = DtWireForm();
     return DtWriteValue(writer, state.tide(), form);
 }
 
-bool DtWeatherEncoder::encodeTrace(const DtWeatherStateRepository& state, DtWireWriter& writer)
+bool DtWeatherEncoder::encodeTrace(
+    const DtWeatherStateRepository& state, DtWireWriter& writer)
 {
     const DtWireForm form = DtWireForm();
     return DtWriteValue(writer, state.trace(), form);

@@ -8,7 +8,8 @@
 #include "weatherStateRepository.h"
 #include "dllExport.h"
 
-// Puts the attributes of HLAobjectRoot.Weather into named buffers, behind those of its superclasses.
+// Puts the attributes of HLAobjectRoot.Weather
+// into named buffers, behind those of its superclasses.
 class DT_DLL_CASE DtWeatherEncoder
     : public DtHlaStateEncoder
 {
@@ -17,12 +18,18 @@ public:
 
 protected:
     // One for each attribute; false if the value has no wire form.
-    static bool encodeWind(const DtWeatherStateRepository& state, DtWireWriter& writer);
-    static bool encodeReport(const DtWeatherStateRepository& state, DtWireWriter& writer);
-    static bool encodeSamples(const DtWeatherStateRepository& state, DtWireWriter& writer);
-    static bool encodeCodes(const DtWeatherStateRepository& state, DtWireWriter& writer);
-    static bool encodeTide(const DtWeatherStateRepository& state, DtWireWriter& writer);
-    static bool encodeTrace(const DtWeatherStateRepository& state, DtWireWriter& writer);
+    static bool encodeWind(
+        const DtWeatherStateRepository& state, DtWireWriter& writer);
+    static bool encodeReport(
+        const DtWeatherStateRepository& state, DtWireWriter& writer);
+    static bool encodeSamples(
+        const DtWeatherStateRepository& state, DtWireWriter& writer);
+    static bool encodeCodes(
+        const DtWeatherStateRepository& state, DtWireWriter& writer);
+    static bool encodeTide(
+        const DtWeatherStateRepository& state, DtWireWriter& writer);
+    static bool encodeTrace(
+        const DtWeatherStateRepository& state, DtWireWriter& writer);
 };
 
 #endif

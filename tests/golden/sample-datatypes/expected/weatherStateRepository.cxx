@@ -19,7 +19,8 @@ void DtWeatherStateRepository::setWind(ValueOfWind&& value)
     DtStateRepository::markChanged("Wind");
 }
 
-const DtWeatherStateRepository::ValueOfWind& DtWeatherStateRepository::wind() const
+const DtWeatherStateRepository::ValueOfWind&
+DtWeatherStateRepository::wind() const
 {
     return Own.myWind;
 }
@@ -36,7 +37,8 @@ void DtWeatherStateRepository::setReport(ValueOfReport&& value)
     DtStateRepository::markChanged("Report");
 }
 
-const DtWeatherStateRepository::ValueOfReport& DtWeatherStateRepository::report() const
+const DtWeatherStateRepository::ValueOfReport&
+DtWeatherStateRepository::report() const
 {
     return Own.myReport;
 }
@@ -53,7 +55,8 @@ void DtWeatherStateRepository::setSamples(ValueOfSamples&& value)
     DtStateRepository::markChanged("Samples");
 }
 
-const DtWeatherStateRepository::ValueOfSamples& DtWeatherStateRepository::samples() const
+const DtWeatherStateRepository::ValueOfSamples&
+DtWeatherStateRepository::samples() const
 {
     return Own.mySamples;
 }
@@ -70,7 +73,8 @@ void DtWeatherStateRepository::setCodes(ValueOfCodes&& value)
     DtStateRepository::markChanged("Codes");
 }
 
-const DtWeatherStateRepository::ValueOfCodes& DtWeatherStateRepository::codes() const
+const DtWeatherStateRepository::ValueOfCodes&
+DtWeatherStateRepository::codes() const
 {
     return Own.myCodes;
 }
@@ -81,7 +85,8 @@ void DtWeatherStateRepository::setTide(const ValueOfTide& value)
     DtStateRepository::markChanged("Tide");
 }
 
-const DtWeatherStateRepository::ValueOfTide& DtWeatherStateRepository::tide() const
+const DtWeatherStateRepository::ValueOfTide&
+DtWeatherStateRepository::tide() const
 {
     return Own.myTide;
 }
@@ -98,7 +103,8 @@ void DtWeatherStateRepository::setTrace(ValueOfTrace&& value)
     DtStateRepository::markChanged("Trace");
 }
 
-const DtWeatherStateRepository::ValueOfTrace& DtWeatherStateRepository::trace() const
+const DtWeatherStateRepository::ValueOfTrace&
+DtWeatherStateRepository::trace() const
 {
     return Own.myTrace;
 }

@@ -20,7 +20,8 @@
 #include <iosfwd>
 #include <vector>
 
-// The attribute values of one Weather: its own here, those of its superclasses in the bases.
+// The attribute values of one Weather:
+// its own here, those of its superclasses in the bases.
 /// Weather over the harbour.
 class DT_DLL_CASE DtWeatherStateRepository
     : public DtStateRepository

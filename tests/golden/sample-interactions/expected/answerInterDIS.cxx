@@ -6,7 +6,8 @@
 #include <qx/interactionWithEncDec.h>
 #include <qx/valueCoding.h>
 
-DtAnswerInterInter::DtAnswerInterInter() : DtAnswerInterInter(std::string("Radio.Answer"))
+DtAnswerInterInter::DtAnswerInterInter()
+    : DtAnswerInterInter(std::string("Radio.Answer"))
 {
 }
 
@@ -17,15 +18,19 @@ DtAnswerInterInter::DtAnswerInterInter(const std::string& fullClassName)
 
 bool DtAnswerInterInter::send(DtExerciseConn* exerciseConn, const DtAnswerInterInter& interaction)
 {
-    return exerciseConn->sendPdu(DtAnswerInterPdu::theKind, interaction, DtSharedEncoder<DtAnswerInterEncoder>());
+    return exerciseConn->sendPdu(
+        DtAnswerInterPdu::theKind, interaction, DtSharedEncoder<DtAnswerInterEncoder>());
 }
 
-void DtAnswerInterInter::addCallback(DtExerciseConn* exerciseConn, DtAnswerInterInterCb callback, void* user)
+void DtAnswerInterInter::addCallback(
+    DtExerciseConn* exerciseConn, DtAnswerInterInterCb callback, void* user)
 {
-    exerciseConn->addPduCallback(DtAnswerInterPdu::theKind, &DtSharedDecoder<DtAnswerInterDecoder>, callback, user);
+    exerciseConn->addPduCallback(
+        DtAnswerInterPdu::theKind, &DtSharedDecoder<DtAnswerInterDecoder>, callback, user);
 }
 
-void DtAnswerInterInter::removeCallback(DtExerciseConn* exerciseConn, DtAnswerInterInterCb callback, void* user)
+void DtAnswerInterInter::removeCallback(
+    DtExerciseConn* exerciseConn, DtAnswerInterInterCb callback, void* user)
 {
     exerciseConn->removePduCallback(DtAnswerInterPdu::theKind, callback, user);
 }
@@ -35,7 +40,8 @@ void DtAnswerInterInter::setDone(const ValueOfDone& value)
     Own.myDone = value;
 }
 
-const DtAnswerInterInter::ValueOfDone& DtAnswerInterInter::done() const
+const DtAnswerInterInter::ValueOfDone&
+DtAnswerInterInter::done() const
 {
     return Own.myDone;
 }
@@ -50,20 +56,23 @@ void DtAnswerInterInter::setReason(ValueOfReason&& value)
     Own.myReason = std::move(value);
 }
 
-const DtAnswerInterInter::ValueOfReason& DtAnswerInterInter::reason() const
+const DtAnswerInterInter::ValueOfReason&
+DtAnswerInterInter::reason() const
 {
     return Own.myReason;
 }
 
 // ---- coding
-static bool encode_DtAnswerInter_Done(const DtAnswerInterInter& interaction, DtWireWriter& writer)
+static bool encode_DtAnswerInter_Done(
+    const DtAnswerInterInter& interaction, DtWireWriter& writer)
 {
     const DtWireForm form = DtWireForm("HLAboolean", "", R"qx(HLAvariableArray)qx",
         -1 /* elements */, 0 /* octets */, 0 /* little-endian */);
     return DtWriteValue(writer, interaction.done(), form);
 }
 
-static bool decode_DtAnswerInter_Done(DtAnswerInterInter& interaction, DtWireReader& reader)
+static bool decode_DtAnswerInter_Done(
+    DtAnswerInterInter& interaction, DtWireReader& reader)
 {
     const DtWireForm form = DtWireForm("HLAboolean", "", R"qx(HLAvariableArray)qx",
         -1 /* elements */, 0 /* octets */, 0 /* little-endian */);
@@ -75,13 +84,15 @@ static bool decode_DtAnswerInter_Done(DtAnswerInterInter& interaction, DtWireRea
     interaction.setDone(std::move(value));
     return true;
 }
-static bool encode_DtAnswerInter_Reason(const DtAnswerInterInter& interaction, DtWireWriter& writer)
+static bool encode_DtAnswerInter_Reason(
+    const DtAnswerInterInter& interaction, DtWireWriter& writer)
 {
     const DtWireForm form = DtWireForm();
     return DtWriteValue(writer, interaction.reason(), form);
 }
 
-static bool decode_DtAnswerInter_Reason(DtAnswerInterInter& interaction, DtWireReader& reader)
+static bool decode_DtAnswerInter_Reason(
+    DtAnswerInterInter& interaction, DtWireReader& reader)
 {
     const DtWireForm form = DtWireForm();
     auto value = DtStartOf(interaction.reason());

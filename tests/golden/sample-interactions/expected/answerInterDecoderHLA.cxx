@@ -13,7 +13,8 @@ DtAnswerInterDecoder::DtAnswerInterDecoder()
     addCoder("Reason", &DtAnswerInterDecoder::decodeReason);
 }
 
-bool DtAnswerInterDecoder::decodeDone(DtAnswerInter& interaction, DtWireReader& reader)
+bool DtAnswerInterDecoder::decodeDone(
+    DtAnswerInter& interaction, DtWireReader& reader)
 {
     const DtWireForm form = DtWireForm("HLAboolean", "", R"qx(HLAvariableArray)qx",
         -1 /* elements */, 0 /* octets */, 0 /* little-endian */);
@@ -26,7 +27,8 @@ bool DtAnswerInterDecoder::decodeDone(DtAnswerInter& interaction, DtWireReader& 
     return true;
 }
 
-bool DtAnswerInterDecoder::decodeReason(DtAnswerInter& interaction, DtWireReader& reader)
+bool DtAnswerInterDecoder::decodeReason(
+    DtAnswerInter& interaction, DtWireReader& reader)
 {
     const DtWireForm form = DtWireForm();
     auto value = DtStartOf(interaction.reason());

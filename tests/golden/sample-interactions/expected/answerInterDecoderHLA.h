@@ -8,7 +8,8 @@
 #include "answerInterHLA.h"
 #include "dllExport.h"
 
-// Sets the parameters of HLAinteractionRoot.Radio.Answer and of its superclasses from named buffers.
+// Sets the parameters of HLAinteractionRoot.Radio.Answer
+// and of its superclasses from named buffers.
 class DT_DLL_CASE DtAnswerInterDecoder
     : public DtRadioInterDecoder
 {
@@ -17,8 +18,10 @@ public:
 
 protected:
     // One for each parameter; false if the buffer holds no value of it.
-    static bool decodeDone(DtAnswerInter& interaction, DtWireReader& reader);
-    static bool decodeReason(DtAnswerInter& interaction, DtWireReader& reader);
+    static bool decodeDone(
+        DtAnswerInter& interaction, DtWireReader& reader);
+    static bool decodeReason(
+        DtAnswerInter& interaction, DtWireReader& reader);
 };
 
 #endif

@@ -19,14 +19,16 @@ DtAnswerInterEncoder::DtAnswerInterEncoder()
     }
 }
 
-bool DtAnswerInterEncoder::encodeDone(const DtAnswerInter& interaction, DtWireWriter& writer)
+bool DtAnswerInterEncoder::encodeDone(
+    const DtAnswerInter& interaction, DtWireWriter& writer)
 {
     const DtWireForm form = DtWireForm("HLAboolean", "", R"qx(HLAvariableArray)qx",
         -1 /* elements */, 0 /* octets */, 0 /* little-endian */);
     return DtWriteValue(writer, interaction.done(), form);
 }
 
-bool DtAnswerInterEncoder::encodeReason(const DtAnswerInter& interaction, DtWireWriter& writer)
+bool DtAnswerInterEncoder::encodeReason(
+    const DtAnswerInter& interaction, DtWireWriter& writer)
 {
     const DtWireForm form = DtWireForm();
     return DtWriteValue(writer, interaction.reason(), form);

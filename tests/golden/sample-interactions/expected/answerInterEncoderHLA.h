@@ -8,7 +8,8 @@
 #include "answerInterHLA.h"
 #include "dllExport.h"
 
-// Puts the parameters of HLAinteractionRoot.Radio.Answer into named buffers, behind those of its superclasses.
+// Puts the parameters of HLAinteractionRoot.Radio.Answer
+// into named buffers, behind those of its superclasses.
 class DT_DLL_CASE DtAnswerInterEncoder
     : public DtRadioInterEncoder
 {
@@ -17,8 +18,10 @@ public:
 
 protected:
     // One for each parameter; false if the value has no wire form.
-    static bool encodeDone(const DtAnswerInter& interaction, DtWireWriter& writer);
-    static bool encodeReason(const DtAnswerInter& interaction, DtWireWriter& writer);
+    static bool encodeDone(
+        const DtAnswerInter& interaction, DtWireWriter& writer);
+    static bool encodeReason(
+        const DtAnswerInter& interaction, DtWireWriter& writer);
 
 private:
     // What the project leaves out has a coder all the same, but is not sent.

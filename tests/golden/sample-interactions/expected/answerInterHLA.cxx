@@ -8,7 +8,9 @@
 
 DtAnswerInter::DtAnswerInter()
     : DtAnswerInter(DtInteractionCoding{
-          "Radio.Answer", &DtSharedEncoder<DtAnswerInterEncoder>, &DtSharedDecoder<DtAnswerInterDecoder>})
+          "Radio.Answer",
+          &DtSharedEncoder<DtAnswerInterEncoder>,
+          &DtSharedDecoder<DtAnswerInterDecoder>})
 {
 }
 
@@ -17,12 +19,14 @@ DtAnswerInter::DtAnswerInter(const DtInteractionCoding& coding)
 {
 }
 
-void DtAnswerInter::addCallback(DtExerciseConn* exerciseConn, DtAnswerInterCb callback, void* user)
+void DtAnswerInter::addCallback(
+    DtExerciseConn* exerciseConn, DtAnswerInterCb callback, void* user)
 {
     exerciseConn->addInteractionCallback(callback, user);
 }
 
-void DtAnswerInter::removeCallback(DtExerciseConn* exerciseConn, DtAnswerInterCb callback, void* user)
+void DtAnswerInter::removeCallback(
+    DtExerciseConn* exerciseConn, DtAnswerInterCb callback, void* user)
 {
     exerciseConn->removeInteractionCallback(callback, user);
 }
@@ -32,7 +36,8 @@ void DtAnswerInter::setDone(const ValueOfDone& value)
     Own.myDone = value;
 }
 
-const DtAnswerInter::ValueOfDone& DtAnswerInter::done() const
+const DtAnswerInter::ValueOfDone&
+DtAnswerInter::done() const
 {
     return Own.myDone;
 }
@@ -47,7 +52,8 @@ void DtAnswerInter::setReason(ValueOfReason&& value)
     Own.myReason = std::move(value);
 }
 
-const DtAnswerInter::ValueOfReason& DtAnswerInter::reason() const
+const DtAnswerInter::ValueOfReason&
+DtAnswerInter::reason() const
 {
     return Own.myReason;
 }

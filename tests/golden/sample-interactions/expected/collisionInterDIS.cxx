@@ -6,7 +6,8 @@
 #include <qx/interactionWithEncDec.h>
 #include <qx/valueCoding.h>
 
-DtCollisionInterInter::DtCollisionInterInter() : DtCollisionInterInter(std::string("Collision"))
+DtCollisionInterInter::DtCollisionInterInter()
+    : DtCollisionInterInter(std::string("Collision"))
 {
 }
 
@@ -17,15 +18,19 @@ DtCollisionInterInter::DtCollisionInterInter(const std::string& fullClassName)
 
 bool DtCollisionInterInter::send(DtExerciseConn* exerciseConn, const DtCollisionInterInter& interaction)
 {
-    return exerciseConn->sendPdu(DtCollisionInterPdu::theKind, interaction, DtSharedEncoder<DtCollisionInterEncoder>());
+    return exerciseConn->sendPdu(
+        DtCollisionInterPdu::theKind, interaction, DtSharedEncoder<DtCollisionInterEncoder>());
 }
 
-void DtCollisionInterInter::addCallback(DtExerciseConn* exerciseConn, DtCollisionInterInterCb callback, void* user)
+void DtCollisionInterInter::addCallback(
+    DtExerciseConn* exerciseConn, DtCollisionInterInterCb callback, void* user)
 {
-    exerciseConn->addPduCallback(DtCollisionInterPdu::theKind, &DtSharedDecoder<DtCollisionInterDecoder>, callback, user);
+    exerciseConn->addPduCallback(
+        DtCollisionInterPdu::theKind, &DtSharedDecoder<DtCollisionInterDecoder>, callback, user);
 }
 
-void DtCollisionInterInter::removeCallback(DtExerciseConn* exerciseConn, DtCollisionInterInterCb callback, void* user)
+void DtCollisionInterInter::removeCallback(
+    DtExerciseConn* exerciseConn, DtCollisionInterInterCb callback, void* user)
 {
     exerciseConn->removePduCallback(DtCollisionInterPdu::theKind, callback, user);
 }
@@ -35,7 +40,8 @@ void DtCollisionInterInter::setForce(const ValueOfForce& value)
     Own.myForce = value;
 }
 
-const DtCollisionInterInter::ValueOfForce& DtCollisionInterInter::force() const
+const DtCollisionInterInter::ValueOfForce&
+DtCollisionInterInter::force() const
 {
     return Own.myForce;
 }
@@ -50,7 +56,8 @@ void DtCollisionInterInter::setWhere(ValueOfWhere&& value)
     Own.myWhere = std::move(value);
 }
 
-const DtCollisionInterInter::ValueOfWhere& DtCollisionInterInter::where() const
+const DtCollisionInterInter::ValueOfWhere&
+DtCollisionInterInter::where() const
 {
     return Own.myWhere;
 }
@@ -65,19 +72,22 @@ void DtCollisionInterInter::setDebris(ValueOfDebris&& value)
     Own.myDebris = std::move(value);
 }
 
-const DtCollisionInterInter::ValueOfDebris& DtCollisionInterInter::debris() const
+const DtCollisionInterInter::ValueOfDebris&
+DtCollisionInterInter::debris() const
 {
     return Own.myDebris;
 }
 
 // ---- coding
-static bool encode_DtCollisionInter_Force(const DtCollisionInterInter& interaction, DtWireWriter& writer)
+static bool encode_DtCollisionInter_Force(
+    const DtCollisionInterInter& interaction, DtWireWriter& writer)
 {
     const DtWireForm form = DtWireForm::number(8, DtLittleEndian);
     return DtWriteValue(writer, interaction.force(), form);
 }
 
-static bool decode_DtCollisionInter_Force(DtCollisionInterInter& interaction, DtWireReader& reader)
+static bool decode_DtCollisionInter_Force(
+    DtCollisionInterInter& interaction, DtWireReader& reader)
 {
     const DtWireForm form = DtWireForm::number(8, DtLittleEndian);
     auto value = DtStartOf(interaction.force());
@@ -88,13 +98,15 @@ static bool decode_DtCollisionInter_Force(DtCollisionInterInter& interaction, Dt
     interaction.setForce(std::move(value));
     return true;
 }
-static bool encode_DtCollisionInter_Where(const DtCollisionInterInter& interaction, DtWireWriter& writer)
+static bool encode_DtCollisionInter_Where(
+    const DtCollisionInterInter& interaction, DtWireWriter& writer)
 {
     const DtWireForm form = DtWireForm();
     return DtWriteValue(writer, interaction.where(), form);
 }
 
-static bool decode_DtCollisionInter_Where(DtCollisionInterInter& interaction, DtWireReader& reader)
+static bool decode_DtCollisionInter_Where(
+    DtCollisionInterInter& interaction, DtWireReader& reader)
 {
     const DtWireForm form = DtWireForm();
     auto value = DtStartOf(interaction.where());
@@ -105,13 +117,15 @@ static bool decode_DtCollisionInter_Where(DtCollisionInterInter& interaction, Dt
     interaction.setWhere(std::move(value));
     return true;
 }
-static bool encode_DtCollisionInter_Debris(const DtCollisionInterInter& interaction, DtWireWriter& writer)
+static bool encode_DtCollisionInter_Debris(
+    const DtCollisionInterInter& interaction, DtWireWriter& writer)
 {
     const DtWireForm form = DtWireForm();
     return DtWriteValue(writer, interaction.debris(), form);
 }
 
-static bool decode_DtCollisionInter_Debris(DtCollisionInterInter& interaction, DtWireReader& reader)
+static bool decode_DtCollisionInter_Debris(
+    DtCollisionInterInter& interaction, DtWireReader& reader)
 {
     const DtWireForm form = DtWireForm();
     auto value = DtStartOf(interaction.debris());

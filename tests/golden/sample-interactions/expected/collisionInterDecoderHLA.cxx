@@ -14,7 +14,8 @@ DtCollisionInterDecoder::DtCollisionInterDecoder()
     addCoder("Debris", &DtCollisionInterDecoder::decodeDebris);
 }
 
-bool DtCollisionInterDecoder::decodeForce(DtCollisionInter& interaction, DtWireReader& reader)
+bool DtCollisionInterDecoder::decodeForce(
+    DtCollisionInter& interaction, DtWireReader& reader)
 {
     const DtWireForm form = DtWireForm::number(8, DtLittleEndian);
     auto value = DtStartOf(interaction.force());
@@ -26,7 +27,8 @@ bool DtCollisionInterDecoder::decodeForce(DtCollisionInter& interaction, DtWireR
     return true;
 }
 
-bool DtCollisionInterDecoder::decodeWhere(DtCollisionInter& interaction, DtWireReader& reader)
+bool DtCollisionInterDecoder::decodeWhere(
+    DtCollisionInter& interaction, DtWireReader& reader)
 {
     const DtWireForm form = DtWireForm();
     auto value = DtStartOf(interaction.where());
@@ -38,7 +40,8 @@ bool DtCollisionInterDecoder::decodeWhere(DtCollisionInter& interaction, DtWireR
     return true;
 }
 
-bool DtCollisionInterDecoder::decodeDebris(DtCollisionInter& interaction, DtWireReader& reader)
+bool DtCollisionInterDecoder::decodeDebris(
+    DtCollisionInter& interaction, DtWireReader& reader)
 {
     const DtWireForm form = DtWireForm();
     auto value = DtStartOf(interaction.debris());

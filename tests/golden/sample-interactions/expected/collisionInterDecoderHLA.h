@@ -8,7 +8,8 @@
 #include "collisionInterHLA.h"
 #include "dllExport.h"
 
-// Sets the parameters of HLAinteractionRoot.Collision and of its superclasses from named buffers.
+// Sets the parameters of HLAinteractionRoot.Collision
+// and of its superclasses from named buffers.
 class DT_DLL_CASE DtCollisionInterDecoder
     : public DtInteractionDecoder
 {
@@ -17,9 +18,12 @@ public:
 
 protected:
     // One for each parameter; false if the buffer holds no value of it.
-    static bool decodeForce(DtCollisionInter& interaction, DtWireReader& reader);
-    static bool decodeWhere(DtCollisionInter& interaction, DtWireReader& reader);
-    static bool decodeDebris(DtCollisionInter& interaction, DtWireReader& reader);
+    static bool decodeForce(
+        DtCollisionInter& interaction, DtWireReader& reader);
+    static bool decodeWhere(
+        DtCollisionInter& interaction, DtWireReader& reader);
+    static bool decodeDebris(
+        DtCollisionInter& interaction, DtWireReader& reader);
 };
 
 #endif

@@ -23,19 +23,22 @@ DtCollisionInterEncoder::DtCollisionInterEncoder()
     }
 }
 
-bool DtCollisionInterEncoder::encodeForce(const DtCollisionInter& interaction, DtWireWriter& writer)
+bool DtCollisionInterEncoder::encodeForce(
+    const DtCollisionInter& interaction, DtWireWriter& writer)
 {
     const DtWireForm form = DtWireForm::number(8, DtLittleEndian);
     return DtWriteValue(writer, interaction.force(), form);
 }
 
-bool DtCollisionInterEncoder::encodeWhere(const DtCollisionInter& interaction, DtWireWriter& writer)
+bool DtCollisionInterEncoder::encodeWhere(
+    const DtCollisionInter& interaction, DtWireWriter& writer)
 {
     const DtWireForm form = DtWireForm();
     return DtWriteValue(writer, interaction.where(), form);
 }
 
-bool DtCollisionInterEncoder::encodeDebris(const DtCollisionInter& interaction, DtWireWriter& writer)
+bool DtCollisionInterEncoder::encodeDebris(
+    const DtCollisionInter& interaction, DtWireWriter& writer)
 {
     const DtWireForm form = DtWireForm();
     return DtWriteValue(writer, interaction.debris(), form);

@@ -8,7 +8,8 @@
 #include "collisionInterHLA.h"
 #include "dllExport.h"
 
-// Puts the parameters of HLAinteractionRoot.Collision into named buffers, behind those of its superclasses.
+// Puts the parameters of HLAinteractionRoot.Collision
+// into named buffers, behind those of its superclasses.
 class DT_DLL_CASE DtCollisionInterEncoder
     : public DtInteractionEncoder
 {
@@ -17,9 +18,12 @@ public:
 
 protected:
     // One for each parameter; false if the value has no wire form.
-    static bool encodeForce(const DtCollisionInter& interaction, DtWireWriter& writer);
-    static bool encodeWhere(const DtCollisionInter& interaction, DtWireWriter& writer);
-    static bool encodeDebris(const DtCollisionInter& interaction, DtWireWriter& writer);
+    static bool encodeForce(
+        const DtCollisionInter& interaction, DtWireWriter& writer);
+    static bool encodeWhere(
+        const DtCollisionInter& interaction, DtWireWriter& writer);
+    static bool encodeDebris(
+        const DtCollisionInter& interaction, DtWireWriter& writer);
 
 private:
     // What the project leaves out has a coder all the same, but is not sent.

@@ -8,7 +8,9 @@
 
 DtCollisionInter::DtCollisionInter()
     : DtCollisionInter(DtInteractionCoding{
-          "Collision", &DtSharedEncoder<DtCollisionInterEncoder>, &DtSharedDecoder<DtCollisionInterDecoder>})
+          "Collision",
+          &DtSharedEncoder<DtCollisionInterEncoder>,
+          &DtSharedDecoder<DtCollisionInterDecoder>})
 {
 }
 
@@ -17,12 +19,14 @@ DtCollisionInter::DtCollisionInter(const DtInteractionCoding& coding)
 {
 }
 
-void DtCollisionInter::addCallback(DtExerciseConn* exerciseConn, DtCollisionInterCb callback, void* user)
+void DtCollisionInter::addCallback(
+    DtExerciseConn* exerciseConn, DtCollisionInterCb callback, void* user)
 {
     exerciseConn->addInteractionCallback(callback, user);
 }
 
-void DtCollisionInter::removeCallback(DtExerciseConn* exerciseConn, DtCollisionInterCb callback, void* user)
+void DtCollisionInter::removeCallback(
+    DtExerciseConn* exerciseConn, DtCollisionInterCb callback, void* user)
 {
     exerciseConn->removeInteractionCallback(callback, user);
 }
@@ -32,7 +36,8 @@ void DtCollisionInter::setForce(const ValueOfForce& value)
     Own.myForce = value;
 }
 
-const DtCollisionInter::ValueOfForce& DtCollisionInter::force() const
+const DtCollisionInter::ValueOfForce&
+DtCollisionInter::force() const
 {
     return Own.myForce;
 }
@@ -47,7 +52,8 @@ void DtCollisionInter::setWhere(ValueOfWhere&& value)
     Own.myWhere = std::move(value);
 }
 
-const DtCollisionInter::ValueOfWhere& DtCollisionInter::where() const
+const DtCollisionInter::ValueOfWhere&
+DtCollisionInter::where() const
 {
     return Own.myWhere;
 }
@@ -62,7 +68,8 @@ void DtCollisionInter::setDebris(ValueOfDebris&& value)
     Own.myDebris = std::move(value);
 }
 
-const DtCollisionInter::ValueOfDebris& DtCollisionInter::debris() const
+const DtCollisionInter::ValueOfDebris&
+DtCollisionInter::debris() const
 {
     return Own.myDebris;
 }

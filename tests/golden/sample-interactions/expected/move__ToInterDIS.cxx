@@ -6,7 +6,8 @@
 #include <qx/interactionWithEncDec.h>
 #include <qx/valueCoding.h>
 
-DtMove__ToInterInter::DtMove__ToInterInter() : DtMove__ToInterInter(std::string("Radio.Order.Move-To"))
+DtMove__ToInterInter::DtMove__ToInterInter()
+    : DtMove__ToInterInter(std::string("Radio.Order.Move-To"))
 {
 }
 
@@ -17,15 +18,19 @@ DtMove__ToInterInter::DtMove__ToInterInter(const std::string& fullClassName)
 
 bool DtMove__ToInterInter::send(DtExerciseConn* exerciseConn, const DtMove__ToInterInter& interaction)
 {
-    return exerciseConn->sendPdu(DtMove__ToInterPdu::theKind, interaction, DtSharedEncoder<DtMove__ToInterEncoder>());
+    return exerciseConn->sendPdu(
+        DtMove__ToInterPdu::theKind, interaction, DtSharedEncoder<DtMove__ToInterEncoder>());
 }
 
-void DtMove__ToInterInter::addCallback(DtExerciseConn* exerciseConn, DtMove__ToInterInterCb callback, void* user)
+void DtMove__ToInterInter::addCallback(
+    DtExerciseConn* exerciseConn, DtMove__ToInterInterCb callback, void* user)
 {
-    exerciseConn->addPduCallback(DtMove__ToInterPdu::theKind, &DtSharedDecoder<DtMove__ToInterDecoder>, callback, user);
+    exerciseConn->addPduCallback(
+        DtMove__ToInterPdu::theKind, &DtSharedDecoder<DtMove__ToInterDecoder>, callback, user);
 }
 
-void DtMove__ToInterInter::removeCallback(DtExerciseConn* exerciseConn, DtMove__ToInterInterCb callback, void* user)
+void DtMove__ToInterInter::removeCallback(
+    DtExerciseConn* exerciseConn, DtMove__ToInterInterCb callback, void* user)
 {
     exerciseConn->removePduCallback(DtMove__ToInterPdu::theKind, callback, user);
 }
@@ -40,7 +45,8 @@ void DtMove__ToInterInter::setTarget_Point_(ValueOfTarget_Point_&& value)
     Own.myTarget_Point_ = std::move(value);
 }
 
-const DtMove__ToInterInter::ValueOfTarget_Point_& DtMove__ToInterInter::target_Point_() const
+const DtMove__ToInterInter::ValueOfTarget_Point_&
+DtMove__ToInterInter::target_Point_() const
 {
     return Own.myTarget_Point_;
 }
@@ -50,7 +56,8 @@ void DtMove__ToInterInter::setBy__Hour(const ValueOfBy__Hour& value)
     Own.myBy__Hour = value;
 }
 
-const DtMove__ToInterInter::ValueOfBy__Hour& DtMove__ToInterInter::by__Hour() const
+const DtMove__ToInterInter::ValueOfBy__Hour&
+DtMove__ToInterInter::by__Hour() const
 {
     return Own.myBy__Hour;
 }
@@ -65,19 +72,22 @@ void DtMove__ToInterInter::setTugs(ValueOfTugs&& value)
     Own.myTugs = std::move(value);
 }
 
-const DtMove__ToInterInter::ValueOfTugs& DtMove__ToInterInter::tugs() const
+const DtMove__ToInterInter::ValueOfTugs&
+DtMove__ToInterInter::tugs() const
 {
     return Own.myTugs;
 }
 
 // ---- coding
-static bool encode_DtMove__ToInter_Target_Point_(const DtMove__ToInterInter& interaction, DtWireWriter& writer)
+static bool encode_DtMove__ToInter_Target_Point_(
+    const DtMove__ToInterInter& interaction, DtWireWriter& writer)
 {
     const DtWireForm form = DtWireForm();
     return DtWriteValue(writer, interaction.target_Point_(), form);
 }
 
-static bool decode_DtMove__ToInter_Target_Point_(DtMove__ToInterInter& interaction, DtWireReader& reader)
+static bool decode_DtMove__ToInter_Target_Point_(
+    DtMove__ToInterInter& interaction, DtWireReader& reader)
 {
     const DtWireForm form = DtWireForm();
     auto value = DtStartOf(interaction.target_Point_());
@@ -88,13 +98,15 @@ static bool decode_DtMove__ToInter_Target_Point_(DtMove__ToInterInter& interacti
     interaction.setTarget_Point_(std::move(value));
     return true;
 }
-static bool encode_DtMove__ToInter_By__Hour(const DtMove__ToInterInter& interaction, DtWireWriter& writer)
+static bool encode_DtMove__ToInter_By__Hour(
+    const DtMove__ToInterInter& interaction, DtWireWriter& writer)
 {
     const DtWireForm form = DtWireForm::number(8, DtLittleEndian);
     return DtWriteValue(writer, interaction.by__Hour(), form);
 }
 
-static bool decode_DtMove__ToInter_By__Hour(DtMove__ToInterInter& interaction, DtWireReader& reader)
+static bool decode_DtMove__ToInter_By__Hour(
+    DtMove__ToInterInter& interaction, DtWireReader& reader)
 {
     const DtWireForm form = DtWireForm::number(8, DtLittleEndian);
     auto value = DtStartOf(interaction.by__Hour());
@@ -105,13 +117,15 @@ static bool decode_DtMove__ToInter_By__Hour(DtMove__ToInterInter& interaction, D
     interaction.setBy__Hour(std::move(value));
     return true;
 }
-static bool encode_DtMove__ToInter_Tugs(const DtMove__ToInterInter& interaction, DtWireWriter& writer)
+static bool encode_DtMove__ToInter_Tugs(
+    const DtMove__ToInterInter& interaction, DtWireWriter& writer)
 {
     const DtWireForm form = DtWireForm();
     return DtWriteValue(writer, interaction.tugs(), form);
 }
 
-static bool decode_DtMove__ToInter_Tugs(DtMove__ToInterInter& interaction, DtWireReader& reader)
+static bool decode_DtMove__ToInter_Tugs(
+    DtMove__ToInterInter& interaction, DtWireReader& reader)
 {
     const DtWireForm form = DtWireForm();
     auto value = DtStartOf(interaction.tugs());

@@ -14,7 +14,8 @@ DtMove__ToInterDecoder::DtMove__ToInterDecoder()
     addCoder("Tugs", &DtMove__ToInterDecoder::decodeTugs);
 }
 
-bool DtMove__ToInterDecoder::decodeTarget_Point_(DtMove__ToInter& interaction, DtWireReader& reader)
+bool DtMove__ToInterDecoder::decodeTarget_Point_(
+    DtMove__ToInter& interaction, DtWireReader& reader)
 {
     const DtWireForm form = DtWireForm();
     auto value = DtStartOf(interaction.target_Point_());
@@ -26,7 +27,8 @@ bool DtMove__ToInterDecoder::decodeTarget_Point_(DtMove__ToInter& interaction, D
     return true;
 }
 
-bool DtMove__ToInterDecoder::decodeBy__Hour(DtMove__ToInter& interaction, DtWireReader& reader)
+bool DtMove__ToInterDecoder::decodeBy__Hour(
+    DtMove__ToInter& interaction, DtWireReader& reader)
 {
     const DtWireForm form = DtWireForm::number(8, DtLittleEndian);
     auto value = DtStartOf(interaction.by__Hour());
@@ -38,7 +40,8 @@ bool DtMove__ToInterDecoder::decodeBy__Hour(DtMove__ToInter& interaction, DtWire
     return true;
 }
 
-bool DtMove__ToInterDecoder::decodeTugs(DtMove__ToInter& interaction, DtWireReader& reader)
+bool DtMove__ToInterDecoder::decodeTugs(
+    DtMove__ToInter& interaction, DtWireReader& reader)
 {
     const DtWireForm form = DtWireForm();
     auto value = DtStartOf(interaction.tugs());

@@ -8,7 +8,8 @@
 #include "move__ToInterHLA.h"
 #include "dllExport.h"
 
-// Sets the parameters of HLAinteractionRoot.Radio.Order.Move-To and of its superclasses from named buffers.
+// Sets the parameters of HLAinteractionRoot.Radio.Order.Move-To
+// and of its superclasses from named buffers.
 class DT_DLL_CASE DtMove__ToInterDecoder
     : public DtOrderInterDecoder
 {
@@ -17,9 +18,12 @@ public:
 
 protected:
     // One for each parameter; false if the buffer holds no value of it.
-    static bool decodeTarget_Point_(DtMove__ToInter& interaction, DtWireReader& reader);
-    static bool decodeBy__Hour(DtMove__ToInter& interaction, DtWireReader& reader);
-    static bool decodeTugs(DtMove__ToInter& interaction, DtWireReader& reader);
+    static bool decodeTarget_Point_(
+        DtMove__ToInter& interaction, DtWireReader& reader);
+    static bool decodeBy__Hour(
+        DtMove__ToInter& interaction, DtWireReader& reader);
+    static bool decodeTugs(
+        DtMove__ToInter& interaction, DtWireReader& reader);
 };
 
 #endif

@@ -23,19 +23,22 @@ DtMove__ToInterEncoder::DtMove__ToInterEncoder()
     }
 }
 
-bool DtMove__ToInterEncoder::encodeTarget_Point_(const DtMove__ToInter& interaction, DtWireWriter& writer)
+bool DtMove__ToInterEncoder::encodeTarget_Point_(
+    const DtMove__ToInter& interaction, DtWireWriter& writer)
 {
     const DtWireForm form = DtWireForm();
     return DtWriteValue(writer, interaction.target_Point_(), form);
 }
 
-bool DtMove__ToInterEncoder::encodeBy__Hour(const DtMove__ToInter& interaction, DtWireWriter& writer)
+bool DtMove__ToInterEncoder::encodeBy__Hour(
+    const DtMove__ToInter& interaction, DtWireWriter& writer)
 {
     const DtWireForm form = DtWireForm::number(8, DtLittleEndian);
     return DtWriteValue(writer, interaction.by__Hour(), form);
 }
 
-bool DtMove__ToInterEncoder::encodeTugs(const DtMove__ToInter& interaction, DtWireWriter& writer)
+bool DtMove__ToInterEncoder::encodeTugs(
+    const DtMove__ToInter& interaction, DtWireWriter& writer)
 {
     const DtWireForm form = DtWireForm();
     return DtWriteValue(writer, interaction.tugs(), form);

@@ -8,7 +8,8 @@
 #include "move__ToInterHLA.h"
 #include "dllExport.h"
 
-// Puts the parameters of HLAinteractionRoot.Radio.Order.Move-To into named buffers, behind those of its superclasses.
+// Puts the parameters of HLAinteractionRoot.Radio.Order.Move-To
+// into named buffers, behind those of its superclasses.
 class DT_DLL_CASE DtMove__ToInterEncoder
     : public DtOrderInterEncoder
 {
@@ -17,9 +18,12 @@ public:
 
 protected:
     // One for each parameter; false if the value has no wire form.
-    static bool encodeTarget_Point_(const DtMove__ToInter& interaction, DtWireWriter& writer);
-    static bool encodeBy__Hour(const DtMove__ToInter& interaction, DtWireWriter& writer);
-    static bool encodeTugs(const DtMove__ToInter& interaction, DtWireWriter& writer);
+    static bool encodeTarget_Point_(
+        const DtMove__ToInter& interaction, DtWireWriter& writer);
+    static bool encodeBy__Hour(
+        const DtMove__ToInter& interaction, DtWireWriter& writer);
+    static bool encodeTugs(
+        const DtMove__ToInter& interaction, DtWireWriter& writer);
 
 private:
     // What the project leaves out has a coder all the same, but is not sent.

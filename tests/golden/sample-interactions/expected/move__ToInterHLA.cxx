@@ -8,7 +8,9 @@
 
 DtMove__ToInter::DtMove__ToInter()
     : DtMove__ToInter(DtInteractionCoding{
-          "Radio.Order.Move-To", &DtSharedEncoder<DtMove__ToInterEncoder>, &DtSharedDecoder<DtMove__ToInterDecoder>})
+          "Radio.Order.Move-To",
+          &DtSharedEncoder<DtMove__ToInterEncoder>,
+          &DtSharedDecoder<DtMove__ToInterDecoder>})
 {
 }
 
@@ -17,12 +19,14 @@ DtMove__ToInter::DtMove__ToInter(const DtInteractionCoding& coding)
 {
 }
 
-void DtMove__ToInter::addCallback(DtExerciseConn* exerciseConn, DtMove__ToInterCb callback, void* user)
+void DtMove__ToInter::addCallback(
+    DtExerciseConn* exerciseConn, DtMove__ToInterCb callback, void* user)
 {
     exerciseConn->addInteractionCallback(callback, user);
 }
 
-void DtMove__ToInter::removeCallback(DtExerciseConn* exerciseConn, DtMove__ToInterCb callback, void* user)
+void DtMove__ToInter::removeCallback(
+    DtExerciseConn* exerciseConn, DtMove__ToInterCb callback, void* user)
 {
     exerciseConn->removeInteractionCallback(callback, user);
 }
@@ -37,7 +41,8 @@ void DtMove__ToInter::setTarget_Point_(ValueOfTarget_Point_&& value)
     Own.myTarget_Point_ = std::move(value);
 }
 
-const DtMove__ToInter::ValueOfTarget_Point_& DtMove__ToInter::target_Point_() const
+const DtMove__ToInter::ValueOfTarget_Point_&
+DtMove__ToInter::target_Point_() const
 {
     return Own.myTarget_Point_;
 }
@@ -47,7 +52,8 @@ void DtMove__ToInter::setBy__Hour(const ValueOfBy__Hour& value)
     Own.myBy__Hour = value;
 }
 
-const DtMove__ToInter::ValueOfBy__Hour& DtMove__ToInter::by__Hour() const
+const DtMove__ToInter::ValueOfBy__Hour&
+DtMove__ToInter::by__Hour() const
 {
     return Own.myBy__Hour;
 }
@@ -62,7 +68,8 @@ void DtMove__ToInter::setTugs(ValueOfTugs&& value)
     Own.myTugs = std::move(value);
 }
 
-const DtMove__ToInter::ValueOfTugs& DtMove__ToInter::tugs() const
+const DtMove__ToInter::ValueOfTugs&
+DtMove__ToInter::tugs() const
 {
     return Own.myTugs;
 }

@@ -6,7 +6,8 @@
 #include <qx/interactionWithEncDec.h>
 #include <qx/valueCoding.h>
 
-DtOrderInterInter::DtOrderInterInter() : DtOrderInterInter(std::string("Radio.Order"))
+DtOrderInterInter::DtOrderInterInter()
+    : DtOrderInterInter(std::string("Radio.Order"))
 {
 }
 
@@ -17,15 +18,19 @@ DtOrderInterInter::DtOrderInterInter(const std::string& fullClassName)
 
 bool DtOrderInterInter::send(DtExerciseConn* exerciseConn, const DtOrderInterInter& interaction)
 {
-    return exerciseConn->sendPdu(DtOrderInterPdu::theKind, interaction, DtSharedEncoder<DtOrderInterEncoder>());
+    return exerciseConn->sendPdu(
+        DtOrderInterPdu::theKind, interaction, DtSharedEncoder<DtOrderInterEncoder>());
 }
 
-void DtOrderInterInter::addCallback(DtExerciseConn* exerciseConn, DtOrderInterInterCb callback, void* user)
+void DtOrderInterInter::addCallback(
+    DtExerciseConn* exerciseConn, DtOrderInterInterCb callback, void* user)
 {
-    exerciseConn->addPduCallback(DtOrderInterPdu::theKind, &DtSharedDecoder<DtOrderInterDecoder>, callback, user);
+    exerciseConn->addPduCallback(
+        DtOrderInterPdu::theKind, &DtSharedDecoder<DtOrderInterDecoder>, callback, user);
 }
 
-void DtOrderInterInter::removeCallback(DtExerciseConn* exerciseConn, DtOrderInterInterCb callback, void* user)
+void DtOrderInterInter::removeCallback(
+    DtExerciseConn* exerciseConn, DtOrderInterInterCb callback, void* user)
 {
     exerciseConn->removePduCallback(DtOrderInterPdu::theKind, callback, user);
 }
@@ -35,7 +40,8 @@ void DtOrderInterInter::setUrgency(const ValueOfUrgency& value)
     Own.myUrgency = value;
 }
 
-const DtOrderInterInter::ValueOfUrgency& DtOrderInterInter::urgency() const
+const DtOrderInterInter::ValueOfUrgency&
+DtOrderInterInter::urgency() const
 {
     return Own.myUrgency;
 }
@@ -45,19 +51,22 @@ void DtOrderInterInter::setTheRegister(const ValueOfTheRegister& value)
     Own.myTheRegister = value;
 }
 
-const DtOrderInterInter::ValueOfTheRegister& DtOrderInterInter::theRegister() const
+const DtOrderInterInter::ValueOfTheRegister&
+DtOrderInterInter::theRegister() const
 {
     return Own.myTheRegister;
 }
 
 // ---- coding
-static bool encode_DtOrderInter_Urgency(const DtOrderInterInter& interaction, DtWireWriter& writer)
+static bool encode_DtOrderInter_Urgency(
+    const DtOrderInterInter& interaction, DtWireWriter& writer)
 {
     const DtWireForm form = DtWireForm();
     return DtWriteValue(writer, interaction.urgency(), form);
 }
 
-static bool decode_DtOrderInter_Urgency(DtOrderInterInter& interaction, DtWireReader& reader)
+static bool decode_DtOrderInter_Urgency(
+    DtOrderInterInter& interaction, DtWireReader& reader)
 {
     const DtWireForm form = DtWireForm();
     auto value = DtStartOf(interaction.urgency());
@@ -68,13 +77,15 @@ static bool decode_DtOrderInter_Urgency(DtOrderInterInter& interaction, DtWireRe
     interaction.setUrgency(std::move(value));
     return true;
 }
-static bool encode_DtOrderInter_TheRegister(const DtOrderInterInter& interaction, DtWireWriter& writer)
+static bool encode_DtOrderInter_TheRegister(
+    const DtOrderInterInter& interaction, DtWireWriter& writer)
 {
     const DtWireForm form = DtWireForm::number(4, DtLittleEndian);
     return DtWriteValue(writer, interaction.theRegister(), form);
 }
 
-static bool decode_DtOrderInter_TheRegister(DtOrderInterInter& interaction, DtWireReader& reader)
+static bool decode_DtOrderInter_TheRegister(
+    DtOrderInterInter& interaction, DtWireReader& reader)
 {
     const DtWireForm form = DtWireForm::number(4, DtLittleEndian);
     auto value = DtStartOf(interaction.theRegister());

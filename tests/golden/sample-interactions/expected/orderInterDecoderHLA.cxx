@@ -13,7 +13,8 @@ DtOrderInterDecoder::DtOrderInterDecoder()
     addCoder("register", &DtOrderInterDecoder::decodeTheRegister);
 }
 
-bool DtOrderInterDecoder::decodeUrgency(DtOrderInter& interaction, DtWireReader& reader)
+bool DtOrderInterDecoder::decodeUrgency(
+    DtOrderInter& interaction, DtWireReader& reader)
 {
     const DtWireForm form = DtWireForm();
     auto value = DtStartOf(interaction.urgency());
@@ -25,7 +26,8 @@ bool DtOrderInterDecoder::decodeUrgency(DtOrderInter& interaction, DtWireReader&
     return true;
 }
 
-bool DtOrderInterDecoder::decodeTheRegister(DtOrderInter& interaction, DtWireReader& reader)
+bool DtOrderInterDecoder::decodeTheRegister(
+    DtOrderInter& interaction, DtWireReader& reader)
 {
     const DtWireForm form = DtWireForm::number(4, DtLittleEndian);
     auto value = DtStartOf(interaction.theRegister());

@@ -8,7 +8,8 @@
 #include "orderInterHLA.h"
 #include "dllExport.h"
 
-// Sets the parameters of HLAinteractionRoot.Radio.Order and of its superclasses from named buffers.
+// Sets the parameters of HLAinteractionRoot.Radio.Order
+// and of its superclasses from named buffers.
 class DT_DLL_CASE DtOrderInterDecoder
     : public DtRadioInterDecoder
 {
@@ -17,8 +18,10 @@ public:
 
 protected:
     // One for each parameter; false if the buffer holds no value of it.
-    static bool decodeUrgency(DtOrderInter& interaction, DtWireReader& reader);
-    static bool decodeTheRegister(DtOrderInter& interaction, DtWireReader& reader);
+    static bool decodeUrgency(
+        DtOrderInter& interaction, DtWireReader& reader);
+    static bool decodeTheRegister(
+        DtOrderInter& interaction, DtWireReader& reader);
 };
 
 #endif

@@ -19,13 +19,15 @@ DtOrderInterEncoder::DtOrderInterEncoder()
     }
 }
 
-bool DtOrderInterEncoder::encodeUrgency(const DtOrderInter& interaction, DtWireWriter& writer)
+bool DtOrderInterEncoder::encodeUrgency(
+    const DtOrderInter& interaction, DtWireWriter& writer)
 {
     const DtWireForm form = DtWireForm();
     return DtWriteValue(writer, interaction.urgency(), form);
 }
 
-bool DtOrderInterEncoder::encodeTheRegister(const DtOrderInter& interaction, DtWireWriter& writer)
+bool DtOrderInterEncoder::encodeTheRegister(
+    const DtOrderInter& interaction, DtWireWriter& writer)
 {
     const DtWireForm form = DtWireForm::number(4, DtLittleEndian);
     return DtWriteValue(writer, interaction.theRegister(), form);

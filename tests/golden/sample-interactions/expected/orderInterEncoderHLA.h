@@ -8,7 +8,8 @@
 #include "orderInterHLA.h"
 #include "dllExport.h"
 
-// Puts the parameters of HLAinteractionRoot.Radio.Order into named buffers, behind those of its superclasses.
+// Puts the parameters of HLAinteractionRoot.Radio.Order
+// into named buffers, behind those of its superclasses.
 class DT_DLL_CASE DtOrderInterEncoder
     : public DtRadioInterEncoder
 {
@@ -17,8 +18,10 @@ public:
 
 protected:
     // One for each parameter; false if the value has no wire form.
-    static bool encodeUrgency(const DtOrderInter& interaction, DtWireWriter& writer);
-    static bool encodeTheRegister(const DtOrderInter& interaction, DtWireWriter& writer);
+    static bool encodeUrgency(
+        const DtOrderInter& interaction, DtWireWriter& writer);
+    static bool encodeTheRegister(
+        const DtOrderInter& interaction, DtWireWriter& writer);
 
 private:
     // What the project leaves out has a coder all the same, but is not sent.

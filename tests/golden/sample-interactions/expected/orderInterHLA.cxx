@@ -8,7 +8,9 @@
 
 DtOrderInter::DtOrderInter()
     : DtOrderInter(DtInteractionCoding{
-          "Radio.Order", &DtSharedEncoder<DtOrderInterEncoder>, &DtSharedDecoder<DtOrderInterDecoder>})
+          "Radio.Order",
+          &DtSharedEncoder<DtOrderInterEncoder>,
+          &DtSharedDecoder<DtOrderInterDecoder>})
 {
 }
 
@@ -17,12 +19,14 @@ DtOrderInter::DtOrderInter(const DtInteractionCoding& coding)
 {
 }
 
-void DtOrderInter::addCallback(DtExerciseConn* exerciseConn, DtOrderInterCb callback, void* user)
+void DtOrderInter::addCallback(
+    DtExerciseConn* exerciseConn, DtOrderInterCb callback, void* user)
 {
     exerciseConn->addInteractionCallback(callback, user);
 }
 
-void DtOrderInter::removeCallback(DtExerciseConn* exerciseConn, DtOrderInterCb callback, void* user)
+void DtOrderInter::removeCallback(
+    DtExerciseConn* exerciseConn, DtOrderInterCb callback, void* user)
 {
     exerciseConn->removeInteractionCallback(callback, user);
 }
@@ -32,7 +36,8 @@ void DtOrderInter::setUrgency(const ValueOfUrgency& value)
     Own.myUrgency = value;
 }
 
-const DtOrderInter::ValueOfUrgency& DtOrderInter::urgency() const
+const DtOrderInter::ValueOfUrgency&
+DtOrderInter::urgency() const
 {
     return Own.myUrgency;
 }
@@ -42,7 +47,8 @@ void DtOrderInter::setTheRegister(const ValueOfTheRegister& value)
     Own.myTheRegister = value;
 }
 
-const DtOrderInter::ValueOfTheRegister& DtOrderInter::theRegister() const
+const DtOrderInter::ValueOfTheRegister&
+DtOrderInter::theRegister() const
 {
     return Own.myTheRegister;
 }

@@ -6,7 +6,8 @@
 #include <qx/interactionWithEncDec.h>
 #include <qx/valueCoding.h>
 
-DtRadioInterInter::DtRadioInterInter() : DtRadioInterInter(std::string("Radio"))
+DtRadioInterInter::DtRadioInterInter()
+    : DtRadioInterInter(std::string("Radio"))
 {
 }
 
@@ -17,15 +18,19 @@ DtRadioInterInter::DtRadioInterInter(const std::string& fullClassName)
 
 bool DtRadioInterInter::send(DtExerciseConn* exerciseConn, const DtRadioInterInter& interaction)
 {
-    return exerciseConn->sendPdu(DtRadioInterPdu::theKind, interaction, DtSharedEncoder<DtRadioInterEncoder>());
+    return exerciseConn->sendPdu(
+        DtRadioInterPdu::theKind, interaction, DtSharedEncoder<DtRadioInterEncoder>());
 }
 
-void DtRadioInterInter::addCallback(DtExerciseConn* exerciseConn, DtRadioInterInterCb callback, void* user)
+void DtRadioInterInter::addCallback(
+    DtExerciseConn* exerciseConn, DtRadioInterInterCb callback, void* user)
 {
-    exerciseConn->addPduCallback(DtRadioInterPdu::theKind, &DtSharedDecoder<DtRadioInterDecoder>, callback, user);
+    exerciseConn->addPduCallback(
+        DtRadioInterPdu::theKind, &DtSharedDecoder<DtRadioInterDecoder>, callback, user);
 }
 
-void DtRadioInterInter::removeCallback(DtExerciseConn* exerciseConn, DtRadioInterInterCb callback, void* user)
+void DtRadioInterInter::removeCallback(
+    DtExerciseConn* exerciseConn, DtRadioInterInterCb callback, void* user)
 {
     exerciseConn->removePduCallback(DtRadioInterPdu::theKind, callback, user);
 }
@@ -35,7 +40,8 @@ void DtRadioInterInter::setChannel(const ValueOfChannel& value)
     Own.myChannel = value;
 }
 
-const DtRadioInterInter::ValueOfChannel& DtRadioInterInter::channel() const
+const DtRadioInterInter::ValueOfChannel&
+DtRadioInterInter::channel() const
 {
     return Own.myChannel;
 }
@@ -50,19 +56,22 @@ void DtRadioInterInter::setText(ValueOfText&& value)
     Own.myText = std::move(value);
 }
 
-const DtRadioInterInter::ValueOfText& DtRadioInterInter::text() const
+const DtRadioInterInter::ValueOfText&
+DtRadioInterInter::text() const
 {
     return Own.myText;
 }
 
 // ---- coding
-static bool encode_DtRadioInter_Channel(const DtRadioInterInter& interaction, DtWireWriter& writer)
+static bool encode_DtRadioInter_Channel(
+    const DtRadioInterInter& interaction, DtWireWriter& writer)
 {
     const DtWireForm form = DtWireForm::number(2);
     return DtWriteValue(writer, interaction.channel(), form);
 }
 
-static bool decode_DtRadioInter_Channel(DtRadioInterInter& interaction, DtWireReader& reader)
+static bool decode_DtRadioInter_Channel(
+    DtRadioInterInter& interaction, DtWireReader& reader)
 {
     const DtWireForm form = DtWireForm::number(2);
     auto value = DtStartOf(interaction.channel());
@@ -73,14 +82,16 @@ static bool decode_DtRadioInter_Channel(DtRadioInterInter& interaction, DtWireRe
     interaction.setChannel(std::move(value));
     return true;
 }
-static bool encode_DtRadioInter_Text(const DtRadioInterInter& interaction, DtWireWriter& writer)
+static bool encode_DtRadioInter_Text(
+    const DtRadioInterInter& interaction, DtWireWriter& writer)
 {
     const DtWireForm form = DtWireForm("HLAunicodeString", "", R"qx(HLAvariableArray)qx",
         -1 /* elements */, 0 /* octets */, 0 /* little-endian */);
     return DtWriteValue(writer, interaction.text(), form);
 }
 
-static bool decode_DtRadioInter_Text(DtRadioInterInter& interaction, DtWireReader& reader)
+static bool decode_DtRadioInter_Text(
+    DtRadioInterInter& interaction, DtWireReader& reader)
 {
     const DtWireForm form = DtWireForm("HLAunicodeString", "", R"qx(HLAvariableArray)qx",
         -1 /* elements */, 0 /* octets */, 0 /* little-endian */);

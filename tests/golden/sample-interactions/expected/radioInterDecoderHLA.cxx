@@ -13,7 +13,8 @@ DtRadioInterDecoder::DtRadioInterDecoder()
     addCoder("Text", &DtRadioInterDecoder::decodeText);
 }
 
-bool DtRadioInterDecoder::decodeChannel(DtRadioInter& interaction, DtWireReader& reader)
+bool DtRadioInterDecoder::decodeChannel(
+    DtRadioInter& interaction, DtWireReader& reader)
 {
     const DtWireForm form = DtWireForm::number(2);
     auto value = DtStartOf(interaction.channel());
@@ -25,7 +26,8 @@ bool DtRadioInterDecoder::decodeChannel(DtRadioInter& interaction, DtWireReader&
     return true;
 }
 
-bool DtRadioInterDecoder::decodeText(DtRadioInter& interaction, DtWireReader& reader)
+bool DtRadioInterDecoder::decodeText(
+    DtRadioInter& interaction, DtWireReader& reader)
 {
     const DtWireForm form = DtWireForm("HLAunicodeString", "", R"qx(HLAvariableArray)qx",
         -1 /* elements */, 0 /* octets */, 0 /* little-endian */);

@@ -8,7 +8,8 @@
 #include "radioInterHLA.h"
 #include "dllExport.h"
 
-// Sets the parameters of HLAinteractionRoot.Radio and of its superclasses from named buffers.
+// Sets the parameters of HLAinteractionRoot.Radio
+// and of its superclasses from named buffers.
 class DT_DLL_CASE DtRadioInterDecoder
     : public DtInteractionDecoder
 {
@@ -17,8 +18,10 @@ public:
 
 protected:
     // One for each parameter; false if the buffer holds no value of it.
-    static bool decodeChannel(DtRadioInter& interaction, DtWireReader& reader);
-    static bool decodeText(DtRadioInter& interaction, DtWireReader& reader);
+    static bool decodeChannel(
+        DtRadioInter& interaction, DtWireReader& reader);
+    static bool decodeText(
+        DtRadioInter& interaction, DtWireReader& reader);
 };
 
 #endif

@@ -19,13 +19,15 @@ DtRadioInterEncoder::DtRadioInterEncoder()
     }
 }
 
-bool DtRadioInterEncoder::encodeChannel(const DtRadioInter& interaction, DtWireWriter& writer)
+bool DtRadioInterEncoder::encodeChannel(
+    const DtRadioInter& interaction, DtWireWriter& writer)
 {
     const DtWireForm form = DtWireForm::number(2);
     return DtWriteValue(writer, interaction.channel(), form);
 }
 
-bool DtRadioInterEncoder::encodeText(const DtRadioInter& interaction, DtWireWriter& writer)
+bool DtRadioInterEncoder::encodeText(
+    const DtRadioInter& interaction, DtWireWriter& writer)
 {
     const DtWireForm form = DtWireForm("HLAunicodeString", "", R"qx(HLAvariableArray)qx",
         -1 /* elements */, 0 /* octets */, 0 /* little-endian */);

@@ -8,7 +8,8 @@
 #include "radioInterHLA.h"
 #include "dllExport.h"
 
-// Puts the parameters of HLAinteractionRoot.Radio into named buffers, behind those of its superclasses.
+// Puts the parameters of HLAinteractionRoot.Radio
+// into named buffers, behind those of its superclasses.
 class DT_DLL_CASE DtRadioInterEncoder
     : public DtInteractionEncoder
 {
@@ -17,8 +18,10 @@ public:
 
 protected:
     // One for each parameter; false if the value has no wire form.
-    static bool encodeChannel(const DtRadioInter& interaction, DtWireWriter& writer);
-    static bool encodeText(const DtRadioInter& interaction, DtWireWriter& writer);
+    static bool encodeChannel(
+        const DtRadioInter& interaction, DtWireWriter& writer);
+    static bool encodeText(
+        const DtRadioInter& interaction, DtWireWriter& writer);
 
 private:
     // What the project leaves out has a coder all the same, but is not sent.

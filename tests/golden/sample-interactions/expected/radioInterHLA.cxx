@@ -8,7 +8,9 @@
 
 DtRadioInter::DtRadioInter()
     : DtRadioInter(DtInteractionCoding{
-          "Radio", &DtSharedEncoder<DtRadioInterEncoder>, &DtSharedDecoder<DtRadioInterDecoder>})
+          "Radio",
+          &DtSharedEncoder<DtRadioInterEncoder>,
+          &DtSharedDecoder<DtRadioInterDecoder>})
 {
 }
 
@@ -17,12 +19,14 @@ DtRadioInter::DtRadioInter(const DtInteractionCoding& coding)
 {
 }
 
-void DtRadioInter::addCallback(DtExerciseConn* exerciseConn, DtRadioInterCb callback, void* user)
+void DtRadioInter::addCallback(
+    DtExerciseConn* exerciseConn, DtRadioInterCb callback, void* user)
 {
     exerciseConn->addInteractionCallback(callback, user);
 }
 
-void DtRadioInter::removeCallback(DtExerciseConn* exerciseConn, DtRadioInterCb callback, void* user)
+void DtRadioInter::removeCallback(
+    DtExerciseConn* exerciseConn, DtRadioInterCb callback, void* user)
 {
     exerciseConn->removeInteractionCallback(callback, user);
 }
@@ -32,7 +36,8 @@ void DtRadioInter::setChannel(const ValueOfChannel& value)
     Own.myChannel = value;
 }
 
-const DtRadioInter::ValueOfChannel& DtRadioInter::channel() const
+const DtRadioInter::ValueOfChannel&
+DtRadioInter::channel() const
 {
     return Own.myChannel;
 }
@@ -47,7 +52,8 @@ void DtRadioInter::setText(ValueOfText&& value)
     Own.myText = std::move(value);
 }
 
-const DtRadioInter::ValueOfText& DtRadioInter::text() const
+const DtRadioInter::ValueOfText&
+DtRadioInter::text() const
 {
     return Own.myText;
 }

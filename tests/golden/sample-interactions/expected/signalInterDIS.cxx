@@ -6,7 +6,8 @@
 #include <qx/interactionWithEncDec.h>
 #include <qx/valueCoding.h>
 
-DtSignalInterInter::DtSignalInterInter() : DtSignalInterInter(std::string("Signal"))
+DtSignalInterInter::DtSignalInterInter()
+    : DtSignalInterInter(std::string("Signal"))
 {
 }
 
@@ -17,15 +18,19 @@ DtSignalInterInter::DtSignalInterInter(const std::string& fullClassName)
 
 bool DtSignalInterInter::send(DtExerciseConn* exerciseConn, const DtSignalInterInter& interaction)
 {
-    return exerciseConn->sendPdu(DtSignalInterPdu::theKind, interaction, DtSharedEncoder<DtSignalInterEncoder>());
+    return exerciseConn->sendPdu(
+        DtSignalInterPdu::theKind, interaction, DtSharedEncoder<DtSignalInterEncoder>());
 }
 
-void DtSignalInterInter::addCallback(DtExerciseConn* exerciseConn, DtSignalInterInterCb callback, void* user)
+void DtSignalInterInter::addCallback(
+    DtExerciseConn* exerciseConn, DtSignalInterInterCb callback, void* user)
 {
-    exerciseConn->addPduCallback(DtSignalInterPdu::theKind, &DtSharedDecoder<DtSignalInterDecoder>, callback, user);
+    exerciseConn->addPduCallback(
+        DtSignalInterPdu::theKind, &DtSharedDecoder<DtSignalInterDecoder>, callback, user);
 }
 
-void DtSignalInterInter::removeCallback(DtExerciseConn* exerciseConn, DtSignalInterInterCb callback, void* user)
+void DtSignalInterInter::removeCallback(
+    DtExerciseConn* exerciseConn, DtSignalInterInterCb callback, void* user)
 {
     exerciseConn->removePduCallback(DtSignalInterPdu::theKind, callback, user);
 }
@@ -40,7 +45,8 @@ void DtSignalInterInter::setSent(ValueOfSent&& value)
     Own.mySent = std::move(value);
 }
 
-const DtSignalInterInter::ValueOfSent& DtSignalInterInter::sent() const
+const DtSignalInterInter::ValueOfSent&
+DtSignalInterInter::sent() const
 {
     return Own.mySent;
 }
@@ -55,7 +61,8 @@ void DtSignalInterInter::setMessage(ValueOfMessage&& value)
     Own.myMessage = std::move(value);
 }
 
-const DtSignalInterInter::ValueOfMessage& DtSignalInterInter::message() const
+const DtSignalInterInter::ValueOfMessage&
+DtSignalInterInter::message() const
 {
     return Own.myMessage;
 }
@@ -65,19 +72,22 @@ void DtSignalInterInter::setSure(const ValueOfSure& value)
     Own.mySure = value;
 }
 
-const DtSignalInterInter::ValueOfSure& DtSignalInterInter::sure() const
+const DtSignalInterInter::ValueOfSure&
+DtSignalInterInter::sure() const
 {
     return Own.mySure;
 }
 
 // ---- coding
-static bool encode_DtSignalInter_Sent(const DtSignalInterInter& interaction, DtWireWriter& writer)
+static bool encode_DtSignalInter_Sent(
+    const DtSignalInterInter& interaction, DtWireWriter& writer)
 {
     const DtWireForm form = DtWireForm();
     return DtWriteValue(writer, interaction.sent(), form);
 }
 
-static bool decode_DtSignalInter_Sent(DtSignalInterInter& interaction, DtWireReader& reader)
+static bool decode_DtSignalInter_Sent(
+    DtSignalInterInter& interaction, DtWireReader& reader)
 {
     const DtWireForm form = DtWireForm();
     auto value = DtStartOf(interaction.sent());
@@ -88,13 +98,15 @@ static bool decode_DtSignalInter_Sent(DtSignalInterInter& interaction, DtWireRea
     interaction.setSent(std::move(value));
     return true;
 }
-static bool encode_DtSignalInter_Message(const DtSignalInterInter& interaction, DtWireWriter& writer)
+static bool encode_DtSignalInter_Message(
+    const DtSignalInterInter& interaction, DtWireWriter& writer)
 {
     const DtWireForm form = DtWireForm();
     return DtWriteValue(writer, interaction.message(), form);
 }
 
-static bool decode_DtSignalInter_Message(DtSignalInterInter& interaction, DtWireReader& reader)
+static bool decode_DtSignalInter_Message(
+    DtSignalInterInter& interaction, DtWireReader& reader)
 {
     const DtWireForm form = DtWireForm();
     auto value = DtStartOf(interaction.message());
@@ -105,14 +117,16 @@ static bool decode_DtSignalInter_Message(DtSignalInterInter& interaction, DtWire
     interaction.setMessage(std::move(value));
     return true;
 }
-static bool encode_DtSignalInter_Sure(const DtSignalInterInter& interaction, DtWireWriter& writer)
+static bool encode_DtSignalInter_Sure(
+    const DtSignalInterInter& interaction, DtWireWriter& writer)
 {
     const DtWireForm form = DtWireForm("HLAboolean", "", R"qx(HLAvariableArray)qx",
         -1 /* elements */, 0 /* octets */, 0 /* little-endian */);
     return DtWriteValue(writer, interaction.sure(), form);
 }
 
-static bool decode_DtSignalInter_Sure(DtSignalInterInter& interaction, DtWireReader& reader)
+static bool decode_DtSignalInter_Sure(
+    DtSignalInterInter& interaction, DtWireReader& reader)
 {
     const DtWireForm form = DtWireForm("HLAboolean", "", R"qx(HLAvariableArray)qx",
         -1 /* elements */, 0 /* octets */, 0 /* little-endian */);

@@ -14,7 +14,8 @@ DtSignalInterDecoder::DtSignalInterDecoder()
     addCoder("Sure", &DtSignalInterDecoder::decodeSure);
 }
 
-bool DtSignalInterDecoder::decodeSent(DtSignalInter& interaction, DtWireReader& reader)
+bool DtSignalInterDecoder::decodeSent(
+    DtSignalInter& interaction, DtWireReader& reader)
 {
     const DtWireForm form = DtWireForm();
     auto value = DtStartOf(interaction.sent());
@@ -26,7 +27,8 @@ bool DtSignalInterDecoder::decodeSent(DtSignalInter& interaction, DtWireReader& 
     return true;
 }
 
-bool DtSignalInterDecoder::decodeMessage(DtSignalInter& interaction, DtWireReader& reader)
+bool DtSignalInterDecoder::decodeMessage(
+    DtSignalInter& interaction, DtWireReader& reader)
 {
     const DtWireForm form = DtWireForm();
     auto value = DtStartOf(interaction.message());
@@ -38,7 +40,8 @@ bool DtSignalInterDecoder::decodeMessage(DtSignalInter& interaction, DtWireReade
     return true;
 }
 
-bool DtSignalInterDecoder::decodeSure(DtSignalInter& interaction, DtWireReader& reader)
+bool DtSignalInterDecoder::decodeSure(
+    DtSignalInter& interaction, DtWireReader& reader)
 {
     const DtWireForm form = DtWireForm("HLAboolean", "", R"qx(HLAvariableArray)qx",
         -1 /* elements */, 0 /* octets */, 0 /* little-endian */);

@@ -8,7 +8,8 @@
 #include "signalInterHLA.h"
 #include "dllExport.h"
 
-// Sets the parameters of HLAinteractionRoot.Signal and of its superclasses from named buffers.
+// Sets the parameters of HLAinteractionRoot.Signal
+// and of its superclasses from named buffers.
 class DT_DLL_CASE DtSignalInterDecoder
     : public DtInteractionDecoder
 {
@@ -17,9 +18,12 @@ public:
 
 protected:
     // One for each parameter; false if the buffer holds no value of it.
-    static bool decodeSent(DtSignalInter& interaction, DtWireReader& reader);
-    static bool decodeMessage(DtSignalInter& interaction, DtWireReader& reader);
-    static bool decodeSure(DtSignalInter& interaction, DtWireReader& reader);
+    static bool decodeSent(
+        DtSignalInter& interaction, DtWireReader& reader);
+    static bool decodeMessage(
+        DtSignalInter& interaction, DtWireReader& reader);
+    static bool decodeSure(
+        DtSignalInter& interaction, DtWireReader& reader);
 };
 
 #endif

@@ -23,19 +23,22 @@ DtSignalInterEncoder::DtSignalInterEncoder()
     }
 }
 
-bool DtSignalInterEncoder::encodeSent(const DtSignalInter& interaction, DtWireWriter& writer)
+bool DtSignalInterEncoder::encodeSent(
+    const DtSignalInter& interaction, DtWireWriter& writer)
 {
     const DtWireForm form = DtWireForm();
     return DtWriteValue(writer, interaction.sent(), form);
 }
 
-bool DtSignalInterEncoder::encodeMessage(const DtSignalInter& interaction, DtWireWriter& writer)
+bool DtSignalInterEncoder::encodeMessage(
+    const DtSignalInter& interaction, DtWireWriter& writer)
 {
     const DtWireForm form = DtWireForm();
     return DtWriteValue(writer, interaction.message(), form);
 }
 
-bool DtSignalInterEncoder::encodeSure(const DtSignalInter& interaction, DtWireWriter& writer)
+bool DtSignalInterEncoder::encodeSure(
+    const DtSignalInter& interaction, DtWireWriter& writer)
 {
     const DtWireForm form = DtWireForm("HLAboolean", "", R"qx(HLAvariableArray)qx",
         -1 /* elements */, 0 /* octets */, 0 /* little-endian */);

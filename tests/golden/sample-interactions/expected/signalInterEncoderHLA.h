@@ -8,7 +8,8 @@
 #include "signalInterHLA.h"
 #include "dllExport.h"
 
-// Puts the parameters of HLAinteractionRoot.Signal into named buffers, behind those of its superclasses.
+// Puts the parameters of HLAinteractionRoot.Signal
+// into named buffers, behind those of its superclasses.
 class DT_DLL_CASE DtSignalInterEncoder
     : public DtInteractionEncoder
 {
@@ -17,9 +18,12 @@ public:
 
 protected:
     // One for each parameter; false if the value has no wire form.
-    static bool encodeSent(const DtSignalInter& interaction, DtWireWriter& writer);
-    static bool encodeMessage(const DtSignalInter& interaction, DtWireWriter& writer);
-    static bool encodeSure(const DtSignalInter& interaction, DtWireWriter& writer);
+    static bool encodeSent(
+        const DtSignalInter& interaction, DtWireWriter& writer);
+    static bool encodeMessage(
+        const DtSignalInter& interaction, DtWireWriter& writer);
+    static bool encodeSure(
+        const DtSignalInter& interaction, DtWireWriter& writer);
 
 private:
     // What the project leaves out has a coder all the same, but is not sent.

@@ -8,7 +8,9 @@
 
 DtSignalInter::DtSignalInter()
     : DtSignalInter(DtInteractionCoding{
-          "Signal", &DtSharedEncoder<DtSignalInterEncoder>, &DtSharedDecoder<DtSignalInterDecoder>})
+          "Signal",
+          &DtSharedEncoder<DtSignalInterEncoder>,
+          &DtSharedDecoder<DtSignalInterDecoder>})
 {
 }
 
@@ -17,12 +19,14 @@ DtSignalInter::DtSignalInter(const DtInteractionCoding& coding)
 {
 }
 
-void DtSignalInter::addCallback(DtExerciseConn* exerciseConn, DtSignalInterCb callback, void* user)
+void DtSignalInter::addCallback(
+    DtExerciseConn* exerciseConn, DtSignalInterCb callback, void* user)
 {
     exerciseConn->addInteractionCallback(callback, user);
 }
 
-void DtSignalInter::removeCallback(DtExerciseConn* exerciseConn, DtSignalInterCb callback, void* user)
+void DtSignalInter::removeCallback(
+    DtExerciseConn* exerciseConn, DtSignalInterCb callback, void* user)
 {
     exerciseConn->removeInteractionCallback(callback, user);
 }
@@ -37,7 +41,8 @@ void DtSignalInter::setSent(ValueOfSent&& value)
     Own.mySent = std::move(value);
 }
 
-const DtSignalInter::ValueOfSent& DtSignalInter::sent() const
+const DtSignalInter::ValueOfSent&
+DtSignalInter::sent() const
 {
     return Own.mySent;
 }
@@ -52,7 +57,8 @@ void DtSignalInter::setMessage(ValueOfMessage&& value)
     Own.myMessage = std::move(value);
 }
 
-const DtSignalInter::ValueOfMessage& DtSignalInter::message() const
+const DtSignalInter::ValueOfMessage&
+DtSignalInter::message() const
 {
     return Own.myMessage;
 }
@@ -62,7 +68,8 @@ void DtSignalInter::setSure(const ValueOfSure& value)
     Own.mySure = value;
 }
 
-const DtSignalInter::ValueOfSure& DtSignalInter::sure() const
+const DtSignalInter::ValueOfSure&
+DtSignalInter::sure() const
 {
     return Own.mySure;
 }

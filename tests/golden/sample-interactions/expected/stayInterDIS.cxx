@@ -6,7 +6,8 @@
 #include <qx/interactionWithEncDec.h>
 #include <qx/valueCoding.h>
 
-DtStayInterInter::DtStayInterInter() : DtStayInterInter(std::string("Radio.Order.Stay"))
+DtStayInterInter::DtStayInterInter()
+    : DtStayInterInter(std::string("Radio.Order.Stay"))
 {
 }
 
@@ -17,15 +18,19 @@ DtStayInterInter::DtStayInterInter(const std::string& fullClassName)
 
 bool DtStayInterInter::send(DtExerciseConn* exerciseConn, const DtStayInterInter& interaction)
 {
-    return exerciseConn->sendPdu(DtStayInterPdu::theKind, interaction, DtSharedEncoder<DtStayInterEncoder>());
+    return exerciseConn->sendPdu(
+        DtStayInterPdu::theKind, interaction, DtSharedEncoder<DtStayInterEncoder>());
 }
 
-void DtStayInterInter::addCallback(DtExerciseConn* exerciseConn, DtStayInterInterCb callback, void* user)
+void DtStayInterInter::addCallback(
+    DtExerciseConn* exerciseConn, DtStayInterInterCb callback, void* user)
 {
-    exerciseConn->addPduCallback(DtStayInterPdu::theKind, &DtSharedDecoder<DtStayInterDecoder>, callback, user);
+    exerciseConn->addPduCallback(
+        DtStayInterPdu::theKind, &DtSharedDecoder<DtStayInterDecoder>, callback, user);
 }
 
-void DtStayInterInter::removeCallback(DtExerciseConn* exerciseConn, DtStayInterInterCb callback, void* user)
+void DtStayInterInter::removeCallback(
+    DtExerciseConn* exerciseConn, DtStayInterInterCb callback, void* user)
 {
     exerciseConn->removePduCallback(DtStayInterPdu::theKind, callback, user);
 }

@@ -8,7 +8,8 @@
 #include "stayInterHLA.h"
 #include "dllExport.h"
 
-// Sets the parameters of HLAinteractionRoot.Radio.Order.Stay and of its superclasses from named buffers.
+// Sets the parameters of HLAinteractionRoot.Radio.Order.Stay
+// and of its superclasses from named buffers.
 class DT_DLL_CASE DtStayInterDecoder
     : public DtOrderInterDecoder
 {

@@ -8,7 +8,8 @@
 #include "stayInterHLA.h"
 #include "dllExport.h"
 
-// Puts the parameters of HLAinteractionRoot.Radio.Order.Stay into named buffers, behind those of its superclasses.
+// Puts the parameters of HLAinteractionRoot.Radio.Order.Stay
+// into named buffers, behind those of its superclasses.
 class DT_DLL_CASE DtStayInterEncoder
     : public DtOrderInterEncoder
 {

@@ -8,7 +8,9 @@
 
 DtStayInter::DtStayInter()
     : DtStayInter(DtInteractionCoding{
-          "Radio.Order.Stay", &DtSharedEncoder<DtStayInterEncoder>, &DtSharedDecoder<DtStayInterDecoder>})
+          "Radio.Order.Stay",
+          &DtSharedEncoder<DtStayInterEncoder>,
+          &DtSharedDecoder<DtStayInterDecoder>})
 {
 }
 
@@ -17,12 +19,14 @@ DtStayInter::DtStayInter(const DtInteractionCoding& coding)
 {
 }
 
-void DtStayInter::addCallback(DtExerciseConn* exerciseConn, DtStayInterCb callback, void* user)
+void DtStayInter::addCallback(
+    DtExerciseConn* exerciseConn, DtStayInterCb callback, void* user)
 {
     exerciseConn->addInteractionCallback(callback, user);
 }
 
-void DtStayInter::removeCallback(DtExerciseConn* exerciseConn, DtStayInterCb callback, void* user)
+void DtStayInter::removeCallback(
+    DtExerciseConn* exerciseConn, DtStayInterCb callback, void* user)
 {
     exerciseConn->removeInteractionCallback(callback, user);
 }

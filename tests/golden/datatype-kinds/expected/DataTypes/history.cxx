@@ -8,19 +8,23 @@
 #include "DataTypes/caseEnums.h"
 #include "DataTypes/reading.h"
 
-DtHistory::DtHistory() : myElements(layout().kind == DtFixedArray ? layout().count : 0)
+DtHistory::DtHistory()
+    : myElements(layout().kind == DtFixedArray ? layout().count : 0)
 {
 }
 
-DtHistory::DtHistory(const Elements& elements) : myElements(elements)
+DtHistory::DtHistory(const Elements& elements)
+    : myElements(elements)
 {
 }
 
-DtHistory::DtHistory(const DtHistory& other) : myElements(other.myElements)
+DtHistory::DtHistory(const DtHistory& other)
+    : myElements(other.myElements)
 {
 }
 
-DtHistory::DtHistory(DtHistory&& other) noexcept : myElements(std::move(other.myElements))
+DtHistory::DtHistory(DtHistory&& other) noexcept
+    : myElements(std::move(other.myElements))
 {
 }
 
@@ -28,13 +32,15 @@ DtHistory::~DtHistory()
 {
 }
 
-DtHistory& DtHistory::operator=(const DtHistory& other)
+DtHistory&
+DtHistory::operator=(const DtHistory& other)
 {
     myElements = other.myElements;
     return *this;
 }
 
-DtHistory& DtHistory::operator=(DtHistory&& other) noexcept
+DtHistory&
+DtHistory::operator=(DtHistory&& other) noexcept
 {
     Elements taken(std::move(other.myElements)); // the other array may be a part of an element of this one
     myElements.swap(taken);
@@ -61,17 +67,20 @@ bool DtHistory::empty() const
     return myElements.empty();
 }
 
-DtHistory::Elements::const_reference DtHistory::operator[](std::size_t index) const
+DtHistory::Elements::const_reference
+DtHistory::operator[](std::size_t index) const
 {
     return myElements[index];
 }
 
-DtHistory::Elements::reference DtHistory::operator[](std::size_t index)
+DtHistory::Elements::reference
+DtHistory::operator[](std::size_t index)
 {
     return myElements[index];
 }
 
-const DtHistory::Elements& DtHistory::elements() const
+const DtHistory::Elements&
+DtHistory::elements() const
 {
     return myElements;
 }

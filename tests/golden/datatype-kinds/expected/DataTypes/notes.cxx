@@ -7,19 +7,23 @@
 
 #include "DataTypes/caseEnums.h"
 
-DtNotes::DtNotes() : myElements(layout().kind == DtFixedArray ? layout().count : 0)
+DtNotes::DtNotes()
+    : myElements(layout().kind == DtFixedArray ? layout().count : 0)
 {
 }
 
-DtNotes::DtNotes(const Elements& elements) : myElements(elements)
+DtNotes::DtNotes(const Elements& elements)
+    : myElements(elements)
 {
 }
 
-DtNotes::DtNotes(const DtNotes& other) : myElements(other.myElements)
+DtNotes::DtNotes(const DtNotes& other)
+    : myElements(other.myElements)
 {
 }
 
-DtNotes::DtNotes(DtNotes&& other) noexcept : myElements(std::move(other.myElements))
+DtNotes::DtNotes(DtNotes&& other) noexcept
+    : myElements(std::move(other.myElements))
 {
 }
 
@@ -27,13 +31,15 @@ DtNotes::~DtNotes()
 {
 }
 
-DtNotes& DtNotes::operator=(const DtNotes& other)
+DtNotes&
+DtNotes::operator=(const DtNotes& other)
 {
     myElements = other.myElements;
     return *this;
 }
 
-DtNotes& DtNotes::operator=(DtNotes&& other) noexcept
+DtNotes&
+DtNotes::operator=(DtNotes&& other) noexcept
 {
     Elements taken(std::move(other.myElements)); // the other array may be a part of an element of this one
     myElements.swap(taken);
@@ -60,17 +66,20 @@ bool DtNotes::empty() const
     return myElements.empty();
 }
 
-DtNotes::Elements::const_reference DtNotes::operator[](std::size_t index) const
+DtNotes::Elements::const_reference
+DtNotes::operator[](std::size_t index) const
 {
     return myElements[index];
 }
 
-DtNotes::Elements::reference DtNotes::operator[](std::size_t index)
+DtNotes::Elements::reference
+DtNotes::operator[](std::size_t index)
 {
     return myElements[index];
 }
 
-const DtNotes::Elements& DtNotes::elements() const
+const DtNotes::Elements&
+DtNotes::elements() const
 {
     return myElements;
 }

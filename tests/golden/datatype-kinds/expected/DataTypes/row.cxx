@@ -8,19 +8,23 @@
 #include "DataTypes/caseEnums.h"
 #include "DataTypes/hours.h"
 
-DtRow::DtRow() : myElements(layout().kind == DtFixedArray ? layout().count : 0)
+DtRow::DtRow()
+    : myElements(layout().kind == DtFixedArray ? layout().count : 0)
 {
 }
 
-DtRow::DtRow(const Elements& elements) : myElements(elements)
+DtRow::DtRow(const Elements& elements)
+    : myElements(elements)
 {
 }
 
-DtRow::DtRow(const DtRow& other) : myElements(other.myElements)
+DtRow::DtRow(const DtRow& other)
+    : myElements(other.myElements)
 {
 }
 
-DtRow::DtRow(DtRow&& other) noexcept : myElements(std::move(other.myElements))
+DtRow::DtRow(DtRow&& other) noexcept
+    : myElements(std::move(other.myElements))
 {
 }
 
@@ -28,13 +32,15 @@ DtRow::~DtRow()
 {
 }
 
-DtRow& DtRow::operator=(const DtRow& other)
+DtRow&
+DtRow::operator=(const DtRow& other)
 {
     myElements = other.myElements;
     return *this;
 }
 
-DtRow& DtRow::operator=(DtRow&& other) noexcept
+DtRow&
+DtRow::operator=(DtRow&& other) noexcept
 {
     Elements taken(std::move(other.myElements)); // the other array may be a part of an element of this one
     myElements.swap(taken);
@@ -61,17 +67,20 @@ bool DtRow::empty() const
     return myElements.empty();
 }
 
-DtRow::Elements::const_reference DtRow::operator[](std::size_t index) const
+DtRow::Elements::const_reference
+DtRow::operator[](std::size_t index) const
 {
     return myElements[index];
 }
 
-DtRow::Elements::reference DtRow::operator[](std::size_t index)
+DtRow::Elements::reference
+DtRow::operator[](std::size_t index)
 {
     return myElements[index];
 }
 
-const DtRow::Elements& DtRow::elements() const
+const DtRow::Elements&
+DtRow::elements() const
 {
     return myElements;
 }

@@ -10,19 +10,23 @@
 namespace garden
 {
 
-DtQxSeeds::DtQxSeeds() : myElements(layout().kind == DtFixedArray ? layout().count : 0)
+DtQxSeeds::DtQxSeeds()
+    : myElements(layout().kind == DtFixedArray ? layout().count : 0)
 {
 }
 
-DtQxSeeds::DtQxSeeds(const Elements& elements) : myElements(elements)
+DtQxSeeds::DtQxSeeds(const Elements& elements)
+    : myElements(elements)
 {
 }
 
-DtQxSeeds::DtQxSeeds(const DtQxSeeds& other) : myElements(other.myElements)
+DtQxSeeds::DtQxSeeds(const DtQxSeeds& other)
+    : myElements(other.myElements)
 {
 }
 
-DtQxSeeds::DtQxSeeds(DtQxSeeds&& other) noexcept : myElements(std::move(other.myElements))
+DtQxSeeds::DtQxSeeds(DtQxSeeds&& other) noexcept
+    : myElements(std::move(other.myElements))
 {
 }
 
@@ -30,13 +34,15 @@ DtQxSeeds::~DtQxSeeds()
 {
 }
 
-DtQxSeeds& DtQxSeeds::operator=(const DtQxSeeds& other)
+DtQxSeeds&
+DtQxSeeds::operator=(const DtQxSeeds& other)
 {
     myElements = other.myElements;
     return *this;
 }
 
-DtQxSeeds& DtQxSeeds::operator=(DtQxSeeds&& other) noexcept
+DtQxSeeds&
+DtQxSeeds::operator=(DtQxSeeds&& other) noexcept
 {
     Elements taken(std::move(other.myElements)); // the other array may be a part of an element of this one
     myElements.swap(taken);
@@ -63,17 +69,20 @@ bool DtQxSeeds::empty() const
     return myElements.empty();
 }
 
-DtQxSeeds::Elements::const_reference DtQxSeeds::operator[](std::size_t index) const
+DtQxSeeds::Elements::const_reference
+DtQxSeeds::operator[](std::size_t index) const
 {
     return myElements[index];
 }
 
-DtQxSeeds::Elements::reference DtQxSeeds::operator[](std::size_t index)
+DtQxSeeds::Elements::reference
+DtQxSeeds::operator[](std::size_t index)
 {
     return myElements[index];
 }
 
-const DtQxSeeds::Elements& DtQxSeeds::elements() const
+const DtQxSeeds::Elements&
+DtQxSeeds::elements() const
 {
     return myElements;
 }

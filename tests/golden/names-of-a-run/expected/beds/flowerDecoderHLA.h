@@ -11,7 +11,8 @@
 namespace garden
 {
 
-// Sets the attributes of HLAobjectRoot.Flower and of its superclasses from named buffers.
+// Sets the attributes of HLAobjectRoot.Flower
+// and of its superclasses from named buffers.
 class DT_DLL_CASE DtQxFlowerDecoder
     : public DtHlaStateDecoder
 {
@@ -20,8 +21,10 @@ public:
 
 protected:
     // One for each attribute; false if the buffer holds no value of it.
-    static bool decodeColour(DtQxFlowerStateRepository& state, DtWireReader& reader);
-    static bool decodeSeed(DtQxFlowerStateRepository& state, DtWireReader& reader);
+    static bool decodeColour(
+        DtQxFlowerStateRepository& state, DtWireReader& reader);
+    static bool decodeSeed(
+        DtQxFlowerStateRepository& state, DtWireReader& reader);
 };
 
 } // namespace garden

@@ -11,7 +11,8 @@
 namespace garden
 {
 
-// Puts the attributes of HLAobjectRoot.Flower into named buffers, behind those of its superclasses.
+// Puts the attributes of HLAobjectRoot.Flower
+// into named buffers, behind those of its superclasses.
 class DT_DLL_CASE DtQxFlowerEncoder
     : public DtHlaStateEncoder
 {
@@ -20,8 +21,10 @@ public:
 
 protected:
     // One for each attribute; false if the value has no wire form.
-    static bool encodeColour(const DtQxFlowerStateRepository& state, DtWireWriter& writer);
-    static bool encodeSeed(const DtQxFlowerStateRepository& state, DtWireWriter& writer);
+    static bool encodeColour(
+        const DtQxFlowerStateRepository& state, DtWireWriter& writer);
+    static bool encodeSeed(
+        const DtQxFlowerStateRepository& state, DtWireWriter& writer);
 };
 
 } // namespace garden

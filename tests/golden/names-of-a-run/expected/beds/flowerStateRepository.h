@@ -22,7 +22,8 @@ enum class DtColour8 : DtInt64;
 DT_DLL_CASE DtEnumeratorTable DtEnumeratorsOf(DtColour8);
 DT_DLL_CASE std::ostream& operator<<(std::ostream& out, DtColour8 value);
 
-// The attribute values of one Flower: its own here, those of its superclasses in the bases.
+// The attribute values of one Flower:
+// its own here, those of its superclasses in the bases.
 class DT_DLL_CASE DtQxFlowerStateRepository
     : public DtStateRepository
 {

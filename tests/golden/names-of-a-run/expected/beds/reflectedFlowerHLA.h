@@ -18,7 +18,8 @@ namespace garden
 class DtReflectedQxFlower;
 typedef void (*DtQxFlowerCallbackFunction)(DtReflectedQxFlower* object, void* user);
 
-// A Flower that someone else publishes. DtReflectedQxFlowerList makes it and keeps it up to date.
+// A Flower that someone else publishes.
+// DtReflectedQxFlowerList makes it and keeps it up to date.
 class DT_DLL_CASE DtReflectedQxFlower : public DtHlaReflectedObject
 {
 public:

@@ -11,7 +11,8 @@
 namespace garden
 {
 
-// Sets the parameters of HLAinteractionRoot.Water and of its superclasses from named buffers.
+// Sets the parameters of HLAinteractionRoot.Water
+// and of its superclasses from named buffers.
 class DT_DLL_CASE DtQxWaterInterDecoder
     : public DtInteractionDecoder
 {
@@ -20,7 +21,8 @@ public:
 
 protected:
     // One for each parameter; false if the buffer holds no value of it.
-    static bool decodeLitres(DtQxWaterInter& interaction, DtWireReader& reader);
+    static bool decodeLitres(
+        DtQxWaterInter& interaction, DtWireReader& reader);
 };
 
 } // namespace garden

@@ -11,7 +11,8 @@
 namespace garden
 {
 
-// Puts the parameters of HLAinteractionRoot.Water into named buffers, behind those of its superclasses.
+// Puts the parameters of HLAinteractionRoot.Water
+// into named buffers, behind those of its superclasses.
 class DT_DLL_CASE DtQxWaterInterEncoder
     : public DtInteractionEncoder
 {
@@ -20,7 +21,8 @@ public:
 
 protected:
     // One for each parameter; false if the value has no wire form.
-    static bool encodeLitres(const DtQxWaterInter& interaction, DtWireWriter& writer);
+    static bool encodeLitres(
+        const DtQxWaterInter& interaction, DtWireWriter& writer);
 
 private:
     // What the project leaves out has a coder all the same, but is not sent.

@@ -8,19 +8,23 @@
 #include "DataTypes/caseEnums.h"
 #include "DataTypes/person.h"
 
-DtPersonList::DtPersonList() : myElements(layout().kind == DtFixedArray ? layout().count : 0)
+DtPersonList::DtPersonList()
+    : myElements(layout().kind == DtFixedArray ? layout().count : 0)
 {
 }
 
-DtPersonList::DtPersonList(const Elements& elements) : myElements(elements)
+DtPersonList::DtPersonList(const Elements& elements)
+    : myElements(elements)
 {
 }
 
-DtPersonList::DtPersonList(const DtPersonList& other) : myElements(other.myElements)
+DtPersonList::DtPersonList(const DtPersonList& other)
+    : myElements(other.myElements)
 {
 }
 
-DtPersonList::DtPersonList(DtPersonList&& other) noexcept : myElements(std::move(other.myElements))
+DtPersonList::DtPersonList(DtPersonList&& other) noexcept
+    : myElements(std::move(other.myElements))
 {
 }
 
@@ -28,13 +32,15 @@ DtPersonList::~DtPersonList()
 {
 }
 
-DtPersonList& DtPersonList::operator=(const DtPersonList& other)
+DtPersonList&
+DtPersonList::operator=(const DtPersonList& other)
 {
     myElements = other.myElements;
     return *this;
 }
 
-DtPersonList& DtPersonList::operator=(DtPersonList&& other) noexcept
+DtPersonList&
+DtPersonList::operator=(DtPersonList&& other) noexcept
 {
     Elements taken(std::move(other.myElements)); // the other array may be a part of an element of this one
     myElements.swap(taken);
@@ -61,17 +67,20 @@ bool DtPersonList::empty() const
     return myElements.empty();
 }
 
-DtPersonList::Elements::const_reference DtPersonList::operator[](std::size_t index) const
+DtPersonList::Elements::const_reference
+DtPersonList::operator[](std::size_t index) const
 {
     return myElements[index];
 }
 
-DtPersonList::Elements::reference DtPersonList::operator[](std::size_t index)
+DtPersonList::Elements::reference
+DtPersonList::operator[](std::size_t index)
 {
     return myElements[index];
 }
 
-const DtPersonList::Elements& DtPersonList::elements() const
+const DtPersonList::Elements&
+DtPersonList::elements() const
 {
     return myElements;
 }

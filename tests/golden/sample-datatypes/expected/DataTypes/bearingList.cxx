@@ -7,19 +7,23 @@
 
 #include "DataTypes/caseEnums.h"
 
-DtBearingList::DtBearingList() : myElements(layout().kind == DtFixedArray ? layout().count : 0)
+DtBearingList::DtBearingList()
+    : myElements(layout().kind == DtFixedArray ? layout().count : 0)
 {
 }
 
-DtBearingList::DtBearingList(const Elements& elements) : myElements(elements)
+DtBearingList::DtBearingList(const Elements& elements)
+    : myElements(elements)
 {
 }
 
-DtBearingList::DtBearingList(const DtBearingList& other) : myElements(other.myElements)
+DtBearingList::DtBearingList(const DtBearingList& other)
+    : myElements(other.myElements)
 {
 }
 
-DtBearingList::DtBearingList(DtBearingList&& other) noexcept : myElements(std::move(other.myElements))
+DtBearingList::DtBearingList(DtBearingList&& other) noexcept
+    : myElements(std::move(other.myElements))
 {
 }
 
@@ -27,13 +31,15 @@ DtBearingList::~DtBearingList()
 {
 }
 
-DtBearingList& DtBearingList::operator=(const DtBearingList& other)
+DtBearingList&
+DtBearingList::operator=(const DtBearingList& other)
 {
     myElements = other.myElements;
     return *this;
 }
 
-DtBearingList& DtBearingList::operator=(DtBearingList&& other) noexcept
+DtBearingList&
+DtBearingList::operator=(DtBearingList&& other) noexcept
 {
     Elements taken(std::move(other.myElements)); // the other array may be a part of an element of this one
     myElements.swap(taken);
@@ -60,17 +66,20 @@ bool DtBearingList::empty() const
     return myElements.empty();
 }
 
-DtBearingList::Elements::const_reference DtBearingList::operator[](std::size_t index) const
+DtBearingList::Elements::const_reference
+DtBearingList::operator[](std::size_t index) const
 {
     return myElements[index];
 }
 
-DtBearingList::Elements::reference DtBearingList::operator[](std::size_t index)
+DtBearingList::Elements::reference
+DtBearingList::operator[](std::size_t index)
 {
     return myElements[index];
 }
 
-const DtBearingList::Elements& DtBearingList::elements() const
+const DtBearingList::Elements&
+DtBearingList::elements() const
 {
     return myElements;
 }

@@ -8,19 +8,23 @@
 #include "DataTypes/caseEnums.h"
 #include "DataTypes/weight__Kg.h"
 
-DtCodeRange::DtCodeRange() : myElements(layout().kind == DtFixedArray ? layout().count : 0)
+DtCodeRange::DtCodeRange()
+    : myElements(layout().kind == DtFixedArray ? layout().count : 0)
 {
 }
 
-DtCodeRange::DtCodeRange(const Elements& elements) : myElements(elements)
+DtCodeRange::DtCodeRange(const Elements& elements)
+    : myElements(elements)
 {
 }
 
-DtCodeRange::DtCodeRange(const DtCodeRange& other) : myElements(other.myElements)
+DtCodeRange::DtCodeRange(const DtCodeRange& other)
+    : myElements(other.myElements)
 {
 }
 
-DtCodeRange::DtCodeRange(DtCodeRange&& other) noexcept : myElements(std::move(other.myElements))
+DtCodeRange::DtCodeRange(DtCodeRange&& other) noexcept
+    : myElements(std::move(other.myElements))
 {
 }
 
@@ -28,13 +32,15 @@ DtCodeRange::~DtCodeRange()
 {
 }
 
-DtCodeRange& DtCodeRange::operator=(const DtCodeRange& other)
+DtCodeRange&
+DtCodeRange::operator=(const DtCodeRange& other)
 {
     myElements = other.myElements;
     return *this;
 }
 
-DtCodeRange& DtCodeRange::operator=(DtCodeRange&& other) noexcept
+DtCodeRange&
+DtCodeRange::operator=(DtCodeRange&& other) noexcept
 {
     Elements taken(std::move(other.myElements)); // the other array may be a part of an element of this one
     myElements.swap(taken);
@@ -61,17 +67,20 @@ bool DtCodeRange::empty() const
     return myElements.empty();
 }
 
-DtCodeRange::Elements::const_reference DtCodeRange::operator[](std::size_t index) const
+DtCodeRange::Elements::const_reference
+DtCodeRange::operator[](std::size_t index) const
 {
     return myElements[index];
 }
 
-DtCodeRange::Elements::reference DtCodeRange::operator[](std::size_t index)
+DtCodeRange::Elements::reference
+DtCodeRange::operator[](std::size_t index)
 {
     return myElements[index];
 }
 
-const DtCodeRange::Elements& DtCodeRange::elements() const
+const DtCodeRange::Elements&
+DtCodeRange::elements() const
 {
     return myElements;
 }

@@ -7,19 +7,23 @@
 
 #include "DataTypes/caseEnums.h"
 
-DtDepthGrid::DtDepthGrid() : myElements(layout().kind == DtFixedArray ? layout().count : 0)
+DtDepthGrid::DtDepthGrid()
+    : myElements(layout().kind == DtFixedArray ? layout().count : 0)
 {
 }
 
-DtDepthGrid::DtDepthGrid(const Elements& elements) : myElements(elements)
+DtDepthGrid::DtDepthGrid(const Elements& elements)
+    : myElements(elements)
 {
 }
 
-DtDepthGrid::DtDepthGrid(const DtDepthGrid& other) : myElements(other.myElements)
+DtDepthGrid::DtDepthGrid(const DtDepthGrid& other)
+    : myElements(other.myElements)
 {
 }
 
-DtDepthGrid::DtDepthGrid(DtDepthGrid&& other) noexcept : myElements(std::move(other.myElements))
+DtDepthGrid::DtDepthGrid(DtDepthGrid&& other) noexcept
+    : myElements(std::move(other.myElements))
 {
 }
 
@@ -27,13 +31,15 @@ DtDepthGrid::~DtDepthGrid()
 {
 }
 
-DtDepthGrid& DtDepthGrid::operator=(const DtDepthGrid& other)
+DtDepthGrid&
+DtDepthGrid::operator=(const DtDepthGrid& other)
 {
     myElements = other.myElements;
     return *this;
 }
 
-DtDepthGrid& DtDepthGrid::operator=(DtDepthGrid&& other) noexcept
+DtDepthGrid&
+DtDepthGrid::operator=(DtDepthGrid&& other) noexcept
 {
     Elements taken(std::move(other.myElements)); // the other array may be a part of an element of this one
     myElements.swap(taken);
@@ -60,17 +66,20 @@ bool DtDepthGrid::empty() const
     return myElements.empty();
 }
 
-DtDepthGrid::Elements::const_reference DtDepthGrid::operator[](std::size_t index) const
+DtDepthGrid::Elements::const_reference
+DtDepthGrid::operator[](std::size_t index) const
 {
     return myElements[index];
 }
 
-DtDepthGrid::Elements::reference DtDepthGrid::operator[](std::size_t index)
+DtDepthGrid::Elements::reference
+DtDepthGrid::operator[](std::size_t index)
 {
     return myElements[index];
 }
 
-const DtDepthGrid::Elements& DtDepthGrid::elements() const
+const DtDepthGrid::Elements&
+DtDepthGrid::elements() const
 {
     return myElements;
 }

@@ -7,19 +7,23 @@
 
 #include "DataTypes/caseEnums.h"
 
-DtDoorStates::DtDoorStates() : myElements(layout().kind == DtFixedArray ? layout().count : 0)
+DtDoorStates::DtDoorStates()
+    : myElements(layout().kind == DtFixedArray ? layout().count : 0)
 {
 }
 
-DtDoorStates::DtDoorStates(const Elements& elements) : myElements(elements)
+DtDoorStates::DtDoorStates(const Elements& elements)
+    : myElements(elements)
 {
 }
 
-DtDoorStates::DtDoorStates(const DtDoorStates& other) : myElements(other.myElements)
+DtDoorStates::DtDoorStates(const DtDoorStates& other)
+    : myElements(other.myElements)
 {
 }
 
-DtDoorStates::DtDoorStates(DtDoorStates&& other) noexcept : myElements(std::move(other.myElements))
+DtDoorStates::DtDoorStates(DtDoorStates&& other) noexcept
+    : myElements(std::move(other.myElements))
 {
 }
 
@@ -27,13 +31,15 @@ DtDoorStates::~DtDoorStates()
 {
 }
 
-DtDoorStates& DtDoorStates::operator=(const DtDoorStates& other)
+DtDoorStates&
+DtDoorStates::operator=(const DtDoorStates& other)
 {
     myElements = other.myElements;
     return *this;
 }
 
-DtDoorStates& DtDoorStates::operator=(DtDoorStates&& other) noexcept
+DtDoorStates&
+DtDoorStates::operator=(DtDoorStates&& other) noexcept
 {
     Elements taken(std::move(other.myElements)); // the other array may be a part of an element of this one
     myElements.swap(taken);
@@ -60,17 +66,20 @@ bool DtDoorStates::empty() const
     return myElements.empty();
 }
 
-DtDoorStates::Elements::const_reference DtDoorStates::operator[](std::size_t index) const
+DtDoorStates::Elements::const_reference
+DtDoorStates::operator[](std::size_t index) const
 {
     return myElements[index];
 }
 
-DtDoorStates::Elements::reference DtDoorStates::operator[](std::size_t index)
+DtDoorStates::Elements::reference
+DtDoorStates::operator[](std::size_t index)
 {
     return myElements[index];
 }
 
-const DtDoorStates::Elements& DtDoorStates::elements() const
+const DtDoorStates::Elements&
+DtDoorStates::elements() const
 {
     return myElements;
 }

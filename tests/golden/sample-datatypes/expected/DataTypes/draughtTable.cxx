@@ -7,19 +7,23 @@
 
 #include "DataTypes/caseEnums.h"
 
-DtDraughtTable::DtDraughtTable() : myElements(layout().kind == DtFixedArray ? layout().count : 0)
+DtDraughtTable::DtDraughtTable()
+    : myElements(layout().kind == DtFixedArray ? layout().count : 0)
 {
 }
 
-DtDraughtTable::DtDraughtTable(const Elements& elements) : myElements(elements)
+DtDraughtTable::DtDraughtTable(const Elements& elements)
+    : myElements(elements)
 {
 }
 
-DtDraughtTable::DtDraughtTable(const DtDraughtTable& other) : myElements(other.myElements)
+DtDraughtTable::DtDraughtTable(const DtDraughtTable& other)
+    : myElements(other.myElements)
 {
 }
 
-DtDraughtTable::DtDraughtTable(DtDraughtTable&& other) noexcept : myElements(std::move(other.myElements))
+DtDraughtTable::DtDraughtTable(DtDraughtTable&& other) noexcept
+    : myElements(std::move(other.myElements))
 {
 }
 
@@ -27,13 +31,15 @@ DtDraughtTable::~DtDraughtTable()
 {
 }
 
-DtDraughtTable& DtDraughtTable::operator=(const DtDraughtTable& other)
+DtDraughtTable&
+DtDraughtTable::operator=(const DtDraughtTable& other)
 {
     myElements = other.myElements;
     return *this;
 }
 
-DtDraughtTable& DtDraughtTable::operator=(DtDraughtTable&& other) noexcept
+DtDraughtTable&
+DtDraughtTable::operator=(DtDraughtTable&& other) noexcept
 {
     Elements taken(std::move(other.myElements)); // the other array may be a part of an element of this one
     myElements.swap(taken);
@@ -60,17 +66,20 @@ bool DtDraughtTable::empty() const
     return myElements.empty();
 }
 
-DtDraughtTable::Elements::const_reference DtDraughtTable::operator[](std::size_t index) const
+DtDraughtTable::Elements::const_reference
+DtDraughtTable::operator[](std::size_t index) const
 {
     return myElements[index];
 }
 
-DtDraughtTable::Elements::reference DtDraughtTable::operator[](std::size_t index)
+DtDraughtTable::Elements::reference
+DtDraughtTable::operator[](std::size_t index)
 {
     return myElements[index];
 }
 
-const DtDraughtTable::Elements& DtDraughtTable::elements() const
+const DtDraughtTable::Elements&
+DtDraughtTable::elements() const
 {
     return myElements;
 }

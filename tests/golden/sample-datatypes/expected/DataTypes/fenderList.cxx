@@ -8,19 +8,23 @@
 #include "DataTypes/caseEnums.h"
 #include "DataTypes/count8.h"
 
-DtFenderList::DtFenderList() : myElements(layout().kind == DtFixedArray ? layout().count : 0)
+DtFenderList::DtFenderList()
+    : myElements(layout().kind == DtFixedArray ? layout().count : 0)
 {
 }
 
-DtFenderList::DtFenderList(const Elements& elements) : myElements(elements)
+DtFenderList::DtFenderList(const Elements& elements)
+    : myElements(elements)
 {
 }
 
-DtFenderList::DtFenderList(const DtFenderList& other) : myElements(other.myElements)
+DtFenderList::DtFenderList(const DtFenderList& other)
+    : myElements(other.myElements)
 {
 }
 
-DtFenderList::DtFenderList(DtFenderList&& other) noexcept : myElements(std::move(other.myElements))
+DtFenderList::DtFenderList(DtFenderList&& other) noexcept
+    : myElements(std::move(other.myElements))
 {
 }
 
@@ -28,13 +32,15 @@ DtFenderList::~DtFenderList()
 {
 }
 
-DtFenderList& DtFenderList::operator=(const DtFenderList& other)
+DtFenderList&
+DtFenderList::operator=(const DtFenderList& other)
 {
     myElements = other.myElements;
     return *this;
 }
 
-DtFenderList& DtFenderList::operator=(DtFenderList&& other) noexcept
+DtFenderList&
+DtFenderList::operator=(DtFenderList&& other) noexcept
 {
     Elements taken(std::move(other.myElements)); // the other array may be a part of an element of this one
     myElements.swap(taken);
@@ -61,17 +67,20 @@ bool DtFenderList::empty() const
     return myElements.empty();
 }
 
-DtFenderList::Elements::const_reference DtFenderList::operator[](std::size_t index) const
+DtFenderList::Elements::const_reference
+DtFenderList::operator[](std::size_t index) const
 {
     return myElements[index];
 }
 
-DtFenderList::Elements::reference DtFenderList::operator[](std::size_t index)
+DtFenderList::Elements::reference
+DtFenderList::operator[](std::size_t index)
 {
     return myElements[index];
 }
 
-const DtFenderList::Elements& DtFenderList::elements() const
+const DtFenderList::Elements&
+DtFenderList::elements() const
 {
     return myElements;
 }

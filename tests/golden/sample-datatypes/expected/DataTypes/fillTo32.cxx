@@ -8,19 +8,23 @@
 #include "DataTypes/caseEnums.h"
 #include "DataTypes/count8.h"
 
-DtFillTo32::DtFillTo32() : myElements(layout().kind == DtFixedArray ? layout().count : 0)
+DtFillTo32::DtFillTo32()
+    : myElements(layout().kind == DtFixedArray ? layout().count : 0)
 {
 }
 
-DtFillTo32::DtFillTo32(const Elements& elements) : myElements(elements)
+DtFillTo32::DtFillTo32(const Elements& elements)
+    : myElements(elements)
 {
 }
 
-DtFillTo32::DtFillTo32(const DtFillTo32& other) : myElements(other.myElements)
+DtFillTo32::DtFillTo32(const DtFillTo32& other)
+    : myElements(other.myElements)
 {
 }
 
-DtFillTo32::DtFillTo32(DtFillTo32&& other) noexcept : myElements(std::move(other.myElements))
+DtFillTo32::DtFillTo32(DtFillTo32&& other) noexcept
+    : myElements(std::move(other.myElements))
 {
 }
 
@@ -28,13 +32,15 @@ DtFillTo32::~DtFillTo32()
 {
 }
 
-DtFillTo32& DtFillTo32::operator=(const DtFillTo32& other)
+DtFillTo32&
+DtFillTo32::operator=(const DtFillTo32& other)
 {
     myElements = other.myElements;
     return *this;
 }
 
-DtFillTo32& DtFillTo32::operator=(DtFillTo32&& other) noexcept
+DtFillTo32&
+DtFillTo32::operator=(DtFillTo32&& other) noexcept
 {
     Elements taken(std::move(other.myElements)); // the other array may be a part of an element of this one
     myElements.swap(taken);
@@ -61,17 +67,20 @@ bool DtFillTo32::empty() const
     return myElements.empty();
 }
 
-DtFillTo32::Elements::const_reference DtFillTo32::operator[](std::size_t index) const
+DtFillTo32::Elements::const_reference
+DtFillTo32::operator[](std::size_t index) const
 {
     return myElements[index];
 }
 
-DtFillTo32::Elements::reference DtFillTo32::operator[](std::size_t index)
+DtFillTo32::Elements::reference
+DtFillTo32::operator[](std::size_t index)
 {
     return myElements[index];
 }
 
-const DtFillTo32::Elements& DtFillTo32::elements() const
+const DtFillTo32::Elements&
+DtFillTo32::elements() const
 {
     return myElements;
 }

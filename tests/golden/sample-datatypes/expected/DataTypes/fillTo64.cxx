@@ -8,19 +8,23 @@
 #include "DataTypes/caseEnums.h"
 #include "DataTypes/count8.h"
 
-DtFillTo64::DtFillTo64() : myElements(layout().kind == DtFixedArray ? layout().count : 0)
+DtFillTo64::DtFillTo64()
+    : myElements(layout().kind == DtFixedArray ? layout().count : 0)
 {
 }
 
-DtFillTo64::DtFillTo64(const Elements& elements) : myElements(elements)
+DtFillTo64::DtFillTo64(const Elements& elements)
+    : myElements(elements)
 {
 }
 
-DtFillTo64::DtFillTo64(const DtFillTo64& other) : myElements(other.myElements)
+DtFillTo64::DtFillTo64(const DtFillTo64& other)
+    : myElements(other.myElements)
 {
 }
 
-DtFillTo64::DtFillTo64(DtFillTo64&& other) noexcept : myElements(std::move(other.myElements))
+DtFillTo64::DtFillTo64(DtFillTo64&& other) noexcept
+    : myElements(std::move(other.myElements))
 {
 }
 
@@ -28,13 +32,15 @@ DtFillTo64::~DtFillTo64()
 {
 }
 
-DtFillTo64& DtFillTo64::operator=(const DtFillTo64& other)
+DtFillTo64&
+DtFillTo64::operator=(const DtFillTo64& other)
 {
     myElements = other.myElements;
     return *this;
 }
 
-DtFillTo64& DtFillTo64::operator=(DtFillTo64&& other) noexcept
+DtFillTo64&
+DtFillTo64::operator=(DtFillTo64&& other) noexcept
 {
     Elements taken(std::move(other.myElements)); // the other array may be a part of an element of this one
     myElements.swap(taken);
@@ -61,17 +67,20 @@ bool DtFillTo64::empty() const
     return myElements.empty();
 }
 
-DtFillTo64::Elements::const_reference DtFillTo64::operator[](std::size_t index) const
+DtFillTo64::Elements::const_reference
+DtFillTo64::operator[](std::size_t index) const
 {
     return myElements[index];
 }
 
-DtFillTo64::Elements::reference DtFillTo64::operator[](std::size_t index)
+DtFillTo64::Elements::reference
+DtFillTo64::operator[](std::size_t index)
 {
     return myElements[index];
 }
 
-const DtFillTo64::Elements& DtFillTo64::elements() const
+const DtFillTo64::Elements&
+DtFillTo64::elements() const
 {
     return myElements;
 }

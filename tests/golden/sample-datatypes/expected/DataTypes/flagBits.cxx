@@ -7,19 +7,23 @@
 
 #include "DataTypes/caseEnums.h"
 
-DtFlagBits::DtFlagBits() : myElements(layout().kind == DtFixedArray ? layout().count : 0)
+DtFlagBits::DtFlagBits()
+    : myElements(layout().kind == DtFixedArray ? layout().count : 0)
 {
 }
 
-DtFlagBits::DtFlagBits(const Elements& elements) : myElements(elements)
+DtFlagBits::DtFlagBits(const Elements& elements)
+    : myElements(elements)
 {
 }
 
-DtFlagBits::DtFlagBits(const DtFlagBits& other) : myElements(other.myElements)
+DtFlagBits::DtFlagBits(const DtFlagBits& other)
+    : myElements(other.myElements)
 {
 }
 
-DtFlagBits::DtFlagBits(DtFlagBits&& other) noexcept : myElements(std::move(other.myElements))
+DtFlagBits::DtFlagBits(DtFlagBits&& other) noexcept
+    : myElements(std::move(other.myElements))
 {
 }
 
@@ -27,13 +31,15 @@ DtFlagBits::~DtFlagBits()
 {
 }
 
-DtFlagBits& DtFlagBits::operator=(const DtFlagBits& other)
+DtFlagBits&
+DtFlagBits::operator=(const DtFlagBits& other)
 {
     myElements = other.myElements;
     return *this;
 }
 
-DtFlagBits& DtFlagBits::operator=(DtFlagBits&& other) noexcept
+DtFlagBits&
+DtFlagBits::operator=(DtFlagBits&& other) noexcept
 {
     Elements taken(std::move(other.myElements)); // the other array may be a part of an element of this one
     myElements.swap(taken);
@@ -60,17 +66,20 @@ bool DtFlagBits::empty() const
     return myElements.empty();
 }
 
-DtFlagBits::Elements::const_reference DtFlagBits::operator[](std::size_t index) const
+DtFlagBits::Elements::const_reference
+DtFlagBits::operator[](std::size_t index) const
 {
     return myElements[index];
 }
 
-DtFlagBits::Elements::reference DtFlagBits::operator[](std::size_t index)
+DtFlagBits::Elements::reference
+DtFlagBits::operator[](std::size_t index)
 {
     return myElements[index];
 }
 
-const DtFlagBits::Elements& DtFlagBits::elements() const
+const DtFlagBits::Elements&
+DtFlagBits::elements() const
 {
     return myElements;
 }

@@ -8,19 +8,23 @@
 #include "DataTypes/caseEnums.h"
 #include "DataTypes/clockTime.h"
 
-DtGateTimes::DtGateTimes() : myElements(layout().kind == DtFixedArray ? layout().count : 0)
+DtGateTimes::DtGateTimes()
+    : myElements(layout().kind == DtFixedArray ? layout().count : 0)
 {
 }
 
-DtGateTimes::DtGateTimes(const Elements& elements) : myElements(elements)
+DtGateTimes::DtGateTimes(const Elements& elements)
+    : myElements(elements)
 {
 }
 
-DtGateTimes::DtGateTimes(const DtGateTimes& other) : myElements(other.myElements)
+DtGateTimes::DtGateTimes(const DtGateTimes& other)
+    : myElements(other.myElements)
 {
 }
 
-DtGateTimes::DtGateTimes(DtGateTimes&& other) noexcept : myElements(std::move(other.myElements))
+DtGateTimes::DtGateTimes(DtGateTimes&& other) noexcept
+    : myElements(std::move(other.myElements))
 {
 }
 
@@ -28,13 +32,15 @@ DtGateTimes::~DtGateTimes()
 {
 }
 
-DtGateTimes& DtGateTimes::operator=(const DtGateTimes& other)
+DtGateTimes&
+DtGateTimes::operator=(const DtGateTimes& other)
 {
     myElements = other.myElements;
     return *this;
 }
 
-DtGateTimes& DtGateTimes::operator=(DtGateTimes&& other) noexcept
+DtGateTimes&
+DtGateTimes::operator=(DtGateTimes&& other) noexcept
 {
     Elements taken(std::move(other.myElements)); // the other array may be a part of an element of this one
     myElements.swap(taken);
@@ -61,17 +67,20 @@ bool DtGateTimes::empty() const
     return myElements.empty();
 }
 
-DtGateTimes::Elements::const_reference DtGateTimes::operator[](std::size_t index) const
+DtGateTimes::Elements::const_reference
+DtGateTimes::operator[](std::size_t index) const
 {
     return myElements[index];
 }
 
-DtGateTimes::Elements::reference DtGateTimes::operator[](std::size_t index)
+DtGateTimes::Elements::reference
+DtGateTimes::operator[](std::size_t index)
 {
     return myElements[index];
 }
 
-const DtGateTimes::Elements& DtGateTimes::elements() const
+const DtGateTimes::Elements&
+DtGateTimes::elements() const
 {
     return myElements;
 }

@@ -8,19 +8,23 @@
 #include "DataTypes/caseEnums.h"
 #include "DataTypes/hold.h"
 
-DtHoldTable::DtHoldTable() : myElements(layout().kind == DtFixedArray ? layout().count : 0)
+DtHoldTable::DtHoldTable()
+    : myElements(layout().kind == DtFixedArray ? layout().count : 0)
 {
 }
 
-DtHoldTable::DtHoldTable(const Elements& elements) : myElements(elements)
+DtHoldTable::DtHoldTable(const Elements& elements)
+    : myElements(elements)
 {
 }
 
-DtHoldTable::DtHoldTable(const DtHoldTable& other) : myElements(other.myElements)
+DtHoldTable::DtHoldTable(const DtHoldTable& other)
+    : myElements(other.myElements)
 {
 }
 
-DtHoldTable::DtHoldTable(DtHoldTable&& other) noexcept : myElements(std::move(other.myElements))
+DtHoldTable::DtHoldTable(DtHoldTable&& other) noexcept
+    : myElements(std::move(other.myElements))
 {
 }
 
@@ -28,13 +32,15 @@ DtHoldTable::~DtHoldTable()
 {
 }
 
-DtHoldTable& DtHoldTable::operator=(const DtHoldTable& other)
+DtHoldTable&
+DtHoldTable::operator=(const DtHoldTable& other)
 {
     myElements = other.myElements;
     return *this;
 }
 
-DtHoldTable& DtHoldTable::operator=(DtHoldTable&& other) noexcept
+DtHoldTable&
+DtHoldTable::operator=(DtHoldTable&& other) noexcept
 {
     Elements taken(std::move(other.myElements)); // the other array may be a part of an element of this one
     myElements.swap(taken);
@@ -61,17 +67,20 @@ bool DtHoldTable::empty() const
     return myElements.empty();
 }
 
-DtHoldTable::Elements::const_reference DtHoldTable::operator[](std::size_t index) const
+DtHoldTable::Elements::const_reference
+DtHoldTable::operator[](std::size_t index) const
 {
     return myElements[index];
 }
 
-DtHoldTable::Elements::reference DtHoldTable::operator[](std::size_t index)
+DtHoldTable::Elements::reference
+DtHoldTable::operator[](std::size_t index)
 {
     return myElements[index];
 }
 
-const DtHoldTable::Elements& DtHoldTable::elements() const
+const DtHoldTable::Elements&
+DtHoldTable::elements() const
 {
     return myElements;
 }

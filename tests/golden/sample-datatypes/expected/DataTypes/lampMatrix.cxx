@@ -7,19 +7,23 @@
 
 #include "DataTypes/caseEnums.h"
 
-DtLampMatrix::DtLampMatrix() : myElements(layout().kind == DtFixedArray ? layout().count : 0)
+DtLampMatrix::DtLampMatrix()
+    : myElements(layout().kind == DtFixedArray ? layout().count : 0)
 {
 }
 
-DtLampMatrix::DtLampMatrix(const Elements& elements) : myElements(elements)
+DtLampMatrix::DtLampMatrix(const Elements& elements)
+    : myElements(elements)
 {
 }
 
-DtLampMatrix::DtLampMatrix(const DtLampMatrix& other) : myElements(other.myElements)
+DtLampMatrix::DtLampMatrix(const DtLampMatrix& other)
+    : myElements(other.myElements)
 {
 }
 
-DtLampMatrix::DtLampMatrix(DtLampMatrix&& other) noexcept : myElements(std::move(other.myElements))
+DtLampMatrix::DtLampMatrix(DtLampMatrix&& other) noexcept
+    : myElements(std::move(other.myElements))
 {
 }
 
@@ -27,13 +31,15 @@ DtLampMatrix::~DtLampMatrix()
 {
 }
 
-DtLampMatrix& DtLampMatrix::operator=(const DtLampMatrix& other)
+DtLampMatrix&
+DtLampMatrix::operator=(const DtLampMatrix& other)
 {
     myElements = other.myElements;
     return *this;
 }
 
-DtLampMatrix& DtLampMatrix::operator=(DtLampMatrix&& other) noexcept
+DtLampMatrix&
+DtLampMatrix::operator=(DtLampMatrix&& other) noexcept
 {
     Elements taken(std::move(other.myElements)); // the other array may be a part of an element of this one
     myElements.swap(taken);
@@ -60,17 +66,20 @@ bool DtLampMatrix::empty() const
     return myElements.empty();
 }
 
-DtLampMatrix::Elements::const_reference DtLampMatrix::operator[](std::size_t index) const
+DtLampMatrix::Elements::const_reference
+DtLampMatrix::operator[](std::size_t index) const
 {
     return myElements[index];
 }
 
-DtLampMatrix::Elements::reference DtLampMatrix::operator[](std::size_t index)
+DtLampMatrix::Elements::reference
+DtLampMatrix::operator[](std::size_t index)
 {
     return myElements[index];
 }
 
-const DtLampMatrix::Elements& DtLampMatrix::elements() const
+const DtLampMatrix::Elements&
+DtLampMatrix::elements() const
 {
     return myElements;
 }

@@ -7,19 +7,23 @@
 
 #include "DataTypes/caseEnums.h"
 
-DtLineList::DtLineList() : myElements(layout().kind == DtFixedArray ? layout().count : 0)
+DtLineList::DtLineList()
+    : myElements(layout().kind == DtFixedArray ? layout().count : 0)
 {
 }
 
-DtLineList::DtLineList(const Elements& elements) : myElements(elements)
+DtLineList::DtLineList(const Elements& elements)
+    : myElements(elements)
 {
 }
 
-DtLineList::DtLineList(const DtLineList& other) : myElements(other.myElements)
+DtLineList::DtLineList(const DtLineList& other)
+    : myElements(other.myElements)
 {
 }
 
-DtLineList::DtLineList(DtLineList&& other) noexcept : myElements(std::move(other.myElements))
+DtLineList::DtLineList(DtLineList&& other) noexcept
+    : myElements(std::move(other.myElements))
 {
 }
 
@@ -27,13 +31,15 @@ DtLineList::~DtLineList()
 {
 }
 
-DtLineList& DtLineList::operator=(const DtLineList& other)
+DtLineList&
+DtLineList::operator=(const DtLineList& other)
 {
     myElements = other.myElements;
     return *this;
 }
 
-DtLineList& DtLineList::operator=(DtLineList&& other) noexcept
+DtLineList&
+DtLineList::operator=(DtLineList&& other) noexcept
 {
     Elements taken(std::move(other.myElements)); // the other array may be a part of an element of this one
     myElements.swap(taken);
@@ -60,17 +66,20 @@ bool DtLineList::empty() const
     return myElements.empty();
 }
 
-DtLineList::Elements::const_reference DtLineList::operator[](std::size_t index) const
+DtLineList::Elements::const_reference
+DtLineList::operator[](std::size_t index) const
 {
     return myElements[index];
 }
 
-DtLineList::Elements::reference DtLineList::operator[](std::size_t index)
+DtLineList::Elements::reference
+DtLineList::operator[](std::size_t index)
 {
     return myElements[index];
 }
 
-const DtLineList::Elements& DtLineList::elements() const
+const DtLineList::Elements&
+DtLineList::elements() const
 {
     return myElements;
 }

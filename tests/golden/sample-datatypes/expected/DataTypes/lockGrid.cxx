@@ -8,19 +8,23 @@
 #include "DataTypes/caseEnums.h"
 #include "DataTypes/weight__Kg.h"
 
-DtLockGrid::DtLockGrid() : myElements(layout().kind == DtFixedArray ? layout().count : 0)
+DtLockGrid::DtLockGrid()
+    : myElements(layout().kind == DtFixedArray ? layout().count : 0)
 {
 }
 
-DtLockGrid::DtLockGrid(const Elements& elements) : myElements(elements)
+DtLockGrid::DtLockGrid(const Elements& elements)
+    : myElements(elements)
 {
 }
 
-DtLockGrid::DtLockGrid(const DtLockGrid& other) : myElements(other.myElements)
+DtLockGrid::DtLockGrid(const DtLockGrid& other)
+    : myElements(other.myElements)
 {
 }
 
-DtLockGrid::DtLockGrid(DtLockGrid&& other) noexcept : myElements(std::move(other.myElements))
+DtLockGrid::DtLockGrid(DtLockGrid&& other) noexcept
+    : myElements(std::move(other.myElements))
 {
 }
 
@@ -28,13 +32,15 @@ DtLockGrid::~DtLockGrid()
 {
 }
 
-DtLockGrid& DtLockGrid::operator=(const DtLockGrid& other)
+DtLockGrid&
+DtLockGrid::operator=(const DtLockGrid& other)
 {
     myElements = other.myElements;
     return *this;
 }
 
-DtLockGrid& DtLockGrid::operator=(DtLockGrid&& other) noexcept
+DtLockGrid&
+DtLockGrid::operator=(DtLockGrid&& other) noexcept
 {
     Elements taken(std::move(other.myElements)); // the other array may be a part of an element of this one
     myElements.swap(taken);
@@ -61,17 +67,20 @@ bool DtLockGrid::empty() const
     return myElements.empty();
 }
 
-DtLockGrid::Elements::const_reference DtLockGrid::operator[](std::size_t index) const
+DtLockGrid::Elements::const_reference
+DtLockGrid::operator[](std::size_t index) const
 {
     return myElements[index];
 }
 
-DtLockGrid::Elements::reference DtLockGrid::operator[](std::size_t index)
+DtLockGrid::Elements::reference
+DtLockGrid::operator[](std::size_t index)
 {
     return myElements[index];
 }
 
-const DtLockGrid::Elements& DtLockGrid::elements() const
+const DtLockGrid::Elements&
+DtLockGrid::elements() const
 {
     return myElements;
 }

@@ -7,19 +7,23 @@
 
 #include "DataTypes/caseEnums.h"
 
-DtNameList::DtNameList() : myElements(layout().kind == DtFixedArray ? layout().count : 0)
+DtNameList::DtNameList()
+    : myElements(layout().kind == DtFixedArray ? layout().count : 0)
 {
 }
 
-DtNameList::DtNameList(const Elements& elements) : myElements(elements)
+DtNameList::DtNameList(const Elements& elements)
+    : myElements(elements)
 {
 }
 
-DtNameList::DtNameList(const DtNameList& other) : myElements(other.myElements)
+DtNameList::DtNameList(const DtNameList& other)
+    : myElements(other.myElements)
 {
 }
 
-DtNameList::DtNameList(DtNameList&& other) noexcept : myElements(std::move(other.myElements))
+DtNameList::DtNameList(DtNameList&& other) noexcept
+    : myElements(std::move(other.myElements))
 {
 }
 
@@ -27,13 +31,15 @@ DtNameList::~DtNameList()
 {
 }
 
-DtNameList& DtNameList::operator=(const DtNameList& other)
+DtNameList&
+DtNameList::operator=(const DtNameList& other)
 {
     myElements = other.myElements;
     return *this;
 }
 
-DtNameList& DtNameList::operator=(DtNameList&& other) noexcept
+DtNameList&
+DtNameList::operator=(DtNameList&& other) noexcept
 {
     Elements taken(std::move(other.myElements)); // the other array may be a part of an element of this one
     myElements.swap(taken);
@@ -60,17 +66,20 @@ bool DtNameList::empty() const
     return myElements.empty();
 }
 
-DtNameList::Elements::const_reference DtNameList::operator[](std::size_t index) const
+DtNameList::Elements::const_reference
+DtNameList::operator[](std::size_t index) const
 {
     return myElements[index];
 }
 
-DtNameList::Elements::reference DtNameList::operator[](std::size_t index)
+DtNameList::Elements::reference
+DtNameList::operator[](std::size_t index)
 {
     return myElements[index];
 }
 
-const DtNameList::Elements& DtNameList::elements() const
+const DtNameList::Elements&
+DtNameList::elements() const
 {
     return myElements;
 }

@@ -7,19 +7,23 @@
 
 #include "DataTypes/caseEnums.h"
 
-DtOldRun::DtOldRun() : myElements(layout().kind == DtFixedArray ? layout().count : 0)
+DtOldRun::DtOldRun()
+    : myElements(layout().kind == DtFixedArray ? layout().count : 0)
 {
 }
 
-DtOldRun::DtOldRun(const Elements& elements) : myElements(elements)
+DtOldRun::DtOldRun(const Elements& elements)
+    : myElements(elements)
 {
 }
 
-DtOldRun::DtOldRun(const DtOldRun& other) : myElements(other.myElements)
+DtOldRun::DtOldRun(const DtOldRun& other)
+    : myElements(other.myElements)
 {
 }
 
-DtOldRun::DtOldRun(DtOldRun&& other) noexcept : myElements(std::move(other.myElements))
+DtOldRun::DtOldRun(DtOldRun&& other) noexcept
+    : myElements(std::move(other.myElements))
 {
 }
 
@@ -27,13 +31,15 @@ DtOldRun::~DtOldRun()
 {
 }
 
-DtOldRun& DtOldRun::operator=(const DtOldRun& other)
+DtOldRun&
+DtOldRun::operator=(const DtOldRun& other)
 {
     myElements = other.myElements;
     return *this;
 }
 
-DtOldRun& DtOldRun::operator=(DtOldRun&& other) noexcept
+DtOldRun&
+DtOldRun::operator=(DtOldRun&& other) noexcept
 {
     Elements taken(std::move(other.myElements)); // the other array may be a part of an element of this one
     myElements.swap(taken);
@@ -60,17 +66,20 @@ bool DtOldRun::empty() const
     return myElements.empty();
 }
 
-DtOldRun::Elements::const_reference DtOldRun::operator[](std::size_t index) const
+DtOldRun::Elements::const_reference
+DtOldRun::operator[](std::size_t index) const
 {
     return myElements[index];
 }
 
-DtOldRun::Elements::reference DtOldRun::operator[](std::size_t index)
+DtOldRun::Elements::reference
+DtOldRun::operator[](std::size_t index)
 {
     return myElements[index];
 }
 
-const DtOldRun::Elements& DtOldRun::elements() const
+const DtOldRun::Elements&
+DtOldRun::elements() const
 {
     return myElements;
 }

@@ -8,19 +8,23 @@
 #include "DataTypes/caseEnums.h"
 #include "DataTypes/tide16LE.h"
 
-DtPaddedTrace::DtPaddedTrace() : myElements(layout().kind == DtFixedArray ? layout().count : 0)
+DtPaddedTrace::DtPaddedTrace()
+    : myElements(layout().kind == DtFixedArray ? layout().count : 0)
 {
 }
 
-DtPaddedTrace::DtPaddedTrace(const Elements& elements) : myElements(elements)
+DtPaddedTrace::DtPaddedTrace(const Elements& elements)
+    : myElements(elements)
 {
 }
 
-DtPaddedTrace::DtPaddedTrace(const DtPaddedTrace& other) : myElements(other.myElements)
+DtPaddedTrace::DtPaddedTrace(const DtPaddedTrace& other)
+    : myElements(other.myElements)
 {
 }
 
-DtPaddedTrace::DtPaddedTrace(DtPaddedTrace&& other) noexcept : myElements(std::move(other.myElements))
+DtPaddedTrace::DtPaddedTrace(DtPaddedTrace&& other) noexcept
+    : myElements(std::move(other.myElements))
 {
 }
 
@@ -28,13 +32,15 @@ DtPaddedTrace::~DtPaddedTrace()
 {
 }
 
-DtPaddedTrace& DtPaddedTrace::operator=(const DtPaddedTrace& other)
+DtPaddedTrace&
+DtPaddedTrace::operator=(const DtPaddedTrace& other)
 {
     myElements = other.myElements;
     return *this;
 }
 
-DtPaddedTrace& DtPaddedTrace::operator=(DtPaddedTrace&& other) noexcept
+DtPaddedTrace&
+DtPaddedTrace::operator=(DtPaddedTrace&& other) noexcept
 {
     Elements taken(std::move(other.myElements)); // the other array may be a part of an element of this one
     myElements.swap(taken);
@@ -61,17 +67,20 @@ bool DtPaddedTrace::empty() const
     return myElements.empty();
 }
 
-DtPaddedTrace::Elements::const_reference DtPaddedTrace::operator[](std::size_t index) const
+DtPaddedTrace::Elements::const_reference
+DtPaddedTrace::operator[](std::size_t index) const
 {
     return myElements[index];
 }
 
-DtPaddedTrace::Elements::reference DtPaddedTrace::operator[](std::size_t index)
+DtPaddedTrace::Elements::reference
+DtPaddedTrace::operator[](std::size_t index)
 {
     return myElements[index];
 }
 
-const DtPaddedTrace::Elements& DtPaddedTrace::elements() const
+const DtPaddedTrace::Elements&
+DtPaddedTrace::elements() const
 {
     return myElements;
 }

@@ -7,19 +7,23 @@
 
 #include "DataTypes/caseEnums.h"
 
-DtReportText::DtReportText() : myElements(layout().kind == DtFixedArray ? layout().count : 0)
+DtReportText::DtReportText()
+    : myElements(layout().kind == DtFixedArray ? layout().count : 0)
 {
 }
 
-DtReportText::DtReportText(const Elements& elements) : myElements(elements)
+DtReportText::DtReportText(const Elements& elements)
+    : myElements(elements)
 {
 }
 
-DtReportText::DtReportText(const DtReportText& other) : myElements(other.myElements)
+DtReportText::DtReportText(const DtReportText& other)
+    : myElements(other.myElements)
 {
 }
 
-DtReportText::DtReportText(DtReportText&& other) noexcept : myElements(std::move(other.myElements))
+DtReportText::DtReportText(DtReportText&& other) noexcept
+    : myElements(std::move(other.myElements))
 {
 }
 
@@ -27,13 +31,15 @@ DtReportText::~DtReportText()
 {
 }
 
-DtReportText& DtReportText::operator=(const DtReportText& other)
+DtReportText&
+DtReportText::operator=(const DtReportText& other)
 {
     myElements = other.myElements;
     return *this;
 }
 
-DtReportText& DtReportText::operator=(DtReportText&& other) noexcept
+DtReportText&
+DtReportText::operator=(DtReportText&& other) noexcept
 {
     Elements taken(std::move(other.myElements)); // the other array may be a part of an element of this one
     myElements.swap(taken);
@@ -60,17 +66,20 @@ bool DtReportText::empty() const
     return myElements.empty();
 }
 
-DtReportText::Elements::const_reference DtReportText::operator[](std::size_t index) const
+DtReportText::Elements::const_reference
+DtReportText::operator[](std::size_t index) const
 {
     return myElements[index];
 }
 
-DtReportText::Elements::reference DtReportText::operator[](std::size_t index)
+DtReportText::Elements::reference
+DtReportText::operator[](std::size_t index)
 {
     return myElements[index];
 }
 
-const DtReportText::Elements& DtReportText::elements() const
+const DtReportText::Elements&
+DtReportText::elements() const
 {
     return myElements;
 }

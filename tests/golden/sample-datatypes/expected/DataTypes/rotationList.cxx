@@ -8,19 +8,23 @@
 #include "DataTypes/caseEnums.h"
 #include "DataTypes/rotation.h"
 
-DtRotationList::DtRotationList() : myElements(layout().kind == DtFixedArray ? layout().count : 0)
+DtRotationList::DtRotationList()
+    : myElements(layout().kind == DtFixedArray ? layout().count : 0)
 {
 }
 
-DtRotationList::DtRotationList(const Elements& elements) : myElements(elements)
+DtRotationList::DtRotationList(const Elements& elements)
+    : myElements(elements)
 {
 }
 
-DtRotationList::DtRotationList(const DtRotationList& other) : myElements(other.myElements)
+DtRotationList::DtRotationList(const DtRotationList& other)
+    : myElements(other.myElements)
 {
 }
 
-DtRotationList::DtRotationList(DtRotationList&& other) noexcept : myElements(std::move(other.myElements))
+DtRotationList::DtRotationList(DtRotationList&& other) noexcept
+    : myElements(std::move(other.myElements))
 {
 }
 
@@ -28,13 +32,15 @@ DtRotationList::~DtRotationList()
 {
 }
 
-DtRotationList& DtRotationList::operator=(const DtRotationList& other)
+DtRotationList&
+DtRotationList::operator=(const DtRotationList& other)
 {
     myElements = other.myElements;
     return *this;
 }
 
-DtRotationList& DtRotationList::operator=(DtRotationList&& other) noexcept
+DtRotationList&
+DtRotationList::operator=(DtRotationList&& other) noexcept
 {
     Elements taken(std::move(other.myElements)); // the other array may be a part of an element of this one
     myElements.swap(taken);
@@ -61,17 +67,20 @@ bool DtRotationList::empty() const
     return myElements.empty();
 }
 
-DtRotationList::Elements::const_reference DtRotationList::operator[](std::size_t index) const
+DtRotationList::Elements::const_reference
+DtRotationList::operator[](std::size_t index) const
 {
     return myElements[index];
 }
 
-DtRotationList::Elements::reference DtRotationList::operator[](std::size_t index)
+DtRotationList::Elements::reference
+DtRotationList::operator[](std::size_t index)
 {
     return myElements[index];
 }
 
-const DtRotationList::Elements& DtRotationList::elements() const
+const DtRotationList::Elements&
+DtRotationList::elements() const
 {
     return myElements;
 }

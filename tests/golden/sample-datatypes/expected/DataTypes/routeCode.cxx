@@ -7,19 +7,23 @@
 
 #include "DataTypes/caseEnums.h"
 
-DtRouteCode::DtRouteCode() : myElements(layout().kind == DtFixedArray ? layout().count : 0)
+DtRouteCode::DtRouteCode()
+    : myElements(layout().kind == DtFixedArray ? layout().count : 0)
 {
 }
 
-DtRouteCode::DtRouteCode(const Elements& elements) : myElements(elements)
+DtRouteCode::DtRouteCode(const Elements& elements)
+    : myElements(elements)
 {
 }
 
-DtRouteCode::DtRouteCode(const DtRouteCode& other) : myElements(other.myElements)
+DtRouteCode::DtRouteCode(const DtRouteCode& other)
+    : myElements(other.myElements)
 {
 }
 
-DtRouteCode::DtRouteCode(DtRouteCode&& other) noexcept : myElements(std::move(other.myElements))
+DtRouteCode::DtRouteCode(DtRouteCode&& other) noexcept
+    : myElements(std::move(other.myElements))
 {
 }
 
@@ -27,13 +31,15 @@ DtRouteCode::~DtRouteCode()
 {
 }
 
-DtRouteCode& DtRouteCode::operator=(const DtRouteCode& other)
+DtRouteCode&
+DtRouteCode::operator=(const DtRouteCode& other)
 {
     myElements = other.myElements;
     return *this;
 }
 
-DtRouteCode& DtRouteCode::operator=(DtRouteCode&& other) noexcept
+DtRouteCode&
+DtRouteCode::operator=(DtRouteCode&& other) noexcept
 {
     Elements taken(std::move(other.myElements)); // the other array may be a part of an element of this one
     myElements.swap(taken);
@@ -60,17 +66,20 @@ bool DtRouteCode::empty() const
     return myElements.empty();
 }
 
-DtRouteCode::Elements::const_reference DtRouteCode::operator[](std::size_t index) const
+DtRouteCode::Elements::const_reference
+DtRouteCode::operator[](std::size_t index) const
 {
     return myElements[index];
 }
 
-DtRouteCode::Elements::reference DtRouteCode::operator[](std::size_t index)
+DtRouteCode::Elements::reference
+DtRouteCode::operator[](std::size_t index)
 {
     return myElements[index];
 }
 
-const DtRouteCode::Elements& DtRouteCode::elements() const
+const DtRouteCode::Elements&
+DtRouteCode::elements() const
 {
     return myElements;
 }

@@ -7,19 +7,23 @@
 
 #include "DataTypes/caseEnums.h"
 
-DtSampleRun::DtSampleRun() : myElements(layout().kind == DtFixedArray ? layout().count : 0)
+DtSampleRun::DtSampleRun()
+    : myElements(layout().kind == DtFixedArray ? layout().count : 0)
 {
 }
 
-DtSampleRun::DtSampleRun(const Elements& elements) : myElements(elements)
+DtSampleRun::DtSampleRun(const Elements& elements)
+    : myElements(elements)
 {
 }
 
-DtSampleRun::DtSampleRun(const DtSampleRun& other) : myElements(other.myElements)
+DtSampleRun::DtSampleRun(const DtSampleRun& other)
+    : myElements(other.myElements)
 {
 }
 
-DtSampleRun::DtSampleRun(DtSampleRun&& other) noexcept : myElements(std::move(other.myElements))
+DtSampleRun::DtSampleRun(DtSampleRun&& other) noexcept
+    : myElements(std::move(other.myElements))
 {
 }
 
@@ -27,13 +31,15 @@ DtSampleRun::~DtSampleRun()
 {
 }
 
-DtSampleRun& DtSampleRun::operator=(const DtSampleRun& other)
+DtSampleRun&
+DtSampleRun::operator=(const DtSampleRun& other)
 {
     myElements = other.myElements;
     return *this;
 }
 
-DtSampleRun& DtSampleRun::operator=(DtSampleRun&& other) noexcept
+DtSampleRun&
+DtSampleRun::operator=(DtSampleRun&& other) noexcept
 {
     Elements taken(std::move(other.myElements)); // the other array may be a part of an element of this one
     myElements.swap(taken);
@@ -60,17 +66,20 @@ bool DtSampleRun::empty() const
     return myElements.empty();
 }
 
-DtSampleRun::Elements::const_reference DtSampleRun::operator[](std::size_t index) const
+DtSampleRun::Elements::const_reference
+DtSampleRun::operator[](std::size_t index) const
 {
     return myElements[index];
 }
 
-DtSampleRun::Elements::reference DtSampleRun::operator[](std::size_t index)
+DtSampleRun::Elements::reference
+DtSampleRun::operator[](std::size_t index)
 {
     return myElements[index];
 }
 
-const DtSampleRun::Elements& DtSampleRun::elements() const
+const DtSampleRun::Elements&
+DtSampleRun::elements() const
 {
     return myElements;
 }

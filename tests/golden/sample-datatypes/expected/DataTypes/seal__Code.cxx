@@ -7,19 +7,23 @@
 
 #include "DataTypes/caseEnums.h"
 
-DtSeal__Code::DtSeal__Code() : myElements(layout().kind == DtFixedArray ? layout().count : 0)
+DtSeal__Code::DtSeal__Code()
+    : myElements(layout().kind == DtFixedArray ? layout().count : 0)
 {
 }
 
-DtSeal__Code::DtSeal__Code(const Elements& elements) : myElements(elements)
+DtSeal__Code::DtSeal__Code(const Elements& elements)
+    : myElements(elements)
 {
 }
 
-DtSeal__Code::DtSeal__Code(const DtSeal__Code& other) : myElements(other.myElements)
+DtSeal__Code::DtSeal__Code(const DtSeal__Code& other)
+    : myElements(other.myElements)
 {
 }
 
-DtSeal__Code::DtSeal__Code(DtSeal__Code&& other) noexcept : myElements(std::move(other.myElements))
+DtSeal__Code::DtSeal__Code(DtSeal__Code&& other) noexcept
+    : myElements(std::move(other.myElements))
 {
 }
 
@@ -27,13 +31,15 @@ DtSeal__Code::~DtSeal__Code()
 {
 }
 
-DtSeal__Code& DtSeal__Code::operator=(const DtSeal__Code& other)
+DtSeal__Code&
+DtSeal__Code::operator=(const DtSeal__Code& other)
 {
     myElements = other.myElements;
     return *this;
 }
 
-DtSeal__Code& DtSeal__Code::operator=(DtSeal__Code&& other) noexcept
+DtSeal__Code&
+DtSeal__Code::operator=(DtSeal__Code&& other) noexcept
 {
     Elements taken(std::move(other.myElements)); // the other array may be a part of an element of this one
     myElements.swap(taken);
@@ -60,17 +66,20 @@ bool DtSeal__Code::empty() const
     return myElements.empty();
 }
 
-DtSeal__Code::Elements::const_reference DtSeal__Code::operator[](std::size_t index) const
+DtSeal__Code::Elements::const_reference
+DtSeal__Code::operator[](std::size_t index) const
 {
     return myElements[index];
 }
 
-DtSeal__Code::Elements::reference DtSeal__Code::operator[](std::size_t index)
+DtSeal__Code::Elements::reference
+DtSeal__Code::operator[](std::size_t index)
 {
     return myElements[index];
 }
 
-const DtSeal__Code::Elements& DtSeal__Code::elements() const
+const DtSeal__Code::Elements&
+DtSeal__Code::elements() const
 {
     return myElements;
 }

@@ -8,19 +8,23 @@
 #include "DataTypes/caseEnums.h"
 #include "DataTypes/signalEntry.h"
 
-DtSignalLog::DtSignalLog() : myElements(layout().kind == DtFixedArray ? layout().count : 0)
+DtSignalLog::DtSignalLog()
+    : myElements(layout().kind == DtFixedArray ? layout().count : 0)
 {
 }
 
-DtSignalLog::DtSignalLog(const Elements& elements) : myElements(elements)
+DtSignalLog::DtSignalLog(const Elements& elements)
+    : myElements(elements)
 {
 }
 
-DtSignalLog::DtSignalLog(const DtSignalLog& other) : myElements(other.myElements)
+DtSignalLog::DtSignalLog(const DtSignalLog& other)
+    : myElements(other.myElements)
 {
 }
 
-DtSignalLog::DtSignalLog(DtSignalLog&& other) noexcept : myElements(std::move(other.myElements))
+DtSignalLog::DtSignalLog(DtSignalLog&& other) noexcept
+    : myElements(std::move(other.myElements))
 {
 }
 
@@ -28,13 +32,15 @@ DtSignalLog::~DtSignalLog()
 {
 }
 
-DtSignalLog& DtSignalLog::operator=(const DtSignalLog& other)
+DtSignalLog&
+DtSignalLog::operator=(const DtSignalLog& other)
 {
     myElements = other.myElements;
     return *this;
 }
 
-DtSignalLog& DtSignalLog::operator=(DtSignalLog&& other) noexcept
+DtSignalLog&
+DtSignalLog::operator=(DtSignalLog&& other) noexcept
 {
     Elements taken(std::move(other.myElements)); // the other array may be a part of an element of this one
     myElements.swap(taken);
@@ -61,17 +67,20 @@ bool DtSignalLog::empty() const
     return myElements.empty();
 }
 
-DtSignalLog::Elements::const_reference DtSignalLog::operator[](std::size_t index) const
+DtSignalLog::Elements::const_reference
+DtSignalLog::operator[](std::size_t index) const
 {
     return myElements[index];
 }
 
-DtSignalLog::Elements::reference DtSignalLog::operator[](std::size_t index)
+DtSignalLog::Elements::reference
+DtSignalLog::operator[](std::size_t index)
 {
     return myElements[index];
 }
 
-const DtSignalLog::Elements& DtSignalLog::elements() const
+const DtSignalLog::Elements&
+DtSignalLog::elements() const
 {
     return myElements;
 }

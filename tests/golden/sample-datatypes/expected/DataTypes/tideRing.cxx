@@ -8,19 +8,23 @@
 #include "DataTypes/caseEnums.h"
 #include "DataTypes/tide16LE.h"
 
-DtTideRing::DtTideRing() : myElements(layout().kind == DtFixedArray ? layout().count : 0)
+DtTideRing::DtTideRing()
+    : myElements(layout().kind == DtFixedArray ? layout().count : 0)
 {
 }
 
-DtTideRing::DtTideRing(const Elements& elements) : myElements(elements)
+DtTideRing::DtTideRing(const Elements& elements)
+    : myElements(elements)
 {
 }
 
-DtTideRing::DtTideRing(const DtTideRing& other) : myElements(other.myElements)
+DtTideRing::DtTideRing(const DtTideRing& other)
+    : myElements(other.myElements)
 {
 }
 
-DtTideRing::DtTideRing(DtTideRing&& other) noexcept : myElements(std::move(other.myElements))
+DtTideRing::DtTideRing(DtTideRing&& other) noexcept
+    : myElements(std::move(other.myElements))
 {
 }
 
@@ -28,13 +32,15 @@ DtTideRing::~DtTideRing()
 {
 }
 
-DtTideRing& DtTideRing::operator=(const DtTideRing& other)
+DtTideRing&
+DtTideRing::operator=(const DtTideRing& other)
 {
     myElements = other.myElements;
     return *this;
 }
 
-DtTideRing& DtTideRing::operator=(DtTideRing&& other) noexcept
+DtTideRing&
+DtTideRing::operator=(DtTideRing&& other) noexcept
 {
     Elements taken(std::move(other.myElements)); // the other array may be a part of an element of this one
     myElements.swap(taken);
@@ -61,17 +67,20 @@ bool DtTideRing::empty() const
     return myElements.empty();
 }
 
-DtTideRing::Elements::const_reference DtTideRing::operator[](std::size_t index) const
+DtTideRing::Elements::const_reference
+DtTideRing::operator[](std::size_t index) const
 {
     return myElements[index];
 }
 
-DtTideRing::Elements::reference DtTideRing::operator[](std::size_t index)
+DtTideRing::Elements::reference
+DtTideRing::operator[](std::size_t index)
 {
     return myElements[index];
 }
 
-const DtTideRing::Elements& DtTideRing::elements() const
+const DtTideRing::Elements&
+DtTideRing::elements() const
 {
     return myElements;
 }

@@ -8,19 +8,23 @@
 #include "DataTypes/caseEnums.h"
 #include "DataTypes/trim24.h"
 
-DtTiltTable::DtTiltTable() : myElements(layout().kind == DtFixedArray ? layout().count : 0)
+DtTiltTable::DtTiltTable()
+    : myElements(layout().kind == DtFixedArray ? layout().count : 0)
 {
 }
 
-DtTiltTable::DtTiltTable(const Elements& elements) : myElements(elements)
+DtTiltTable::DtTiltTable(const Elements& elements)
+    : myElements(elements)
 {
 }
 
-DtTiltTable::DtTiltTable(const DtTiltTable& other) : myElements(other.myElements)
+DtTiltTable::DtTiltTable(const DtTiltTable& other)
+    : myElements(other.myElements)
 {
 }
 
-DtTiltTable::DtTiltTable(DtTiltTable&& other) noexcept : myElements(std::move(other.myElements))
+DtTiltTable::DtTiltTable(DtTiltTable&& other) noexcept
+    : myElements(std::move(other.myElements))
 {
 }
 
@@ -28,13 +32,15 @@ DtTiltTable::~DtTiltTable()
 {
 }
 
-DtTiltTable& DtTiltTable::operator=(const DtTiltTable& other)
+DtTiltTable&
+DtTiltTable::operator=(const DtTiltTable& other)
 {
     myElements = other.myElements;
     return *this;
 }
 
-DtTiltTable& DtTiltTable::operator=(DtTiltTable&& other) noexcept
+DtTiltTable&
+DtTiltTable::operator=(DtTiltTable&& other) noexcept
 {
     Elements taken(std::move(other.myElements)); // the other array may be a part of an element of this one
     myElements.swap(taken);
@@ -61,17 +67,20 @@ bool DtTiltTable::empty() const
     return myElements.empty();
 }
 
-DtTiltTable::Elements::const_reference DtTiltTable::operator[](std::size_t index) const
+DtTiltTable::Elements::const_reference
+DtTiltTable::operator[](std::size_t index) const
 {
     return myElements[index];
 }
 
-DtTiltTable::Elements::reference DtTiltTable::operator[](std::size_t index)
+DtTiltTable::Elements::reference
+DtTiltTable::operator[](std::size_t index)
 {
     return myElements[index];
 }
 
-const DtTiltTable::Elements& DtTiltTable::elements() const
+const DtTiltTable::Elements&
+DtTiltTable::elements() const
 {
     return myElements;
 }

@@ -8,19 +8,23 @@
 #include "DataTypes/caseEnums.h"
 #include "DataTypes/cargo__Item.h"
 
-DtCargo_Item_List::DtCargo_Item_List() : myElements(layout().kind == DtFixedArray ? layout().count : 0)
+DtCargo_Item_List::DtCargo_Item_List()
+    : myElements(layout().kind == DtFixedArray ? layout().count : 0)
 {
 }
 
-DtCargo_Item_List::DtCargo_Item_List(const Elements& elements) : myElements(elements)
+DtCargo_Item_List::DtCargo_Item_List(const Elements& elements)
+    : myElements(elements)
 {
 }
 
-DtCargo_Item_List::DtCargo_Item_List(const DtCargo_Item_List& other) : myElements(other.myElements)
+DtCargo_Item_List::DtCargo_Item_List(const DtCargo_Item_List& other)
+    : myElements(other.myElements)
 {
 }
 
-DtCargo_Item_List::DtCargo_Item_List(DtCargo_Item_List&& other) noexcept : myElements(std::move(other.myElements))
+DtCargo_Item_List::DtCargo_Item_List(DtCargo_Item_List&& other) noexcept
+    : myElements(std::move(other.myElements))
 {
 }
 
@@ -28,13 +32,15 @@ DtCargo_Item_List::~DtCargo_Item_List()
 {
 }
 
-DtCargo_Item_List& DtCargo_Item_List::operator=(const DtCargo_Item_List& other)
+DtCargo_Item_List&
+DtCargo_Item_List::operator=(const DtCargo_Item_List& other)
 {
     myElements = other.myElements;
     return *this;
 }
 
-DtCargo_Item_List& DtCargo_Item_List::operator=(DtCargo_Item_List&& other) noexcept
+DtCargo_Item_List&
+DtCargo_Item_List::operator=(DtCargo_Item_List&& other) noexcept
 {
     Elements taken(std::move(other.myElements)); // the other array may be a part of an element of this one
     myElements.swap(taken);
@@ -61,17 +67,20 @@ bool DtCargo_Item_List::empty() const
     return myElements.empty();
 }
 
-DtCargo_Item_List::Elements::const_reference DtCargo_Item_List::operator[](std::size_t index) const
+DtCargo_Item_List::Elements::const_reference
+DtCargo_Item_List::operator[](std::size_t index) const
 {
     return myElements[index];
 }
 
-DtCargo_Item_List::Elements::reference DtCargo_Item_List::operator[](std::size_t index)
+DtCargo_Item_List::Elements::reference
+DtCargo_Item_List::operator[](std::size_t index)
 {
     return myElements[index];
 }
 
-const DtCargo_Item_List::Elements& DtCargo_Item_List::elements() const
+const DtCargo_Item_List::Elements&
+DtCargo_Item_List::elements() const
 {
     return myElements;
 }

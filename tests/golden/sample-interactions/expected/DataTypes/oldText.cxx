@@ -7,19 +7,23 @@
 
 #include "DataTypes/caseEnums.h"
 
-DtOldText::DtOldText() : myElements(layout().kind == DtFixedArray ? layout().count : 0)
+DtOldText::DtOldText()
+    : myElements(layout().kind == DtFixedArray ? layout().count : 0)
 {
 }
 
-DtOldText::DtOldText(const Elements& elements) : myElements(elements)
+DtOldText::DtOldText(const Elements& elements)
+    : myElements(elements)
 {
 }
 
-DtOldText::DtOldText(const DtOldText& other) : myElements(other.myElements)
+DtOldText::DtOldText(const DtOldText& other)
+    : myElements(other.myElements)
 {
 }
 
-DtOldText::DtOldText(DtOldText&& other) noexcept : myElements(std::move(other.myElements))
+DtOldText::DtOldText(DtOldText&& other) noexcept
+    : myElements(std::move(other.myElements))
 {
 }
 
@@ -27,13 +31,15 @@ DtOldText::~DtOldText()
 {
 }
 
-DtOldText& DtOldText::operator=(const DtOldText& other)
+DtOldText&
+DtOldText::operator=(const DtOldText& other)
 {
     myElements = other.myElements;
     return *this;
 }
 
-DtOldText& DtOldText::operator=(DtOldText&& other) noexcept
+DtOldText&
+DtOldText::operator=(DtOldText&& other) noexcept
 {
     Elements taken(std::move(other.myElements)); // the other array may be a part of an element of this one
     myElements.swap(taken);
@@ -60,17 +66,20 @@ bool DtOldText::empty() const
     return myElements.empty();
 }
 
-DtOldText::Elements::const_reference DtOldText::operator[](std::size_t index) const
+DtOldText::Elements::const_reference
+DtOldText::operator[](std::size_t index) const
 {
     return myElements[index];
 }
 
-DtOldText::Elements::reference DtOldText::operator[](std::size_t index)
+DtOldText::Elements::reference
+DtOldText::operator[](std::size_t index)
 {
     return myElements[index];
 }
 
-const DtOldText::Elements& DtOldText::elements() const
+const DtOldText::Elements&
+DtOldText::elements() const
 {
     return myElements;
 }

@@ -7,19 +7,23 @@
 
 #include "DataTypes/caseEnums.h"
 
-DtPlain__Four::DtPlain__Four() : myElements(layout().kind == DtFixedArray ? layout().count : 0)
+DtPlain__Four::DtPlain__Four()
+    : myElements(layout().kind == DtFixedArray ? layout().count : 0)
 {
 }
 
-DtPlain__Four::DtPlain__Four(const Elements& elements) : myElements(elements)
+DtPlain__Four::DtPlain__Four(const Elements& elements)
+    : myElements(elements)
 {
 }
 
-DtPlain__Four::DtPlain__Four(const DtPlain__Four& other) : myElements(other.myElements)
+DtPlain__Four::DtPlain__Four(const DtPlain__Four& other)
+    : myElements(other.myElements)
 {
 }
 
-DtPlain__Four::DtPlain__Four(DtPlain__Four&& other) noexcept : myElements(std::move(other.myElements))
+DtPlain__Four::DtPlain__Four(DtPlain__Four&& other) noexcept
+    : myElements(std::move(other.myElements))
 {
 }
 
@@ -27,13 +31,15 @@ DtPlain__Four::~DtPlain__Four()
 {
 }
 
-DtPlain__Four& DtPlain__Four::operator=(const DtPlain__Four& other)
+DtPlain__Four&
+DtPlain__Four::operator=(const DtPlain__Four& other)
 {
     myElements = other.myElements;
     return *this;
 }
 
-DtPlain__Four& DtPlain__Four::operator=(DtPlain__Four&& other) noexcept
+DtPlain__Four&
+DtPlain__Four::operator=(DtPlain__Four&& other) noexcept
 {
     Elements taken(std::move(other.myElements)); // the other array may be a part of an element of this one
     myElements.swap(taken);
@@ -60,17 +66,20 @@ bool DtPlain__Four::empty() const
     return myElements.empty();
 }
 
-DtPlain__Four::Elements::const_reference DtPlain__Four::operator[](std::size_t index) const
+DtPlain__Four::Elements::const_reference
+DtPlain__Four::operator[](std::size_t index) const
 {
     return myElements[index];
 }
 
-DtPlain__Four::Elements::reference DtPlain__Four::operator[](std::size_t index)
+DtPlain__Four::Elements::reference
+DtPlain__Four::operator[](std::size_t index)
 {
     return myElements[index];
 }
 
-const DtPlain__Four::Elements& DtPlain__Four::elements() const
+const DtPlain__Four::Elements&
+DtPlain__Four::elements() const
 {
     return myElements;
 }

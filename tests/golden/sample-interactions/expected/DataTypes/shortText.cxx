@@ -7,19 +7,23 @@
 
 #include "DataTypes/caseEnums.h"
 
-DtShortText::DtShortText() : myElements(layout().kind == DtFixedArray ? layout().count : 0)
+DtShortText::DtShortText()
+    : myElements(layout().kind == DtFixedArray ? layout().count : 0)
 {
 }
 
-DtShortText::DtShortText(const Elements& elements) : myElements(elements)
+DtShortText::DtShortText(const Elements& elements)
+    : myElements(elements)
 {
 }
 
-DtShortText::DtShortText(const DtShortText& other) : myElements(other.myElements)
+DtShortText::DtShortText(const DtShortText& other)
+    : myElements(other.myElements)
 {
 }
 
-DtShortText::DtShortText(DtShortText&& other) noexcept : myElements(std::move(other.myElements))
+DtShortText::DtShortText(DtShortText&& other) noexcept
+    : myElements(std::move(other.myElements))
 {
 }
 
@@ -27,13 +31,15 @@ DtShortText::~DtShortText()
 {
 }
 
-DtShortText& DtShortText::operator=(const DtShortText& other)
+DtShortText&
+DtShortText::operator=(const DtShortText& other)
 {
     myElements = other.myElements;
     return *this;
 }
 
-DtShortText& DtShortText::operator=(DtShortText&& other) noexcept
+DtShortText&
+DtShortText::operator=(DtShortText&& other) noexcept
 {
     Elements taken(std::move(other.myElements)); // the other array may be a part of an element of this one
     myElements.swap(taken);
@@ -60,17 +66,20 @@ bool DtShortText::empty() const
     return myElements.empty();
 }
 
-DtShortText::Elements::const_reference DtShortText::operator[](std::size_t index) const
+DtShortText::Elements::const_reference
+DtShortText::operator[](std::size_t index) const
 {
     return myElements[index];
 }
 
-DtShortText::Elements::reference DtShortText::operator[](std::size_t index)
+DtShortText::Elements::reference
+DtShortText::operator[](std::size_t index)
 {
     return myElements[index];
 }
 
-const DtShortText::Elements& DtShortText::elements() const
+const DtShortText::Elements&
+DtShortText::elements() const
 {
     return myElements;
 }

@@ -8,19 +8,23 @@
 #include "DataTypes/caseEnums.h"
 #include "DataTypes/shortText.h"
 
-DtTugNames::DtTugNames() : myElements(layout().kind == DtFixedArray ? layout().count : 0)
+DtTugNames::DtTugNames()
+    : myElements(layout().kind == DtFixedArray ? layout().count : 0)
 {
 }
 
-DtTugNames::DtTugNames(const Elements& elements) : myElements(elements)
+DtTugNames::DtTugNames(const Elements& elements)
+    : myElements(elements)
 {
 }
 
-DtTugNames::DtTugNames(const DtTugNames& other) : myElements(other.myElements)
+DtTugNames::DtTugNames(const DtTugNames& other)
+    : myElements(other.myElements)
 {
 }
 
-DtTugNames::DtTugNames(DtTugNames&& other) noexcept : myElements(std::move(other.myElements))
+DtTugNames::DtTugNames(DtTugNames&& other) noexcept
+    : myElements(std::move(other.myElements))
 {
 }
 
@@ -28,13 +32,15 @@ DtTugNames::~DtTugNames()
 {
 }
 
-DtTugNames& DtTugNames::operator=(const DtTugNames& other)
+DtTugNames&
+DtTugNames::operator=(const DtTugNames& other)
 {
     myElements = other.myElements;
     return *this;
 }
 
-DtTugNames& DtTugNames::operator=(DtTugNames&& other) noexcept
+DtTugNames&
+DtTugNames::operator=(DtTugNames&& other) noexcept
 {
     Elements taken(std::move(other.myElements)); // the other array may be a part of an element of this one
     myElements.swap(taken);
@@ -61,17 +67,20 @@ bool DtTugNames::empty() const
     return myElements.empty();
 }
 
-DtTugNames::Elements::const_reference DtTugNames::operator[](std::size_t index) const
+DtTugNames::Elements::const_reference
+DtTugNames::operator[](std::size_t index) const
 {
     return myElements[index];
 }
 
-DtTugNames::Elements::reference DtTugNames::operator[](std::size_t index)
+DtTugNames::Elements::reference
+DtTugNames::operator[](std::size_t index)
 {
     return myElements[index];
 }
 
-const DtTugNames::Elements& DtTugNames::elements() const
+const DtTugNames::Elements&
+DtTugNames::elements() const
 {
     return myElements;
 }

@@ -267,7 +267,7 @@ void TestCustomCodeGui::contextMenuPutsOriginalTextBack()
     QCOMPARE(action->text(), QString("Original Text"));
     action->trigger();
     QVERIFY(encoder().text().contains("DtWriteValue(writer, state.heading()") &&
-            decoder().text().contains("state.setHeading(value)"));
+            decoder().text().contains("state.setHeading(std::move(value))"));
     QCOMPARE(marks(), QString("*..."));
     encoder().undo();
     QCOMPARE(encoder().text(), QString("own"));

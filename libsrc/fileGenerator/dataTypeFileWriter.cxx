@@ -98,6 +98,10 @@ void DtDataTypeFileWriter::setCurrentClass(const DtString& className, const std:
     setCurrentAttribute(nullptr); // it points into the list that goes
     myClassName = className;
     myAttributes = attributes;
+    myMutableMembers.clear();
+    for (const DtAttribute& member : myAttributes)
+        if (DtFirstCharToLower(member.name()).startsWith("mutable"))
+            myMutableMembers.push_back(member.name());
     namesChanged();
 }
 
@@ -117,13 +121,8 @@ DtString DtDataTypeFileWriter::mutableName() const
 {
     DtCCompatibleNames names = namesSoFar();
     const DtString name = "mutable" + accessorNamesOf(currentAttribute()->name(), names).setter;
-    const auto isCalledSo = [&](const DtAttribute& member)
-    {
-        return DtFirstCharToLower(member.name()).startsWith("mutable") &&
-               accessorNamesOf(member.name(), names).getter == name;
-    };
-    const std::vector<DtAttribute>& members = attributeList();
-    return std::any_of(members.begin(), members.end(), isCalledSo) ? DtString() : name;
+    const auto isCalledSo = [&](const DtString& member) { return accessorNamesOf(member, names).getter == name; };
+    return std::any_of(myMutableMembers.begin(), myMutableMembers.end(), isCalledSo) ? DtString() : name;
 }
 
 void DtDataTypeFileWriter::writeClassDatatypes(std::istream& stream)

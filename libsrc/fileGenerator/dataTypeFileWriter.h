@@ -60,6 +60,7 @@ private:
     bool isOwnClass(const DtString& type) const;
 
     DtCCompatibleNames& myNames;
+    std::vector<DtString> myMutableMembers; // names of the current class that may be those of accessors that change
     std::map<const DtOMTNode*, DtString> myDocumentations; // of the compiled datatypes
     DtTokenValues<DtDataTypeFileWriter> myHeadTokens;
     DtTokenValues<DtDataTypeFileWriter> myMemberTokens;

@@ -167,7 +167,6 @@ DtString DtCustomCodeTokens::wireForm() const
     if (isEnumeration() || (value == DtToolkitValue::None && isOfModel))
         return "DtWireForm()";
     const DtValueForm form = valueForm();
-    const DtString call =
-        value == DtToolkitValue::None ? DtString() : wireFormCall(form, value != DtToolkitValue::Number);
+    const DtString call = wireFormCall(form, value);
     return call.isEmpty() ? wireFormOfNames(datatype, representation, form) : call;
 }

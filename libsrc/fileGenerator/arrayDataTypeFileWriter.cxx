@@ -7,6 +7,7 @@
 #include "fileGenerator/netTypeTraits.h"
 #include "fileGenerator/numberForm.h"
 #include "fileGenerator/settings.h"
+#include "fileGenerator/valueForm.h"
 #include "foundation/perRun.h"
 #include "foundation/stringUtils.h"
 #include "foundation/warningRules.h"
@@ -59,6 +60,7 @@ struct DtArrayDataTypeFileWriter::DtTokens
             {"<!ClassPrefix!>",       [](const Writer&) { return DtSettings::instance().cpp.prefixName; }             },
             {"<!ArrayElementCount!>", [](const Writer& w) { return DtString(elementCountOf(w.currentCardinality())); }},
             {"<!ArrayEncoding!>",     [](const Writer& w) { return w.currentEncoding(); }                             },
+            {"<!ArrayLayout!>",       [](const Writer& w) { return w.currentLayout(); }                               },
         };
         static const DtTokenTable<Writer> theTable(theRows);
         return theTable;
@@ -117,6 +119,14 @@ DtString DtArrayDataTypeFileWriter::encodingOrToken() const
                   node != nullptr ? DtSubject::datatype(node->getName()) : DtSubject::none(),
                   "Warning: Cannot find cardinality of " + myClassName + "\n");
     return theEncodingToken;
+}
+
+// The encoding goes by the kind of array ahead of the model's word, and is warned about as where a template names it.
+DtString DtArrayDataTypeFileWriter::currentLayout() const
+{
+    const DtString encoding = encodingOrToken();
+    const bool isTold = encoding != theEncodingToken;
+    return arrayLayoutCall(isTold ? encoding : currentEncoding(), elementCountOf(currentCardinality()));
 }
 
 const DtArrayDatatypeNode* DtArrayDataTypeFileWriter::currentNode() const

@@ -26,6 +26,7 @@ private:
     const DtArrayDatatypeNode* currentNode() const;
     DtString currentCardinality() const;
     DtString currentEncoding() const; // as the model names it
+    DtString currentLayout() const;
 
     DtString myEncoding;
 

@@ -166,9 +166,7 @@ DtString wireFormOf(const DtAttribute& attribute)
     if (isOne && (isOfDatatypeClass(attribute) || isOfEnumerationsHeader(attribute)))
         return "DtWireForm()";
     const DtValueForm form = valueFormOf(attribute);
-    const DtToolkitValue kind = toolkitValueOf(withoutVector(attribute.type()));
-    const DtString call =
-        kind == DtToolkitValue::None ? DtString() : wireFormCall(form, !isOne || kind != DtToolkitValue::Number);
+    const DtString call = wireFormCall(form, toolkitValueOf(withoutVector(attribute.type())), isOne);
     return call.isEmpty() ? wireFormOfNames(datatype, representation, form) : call;
 }
 

@@ -15,7 +15,7 @@ struct DtArrayRow
 {
     const char* encoding;
     DtArrayLength length;
-    const char* toolkitKind; // empty for arrays without a wire form
+    const char* toolkitKind;
 };
 const DtArrayRow theArrays[] = {
     {"",                       DtArrayLength::Open,  "DtVariableArray"      },
@@ -26,8 +26,8 @@ const DtArrayRow theArrays[] = {
     {"RPRnullTerminatedArray", DtArrayLength::Open,  "DtNullTerminatedArray"},
     {"HLAlengthlessVarArray",  DtArrayLength::Open,  "DtLengthlessArray"    },
     {"RPRlengthlessArray",     DtArrayLength::Open,  "DtLengthlessArray"    },
-    {"HLAbitArray",            DtArrayLength::None,  ""                     },
-    {"BitArray",               DtArrayLength::None,  ""                     },
+    {"HLAbitArray",            DtArrayLength::None,  "DtUnknownArray"       },
+    {"BitArray",               DtArrayLength::None,  "DtUnknownArray"       },
 };
 
 // The smallest power of two that is not below the length of a number.
@@ -195,4 +195,18 @@ DtString toolkitKindOfArray(const DtString& encoding)
         if (encoding == row.encoding)
             return row.toolkitKind;
     return DtString();
+}
+
+int paddingUnitOf(const DtString& encoding)
+{
+    constexpr int theBound = 100000; // far beyond any number of bits
+    const std::string& text = encoding.stdString();
+    const std::size_t start = text.find("addingTo");
+    if (start == std::string::npos)
+        return 0;
+    std::size_t at = std::min(text.find_first_of("0123456789", start), text.size());
+    int bits = 0;
+    for (; at < text.size() && DtIsDigit(text[at]) && bits < theBound; ++at)
+        bits = bits * 10 + (text[at] - '0');
+    return bits % 8 == 0 ? bits / 8 : 0;
 }

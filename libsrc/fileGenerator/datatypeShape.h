@@ -49,8 +49,12 @@ enum class DtArrayLength
 };
 DtArrayLength lengthOfArray(const DtString& encoding, int elementCount);
 
-// What the toolkit calls the kind of array that an encoding names, such as "DtFixedArray"; empty for encodings without
-// a kind, and for those whose kind the number of elements or a number in the name decides.
+// What the toolkit calls the kind of array that an encoding names, such as "DtFixedArray"; empty for those whose kind
+// the number of elements or a number in the name decides.
 DtString toolkitKindOfArray(const DtString& encoding);
+
+// The octets whose multiple a padding array fills the enclosing record up to, from the bits in a name such as
+// "RPRpaddingTo32Array"; 0 for other encodings, and for bits that are no whole octets.
+int paddingUnitOf(const DtString& encoding);
 
 #endif

@@ -22,8 +22,10 @@ DtString layoutCall(const DtString& argument)
 }
 } // namespace
 
-DtString wireFormCall(const DtValueForm& form, bool isArray)
+DtString wireFormCall(const DtValueForm& form, DtToolkitValue value, bool isOne)
 {
+    if (value == DtToolkitValue::None)
+        return DtString();
     if (!form.layout.isEmpty())
         return layoutCall(form.layout);
     if (form.number.octets == 0)
@@ -35,11 +37,32 @@ DtString wireFormCall(const DtValueForm& form, bool isArray)
     DtString call = "DtWireForm::";
     if (isFixed)
         call += "fixedArray(" + DtString(form.count) + ", ";
-    else if (isArray || kind != "DtVariableArray")
+    else if (!isOne || value != DtToolkitValue::Number || kind != "DtVariableArray")
         call += "array(" + kind + ", ";
     else
         call += "number(";
     return call + DtString(form.number.octets) + (form.number.isLittleEndian ? ", DtLittleEndian)" : ")");
+}
+
+DtString arrayLayoutCall(const DtString& encoding, int elementCount)
+{
+    const auto layout = [](const char* kind, int number)
+    { return "DtArrayLayout(" + DtString(kind) + ", " + DtString(number) + ")"; };
+    if (const int unit = paddingUnitOf(encoding))
+        return layout("DtPaddingArray", unit);
+    DtString kind = toolkitKindOfArray(encoding);
+    if (kind.isEmpty())
+        kind = elementCount > 0 ? "DtFixedArray" : "DtLengthlessArray";
+    if (kind != "DtFixedArray")
+        return "DtArrayLayout(" + kind + ")";
+    return elementCount < 0 ? DtString("DtArrayLayout(DtUnknownArray)") : layout("DtFixedArray", elementCount);
+}
+
+DtString toolkitKindOfVariant(const DtString& encoding)
+{
+    if (encoding == "RPRextendedVariantRecord")
+        return "DtExtendedVariant";
+    return encoding == "HLAextendableVariantRecord" ? "DtExtendableVariant" : "DtPlainVariant";
 }
 
 DtString wireFormOfNames(const DtString& datatype, const DtString& representation, const DtValueForm& form)

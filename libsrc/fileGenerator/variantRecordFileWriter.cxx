@@ -8,6 +8,7 @@
 #include "fileGenerator/memberTypes.h"
 #include "fileGenerator/netTypeTraits.h"
 #include "fileGenerator/numberForm.h"
+#include "fileGenerator/valueForm.h"
 #include "foundation/perRun.h"
 #include "foundation/stringUtils.h"
 #include "foundation/warningRules.h"
@@ -29,6 +30,7 @@ struct DtVariantRecordFileWriter::DtTokens
             {"<!ClassDiscriminantName!>", [](const Writer& w) { return w.discriminantName(); }                            },
             {"<!ClassDiscriminantType!>", [](const Writer& w) { return w.discriminantType(); }                            },
             {"<!ClassEncoding!>",         [](const Writer& w) { return literalText(w.currentEncoding()); }                },
+            {"<!ClassVariantKind!>",      [](const Writer& w) { return toolkitKindOfVariant(w.currentEncoding()); }       },
             {"<!AlternativeSelector!>",   [](const Writer& w) { return literalText(w.currentSelector()); }                },
         };
         static const DtTokenTable<Writer> theTable(theRows);

@@ -86,6 +86,7 @@ private Q_SLOTS:
     void encodingOfAnArray();
     void givenEncodingGoesFirst();
     void unknownKindIsWarnedAboutOnlyWhereAskedFor();
+    void layoutGoesByTheKindOrElseByTheModelsEncoding();
     void encodingWithoutDatatypeStays();
     void tokenArrayHasNegativeCardinality();
     void prefixTokenOfArrays();
@@ -400,6 +401,24 @@ void TestDataTypeFileWriters::unknownKindIsWarnedAboutOnlyWhereAskedFor()
     QCOMPARE(warnings.text(), QString("Warning: Cannot find cardinality of DtDwBits\n"));
 }
 
+void TestDataTypeFileWriters::layoutGoesByTheKindOrElseByTheModelsEncoding()
+{
+    const RunSettings settings;
+    DtOMTTree tree;
+    DtArrayDatatypeNode node = array("DwArray", "DwByte", "HLAvariableArray", "3");
+    DtArrayDatatypeNode bits = array("DwBits", "DwByte", "HLAbitArray", "3");
+    ArrayProbe writer("", ""), padding("", "", "RPRpaddingTo32Array"), unknown("", "");
+    writer.compileAttributes(&node, &tree);
+    padding.compileAttributes(&node, &tree);
+    unknown.compileAttributes(&bits, &tree);
+    DtCapture warnings(DtWarn);
+    QCOMPARE(writer.expand("<#ClassDatatypes><!ArrayLayout!><#>"), QString("DtArrayLayout(DtVariableArray)"));
+    QCOMPARE(padding.expand("<#ClassDatatypes><!ArrayLayout!><#>"), QString("DtArrayLayout(DtPaddingArray, 4)"));
+    QCOMPARE(warnings.text(), QString());
+    QCOMPARE(unknown.expand("<#ClassDatatypes><!ArrayLayout!><#>"), QString("DtArrayLayout(DtUnknownArray)"));
+    QCOMPARE(warnings.text(), QString("Warning: Cannot find cardinality of DtDwBits\n"));
+}
+
 void TestDataTypeFileWriters::encodingWithoutDatatypeStays()
 {
     const RunSettings settings;
@@ -646,7 +665,8 @@ void TestDataTypeFileWriters::knownTokensOfTheFamilies()
                                               "<!LocalTypeIsNotEncodeable!> <!LocalTypeHasNoCoding!> "
                                               "<!MyHeaderInclude!> <!ClassIdentifier!> <!AttributeMutableName!>"));
     QCOMPARE(own(ArrayProbe("", "")),
-             QString("<!MyEncoding!> <!ClassPrefix!> <!ArrayElementCount!> <!ArrayEncoding!> <!TokenCardinality!> "
+             QString("<!MyEncoding!> <!ClassPrefix!> <!ArrayElementCount!> <!ArrayEncoding!> <!ArrayLayout!> "
+                     "<!TokenCardinality!> "
                      "<!LocalTypeIsNotEncodeable!> <!LocalTypeHasNoCoding!> <!MyHeaderInclude!> <!ClassIdentifier!> "
                      "<!AttributeMutableName!>"));
 }

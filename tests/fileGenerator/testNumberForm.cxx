@@ -5,7 +5,6 @@
 #include "fileGenerator/nameClashes.h"
 #include "fileGenerator/numberForm.h"
 #include "fileGenerator/simpleDataTypeFileWriter.h"
-#include "fileGenerator/valueForm.h"
 #include "omtReader/arrayDatatypeNode.h"
 #include "omtReader/simpleDatatypeNode.h"
 #include "registerTest.h"
@@ -51,9 +50,6 @@ private Q_SLOTS:
     void dimensionsAreMultiplied_data();
     void dimensionsAreMultiplied();
     void tokensGiveTheForm();
-    void callsNameTheLayout_data();
-    void callsNameTheLayout();
-    void layoutsOfRecordsAreWrapped();
     void simpleTypeHasTheNumberOfItsRepresentation();
     void arrayHasCountAndEncodingOfTheModel();
     void literalTextIsEscaped();
@@ -219,68 +215,6 @@ void TestNumberForm::tokensGiveTheForm()
     other.setDatatype("NfNowhere");
     writer.setCurrentAttribute(&other);
     QCOMPARE(writer.decode(line), QString("-1 0 0"));
-}
-
-void TestNumberForm::callsNameTheLayout_data()
-{
-    QTest::addColumn<QString>("encoding");
-    QTest::addColumn<int>("count");
-    QTest::addColumn<int>("octets");
-    QTest::addColumn<bool>("isArray");
-    QTest::addColumn<QString>("call");
-    const struct
-    {
-        const char *name, *encoding;
-        int count, octets;
-        bool isArray;
-        const char* call;
-    } theRows[] = {
-        {"number",           "HLAvariableArray",       -1, 4, false, "DtWireForm::number(4)"                      },
-        {"text",             "HLAvariableArray",       -1, 1, true,  "DtWireForm::array(DtVariableArray, 1)"      },
-        {"nothing said",     "",                       -1, 2, true,  "DtWireForm::array(DtVariableArray, 2)"      },
-        {"terminated",       "RPRnullTerminatedArray", -1, 1, true,  "DtWireForm::array(DtNullTerminatedArray, 1)"},
-        {"without length",   "RPRlengthlessArray",     -1, 1, true,  "DtWireForm::array(DtLengthlessArray, 1)"    },
-        {"fixed",            "HLAfixedArray",          11, 1, true,  "DtWireForm::fixedArray(11, 1)"              },
-        {"fixed but open",   "HLAfixedArray",          -1, 1, true,  ""                                           },
-        {"padding",          "RPRpaddingTo32Array",    -1, 1, true,  ""                                           },
-        {"bits",             "HLAbitArray",            8,  1, true,  ""                                           },
-        {"unknown encoding", "Something",              4,  1, true,  ""                                           },
-        {"unknown length",   "HLAvariableArray",       -1, 0, false, ""                                           },
-    };
-    for (const auto& row : theRows)
-        QTest::newRow(row.name) << row.encoding << row.count << row.octets << row.isArray << row.call;
-}
-
-void TestNumberForm::callsNameTheLayout()
-{
-    QFETCH(QString, encoding);
-    QFETCH(int, count);
-    QFETCH(int, octets);
-    QFETCH(bool, isArray);
-    QFETCH(QString, call);
-    DtValueForm form;
-    form.encoding = DtString(encoding.toStdString());
-    form.count = count;
-    form.number.octets = octets;
-    QCOMPARE(QString(wireFormCall(form, isArray).c_str()), call);
-    form.number.isLittleEndian = true;
-    if (!call.isEmpty())
-        QCOMPARE(QString(wireFormCall(form, isArray).c_str()), call.chopped(1) + ", DtLittleEndian)");
-}
-
-void TestNumberForm::layoutsOfRecordsAreWrapped()
-{
-    DtValueForm form;
-    form.layout = ", &DtWireMisfit::theLayout";
-    QCOMPARE(QString(wireFormCall(form, false).c_str()), QString("DtWireForm::record(&DtWireMisfit::theLayout)"));
-    form.layout = ",\n        &DtWireRecordOf<8, DtWirePart<0, 0, 8>, DtWirePart<1, 8, 8>>::theLayout";
-    QCOMPARE(QString(wireFormCall(form, false).c_str()),
-             QString("DtWireForm::record(&DtWireRecordOf<8, DtWirePart<0, 0, 8>, DtWirePart<1, 8, 8>>::theLayout)"));
-    form.layout =
-        ",\n        &DtWireRecordOf<8, DtWirePart<0, 0, 8>, DtWirePart<1, 8, 8>, DtWirePart<2, 16, 8>>::theLayout";
-    QCOMPARE(QString(wireFormCall(form, false).c_str()),
-             QString("DtWireForm::record(&DtWireRecordOf<8,\n            DtWirePart<0, 0, 8>,\n            "
-                     "DtWirePart<1, 8, 8>,\n            DtWirePart<2, 16, 8>>::theLayout)"));
 }
 
 void TestNumberForm::simpleTypeHasTheNumberOfItsRepresentation()

@@ -490,6 +490,7 @@ void TestRecordFileWriters::selectorStandsAsTheModelHasIt()
     });
     node->setEncoding("Rw\"Record\"");
     writer.compileAttributes(node, &tree);
+    QCOMPARE(writer.expand("<#ClassDatatypes><!ClassVariantKind!><#>"), QString("DtPlainVariant"));
     QCOMPARE(writer.expand("<#ClassDatatypes><!ClassEncoding!>: <#Attributes><!AlternativeSelector!>; <#>"
                            "<#ValuelessAlternatives><!AlternativeSelector!>, <#><!AlternativeSelector!><#>"),
              QString("Rw\\\"Record\\\": [F-16 .. \\\"B\\\"]; C-2, D, "));
@@ -786,10 +787,12 @@ void TestRecordFileWriters::knownTokensOfTheRecords()
              QString("<!ClassNetName!> <!ClassFixedOctets!> <!ClassFixedBoundary!> <!NetTypeIsVariableSize!> "
                      "<!NetTypeIsVariantRecord!> "
                      "<!LocalTypeIsNotEncodeable!> <!LocalTypeHasNoCoding!> <!MyHeaderInclude!> <!ClassIdentifier!>"));
-    QCOMPARE(own(VariantProbe("", ""), 11),
-             QString("<!ClassNetName!> <!ClassDiscriminantName!> <!ClassDiscriminantType!> <!ClassEncoding!> "
-                     "<!AlternativeSelector!> <!CurrentDiscriminantEnumerator!> <!NetTypeIsVariantRecord!> "
-                     "<!LocalTypeIsNotEncodeable!> <!LocalTypeHasNoCoding!> <!MyHeaderInclude!> <!ClassIdentifier!>"));
+    QCOMPARE(
+        own(VariantProbe("", ""), 12),
+        QString(
+            "<!ClassNetName!> <!ClassDiscriminantName!> <!ClassDiscriminantType!> <!ClassEncoding!> "
+            "<!ClassVariantKind!> <!AlternativeSelector!> <!CurrentDiscriminantEnumerator!> <!NetTypeIsVariantRecord!> "
+            "<!LocalTypeIsNotEncodeable!> <!LocalTypeHasNoCoding!> <!MyHeaderInclude!> <!ClassIdentifier!>"));
     QCOMPARE(own(ComplexProbe("", ""), 7),
              QString("<!ArrayFileToInclude!> <!DatatypeArrayName!> <!NonDtDatatypeArrayName!> <!IsBasicType!> "
                      "<!OctetBoundary!> <!MyHeaderInclude!> <!ClassIdentifier!>"));

@@ -15,13 +15,6 @@ enum DtVariantKind : int
     DtExtendableVariant // length in octets, and the alternative at a multiple of 8
 };
 
-inline DtVariantKind DtVariantKindOf(const char* encoding)
-{
-    if (DtTextIs(encoding, "RPRextendedVariantRecord"))
-        return DtExtendedVariant;
-    return DtTextIs(encoding, "HLAextendableVariantRecord") ? DtExtendableVariant : DtPlainVariant;
-}
-
 // The number that a discriminant selects with; classes of numbers tell theirs.
 template <class Discriminant>
 typename std::enable_if<!std::is_class<Discriminant>::value, DtInt64>::type

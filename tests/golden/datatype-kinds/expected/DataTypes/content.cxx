@@ -135,7 +135,7 @@ DtWireForm DtContent::Coding::discriminantForm()
 
 DtVariantKind DtContent::Coding::kind()
 {
-    return DtVariantKindOf("HLAvariantRecord");
+    return DtPlainVariant;
 }
 
 const DtWireForm& DtContent::Coding::formOf(unsigned int alternative)

@@ -137,7 +137,7 @@ unsigned int DtRow::octetBoundary(const DtWireTrail* outer)
 // The encoding that the model names, or that of the kind of array.
 DtArrayLayout DtRow::layout()
 {
-    return DtLayoutOf(DtWireForm("", "", R"qx(HLAfixedArray)qx", 3));
+    return DtArrayLayout(DtFixedArray, 3);
 }
 
 DtWireForm DtRow::elementForm()

@@ -139,7 +139,7 @@ unsigned int DtQxSeeds::octetBoundary(const DtWireTrail* outer)
 // The encoding that the model names, or that of the kind of array.
 DtArrayLayout DtQxSeeds::layout()
 {
-    return DtLayoutOf(DtWireForm("", "", R"qx(HLAvariableArray)qx", -1));
+    return DtArrayLayout(DtVariableArray);
 }
 
 DtWireForm DtQxSeeds::elementForm()

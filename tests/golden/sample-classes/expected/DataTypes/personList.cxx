@@ -137,7 +137,7 @@ unsigned int DtPersonList::octetBoundary(const DtWireTrail* outer)
 // The encoding that the model names, or that of the kind of array.
 DtArrayLayout DtPersonList::layout()
 {
-    return DtLayoutOf(DtWireForm("", "", R"qx(HLAvariableArray)qx", -1));
+    return DtArrayLayout(DtVariableArray);
 }
 
 DtWireForm DtPersonList::elementForm()

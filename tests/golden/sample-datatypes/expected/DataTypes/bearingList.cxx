@@ -136,7 +136,7 @@ unsigned int DtBearingList::octetBoundary(const DtWireTrail* outer)
 // The encoding that the model names, or that of the kind of array.
 DtArrayLayout DtBearingList::layout()
 {
-    return DtLayoutOf(DtWireForm("", "", R"qx(HLAvariableArray)qx", -1));
+    return DtArrayLayout(DtVariableArray);
 }
 
 DtWireForm DtBearingList::elementForm()

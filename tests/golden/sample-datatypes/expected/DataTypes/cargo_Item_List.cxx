@@ -137,7 +137,7 @@ unsigned int DtCargo_Item_List::octetBoundary(const DtWireTrail* outer)
 // The encoding that the model names, or that of the kind of array.
 DtArrayLayout DtCargo_Item_List::layout()
 {
-    return DtLayoutOf(DtWireForm("", "", R"qx(HLAvariableArray)qx", -1));
+    return DtArrayLayout(DtVariableArray);
 }
 
 DtWireForm DtCargo_Item_List::elementForm()

@@ -136,7 +136,7 @@ unsigned int DtDepthGrid::octetBoundary(const DtWireTrail* outer)
 // The encoding that the model names, or that of the kind of array.
 DtArrayLayout DtDepthGrid::layout()
 {
-    return DtLayoutOf(DtWireForm("", "", R"qx(HLAfixedArray)qx", 12));
+    return DtArrayLayout(DtFixedArray, 12);
 }
 
 DtWireForm DtDepthGrid::elementForm()

@@ -136,7 +136,7 @@ unsigned int DtDoorStates::octetBoundary(const DtWireTrail* outer)
 // The encoding that the model names, or that of the kind of array.
 DtArrayLayout DtDoorStates::layout()
 {
-    return DtLayoutOf(DtWireForm("", "", R"qx(HLAfixedArray)qx", 3));
+    return DtArrayLayout(DtFixedArray, 3);
 }
 
 DtWireForm DtDoorStates::elementForm()

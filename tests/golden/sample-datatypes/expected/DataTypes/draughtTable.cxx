@@ -136,7 +136,7 @@ unsigned int DtDraughtTable::octetBoundary(const DtWireTrail* outer)
 // The encoding that the model names, or that of the kind of array.
 DtArrayLayout DtDraughtTable::layout()
 {
-    return DtLayoutOf(DtWireForm("", "", R"qx(HLAfixedArray)qx", 3));
+    return DtArrayLayout(DtFixedArray, 3);
 }
 
 DtWireForm DtDraughtTable::elementForm()

@@ -145,7 +145,7 @@ DtWireForm DtEquipment::Coding::discriminantForm()
 
 DtVariantKind DtEquipment::Coding::kind()
 {
-    return DtVariantKindOf("HLAextendableVariantRecord");
+    return DtExtendableVariant;
 }
 
 const DtWireForm& DtEquipment::Coding::formOf(unsigned int alternative)

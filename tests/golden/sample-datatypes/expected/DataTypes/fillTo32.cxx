@@ -137,7 +137,7 @@ unsigned int DtFillTo32::octetBoundary(const DtWireTrail* outer)
 // The encoding that the model names, or that of the kind of array.
 DtArrayLayout DtFillTo32::layout()
 {
-    return DtLayoutOf(DtWireForm("", "", R"qx(RPRpaddingTo32Array)qx", -1));
+    return DtArrayLayout(DtPaddingArray, 4);
 }
 
 DtWireForm DtFillTo32::elementForm()

@@ -137,7 +137,7 @@ unsigned int DtFillTo64::octetBoundary(const DtWireTrail* outer)
 // The encoding that the model names, or that of the kind of array.
 DtArrayLayout DtFillTo64::layout()
 {
-    return DtLayoutOf(DtWireForm("", "", R"qx(RPRpaddingTo64Array)qx", -1));
+    return DtArrayLayout(DtPaddingArray, 8);
 }
 
 DtWireForm DtFillTo64::elementForm()

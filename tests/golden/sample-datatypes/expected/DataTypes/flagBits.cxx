@@ -136,7 +136,7 @@ unsigned int DtFlagBits::octetBoundary(const DtWireTrail* outer)
 // The encoding that the model names, or that of the kind of array.
 DtArrayLayout DtFlagBits::layout()
 {
-    return DtLayoutOf(DtWireForm("", "", R"qx(HLAbitArray)qx", -1));
+    return DtArrayLayout(DtUnknownArray);
 }
 
 DtWireForm DtFlagBits::elementForm()

@@ -137,7 +137,7 @@ unsigned int DtHoldTable::octetBoundary(const DtWireTrail* outer)
 // The encoding that the model names, or that of the kind of array.
 DtArrayLayout DtHoldTable::layout()
 {
-    return DtLayoutOf(DtWireForm("", "", R"qx(HLAfixedArray)qx", 4));
+    return DtArrayLayout(DtFixedArray, 4);
 }
 
 DtWireForm DtHoldTable::elementForm()

@@ -145,7 +145,7 @@ DtWireForm DtInspection::Coding::discriminantForm()
 
 DtVariantKind DtInspection::Coding::kind()
 {
-    return DtVariantKindOf("RPRextendedVariantRecord");
+    return DtExtendedVariant;
 }
 
 const DtWireForm& DtInspection::Coding::formOf(unsigned int alternative)

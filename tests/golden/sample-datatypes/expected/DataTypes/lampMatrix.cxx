@@ -136,7 +136,7 @@ unsigned int DtLampMatrix::octetBoundary(const DtWireTrail* outer)
 // The encoding that the model names, or that of the kind of array.
 DtArrayLayout DtLampMatrix::layout()
 {
-    return DtLayoutOf(DtWireForm("", "", R"qx(HLAfixedArray)qx", 6));
+    return DtArrayLayout(DtFixedArray, 6);
 }
 
 DtWireForm DtLampMatrix::elementForm()

@@ -135,7 +135,7 @@ DtWireForm DtLampReport::Coding::discriminantForm()
 
 DtVariantKind DtLampReport::Coding::kind()
 {
-    return DtVariantKindOf("HLAvariantRecord");
+    return DtPlainVariant;
 }
 
 const DtWireForm& DtLampReport::Coding::formOf(unsigned int alternative)

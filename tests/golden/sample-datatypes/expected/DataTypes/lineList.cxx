@@ -136,7 +136,7 @@ unsigned int DtLineList::octetBoundary(const DtWireTrail* outer)
 // The encoding that the model names, or that of the kind of array.
 DtArrayLayout DtLineList::layout()
 {
-    return DtLayoutOf(DtWireForm("", "", R"qx(HLAvariableArray)qx", 4));
+    return DtArrayLayout(DtVariableArray);
 }
 
 DtWireForm DtLineList::elementForm()

@@ -137,7 +137,7 @@ unsigned int DtLockGrid::octetBoundary(const DtWireTrail* outer)
 // The encoding that the model names, or that of the kind of array.
 DtArrayLayout DtLockGrid::layout()
 {
-    return DtLayoutOf(DtWireForm("", "", R"qx(HLAfixedArray)qx", 8));
+    return DtArrayLayout(DtFixedArray, 8);
 }
 
 DtWireForm DtLockGrid::elementForm()

@@ -136,7 +136,7 @@ unsigned int DtNameList::octetBoundary(const DtWireTrail* outer)
 // The encoding that the model names, or that of the kind of array.
 DtArrayLayout DtNameList::layout()
 {
-    return DtLayoutOf(DtWireForm("", "", R"qx(HLAvariableArray)qx", -1));
+    return DtArrayLayout(DtVariableArray);
 }
 
 DtWireForm DtNameList::elementForm()

@@ -136,7 +136,7 @@ unsigned int DtOldRun::octetBoundary(const DtWireTrail* outer)
 // The encoding that the model names, or that of the kind of array.
 DtArrayLayout DtOldRun::layout()
 {
-    return DtLayoutOf(DtWireForm("", "", R"qx(RPRlengthlessArray)qx", -1));
+    return DtArrayLayout(DtLengthlessArray);
 }
 
 DtWireForm DtOldRun::elementForm()

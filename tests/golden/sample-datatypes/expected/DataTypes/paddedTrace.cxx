@@ -137,7 +137,7 @@ unsigned int DtPaddedTrace::octetBoundary(const DtWireTrail* outer)
 // The encoding that the model names, or that of the kind of array.
 DtArrayLayout DtPaddedTrace::layout()
 {
-    return DtLayoutOf(DtWireForm("", "", R"qx(HLApaddingTo64Array)qx", -1));
+    return DtArrayLayout(DtPaddingArray, 8);
 }
 
 DtWireForm DtPaddedTrace::elementForm()

@@ -124,7 +124,7 @@ DtWireForm DtPermit::Coding::discriminantForm()
 
 DtVariantKind DtPermit::Coding::kind()
 {
-    return DtVariantKindOf("HLAvariantRecord");
+    return DtPlainVariant;
 }
 
 const DtWireForm& DtPermit::Coding::formOf(unsigned int alternative)

@@ -135,7 +135,7 @@ DtWireForm DtPositionFix::Coding::discriminantForm()
 
 DtVariantKind DtPositionFix::Coding::kind()
 {
-    return DtVariantKindOf("HLAvariantRecord");
+    return DtPlainVariant;
 }
 
 const DtWireForm& DtPositionFix::Coding::formOf(unsigned int alternative)

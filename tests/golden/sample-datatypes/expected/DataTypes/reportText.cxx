@@ -136,7 +136,7 @@ unsigned int DtReportText::octetBoundary(const DtWireTrail* outer)
 // The encoding that the model names, or that of the kind of array.
 DtArrayLayout DtReportText::layout()
 {
-    return DtLayoutOf(DtWireForm("", "", R"qx(HLAnullTerminatedArray)qx", -1));
+    return DtArrayLayout(DtNullTerminatedArray);
 }
 
 DtWireForm DtReportText::elementForm()

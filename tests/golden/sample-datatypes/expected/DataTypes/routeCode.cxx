@@ -136,7 +136,7 @@ unsigned int DtRouteCode::octetBoundary(const DtWireTrail* outer)
 // The encoding that the model names, or that of the kind of array.
 DtArrayLayout DtRouteCode::layout()
 {
-    return DtLayoutOf(DtWireForm("", "", R"qx(HLAnullTerminatedArray)qx", -1));
+    return DtArrayLayout(DtNullTerminatedArray);
 }
 
 DtWireForm DtRouteCode::elementForm()

@@ -136,7 +136,7 @@ unsigned int DtSampleRun::octetBoundary(const DtWireTrail* outer)
 // The encoding that the model names, or that of the kind of array.
 DtArrayLayout DtSampleRun::layout()
 {
-    return DtLayoutOf(DtWireForm("", "", R"qx(HLAlengthlessVarArray)qx", -1));
+    return DtArrayLayout(DtLengthlessArray);
 }
 
 DtWireForm DtSampleRun::elementForm()

@@ -136,7 +136,7 @@ unsigned int DtSeal__Code::octetBoundary(const DtWireTrail* outer)
 // The encoding that the model names, or that of the kind of array.
 DtArrayLayout DtSeal__Code::layout()
 {
-    return DtLayoutOf(DtWireForm("", "", R"qx(HLAfixedArray)qx", 8));
+    return DtArrayLayout(DtFixedArray, 8);
 }
 
 DtWireForm DtSeal__Code::elementForm()

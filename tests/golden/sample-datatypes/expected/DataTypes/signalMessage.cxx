@@ -168,7 +168,7 @@ DtWireForm DtSignalMessage::Coding::discriminantForm()
 
 DtVariantKind DtSignalMessage::Coding::kind()
 {
-    return DtVariantKindOf("HLAvariantRecord");
+    return DtPlainVariant;
 }
 
 const DtWireForm& DtSignalMessage::Coding::formOf(unsigned int alternative)

@@ -134,7 +134,7 @@ DtWireForm DtTestResult::Coding::discriminantForm()
 
 DtVariantKind DtTestResult::Coding::kind()
 {
-    return DtVariantKindOf("HLAvariantRecord");
+    return DtPlainVariant;
 }
 
 const DtWireForm& DtTestResult::Coding::formOf(unsigned int alternative)

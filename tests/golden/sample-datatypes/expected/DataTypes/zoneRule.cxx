@@ -134,7 +134,7 @@ DtWireForm DtZoneRule::Coding::discriminantForm()
 
 DtVariantKind DtZoneRule::Coding::kind()
 {
-    return DtVariantKindOf("HLAvariantRecord");
+    return DtPlainVariant;
 }
 
 const DtWireForm& DtZoneRule::Coding::formOf(unsigned int alternative)

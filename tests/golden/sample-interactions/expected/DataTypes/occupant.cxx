@@ -146,7 +146,7 @@ DtWireForm DtOccupant::Coding::discriminantForm()
 
 DtVariantKind DtOccupant::Coding::kind()
 {
-    return DtVariantKindOf("HLAvariantRecord");
+    return DtPlainVariant;
 }
 
 const DtWireForm& DtOccupant::Coding::formOf(unsigned int alternative)

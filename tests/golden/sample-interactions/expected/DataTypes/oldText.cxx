@@ -136,7 +136,7 @@ unsigned int DtOldText::octetBoundary(const DtWireTrail* outer)
 // The encoding that the model names, or that of the kind of array.
 DtArrayLayout DtOldText::layout()
 {
-    return DtLayoutOf(DtWireForm("", "", R"qx(RPRnullTerminatedArray)qx", -1));
+    return DtArrayLayout(DtNullTerminatedArray);
 }
 
 DtWireForm DtOldText::elementForm()

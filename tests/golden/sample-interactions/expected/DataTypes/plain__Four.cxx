@@ -136,7 +136,7 @@ unsigned int DtPlain__Four::octetBoundary(const DtWireTrail* outer)
 // The encoding that the model names, or that of the kind of array.
 DtArrayLayout DtPlain__Four::layout()
 {
-    return DtLayoutOf(DtWireForm("", "", R"qx(PlainArray)qx", 4));
+    return DtArrayLayout(DtFixedArray, 4);
 }
 
 DtWireForm DtPlain__Four::elementForm()

@@ -136,7 +136,7 @@ unsigned int DtShortText::octetBoundary(const DtWireTrail* outer)
 // The encoding that the model names, or that of the kind of array.
 DtArrayLayout DtShortText::layout()
 {
-    return DtLayoutOf(DtWireForm("", "", R"qx(HLAfixedArray)qx", 16));
+    return DtArrayLayout(DtFixedArray, 16);
 }
 
 DtWireForm DtShortText::elementForm()

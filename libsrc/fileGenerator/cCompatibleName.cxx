@@ -121,16 +121,23 @@ DtString DtCCompatibleNames::shortened(const DtString& name)
     if (name.length() <= theLongestName)
         return name;
     const DtString key = upperCase(name);
-    const auto known = longNamesToShortNames.find(key);
-    if (known != longNamesToShortNames.end())
+    const auto known = longNamesToShortNames->find(key);
+    if (known != longNamesToShortNames->end())
         return known->second;
     if (name.startsWith("Dt"))
     {
-        const auto bare = longNamesToShortNames.find(key.stdString().substr(2));
-        if (bare != longNamesToShortNames.end())
+        const auto bare = longNamesToShortNames->find(key.stdString().substr(2));
+        if (bare != longNamesToShortNames->end())
             return "Dt" + DtFirstCharToUpper(bare->second);
     }
     DtString shortName = name.stdString().substr(0, theKeptPart) + std::to_string(myCurrentLargeFileNum++);
-    longNamesToShortNames.emplace(key, shortName);
+    ownShortNames().emplace(key, shortName);
     return shortName;
+}
+
+DtCCompatibleNames::ShortNames& DtCCompatibleNames::ownShortNames()
+{
+    if (longNamesToShortNames.use_count() > 1)
+        longNamesToShortNames = std::make_shared<ShortNames>(*longNamesToShortNames);
+    return *longNamesToShortNames;
 }

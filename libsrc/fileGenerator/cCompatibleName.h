@@ -4,6 +4,7 @@
 #include "foundation/string.h"
 
 #include <map>
+#include <memory>
 
 // True when the text is exactly a reserved word of C++.
 bool isCPlusPlusKeyword(const DtString& text);
@@ -22,9 +23,13 @@ public:
     static DtString wholeIdentifier(const DtString& text);
 
 private:
-    DtString shortened(const DtString& name);
+    using ShortNames = std::map<DtString, DtString>; // by the upper-case long name
 
-    std::map<DtString, DtString> longNamesToShortNames; // upper-case long name to short name
+    DtString shortened(const DtString& name);
+    ShortNames& ownShortNames();
+
+    // Copies share the table until one of them takes a number: copies are made for each member, the table may be large.
+    std::shared_ptr<ShortNames> longNamesToShortNames = std::make_shared<ShortNames>();
     int myCurrentLargeFileNum = 0;
 };
 

@@ -37,6 +37,7 @@ private Q_SLOTS:
     void prefixedLongNameFollowsTheBareOne();
     void bareLongNameDoesNotFollowThePrefixedOne();
     void objectsNumberIndependently();
+    void copiesNumberIndependentlyFromThereOn();
     void keywordsOfCPlusPlus();
     void keywordTestIsExact();
 };
@@ -154,6 +155,19 @@ void TestCCompatibleName::objectsNumberIndependently()
     made(one, QString(200, 'z'));
     QCOMPARE(made(one, QString(101, 'a')), QString(50, 'a') + "1");
     QCOMPARE(made(other, QString(101, 'a')), QString(50, 'a') + "0");
+}
+
+void TestCCompatibleName::copiesNumberIndependentlyFromThereOn()
+{
+    DtCCompatibleNames one;
+    made(one, QString(101, 'a'));
+    DtCCompatibleNames other = one;
+    QCOMPARE(made(other, QString(101, 'b')), QString(50, 'b') + "1");
+    QCOMPARE(made(one, QString(101, 'c')), QString(50, 'c') + "1");
+    QCOMPARE(made(one, QString(101, 'b')), QString(50, 'b') + "2");
+    QCOMPARE(made(other, QString(101, 'c')), QString(50, 'c') + "2");
+    for (DtCCompatibleNames* each : {&one, &other})
+        QCOMPARE(made(*each, QString(101, 'a')), QString(50, 'a') + "0");
 }
 
 void TestCCompatibleName::keywordsOfCPlusPlus()

@@ -121,7 +121,7 @@ private:
     // Puts a member behind those that are there, at its boundary. False when the shape is at fault then.
     bool append(DtDatatypeShape& shape, const DtDatatypeShape& member) const
     {
-        const int start = (shape.octets + member.boundary - 1) / member.boundary * member.boundary;
+        const int start = nextPlace(shape.octets, member.boundary);
         for (DtShapePart part : member.parts)
         {
             part.offset += start;

@@ -28,6 +28,12 @@ struct DtDatatypeShape
     DtString fault; // what stands in the way, as the rest of a sentence behind "it"
 };
 
+// Where a value with this boundary begins behind so many octets.
+inline int nextPlace(int octets, int boundary)
+{
+    return (octets + boundary - 1) / boundary * boundary;
+}
+
 // The shape of a datatype. One with more than mostParts numbers is at fault, and so is one that holds itself.
 DtDatatypeShape shapeOf(const DtString& datatype, const DtOMTTree& tree, std::size_t mostParts);
 

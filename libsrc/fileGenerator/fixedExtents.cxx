@@ -39,11 +39,6 @@ DtFixedExtent ofEnumeration(const DtEnumeratedDatatypeNode& enumeration, const D
     return isTold && extent.octets <= theLongestEnumeration ? extent : DtFixedExtent();
 }
 
-int roundedUp(int octets, int boundary)
-{
-    return (octets + boundary - 1) / boundary * boundary;
-}
-
 } // namespace
 
 DtFixedExtents& DtFixedExtents::instance()
@@ -73,7 +68,7 @@ DtFixedExtent DtFixedExtents::ofFields(const DtFixedDatatypeNode& record, const 
         const DtFixedExtent part = ofField(field->getDatatype(), tree);
         if (part.octets == 0 || whole.octets > theMostOctets)
             return {};
-        whole.octets = roundedUp(whole.octets, part.boundary) + part.octets;
+        whole.octets = nextPlace(whole.octets, part.boundary) + part.octets;
         whole.boundary = std::max(whole.boundary, part.boundary);
     }
     return whole;

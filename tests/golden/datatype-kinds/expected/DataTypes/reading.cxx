@@ -61,8 +61,8 @@ unsigned int DtReading::octetBoundary(const DtWireTrail* outer)
         return boundary;
     const DtWireTrail trail = {&theId, outer};
     static_cast<void>(trail);
-    boundary = DtLargerBoundary(boundary, DtBoundaryOfType<DtHours>(formOf(0), &trail));
-    boundary = DtLargerBoundary(boundary, DtBoundaryOfType<DtState8>(formOf(1), &trail));
+    boundary = DtLargerBoundary(boundary, DtBoundaryOfType<decltype(Own.myAt)>(formOf(0), &trail));
+    boundary = DtLargerBoundary(boundary, DtBoundaryOfType<decltype(Own.myState)>(formOf(1), &trail));
     return boundary;
 }
 

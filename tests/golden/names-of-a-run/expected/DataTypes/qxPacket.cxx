@@ -57,8 +57,8 @@ unsigned int DtQxPacket::octetBoundary(const DtWireTrail* outer)
         return boundary;
     const DtWireTrail trail = {&theId, outer};
     static_cast<void>(trail);
-    boundary = DtLargerBoundary(boundary, DtBoundaryOfType<DtQxSeeds>(formOf(0), &trail));
-    boundary = DtLargerBoundary(boundary, DtBoundaryOfType<DtQxSeeds>(formOf(1), &trail));
+    boundary = DtLargerBoundary(boundary, DtBoundaryOfType<decltype(Own.myFront)>(formOf(0), &trail));
+    boundary = DtLargerBoundary(boundary, DtBoundaryOfType<decltype(Own.myBack)>(formOf(1), &trail));
     return boundary;
 }
 

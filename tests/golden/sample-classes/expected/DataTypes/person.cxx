@@ -66,9 +66,9 @@ unsigned int DtPerson::octetBoundary(const DtWireTrail* outer)
         return boundary;
     const DtWireTrail trail = {&theId, outer};
     static_cast<void>(trail);
-    boundary = DtLargerBoundary(boundary, DtBoundaryOfType<DtString>(formOf(0), &trail));
-    boundary = DtLargerBoundary(boundary, DtBoundaryOfType<DtCount8>(formOf(1), &trail));
-    boundary = DtLargerBoundary(boundary, DtBoundaryOfType<DtInt16>(formOf(2), &trail));
+    boundary = DtLargerBoundary(boundary, DtBoundaryOfType<decltype(Own.myFullName)>(formOf(0), &trail));
+    boundary = DtLargerBoundary(boundary, DtBoundaryOfType<decltype(Own.myAge)>(formOf(1), &trail));
+    boundary = DtLargerBoundary(boundary, DtBoundaryOfType<decltype(Own.myHeight__cm)>(formOf(2), &trail));
     return boundary;
 }
 

@@ -71,10 +71,10 @@ unsigned int DtBerthSlot::octetBoundary(const DtWireTrail* outer)
         return boundary;
     const DtWireTrail trail = {&theId, outer};
     static_cast<void>(trail);
-    boundary = DtLargerBoundary(boundary, DtBoundaryOfType<DtCount8>(formOf(0), &trail));
-    boundary = DtLargerBoundary(boundary, DtBoundaryOfType<DtTideMark>(formOf(1), &trail));
-    boundary = DtLargerBoundary(boundary, DtBoundaryOfType<DtWeight__Kg>(formOf(2), &trail));
-    boundary = DtLargerBoundary(boundary, DtBoundaryOfType<DtTideMark>(formOf(3), &trail));
+    boundary = DtLargerBoundary(boundary, DtBoundaryOfType<decltype(Own.myNumber)>(formOf(0), &trail));
+    boundary = DtLargerBoundary(boundary, DtBoundaryOfType<decltype(Own.myStart)>(formOf(1), &trail));
+    boundary = DtLargerBoundary(boundary, DtBoundaryOfType<decltype(Own.myLoad__Max)>(formOf(2), &trail));
+    boundary = DtLargerBoundary(boundary, DtBoundaryOfType<decltype(Own.myUntil)>(formOf(3), &trail));
     return boundary;
 }
 

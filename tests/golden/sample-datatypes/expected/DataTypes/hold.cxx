@@ -71,10 +71,10 @@ unsigned int DtHold::octetBoundary(const DtWireTrail* outer)
         return boundary;
     const DtWireTrail trail = {&theId, outer};
     static_cast<void>(trail);
-    boundary = DtLargerBoundary(boundary, DtBoundaryOfType<bool>(formOf(0), &trail));
-    boundary = DtLargerBoundary(boundary, DtBoundaryOfType<DtWeight__Kg>(formOf(1), &trail));
-    boundary = DtLargerBoundary(boundary, DtBoundaryOfType<DtVesselState8>(formOf(2), &trail));
-    boundary = DtLargerBoundary(boundary, DtBoundaryOfType<DtSub_Count_>(formOf(3), &trail));
+    boundary = DtLargerBoundary(boundary, DtBoundaryOfType<decltype(Own.myFull)>(formOf(0), &trail));
+    boundary = DtLargerBoundary(boundary, DtBoundaryOfType<decltype(Own.myLoad)>(formOf(1), &trail));
+    boundary = DtLargerBoundary(boundary, DtBoundaryOfType<decltype(Own.myState)>(formOf(2), &trail));
+    boundary = DtLargerBoundary(boundary, DtBoundaryOfType<decltype(Own.mySub)>(formOf(3), &trail));
     return boundary;
 }
 

@@ -71,10 +71,10 @@ unsigned int DtLongNote::octetBoundary(const DtWireTrail* outer)
         return boundary;
     const DtWireTrail trail = {&theId, outer};
     static_cast<void>(trail);
-    boundary = DtLargerBoundary(boundary, DtBoundaryOfType<DtU16>(formOf(0), &trail));
-    boundary = DtLargerBoundary(boundary, DtBoundaryOfType<DtRouteCode>(formOf(1), &trail));
-    boundary = DtLargerBoundary(boundary, DtBoundaryOfType<DtCount8>(formOf(2), &trail));
-    boundary = DtLargerBoundary(boundary, DtBoundaryOfType<DtRegisterNumber>(formOf(3), &trail));
+    boundary = DtLargerBoundary(boundary, DtBoundaryOfType<decltype(Own.myAuthor)>(formOf(0), &trail));
+    boundary = DtLargerBoundary(boundary, DtBoundaryOfType<decltype(Own.myWords)>(formOf(1), &trail));
+    boundary = DtLargerBoundary(boundary, DtBoundaryOfType<decltype(Own.myRating)>(formOf(2), &trail));
+    boundary = DtLargerBoundary(boundary, DtBoundaryOfType<decltype(Own.mySum)>(formOf(3), &trail));
     return boundary;
 }
 

@@ -71,10 +71,10 @@ unsigned int DtWindRecord::octetBoundary(const DtWireTrail* outer)
         return boundary;
     const DtWireTrail trail = {&theId, outer};
     static_cast<void>(trail);
-    boundary = DtLargerBoundary(boundary, DtBoundaryOfType<DtFloat32>(formOf(0), &trail));
-    boundary = DtLargerBoundary(boundary, DtBoundaryOfType<DtFloat64>(formOf(1), &trail));
-    boundary = DtLargerBoundary(boundary, DtBoundaryOfType<DtGustPair>(formOf(2), &trail));
-    boundary = DtLargerBoundary(boundary, DtBoundaryOfType<DtOldRun>(formOf(3), &trail));
+    boundary = DtLargerBoundary(boundary, DtBoundaryOfType<decltype(Own.mySpeed)>(formOf(0), &trail));
+    boundary = DtLargerBoundary(boundary, DtBoundaryOfType<decltype(Own.myFrom)>(formOf(1), &trail));
+    boundary = DtLargerBoundary(boundary, DtBoundaryOfType<decltype(Own.myGusts)>(formOf(2), &trail));
+    boundary = DtLargerBoundary(boundary, DtBoundaryOfType<decltype(Own.myMarks)>(formOf(3), &trail));
     return boundary;
 }
 

@@ -538,9 +538,9 @@ void TestWireLayer::lengthlessArrayIsLastOrRefused()
 void TestWireLayer::paddingCountsFromTheRecord()
 {
     typedef Laid<DtU8, DtPaddingArray, 4> Fill;
-    typedef Pair<Pair<DtU8, Fill>, DtU8> Inner; // its fill belongs to the record inside
-    QCOMPARE(encoded(Inner()), QByteArray("0000000000"));
-    Pair<DtU8, Inner> outer;
+    typedef Pair<Pair<DtU8, Fill>, DtU8> Filled; // its fill belongs to the record inside
+    QCOMPARE(encoded(Filled()), QByteArray("0000000000"));
+    Pair<DtU8, Filled> outer;
     outer.first = 1;
     outer.second.first.first = 2;
     outer.second.second = 3;

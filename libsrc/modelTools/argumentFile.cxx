@@ -11,13 +11,24 @@ namespace
     throw DtToolFailure(DtExitCode::Usage, "the file of arguments " + path + " cannot be read.");
 }
 
+// Editors of some systems put one ahead of every text.
+void dropByteOrderMark(std::string& line)
+{
+    static const std::string theMark = "\xEF\xBB\xBF";
+    if (line.compare(0, theMark.size(), theMark) == 0)
+        line.erase(0, theMark.size());
+}
+
 void appendLines(const std::string& path, std::vector<std::string>& arguments)
 {
     std::ifstream file(path);
     if (!file)
         fail(path);
-    for (std::string line; std::getline(file, line);)
+    bool isFirst = true;
+    for (std::string line; std::getline(file, line); isFirst = false)
     {
+        if (isFirst)
+            dropByteOrderMark(line);
         if (!line.empty() && line.back() == '\r')
             line.pop_back();
         if (!line.empty())

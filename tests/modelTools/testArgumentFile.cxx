@@ -4,6 +4,9 @@
 
 #include <QtTest/QtTest>
 
+#include <sys/stat.h>
+#include <thread>
+
 class TestArgumentFile : public QObject
 {
     Q_OBJECT
@@ -43,6 +46,24 @@ private Q_SLOTS:
     {
         writeBytes(file(), "M\xe4rz.xml\n");
         COMPARE_TEXT(joined(DtExpandedArguments({"@" + file()})), "|M\xe4rz.xml");
+    }
+
+    void byteOrderMarkIsNoPartOfTheFirstLine()
+    {
+        writeBytes(file(), "\xEF\xBB\xBF-o\n\xEF\xBB\xBFout\n");
+        COMPARE_TEXT(joined(DtExpandedArguments({"@" + file()})), "|-o|\xEF\xBB\xBFout");
+        writeBytes(file(), "\xEF\xBB\xBF\r\n");
+        COMPARE_TEXT(joined(DtExpandedArguments({"@" + file()})), "");
+    }
+
+    void pipeIsReadToo()
+    {
+        const std::string pipe = (myFolder.path() / "pipe").native();
+        QCOMPARE(mkfifo(pipe.c_str(), 0600), 0);
+        std::thread writer([pipe] { writeBytes(pipe, "-o\nout\n"); });
+        const std::string read = joined(DtExpandedArguments({"@" + pipe}));
+        writer.join();
+        COMPARE_TEXT(read, "|-o|out");
     }
 
     void fileCannotNameAnother()

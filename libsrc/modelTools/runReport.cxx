@@ -236,5 +236,5 @@ std::string DtRunReport::textFor(const std::string& file) const
     std::string kind = std::filesystem::path(file).extension().string();
     std::transform(kind.begin(), kind.end(), kind.begin(),
                    [](unsigned char letter) { return static_cast<char>(std::tolower(letter)); });
-    return kind == ".html" || kind == ".xhtml" ? html() : json();
+    return kind == ".html" || kind == ".htm" || kind == ".xhtml" ? html() : json();
 }

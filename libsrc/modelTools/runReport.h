@@ -44,7 +44,7 @@ struct DtRunReport
 
     std::string json() const;
     std::string html() const;
-    // One of the two: the page for a name that ends in ".html" or ".xhtml".
+    // One of the two: the page for a name that ends in ".html", ".htm" or ".xhtml".
     std::string textFor(const std::string& file) const;
 };
 

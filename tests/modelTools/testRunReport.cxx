@@ -269,6 +269,7 @@ private Q_SLOTS:
         QTest::addColumn<bool>("isPage");
         QTest::newRow("html") << QByteArray("a.html") << true;
         QTest::newRow("xhtml") << QByteArray("/x y/a.xhtml") << true;
+        QTest::newRow("htm") << QByteArray("a.htm") << true;
         QTest::newRow("capitals") << QByteArray("a.HTML") << true;
         QTest::newRow("Latin 1") << QByteArray("M\xe4rz.html") << true;
         QTest::newRow("json") << QByteArray("a.json") << false;

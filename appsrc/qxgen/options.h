@@ -49,8 +49,8 @@ CLI::Option* addChoice(CLI::App& command, const std::string& name, Value& value,
                 value = meaning;
                 return;
             }
-        throw CLI::ValidationError(name, "there is no " + text + "." + DtNearNamesHint(text, names) + " Known are " +
-                                             listed + ".");
+        throw CLI::ValidationError(name, "there is no \"" + text + "\"." + DtNearNamesHint(text, names) +
+                                             " Known are " + listed + ".");
     };
     return command.add_option_function<std::string>(name, take, description)->type_name(listed);
 }

@@ -481,8 +481,9 @@ private Q_SLOTS:
         const DtRun run = qxgen({"generate", "--list", "--layout", "clasic", theSample});
         QCOMPARE(run.code, 1);
         QVERIFY2(
-            holds(run.errors,
-                  "--layout: there is no clasic. Did you mean classic? Known are tree|classic. --help tells more.\n"),
+            holds(
+                run.errors,
+                "--layout: there is no \"clasic\". Did you mean classic? Known are tree|classic. --help tells more.\n"),
             run.errors.c_str());
         QCOMPARE(qxgen({"generate", "--list", "--layout", "1", theSample}).code, 1);
     }

@@ -557,11 +557,14 @@ private Q_SLOTS:
         row("generate|models/small.xml|-o", 1, "");
         row("generate|models/small.xml|-o|out|--name|one|--name|two", 1, "--name is given more than once. --help");
         row("generate|models/small.xml|-o|out|-o|other", 1, "--output is given more than once. --help");
-        row("generate|models/small.xml|-o|out|--layout|flat", 1, "--layout: there is no flat. Known are tree|classic.");
-        row("generate|models/small.xml|-o|out|--layout|1", 1, "--layout: there is no 1. Known are tree|classic.");
-        row("generate|models/small.xml|-o|out|--format|xml", 1, "--format: there is no xml. Known are text|msvs|json.");
+        row("generate|models/small.xml|-o|out|--layout|flat", 1,
+            "--layout: there is no \"flat\". Known are tree|classic.");
+        row("generate|models/small.xml|-o|out|--layout|1", 1, "--layout: there is no \"1\". Known are tree|classic.");
+        row("generate|models/small.xml|-o|out|--format|xml", 1,
+            "--format: there is no \"xml\". Known are text|msvs|json.");
+        row("generate|models/small.xml|-o|out|--layout=", 1, "--layout: there is no \"\". Known are tree|classic.");
         row("generate|models/small.xml|-o|out|--color|red", 1,
-            "--color: there is no red. Known are auto|always|never.");
+            "--color: there is no \"red\". Known are auto|always|never.");
         row("generate|models/small.xml|-o|out|--list|--verify", 1,
             "--dry-run, --verify and --list exclude one another.");
         row("generate|models/small.xml|-o|out|--watch|--verify", 1, "--watch writes the output");

@@ -17,7 +17,7 @@
 namespace
 {
 // A text is kept in pieces of this size at most.
-constexpr std::size_t theLargestPiece = 1u << 20;
+constexpr std::size_t theLargestPiece = 1u << 18;
 
 // Of this many printers that collect, the files stay open; a process may have 1024.
 constexpr int theMostOpenFiles = 128;
@@ -165,11 +165,7 @@ void DtFilePrinter::print(const char* text, std::size_t length)
     if (myMode == Mode::Collect)
     {
         if (myText.size() + length > theLargestPiece && !myText.empty())
-        {
-            myPieces.push_back(std::move(myText));
-            myText = std::string();
-            myText.reserve(theLargestPiece);
-        }
+            setPieceAside();
         myText.append(text, length);
     }
     else if (myIsUsable && !writeWhole(myDescriptor, text, length))
@@ -183,9 +179,24 @@ void DtFilePrinter::flush()
 {
 }
 
+// Into the unnamed file, or to the pieces in memory from the first on that it does not take.
+void DtFilePrinter::setPieceAside()
+{
+    DtFilename directory(myName);
+    directory.stripFilename();
+    if (myPieces.empty() && mySpilledText.append(directory, myText))
+    {
+        myText.clear();
+        return;
+    }
+    myPieces.push_back(std::move(myText));
+    myText = std::string();
+    myText.reserve(theLargestPiece);
+}
+
 void DtFilePrinter::writeIfChanged()
 {
-    const bool isSilent = myText.empty() && myPieces.empty();
+    const bool isSilent = myText.empty() && mySpilledText.size() == 0 && myPieces.empty();
     if (isSilent && (myIsWrittenByAnother || myIsFresh))
         return;
     tellOthers();
@@ -197,14 +208,15 @@ void DtFilePrinter::writeIfChanged()
 template <typename Function>
 bool DtFilePrinter::eachPiece(Function&& function) const
 {
-    return std::all_of(myPieces.begin(), myPieces.end(), function) && function(myText);
+    return mySpilledText.eachPart(function) && std::all_of(myPieces.begin(), myPieces.end(), function) &&
+           function(myText);
 }
 
 bool DtFilePrinter::holdsAllText() const
 {
     off_t offset = 0;
     return eachPiece(
-        [&](const std::string& piece)
+        [&](std::string_view piece)
         {
             const off_t start = offset;
             offset += static_cast<off_t>(piece.size());
@@ -215,7 +227,7 @@ bool DtFilePrinter::holdsAllText() const
 // Leaves a file alone that holds the text already, so that its time stamp stays.
 bool DtFilePrinter::update(std::size_t oldSize)
 {
-    std::size_t size = myText.size();
+    std::size_t size = mySpilledText.size() + myText.size();
     for (const std::string& piece : myPieces)
         size += piece.size();
     if (oldSize == size && holdsAllText())
@@ -223,7 +235,7 @@ bool DtFilePrinter::update(std::size_t oldSize)
     if (oldSize != 0 && replacementListener())
         replacementListener()(myName);
     return (oldSize == 0 || ftruncate(myDescriptor, 0) == 0) &&
-           eachPiece([this](const std::string& piece) { return writeWhole(myDescriptor, piece.data(), piece.size()); });
+           eachPiece([this](std::string_view piece) { return writeWhole(myDescriptor, piece.data(), piece.size()); });
 }
 
 bool DtFilePrinter::write()

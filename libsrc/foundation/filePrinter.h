@@ -2,6 +2,7 @@
 #define FOUNDATION_FILE_PRINTER_H
 
 #include "foundation/printer.h"
+#include "foundation/spilledText.h"
 #include "foundation/string.h"
 
 #include <functional>
@@ -11,8 +12,9 @@
 // A printer that writes a file. Missing parent directories are made.
 //
 // The file exists, at least empty, from construction. The text is collected and written when the printer is destroyed,
-// in one call unless it is large: a file that already holds exactly this text keeps its time stamp. A printer that
-// received no text leaves the file alone when another printer of this process has written it since, and empties it
+// in one call unless it is large: a file that already holds exactly this text keeps its time stamp. Of a large text,
+// only the end is in memory, and the rest in an unnamed file beside the printer's where there can be one. A printer
+// that received no text leaves the file alone when another printer of this process has written it since, and empties it
 // otherwise. A failed open or write is named once on DtWarn; nothing is thrown.
 //
 // The file stays open in between, so that it is opened once, unless many are: a generator holds dozens of printers.
@@ -32,7 +34,8 @@ public:
 
     void print(const char* text, std::size_t length) override;
     void flush() override;
-    // The text collected so far, for a writer that builds it in place and does not print to it.
+    // The text collected so far, but for the head of a large one, for a writer that builds it in place and does not
+    // print to it.
     std::string& text() { return myText; }
     bool isOpen() const { return myIsUsable; }
 
@@ -50,10 +53,12 @@ private:
     bool write();
     bool closeFile();
     void reportFailure(const char* what);
+    void setPieceAside();
 
     DtString myName;
     Mode myMode;
-    std::vector<std::string> myPieces; // what is ahead of the text when it is large, so that it need not move to grow
+    DtSpilledText mySpilledText;       // the head of a large text ...
+    std::vector<std::string> myPieces; // ... and what comes ahead of the rest where the file did not take it
     std::string myText;
     int myDescriptor = -1; // of the open file
     bool myIsUsable = false;

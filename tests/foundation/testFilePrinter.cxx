@@ -41,6 +41,8 @@ private Q_SLOTS:
     void nulBytesAreKept();
     void largeTextIsWrittenWhole();
     void largeTextThatIsThereKeepsItsTimeStamp();
+    void largeTextStaysOutOfMemoryAndOutOfSight();
+    void largeTextWhoseDirectoryIsGoneIsWrittenWhole();
     void replacedTextIsToldToTheListener();
 
 private:
@@ -328,6 +330,31 @@ void TestFilePrinter::largeTextThatIsThereKeepsItsTimeStamp()
     writeInLines("a", other);
     QVERIFY(QFileInfo("a").lastModified() != stamp);
     QVERIFY(readTextFile("a") == other + '\n');
+}
+
+void TestFilePrinter::largeTextStaysOutOfMemoryAndOutOfSight()
+{
+    writeTextFile("a", "old");
+    {
+        DtFilePrinter printer("a");
+        for (const QByteArray& line : largeText().split('\n'))
+            printText(printer, line + '\n');
+        QVERIFY(printer.text().capacity() < 500000);
+        QCOMPARE(readTextFile("a"), QByteArray("old"));
+        QCOMPARE(QDir(".").entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot), QStringList{"a"});
+    }
+    QVERIFY(readTextFile("a") == largeText() + '\n');
+}
+
+void TestFilePrinter::largeTextWhoseDirectoryIsGoneIsWrittenWhole()
+{
+    {
+        DtFilePrinter printer("sub/a");
+        QVERIFY(QDir("sub").removeRecursively());
+        for (const QByteArray& line : largeText().split('\n'))
+            printText(printer, line + '\n');
+    }
+    QVERIFY(readTextFile("sub/a") == largeText() + '\n');
 }
 
 void TestFilePrinter::replacedTextIsToldToTheListener()

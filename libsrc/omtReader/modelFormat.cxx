@@ -141,10 +141,10 @@ bool readToRoot(xmlTextReader* reader)
 DtFomType formatByContent(int descriptor, const char* name)
 {
     lseek(descriptor, 0, SEEK_SET);
-    DtXmlDocument document = DtParseXmlDescriptor(descriptor, name);
+    DtXmlModel document = DtParseXmlModel(descriptor, name);
     const DtFomType format = DtFormatOfRoot(xmlDocGetRootElement(document.get()));
     if (document != nullptr)
-        DtKeepXmlDocument(descriptor, std::move(document));
+        DtKeepXmlModel(descriptor, std::move(document));
     return format;
 }
 

@@ -4,6 +4,7 @@
 #include "foundation/warningRules.h"
 
 #include <libxml/parser.h>
+#include <libxml/parserInternals.h>
 
 #include <algorithm>
 #include <cstdint>
@@ -94,7 +95,7 @@ bool isSettled(const struct stat& status)
 
 struct DtKeptDocument
 {
-    DtXmlDocument document = nullptr;
+    DtXmlModel document = nullptr;
     struct stat status = {};
 };
 
@@ -114,18 +115,54 @@ void setName(xmlDoc& document, const char* name)
 }
 
 // The kept document goes in any case.
-DtXmlDocument takeKeptDocument(int descriptor, const char* name)
+DtXmlModel takeKeptDocument(int descriptor, const char* name)
 {
-    DtXmlDocument document = std::move(keptDocument().document);
+    DtXmlModel document = std::move(keptDocument().document);
     struct stat status = {};
     if (document == nullptr || fstat(descriptor, &status) != 0 || !isUnchanged(keptDocument().status, status))
         return nullptr;
     setName(*document, name);
     return document;
 }
+
+struct DtFreeContext
+{
+    void operator()(xmlParserCtxt* context) const { xmlFreeParserCtxt(context); }
+};
+using DtParserContext = std::unique_ptr<xmlParserCtxt, DtFreeContext>;
+
+// The descriptor stays open.
+DtParserContext contextOf(int descriptor, const char* name)
+{
+    xmlInitParser();
+    DtParserContext context(xmlNewParserCtxt());
+    xmlParserInputBuffer* const buffer = xmlParserInputBufferCreateFd(descriptor, XML_CHAR_ENCODING_NONE);
+    if (buffer == nullptr || context == nullptr)
+    {
+        xmlFreeParserInputBuffer(buffer);
+        return nullptr;
+    }
+    buffer->closecallback = nullptr;
+    xmlParserInput* const input = xmlNewIOInputStream(context.get(), buffer, XML_CHAR_ENCODING_NONE);
+    if (input == nullptr)
+    {
+        xmlFreeParserInputBuffer(buffer);
+        return nullptr;
+    }
+    input->filename = reinterpret_cast<char*>(xmlStrdup(BAD_CAST name));
+    inputPush(context.get(), input);
+    return context;
+}
+
+DtXmlModel parse(const DtParserContext& context)
+{
+    if (context == nullptr || xmlCtxtUseOptions(context.get(), theXmlParseOptions) < 0)
+        return nullptr;
+    return DtXmlModel(DtXmlNodeBlocks::parse(*context));
+}
 } // namespace
 
-void DtKeepXmlDocument(int descriptor, DtXmlDocument document)
+void DtKeepXmlModel(int descriptor, DtXmlModel document)
 {
     DtKeptDocument& kept = keptDocument();
     const bool isKept = fstat(descriptor, &kept.status) == 0 && isSettled(kept.status);
@@ -133,12 +170,18 @@ void DtKeepXmlDocument(int descriptor, DtXmlDocument document)
 }
 
 // The parser escapes the name that it keeps, such as blanks; warnings want it as it is.
-DtXmlDocument DtParseXmlDescriptor(int descriptor, const char* name)
+DtXmlModel DtParseXmlModel(int descriptor, const char* name)
 {
-    DtXmlDocument document(xmlReadFd(descriptor, name, nullptr, theXmlParseOptions));
+    DtXmlModel document = parse(contextOf(descriptor, name));
     if (document != nullptr)
         setName(*document, name);
     return document;
+}
+
+DtXmlModel DtParseXmlModel(const char* buffer, int size)
+{
+    xmlInitParser();
+    return parse(DtParserContext(xmlCreateMemoryParserCtxt(buffer, size)));
 }
 
 DtSubject DtXmlFileOf(const xmlNode* node)
@@ -147,14 +190,26 @@ DtSubject DtXmlFileOf(const xmlNode* node)
     return hasFile ? DtSubject::file(reinterpret_cast<const char*>(node->doc->URL)) : DtSubject::none();
 }
 
+DtXmlModel DtParseXmlModel(const char* name)
+{
+    const int descriptor = DtOpenPlainFile(name);
+    if (descriptor < 0)
+        return nullptr;
+    DtXmlModel document = takeKeptDocument(descriptor, name);
+    if (document == nullptr)
+        document = DtParseXmlModel(descriptor, name);
+    close(descriptor);
+    return document;
+}
+
 DtXmlDocument DtParseXmlFile(const char* name)
 {
     const int descriptor = DtOpenPlainFile(name);
     if (descriptor < 0)
         return nullptr;
-    DtXmlDocument document = takeKeptDocument(descriptor, name);
-    if (document == nullptr)
-        document = DtParseXmlDescriptor(descriptor, name);
+    DtXmlDocument document(xmlReadFd(descriptor, name, nullptr, theXmlParseOptions));
+    if (document != nullptr)
+        setName(*document, name);
     close(descriptor);
     return document;
 }

@@ -4,6 +4,7 @@
 #include "foundation/string.h"
 #include "foundation/warning.h"
 #include "foundation/xmlDocumentOwner.h"
+#include "omtReader/xmlNodeBlocks.h"
 
 #include <libxml/tree.h>
 #include <libxml/xmlerror.h>
@@ -39,13 +40,16 @@ extern const int theXmlParseOptions;
 
 // Each gives the document that it parses, null when that is malformed or, of a file, when there is none. Nothing but a
 // plain file is opened: no URL, device, FIFO or directory, and compressed content is not unpacked.
+DtXmlModel DtParseXmlModel(const char* name);
+DtXmlModel DtParseXmlModel(int descriptor, const char* name);
+DtXmlModel DtParseXmlModel(const char* buffer, int size);
+// The same for a document that goes to somebody who has the library free it.
 DtXmlDocument DtParseXmlFile(const char* name);
-DtXmlDocument DtParseXmlDescriptor(int descriptor, const char* name);
 DtXmlDocument DtParseXmlBuffer(const char* buffer, int size);
 
-// Keeps the document of that open file for DtParseXmlFile(), so that a file whose format is asked for ahead is parsed
+// Keeps the document of that open file for DtParseXmlModel(), so that a file whose format is asked for ahead is parsed
 // once. One is kept at a time, and only until the next file is parsed; none is that has changed a moment ago.
-void DtKeepXmlDocument(int descriptor, DtXmlDocument document);
+void DtKeepXmlModel(int descriptor, DtXmlModel document);
 
 // The file that the node was read from, for warnings; no subject when the document came from memory.
 DtSubject DtXmlFileOf(const xmlNode* node);

@@ -15,44 +15,27 @@ namespace
 {
 const char theUnexpectedProblem[] = "Unexpected problem reading fed file\n";
 
-DtFedReadStatus acceptDocument(DtXmlDocument document, const char* noRootText, xmlDoc** result, DtString& error)
+DtFedReadStatus statusOf(const xmlDoc& document, const char* noRootText, DtString& error)
 {
-    if (xmlDocGetRootElement(document.get()) == nullptr)
-    {
-        error = noRootText;
-        return DtFedReadBadContent;
-    }
-    *result = document.release();
-    return DtFedReadSuccess;
+    if (xmlDocGetRootElement(&document) != nullptr)
+        return DtFedReadSuccess;
+    error = noRootText;
+    return DtFedReadBadContent;
 }
 
-DtFedReadStatus parseStandardModel(DtFomType type, xmlDoc** document, DtString& error)
+// isTold: whether a malformed file was warned of.
+template <typename Document>
+DtFedReadStatus parse(const char* name, Document (*parser)(const char*), Document& document, DtString& error,
+                      bool& isTold)
 {
-    const bool isHla4 = type == DtFomHla4;
-    const unsigned char* text = isHla4 ? theHLA4StandardMIM_xml : theHLAeStandardMIM_xml;
-    const unsigned int length = isHla4 ? theHLA4StandardMIM_xml_len : theHLAeStandardMIM_xml_len;
-    return DtXMLFileReader::parseBuffer(reinterpret_cast<const char*>(text), static_cast<int>(length), document, error);
-}
-} // namespace
-
-DtFedReadStatus DtXMLFileReader::parseFile(const char* name, xmlDoc** doc, DtString& error)
-{
-    bool isTold = false;
-    return parseFile(name, doc, error, isTold);
-}
-
-DtFedReadStatus DtXMLFileReader::parseFile(const char* name, xmlDoc** doc, DtString& error, bool& isTold)
-{
-    DT_ASSERT_AS(*doc == nullptr, "NULL == *newXmlDocTree", __FILE__, __LINE__, __PRETTY_FUNCTION__);
-    DT_ASSERT_AS(name != nullptr, "NULL != fedFileName", __FILE__, __LINE__, __PRETTY_FUNCTION__);
     DtXmlErrors errors;
     DtString path(name);
-    DtXmlDocument document = DtParseXmlFile(path);
+    document = parser(path);
     isTold = errors.report(path);
     if (document == nullptr)
     {
         path = DtFedReader::pathBelowRtiConfig(name);
-        document = DtParseXmlFile(path);
+        document = parser(path);
         isTold = errors.report(path) || isTold;
     }
     if (document == nullptr)
@@ -63,39 +46,70 @@ DtFedReadStatus DtXMLFileReader::parseFile(const char* name, xmlDoc** doc, DtStr
     }
     isTold = false;
     DtVerbose("Reading FED file: %s\n", path.c_str());
-    return acceptDocument(std::move(document),
-                          "DtXmlFedReader:: Bad FED File.\n\tCould not find Document Root in FED File.\n", doc, error);
+    return statusOf(*document, "DtXmlFedReader:: Bad FED File.\n\tCould not find Document Root in FED File.\n", error);
 }
 
-DtFedReadStatus DtXMLFileReader::parseBuffer(const char* buffer, int size, xmlDoc** doc, DtString& error)
+template <typename Document>
+DtFedReadStatus parse(const char* buffer, int size, Document (*parser)(const char*, int), Document& document,
+                      DtString& error)
 {
-    DT_ASSERT_AS(*doc == nullptr, "NULL == *newXmlDocTree", __FILE__, __LINE__, __PRETTY_FUNCTION__);
-    DT_ASSERT_AS(buffer != nullptr, "NULL != buffer", __FILE__, __LINE__, __PRETTY_FUNCTION__);
     DtXmlErrors errors;
-    DtXmlDocument document = DtParseXmlBuffer(buffer, size);
+    document = parser(buffer, size);
     errors.report("buffer");
     if (document == nullptr)
     {
         error = "DtXMLFileReader::parseBuffer: Failed to parse buffer";
         return DtFedReadBadContent;
     }
-    return acceptDocument(std::move(document),
-                          "DtXmlFedReader:: Bad FED File buffer.\n\tCould not find Document Root in FED File.\n", doc,
-                          error);
+    return statusOf(*document, "DtXmlFedReader:: Bad FED File buffer.\n\tCould not find Document Root in FED File.\n",
+                    error);
+}
+
+DtFedReadStatus parseStandardModel(DtFomType type, DtXmlModel& document, DtString& error)
+{
+    const bool isHla4 = type == DtFomHla4;
+    const unsigned char* text = isHla4 ? theHLA4StandardMIM_xml : theHLAeStandardMIM_xml;
+    const unsigned int length = isHla4 ? theHLA4StandardMIM_xml_len : theHLAeStandardMIM_xml_len;
+    return parse<DtXmlModel>(reinterpret_cast<const char*>(text), static_cast<int>(length), DtParseXmlModel, document,
+                             error);
+}
+} // namespace
+
+DtFedReadStatus DtXMLFileReader::parseFile(const char* name, xmlDoc** doc, DtString& error)
+{
+    DT_ASSERT_AS(*doc == nullptr, "NULL == *newXmlDocTree", __FILE__, __LINE__, __PRETTY_FUNCTION__);
+    DT_ASSERT_AS(name != nullptr, "NULL != fedFileName", __FILE__, __LINE__, __PRETTY_FUNCTION__);
+    DtXmlDocument document;
+    bool isTold = false;
+    const DtFedReadStatus status = parse(name, DtParseXmlFile, document, error, isTold);
+    if (status == DtFedReadSuccess)
+        *doc = document.release();
+    return status;
+}
+
+DtFedReadStatus DtXMLFileReader::parseBuffer(const char* buffer, int size, xmlDoc** doc, DtString& error)
+{
+    DT_ASSERT_AS(*doc == nullptr, "NULL == *newXmlDocTree", __FILE__, __LINE__, __PRETTY_FUNCTION__);
+    DT_ASSERT_AS(buffer != nullptr, "NULL != buffer", __FILE__, __LINE__, __PRETTY_FUNCTION__);
+    DtXmlDocument document;
+    const DtFedReadStatus status = parse(buffer, size, DtParseXmlBuffer, document, error);
+    if (status == DtFedReadSuccess)
+        *doc = document.release();
+    return status;
 }
 
 DtOMTTree* DtXMLFileReader::readFile(const DtFilename& file, DtExerciseConn* connection)
 {
     myConnection = connection;
-    xmlDoc* parsed = nullptr;
+    DtXmlModel document;
     myLastFile = file;
     myIsErrorTold = false;
-    if (!file.isUsable() || parseFile(file, &parsed, myLastError, myIsErrorTold) != DtFedReadSuccess)
+    if (!file.isUsable() ||
+        parse<DtXmlModel>(file, DtParseXmlModel, document, myLastError, myIsErrorTold) != DtFedReadSuccess)
         return nullptr;
-    DtXmlDocument document(parsed);
     try
     {
-        xmlNode* root = xmlDocGetRootElement(parsed);
+        xmlNode* root = xmlDocGetRootElement(document.get());
         const DtFomType type = DtFormatOfRoot(root);
         if (type == DtFom1516) // never with the management model
             return DtXML1516FileReader(connection).processObjectModel(root);
@@ -151,15 +165,15 @@ DtOMTTree* DtXMLFileReader::readFiles(const std::vector<DtFilename>& files, DtFo
 // False with the last error set when the module cannot be merged.
 bool DtXMLFileReader::mergeModule(DtOMTTree& tree, const DtFilename& file, DtFomType type)
 {
-    xmlDoc* parsed = nullptr;
+    DtXmlModel document;
     myLastFile = file;
     const DtFedReadStatus status = file == DtFedReader::standardMimFileName(type)
-                                       ? parseStandardModel(type, &parsed, myLastError)
-                                       : parseFile(file, &parsed, myLastError, myIsErrorTold);
-    return status == DtFedReadSuccess && mergeDocument(tree, DtXmlDocument(parsed), type);
+                                       ? parseStandardModel(type, document, myLastError)
+                                       : parse<DtXmlModel>(file, DtParseXmlModel, document, myLastError, myIsErrorTold);
+    return status == DtFedReadSuccess && mergeDocument(tree, std::move(document), type);
 }
 
-bool DtXMLFileReader::mergeDocument(DtOMTTree& tree, DtXmlDocument document, DtFomType type)
+bool DtXMLFileReader::mergeDocument(DtOMTTree& tree, DtXmlModel document, DtFomType type)
 {
     try
     {

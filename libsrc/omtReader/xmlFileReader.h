@@ -66,10 +66,9 @@ public:
     static bool isEvolvedFormat(xmlNode*& root);
 
 private:
-    static DtFedReadStatus parseFile(const char* name, xmlDoc** doc, DtString& error, bool& isTold);
     std::unique_ptr<DtOMTTree> readModule(xmlNode* root, DtFomType type);
     bool mergeModule(DtOMTTree& tree, const DtFilename& file, DtFomType type);
-    bool mergeDocument(DtOMTTree& tree, DtXmlDocument document, DtFomType type);
+    bool mergeDocument(DtOMTTree& tree, DtXmlModel document, DtFomType type);
 
     DtString myLastError;
     bool myIsErrorTold = false;

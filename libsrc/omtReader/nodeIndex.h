@@ -26,7 +26,8 @@ public:
     struct Entry
     {
         Node* node = nullptr;
-        std::size_t order = 0;
+        std::uint32_t order = 0;
+        std::uint32_t hash = 0; // of the key, so that it is neither asked for nor compared without need
     };
 
     // order: the node's position in the list. A key that is known already stays with its node.
@@ -34,7 +35,7 @@ public:
     {
         if (mySlots.size() * 2 <= myCount * 3 + 2)
             grow();
-        insert({node, order});
+        insert({node, static_cast<std::uint32_t>(order), hashOf(KeyOf()(*node))});
     }
 
     // Null when no node has the key.
@@ -42,7 +43,7 @@ public:
     {
         if (mySlots.empty())
             return nullptr;
-        const Entry& entry = mySlots[slotOf(key)];
+        const Entry& entry = mySlots[slotOf(hashOf(key), key)];
         return entry.node != nullptr ? &entry : nullptr;
     }
 
@@ -53,33 +54,45 @@ public:
     }
 
 private:
-    // The slot of the node with the key, or the free one where it belongs. There is always a free one.
-    std::size_t slotOf(const Key& key) const
+    static std::uint32_t hashOf(const Key& key)
     {
-        const std::uint64_t mixed = std::hash<Key>()(key) * std::uint64_t(0x9E3779B97F4A7C15);
-        std::size_t slot = static_cast<std::size_t>(mixed >> 32) & (mySlots.size() - 1);
-        while (mySlots[slot].node != nullptr && !(KeyOf()(*mySlots[slot].node) == key))
+        return static_cast<std::uint32_t>((std::hash<Key>()(key) * std::uint64_t(0x9E3779B97F4A7C15)) >> 32);
+    }
+
+    // The slot of the node with the key, or the free one where it belongs. There is always a free one.
+    std::size_t slotOf(std::uint32_t hash, const Key& key) const
+    {
+        std::size_t slot = hash & (mySlots.size() - 1);
+        while (mySlots[slot].node != nullptr && (mySlots[slot].hash != hash || !(KeyOf()(*mySlots[slot].node) == key)))
             slot = (slot + 1) & (mySlots.size() - 1);
         return slot;
     }
 
     void insert(const Entry& entry)
     {
-        Entry& slot = mySlots[slotOf(KeyOf()(*entry.node))];
+        Entry& slot = mySlots[slotOf(entry.hash, KeyOf()(*entry.node))];
         if (slot.node != nullptr)
             return;
         slot = entry;
         ++myCount;
     }
 
+    // Nodes that are there already have different keys.
+    void reinsert(const Entry& entry)
+    {
+        std::size_t slot = entry.hash & (mySlots.size() - 1);
+        while (mySlots[slot].node != nullptr)
+            slot = (slot + 1) & (mySlots.size() - 1);
+        mySlots[slot] = entry;
+    }
+
     void grow()
     {
         std::vector<Entry> old(mySlots.empty() ? 4 : mySlots.size() * 2);
         old.swap(mySlots);
-        myCount = 0;
         for (const Entry& entry : old)
             if (entry.node != nullptr)
-                insert(entry);
+                reinsert(entry);
     }
 
     std::vector<Entry> mySlots; // their number is a power of two, and at least a third of them is free

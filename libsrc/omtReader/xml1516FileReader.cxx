@@ -7,13 +7,10 @@ DtXML1516FileReader::DtXML1516FileReader(DtExerciseConn* connection)
 {
 }
 
-DtXML1516FileReader::Values DtXML1516FileReader::valuesOf(xmlNode* node)
+void DtXML1516FileReader::listValues(xmlNode* node, Values& values)
 {
-    Values values;
-    values.reserve(theUsualValues);
-    for (xmlAttr* attribute = node->properties; attribute != nullptr; attribute = attribute->next)
-        values.push_back({reinterpret_cast<const char*>(attribute->name), childNodeString(attribute)});
-    return values;
+    for (const xmlAttr* attribute = node->properties; attribute != nullptr; attribute = attribute->next)
+        values.add(attribute->name, DtXmlText(attribute->children));
 }
 
 DtOMTTree* DtXML1516FileReader::processObjectModel(xmlNode*& root)
@@ -46,7 +43,7 @@ void DtXML1516FileReader::processSwitches(xmlNode*& node, DtOMTTree* tree)
         if (value.text.isEmpty())
             continue;
         auto item = std::make_unique<DtBoolAttrNode>();
-        item->setName(value.name);
+        item->setName(DtString(std::string(value.name)));
         if (value.text == valueEnabled || value.text == valueDisabled)
             item->setEnabled(value.text == valueEnabled);
         tree->addSwitchNode(item.release());

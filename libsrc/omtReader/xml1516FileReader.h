@@ -20,7 +20,7 @@ public:
     void processTags(xmlNode*& node, DtOMTTree* tree) override;
 
 protected:
-    Values valuesOf(xmlNode* node) override;
+    void listValues(xmlNode* node, Values& values) override;
 };
 
 #endif

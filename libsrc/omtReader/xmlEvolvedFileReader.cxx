@@ -12,13 +12,10 @@ DtXMLEvolvedFileReader::DtXMLEvolvedFileReader(DtExerciseConn* connection, DtHLA
 {
 }
 
-DtXMLEvolvedFileReader::Values DtXMLEvolvedFileReader::valuesOf(xmlNode* node)
+void DtXMLEvolvedFileReader::listValues(xmlNode* node, Values& values)
 {
-    Values values;
-    values.reserve(theUsualValues);
-    for (xmlNode*& child : DtXmlElements(node))
-        values.push_back({reinterpret_cast<const char*>(child->name), childNodeString(child)});
-    return values;
+    for (const xmlNode* child : DtXmlElements(node))
+        values.add(child->name, DtXmlText(child->children));
 }
 
 DtString DtXMLEvolvedFileReader::childNodeString(xmlNode*& node)
@@ -90,7 +87,7 @@ void DtXMLEvolvedFileReader::readDimensions(xmlNode* node, Node& target)
         if (!DtHasXmlName(dimensions, tagDimensions))
             continue;
         for (const Value& value : valuesOf(dimensions))
-            if (!value.text.isEmpty() && std::strcmp(value.name, tagDimension) == 0)
+            if (!value.text.isEmpty() && value.name == tagDimension)
                 target.addDimension(value.text);
     }
 }
@@ -154,6 +151,6 @@ void DtXMLEvolvedFileReader::processUpdateRate(xmlNode*& node, DtOMTTree* tree)
 void DtXMLEvolvedFileReader::processEmbeddedNote(xmlNode*& node, DtOMTNode* target)
 {
     for (const Value& value : valuesOf(node))
-        if (!value.text.isEmpty() && std::strcmp(value.name, tagNote) == 0)
+        if (!value.text.isEmpty() && value.name == tagNote)
             target->setNote(value.text);
 }

@@ -34,7 +34,7 @@ public:
 protected:
     DtXMLEvolvedFileReader(DtExerciseConn* connection, DtHLAProtocolVersion version);
 
-    Values valuesOf(xmlNode* node) override;
+    void listValues(xmlNode* node, Values& values) override;
 
 private:
     template <typename Node>

@@ -26,10 +26,25 @@ double DtXmlToRate(const DtString& text)
     return rate;
 }
 
+void DtXMLModelReader::Values::add(const xmlChar* name, const xmlChar* text)
+{
+    if (myCount == myValues.size())
+        myValues.emplace_back();
+    Value& value = myValues[myCount++];
+    value.name = reinterpret_cast<const char*>(name);
+    value.text.assign(text != nullptr ? reinterpret_cast<const char*>(text) : "");
+}
+
+const DtXMLModelReader::Values& DtXMLModelReader::valuesOf(xmlNode* node)
+{
+    myValues.clear();
+    listValues(node, myValues);
+    return myValues;
+}
+
 bool DtXMLModelReader::hasName(const Values& values)
 {
-    return std::any_of(values.begin(), values.end(),
-                       [](const Value& value) { return std::strcmp(value.name, attrName) == 0; });
+    return std::any_of(values.begin(), values.end(), [](const Value& value) { return value.name == attrName; });
 }
 
 namespace

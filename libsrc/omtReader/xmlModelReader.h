@@ -6,8 +6,8 @@
 #include "omtReader/xmlDocument.h"
 #include "omtReader/xmlModelNames.h"
 
-#include <cstring>
 #include <memory>
+#include <string_view>
 #include <vector>
 
 class DtExerciseConn;
@@ -25,7 +25,7 @@ enum DtXmlForm
 template <typename Node>
 struct DtXmlField
 {
-    const char* name;
+    std::string_view name;
     void (Node::*setText)(const DtString&);
     DtXmlForm forms = DtXmlBothForms;
     void (*set)(Node&, const DtString&) = nullptr; // for values that are no texts
@@ -108,12 +108,22 @@ protected:
     };
     struct Value
     {
-        const char* name;
+        std::string_view name;
         DtString text;
     };
-    using Values = std::vector<Value>;
-    // Most constructs have no more; what makes the values sets room for so many aside at once.
-    static constexpr std::size_t theUsualValues = 8;
+    // The values of one element. Those of the next take their places, and so the memory of their texts.
+    class Values
+    {
+    public:
+        void clear() { myCount = 0; }
+        void add(const xmlChar* name, const xmlChar* text); // null stands for an empty text
+        const Value* begin() const { return myValues.data(); }
+        const Value* end() const { return myValues.data() + myCount; }
+
+    private:
+        std::vector<Value> myValues; // with those of earlier elements behind the count
+        std::size_t myCount = 0;
+    };
     // Names the operation that reads each child element of a name.
     template <typename Reader>
     struct Construct
@@ -126,7 +136,9 @@ protected:
 
     // Lists the texts in an element that may be values of its construct, in the order of the file and with the empty
     // ones; which of them are values is told by the fields.
-    virtual Values valuesOf(xmlNode* node) = 0;
+    virtual void listValues(xmlNode* node, Values& values) = 0;
+    // The values of the element, until they are asked for again.
+    const Values& valuesOf(xmlNode* node);
 
     // Give each child element that the constructs, or the one element name, tell of to its operation, in the order of
     // the file.
@@ -187,6 +199,7 @@ private:
 
     Format myFormat;
     DtString myLastError;
+    Values myValues;
     std::vector<DtString> myOddEnumerators; // of the current enumeration: those whose value the number does not hold
     [[maybe_unused]] DtExerciseConn* myConnection; // passed on by callers; never looked into
 };
@@ -217,7 +230,7 @@ void DtXMLModelReader::setFields(const Values& values, const DtXmlField<Node> (&
     for (const Value& value : values)
         for (const DtXmlField<Node>& field : fields)
         {
-            if ((field.forms & myFormat.form) == 0 || std::strcmp(field.name, value.name) != 0 ||
+            if ((field.forms & myFormat.form) == 0 || field.name != value.name ||
                 (value.text.isEmpty() && !myFormat.isEmptyTextSet))
                 continue;
             if (field.setText != nullptr)
@@ -257,7 +270,7 @@ template <typename Node, std::size_t theCount>
 std::unique_ptr<Node> DtXMLModelReader::readMember(xmlNode* node, const DtXmlField<Node> (&fields)[theCount],
                                                    const char* element)
 {
-    const Values values = valuesOf(node);
+    const Values& values = valuesOf(node);
     auto member = std::make_unique<Node>();
     setFields(values, fields, *member);
     setNoteLabels(node, *member);

@@ -1,7 +1,6 @@
 #include "codeGenApp/omtProjectXmlWriter.h"
 
 #include "foundation/fileUtils.h"
-#include "foundation/xmlDocumentOwner.h"
 #include "foundation/xmlText.h"
 
 #include <libxml/xmlerror.h>
@@ -14,6 +13,8 @@ namespace
 {
 
 const char theEncoding[] = "utf-8";
+const char theDeclaration[] = "<?xml version=\"1.0\" encoding=\"utf-8\"?>";
+const unsigned int theLargestValue = 10'000'000; // bytes of an attribute's value that the parser takes back
 
 struct DtFreeWriter
 {
@@ -26,8 +27,7 @@ const xmlChar* xmlText(const DtString& text)
     return reinterpret_cast<const xmlChar*>(text.c_str());
 }
 
-// The text writer answers with success when the document did not take what was written, a text beyond the limits of
-// libxml2 for one.
+// The text writer answers with success to some failures.
 bool hasXmlError()
 {
     const xmlError* error = xmlGetLastError();
@@ -39,15 +39,23 @@ void complain(const char* text)
     std::fputs(text, stderr);
 }
 
-std::string dumped(xmlDoc* document)
+int appendToText(void* text, const char* piece, int length)
 {
-    xmlChar* text = nullptr;
-    int length = 0;
-    xmlDocDumpFormatMemoryEnc(document, &text, &length, theEncoding, 1);
-    if (text == nullptr)
-        return std::string();
-    const std::unique_ptr<xmlChar, decltype(xmlFree)> owner(text, xmlFree);
-    return std::string(reinterpret_cast<const char*>(text), static_cast<std::size_t>(length));
+    static_cast<std::string*>(text)->append(piece, static_cast<std::size_t>(length));
+    return length;
+}
+
+// Writes to the text, the last of it when the writer goes. Null when there is no memory for it.
+DtTextWriter writerTo(std::string& text)
+{
+    xmlOutputBuffer* const buffer = xmlOutputBufferCreateIO(appendToText, nullptr, &text, nullptr);
+    DtTextWriter writer(buffer != nullptr ? xmlNewTextWriter(buffer) : nullptr); // which owns the buffer
+    if (writer == nullptr && buffer != nullptr)
+        xmlOutputBufferClose(buffer);
+    if (writer != nullptr &&
+        (xmlTextWriterSetIndent(writer.get(), 1) < 0 || xmlTextWriterSetIndentString(writer.get(), xmlText("  ")) < 0))
+        writer.reset();
+    return writer;
 }
 
 } // namespace
@@ -69,16 +77,18 @@ void DtOmtProjectXmlWriter::writeXml()
 
 std::string DtOmtProjectXmlWriter::text()
 {
-    xmlDoc* document = nullptr;
-    DtTextWriter writer(xmlNewTextWriterDoc(&document, 0));
+    std::string text;
+    DtTextWriter writer = writerTo(text);
     if (writer == nullptr)
         complain("Error creating the xml writer\n"); // the calls below fail too, each with its own line
     myIsComplete = true;
     xmlResetLastError();
     writeDocument(writer.get());
-    writer.reset(); // before the document, which it still uses
-    const DtXmlDocument owner(document);
-    return myIsComplete && !hasXmlError() ? dumped(document) : std::string();
+    writer.reset();
+    if (!myIsComplete || hasXmlError())
+        return std::string();
+    text.replace(0, text.find('\n'), theDeclaration); // the text writer spells the encoding in its own way
+    return text;
 }
 
 void DtOmtProjectXmlWriter::writeDocument(xmlTextWriter* writer)
@@ -227,6 +237,7 @@ void DtOmtProjectXmlWriter::endElement(xmlTextWriter* writer)
 
 void DtOmtProjectXmlWriter::writeAttribute(xmlTextWriter* writer, const char* name, const DtString& value)
 {
-    if (xmlTextWriterWriteAttribute(writer, xmlText(name), xmlText(DtXmlText(value))) < 0)
+    const DtString text = DtXmlText(value);
+    if (text.length() > theLargestValue || xmlTextWriterWriteAttribute(writer, xmlText(name), xmlText(text)) < 0)
         myIsComplete = false;
 }

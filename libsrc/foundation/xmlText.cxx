@@ -4,6 +4,7 @@
 
 #include <libxml/chvalid.h>
 
+#include <algorithm>
 #include <string_view>
 
 namespace
@@ -34,6 +35,12 @@ DtCharacter decode(std::string_view text)
     const bool isOverlong = (length == 3 && code < 0x800) || (length == 4 && code < 0x10000);
     const bool isSurrogate = code >= 0xd800 && code <= 0xdfff;
     return isOverlong || isSurrogate || code > 0x10ffff ? DtCharacter{} : DtCharacter{code, length};
+}
+
+// Of characters that every XML file holds as they are, which is most of what is written.
+bool isPlain(std::string_view text)
+{
+    return std::all_of(text.begin(), text.end(), [](char each) { return each >= ' ' && each < '\x7f'; });
 }
 
 bool isUtf8(std::string_view text)
@@ -88,6 +95,8 @@ DtString DtLatin1Text(const DtString& text)
 
 DtString DtXmlText(const DtString& text)
 {
+    if (isPlain(text.stdString()))
+        return text;
     const DtString converted = DtUtf8Text(text);
     const std::string& source = converted.stdString();
     std::string result;

@@ -9,7 +9,7 @@ class DtOmtAttribute : public DtOmtMember
 public:
     virtual void setEncoding(const DtString& encoding) { myEncoding = encoding; }
     virtual DtString encoding() const { return myEncoding; }
-    virtual void setOwningObject(const DtString& fullName) { myOwner = fullName; }
+    virtual void setOwningObject(const DtString& fullName) { myOwner = DtSharedText::recent(fullName); }
     virtual DtString owningObject() const { return myOwner; }
     // Path of a text file whose text takes the place of the generated one; empty when there is none.
     virtual void setCustomGenerationRef(const DtString& fileName) { myCustomGenerationRef = fileName; }

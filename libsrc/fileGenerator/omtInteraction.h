@@ -18,7 +18,7 @@ public:
         return memberFromName(name, &DtOmtParameter::setOwningInteraction);
     }
 
-    bool operator==(const DtOmtInteraction& other) const { return myFullName == other.myFullName; }
+    bool operator==(const DtOmtInteraction& other) const { return myFullName.get() == other.myFullName.get(); }
 };
 
 #endif

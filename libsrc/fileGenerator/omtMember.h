@@ -11,13 +11,16 @@
 class DtOmtMember : public DtOmtNode
 {
 public:
-    bool operator==(const DtOmtMember& other) const { return myOwner == other.myOwner && myName == other.myName; }
-    bool operator<(const DtOmtMember& other) const { return myName < other.myName; }
+    bool operator==(const DtOmtMember& other) const
+    {
+        return myOwner.get() == other.myOwner.get() && myName.get() == other.myName.get();
+    }
+    bool operator<(const DtOmtMember& other) const { return myName.get() < other.myName.get(); }
 
 protected:
-    DtString myEncoding;
-    DtString myOwner; // full name of the class that the member belongs to
-    DtString myCustomGenerationRef;
+    DtSharedText myEncoding;
+    DtSharedText myOwner; // full name of the class that the member belongs to
+    DtSharedText myCustomGenerationRef;
     bool myNoGen = false;
 };
 

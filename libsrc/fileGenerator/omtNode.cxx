@@ -10,7 +10,7 @@ DtOmtNode::~DtOmtNode() = default;
 
 void DtOmtNode::setFullName(DtString fullName)
 {
-    myFullName = std::move(fullName);
+    myFullName = DtSharedText::recent(fullName); // the members of a class name it, too
 }
 
 DtString DtOmtNode::fullName() const
@@ -20,7 +20,7 @@ DtString DtOmtNode::fullName() const
 
 void DtOmtNode::setName(DtString name)
 {
-    myName = std::move(name);
+    myName = DtSharedText::recent(name); // often the full name
 }
 
 DtString DtOmtNode::name() const
@@ -40,7 +40,7 @@ bool DtOmtNode::shouldRename() const
 
 void DtOmtNode::setRename(DtString rename)
 {
-    myRename = std::move(rename);
+    myRename = rename;
 }
 
 DtString DtOmtNode::rename() const
@@ -48,17 +48,26 @@ DtString DtOmtNode::rename() const
     return myRename;
 }
 
+// Copies share what they have in common, and each goes on by itself.
 DtString DtOmtNode::uuid(unsigned int index) const
 {
-    while (myUuids.size() <= index)
-        myUuids.push_back(newUuid());
-    return myUuids[index];
+    const std::size_t known = myUuids != nullptr ? myUuids->size() : 0;
+    if (index < known)
+        return (*myUuids)[index];
+    auto uuids = std::make_shared<std::vector<DtString>>();
+    uuids->reserve(index + 1);
+    if (myUuids != nullptr)
+        *uuids = *myUuids;
+    while (uuids->size() <= index)
+        uuids->push_back(newUuid(uuids->size()));
+    myUuids = uuids;
+    return uuids->back();
 }
 
-DtString DtOmtNode::newUuid() const
+DtString DtOmtNode::newUuid(std::size_t index) const
 {
     if (DtSettings::instance().files.makesNamedUuids)
-        return DtNamedUuid(myFullName + "#" + DtString(static_cast<unsigned int>(myUuids.size())));
+        return DtNamedUuid(myFullName.get() + "#" + DtString(static_cast<unsigned int>(index)));
     static boost::uuids::random_generator_mt19937 theGenerator; // seeded by the system
     return boost::uuids::to_string(theGenerator());
 }

@@ -1,8 +1,10 @@
 #ifndef FILE_GENERATOR_OMT_NODE_H
 #define FILE_GENERATOR_OMT_NODE_H
 
+#include "foundation/sharedText.h"
 #include "foundation/string.h"
 
+#include <memory>
 #include <vector>
 
 // Base of the records of a selection: the names of one chosen class, attribute or parameter and its identifiers.
@@ -29,17 +31,17 @@ public:
     // or follows from the full name where the settings say so.
     virtual DtString uuid(unsigned int index) const;
 
-    bool operator<(const DtOmtNode& other) const { return myFullName < other.myFullName; }
+    bool operator<(const DtOmtNode& other) const { return myFullName.get() < other.myFullName.get(); }
 
 protected:
-    DtString myFullName;
-    DtString myName;
+    DtSharedText myFullName;
+    DtSharedText myName;
     bool myShouldRename = false;
-    DtString myRename;
-    mutable std::vector<DtString> myUuids; // as many as were asked for
+    DtSharedText myRename;
+    mutable std::shared_ptr<const std::vector<DtString>> myUuids; // as many as were asked for; null for none
 
 private:
-    DtString newUuid() const;
+    DtString newUuid(std::size_t index) const;
 };
 
 #endif

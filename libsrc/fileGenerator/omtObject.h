@@ -18,8 +18,8 @@ public:
         return memberFromName(name, &DtOmtAttribute::setOwningObject);
     }
 
-    bool operator==(const DtOmtObject& other) const { return myFullName == other.myFullName; }
-    bool operator==(const DtString& fullName) const { return myFullName == fullName; }
+    bool operator==(const DtOmtObject& other) const { return myFullName.get() == other.myFullName.get(); }
+    bool operator==(const DtString& fullName) const { return myFullName.get() == fullName; }
 };
 
 #endif

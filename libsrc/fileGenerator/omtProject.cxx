@@ -362,9 +362,9 @@ DtString DtOmtProject::getUniqueName(const DtString& fullName)
         return known->second;
     DtString base = fullName;
     base.snipFrontToLast('.');
-    const DtString name = firstFreeName(base);
+    const DtSharedText name = DtSharedText::recent(firstFreeName(base)); // the record of the class has both, too
     myUsedNames.insert(name);
-    myUniqueNames[fullName] = name;
+    myUniqueNames.emplace(DtSharedText::recent(fullName), name);
     return name;
 }
 

@@ -114,9 +114,15 @@ private:
     DtContent& change();
     DtString firstFreeName(const DtString& base);
 
+    struct DtTextOrder
+    {
+        using is_transparent = void;
+        bool operator()(const DtString& left, const DtString& right) const { return left < right; }
+    };
+
     std::shared_ptr<DtContent> myContent; // never null
-    std::map<DtString, DtString> myUniqueNames;
-    std::set<DtString> myUsedNames;
+    std::map<DtSharedText, DtSharedText, DtTextOrder> myUniqueNames;
+    std::set<DtSharedText, DtTextOrder> myUsedNames;
     std::map<DtString, unsigned int> myNextNumbers; // by base name: all lower ones are in use
 };
 

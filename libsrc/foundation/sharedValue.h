@@ -13,25 +13,34 @@ template <typename Value>
 class DtSharedValue
 {
 public:
-    DtSharedValue() : myValue(std::make_shared<Value>()) {}
+    DtSharedValue() = default;
     explicit DtSharedValue(Value value) : myValue(std::make_shared<Value>(std::move(value))) {}
     // There is no move, which would leave nothing behind.
     DtSharedValue(const DtSharedValue&) = default;
     DtSharedValue& operator=(const DtSharedValue&) = default;
     ~DtSharedValue() = default;
 
-    const Value& operator*() const { return *myValue; }
-    const Value* operator->() const { return myValue.get(); }
+    const Value& operator*() const { return myValue != nullptr ? *myValue : initialValue(); }
+    const Value* operator->() const { return &**this; }
     // References are good until the next change of a copy that was made in between.
     Value& change()
     {
-        if (myValue.use_count() > 1)
+        if (myValue == nullptr)
+            myValue = std::make_shared<Value>();
+        else if (myValue.use_count() > 1)
             myValue = std::make_shared<Value>(*myValue);
         return *myValue;
     }
 
 private:
-    std::shared_ptr<Value> myValue; // never null
+    // Never destroyed: values may go with the process.
+    static const Value& initialValue()
+    {
+        static const auto* const theValue = new Value();
+        return *theValue;
+    }
+
+    std::shared_ptr<Value> myValue; // null as long as it is the initial one
 };
 
 #endif

@@ -12,28 +12,34 @@ class DtAttributeFedNode : public DtDatatypeFedNode
 public:
     using DtDatatypeFedNode::DtDatatypeFedNode;
 
-    virtual void setUpdateType(const DtString& type) { myUpdateType = type; }
-    virtual const DtString& getUpdateType() const { return myUpdateType; }
-    virtual void setUpdateCondition(const DtString& condition) { myUpdateCondition = condition; }
-    virtual const DtString& getUpdateCondition() const { return myUpdateCondition; }
-    virtual void setTransferAccept(const DtString& transferAccept) { myTransferAccept = transferAccept; }
-    virtual const DtString& getTransferAccept() const { return myTransferAccept; }
-    virtual void setSharing(const DtString& sharing) { mySharing = sharing; }
-    virtual const DtString& getSharing() const { return mySharing; }
-    virtual void setTransportation(const DtString& transportation) { myTransportation = transportation; }
-    virtual const DtString& getTransportation() const { return myTransportation; }
-    virtual void setOrder(const DtString& order) { myOrder = order; }
-    virtual const DtString& getOrder() const { return myOrder; }
+    virtual void setUpdateType(const DtString& type) { myUpdateType = DtSharedText::recent(type); }
+    virtual const DtString& getUpdateType() const { return myUpdateType.get(); }
+    virtual void setUpdateCondition(const DtString& condition) { myUpdateCondition = DtSharedText::recent(condition); }
+    virtual const DtString& getUpdateCondition() const { return myUpdateCondition.get(); }
+    virtual void setTransferAccept(const DtString& transferAccept)
+    {
+        myTransferAccept = DtSharedText::recent(transferAccept);
+    }
+    virtual const DtString& getTransferAccept() const { return myTransferAccept.get(); }
+    virtual void setSharing(const DtString& sharing) { mySharing = DtSharedText::recent(sharing); }
+    virtual const DtString& getSharing() const { return mySharing.get(); }
+    virtual void setTransportation(const DtString& transportation)
+    {
+        myTransportation = DtSharedText::recent(transportation);
+    }
+    virtual const DtString& getTransportation() const { return myTransportation.get(); }
+    virtual void setOrder(const DtString& order) { myOrder = DtSharedText::recent(order); }
+    virtual const DtString& getOrder() const { return myOrder.get(); }
     virtual void addDimension(const DtString& dimension) { myDimensions.push_back(dimension); }
     virtual const std::list<DtString>& getDimensions() const { return myDimensions; }
 
 private:
-    DtString myUpdateType;
-    DtString myUpdateCondition;
-    DtString myTransferAccept;
-    DtString mySharing;
-    DtString myTransportation;
-    DtString myOrder;
+    DtSharedText myUpdateType;
+    DtSharedText myUpdateCondition;
+    DtSharedText myTransferAccept;
+    DtSharedText mySharing;
+    DtSharedText myTransportation;
+    DtSharedText myOrder;
     std::list<DtString> myDimensions;
 };
 

@@ -8,7 +8,7 @@
 
 void DtDatatypeFedNode::setCardinality(const DtString& cardinality)
 {
-    myCardinality = cardinality;
+    myCardinality = DtSharedText::recent(cardinality);
     myIsStale = true;
 }
 
@@ -44,7 +44,7 @@ void DtDatatypeFedNode::setDerivedValues() const
     myCardinalityMaximum = 1;
     if (DtIsBlank(myCardinality))
         return;
-    std::istringstream in(myCardinality.stdString());
+    std::istringstream in(myCardinality.get().stdString());
     in.imbue(std::locale::classic());
     myCardinalityMinimum = DtReadInteger(in);
     myCardinalityMaximum = myCardinalityMinimum;

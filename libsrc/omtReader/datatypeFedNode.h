@@ -19,16 +19,19 @@ public:
 
     using DtFedNode::DtFedNode;
 
-    virtual void setDatatype(const DtString& datatype) { myDatatype = datatype; }
-    virtual const DtString& getDatatype() const { return myDatatype; }
+    virtual void setDatatype(const DtString& datatype) { myDatatype = DtSharedText::recent(datatype); }
+    virtual const DtString& getDatatype() const { return myDatatype.get(); }
     virtual void setCardinality(const DtString& cardinality);
-    virtual const DtString& getCardinality() const { return myCardinality; }
-    virtual void setAccuracy(const DtString& accuracy) { myAccuracy = accuracy; }
-    virtual const DtString& getAccuracy() const { return myAccuracy; }
-    virtual void setAccuracyCondition(const DtString& condition) { myAccuracyCondition = condition; }
-    virtual const DtString& getAccuracyCondition() const { return myAccuracyCondition; }
+    virtual const DtString& getCardinality() const { return myCardinality.get(); }
+    virtual void setAccuracy(const DtString& accuracy) { myAccuracy = DtSharedText::recent(accuracy); }
+    virtual const DtString& getAccuracy() const { return myAccuracy.get(); }
+    virtual void setAccuracyCondition(const DtString& condition)
+    {
+        myAccuracyCondition = DtSharedText::recent(condition);
+    }
+    virtual const DtString& getAccuracyCondition() const { return myAccuracyCondition.get(); }
     virtual void setDescription(const DtString& description) { myDescription = description; }
-    virtual const DtString& getDescription() const { return myDescription; }
+    virtual const DtString& getDescription() const { return myDescription.get(); }
     virtual DtCardinalityType getCardinalityType() const;
     virtual int getCardinalityMinimum() const;
     virtual int getCardinalityMaximum() const;
@@ -37,11 +40,11 @@ public:
 private:
     void deriveIfStale() const;
 
-    DtString myDatatype;
-    DtString myCardinality{"1"};
-    DtString myAccuracy;
-    DtString myAccuracyCondition;
-    DtString myDescription;
+    DtSharedText myDatatype;
+    DtSharedText myCardinality = DtSharedText::recent("1");
+    DtSharedText myAccuracy;
+    DtSharedText myAccuracyCondition;
+    DtSharedText myDescription;
     mutable DtCardinalityType myCardinalityType = 0;
     mutable int myCardinalityMinimum = 1;
     mutable int myCardinalityMaximum = 1;

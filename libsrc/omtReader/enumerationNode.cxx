@@ -44,7 +44,7 @@ std::string integerOf(const DtString& text)
 
 DtString DtEnumerationNode::numberText() const
 {
-    const std::string integer = integerOf(myValueText);
+    const std::string integer = integerOf(myValueText.get());
     return integer.empty() ? DtString(myNumber) : DtString(integer);
 }
 
@@ -53,7 +53,8 @@ bool DtEnumerationNode::isNumberTheValue() const
 {
     char digits[16];
     const char* const end = std::to_chars(std::begin(digits), std::end(digits), myNumber).ptr;
-    if (std::string_view(digits, static_cast<std::size_t>(end - digits)) == myValueText.stdString())
+    if (std::string_view(digits, static_cast<std::size_t>(end - digits)) == myValueText.get().stdString())
         return true;
-    return trimmed(myValueText.stdString()).empty() || DtString(integerOf(myValueText)) == DtString(myNumber);
+    return trimmed(myValueText.get().stdString()).empty() ||
+           DtString(integerOf(myValueText.get())) == DtString(myNumber);
 }

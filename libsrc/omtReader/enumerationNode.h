@@ -1,6 +1,7 @@
 #ifndef OMT_READER_ENUMERATION_NODE_H
 #define OMT_READER_ENUMERATION_NODE_H
 
+#include "foundation/sharedText.h"
 #include "foundation/string.h"
 
 // One enumerator: a name and its number. The value that a model states may be longer than the number, or none at all,
@@ -19,11 +20,11 @@ public:
     virtual int getNumber() const { return myNumber; }
 
     // As the model states it; empty where it states none.
-    void setValueText(const DtString& text) { myValueText = text; }
-    const DtString& valueText() const { return myValueText; }
+    void setValueText(const DtString& text) { myValueText = DtSharedText::recent(text); }
+    const DtString& valueText() const { return myValueText.get(); }
     // As those of a DtOMTNode.
     void setNoteLabels(const DtString& labels) { myNoteLabels = labels; }
-    const DtString& noteLabels() const { return myNoteLabels; }
+    const DtString& noteLabels() const { return myNoteLabels.get(); }
     // In decimal digits: the value where it is an integer of 64 bits, with or without a sign, and the number otherwise.
     DtString numberText() const;
     // False when a value is stated that the number does not hold.
@@ -32,8 +33,8 @@ public:
 private:
     DtString myEnum;
     int myNumber = 0;
-    DtString myValueText;
-    DtString myNoteLabels;
+    DtSharedText myValueText;
+    DtSharedText myNoteLabels;
 };
 
 #endif

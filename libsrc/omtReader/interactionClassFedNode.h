@@ -28,13 +28,16 @@ public:
     virtual const std::list<DtInteractionClassFedNode*>& getChildInteractions() const { return myChildren.nodes(); }
     virtual const std::list<DtParameterFedNode*>& getParameters() const { return myParameters; }
     virtual void setDescriptor(const DtString& descriptor) { myDescriptor = descriptor; }
-    virtual const DtString& getDescriptor() const { return myDescriptor; }
-    virtual void setSharing(const DtString& sharing) { mySharing = sharing; }
-    virtual const DtString& getSharing() const { return mySharing; }
-    virtual void setTransportation(const DtString& transportation) { myTransportation = transportation; }
-    virtual const DtString& getTransportation() const { return myTransportation; }
-    virtual void setOrder(const DtString& order) { myOrder = order; }
-    virtual const DtString& getOrder() const { return myOrder; }
+    virtual const DtString& getDescriptor() const { return myDescriptor.get(); }
+    virtual void setSharing(const DtString& sharing) { mySharing = DtSharedText::recent(sharing); }
+    virtual const DtString& getSharing() const { return mySharing.get(); }
+    virtual void setTransportation(const DtString& transportation)
+    {
+        myTransportation = DtSharedText::recent(transportation);
+    }
+    virtual const DtString& getTransportation() const { return myTransportation.get(); }
+    virtual void setOrder(const DtString& order) { myOrder = DtSharedText::recent(order); }
+    virtual const DtString& getOrder() const { return myOrder.get(); }
     virtual void addDimension(const DtString& dimension) { myDimensions.push_back(dimension); }
     virtual const std::list<DtString>& getDimensions() const { return myDimensions; }
     virtual void setIdentifier(int identifier) { myIdentifier = identifier; }
@@ -47,10 +50,10 @@ public:
 private:
     std::list<DtParameterFedNode*> myParameters;
     DtClassChildren<DtInteractionClassFedNode> myChildren;
-    DtString myDescriptor;
-    DtString mySharing;
-    DtString myTransportation;
-    DtString myOrder;
+    DtSharedText myDescriptor;
+    DtSharedText mySharing;
+    DtSharedText myTransportation;
+    DtSharedText myOrder;
     std::list<DtString> myDimensions;
     int myIdentifier = 0;       // number of the class in the OMT text format
     int myParentIdentifier = 0; // and of its superclass there

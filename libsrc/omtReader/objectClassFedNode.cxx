@@ -1,5 +1,7 @@
 #include "omtReader/objectClassFedNode.h"
 
+#include <algorithm>
+
 DtObjectClassFedNode::DtObjectClassFedNode(const DtObjectClassFedNode& other)
     : DtFedNode(other),
       myDescriptor(other.myDescriptor),
@@ -24,7 +26,6 @@ void DtObjectClassFedNode::addAttribute(DtAttributeFedNode* attribute)
         return;
     attribute->setParentObject(this);
     myAttributes.push_back(attribute);
-    myAttributeIndex[attribute->getName()] = attribute;
 }
 
 void DtObjectClassFedNode::associateAttribute(DtAttributeFedNode* /*attribute*/)
@@ -47,8 +48,10 @@ DtObjectClassFedNode* DtObjectClassFedNode::findChildObject(const char* path)
 
 DtAttributeFedNode* DtObjectClassFedNode::findAttribute(const char* name) const
 {
-    const auto found = myAttributeIndex.find(name);
-    return found != myAttributeIndex.end() ? found->second : nullptr;
+    const auto found = std::find_if(myAttributes.rbegin(), myAttributes.rend(),
+                                    [name](const DtAttributeFedNode* attribute)
+                                    { return attribute != nullptr && attribute->getName() == name; });
+    return found != myAttributes.rend() ? *found : nullptr;
 }
 
 void DtObjectClassFedNode::removeAttributes()
@@ -58,5 +61,4 @@ void DtObjectClassFedNode::removeAttributes()
         delete attribute;
         attribute = nullptr;
     }
-    myAttributeIndex.clear();
 }

@@ -5,7 +5,6 @@
 #include "omtReader/classChildren.h"
 
 #include <list>
-#include <map>
 
 // One object class (IEEE 1516.2-2010, clause 4.2). Owns its attributes; its subclasses belong to the tree's list of
 // object classes.
@@ -29,9 +28,9 @@ public:
     virtual const std::list<DtObjectClassFedNode*>& getChildObjects() const { return myChildren.nodes(); }
     virtual const std::list<DtAttributeFedNode*>& getAttributes() const { return myAttributes; }
     virtual void setDescriptor(const DtString& descriptor) { myDescriptor = descriptor; }
-    virtual const DtString& getDescriptor() const { return myDescriptor; }
-    virtual void setSharing(const DtString& sharing) { mySharing = sharing; }
-    virtual const DtString& getSharing() const { return mySharing; }
+    virtual const DtString& getDescriptor() const { return myDescriptor.get(); }
+    virtual void setSharing(const DtString& sharing) { mySharing = DtSharedText::recent(sharing); }
+    virtual const DtString& getSharing() const { return mySharing.get(); }
     virtual void setIdentifier(int identifier) { myIdentifier = identifier; }
     virtual int getIdentifier() const { return myIdentifier; }
     virtual void setParentIdentifier(int identifier) { myParentIdentifier = identifier; }
@@ -41,10 +40,9 @@ public:
 
 private:
     std::list<DtAttributeFedNode*> myAttributes;
-    std::map<DtString, DtAttributeFedNode*> myAttributeIndex;
     DtClassChildren<DtObjectClassFedNode> myChildren;
-    DtString myDescriptor;
-    DtString mySharing;
+    DtSharedText myDescriptor;
+    DtSharedText mySharing;
     int myIdentifier = 0;       // number of the class in the OMT text format
     int myParentIdentifier = 0; // and of its superclass there
 };

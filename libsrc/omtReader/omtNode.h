@@ -1,6 +1,7 @@
 #ifndef OMT_READER_OMT_NODE_H
 #define OMT_READER_OMT_NODE_H
 
+#include "foundation/sharedText.h"
 #include "foundation/string.h"
 
 // Root of the node classes: one named entry of an object model.
@@ -16,20 +17,20 @@ public:
     DtOMTNode& operator=(const DtOMTNode&) = default;
 
     virtual void setName(const DtString& name) { myName = name; }
-    virtual const DtString& getName() const { return myName; }
+    virtual const DtString& getName() const { return myName.get(); }
     virtual void setUniqueName(const DtString& name) { myUniqueName = name; }
-    virtual const DtString& getUniqueName() const { return myUniqueName; }
+    virtual const DtString& getUniqueName() const { return myUniqueName.get(); }
     virtual void setNote(const DtString& note) { myNote = note; }
-    virtual const DtString& getNote() const { return myNote; }
+    virtual const DtString& getNote() const { return myNote.get(); }
     // The labels of the notes that the model refers to at the node and its values, with blanks in between.
     void setNoteLabels(const DtString& labels) { myNoteLabels = labels; }
-    const DtString& noteLabels() const { return myNoteLabels; }
+    const DtString& noteLabels() const { return myNoteLabels.get(); }
 
 private:
-    DtString myName;
-    DtString myNote;
-    DtString myUniqueName;
-    DtString myNoteLabels;
+    DtSharedText myName;
+    DtSharedText myNote;
+    DtSharedText myUniqueName;
+    DtSharedText myNoteLabels;
 };
 
 #endif

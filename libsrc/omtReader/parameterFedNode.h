@@ -10,17 +10,20 @@ class DtParameterFedNode : public DtDatatypeFedNode
 public:
     using DtDatatypeFedNode::DtDatatypeFedNode;
 
-    virtual void setSharing(const DtString& sharing) { mySharing = sharing; }
-    virtual const DtString& getSharing() const { return mySharing; }
-    virtual void setTransportation(const DtString& transportation) { myTransportation = transportation; }
-    virtual const DtString& getTransportation() const { return myTransportation; }
-    virtual void setOrder(const DtString& order) { myOrder = order; }
-    virtual const DtString& getOrder() const { return myOrder; }
+    virtual void setSharing(const DtString& sharing) { mySharing = DtSharedText::recent(sharing); }
+    virtual const DtString& getSharing() const { return mySharing.get(); }
+    virtual void setTransportation(const DtString& transportation)
+    {
+        myTransportation = DtSharedText::recent(transportation);
+    }
+    virtual const DtString& getTransportation() const { return myTransportation.get(); }
+    virtual void setOrder(const DtString& order) { myOrder = DtSharedText::recent(order); }
+    virtual const DtString& getOrder() const { return myOrder.get(); }
 
 private:
-    DtString mySharing;
-    DtString myTransportation;
-    DtString myOrder;
+    DtSharedText mySharing;
+    DtSharedText myTransportation;
+    DtSharedText myOrder;
 };
 
 #endif

@@ -254,8 +254,7 @@ QTreeWidgetItem* DtListViewManager::rightTopLevelItem(const QString& text)
 
 QTreeWidgetItem* DtListViewManager::rightChild(QTreeWidgetItem* parent, const QString& text) const
 {
-    const auto children = myRightChildren.find(parent);
-    return children == myRightChildren.end() ? nullptr : children->value(text, nullptr);
+    return myRightChildren.value({parent, text}, nullptr);
 }
 
 QTreeWidgetItem* DtListViewManager::addRightChild(QTreeWidgetItem* parent, QTreeWidgetItem* leftItem)
@@ -264,7 +263,7 @@ QTreeWidgetItem* DtListViewManager::addRightChild(QTreeWidgetItem* parent, QTree
     auto* const item = new QTreeWidgetItem(parent, QStringList(text));
     if (!parent->isExpanded())
         parent->setExpanded(true);
-    myRightChildren[parent].insert(text, item);
+    myRightChildren.insert({parent, text}, item);
     myRightWidgetsByLeftWidgets[item] = leftItem;
     return item;
 }
@@ -328,11 +327,10 @@ void DtListViewManager::forget(QTreeWidgetItem* item)
 {
     for (int index = 0; index < item->childCount(); ++index)
         forget(item->child(index));
-    myRightChildren.remove(item);
     myRightWidgetsByLeftWidgets.erase(item);
-    const auto siblings = myRightChildren.find(item->parent());
-    if (siblings != myRightChildren.end() && siblings->value(item->text(0), nullptr) == item)
-        siblings->remove(item->text(0));
+    const auto entry = myRightChildren.find({item->parent(), item->text(0)});
+    if (entry != myRightChildren.end() && entry.value() == item)
+        myRightChildren.erase(entry);
 }
 
 const std::set<DtOmtObject>& DtListViewManager::objectsToGenerate(const DtItemMap& objectItems)

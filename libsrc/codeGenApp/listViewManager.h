@@ -5,6 +5,7 @@
 #include "fileGenerator/omtObject.h"
 
 #include <QtCore/QHash>
+#include <QtCore/QPair>
 #include <QtWidgets/QTreeWidget>
 
 #include <map>
@@ -91,7 +92,7 @@ private:
     std::set<DtOmtObject> objects;
     std::set<DtOmtInteraction> interactions;
     std::map<QTreeWidgetItem*, QTreeWidgetItem*> myRightWidgetsByLeftWidgets;
-    QHash<QTreeWidgetItem*, QHash<QString, QTreeWidgetItem*>> myRightChildren; // first child of each text
+    QHash<QPair<QTreeWidgetItem*, QString>, QTreeWidgetItem*> myRightChildren; // by parent, the first of each text
 };
 
 #endif

@@ -419,7 +419,8 @@ void DtOMTEnvWriter::addObjectToFile(DtString name, std::set<DtString>& done)
                                     *record, myProject != nullptr ? *myProject : DtOmtProject());
     done.insert(name);
     const DtFedNode* parent = node->getParentObject();
-    addInheritedMembers(generator, *node, tree().objectClassRoot());
+    if (myGenerateExamples)
+        addInheritedMembers(generator, *node, tree().objectClassRoot());
     generateClass(generator, DtSubject::objectClass(name), parent,
                   parent != nullptr ? objectParentName(*parent) : DtString(), node->getAttributes(),
                   DtDocumentation::instance().of(*node));
@@ -441,7 +442,8 @@ void DtOMTEnvWriter::addInteractionToFile(DtString name, std::set<DtString>& don
                                          myProject != nullptr ? *myProject : DtOmtProject());
     done.insert(name);
     const DtFedNode* parent = node->getParentObject();
-    addInheritedMembers(generator, *node, tree().interactionClassRoot());
+    if (myGenerateExamples)
+        addInheritedMembers(generator, *node, tree().interactionClassRoot());
     generateClass(generator, DtSubject::interactionClass(name), parent,
                   parent != nullptr ? interactionParentName(*parent) : DtString(), node->getParameters(),
                   DtDocumentation::instance().of(*node));

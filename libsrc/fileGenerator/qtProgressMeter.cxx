@@ -136,6 +136,8 @@ void DtQtProgressMeter::makeDialog()
     myDialog->setLabel(myLabel);
     myDialog->setFixedWidth(theWidth);
     myCharacterWidths.fill(0);
+    myLineWidth = theWidth - myDialog->style()->pixelMetric(QStyle::PM_LayoutLeftMargin) -
+                  myDialog->style()->pixelMetric(QStyle::PM_LayoutRightMargin);
     const int twoLines = 2 * myLabel->fontMetrics().lineSpacing(); // most names need one of their own
     myDialog->setFixedHeight(myDialog->sizeHint().height() - myLabel->sizeHint().height() + twoLines);
     myDialog->setWindowTitle(theTitle);
@@ -166,14 +168,12 @@ void DtQtProgressMeter::showLabel(const DtString& text)
 // The label breaks lines behind blanks and slashes; what is wider than a line between these loses its middle.
 QString DtQtProgressMeter::fitted(const QString& text)
 {
-    const int margins = myDialog->style()->pixelMetric(QStyle::PM_LayoutLeftMargin) +
-                        myDialog->style()->pixelMetric(QStyle::PM_LayoutRightMargin);
     QString result;
     for (int at = 0, end = 0; at < text.size(); at = end)
     {
         const int separator = nextSeparator(text, at);
         end = separator < 0 ? text.size() : separator + 1;
-        result += shortened(text.mid(at, end - at), theWidth - margins);
+        result += shortened(text.mid(at, end - at), myLineWidth);
     }
     return result;
 }

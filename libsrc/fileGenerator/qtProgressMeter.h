@@ -70,6 +70,7 @@ private:
     bool myIsCancelled = false;
     bool myIsInitialized = false;
     QElapsedTimer mySincePainted;
+    int myLineWidth = 0;                         // pixels in the dialog between its margins
     std::array<int, 128> myCharacterWidths = {}; // by ASCII code, in the font of the label; 0 until it is asked for
 };
 

@@ -91,17 +91,17 @@ void DtXmlNodeBlocks::refill(Node*& list, int& count)
     myBlocks.push_back({std::move(memory), end});
 }
 
-bool DtXmlNodeBlocks::holds(const void* node) const
+bool DtXmlNodeBlocks::holds(const void* node, std::size_t& lastBlock) const
 {
     const auto* const byte = static_cast<const unsigned char*>(node);
     const auto isIn = [byte](const DtBlock& block)
     { return !std::less<>()(byte, block.memory.get()) && std::less<>()(byte, block.end); };
-    if (myLastBlock < myBlocks.size() && isIn(myBlocks[myLastBlock]))
+    if (lastBlock < myBlocks.size() && isIn(myBlocks[lastBlock]))
         return true;
     const auto found = std::find_if(myBlocks.begin(), myBlocks.end(), isIn);
     if (found == myBlocks.end())
         return false;
-    myLastBlock = static_cast<std::size_t>(found - myBlocks.begin());
+    lastBlock = static_cast<std::size_t>(found - myBlocks.begin());
     return true;
 }
 
@@ -117,7 +117,7 @@ void DtXmlNodeBlocks::releaseNodes(xmlNode* first)
             releaseAttributes(std::exchange(node->properties, nullptr));
             xmlFreeNsList(std::exchange(node->nsDef, nullptr));
         }
-        if (node->type != XML_DTD_NODE && !holds(node))
+        if (node->type != XML_DTD_NODE && !holds(node, myLastNodeBlock))
             xmlFreeNode(node);
         else if (node->type == XML_TEXT_NODE)
             releaseText(*node);
@@ -131,7 +131,7 @@ void DtXmlNodeBlocks::releaseAttributes(xmlAttr* first)
     {
         xmlAttr* const next = attribute->next;
         releaseNodes(std::exchange(attribute->children, nullptr));
-        if (!holds(attribute))
+        if (!holds(attribute, myLastAttributeBlock))
             xmlFreeProp(attribute);
         attribute = next;
     }

@@ -37,14 +37,16 @@ private:
                              const xmlChar** attributes);
     template <typename Node>
     void refill(Node*& list, int& count);
-    bool holds(const void* node) const;
+    // lastBlock: that held a node of the kind; the next one is likely to be there, too.
+    bool holds(const void* node, std::size_t& lastBlock) const;
     void releaseNodes(xmlNode* first);
     void releaseAttributes(xmlAttr* first);
     static void releaseText(xmlNode& node);
 
     xmlParserCtxt* myContext = nullptr; // while it parses; the library parses entities with others
     std::vector<DtBlock> myBlocks;
-    mutable std::size_t myLastBlock = 0; // that held a node: the next one is likely to be there, too
+    std::size_t myLastNodeBlock = 0;
+    std::size_t myLastAttributeBlock = 0;
 };
 
 // Frees a document of a model, with its blocks.

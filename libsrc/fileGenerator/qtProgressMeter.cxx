@@ -168,6 +168,8 @@ void DtQtProgressMeter::showLabel(const DtString& text)
 // The label breaks lines behind blanks and slashes; what is wider than a line between these loses its middle.
 QString DtQtProgressMeter::fitted(const QString& text)
 {
+    if (widthOf(text) < myLineWidth) // as most are
+        return text;
     QString result;
     for (int at = 0, end = 0; at < text.size(); at = end)
     {
@@ -182,10 +184,7 @@ QString DtQtProgressMeter::fitted(const QString& text)
 // the library does for this, takes as long as to write a small file.
 QString DtQtProgressMeter::shortened(const QString& piece, int width)
 {
-    int whole = 0;
-    for (const QChar character : piece)
-        whole += widthOf(character);
-    if (whole < width)
+    if (widthOf(piece) < width)
         return piece;
     const QChar ellipsis(0x2026);
     int left = width - widthOf(ellipsis);
@@ -200,6 +199,14 @@ QString DtQtProgressMeter::shortened(const QString& piece, int width)
         ++(isFront ? front : back);
     }
     return piece.left(front) + ellipsis + piece.right(back);
+}
+
+int DtQtProgressMeter::widthOf(const QString& text)
+{
+    int width = 0;
+    for (const QChar character : text)
+        width += widthOf(character);
+    return width;
 }
 
 int DtQtProgressMeter::widthOf(QChar character)

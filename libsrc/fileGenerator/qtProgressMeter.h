@@ -55,6 +55,7 @@ private:
     void showLabel(const DtString& text);
     QString fitted(const QString& text);
     QString shortened(const QString& piece, int width);
+    int widthOf(const QString& text);
     int widthOf(QChar character);
     void processEvents();
     void suspendPainting();

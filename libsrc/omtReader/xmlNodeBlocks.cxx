@@ -43,6 +43,7 @@ void DtXmlNodeBlocks::free(xmlDoc* document)
     if (document == nullptr)
         return;
     const std::unique_ptr<DtXmlNodeBlocks> blocks(static_cast<DtXmlNodeBlocks*>(document->_private));
+    blocks->sortBlocks();
     xmlFreeIDTable(static_cast<xmlIDTable*>(std::exchange(document->ids, nullptr))); // it points to attributes
     blocks->releaseNodes(document->children);
     xmlNode* const dtd = reinterpret_cast<xmlNode*>(document->intSubset);
@@ -91,6 +92,13 @@ void DtXmlNodeBlocks::refill(Node*& list, int& count)
     myBlocks.push_back({std::move(memory), end});
 }
 
+// By their places, so that a node is found among many in few steps, and one that lies in none soon enough, too.
+void DtXmlNodeBlocks::sortBlocks()
+{
+    std::sort(myBlocks.begin(), myBlocks.end(),
+              [](const DtBlock& left, const DtBlock& right) { return std::less<>()(left.end, right.end); });
+}
+
 bool DtXmlNodeBlocks::holds(const void* node, std::size_t& lastBlock) const
 {
     const auto* const byte = static_cast<const unsigned char*>(node);
@@ -98,8 +106,9 @@ bool DtXmlNodeBlocks::holds(const void* node, std::size_t& lastBlock) const
     { return !std::less<>()(byte, block.memory.get()) && std::less<>()(byte, block.end); };
     if (lastBlock < myBlocks.size() && isIn(myBlocks[lastBlock]))
         return true;
-    const auto found = std::find_if(myBlocks.begin(), myBlocks.end(), isIn);
-    if (found == myBlocks.end())
+    const auto endsAhead = [](const DtBlock& block, const unsigned char* at) { return !std::less<>()(at, block.end); };
+    const auto found = std::lower_bound(myBlocks.begin(), myBlocks.end(), byte, endsAhead);
+    if (found == myBlocks.end() || !isIn(*found))
         return false;
     lastBlock = static_cast<std::size_t>(found - myBlocks.begin());
     return true;

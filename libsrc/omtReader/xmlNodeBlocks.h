@@ -37,7 +37,8 @@ private:
                              const xmlChar** attributes);
     template <typename Node>
     void refill(Node*& list, int& count);
-    // lastBlock: that held a node of the kind; the next one is likely to be there, too.
+    void sortBlocks();
+    // Of sorted blocks. lastBlock: that held a node of the kind; the next one is likely to be there, too.
     bool holds(const void* node, std::size_t& lastBlock) const;
     void releaseNodes(xmlNode* first);
     void releaseAttributes(xmlAttr* first);

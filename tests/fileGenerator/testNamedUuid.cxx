@@ -52,6 +52,20 @@ private Q_SLOTS:
         other.setFullName("HLAobjectRoot.Car");
         QVERIFY(!(car.uuid(1) == other.uuid(1)));
     }
+
+    void copiesShareTheIdentifiersThatWereThere()
+    {
+        const DtRunScope scope;
+        DtOmtObject car;
+        car.setFullName("HLAobjectRoot.Car");
+        const QString first(car.uuid(0).c_str());
+        const DtOmtObject copy = car;
+        QCOMPARE(QString(copy.uuid(0).c_str()), first);
+        const QString own(copy.uuid(1).c_str());
+        QVERIFY(own != QString(car.uuid(1).c_str()));
+        QCOMPARE(QString(copy.uuid(1).c_str()), own);
+        QCOMPARE(QString(car.uuid(0).c_str()), first);
+    }
 };
 
 QX_REGISTER_TEST(TestNamedUuid)

@@ -626,15 +626,17 @@ private Q_SLOTS:
         const DtBrowser browser;
         if (!browser.isThere())
             QSKIP("Chromium is not installed: the page is not tried in a browser.");
-        const DtPage page = browser.open(withScript(
-            pageOfText("a.xml", hostileModel()).bytes(),
-            "var anchors = Array.from(document.querySelectorAll('main a.ref')), left = anchors.length, bad = [];"
-            "note('links', left); anchors.forEach(function (anchor, at) { setTimeout(function () { anchor.click();"
-            "var current = document.querySelector('#contents [aria-current]'); setTimeout(function () {"
-            "current = document.querySelector('#contents [aria-current]');"
-            "if (!current || current.getAttribute('href') !== anchor.getAttribute('href'))"
-            "{ bad.push(anchor.textContent); } left -= 1; note('left', left); note('bad', bad.join(' ') + '.'); }, 20);"
-            "}, 60 * at); });"));
+        const DtPage page = browser.open(
+            withScript(pageOfText("a.xml", hostileModel()).bytes(),
+                       "var anchors = Array.from(document.querySelectorAll('main a.ref')), bad = [];"
+                       "note('links', anchors.length); visit(0);"
+                       "function visit(at) { note('left', anchors.length - at); note('bad', bad.join(' ') + '.');"
+                       "if (at === anchors.length) { return; } anchors[at].click(); wait(at, 50); }"
+                       "function wait(at, rounds) { var current = document.querySelector('#contents [aria-current]');"
+                       "var shown = current ? current.getAttribute('href') : '';"
+                       "if (shown === anchors[at].getAttribute('href')) { return visit(at + 1); }"
+                       "if (rounds > 0) { return setTimeout(wait, 20, at, rounds - 1); }"
+                       "bad.push(anchors[at].textContent); visit(at + 1); }"));
         QVERIFY(noted(page, "links").toInt() > 3);
         QCOMPARE(noted(page, "left"), QString("0"));
         QCOMPARE(noted(page, "bad"), QString("."));

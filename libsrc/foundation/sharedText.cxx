@@ -17,8 +17,8 @@ DtRecentTexts& recentTexts()
 // Texts of one list tend to differ in length and at their ends.
 std::size_t placeOf(const std::string& text)
 {
-    const auto byte = [&text](std::size_t index) { return static_cast<unsigned char>(text[index]); };
-    return (text.size() * 31 + byte(0) * 7u + byte(text.size() / 2) * 5u + byte(text.size() - 1)) % theCountOfRecent;
+    const auto byte = [&text](std::size_t index) -> std::size_t { return static_cast<unsigned char>(text[index]); };
+    return (text.size() * 31 + byte(0) * 7 + byte(text.size() / 2) * 5 + byte(text.size() - 1)) % theCountOfRecent;
 }
 } // namespace
 

@@ -71,10 +71,12 @@ void addNoteLabels(const xmlNode* node, DtString& labels)
 }
 } // namespace
 
-DtString DtXMLModelReader::noteLabelsOf(const xmlNode* node)
+DtString DtXMLModelReader::noteLabelsOf(const xmlNode* node) const
 {
     DtString labels;
     addNoteLabels(node, labels);
+    if (myFormat.form == DtXml1516Form) // no element in it holds a value of its own
+        return labels;
     for (const xmlNode* child = node->children; child != nullptr; child = child->next)
     {
         if (child->type == XML_ELEMENT_NODE && xmlFirstElementChild(const_cast<xmlNode*>(child)) == nullptr)

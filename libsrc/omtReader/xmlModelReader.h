@@ -190,9 +190,9 @@ private:
     static const DtString& nameOf(const DtOMTNode& node) { return node.getName(); }
     static const DtString& nameOf(const DtEnumerationNode& node) { return node.getEnum(); }
     // Of an element and of those in it that hold values.
-    static DtString noteLabelsOf(const xmlNode* node);
-    static void setNoteLabels(const xmlNode* node, DtOMTNode& item) { item.setNoteLabels(noteLabelsOf(node)); }
-    static void setNoteLabels(const xmlNode* node, DtEnumerationNode& item) { item.setNoteLabels(noteLabelsOf(node)); }
+    DtString noteLabelsOf(const xmlNode* node) const;
+    void setNoteLabels(const xmlNode* node, DtOMTNode& item) const { item.setNoteLabels(noteLabelsOf(node)); }
+    void setNoteLabels(const xmlNode* node, DtEnumerationNode& item) const { item.setNoteLabels(noteLabelsOf(node)); }
     static void setNoteLabels(const xmlNode* /*node*/, DtNoteNode& /*item*/) {}
     static bool hasName(const Values& values);
     static void warnOfMissing(const xmlNode* node, const char* element, const char* what);

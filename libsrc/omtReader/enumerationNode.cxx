@@ -49,12 +49,16 @@ DtString DtEnumerationNode::numberText() const
 }
 
 // Nearly all models state each value as the digits of the number.
-bool DtEnumerationNode::isNumberTheValue() const
+void DtEnumerationNode::setValueText(const DtString& text)
 {
     char digits[16];
     const char* const end = std::to_chars(std::begin(digits), std::end(digits), myNumber).ptr;
-    if (std::string_view(digits, static_cast<std::size_t>(end - digits)) == myValueText.get().stdString())
-        return true;
-    return trimmed(myValueText.get().stdString()).empty() ||
-           DtString(integerOf(myValueText.get())) == DtString(myNumber);
+    const bool isNumber = std::string_view(digits, static_cast<std::size_t>(end - digits)) == text.stdString();
+    myValueText = isNumber ? DtSharedText() : DtSharedText(text);
+}
+
+bool DtEnumerationNode::isNumberTheValue() const
+{
+    const DtString& text = myValueText.get();
+    return trimmed(text.stdString()).empty() || DtString(integerOf(text)) == DtString(myNumber);
 }

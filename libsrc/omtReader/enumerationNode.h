@@ -19,9 +19,8 @@ public:
     virtual void setNumber(int number) { myNumber = number; }
     virtual int getNumber() const { return myNumber; }
 
-    // As the model states it; empty where it states none.
-    void setValueText(const DtString& text) { myValueText = DtSharedText::recent(text); }
-    const DtString& valueText() const { return myValueText.get(); }
+    // The value as the model states it. Kept only where it is other than the digits of the number, which is set first.
+    void setValueText(const DtString& text);
     // As those of a DtOMTNode.
     void setNoteLabels(const DtString& labels) { myNoteLabels = labels; }
     const DtString& noteLabels() const { return myNoteLabels.get(); }
@@ -33,7 +32,7 @@ public:
 private:
     DtString myEnum;
     int myNumber = 0;
-    DtSharedText myValueText;
+    DtSharedText myValueText; // empty where the number tells it all
     DtSharedText myNoteLabels;
 };
 

@@ -247,6 +247,8 @@ private Q_SLOTS:
                                                   << "3" << true;
         QTest::newRow("another") << "4"
                                  << "4" << false;
+        QTest::newRow("its first digits") << "31"
+                                          << "31" << false;
         QTest::newRow("negative zero") << "-00"
                                        << "0" << false;
         QTest::newRow("beyond 32 bits") << "99999999999"

@@ -67,7 +67,7 @@ public:
         std::vector<DtVariantAlternativeStruct> alternatives; // in the order of the model
     };
     using DtStringMap = std::map<DtString, DtString>;
-    using DtNumberMap = std::map<DtString, unsigned int>;
+    using DtNumberMap = std::unordered_map<DtString, unsigned int>;
     using DtBasicTypeInfo = std::pair<DtString, DtString>; // size in bits and endian, as the model has them
 
     static DtDataTypeMapper* instance();

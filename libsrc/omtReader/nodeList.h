@@ -4,6 +4,7 @@
 #include "omtReader/nodeIndex.h"
 
 #include <list>
+#include <utility>
 
 // A list that owns its nodes and finds the first node of a key quickly. Copied deep.
 template <typename Node, typename KeyOf = DtNameOfNode>
@@ -50,6 +51,13 @@ public:
         for (const Node* node : other.myNodes)
             if (find(KeyOf()(*node)) == nullptr)
                 add(new Node(*node));
+    }
+    // Adds those nodes themselves. The others stay where they are.
+    void takeNew(DtNodeList& other)
+    {
+        other.myIndex = {};
+        for (Node* node : std::exchange(other.myNodes, {}))
+            (find(KeyOf()(*node)) == nullptr ? *this : other).add(node);
     }
 
 private:

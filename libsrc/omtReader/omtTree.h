@@ -335,6 +335,8 @@ public:
     virtual void mergeInteractions(const DtOMTTree* other);
     virtual DtInteractionClassFedNode* mergeInteractionNode(const DtInteractionClassFedNode* node);
     virtual void mergeDatatypes(const DtOMTTree* other);
+    // Ahead of a merge with a tree that goes away behind it: takes the datatypes over that would be copied.
+    void takeDatatypes(DtOMTTree& other);
     virtual void mergeNotes(const DtOMTTree* other);
     virtual void mergeSyncPoints(const DtOMTTree* other);
     virtual void mergeTransportations(const DtOMTTree* other);
@@ -355,6 +357,9 @@ private:
     {
         int operator()(const DtNoteNode& node) const { return node.getNumber(); }
     };
+    template <typename Other, typename Combine>
+    void combineDatatypes(Other& other, Combine combine);
+
     struct Identification
     {
         DtString name;

@@ -155,16 +155,28 @@ DtInteractionClassFedNode* DtOMTTree::mergeInteractionNode(const DtInteractionCl
     return DtClassMerger<DtInteractionKind>(*this).merge(*node);
 }
 
+// Calls combine(list, list of other) for each kind of datatypes.
+template <typename Other, typename Combine>
+void DtOMTTree::combineDatatypes(Other& other, Combine combine)
+{
+    combine(myBasicDataRepresentations, other.myBasicDataRepresentations);
+    combine(myVariantDatatypes, other.myVariantDatatypes);
+    combine(myFixedDatatypes, other.myFixedDatatypes);
+    combine(mySimpleDatatypes, other.mySimpleDatatypes);
+    combine(myReferenceDatatypes, other.myReferenceDatatypes);
+    combine(myComplexDatatypes, other.myComplexDatatypes);
+    combine(myArrayDatatypes, other.myArrayDatatypes);
+    combine(myEnumeratedDatatypes, other.myEnumeratedDatatypes);
+}
+
 void DtOMTTree::mergeDatatypes(const DtOMTTree* other)
 {
-    myBasicDataRepresentations.merge(other->myBasicDataRepresentations);
-    myVariantDatatypes.merge(other->myVariantDatatypes);
-    myFixedDatatypes.merge(other->myFixedDatatypes);
-    mySimpleDatatypes.merge(other->mySimpleDatatypes);
-    myReferenceDatatypes.merge(other->myReferenceDatatypes);
-    myComplexDatatypes.merge(other->myComplexDatatypes);
-    myArrayDatatypes.merge(other->myArrayDatatypes);
-    myEnumeratedDatatypes.merge(other->myEnumeratedDatatypes);
+    combineDatatypes(*other, [](auto& own, const auto& others) { own.merge(others); });
+}
+
+void DtOMTTree::takeDatatypes(DtOMTTree& other)
+{
+    combineDatatypes(other, [](auto& own, auto& others) { own.takeNew(others); });
 }
 
 void DtOMTTree::mergeNotes(const DtOMTTree* other)

@@ -193,6 +193,7 @@ bool DtXMLFileReader::mergeDocument(DtOMTTree& tree, DtXmlModel document, DtFomT
         if (myIsFirstModule)
             tree.takeIdentification(*module);
         myIsFirstModule = false;
+        tree.takeDatatypes(*module); // enumerations may have thousands of values
         tree.merge(module.get());
         myModules.push_back(std::move(module));
         return true;

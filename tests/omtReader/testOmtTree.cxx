@@ -276,6 +276,27 @@ private Q_SLOTS:
         QVERIFY(tree.getTagNode("b") != other.getTagNode("b"));
     }
 
+    void takenDatatypesStandAsMergedOnes()
+    {
+        DtOMTTree tree, other;
+        fill(tree, "a", "1");
+        for (const char* name : {"a", "b", "c"})
+            fill(other, name, "2");
+        fill(other, "b", "3");
+        const DtFixedDatatypeNode* const taken = other.getFixedDatatypeNode("b");
+        tree.takeDatatypes(other);
+        QCOMPARE(tree.getFixedDatatypeNode("b"), const_cast<DtFixedDatatypeNode*>(taken));
+        QCOMPARE(tree.getTagNode("b"), nullptr);
+        const QStringList left = listsOf(other);
+        for (int list = 0; list < left.size(); ++list)
+            QCOMPARE(left[list], QString(list < 7 ? "a2 b3 " : "a2 b2 c2 b3 "));
+        QCOMPARE(toQt(other.getFixedDatatypeNode("b")->getNote()), QString("3"));
+        QCOMPARE(other.getFixedDatatypeNode("c"), nullptr);
+        tree.merge(&other);
+        for (const QString& list : listsOf(tree))
+            QCOMPARE(list, QString("a1 b2 c2 "));
+    }
+
     void notesMergeByLabel()
     {
         DtOMTTree tree, other;

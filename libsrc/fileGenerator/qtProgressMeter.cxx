@@ -46,6 +46,8 @@ void DtQtProgressMeter::setTotalMeasure(int total)
     makeDialog();
     myDialog->show();
     QApplication::processEvents();
+    if (!myLabel.isNull())
+        myLabel->setFixedSize(myLabel->size()); // else each of its texts has the dialog laid out again
     suspendPainting();
 }
 

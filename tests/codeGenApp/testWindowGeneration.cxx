@@ -11,31 +11,6 @@
 #include "scratchProgram.h"
 #include "smallModels.h"
 
-namespace
-{
-// Presses Cancel in the progress dialog as soon as its label names a file with this text.
-class DtCancelAt : public QObject
-{
-public:
-    explicit DtCancelAt(const QString& text) : myText(text) { qApp->installEventFilter(this); }
-    bool eventFilter(QObject* object, QEvent*) override
-    {
-        auto* const dialog = qobject_cast<QProgressDialog*>(object);
-        if (dialog == nullptr || myIsDone || !dialog->labelText().contains(myText))
-            return false;
-        myIsDone = true;
-        for (QPushButton* button : dialog->findChildren<QPushButton*>())
-            button->click();
-        return false;
-    }
-    bool isDone() const { return myIsDone; }
-
-private:
-    QString myText;
-    bool myIsDone = false;
-};
-} // namespace
-
 class TestWindowGeneration : public QObject
 {
     Q_OBJECT

@@ -140,8 +140,8 @@ void DtQtProgressMeter::makeDialog()
     myCharacterWidths.fill(0);
     myLineWidth = theWidth - myDialog->style()->pixelMetric(QStyle::PM_LayoutLeftMargin) -
                   myDialog->style()->pixelMetric(QStyle::PM_LayoutRightMargin);
-    const int twoLines = 2 * myLabel->fontMetrics().lineSpacing(); // most names need one of their own
-    myDialog->setFixedHeight(myDialog->sizeHint().height() - myLabel->sizeHint().height() + twoLines);
+    const int lines = 3 * myLabel->fontMetrics().lineSpacing(); // as the files of examples need
+    myDialog->setFixedHeight(myDialog->sizeHint().height() - myLabel->sizeHint().height() + lines);
     myDialog->setWindowTitle(theTitle);
 }
 

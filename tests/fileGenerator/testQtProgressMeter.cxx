@@ -72,7 +72,7 @@ private Q_SLOTS:
 
     void operationsWithoutDialogThrow();
     void dialogLooksAsItShould();
-    void longNameHasALineOfItsOwn();
+    void longNamesHaveRoomForTheirLines();
     void nameWiderThanALineLosesItsMiddle();
     void dialogStaysWhenTheTotalIsReached();
     void cancelledDialogTurnsNoEvents();
@@ -136,14 +136,19 @@ void TestQtProgressMeter::dialogLooksAsItShould()
     QCOMPARE(dialog->labelText(), QString("Generating files..."));
 }
 
-void TestQtProgressMeter::longNameHasALineOfItsOwn()
+void TestQtProgressMeter::longNamesHaveRoomForTheirLines()
 {
     myMeter.setTotalMeasure(7);
     const QSize size = shownDialog()->size();
+    const auto heightOfText = [this] { return shownLabel()->heightForWidth(shownLabel()->width()); };
+    const int line = shownLabel()->fontMetrics().lineSpacing();
     myMeter.setFileGenerated("radioTransmitterStateRepository.cxx");
     QCOMPARE(shownDialog()->size(), size);
-    QVERIFY(shownLabel()->heightForWidth(shownLabel()->width()) > shownLabel()->fontMetrics().lineSpacing());
-    QVERIFY(shownLabel()->height() >= shownLabel()->heightForWidth(shownLabel()->width()));
+    QVERIFY(heightOfText() > line);
+    QVERIFY(shownLabel()->height() >= heightOfText());
+    myMeter.setFileGenerated("Examples/ActionRequestRInter/ActionRequestRInteractionTalkVC14_64.vcxproj");
+    QVERIFY(heightOfText() > 2 * line);
+    QVERIFY(shownLabel()->height() >= heightOfText());
 }
 
 void TestQtProgressMeter::nameWiderThanALineLosesItsMiddle()

@@ -136,6 +136,9 @@ void DtQtProgressMeter::makeDialog()
     myLabel->setAlignment(Qt::AlignLeft | Qt::AlignVCenter);
     myLabel->setWordWrap(true);
     myDialog->setLabel(myLabel);
+    myBar = new QProgressBar(myDialog);
+    myBar->setRange(0, myTotalMeasure);
+    myDialog->setBar(myBar);
     myDialog->setFixedWidth(theWidth);
     myCharacterWidths.fill(0);
     myLineWidth = theWidth - myDialog->style()->pixelMetric(QStyle::PM_LayoutLeftMargin) -
@@ -149,7 +152,7 @@ void DtQtProgressMeter::showMeasure()
 {
     noteCancel();
     if (!myDialog->wasCanceled())
-        myDialog->setValue(myCurrentMeasure); // turns the event loop, too
+        myBar->setValue(myCurrentMeasure); // to set that of the dialog turns the event loop once more
     processEvents();
     noteCancel(); // also of a button pressed just now, so that no further file is begun
 }

@@ -8,6 +8,7 @@
 #include <QtCore/QPointer>
 #include <QtWidgets/QApplication>
 #include <QtWidgets/QLabel>
+#include <QtWidgets/QProgressBar>
 #include <QtWidgets/QProgressDialog>
 
 #include <array>
@@ -64,6 +65,7 @@ private:
     QPointer<QApplication> myApplication;
     QPointer<QWidget> myParent;
     QPointer<QLabel> myLabel;
+    QProgressBar* myBar = nullptr; // there when the dialog is
     DtString myLabelText;
     int myTotalMeasure = 0;
     int myCurrentMeasure = 0;

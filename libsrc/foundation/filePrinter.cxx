@@ -108,17 +108,30 @@ DtFilePrinter::DtFilePrinter(const char* name, Mode mode) : myName(name), myMode
 {
     if (myMode == Mode::Collect)
         collectingPrinters().emplace(viewOf(myName), this);
-    myDescriptor = openForWriting(myName, mode == Mode::WriteThrough ? O_TRUNC | O_APPEND : 0);
+    if (myMode == Mode::Collect)
+        openFile();
+    else
+        myDescriptor = openForWriting(myName, O_TRUNC | O_APPEND);
     myIsUsable = myDescriptor >= 0;
     if (!myIsUsable)
         reportFailure("open");
-    if (myMode == Mode::WriteThrough || !myIsUsable)
-        return;
-    struct stat status = {};
-    myIsFresh = fstat(myDescriptor, &status) == 0 && status.st_size == 0;
-    ++theOpenFiles;
-    if (theOpenFiles > theMostOpenFiles)
+    if (myMode == Mode::Collect && myIsUsable && ++theOpenFiles > theMostOpenFiles)
         closeFile();
+}
+
+// Files tend to be new when the one before was, and a file that has just been made need not be asked for its size.
+void DtFilePrinter::openFile()
+{
+    static bool isNextOneNew = false;
+    myDescriptor = isNextOneNew ? openForWriting(myName, O_EXCL) : -1;
+    myIsFresh = myDescriptor >= 0;
+    if (!myIsFresh)
+    {
+        myDescriptor = openForWriting(myName, 0);
+        struct stat status = {};
+        myIsFresh = myDescriptor >= 0 && fstat(myDescriptor, &status) == 0 && status.st_size == 0;
+    }
+    isNextOneNew = myIsFresh;
 }
 
 DtFilePrinter::~DtFilePrinter()

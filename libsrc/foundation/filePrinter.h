@@ -51,6 +51,7 @@ private:
     bool holdsAllText() const;
     bool update(std::size_t oldSize);
     bool write();
+    void openFile();
     bool closeFile();
     void reportFailure(const char* what);
     void setPieceAside();

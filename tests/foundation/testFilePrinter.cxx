@@ -25,6 +25,8 @@ private Q_SLOTS:
     void logStartsEmpty();
     void missingParentDirectoriesAreMade();
     void unchangedFileKeepsItsTimeStamp();
+    void oldFileBehindANewOneIsCompared();
+    void linkToAMissingFileMakesIt();
     void changedFileOfTheSameLengthIsWritten();
     void shorterTextReplacesALongerOne();
     void oldContentStaysUntilDestruction();
@@ -153,6 +155,36 @@ void TestFilePrinter::unchangedFileKeepsItsTimeStamp()
     age("empty");
     writeWithPrinter("empty", "");
     QCOMPARE(timeOf("empty"), qint64(1000000));
+}
+
+void TestFilePrinter::oldFileBehindANewOneIsCompared()
+{
+    for (const char* name : {"same", "other", "silent"})
+    {
+        writeTextFile(name, "text");
+        age(name);
+    }
+    const qint64 longAgo = timeOf("same");
+    writeWithPrinter("new1", "text");
+    writeWithPrinter("same", "text");
+    QCOMPARE(timeOf("same"), longAgo);
+    writeWithPrinter("new2", "text");
+    writeWithPrinter("other", "words");
+    QCOMPARE(readTextFile("other"), QByteArray("words"));
+    writeWithPrinter("new3", "text");
+    writeWithPrinter("silent", "");
+    QCOMPARE(readTextFile("silent"), QByteArray());
+    for (const char* name : {"new1", "new2", "new3"})
+        QCOMPARE(readTextFile(name), QByteArray("text"));
+}
+
+void TestFilePrinter::linkToAMissingFileMakesIt()
+{
+    QVERIFY(QFile::link("target", "link"));
+    writeWithPrinter("new", "text");
+    writeWithPrinter("link", "words");
+    QCOMPARE(readTextFile("target"), QByteArray("words"));
+    QVERIFY(QFileInfo("link").isSymLink());
 }
 
 void TestFilePrinter::changedFileOfTheSameLengthIsWritten()

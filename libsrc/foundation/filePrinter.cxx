@@ -237,7 +237,8 @@ bool DtFilePrinter::holdsAllText() const
         });
 }
 
-// Leaves a file alone that holds the text already, so that its time stamp stays.
+// Leaves a file alone that holds the text already, so that its time stamp stays. One of the same size keeps its room on
+// the disk, as do project files, of which only identifiers change.
 bool DtFilePrinter::update(std::size_t oldSize)
 {
     std::size_t size = mySpilledText.size() + myText.size();
@@ -247,7 +248,7 @@ bool DtFilePrinter::update(std::size_t oldSize)
         return true;
     if (oldSize != 0 && replacementListener())
         replacementListener()(myName);
-    return (oldSize == 0 || ftruncate(myDescriptor, 0) == 0) &&
+    return (oldSize == 0 || oldSize == size || ftruncate(myDescriptor, 0) == 0) &&
            eachPiece([this](std::string_view piece) { return writeWhole(myDescriptor, piece.data(), piece.size()); });
 }
 

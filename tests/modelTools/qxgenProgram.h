@@ -125,8 +125,8 @@ private:
 // Waits until the condition holds; false when it does not within a minute.
 inline bool comesTrue(const std::function<bool()>& condition)
 {
-    for (int tries = 0; tries < 6000 && !condition(); ++tries)
-        std::this_thread::sleep_for(std::chrono::milliseconds(10));
+    for (int tries = 0; tries < 60000 && !condition(); ++tries)
+        std::this_thread::sleep_for(std::chrono::milliseconds(1));
     return condition();
 }
 

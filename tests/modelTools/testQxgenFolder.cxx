@@ -21,6 +21,15 @@ std::string otherModel()
     text.replace(text.find("Speed"), 5, "Pace");
     return text;
 }
+
+// Two models of which none of the classes is in the other, so that a run and its commit are long enough to be met.
+std::string fleet(const char* name)
+{
+    QByteArray classes;
+    for (int number = 0; number < 8; ++number)
+        classes += objectText(name + QByteArray::number(number), attributeText("Speed", "HLAfloat64BE"));
+    return moduleText(classes, interactionText("Horn", parameterText("Code"))).toStdString();
+}
 } // namespace
 
 class TestQxgenFolder : public QObject
@@ -38,8 +47,10 @@ private Q_SLOTS:
     // since the commit is a small part of that time.
     void killedRunLeavesWholeFilesAndTheNextOneCompletesThem()
     {
-        const DtContents versions[] = {outputOf(smallModel()), outputOf(otherModel())};
+        const std::string models[] = {fleet("Barge"), fleet("Ferry")};
+        const DtContents versions[] = {outputOf(models[0]), outputOf(models[1])};
         QVERIFY(differenceOf(versions[0], versions[1]) != "");
+        myFolder->write("models/small.xml", models[0]);
         QCOMPARE(generate({}).code, 0);
         const auto start = std::chrono::steady_clock::now();
         QCOMPARE(generate({"--verify"}).code, 0);
@@ -48,12 +59,12 @@ private Q_SLOTS:
         for (int kill = 0; kill < theKills; ++kill)
         {
             const int next = kill % 2 == 0 ? 1 : 0;
-            myFolder->write("models/small.xml", next == 1 ? otherModel() : smallModel());
+            myFolder->write("models/small.xml", models[next]);
             const pid_t program = myFolder->startGenerate({"models/small.xml", "-o", "out", "--stamp", "stamp"});
             if (kill < theKills / 2)
                 std::this_thread::sleep_for(length * kill / (theKills / 2));
             else
-                waitForJournal(program, kill);
+                waitForJournal(program, kill - theKills / 2);
             ::kill(program, SIGKILL);
             const int code = endOf(program);
             QVERIFY2(code == 0 || code == 128 + SIGKILL, myFolder->errorsSoFar().c_str());
@@ -231,7 +242,8 @@ private Q_SLOTS:
     void closedStreamIsNotTakenForAFile()
     {
         QFETCH(QByteArray, streams);
-        const DtContents expected = outputOf(smallModel());
+        const DtContents expected = outputOf(fleet("Barge"));
+        myFolder->write("models/small.xml", fleet("Barge"));
         const auto closeStreams = [&streams]
         {
             for (const char stream : streams)
@@ -442,7 +454,7 @@ private:
     }
 
     // Returns a little later than the journal appears, each time another while; or when the program has ended.
-    void waitForJournal(pid_t program, int kill) const
+    void waitForJournal(pid_t program, int round) const
     {
         const auto hasEnded = [program]
         {
@@ -450,8 +462,9 @@ private:
             return waitid(P_PID, program, &info, WEXITED | WNOHANG | WNOWAIT) != 0 || info.si_pid == program;
         };
         while (!std::filesystem::exists(myFolder->path("out/.qxgen-journal.json")) && !hasEnded())
-            std::this_thread::sleep_for(std::chrono::microseconds(20));
-        std::this_thread::sleep_for(std::chrono::microseconds(kill * 20));
+            std::this_thread::yield();
+        if (round > 0)
+            std::this_thread::sleep_for(std::chrono::microseconds(round * 20));
     }
 
     std::unique_ptr<DtProgramFolder> myFolder;

@@ -45,7 +45,7 @@ case ${1-} in
     --lint) lint ;;
     --full)
         "$top/.ci/setup" clang git lintian desktop-file-utils appstream debootstrap dpkg-dev file gzip scdoc \
-            xvfb openbox xdotool chromium
+            xvfb openbox xdotool chromium zsh fish
         cmake --preset clang
         cmake --build --preset clang
         # The optimizer makes other warnings, and other times, than the sanitizers.

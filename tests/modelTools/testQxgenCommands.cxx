@@ -93,6 +93,28 @@ std::string bashReplies(const std::string& words, const std::string& line)
                                "((${#COMPREPLY[@]} == 0)) || printf '%s\\n' \"${COMPREPLY[@]}\"\n";
     return runProgram("/bin/bash", {"--norc", "-c", script}, QX_SOURCE_DIR).output;
 }
+
+// What fish offers at the end of the line.
+const char theFishScript[] = "set -x PATH (dirname $argv[1]) $PATH; $argv[1] completion fish | source\n"
+                             "complete -C $argv[2]";
+// What the script for zsh hands over at the end of the line, in place of the functions of its line editor.
+const char theZshScript[] = "compdef() {}; compset() {}; _files() { print files }\n"
+                            "compadd() { print -rl -- ${(P)@[-1]} }\n"
+                            "program=$1 line=$2; eval \"$($program completion zsh)\"\n"
+                            "words=($program ${(s. .)${line#qxgen }}); [[ $line != *' ' ]] || words+=('')\n"
+                            "CURRENT=$#words; _qxgen";
+
+QStringList repliesOf(const QString& shell, const std::string& program, const std::string& line)
+{
+    Arguments arguments = {"-f", "-c", theZshScript, "zsh"};
+    if (shell == "fish")
+        arguments = {"--no-config", "-c", theFishScript};
+    arguments.insert(arguments.end(), {QX_QXGEN, line});
+    const std::string output = runProgram(program, arguments, QX_SOURCE_DIR).output;
+    QStringList replies = QString::fromStdString(output).split('\n', Qt::SkipEmptyParts);
+    replies.sort();
+    return replies;
+}
 } // namespace
 
 class TestQxgenCommands : public QObject
@@ -467,6 +489,34 @@ private Q_SLOTS:
         QFETCH(QByteArray, line);
         QFETCH(QByteArray, replies);
         QCOMPARE(QByteArray::fromStdString(bashReplies(words.toStdString(), line.toStdString())), replies);
+    }
+
+    void otherShellsCompleteWords_data()
+    {
+        QTest::addColumn<QString>("shell");
+        QTest::addColumn<QString>("line");
+        QTest::addColumn<QString>("replies");
+        for (const char* shell : {"zsh", "fish"})
+        {
+            const auto add = [shell](const char* line, const char* replies)
+            { QTest::addRow("%s: %s", shell, line) << shell << line << replies; };
+            add("qxgen ", "completion generate lint-templates list window");
+            add("qxgen gen", "generate");
+            add("qxgen generate --layout ", "classic tree");
+            add("qxgen generate --layout=c", "--layout=classic");
+            add("qxgen generate --set generateD", "generateDIS=");
+            add("qxgen list data/samples/sample.xml --select Wea", "Weather");
+            add("qxgen list data/sampl", shell == QByteArray("fish") ? "data/samples/" : "files");
+        }
+    }
+    void otherShellsCompleteWords()
+    {
+        QFETCH(QString, shell);
+        QFETCH(QString, line);
+        const QString program = QStandardPaths::findExecutable(shell);
+        if (program.isEmpty())
+            QSKIP("the shell is not installed");
+        QTEST(repliesOf(shell, program.toStdString(), line.toStdString()).join(' '), "replies");
     }
 
     void repeatedOptionOfGenerateTakesOneValueEachTime()

@@ -12,6 +12,7 @@
 #include <QtCore/QJsonObject>
 
 #include <sys/stat.h>
+#include <unistd.h>
 
 class TestQxgenGenerate : public QObject
 {
@@ -629,6 +630,25 @@ private Q_SLOTS:
         COMPARE_TEXT(end.err.substr(0, expected.size()), expected.c_str());
         QVERIFY2(end.err.find('\n') == end.err.size() - 1, end.err.c_str());
         COMPARE_TEXT(differenceOf(before, treeOf(myFolder->path("models"))), "");
+    }
+
+    // Root may read everything, so the run is one of another user then.
+    void modelWithoutPermissionIsTold()
+    {
+        using std::filesystem::perms;
+        const std::filesystem::path model = myFolder->path("models/small.xml");
+        permissions(myFolder->path(), perms(0755));
+        permissions(model, perms::none);
+        const auto asAnother = []
+        {
+            constexpr uid_t theNobody = 65534;
+            if (geteuid() == 0 && setuid(theNobody) != 0)
+                _exit(126);
+        };
+        const std::string told =
+            "2\n--\nqxgen: error: the model cannot be read: " + model.native() + ": Permission denied.\n";
+        COMPARE_TEXT(textOf(myFolder->generate({"models/small.xml", "--list"}, asAnother)), told.c_str());
+        COMPARE_TEXT(textOf(myFolder->run({"list", "models/small.xml"}, asAnother)), told.c_str());
     }
 
     void brokenModelIsToldWithItsFault()

@@ -23,6 +23,7 @@ public:
     operator const DtString&() const { return get(); }
 
 private:
+    // An atomic counter: at -O3, g++ takes what a plain one does for a use behind the delete.
     struct DtBody : boost::intrusive_ref_counter<DtBody>
     {
         explicit DtBody(const DtString& content) : text(content) {}

@@ -140,7 +140,7 @@ void TestQtProgressMeter::longNamesHaveRoomForTheirLines()
 {
     myMeter.setTotalMeasure(7);
     const QSize size = shownDialog()->size();
-    const auto heightOfText = [this] { return shownLabel()->heightForWidth(shownLabel()->width()); };
+    const auto heightOfText = [] { return shownLabel()->heightForWidth(shownLabel()->width()); };
     const int line = shownLabel()->fontMetrics().lineSpacing();
     myMeter.setFileGenerated("radioTransmitterStateRepository.cxx");
     QCOMPARE(shownDialog()->size(), size);
